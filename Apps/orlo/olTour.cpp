@@ -1,0 +1,87 @@
+#include "olTour.h"
+
+#include "olJournalPanel.h"
+#include "olMainWindow.h"
+
+#include "Preferences/olPreferencesDialog.h"
+#include "Widgets/QOLSlider.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr double changedFieldOfView = 60.0;
+
+/// Lets the windows draw themselves before they are looked at.
+void settle()
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 300)
+        QApplication::processEvents(QEventLoop::AllEvents, 50);
+}
+
+QOLSlider *sliderFor(const QWidget &window, const QString &key)
+{
+    const auto sliders = window.findChildren<QOLSlider *>();
+    for (QOLSlider *slider : sliders) {
+        if (slider->property("olSettingKeys").toStringList().contains(key))
+            return slider;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+int olTour::run(const QString &folder)
+{
+    QTextStream out(stdout);
+    m_folder = folder;
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "orlo: the folder %s cannot be created\n", qPrintable(folder));
+        return 1;
+    }
+
+    olPreferencesDialog &preferences = m_window.openPreferences(QStringLiteral("Camera"));
+    settle();
+    QOLSlider *slider = sliderFor(preferences, QStringLiteral("Camera fov"));
+    if (!slider) {
+        std::fprintf(stderr, "orlo: the camera has no page in this edition; nothing to show\n");
+        return 1;
+    }
+    bool saved = picture(m_window, QStringLiteral("before.png"));
+    slider->setValue(changedFieldOfView);
+    settle();
+    saved = picture(preferences, QStringLiteral("preferences.png")) && saved;
+
+    const int callsBefore = m_window.journal().calls().size();
+    if (!preferences.apply()) {
+        std::fprintf(stderr, "orlo: the change could not be applied\n");
+        return 1;
+    }
+    settle();
+    saved = picture(m_window, QStringLiteral("after.png")) && saved;
+    const QStringList calls = m_window.journal().calls().mid(callsBefore);
+    out << "Applied: Field of View " << changedFieldOfView << '\n';
+    for (const QString &call : calls)
+        out << "  " << call << '\n';
+    return saved && !calls.isEmpty() ? 0 : 1;
+}
+
+bool olTour::picture(QWidget &widget, const QString &name) const
+{
+    const QString file = QDir(m_folder).absoluteFilePath(name);
+    if (!widget.grab().save(file)) {
+        std::fprintf(stderr, "orlo: the picture %s cannot be written\n", qPrintable(file));
+        return false;
+    }
+    QTextStream(stdout) << "Picture: " << file << '\n';
+    return true;
+}

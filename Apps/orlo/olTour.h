@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+class olMainWindow;
+
+/// Shows without a person at the screen that a change in the preferences reaches the host.
+class olTour
+{
+public:
+    explicit olTour(olMainWindow &window) : m_window(window) {}
+
+    /// Opens the preferences, applies a change and leaves pictures in the folder. Says on standard output what it did;
+    /// returns the exit status of the program.
+    [[nodiscard]] int run(const QString &folder);
+
+private:
+    [[nodiscard]] bool picture(QWidget &widget, const QString &name) const;
+
+    olMainWindow &m_window;
+    QString m_folder;
+};

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "Utilities/olExport.h"
+
+#include <boost/any.hpp>
+
+#include <utility>
+#include <vector>
+
+class olHostValues;
+
+/// One value of the host's state, under a name and whatever its type.
+class ORLO_SDK_EXPORT olHostValueBase
+{
+public:
+    /// Where a value comes from: the host's calls alone, or also from outside, as a fact that the host is asked for.
+    enum class Origin { Calls, Fact };
+
+    olHostValueBase(olHostValues &owner, const char *name, Origin origin);
+    virtual ~olHostValueBase();
+    olHostValueBase(const olHostValueBase &) = delete;
+    olHostValueBase &operator=(const olHostValueBase &) = delete;
+
+    [[nodiscard]] const char *name() const { return m_name; }
+    [[nodiscard]] bool isFact() const { return m_origin == Origin::Fact; }
+
+    [[nodiscard]] virtual boost::any any() const = 0;
+
+    /// Takes a value of exactly its own type; false for any other.
+    virtual bool setAny(const boost::any &value) = 0;
+
+    virtual void reset() = 0;
+
+protected:
+    void changed();
+
+private:
+    olHostValues &m_owner;
+    const char *m_name;
+    Origin m_origin;
+};
+
+/// Told whenever a value of the host's state is set.
+class ORLO_SDK_EXPORT olHostObserver
+{
+public:
+    virtual ~olHostObserver();
+    virtual void stateChanged(const olHostValueBase &value) = 0;
+};
+
+/// A group of values that knows its members in the order of their declaration.
+class ORLO_SDK_EXPORT olHostValues
+{
+public:
+    [[nodiscard]] const std::vector<olHostValueBase *> &values() const { return m_values; }
+
+    /// Null where no value bears the name.
+    [[nodiscard]] olHostValueBase *find(const char *name) const;
+
+    /// Back to what every value was at first.
+    void reset();
+
+    /// The observer is not owned and must be removed before it goes.
+    void addObserver(olHostObserver &observer);
+    void removeObserver(olHostObserver &observer);
+
+private:
+    friend class olHostValueBase;
+    std::vector<olHostValueBase *> m_values;
+    std::vector<olHostObserver *> m_observers;
+};
+
+/// A value of the host's state: reads like a plain variable, and tells its observers when it is set.
+template <class T> class olHostValue : public olHostValueBase
+{
+public:
+    olHostValue(olHostValues &owner, const char *name, T initial, Origin origin = Origin::Calls)
+        : olHostValueBase(owner, name, origin), m_initial(std::move(initial)), m_value(m_initial)
+    {
+    }
+
+    operator const T &() const { return m_value; } // NOLINT(google-explicit-constructor): reads like a variable
+    [[nodiscard]] const T &get() const { return m_value; }
+
+    olHostValue &operator=(const T &value)
+    {
+        m_value = value;
+        changed();
+        return *this;
+    }
+
+    [[nodiscard]] boost::any any() const override { return m_value; }
+    bool setAny(const boost::any &value) override
+    {
+        const T *typed = boost::any_cast<T>(&value);
+        if (typed)
+            *this = *typed;
+        return typed != nullptr;
+    }
+    void reset() override { *this = m_initial; }
+
+private:
+    T m_initial;
+    T m_value;
+};

@@ -1,0 +1,308 @@
+#include "Embedded/olValue.h"
+
+#include <OpenSG/OSGColor.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonValue>
+#include <QString>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <optional>
+
+namespace
+{
+
+using Color = osg::Color3f;
+
+template <class Number> std::string shortest(Number value)
+{
+    if (std::isnan(value))
+        return "nan";
+    if (std::isinf(value))
+        return value < 0 ? "-inf" : "inf";
+
+    char buffer[64];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::scientific).ptr;
+    const std::string scientific(buffer, end);
+    const std::string sign = std::signbit(value) ? "-" : "";
+    const auto mark = scientific.find('e');
+    const int exponent = std::stoi(scientific.substr(mark + 1));
+    if (exponent < -4 || exponent >= 16)
+        return sign + scientific;
+
+    std::string digits = scientific.substr(0, mark);
+    digits.erase(std::remove(digits.begin(), digits.end(), '.'), digits.end());
+    if (exponent < 0)
+        return sign + "0." + std::string(std::size_t(-exponent - 1), '0') + digits;
+    const std::size_t whole = std::size_t(exponent) + 1;
+    if (digits.size() <= whole)
+        return sign + digits + std::string(whole - digits.size(), '0');
+    return sign + digits.substr(0, whole) + '.' + digits.substr(whole);
+}
+
+template <class Number> std::string jsonNumber(Number value)
+{
+    const std::string text = shortest(value);
+    return std::isfinite(value) ? text : '"' + text + '"';
+}
+
+std::string json(bool value) { return value ? "true" : "false"; }
+std::string json(int value) { return std::to_string(value); }
+std::string json(unsigned value) { return std::to_string(value); }
+std::string json(float value) { return jsonNumber(value); }
+std::string json(double value) { return jsonNumber(value); }
+std::string json(const std::string &value) { return olValue::quoted(value); }
+std::string json(const QString &value) { return olValue::quoted(value.toStdString()); }
+std::string json(const Color &value)
+{
+    return '[' + json(value.red()) + ", " + json(value.green()) + ", " + json(value.blue()) + ']';
+}
+template <class Element> std::string json(const std::vector<Element> &list)
+{
+    std::string text = "[";
+    for (const Element &element : list)
+        text += (text.size() > 1 ? ", " : "") + json(element);
+    return text + ']';
+}
+
+template <class Number> std::optional<Number> whole(const QJsonValue &json)
+{
+    const double value = json.toDouble(0.5);
+    if (!json.isDouble() || value != std::floor(value) || value < double(std::numeric_limits<Number>::min()) ||
+        value > double(std::numeric_limits<Number>::max()))
+        return std::nullopt;
+    return Number(value);
+}
+
+template <class Number> std::optional<Number> fraction(const QJsonValue &json)
+{
+    using Limits = std::numeric_limits<Number>;
+    if (json.isString()) {
+        const QString text = json.toString();
+        if (text == QLatin1String("nan"))
+            return Limits::quiet_NaN();
+        if (text == QLatin1String("inf"))
+            return Limits::infinity();
+        if (text == QLatin1String("-inf"))
+            return -Limits::infinity();
+    }
+    if (!json.isDouble() || std::fabs(json.toDouble()) > double(Limits::max()))
+        return std::nullopt;
+    return Number(json.toDouble());
+}
+
+template <class T> std::optional<T> parse(const QJsonValue &json);
+
+template <class Element> std::optional<std::vector<Element>> parseList(const QJsonValue &json)
+{
+    if (!json.isArray())
+        return std::nullopt;
+    std::vector<Element> list;
+    const QJsonArray array = json.toArray();
+    for (const QJsonValue &item : array) {
+        const auto element = parse<Element>(item);
+        if (!element)
+            return std::nullopt;
+        list.push_back(*element);
+    }
+    return list;
+}
+
+template <> std::optional<bool> parse(const QJsonValue &json)
+{
+    return json.isBool() ? std::optional<bool>(json.toBool()) : std::nullopt;
+}
+template <> std::optional<int> parse(const QJsonValue &json) { return whole<int>(json); }
+template <> std::optional<unsigned> parse(const QJsonValue &json) { return whole<unsigned>(json); }
+template <> std::optional<float> parse(const QJsonValue &json) { return fraction<float>(json); }
+template <> std::optional<double> parse(const QJsonValue &json) { return fraction<double>(json); }
+template <> std::optional<QString> parse(const QJsonValue &json)
+{
+    return json.isString() ? std::optional<QString>(json.toString()) : std::nullopt;
+}
+template <> std::optional<std::string> parse(const QJsonValue &json)
+{
+    return json.isString() ? std::optional<std::string>(json.toString().toStdString()) : std::nullopt;
+}
+template <> std::optional<std::vector<std::string>> parse(const QJsonValue &json)
+{
+    return parseList<std::string>(json);
+}
+template <> std::optional<std::vector<float>> parse(const QJsonValue &json) { return parseList<float>(json); }
+template <> std::optional<Color> parse(const QJsonValue &json)
+{
+    const auto channels = parseList<float>(json);
+    if (!channels || channels->size() != 3)
+        return std::nullopt;
+    return Color((*channels)[0], (*channels)[1], (*channels)[2]);
+}
+template <> std::optional<std::vector<Color>> parse(const QJsonValue &json) { return parseList<Color>(json); }
+
+template <class T> bool same(const T &left, const T &right) { return left == right; }
+bool same(const Color &left, const Color &right)
+{
+    return left.red() == right.red() && left.green() == right.green() && left.blue() == right.blue();
+}
+bool same(const std::vector<Color> &left, const std::vector<Color> &right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const Color &a, const Color &b) { return same(a, b); });
+}
+
+/// What can be done with a value of one type.
+struct Type {
+    const char *name;
+    const char *expectation;
+    bool (*holds)(const boost::any &);
+    std::string (*toJson)(const boost::any &);
+    boost::any (*fromJson)(const QJsonValue &);
+    bool (*equal)(const boost::any &, const boost::any &);
+    boost::any (*adopted)(const boost::any &);
+};
+
+template <class T> Type type(const char *name, const char *expectation)
+{
+    return {name, expectation, [](const boost::any &value) { return boost::any_cast<T>(&value) != nullptr; },
+            [](const boost::any &value) { return json(boost::any_cast<const T &>(value)); },
+            [](const QJsonValue &json) {
+                const auto value = parse<T>(json);
+                return value ? boost::any(*value) : boost::any();
+            },
+            [](const boost::any &left, const boost::any &right) {
+                return same(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
+            },
+            // A copy of the holder would keep the virtual table of the library that made it.
+            [](const boost::any &value) { return boost::any(T(boost::any_cast<const T &>(value))); }};
+}
+
+const std::vector<Type> &types()
+{
+    static const std::vector<Type> all{
+        type<bool>("bool", "true or false"),
+        type<int>("int", "a whole number from -2147483648 to 2147483647"),
+        type<unsigned>("uint", "a whole number from 0 to 4294967295"),
+        type<float>("float", "a number"),
+        type<double>("double", "a number"),
+        type<QString>("qstring", "a text in double quotes"),
+        type<std::string>("string", "a text in double quotes"),
+        type<std::vector<std::string>>("strings", "a list of texts, as [\"a\", \"b\"]"),
+        type<std::vector<float>>("floats", "a list of numbers, as [1, 0.5]"),
+        type<Color>("color", "three numbers, as [1, 0.5, 0]"),
+        type<std::vector<Color>>("colors", "a list of colours, as [[0, 0, 0], [1, 1, 1]]"),
+    };
+    return all;
+}
+
+const Type *typeOf(const boost::any &value)
+{
+    for (const Type &type : types()) {
+        if (type.holds(value))
+            return &type;
+    }
+    return nullptr;
+}
+
+const Type *typeNamed(const std::string &name)
+{
+    for (const Type &type : types()) {
+        if (name == type.name)
+            return &type;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+namespace olValue
+{
+
+std::string typeName(const boost::any &value)
+{
+    const Type *type = typeOf(value);
+    return type ? type->name : "";
+}
+
+bool isTypeName(const std::string &type) { return typeNamed(type) != nullptr; }
+
+std::string expectation(const std::string &name)
+{
+    const Type *type = typeNamed(name);
+    return type ? type->expectation : "";
+}
+
+std::string toJson(const boost::any &value)
+{
+    const Type *type = typeOf(value);
+    return type ? type->toJson(value) : "null";
+}
+
+boost::any fromJson(const std::string &name, const QJsonValue &json)
+{
+    const Type *type = typeNamed(name);
+    return type ? type->fromJson(json) : boost::any();
+}
+
+boost::any fromJson(const std::string &type, const QByteArray &text)
+{
+    // The parser takes only whole documents; in a list any value is one.
+    const QJsonArray wrapped = QJsonDocument::fromJson('[' + text + ']').array();
+    return wrapped.size() == 1 ? fromJson(type, wrapped.first()) : boost::any();
+}
+
+bool equal(const boost::any &left, const boost::any &right)
+{
+    if (left.empty() || right.empty())
+        return left.empty() && right.empty();
+    const Type *type = typeOf(left);
+    return type && type->holds(right) && type->equal(left, right);
+}
+
+boost::any adopted(const boost::any &value)
+{
+    const Type *type = typeOf(value);
+    return type ? type->adopted(value) : boost::any();
+}
+
+std::string number(float value) { return shortest(value); }
+
+std::string number(double value) { return shortest(value); }
+
+std::string quoted(const std::string &text)
+{
+    std::string out = "\"";
+    for (const char character : text) {
+        switch (character) {
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        case '\r':
+            out += "\\r";
+            break;
+        case '\t':
+            out += "\\t";
+            break;
+        default:
+            if (static_cast<unsigned char>(character) < 0x20) {
+                char escape[8];
+                std::snprintf(escape, sizeof escape, "\\u%04x", unsigned(character));
+                out += escape;
+            } else {
+                out += character;
+            }
+        }
+    }
+    return out + '"';
+}
+
+} // namespace olValue

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Utilities/olExport.h"
+
+#include <QByteArray>
+#include <boost/any.hpp>
+
+#include <string>
+#include <vector>
+
+class QJsonValue;
+
+/// The eleven types that settings may have, with their names, texts and comparison. The texts are exact: what is
+/// written reads back as the same value.
+namespace olValue
+{
+
+/// `bool int uint float double qstring string strings floats color colors`; empty for a value of any other type.
+ORLO_SDK_EXPORT std::string typeName(const boost::any &value);
+
+/// Whether a type of that name exists.
+ORLO_SDK_EXPORT bool isTypeName(const std::string &type);
+
+/// What a text for that type looks like, for messages ("a number", "true or false").
+ORLO_SDK_EXPORT std::string expectation(const std::string &type);
+
+/// JSON on one line, a blank after each comma. Numbers that JSON does not know stand as texts: "nan", "inf", "-inf".
+ORLO_SDK_EXPORT std::string toJson(const boost::any &value);
+
+/// A value of exactly that type; empty when the JSON does not fit it: nothing is converted or cut.
+ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QJsonValue &json);
+
+/// As above from JSON text; empty also where the text is no JSON.
+ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &text);
+
+/// Same type and same value, floats by `==`, colours channel by channel. An empty value equals only an empty one.
+ORLO_SDK_EXPORT bool equal(const boost::any &left, const boost::any &right);
+
+/// The same value held by this library's own code, so that it stays usable when the plug-in that made it is gone;
+/// empty for a type that settings do not have.
+ORLO_SDK_EXPORT boost::any adopted(const boost::any &value);
+
+/// The shortest plain decimals that read back the same; an exponent only below 1e-4 and from 1e16.
+ORLO_SDK_EXPORT std::string number(float value);
+ORLO_SDK_EXPORT std::string number(double value);
+
+/// In double quotes with JSON's escapes.
+ORLO_SDK_EXPORT std::string quoted(const std::string &text);
+
+} // namespace olValue

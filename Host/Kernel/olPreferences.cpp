@@ -1,0 +1,78 @@
+#include "Kernel/olPreferences.h"
+
+#include "Preferences/olPreferencesEntry.h"
+#include "Preferences/olPreferencesRegistry.h"
+
+#include <QObject>
+#include <boost/core/demangle.hpp>
+
+#include <set>
+#include <typeinfo>
+
+namespace
+{
+
+/// A module whose values live in the shared record.
+class RecordEntry : public olPreferencesEntry
+{
+public:
+    RecordEntry(olPreferences &module, QString name, QString category)
+        : olPreferencesEntry(std::move(name), std::move(category)), m_module(module)
+    {
+    }
+
+    [[nodiscard]] std::string className() const override { return boost::core::demangle(typeid(m_module).name()); }
+
+    void applyPreferences() override { m_module.applyPreferences(); }
+    void updateGUI() override { m_module.updateGUI(); }
+    void updateData() override { m_module.updateData(); }
+    void preferencesNewScene() override { m_module.preferencesNewScene(record()); }
+    void preferencesLoaded() override { m_module.preferencesLoaded(record()); }
+    void preferencesInitialApply() override { m_module.preferencesInitialApply(record()); }
+    void settle() override { unchanged.clear(); }
+
+    [[nodiscard]] olHome home() const override { return olHome::Record; }
+    [[nodiscard]] boost::any value(const std::string &key) const override { return record().get(key); }
+    void setValue(const std::string &key, const boost::any &value) override { record().set(key, value, true); }
+    void removeValue(const std::string &key) override { record().remove(key); }
+
+    std::set<std::string, std::less<>> unchanged;
+
+protected:
+    void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
+
+private:
+    static olMessage &record() { return olPreferencesRegistry::the().record(); }
+
+    olPreferences &m_module;
+};
+
+std::set<std::string, std::less<>> &unchangedOf(olPreferencesEntry &entry)
+{
+    return static_cast<RecordEntry &>(entry).unchanged;
+}
+
+} // namespace
+
+olPreferences::olPreferences(QString name, QString category)
+    : m_entry(std::make_unique<RecordEntry>(*this, std::move(name), std::move(category)))
+{
+}
+
+olPreferences::~olPreferences() = default;
+
+void olPreferences::preferencesNewScene(olMessage &) {}
+
+void olPreferences::preferencesLoaded(olMessage &) {}
+
+void olPreferences::preferencesInitialApply(olMessage &) { applyPreferences(); }
+
+void olPreferences::addPreferencesGUI(QWidget *page) { m_entry->addPage(page); }
+
+void olPreferences::subPreferencesGUI(QWidget *page) { m_entry->subPage(page); }
+
+void olPreferences::addUnchanged(const char *key) { unchangedOf(*m_entry).insert(key); }
+
+bool olPreferences::isChanged(const char *key) const { return unchangedOf(*m_entry).count(key) == 0; }
+
+olMessage &olPreferences::getData() { return olPreferencesRegistry::the().record(); }

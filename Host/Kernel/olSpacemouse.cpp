@@ -1,0 +1,16 @@
+#include "Kernel/olSpacemouse.h"
+
+#include "Embedded/olHostState.h"
+#include "Embedded/olJournal.h"
+
+void olSpacemouse::init()
+{
+    olJournal::call("olSpacemouse::init");
+    olHostState::the().spacemouseWanted = true;
+}
+
+void olSpacemouse::terminate()
+{
+    olJournal::call("olSpacemouse::terminate");
+    olHostState::the().spacemouseWanted = false;
+}

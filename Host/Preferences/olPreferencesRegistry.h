@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Utilities/olExport.h"
+#include "Utilities/olMessage.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class olPreferencesEntry;
+
+/// The host's index of all modules, in the order of their registration, and the record that they share.
+class ORLO_SDK_EXPORT olPreferencesRegistry : public QObject, private olMessageObserver
+{
+    Q_OBJECT
+
+public:
+    static olPreferencesRegistry &the();
+    ~olPreferencesRegistry() override;
+
+    [[nodiscard]] olMessage &record() { return m_record; }
+
+    [[nodiscard]] const std::vector<olPreferencesEntry *> &entries() const { return m_entries; }
+
+    /// Null where no module bears the display name.
+    [[nodiscard]] olPreferencesEntry *find(const QString &name) const;
+
+    /// The module that offered a default for the key; null where none did.
+    [[nodiscard]] olPreferencesEntry *ownerOf(const std::string &key) const;
+
+    /// Told the name of each module about to register. An exception from it leaves that module unregistered.
+    void setRegistrationHook(std::function<void(const QString &name)> hook) { m_hook = std::move(hook); }
+
+    /// Makes the record's values the host's own, and drops those of types that settings do not have. To be called when
+    /// the modules are gone and before the library that made the values goes too.
+    void adoptRecord();
+
+    /// While it lives, every default that is offered is remembered by the entry.
+    class ORLO_SDK_EXPORT Recording
+    {
+    public:
+        explicit Recording(olPreferencesEntry &entry);
+        ~Recording();
+        Recording(const Recording &) = delete;
+        Recording &operator=(const Recording &) = delete;
+    };
+
+    /// For the stores of values, which tell what they are offered.
+    void offered(const std::string &key, const boost::any &value) override;
+
+signals:
+    void pageAboutToGo(QWidget *page);
+    void changed();
+
+private:
+    friend class olPreferencesEntry;
+
+    olPreferencesRegistry();
+    void add(olPreferencesEntry &entry);
+    void remove(olPreferencesEntry &entry);
+    void pageAdded(olPreferencesEntry &entry);
+    void pageRemoved(olPreferencesEntry &entry);
+
+    olMessage m_record;
+    std::vector<olPreferencesEntry *> m_entries;
+    olPreferencesEntry *m_recording = nullptr;
+    std::function<void(const QString &name)> m_hook;
+};

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "Widgets/QOLColorManipulator.h"
+#include "Widgets/QOLSlider.h"
+#include "Widgets/QOLWheelPrec.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+
+#include <string>
+#include <type_traits>
+
+// How a value reaches a kind of control and comes back: one pair of functions for each kind. What is special about a
+// control is named where a module lists it, by one of the small wrappers.
+
+/// A combo box that stands for the data of its items. A value that no item has selects none; without a current item it
+/// stores 0.
+struct olByData {
+    QComboBox *widget;
+};
+inline olByData byData(QComboBox *combo) { return {combo}; }
+
+/// A check box over a number: checked when it is not 0, stored as 0 or 1.
+struct olZeroOrOne {
+    QCheckBox *widget;
+};
+inline olZeroOrOne zeroOrOne(QCheckBox *box) { return {box}; }
+
+/// The widget behind a control, wrapped or plain.
+template <class Control> QWidget *widgetOf(const Control &control)
+{
+    if constexpr (std::is_pointer_v<Control>)
+        return control;
+    else
+        return control.widget;
+}
+
+inline void showOn(QCheckBox *box, bool value) { box->setChecked(value); }
+inline void takeFrom(const QCheckBox *box, bool &value) { value = box->isChecked(); }
+
+inline void showOn(QGroupBox *box, bool value) { box->setChecked(value); }
+inline void takeFrom(const QGroupBox *box, bool &value) { value = box->isChecked(); }
+
+inline void showOn(QComboBox *combo, int index) { combo->setCurrentIndex(index); }
+inline void takeFrom(const QComboBox *combo, int &index) { index = combo->currentIndex(); }
+
+inline void showOn(const olByData &combo, int data) { combo.widget->setCurrentIndex(combo.widget->findData(data)); }
+inline void takeFrom(const olByData &combo, int &data) { data = combo.widget->currentData().toInt(); }
+
+template <class Number> void showOn(const olZeroOrOne &box, Number value) { box.widget->setChecked(value != 0); }
+template <class Number> void takeFrom(const olZeroOrOne &box, Number &value)
+{
+    value = box.widget->isChecked() ? 1 : 0;
+}
+
+inline void showOn(QSpinBox *box, int value) { box->setValue(value); }
+inline void takeFrom(const QSpinBox *box, int &value) { value = box->value(); }
+
+// Numbers in fields stand with six significant digits and are read in the C locale, whatever the user's.
+template <class Number> void showNumberOn(QLineEdit *field, Number value)
+{
+    field->setText(QString::number(double(value), 'g', 6));
+}
+inline void showOn(QLineEdit *field, float value) { showNumberOn(field, value); }
+inline void showOn(QLineEdit *field, double value) { showNumberOn(field, value); }
+inline void takeFrom(const QLineEdit *field, float &value) { value = field->text().toFloat(); }
+inline void takeFrom(const QLineEdit *field, double &value) { value = field->text().toDouble(); }
+
+inline void showOn(QLineEdit *field, const QString &text) { field->setText(text); }
+inline void takeFrom(const QLineEdit *field, QString &text) { text = field->text(); }
+
+inline void showOn(QLineEdit *field, const std::string &text) { field->setText(QString::fromStdString(text)); }
+inline void takeFrom(const QLineEdit *field, std::string &text) { text = field->text().toStdString(); }
+
+inline void showOn(QPlainTextEdit *editor, const std::string &text)
+{
+    editor->setPlainText(QString::fromStdString(text));
+}
+inline void takeFrom(const QPlainTextEdit *editor, std::string &text) { text = editor->toPlainText().toStdString(); }
+
+inline void showOn(QOLSlider *slider, double value) { slider->setValue(value); }
+template <class Number> void takeFrom(const QOLSlider *slider, Number &value) { value = Number(slider->value()); }
+
+inline void showOn(QOLWheelPrec *wheel, double value) { wheel->setValue(value); }
+template <class Number> void takeFrom(const QOLWheelPrec *wheel, Number &value) { value = Number(wheel->value()); }
+
+inline void showOn(QOLColorManipulator *colour, const osg::Color3f &value) { colour->setColor(value); }
+inline void takeFrom(const QOLColorManipulator *colour, osg::Color3f &value) { value = colour->getColor(); }

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "Framework/olControls.h"
+#include "Framework/olSetting.h"
+#include "Framework/olTypedAccess.h"
+#include "Framework/olVariant.h"
+
+#include <QVariant>
+
+#include <optional>
+
+/// A setting in a module's list, whatever its type and control.
+class olListedSetting
+{
+public:
+    explicit olListedSetting(const olSettingBase &setting) : m_setting(setting) {}
+    virtual ~olListedSetting() = default;
+    olListedSetting(const olListedSetting &) = delete;
+    olListedSetting &operator=(const olListedSetting &) = delete;
+
+    [[nodiscard]] const olSettingBase &setting() const { return m_setting; }
+    [[nodiscard]] const std::string &key() const { return m_setting.key(); }
+
+    virtual void writeDefault(olMessage &record, bool flag) const = 0;
+
+    /// The control; null for a setting without one. The rest is not to be called without one.
+    [[nodiscard]] virtual QWidget *widget() const { return nullptr; }
+
+    /// Record to control. What cannot be read leaves the control as it is, or shows the live value if there is one.
+    virtual void show(olMessage &) const {}
+
+    /// Control to record; false where the record held that value already.
+    virtual bool takeIfChanged(olMessage &) const { return true; }
+    virtual void take(olMessage &) const {}
+
+    /// The control alone.
+    [[nodiscard]] virtual QVariant value() const { return {}; }
+    virtual bool setValue(const QVariant &) const { return false; }
+
+private:
+    const olSettingBase &m_setting;
+};
+
+/// A setting that no control shows: defaulted and removed, never shown or taken.
+template <class T> class olUnshownSetting : public olListedSetting
+{
+public:
+    explicit olUnshownSetting(const olSetting<T> &setting) : olListedSetting(setting) {}
+
+    void writeDefault(olMessage &record, bool flag) const override
+    {
+        record.set(key(), boost::any(typed().defaultValue()), flag);
+    }
+
+protected:
+    [[nodiscard]] const olSetting<T> &typed() const { return static_cast<const olSetting<T> &>(setting()); }
+};
+
+/// The live value of a setting that has none.
+struct olNoLiveValue {
+};
+
+/// A setting paired with its control, and with the host's live value to show while the record has none.
+template <class T, class Control, class Live> class olPairing : public olUnshownSetting<T>
+{
+public:
+    olPairing(const olSetting<T> &setting, Control control, Live live)
+        : olUnshownSetting<T>(setting), m_control(control), m_live(live)
+    {
+    }
+
+    [[nodiscard]] QWidget *widget() const override { return widgetOf(m_control); }
+
+    void show(olMessage &record) const override
+    {
+        T value{};
+        if (getFromMessage(record, this->key(), value))
+            showOn(m_control, value);
+        else
+            showLive();
+    }
+    bool takeIfChanged(olMessage &record) const override { return setIfChanged(record, this->key(), taken(), true); }
+    void take(olMessage &record) const override { record.set(this->key(), boost::any(taken()), true); }
+
+    [[nodiscard]] QVariant value() const override { return toVariant(taken()); }
+    bool setValue(const QVariant &variant) const override
+    {
+        T value{};
+        if (!fromVariant(variant, value))
+            return false;
+        showOn(m_control, value);
+        return true;
+    }
+
+private:
+    [[nodiscard]] T taken() const
+    {
+        T value{};
+        takeFrom(m_control, value);
+        return value;
+    }
+
+    void showLive() const
+    {
+        if constexpr (!std::is_same_v<Live, olNoLiveValue>)
+            showOn(m_control, static_cast<T>(m_live()));
+    }
+
+    Control m_control;
+    Live m_live;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <type_traits>
+#include <utility>
+
+/// What a setting is apart from its type: the key that it lives under.
+class olSettingBase
+{
+public:
+    explicit olSettingBase(std::string key) : m_key(std::move(key)) {}
+
+    [[nodiscard]] const std::string &key() const { return m_key; }
+
+private:
+    std::string m_key;
+};
+
+/// One setting: its key, its type, which is the record's, and its default. A default that depends on the host is a
+/// function, asked each time the default is written.
+template <class T> class olSetting : public olSettingBase
+{
+public:
+    olSetting(std::string key, T value) : olSettingBase(std::move(key)), m_value(std::move(value)) {}
+    olSetting(std::string key, T (*ask)()) : olSettingBase(std::move(key)), m_ask(ask) {}
+
+    // A number of another type is a mistake: the record would hold what no reader of the key accepts.
+    template <class Other, class = std::enable_if_t<std::is_arithmetic_v<Other>>>
+    olSetting(std::string, Other) = delete;
+
+    [[nodiscard]] T defaultValue() const { return m_ask ? m_ask() : m_value; }
+
+private:
+    T m_value{};
+    T (*m_ask)() = nullptr;
+};

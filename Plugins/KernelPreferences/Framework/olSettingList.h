@@ -1,0 +1,78 @@
+#pragma once
+
+#include "Framework/olPairing.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QWidget;
+class olPreferences;
+
+/// The settings of one module paired with the controls of its page, in the order in which the module writes its
+/// defaults. The operations of a module are walks over this list; where one must keep another order, it names it.
+class olSettingList
+{
+public:
+    /// Settings in another order than the list's, or some of them.
+    using Order = std::initializer_list<const olSettingBase *>;
+
+    /// Lets the host reach single settings through the page (see olSettingAccess). The page and the settings must
+    /// outlive the use of the list.
+    explicit olSettingList(QWidget &page);
+    ~olSettingList();
+    olSettingList(const olSettingList &) = delete;
+    olSettingList &operator=(const olSettingList &) = delete;
+
+    template <class T, class Control> void add(const olSetting<T> &setting, Control control)
+    {
+        add(setting, control, olNoLiveValue{});
+    }
+
+    /// With the host's live value, asked and shown while the record has none.
+    template <class T, class Control, class Live> void add(const olSetting<T> &setting, Control control, Live live)
+    {
+        append(std::make_unique<olPairing<T, Control, Live>>(setting, control, live));
+    }
+
+    /// A setting that the page does not show: defaulted and removed.
+    template <class T> void addWithoutControl(const olSetting<T> &setting)
+    {
+        append(std::make_unique<olUnshownSetting<T>>(setting));
+    }
+
+    /// A key of former times: never written, removed behind all others.
+    void addRetired(std::string key) { m_retired.push_back(std::move(key)); }
+
+    void writeDefaults(bool flag) const;
+    void writeDefaults(Order order, bool flag) const;
+
+    void showOnPage() const;
+    void showOnPage(Order order) const;
+
+    /// Stores what the controls hold and reports to the module what did not change.
+    void takeFromPage(olPreferences &module) const;
+    void takeFromPage(Order order, olPreferences &module) const;
+
+    /// Stores what the controls hold whether it changed or not, and reports nothing.
+    void storeFromPage() const;
+    void storeFromPage(Order order) const;
+
+    void removeKeys() const;
+
+    [[nodiscard]] const std::vector<std::unique_ptr<olListedSetting>> &settings() const { return m_settings; }
+
+    /// Null where no setting of the list bears the key.
+    [[nodiscard]] const olListedSetting *find(const std::string &key) const;
+
+private:
+    void append(std::unique_ptr<olListedSetting> setting);
+    [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
+
+    std::vector<std::unique_ptr<olListedSetting>> m_settings;
+    std::vector<std::string> m_retired;
+};

@@ -1,0 +1,67 @@
+#include "Viewer/olCameraPreferencesGUII.h"
+
+#include "Framework/olApply.h"
+#include "Kernel/olController.h"
+#include "Kernel/olOSGWidget.h"
+#include "Viewer/olCameraPreferencesGUIW.h"
+#include "ui_olCameraPreferencesGUI.h"
+
+namespace
+{
+
+const olSetting<float> fov{"Camera fov", 45.0f};
+const olSetting<float> eyeSeparation{"Stereo eye separation", 63.0f};
+const olSetting<float> zeroParallaxDistance{"Stereo zero plane parallaxe", 1500.0f};
+const olSetting<float> powerwallWidth{"Powerwall width", 1600.0f};
+const olSetting<float> powerwallHeight{"Powerwall height", 1200.0f};
+const olSetting<float> powerwallDistance{"Powerwall distance", 1000.0f};
+
+constexpr int allViews = -1;
+
+} // namespace
+
+olCameraPreferencesGUII::olCameraPreferencesGUII()
+    : olPreferences(tr("Camera"), QString()), m_page(std::make_unique<olCameraPreferencesGUIW>()), m_settings(*m_page)
+{
+    const auto &form = m_page->form();
+    m_settings.add(fov, form.fieldOfView);
+    m_settings.add(eyeSeparation, form.eyeSeparation);
+    m_settings.add(zeroParallaxDistance, form.zeroParallaxDistance);
+    m_settings.add(powerwallWidth, form.projectionWidth);
+    m_settings.add(powerwallHeight, form.projectionHeight);
+    m_settings.add(powerwallDistance, form.projectionDistance);
+
+    // Essentials applies the stored camera but has no page to change it on.
+    if (!olController::isOrloEssentials())
+        addPreferencesGUI(m_page.get());
+}
+
+olCameraPreferencesGUII::~olCameraPreferencesGUII()
+{
+    m_settings.removeKeys();
+    subPreferencesGUI(m_page.get());
+}
+
+void olCameraPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
+
+void olCameraPreferencesGUII::applyPreferences()
+{
+    const olApply apply(*this);
+    apply.ifChanged(fov, [](float degrees) { olOSGWidget::setFov(allViews, degrees); });
+    apply.ifChanged(eyeSeparation, &olOSGWidget::setGlobalEyeSeparation);
+    apply.ifChanged(zeroParallaxDistance, &olOSGWidget::setGlobalZeroParallaxDistance);
+
+    // The powerwall is set as a whole or not at all. Each of the three is read even when another cannot be, so that
+    // every faulty one is reported.
+    if (apply.anyChanged(powerwallWidth, powerwallHeight, powerwallDistance)) {
+        const auto width = read(powerwallWidth);
+        const auto height = read(powerwallHeight);
+        const auto distance = read(powerwallDistance);
+        if (width && height && distance)
+            olOSGWidget::setPowerwallWindow(allViews, *width, *height, *distance);
+    }
+}
+
+void olCameraPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
+
+void olCameraPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

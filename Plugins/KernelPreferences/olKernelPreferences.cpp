@@ -1,0 +1,24 @@
+#include "olKernelPreferences.h"
+
+#include "Viewer/olCameraPreferencesGUII.h"
+
+namespace
+{
+
+/// Builds the module the first time it is called; the library's unloading destroys it.
+template <class Module> void create() { static Module module; }
+
+using Creation = void (*)();
+
+/// In the order of registration, which is the order of the host's list and, reversed, of destruction.
+constexpr Creation creations[] = {
+    create<olCameraPreferencesGUII>,
+};
+
+} // namespace
+
+void initPreferencesPlugin()
+{
+    for (const Creation creation : creations)
+        creation();
+}

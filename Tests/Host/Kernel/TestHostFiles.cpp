@@ -1,0 +1,132 @@
+#include "Embedded/olHostState.h"
+#include "Kernel/olPreferences.h"
+#include "Kernel/olTexSearch.h"
+#include "Utilities/olFile.h"
+#include "Utilities/olLog.h"
+#include "Utilities/olMessage.h"
+#include "Utilities/olPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace
+{
+
+using Paths = std::vector<std::string>;
+
+class HostFiles : public ::testing::Test
+{
+protected:
+    ~HostFiles() override
+    {
+        olPreferences::getData().remove(key);
+        olTexSearch::set();
+    }
+
+    std::string path(const char *name) const { return folder.filePath(name).toStdString(); }
+    std::string makeDirectory(const char *name) const
+    {
+        QDir().mkpath(folder.filePath(name));
+        return path(name);
+    }
+    std::string makeFile(const char *name) const
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return path(name);
+    }
+    static void search(const Paths &paths)
+    {
+        olPreferences::getData().set(key, paths);
+        olTexSearch::set();
+    }
+
+    static constexpr auto key = "texture search paths";
+    QTemporaryDir folder;
+};
+
+TEST_F(HostFiles, SearchListKeepsOrderAndDropsWhatIsMissingOrDouble)
+{
+    const std::string zebra = makeDirectory("zebra");
+    const std::string apple = makeDirectory("\xc3\xa4pfel");
+    const std::string file = makeFile("file");
+    QFile::link(folder.filePath("zebra"), folder.filePath("link"));
+    search({zebra, "", path("missing"), file, apple, zebra + "/", path("link")});
+    EXPECT_EQ(olTexSearch::directories(), (Paths{zebra, apple}));
+
+    olPreferences::getData().set(key, QString("wrong type"));
+    olTexSearch::set();
+    EXPECT_EQ(olTexSearch::directories(), Paths{});
+}
+
+TEST_F(HostFiles, TextureIsFoundInTheFirstDirectoryThatHasIt)
+{
+    const std::string first = makeDirectory("first");
+    const std::string second = makeDirectory("second");
+    makeDirectory("second/wood");
+    const std::string oak = makeFile("second/oak.png");
+    const std::string darkOak = makeFile("second/wood/oak.png");
+    search({first, second});
+
+    EXPECT_EQ(olTexSearch::find("oak.png"), oak);
+    EXPECT_EQ(olTexSearch::find("wood/oak.png"), darkOak) << "the relative path goes before the bare name";
+    EXPECT_EQ(olTexSearch::find("C:\\models\\textures\\oak.png"), oak);
+    EXPECT_EQ(olTexSearch::find(darkOak), darkOak);
+    EXPECT_EQ(olTexSearch::find("pine.png"), "");
+    EXPECT_EQ(olTexSearch::find("wood"), "") << "a directory is no texture";
+    EXPECT_EQ(olTexSearch::find(""), "");
+
+    const std::string nearer = makeFile("first/oak.png");
+    EXPECT_EQ(olTexSearch::find("oak.png"), nearer);
+}
+
+TEST_F(HostFiles, ExistenceTakesDirectoriesUnlessAFileIsAskedFor)
+{
+    const std::string directory = makeDirectory("d\xc3\xa4");
+    const std::string file = makeFile("f");
+    EXPECT_TRUE(olFile::exists(directory, false, false));
+    EXPECT_FALSE(olFile::exists(directory, true, false));
+    EXPECT_TRUE(olFile::exists(file, true, true));
+    EXPECT_FALSE(olFile::exists(path("missing"), false, false));
+    EXPECT_FALSE(olFile::exists("", false, false));
+    EXPECT_FALSE(olFile::exists("/proc/version", false, true));
+}
+
+TEST(HostLog, GoesToTheObserverInsteadOfTheErrorStream)
+{
+    struct Observer : olLogObserver {
+        void logged(olLogLevel level, const QString &text) override
+        {
+            lines << (level == olLogLevel::Error ? "E " : "I ") + text;
+        }
+        QStringList lines;
+    } observer;
+
+    ::testing::internal::CaptureStderr();
+    olLogObserver *before = olLog::observe(&observer);
+    olLog::error("no");
+    olLog::info("yes");
+    EXPECT_EQ(olLog::observe(before), &observer);
+    olLog::observe(nullptr);
+    olLog::error("tmp path doesn't exist!");
+    olLog::observe(before);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "error: tmp path doesn't exist!\n");
+    EXPECT_EQ(observer.lines, (QStringList{"E no", "I yes"}));
+}
+
+TEST(HostPlatform, AnswersFromTheFactsAndHasAnIconForEveryName)
+{
+    olHostState::the().dataDir = QStringLiteral("/opt/orlo");
+    EXPECT_EQ(olPlatform::getDataDir(), "/opt/orlo");
+    olHostState::the().dataDir.reset();
+    EXPECT_EQ(olPlatform::getAppVersionName(), "ORLO 2026");
+
+    EXPECT_FALSE(olPlatform::getIcon("FileOpen").isNull());
+    EXPECT_FALSE(olPlatform::getIcon("no such icon").isNull());
+    EXPECT_GT(olPlatform::getMediumIconSizeX(), 0);
+}
+
+} // namespace

@@ -1,0 +1,42 @@
+#include "Support/PluginTest.h"
+
+#include "Embedded/olHostState.h"
+#include "KernelServices/olKernelServiceFactory.h"
+#include "KernelServices/olPreferencesService.h"
+#include "Preferences/olPreferencesRegistry.h"
+
+#include <stdexcept>
+
+PluginTest::PluginTest(olEdition edition) { restart(edition); }
+
+PluginTest::~PluginTest() { plugin.unload(); }
+
+void PluginTest::restart(olEdition edition)
+{
+    plugin.unload();
+    const olMessage::Entries left = record().entries();
+    for (const auto &entry : left)
+        record().remove(entry.first);
+    olKernelServiceFactory::the<olPreferencesService>()->clear();
+    olHostState &host = olHostState::the();
+    host.reset();
+    host.edition = edition;
+    host.isPassive = true;
+
+    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
+    if (!error.isEmpty())
+        throw std::runtime_error(error.toStdString());
+    calls.take();
+}
+
+olMessage &PluginTest::record() { return olPreferencesRegistry::the().record(); }
+
+olPreferencesEntry &PluginTest::module(const char *name)
+{
+    olPreferencesEntry *entry = olPreferencesRegistry::the().find(QString::fromUtf8(name));
+    if (!entry)
+        throw std::runtime_error(std::string("no module ") + name);
+    return *entry;
+}
+
+const std::vector<olPreferencesEntry *> &PluginTest::modules() { return olPreferencesRegistry::the().entries(); }

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Embedded/olEdition.h"
+#include "Embedded/olJournal.h"
+#include "Preferences/olPluginLoader.h"
+#include "Preferences/olPreferencesEntry.h"
+#include "Utilities/olMessage.h"
+
+#include <QTemporaryDir>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+/// Collects the host calls while it lives.
+class RecordedCalls : public olJournalObserver
+{
+public:
+    RecordedCalls() : m_before(olJournal::observe(this)) {}
+    ~RecordedCalls() override { olJournal::observe(m_before); }
+
+    void called(const std::string &call) override { m_calls.push_back(call); }
+
+    /// The calls since the last time they were taken.
+    std::vector<std::string> take() { return std::exchange(m_calls, {}); }
+
+private:
+    olJournalObserver *m_before;
+    std::vector<std::string> m_calls;
+};
+
+/// A test on the real plug-in, loaded into a host whose record, service and state are as new. Nothing of the start
+/// sequence has run.
+class PluginTest : public testing::Test
+{
+protected:
+    explicit PluginTest(olEdition edition = olEdition::Professional);
+    ~PluginTest() override;
+
+    /// Unloads, makes the host new in that edition, and loads again.
+    void restart(olEdition edition = olEdition::Professional);
+
+    static olMessage &record();
+
+    /// The module of that display name; the test fails and stops where there is none.
+    static olPreferencesEntry &module(const char *name);
+    static const std::vector<olPreferencesEntry *> &modules();
+
+    /// The named control of a module's page, also of a page that was not handed over.
+    template <class Control> static Control &control(const char *moduleName, const char *objectName)
+    {
+        auto *found = module(moduleName).page()->findChild<Control *>(QString::fromLatin1(objectName));
+        if (!found)
+            throw std::runtime_error(std::string("no control ") + objectName + " on " + moduleName);
+        return *found;
+    }
+
+    olPluginLoader plugin;
+    RecordedCalls calls;
+};

@@ -1,0 +1,14 @@
+#include <QApplication>
+#include <QtGlobal>
+#include <gtest/gtest.h>
+
+int main(int argc, char *argv[])
+{
+    // Tests of widgets never need a screen.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("ORLO tests"));
+    return RUN_ALL_TESTS();
+}

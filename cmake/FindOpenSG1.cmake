@@ -1,0 +1,25 @@
+# Finds an installed OpenSG 1.x and makes the targets OpenSG1::Base and OpenSG1::System.
+
+find_path(OpenSG_INCLUDE_DIR OpenSG/OSGConfig.h)
+find_library(OpenSG_BASE_LIBRARY OSGBase)
+find_library(OpenSG_SYSTEM_LIBRARY OSGSystem)
+if(NOT OpenSG_INCLUDE_DIR OR NOT OpenSG_BASE_LIBRARY OR NOT OpenSG_SYSTEM_LIBRARY)
+    message(FATAL_ERROR "ORLO_OPENSG is SYSTEM, but no OpenSG 1.x was found: include/OpenSG, libOSGBase and libOSGSystem "
+                        "are needed. Set CMAKE_PREFIX_PATH to where it is installed, or ORLO_OPENSG to STANDIN.")
+endif()
+
+# 2.x has field container pointers of another kind; only 1.x still has this header.
+if(NOT EXISTS ${OpenSG_INCLUDE_DIR}/OpenSG/OSGNodePtr.h)
+    message(FATAL_ERROR "The OpenSG in ${OpenSG_INCLUDE_DIR} is not a 1.x: OSGNodePtr.h is missing. "
+                        "OpenSG 2.x has other interfaces and cannot be used.")
+endif()
+
+foreach(part Base System)
+    if(NOT TARGET OpenSG1::${part})
+        string(TOUPPER ${part} upper)
+        add_library(OpenSG1::${part} UNKNOWN IMPORTED)
+        set_target_properties(OpenSG1::${part} PROPERTIES
+            IMPORTED_LOCATION ${OpenSG_${upper}_LIBRARY}
+            INTERFACE_INCLUDE_DIRECTORIES ${OpenSG_INCLUDE_DIR})
+    endif()
+endforeach()

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Sets the machine up, builds and runs all tests without a display.
+#   ./test.sh              the tests
+#   ./test.sh --sanitize   the tests under the address, undefined behaviour and leak sanitizers
+set -euo pipefail
+cd "$(dirname "$0")"
+source tools/setup.sh
+
+preset=default
+for argument in "$@"; do
+    case "$argument" in
+    --sanitize) preset=sanitize ;;
+    *) echo "test.sh: unknown argument $argument; it takes --sanitize" >&2; exit 2 ;;
+    esac
+done
+
+install_packages
+build "$preset"
+export QT_QPA_PLATFORM=offscreen
+ctest --preset "$preset" --parallel "$(nproc)"

@@ -1,0 +1,23 @@
+# What run.sh and test.sh share: to be sourced in the root of the repository.
+
+# Debian's packages, once: what is installed already is not asked for again.
+install_packages() {
+    local missing=()
+    local package
+    while read -r package; do
+        dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' || missing+=("$package")
+    done < <(grep -vE '^\s*(#|$)' tools/packages.txt)
+    [ "${#missing[@]}" -eq 0 ] && return
+
+    local root=()
+    [ "$(id -u)" -eq 0 ] || root=(sudo)
+    echo "Installing ${missing[*]}"
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures and builds a preset; a second time only what changed.
+build() {
+    cmake --preset "$1" -Wno-dev >/dev/null
+    cmake --build --preset "$1"
+}
