@@ -2,6 +2,6 @@
 
 #include "Utilities/olExport.h"
 
-/// Registers the host's loaders of scene files, whose options the modules set by suffix. To be called before the plug-in
-/// is loaded; a second call does nothing.
+/// Registers the host's loaders of scene files, whose options the modules set by suffix. To be called before the
+/// plug-in is loaded; a second call does nothing.
 ORLO_SDK_EXPORT void olRegisterSceneLoaders();
