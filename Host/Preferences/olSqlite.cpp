@@ -65,9 +65,13 @@ olSqliteError::Kind kindOf(int result)
 
 [[noreturn]] void fail(sqlite3 *database, int result)
 {
-    const int code = database ? sqlite3_extended_errcode(database) : result;
-    const QString message = QString::fromUtf8(database ? sqlite3_errmsg(database) : sqlite3_errstr(result));
-    throw olSqliteError{kindOf(code), reasonOf(code, database ? sqlite3_system_errno(database) : 0, message)};
+    const int lastError = errno;
+    if (!database)
+        throw olSqliteError{kindOf(result), QString::fromUtf8(sqlite3_errstr(result))};
+    const int code = sqlite3_extended_errcode(database);
+    // Not every failure of the system reaches the database's own note of it.
+    const int systemError = sqlite3_system_errno(database) != 0 ? sqlite3_system_errno(database) : lastError;
+    throw olSqliteError{kindOf(code), reasonOf(code, systemError, QString::fromUtf8(sqlite3_errmsg(database)))};
 }
 
 void require(sqlite3 *database, int result)
@@ -94,6 +98,7 @@ void olSqliteStatement::bind(int parameter, const std::string &text)
 
 bool olSqliteStatement::step()
 {
+    errno = 0;
     const int result = sqlite3_step(m_statement.get());
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         fail(m_database, result);
@@ -126,6 +131,7 @@ olSqlite::olSqlite(const QString &file, Access access) : m_handle(nullptr, sqlit
         const QByteArray address = "file://" + QFile::encodeName(path).toPercentEncoding("/");
         open(address + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
     }
+    sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     run("PRAGMA synchronous = FULL");
@@ -146,6 +152,7 @@ void olSqlite::open(const QByteArray &name, int flags)
 
 void olSqlite::run(const char *sql)
 {
+    errno = 0;
     require(m_handle.get(), sqlite3_exec(m_handle.get(), sql, nullptr, nullptr, nullptr));
 }
 
@@ -163,7 +170,4 @@ std::string olSqlite::text(const char *sql)
 
 bool olSqlite::isReadOnly() const { return sqlite3_db_readonly(m_handle.get(), "main") == 1; }
 
-void olSqlite::leaveLogAlone(bool on)
-{
-    sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, on ? 1 : 0, nullptr);
-}
+void olSqlite::releaseLog() { sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr); }

@@ -60,8 +60,8 @@ public:
 
     [[nodiscard]] bool isReadOnly() const;
 
-    /// The log of a file that may have to be set aside stays as it is: closing neither works it in nor removes it.
-    void leaveLogAlone(bool on);
+    /// Closing may work the log into the file. Before, the log of what may have to be set aside is left as it is.
+    void releaseLog();
 
 private:
     void open(const QByteArray &name, int flags);

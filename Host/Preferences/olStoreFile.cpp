@@ -213,8 +213,6 @@ olStoreRows olStoreFile::read(bool wasStore) const
 olStoreRows olStoreFile::readDatabase(bool wasStore) const
 try {
     olSqlite database(m_file, olSqlite::Access::Existing);
-    // Until the file is proved sound, nothing is to touch what may have to be set aside.
-    database.leaveLogAlone(true);
     database.run("BEGIN");
     olStoreRows rows;
     if (!isEmpty(database)) {
@@ -225,7 +223,7 @@ try {
         damaged("there is nothing in it");
     }
     database.run("COMMIT");
-    database.leaveLogAlone(false);
+    database.releaseLog();
     return rows;
 } catch (const olSqliteError &error) {
     throw faultOf(error);
@@ -246,7 +244,6 @@ void olStoreFile::changeDatabase(const olStoreRows &rows, const std::vector<olSt
                                  bool wasStore) const
 {
     olSqlite database(m_file, olSqlite::Access::Create);
-    database.leaveLogAlone(true);
     database.run("BEGIN IMMEDIATE");
     if (!isEmpty(database)) {
         requireOurFormat(database);
@@ -261,7 +258,7 @@ void olStoreFile::changeDatabase(const olStoreRows &rows, const std::vector<olSt
     erase(database, removed);
     renewSeal(database);
     database.run("COMMIT");
-    database.leaveLogAlone(false);
+    database.releaseLog();
     tryToUseALog(database);
 }
 
