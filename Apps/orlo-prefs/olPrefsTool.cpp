@@ -94,6 +94,8 @@ void olPrefsTool::set()
     requireArguments(2, "set KEY VALUE");
     loadEverything();
     const Setting changed = setting(m_options.arguments.at(0));
+    if (const auto reason = m_session.lockReason(changed.key))
+        throw olToolError(QStringLiteral("\"%1\" is locked: %2").arg(m_options.arguments.at(0), *reason));
     const QString &written = m_options.arguments.at(1);
     const boost::any value = valueFrom(changed.type, written);
     if (value.empty())

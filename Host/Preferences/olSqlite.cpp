@@ -39,6 +39,10 @@ QString reasonOf(int result, int systemError, const QString &message)
         return withSystemReason(translated("it cannot be opened"), systemError);
     case SQLITE_IOERR:
         return withSystemReason(translated("input or output failed"), systemError);
+    case SQLITE_CORRUPT:
+        return translated("its structure is broken");
+    case SQLITE_NOTADB:
+        return translated("its content is no database");
     default:
         return message;
     }

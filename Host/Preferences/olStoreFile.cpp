@@ -304,8 +304,11 @@ QString olStoreFile::setAside() const
         rename(m_file, aside);
     // The log belongs to the damaged file; left here it would be worked into the new one.
     for (const char *part : {"-wal", "-journal"}) {
-        if (QFileInfo::exists(m_file + QLatin1String(part)))
-            rename(m_file + QLatin1String(part), aside + QLatin1String(part));
+        const QFileInfo log(m_file + QLatin1String(part));
+        if (log.size() > 0)
+            rename(log.filePath(), aside + QLatin1String(part));
+        else
+            QFile::remove(log.filePath());
     }
     QFile::remove(m_file + QStringLiteral("-shm"));
     return aside;

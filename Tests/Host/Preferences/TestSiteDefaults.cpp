@@ -205,7 +205,7 @@ TEST_F(Site, AFaultIsReportedByLineAndNothingOfItsFileCounts)
         {"\"a{\\\"[\": {\"value\": [1, {\"Path\": 1}]},\n\"Path\": {\"value\": null}}", 3},
         {"\"Path\": {\"value\": \"a\"},\n\n\"Camera fov\": {\"value\": 61}}", 4},
         {"\"Path\": {\"value\": \"\xff\"}}", 2},
-        {"", 1},
+        {"", 2},
     };
     for (const Case &each : cases) {
         run("{\"Camera fov\": {\"value\": 60, \"locked\": true}, \"MainWindow user language\": {\"value\": 2},\n" +
