@@ -1,6 +1,8 @@
 #include "olKernelPreferences.h"
 
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olVirtualRealityPreferencesGUII.h"
+#include "Viewer/olWebInterfacePreferencesGUII.h"
 
 namespace
 {
@@ -13,6 +15,8 @@ using Creation = void (*)();
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
     create<olCameraPreferencesGUII>,
+    create<olWebInterfacePreferencesGUII>,
+    create<olVirtualRealityPreferencesGUII>,
 };
 
 } // namespace

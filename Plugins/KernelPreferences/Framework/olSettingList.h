@@ -69,8 +69,10 @@ public:
     /// Null where no setting of the list bears the key.
     [[nodiscard]] const olListedSetting *find(const std::string &key) const;
 
-private:
+protected:
     void append(std::unique_ptr<olListedSetting> setting);
+
+private:
     [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
 
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
