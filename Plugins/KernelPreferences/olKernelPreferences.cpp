@@ -1,6 +1,7 @@
 #include "olKernelPreferences.h"
 
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
 {
@@ -13,6 +14,7 @@ using Creation = void (*)();
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
     create<olCameraPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>,
 };
 
 } // namespace
