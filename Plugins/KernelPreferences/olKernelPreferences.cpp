@@ -3,6 +3,7 @@
 #include "Viewer/olCameraPreferencesGUII.h"
 #include "Viewer/olMarkerPreferencesGUII.h"
 #include "Viewer/olNavigatorPreferencesGUII.h"
+#include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
 {
@@ -17,6 +18,7 @@ constexpr Creation creations[] = {
     create<olCameraPreferencesGUII>,
     create<olMarkerPreferencesGUII>,
     create<olNavigatorPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>,
 };
 
 } // namespace
