@@ -11,20 +11,17 @@
 namespace
 {
 
-const osg::Color3f blue{0.1f, 0.3f, 0.9f};
-const osg::Color3f orange{0.956f, 0.521f, 0.086f};
-
 const olSetting<float> markerSize{"Marker size", 1.0f};
 const olSetting<bool> lodSelection{"LOD selection", [] { return !olController::isOrloEssentials(); }};
 const olSetting<bool> autoScroll{"Selection auto scroll", true};
 const olSetting<bool> transparentSelection{"Transparent Object Selection", false};
 const olSetting<bool> preselection{"Selection preselection enabled", true};
-const olSetting<osg::Color3f> preselectionColor{"Selection preselection color", blue};
+const olSetting<osg::Color3f> preselectionColor{"Selection preselection color", {0.1f, 0.3f, 0.9f}};
 
 // These three belong here, although their keys read as if they were the render options': users' stored preferences
 // hold them so.
 const olSetting<bool> wireframeSelection{"RenderOptions wireframe selection", false};
-const olSetting<osg::Color3f> selectionColor{"RenderOptions selection color", orange};
+const olSetting<osg::Color3f> selectionColor{"RenderOptions selection color", {0.956f, 0.521f, 0.086f}};
 const olSetting<bool> selectionInFront{"RenderOptions selection in front", false};
 
 } // namespace
@@ -70,11 +67,11 @@ void olMarkerPreferencesGUII::applyPreferences()
     // read deliberately shows the wireframe, though the default is not to: a selection must not become invisible.
     const olApply apply(*this);
     apply.ifChangedOr(wireframeSelection, true, &olOSGWidget::setWireframeSelection);
-    apply.ifChangedOr(selectionInFront, false, [](bool inFront) {
+    apply.ifChangedOrDefault(selectionInFront, [](bool inFront) {
         olScenegraph::setWireframeOverride(inFront);
         olOSGWidget::setWireframeAlwaysInFront(inFront);
     });
-    apply.ifChangedOr(selectionColor, orange, &olScenegraph::setSelectionColor);
+    apply.ifChangedOrDefault(selectionColor, &olScenegraph::setSelectionColor);
 }
 
 void olMarkerPreferencesGUII::updateGUI() { m_settings.showOnPage(); }

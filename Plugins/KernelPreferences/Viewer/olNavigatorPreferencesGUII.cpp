@@ -98,7 +98,7 @@ void olNavigatorPreferencesGUII::applyPreferences()
     olOSGWidget::setNavDollyToPivot(readOr(dollyToPivot, olOSGWidget::getNavDollyToPivot()));
 
     applyIfRead(animateCamera, &olOSGWidget::setAnimateNavCam);
-    olOSGWidget::setAnimateNavCamDuration(readOr(animationDuration, 20.0f));
+    olOSGWidget::setAnimateNavCamDuration(readOrDefault(animationDuration));
 
     // Unlike the six above, these are left alone when they cannot be read.
     applyIfRead(orbitMode, &olOSGWidget::setNavOrbitMode);
