@@ -1,6 +1,8 @@
 #include "olKernelPreferences.h"
 
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olMarkerPreferencesGUII.h"
+#include "Viewer/olNavigatorPreferencesGUII.h"
 #include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
@@ -14,6 +16,8 @@ using Creation = void (*)();
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
     create<olCameraPreferencesGUII>,
+    create<olMarkerPreferencesGUII>,
+    create<olNavigatorPreferencesGUII>,
     create<olRenderOptionsPreferencesGUII>,
 };
 
