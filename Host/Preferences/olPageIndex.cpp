@@ -38,10 +38,7 @@ struct Caption {
     bool isFrame;
 };
 
-template <class... Kinds> bool isOneOf(const QWidget &widget)
-{
-    return (qobject_cast<const Kinds *>(&widget) || ...);
-}
+template <class... Kinds> bool isOneOf(const QWidget &widget) { return (qobject_cast<const Kinds *>(&widget) || ...); }
 
 bool isCheckableGroup(const QWidget &widget)
 {
@@ -86,6 +83,20 @@ QString ownText(const QWidget &widget)
     return {};
 }
 
+/// As the form has them. A stack keeps its children by depth, so its pages are put in order first.
+QList<QWidget *> childrenInOrder(const QWidget &parent)
+{
+    QList<QWidget *> children;
+    const auto *stack = qobject_cast<const QStackedWidget *>(&parent);
+    for (int index = 0; stack && index < stack->count(); ++index)
+        children << stack->widget(index);
+    for (QObject *child : parent.children()) {
+        if (child->isWidgetType() && !children.contains(static_cast<QWidget *>(child)))
+            children << static_cast<QWidget *>(child);
+    }
+    return children;
+}
+
 /// Collects the controls of a page on one walk through its widgets.
 class Walk
 {
@@ -106,10 +117,9 @@ public:
 private:
     void visitChildren(const QWidget &parent)
     {
-        for (QObject *child : parent.children()) {
-            if (child->isWidgetType())
-                visit(*static_cast<QWidget *>(child));
-        }
+        const QList<QWidget *> children = childrenInOrder(parent);
+        for (QWidget *child : children)
+            visit(*child);
     }
 
     void visit(QWidget &widget)
@@ -200,7 +210,8 @@ bool resembles(const olPageControl &control, const QString &text)
 {
     const QString written = text.mid(text.lastIndexOf(QLatin1Char('/')) + 1);
     return std::any_of(control.names.begin(), control.names.end(), [&](const QString &name) {
-        return !written.isEmpty() && (name.contains(written, Qt::CaseInsensitive) || written.contains(name, Qt::CaseInsensitive));
+        return !written.isEmpty() &&
+               (name.contains(written, Qt::CaseInsensitive) || written.contains(name, Qt::CaseInsensitive));
     });
 }
 

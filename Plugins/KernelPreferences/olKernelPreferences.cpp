@@ -1,6 +1,9 @@
 #include "olKernelPreferences.h"
 
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olMarkerPreferencesGUII.h"
+#include "Viewer/olNavigatorPreferencesGUII.h"
+#include "Viewer/olRenderOptionsPreferencesGUII.h"
 #include "Viewer/olVirtualRealityPreferencesGUII.h"
 #include "Viewer/olWebInterfacePreferencesGUII.h"
 
@@ -14,9 +17,9 @@ using Creation = void (*)();
 
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
-    create<olCameraPreferencesGUII>,
-    create<olWebInterfacePreferencesGUII>,
-    create<olVirtualRealityPreferencesGUII>,
+    create<olCameraPreferencesGUII>,       create<olMarkerPreferencesGUII>,
+    create<olNavigatorPreferencesGUII>,    create<olRenderOptionsPreferencesGUII>,
+    create<olWebInterfacePreferencesGUII>, create<olVirtualRealityPreferencesGUII>,
 };
 
 } // namespace
