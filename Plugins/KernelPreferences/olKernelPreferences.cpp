@@ -1,6 +1,9 @@
 #include "olKernelPreferences.h"
 
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olDevicesPreferencesGUII.h"
+#include "Viewer/olHelpPreferencesGUII.h"
+#include "Viewer/olMainWindowPreferencesGUII.h"
 
 namespace
 {
@@ -13,6 +16,9 @@ using Creation = void (*)();
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
     create<olCameraPreferencesGUII>,
+    create<olDevicesPreferencesGUII>,
+    create<olMainWindowPreferencesGUII>,
+    create<olHelpPreferencesGUII>,
 };
 
 } // namespace
