@@ -4,6 +4,7 @@
 #include "Viewer/olDevicesPreferencesGUII.h"
 #include "Viewer/olHelpPreferencesGUII.h"
 #include "Viewer/olMainWindowPreferencesGUII.h"
+#include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
 {
@@ -18,6 +19,7 @@ constexpr Creation creations[] = {
     create<olCameraPreferencesGUII>,
     create<olDevicesPreferencesGUII>,
     create<olMainWindowPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>,
     create<olHelpPreferencesGUII>,
 };
 
