@@ -4,6 +4,8 @@
 #include "Viewer/olDevicesPreferencesGUII.h"
 #include "Viewer/olHelpPreferencesGUII.h"
 #include "Viewer/olMainWindowPreferencesGUII.h"
+#include "Viewer/olMarkerPreferencesGUII.h"
+#include "Viewer/olNavigatorPreferencesGUII.h"
 #include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
@@ -16,10 +18,8 @@ using Creation = void (*)();
 
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
-    create<olCameraPreferencesGUII>,
-    create<olDevicesPreferencesGUII>,
-    create<olMainWindowPreferencesGUII>,
-    create<olRenderOptionsPreferencesGUII>,
+    create<olCameraPreferencesGUII>, create<olDevicesPreferencesGUII>,   create<olMainWindowPreferencesGUII>,
+    create<olMarkerPreferencesGUII>, create<olNavigatorPreferencesGUII>, create<olRenderOptionsPreferencesGUII>,
     create<olHelpPreferencesGUII>,
 };
 
