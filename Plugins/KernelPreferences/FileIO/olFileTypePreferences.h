@@ -34,9 +34,12 @@ protected:
 
     [[nodiscard]] olFileTypePreferencesGUIW &page() const { return *m_page; }
     [[nodiscard]] olSettingList &settings() { return m_settings; }
+
+    /// Only of a format that has them.
     [[nodiscard]] const olImportSettings &importSettings() const { return *m_import; }
 
-    // Two settings of one format each whose defaults all formats write, under these keys. The owner alone removes them.
+    // One belongs to Base CAD, the other to PLM XML. The defaults of every format write both, under just these keys,
+    // and only their owner removes them.
     static const olSetting<bool> useAtf;
     static const olSetting<bool> loadReferencedFiles;
 
