@@ -19,6 +19,7 @@
 #include "FileIO/olStlFilePreferencesGUII.h"
 #include "FileIO/olWireFilePreferencesGUII.h"
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
 {
@@ -50,6 +51,7 @@ constexpr Creation creations[] = {
     create<olDGNFilePreferencesGUII>,
     create<olPLMXMLPreferencesGUII>,
     create<olCameraPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>,
 };
 // clang-format on
 
