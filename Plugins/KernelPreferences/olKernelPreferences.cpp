@@ -19,6 +19,8 @@
 #include "FileIO/olStlFilePreferencesGUII.h"
 #include "FileIO/olWireFilePreferencesGUII.h"
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olMarkerPreferencesGUII.h"
+#include "Viewer/olNavigatorPreferencesGUII.h"
 #include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
@@ -51,6 +53,8 @@ constexpr Creation creations[] = {
     create<olDGNFilePreferencesGUII>,
     create<olPLMXMLPreferencesGUII>,
     create<olCameraPreferencesGUII>,
+    create<olMarkerPreferencesGUII>,
+    create<olNavigatorPreferencesGUII>,
     create<olRenderOptionsPreferencesGUII>,
 };
 // clang-format on
