@@ -1,6 +1,27 @@
 #include "olKernelPreferences.h"
 
+#include "FileIO/olCatiaV4FilePreferencesGUII.h"
+#include "FileIO/olCatiaV5FilePreferencesGUII.h"
+#include "FileIO/olDGNFilePreferencesGUII.h"
+#include "FileIO/olDraftixFilePreferencesGUII.h"
+#include "FileIO/olGenericCADFilePreferencesGUII.h"
+#include "FileIO/olIgesFilePreferencesGUII.h"
+#include "FileIO/olJtFilePreferencesGUII.h"
+#include "FileIO/olKBXFilePreferencesGUII.h"
+#include "FileIO/olNXFilePreferencesGUII.h"
+#include "FileIO/olPLMXMLPreferencesGUII.h"
+#include "FileIO/olPartwrightFilePreferencesGUII.h"
+#include "FileIO/olProEngineerFilePreferencesGUII.h"
+#include "FileIO/olRhinoFilePreferencesGUII.h"
+#include "FileIO/olSolidEdgeFilePreferencesGUII.h"
+#include "FileIO/olSolidWorksFilePreferencesGUII.h"
+#include "FileIO/olStepFilePreferencesGUII.h"
+#include "FileIO/olStlFilePreferencesGUII.h"
+#include "FileIO/olWireFilePreferencesGUII.h"
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olDevicesPreferencesGUII.h"
+#include "Viewer/olHelpPreferencesGUII.h"
+#include "Viewer/olMainWindowPreferencesGUII.h"
 #include "Viewer/olMarkerPreferencesGUII.h"
 #include "Viewer/olNavigatorPreferencesGUII.h"
 #include "Viewer/olRenderOptionsPreferencesGUII.h"
@@ -15,12 +36,38 @@ template <class Module> void create() { static Module module; }
 
 using Creation = void (*)();
 
-/// In the order of registration, which is the order of the host's list and, reversed, of destruction.
+/// In the order of registration, which is the order of the host's list and, reversed, of destruction; one a line.
+// clang-format off
 constexpr Creation creations[] = {
-    create<olCameraPreferencesGUII>,       create<olMarkerPreferencesGUII>,
-    create<olNavigatorPreferencesGUII>,    create<olRenderOptionsPreferencesGUII>,
-    create<olWebInterfacePreferencesGUII>, create<olVirtualRealityPreferencesGUII>,
+    create<olCatiaV4FilePreferencesGUII>,
+    create<olCatiaV5FilePreferencesGUII>,
+    create<olWireFilePreferencesGUII>,
+    create<olIgesFilePreferencesGUII>,
+    create<olNXFilePreferencesGUII>,
+    create<olStepFilePreferencesGUII>,
+    create<olDraftixFilePreferencesGUII>,
+    create<olPartwrightFilePreferencesGUII>,
+    create<olSolidWorksFilePreferencesGUII>,
+    create<olSolidEdgeFilePreferencesGUII>,
+    create<olStlFilePreferencesGUII>,
+    create<olProEngineerFilePreferencesGUII>,
+    create<olJtFilePreferencesGUII>,
+    create<olRhinoFilePreferencesGUII>,
+    create<olGenericCADFilePreferencesGUII>,
+    create<olKBXFilePreferencesGUII>,
+    create<olDGNFilePreferencesGUII>,
+    create<olPLMXMLPreferencesGUII>,
+    create<olCameraPreferencesGUII>,
+    create<olDevicesPreferencesGUII>,
+    create<olMainWindowPreferencesGUII>,
+    create<olMarkerPreferencesGUII>,
+    create<olNavigatorPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>,
+    create<olWebInterfacePreferencesGUII>,
+    create<olHelpPreferencesGUII>,
+    create<olVirtualRealityPreferencesGUII>,
 };
+// clang-format on
 
 } // namespace
 

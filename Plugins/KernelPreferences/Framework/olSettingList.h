@@ -45,6 +45,17 @@ public:
         append(std::make_unique<olUnshownSetting<T>>(setting));
     }
 
+    /// A setting without a control whose default several modules write. Its key stays at teardown, unless this module
+    /// owns it.
+    template <class T> void addShared(const olSetting<T> &setting)
+    {
+        addWithoutControl(setting);
+        m_foreign.push_back(&setting);
+    }
+
+    /// Makes this module the one that removes a shared setting.
+    void own(const olSettingBase &shared);
+
     /// A key of former times: never written, removed behind all others.
     void addRetired(std::string key) { m_retired.push_back(std::move(key)); }
 
@@ -73,8 +84,10 @@ protected:
     void append(std::unique_ptr<olListedSetting> setting);
 
 private:
+    [[nodiscard]] bool isForeign(const olSettingBase &setting) const;
     [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
 
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
+    std::vector<const olSettingBase *> m_foreign;
     std::vector<std::string> m_retired;
 };
