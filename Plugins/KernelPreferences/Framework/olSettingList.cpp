@@ -113,6 +113,4 @@ void olSettingList::removeKeys() const
 {
     for (const auto &setting : m_settings)
         record().remove(setting->key());
-    for (const std::string &key : m_retired)
-        record().remove(key);
 }

@@ -45,8 +45,14 @@ public:
         append(std::make_unique<olUnshownSetting<T>>(setting));
     }
 
-    /// A key of former times: never written, removed behind all others.
-    void addRetired(std::string key) { m_retired.push_back(std::move(key)); }
+    /// A list without a default, which the record holds only while it has elements.
+    template <class List, class Control> void addOptionalList(const olSetting<List> &setting, Control control)
+    {
+        append(std::make_unique<olOptionalList<List, Control>>(setting, control));
+    }
+
+    /// A key of former times: never written, removed at its place among the others.
+    void addRetired(std::string key) { append(std::make_unique<olRetiredSetting>(std::move(key))); }
 
     void writeDefaults(bool flag) const;
     void writeDefaults(Order order, bool flag) const;
@@ -74,5 +80,4 @@ private:
     [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
 
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
-    std::vector<std::string> m_retired;
 };
