@@ -5,45 +5,21 @@
 #include "Kernel/olWebInterface.h"
 #include "Utilities/olMessage.h"
 
-bool olController::isOrloEssentials()
-{
-    return olHostState::the().edition == olEdition::Essentials;
-}
+bool olController::isOrloEssentials() { return olHostState::the().edition == olEdition::Essentials; }
 
-bool olController::isOrloDesign()
-{
-    return olHostState::the().edition == olEdition::Design;
-}
+bool olController::isOrloDesign() { return olHostState::the().edition == olEdition::Design; }
 
-bool olController::isOrloProfessional()
-{
-    return olHostState::the().edition == olEdition::Professional;
-}
+bool olController::isOrloProfessional() { return olHostState::the().edition == olEdition::Professional; }
 
-bool olController::isOrloEnterprise()
-{
-    return olHostState::the().edition == olEdition::Enterprise;
-}
+bool olController::isOrloEnterprise() { return olHostState::the().edition == olEdition::Enterprise; }
 
-bool olController::isViewer()
-{
-    return olHostState::the().viewer;
-}
+bool olController::isViewer() { return olHostState::the().viewer; }
 
-bool olController::isOServerNode()
-{
-    return olHostState::the().renderServerNode;
-}
+bool olController::isOServerNode() { return olHostState::the().renderServerNode; }
 
-bool olController::getAnalysisMode()
-{
-    return olHostState::the().analysisMode;
-}
+bool olController::getAnalysisMode() { return olHostState::the().analysisMode; }
 
-int olController::getDisplayLanguage()
-{
-    return olHostState::the().displayLanguage;
-}
+int olController::getDisplayLanguage() { return olHostState::the().displayLanguage; }
 
 void olController::setSleepTime(unsigned milliseconds)
 {
@@ -101,15 +77,9 @@ void olController::setImportOptionsPutOnGround(bool put)
     olHostState::the().importPutOnGround = put;
 }
 
-int olController::getWebInterfacePort()
-{
-    return olHostState::the().webInterfacePort;
-}
+int olController::getWebInterfacePort() { return olHostState::the().webInterfacePort; }
 
-std::string olController::getWebInterfacePipe()
-{
-    return olHostState::the().webInterfacePipe;
-}
+std::string olController::getWebInterfacePipe() { return olHostState::the().webInterfacePipe; }
 
 olWebInterface *olController::getWebInterface()
 {

@@ -59,10 +59,7 @@ void olOSGWidget::setNearFarPlaneLimit(bool limit, float nearest, float farthest
     state.farPlane = farthest;
 }
 
-bool olOSGWidget::isRenderEnabled()
-{
-    return olHostState::the().renderEnabled;
-}
+bool olOSGWidget::isRenderEnabled() { return olHostState::the().renderEnabled; }
 
 void olOSGWidget::enableRender(int enable)
 {
@@ -73,7 +70,8 @@ void olOSGWidget::enableRender(int enable)
 void olOSGWidget::updateAllMGLW()
 {
     olJournal::call("olOSGWidget::updateAllMGLW");
-    olHostState::the().viewUpdates = olHostState::the().viewUpdates + 1;
+    olHostState &state = olHostState::the();
+    state.viewUpdates = state.viewUpdates + 1;
 }
 
 void olOSGWidget::setAllGradientBackgrounds(const std::vector<osg::Color3f> &colors,
@@ -186,10 +184,7 @@ void olOSGWidget::setAntialiasing(float distance, float scale, double time)
     state.antialiasingTime = time;
 }
 
-bool olOSGWidget::getHighQualityAntialiasing()
-{
-    return olHostState::the().highQualityAntialiasing;
-}
+bool olOSGWidget::getHighQualityAntialiasing() { return olHostState::the().highQualityAntialiasing; }
 
 void olOSGWidget::setHighQualityAntialiasing(bool enable)
 {
@@ -276,10 +271,7 @@ void olOSGWidget::showLogo(bool show)
     olHostState::the().logo = show;
 }
 
-bool olOSGWidget::getCamerasVisible()
-{
-    return olHostState::the().camerasVisible;
-}
+bool olOSGWidget::getCamerasVisible() { return olHostState::the().camerasVisible; }
 
 void olOSGWidget::setCamerasVisible(bool visible)
 {
@@ -287,10 +279,7 @@ void olOSGWidget::setCamerasVisible(bool visible)
     olHostState::the().camerasVisible = visible;
 }
 
-bool olOSGWidget::getLightsVisible()
-{
-    return olHostState::the().lightsVisible;
-}
+bool olOSGWidget::getLightsVisible() { return olHostState::the().lightsVisible; }
 
 void olOSGWidget::setLightsVisible(bool visible)
 {
@@ -298,10 +287,7 @@ void olOSGWidget::setLightsVisible(bool visible)
     olHostState::the().lightsVisible = visible;
 }
 
-bool olOSGWidget::getJointsVisible()
-{
-    return olHostState::the().jointsVisible;
-}
+bool olOSGWidget::getJointsVisible() { return olHostState::the().jointsVisible; }
 
 void olOSGWidget::setJointsVisible(bool visible)
 {
@@ -363,10 +349,7 @@ void olOSGWidget::setAnimateNavCamDuration(float duration)
     olHostState::the().animateNavCamDuration = duration;
 }
 
-bool olOSGWidget::getNavUsePivotBasedPanning()
-{
-    return olHostState::the().navUsePivotBasedPanning;
-}
+bool olOSGWidget::getNavUsePivotBasedPanning() { return olHostState::the().navUsePivotBasedPanning; }
 
 void olOSGWidget::setNavUsePivotBasedPanning(bool use)
 {
@@ -374,10 +357,7 @@ void olOSGWidget::setNavUsePivotBasedPanning(bool use)
     olHostState::the().navUsePivotBasedPanning = use;
 }
 
-float olOSGWidget::getNavPanningSpeed()
-{
-    return olHostState::the().navPanningSpeed;
-}
+float olOSGWidget::getNavPanningSpeed() { return olHostState::the().navPanningSpeed; }
 
 void olOSGWidget::setNavPanningSpeed(float factor)
 {
@@ -385,10 +365,7 @@ void olOSGWidget::setNavPanningSpeed(float factor)
     olHostState::the().navPanningSpeed = factor;
 }
 
-int olOSGWidget::getNavSpeedMode()
-{
-    return olHostState::the().navSpeedMode;
-}
+int olOSGWidget::getNavSpeedMode() { return olHostState::the().navSpeedMode; }
 
 void olOSGWidget::setNavSpeedMode(int mode)
 {
@@ -396,10 +373,7 @@ void olOSGWidget::setNavSpeedMode(int mode)
     olHostState::the().navSpeedMode = mode;
 }
 
-float olOSGWidget::getNavDollySpeed()
-{
-    return olHostState::the().navDollySpeed;
-}
+float olOSGWidget::getNavDollySpeed() { return olHostState::the().navDollySpeed; }
 
 void olOSGWidget::setNavDollySpeed(float factor)
 {
@@ -407,10 +381,7 @@ void olOSGWidget::setNavDollySpeed(float factor)
     olHostState::the().navDollySpeed = factor;
 }
 
-int olOSGWidget::getNavDollyAxis()
-{
-    return olHostState::the().navDollyAxis;
-}
+int olOSGWidget::getNavDollyAxis() { return olHostState::the().navDollyAxis; }
 
 void olOSGWidget::setNavDollyAxis(int axis)
 {
@@ -418,10 +389,7 @@ void olOSGWidget::setNavDollyAxis(int axis)
     olHostState::the().navDollyAxis = axis;
 }
 
-bool olOSGWidget::getNavDollyToPivot()
-{
-    return olHostState::the().navDollyToPivot;
-}
+bool olOSGWidget::getNavDollyToPivot() { return olHostState::the().navDollyToPivot; }
 
 void olOSGWidget::setNavDollyToPivot(bool enable)
 {
@@ -429,10 +397,7 @@ void olOSGWidget::setNavDollyToPivot(bool enable)
     olHostState::the().navDollyToPivot = enable;
 }
 
-bool olOSGWidget::getNavOrbitMode()
-{
-    return olHostState::the().navOrbitMode;
-}
+bool olOSGWidget::getNavOrbitMode() { return olHostState::the().navOrbitMode; }
 
 void olOSGWidget::setNavOrbitMode(bool enable)
 {
@@ -440,10 +405,7 @@ void olOSGWidget::setNavOrbitMode(bool enable)
     olHostState::the().navOrbitMode = enable;
 }
 
-int olOSGWidget::getNavOrbitDetectionArea()
-{
-    return olHostState::the().navOrbitDetectionArea;
-}
+int olOSGWidget::getNavOrbitDetectionArea() { return olHostState::the().navOrbitDetectionArea; }
 
 void olOSGWidget::setNavOrbitDetectionArea(int area)
 {
@@ -451,10 +413,7 @@ void olOSGWidget::setNavOrbitDetectionArea(int area)
     olHostState::the().navOrbitDetectionArea = area;
 }
 
-int olOSGWidget::getNavOrbitDetectionTime()
-{
-    return olHostState::the().navOrbitDetectionTime;
-}
+int olOSGWidget::getNavOrbitDetectionTime() { return olHostState::the().navOrbitDetectionTime; }
 
 void olOSGWidget::setNavOrbitDetectionTime(int time)
 {
@@ -498,10 +457,7 @@ void olOSGWidget::setSpacemouseFixedHeight(float height)
     olHostState::the().spacemouseFixedHeight = height;
 }
 
-int olOSGWidget::getDisplayType()
-{
-    return olHostState::the().displayType;
-}
+int olOSGWidget::getDisplayType() { return olHostState::the().displayType; }
 
 void olOSGWidget::setDisplayType(int display)
 {

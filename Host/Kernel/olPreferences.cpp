@@ -22,6 +22,7 @@ public:
     }
 
     [[nodiscard]] std::string className() const override { return boost::core::demangle(typeid(m_module).name()); }
+    [[nodiscard]] QObject *object() const override { return dynamic_cast<QObject *>(&m_module); }
 
     void applyPreferences() override { m_module.applyPreferences(); }
     void updateGUI() override { m_module.updateGUI(); }

@@ -38,10 +38,7 @@ struct Caption {
     bool isFrame;
 };
 
-template <class... Kinds> bool isOneOf(const QWidget &widget)
-{
-    return (qobject_cast<const Kinds *>(&widget) || ...);
-}
+template <class... Kinds> bool isOneOf(const QWidget &widget) { return (qobject_cast<const Kinds *>(&widget) || ...); }
 
 bool isCheckableGroup(const QWidget &widget)
 {
@@ -200,7 +197,8 @@ bool resembles(const olPageControl &control, const QString &text)
 {
     const QString written = text.mid(text.lastIndexOf(QLatin1Char('/')) + 1);
     return std::any_of(control.names.begin(), control.names.end(), [&](const QString &name) {
-        return !written.isEmpty() && (name.contains(written, Qt::CaseInsensitive) || written.contains(name, Qt::CaseInsensitive));
+        return !written.isEmpty() &&
+               (name.contains(written, Qt::CaseInsensitive) || written.contains(name, Qt::CaseInsensitive));
     });
 }
 

@@ -1,5 +1,6 @@
 #include "Preferences/olPluginLoader.h"
 
+#include "Embedded/olSceneLoaders.h"
 #include "Preferences/olPreferencesRegistry.h"
 
 #include <QCoreApplication>
@@ -44,6 +45,7 @@ QString olPluginLoader::load(const QString &file)
         return failure(QCoreApplication::translate("olPluginLoader", "it is not a file"));
     if (!m_library.load())
         return failure(m_library.errorString());
+    olRegisterSceneLoaders();
     const QString error = enter();
     if (!error.isEmpty())
         unload();

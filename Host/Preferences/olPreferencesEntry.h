@@ -33,6 +33,9 @@ public:
     /// The class of the module; not to be asked while the module is still being built.
     [[nodiscard]] virtual std::string className() const = 0;
 
+    /// The module's own object, where it is one; its class is what the module inherits besides.
+    [[nodiscard]] virtual QObject *object() const = 0;
+
     /// Null where none was handed over. The module owns it.
     [[nodiscard]] QWidget *page() const { return m_page; }
     void addPage(QWidget *page);

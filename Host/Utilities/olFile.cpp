@@ -9,7 +9,4 @@ bool olFile::exists(const std::string &path, bool onlyFile, bool onlyWritable)
     return info.exists() && (!onlyFile || info.isFile()) && (!onlyWritable || info.isWritable());
 }
 
-QString olFile::convertSeparators(const QString &path)
-{
-    return QDir::toNativeSeparators(path);
-}
+QString olFile::convertSeparators(const QString &path) { return QDir::toNativeSeparators(path); }

@@ -24,17 +24,8 @@ void log(olLogLevel level, const QString &text)
 
 olLogObserver::~olLogObserver() = default;
 
-void olLog::error(const QString &text)
-{
-    log(olLogLevel::Error, text);
-}
+void olLog::error(const QString &text) { log(olLogLevel::Error, text); }
 
-void olLog::info(const QString &text)
-{
-    log(olLogLevel::Info, text);
-}
+void olLog::info(const QString &text) { log(olLogLevel::Info, text); }
 
-olLogObserver *olLog::observe(olLogObserver *observer)
-{
-    return std::exchange(currentObserver, observer);
-}
+olLogObserver *olLog::observe(olLogObserver *observer) { return std::exchange(currentObserver, observer); }

@@ -45,40 +45,19 @@ Icon iconNamed(const QString &name)
 
 } // namespace
 
-QString olPlatform::getDataDir()
-{
-    return olHostState::the().dataDir;
-}
+QString olPlatform::getDataDir() { return olHostState::the().dataDir; }
 
-QString olPlatform::getAppName()
-{
-    return olHostState::the().applicationName;
-}
+QString olPlatform::getAppName() { return olHostState::the().applicationName; }
 
-QString olPlatform::getAppVersionName()
-{
-    return olHostState::the().appVersionName;
-}
+QString olPlatform::getAppVersionName() { return olHostState::the().appVersionName; }
 
-float olPlatform::getDpiScaleX()
-{
-    return scale(&QScreen::logicalDotsPerInchX);
-}
+float olPlatform::getDpiScaleX() { return scale(&QScreen::logicalDotsPerInchX); }
 
-float olPlatform::getDpiScaleY()
-{
-    return scale(&QScreen::logicalDotsPerInchY);
-}
+float olPlatform::getDpiScaleY() { return scale(&QScreen::logicalDotsPerInchY); }
 
-int olPlatform::getMediumIconSizeX()
-{
-    return qRound(mediumIconSize * getDpiScaleX());
-}
+int olPlatform::getMediumIconSizeX() { return qRound(mediumIconSize * getDpiScaleX()); }
 
-int olPlatform::getMediumIconSizeY()
-{
-    return qRound(mediumIconSize * getDpiScaleY());
-}
+int olPlatform::getMediumIconSizeY() { return qRound(mediumIconSize * getDpiScaleY()); }
 
 QIcon olPlatform::getIcon(const QString &name)
 {

@@ -9,10 +9,8 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace
 {
@@ -35,11 +33,13 @@ constexpr std::array<Preset, 5> presets{{
 constexpr int defaultPreset = 2;
 constexpr double smallestLength = 0.0001;
 
-/// How far apart two lengths or angles are when their proportion is what counts. Other numbers are as far as can be.
-double proportion(double left, double right)
+/// How far apart two lengths or angles are where their proportion counts. Squared, so that a single value far from a
+/// preset is not outvoted by two others that are on it.
+double distance(double value, double preset)
 {
-    const double distance = left > 0.0 ? std::fabs(std::log(left / right)) : std::numeric_limits<double>::max();
-    return std::min(distance, 100.0);
+    constexpr double farthest = 100.0;
+    const double steps = value > 0.0 ? std::log(value / preset) : farthest;
+    return steps * steps;
 }
 
 } // namespace
@@ -168,7 +168,7 @@ void olTesselationSettings::addQuality(QFormLayout &rows)
     m_quality = new QSlider(Qt::Horizontal, m_qualityRow);
     m_quality->setRange(0, int(presets.size()) - 1);
     m_quality->setPageStep(1);
-    m_quality->setTickPosition(QSlider::TicksBelow);
+    m_quality->setTickPosition(QSlider::TicksBothSides);
     m_quality->setToolTip(tr("Sets chord deviation, normal tolerance and max chord length together."));
     m_quality->setAccessibleName(m_qualityLabel->text());
     m_qualityLabel->setBuddy(m_quality);
@@ -222,6 +222,6 @@ void olTesselationSettings::updateEnabled()
 double olTesselationSettings::distanceTo(int preset) const
 {
     const Preset &values = presets.at(std::size_t(preset));
-    return proportion(chordDeviation(), values.chordDeviation) + proportion(normalTolerance(), values.normalTolerance) +
-           proportion(maxChordLength(), values.maxChordLength);
+    return distance(chordDeviation(), values.chordDeviation) + distance(normalTolerance(), values.normalTolerance) +
+           distance(maxChordLength(), values.maxChordLength);
 }

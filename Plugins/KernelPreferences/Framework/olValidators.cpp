@@ -9,7 +9,10 @@ namespace
 QDoubleValidator *addNumberValidator(QLineEdit *field)
 {
     auto *validator = new QDoubleValidator(field); // owned by the field
-    validator->setLocale(QLocale::c());
+    // The reader takes no group separators, so none can be typed.
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
+    validator->setLocale(locale);
     field->setValidator(validator);
     return validator;
 }

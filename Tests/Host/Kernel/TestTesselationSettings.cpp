@@ -18,10 +18,7 @@ class TesselationSettings : public ::testing::Test
 protected:
     TesselationSettings() { settings.setConnections(); }
 
-    template <class Widget> Widget &control(Control which)
-    {
-        return dynamic_cast<Widget &>(*settings.control(which));
-    }
+    template <class Widget> Widget &control(Control which) { return dynamic_cast<Widget &>(*settings.control(which)); }
     int quality() { return control<QSlider>(Control::Quality).value(); }
     void type(Control which, const QString &text)
     {

@@ -1,0 +1,117 @@
+#include "olPrefsOptions.h"
+
+#include "olNearest.h"
+#include "olToolError.h"
+
+namespace
+{
+
+const QString editionNames = QStringLiteral("essentials, design, professional or enterprise");
+
+/// `--name VALUE` and `--name=VALUE`, from the front of a list.
+class Reader
+{
+public:
+    explicit Reader(QStringList arguments) : m_arguments(std::move(arguments)) {}
+
+    [[nodiscard]] bool atOption() const
+    {
+        return !m_arguments.isEmpty() && m_arguments.first().startsWith(QLatin1Char('-')) &&
+               m_arguments.first().size() > 1;
+    }
+
+    [[nodiscard]] QString option()
+    {
+        const QString written = m_arguments.takeFirst();
+        const int equals = written.indexOf(QLatin1Char('='));
+        if (equals >= 0)
+            m_arguments.prepend(written.mid(equals + 1));
+        m_attached = equals >= 0;
+        return written.left(equals);
+    }
+
+    [[nodiscard]] QString value(const QString &option)
+    {
+        if (m_arguments.isEmpty())
+            throw olToolError(QStringLiteral("%1 needs a value").arg(option));
+        m_attached = false;
+        return m_arguments.takeFirst();
+    }
+
+    void requireNoValue(const QString &option) const
+    {
+        if (m_attached)
+            throw olToolError(QStringLiteral("%1 takes no value").arg(option));
+    }
+
+    [[nodiscard]] QStringList rest() const { return m_arguments; }
+
+private:
+    QStringList m_arguments;
+    bool m_attached = false;
+};
+
+olEdition edition(const QString &name)
+{
+    const std::optional<olEdition> edition = olEditionNamed(name);
+    if (!edition)
+        throw olToolError(QStringLiteral("there is no edition %1, only %2").arg(name, editionNames));
+    return *edition;
+}
+
+} // namespace
+
+olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
+{
+    static const QStringList known{QStringLiteral("--edition"), QStringLiteral("--app-name"),
+                                   QStringLiteral("--store"),   QStringLiteral("--plugin"),
+                                   QStringLiteral("--help"),    QStringLiteral("--version")};
+    olPrefsOptions options;
+    Reader reader(arguments);
+    while (reader.atOption()) {
+        const QString option = reader.option();
+        if (option == QLatin1String("--edition"))
+            options.edition = ::edition(reader.value(option));
+        else if (option == QLatin1String("--app-name"))
+            options.applicationName = reader.value(option);
+        else if (option == QLatin1String("--store"))
+            options.store = reader.value(option);
+        else if (option == QLatin1String("--plugin"))
+            options.plugin = reader.value(option);
+        else if (option == QLatin1String("--help") || option == QLatin1String("-h"))
+            options.help = true;
+        else if (option == QLatin1String("--version"))
+            options.version = true;
+        else
+            throw olToolError(QStringLiteral("there is no option %1%2").arg(option, olDidYouMean(option, known)));
+        reader.requireNoValue(option);
+    }
+    options.arguments = reader.rest();
+    if (!options.arguments.isEmpty())
+        options.command = options.arguments.takeFirst();
+    return options;
+}
+
+QString olPrefsOptions::usage()
+{
+    return QStringLiteral("Usage: orlo-prefs [OPTIONS] COMMAND\n"
+                          "Shows and changes ORLO's preferences, and drives them by script. It needs no display.\n"
+                          "\n"
+                          "Commands\n"
+                          "  list [--json]      all modules with their settings, values and defaults\n"
+                          "  get KEY            prints the value of a setting as JSON\n"
+                          "  set KEY VALUE      stores a value, JSON or plain text\n"
+                          "  script FILE|-      runs a script from a file or the standard input\n"
+                          "\n"
+                          "Options, before the command\n"
+                          "  --edition NAME     %1 (default professional)\n"
+                          "  --app-name NAME    the application's name (default orlo)\n"
+                          "  --store FILE       where the preferences are kept (default the user's store; a script\n"
+                          "                     begins empty without it, and never writes)\n"
+                          "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
+                          "                     installed plug-in folder)\n"
+                          "  --help, --version\n"
+                          "\n"
+                          "The exit status is 0, or 2 with a message on the standard error stream.\n")
+        .arg(editionNames);
+}

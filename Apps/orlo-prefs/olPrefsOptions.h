@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Embedded/olEdition.h"
+
+#include <QString>
+#include <QStringList>
+
+/// The command line of the tool taken apart.
+struct olPrefsOptions {
+    olEdition edition = olEdition::Professional;
+    QString applicationName = QStringLiteral("orlo");
+    QString store;  ///< empty: the user's own
+    QString plugin; ///< empty: where the program finds it
+    bool help = false;
+    bool version = false;
+    QString command;
+    QStringList arguments; ///< of the command
+
+    /// Throws olToolError where an option is not known or its value is none.
+    [[nodiscard]] static olPrefsOptions parsed(const QStringList &arguments);
+
+    [[nodiscard]] static QString usage();
+};

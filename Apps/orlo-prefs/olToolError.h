@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+#include <stdexcept>
+
+/// Why a command or a line of a script cannot be carried out. Thrown and caught within the tool alone, never through a
+/// call of the plug-in's.
+class olToolError : public std::runtime_error
+{
+public:
+    explicit olToolError(const QString &why) : std::runtime_error(why.toStdString()) {}
+};

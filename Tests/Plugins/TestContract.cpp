@@ -1,0 +1,252 @@
+#include "Embedded/olValue.h"
+#include "Kernel/olPreferences.h"
+#include "Preferences/olPreferencesRegistry.h"
+#include "Support/PluginTest.h"
+
+#include <QMetaObject>
+#include <QVariant>
+
+#include <map>
+#include <set>
+
+// What must hold for every module there is, whatever it is about. A new module is covered without being named here.
+
+namespace
+{
+
+using Values = std::map<std::string, boost::any>;
+
+Values valuesOf(const olPreferencesEntry &module)
+{
+    Values values;
+    for (const olOfferedDefault &offered : module.defaults())
+        values[module.className() + ' ' + offered.key] = module.value(offered.key);
+    return values;
+}
+
+void expectSame(const Values &left, const Values &right)
+{
+    ASSERT_EQ(left.size(), right.size());
+    for (const auto &[key, value] : left) {
+        EXPECT_TRUE(olValue::equal(value, right.at(key)))
+            << key << ": " << olValue::toJson(value) << " and then " << olValue::toJson(right.at(key));
+    }
+}
+
+/// What the control of a key holds; invalid for a key without one.
+QVariant onPage(const olPreferencesEntry &module, const std::string &key)
+{
+    QObject *access = module.page() ? module.page()->findChild<QObject *>("olSettingAccess") : nullptr;
+    QVariant value;
+    if (access)
+        QMetaObject::invokeMethod(access, "value", Q_RETURN_ARG(QVariant, value),
+                                  Q_ARG(QString, QString::fromStdString(key)));
+    return value;
+}
+
+bool showOnPage(const olPreferencesEntry &module, const std::string &key, const QVariant &value)
+{
+    QObject *access = module.page()->findChild<QObject *>("olSettingAccess");
+    bool shown = false;
+    QMetaObject::invokeMethod(access, "setValue", Q_RETURN_ARG(bool, shown),
+                              Q_ARG(QString, QString::fromStdString(key)), Q_ARG(QVariant, value));
+    return shown;
+}
+
+/// Silences what the typed reader says about wrong types, which is tested where it belongs.
+class QuietDiagnostics
+{
+public:
+    QuietDiagnostics() { testing::internal::CaptureStderr(); }
+    ~QuietDiagnostics() { testing::internal::GetCapturedStderr(); }
+};
+
+class Contract : public PluginTest, public testing::WithParamInterface<olEdition>
+{
+protected:
+    Contract() : PluginTest(GetParam()) { writeDefaults(); }
+
+    static void writeDefaults()
+    {
+        for (olPreferencesEntry *module : modules())
+            module->setDefaults(true);
+    }
+};
+
+TEST_P(Contract, DefaultsShownAndTakenBackChangeNothing)
+{
+    for (olPreferencesEntry *module : modules()) {
+        const Values before = valuesOf(*module);
+        module->updateGUI();
+        module->updateData();
+        expectSame(before, valuesOf(*module));
+        module->updateData();
+        expectSame(before, valuesOf(*module));
+    }
+}
+
+TEST_P(Contract, FillingTwiceIsFillingOnce)
+{
+    for (olPreferencesEntry *module : modules()) {
+        std::map<std::string, QVariant> once;
+        module->updateGUI();
+        for (const olOfferedDefault &offered : module->defaults())
+            once[offered.key] = onPage(*module, offered.key);
+        module->updateGUI();
+        for (const auto &[key, value] : once)
+            EXPECT_EQ(onPage(*module, key), value) << module->className() << ' ' << key;
+    }
+}
+
+TEST_P(Contract, WhatASettingsControlHoldsCanBeShownInItAgain)
+{
+    for (olPreferencesEntry *module : modules()) {
+        module->updateGUI();
+        for (const olOfferedDefault &offered : module->defaults()) {
+            const QVariant value = onPage(*module, offered.key);
+            if (!value.isValid())
+                continue;
+            EXPECT_TRUE(showOnPage(*module, offered.key, value)) << module->className() << ' ' << offered.key;
+            EXPECT_EQ(onPage(*module, offered.key), value) << module->className() << ' ' << offered.key;
+            EXPECT_FALSE(showOnPage(*module, offered.key, QVariant())) << "nothing is no value of " << offered.key;
+        }
+    }
+}
+
+TEST_P(Contract, EveryTaggedControlAnswersForItsKeys)
+{
+    for (const olPreferencesEntry *module : modules()) {
+        if (!module->page())
+            continue;
+        const auto widgets = module->page()->findChildren<QWidget *>();
+        for (const QWidget *widget : widgets) {
+            const QStringList keys = widget->property("olSettingKeys").toStringList();
+            for (const QString &key : keys)
+                EXPECT_TRUE(onPage(*module, key.toStdString()).isValid()) << key.toStdString();
+        }
+    }
+}
+
+TEST_P(Contract, AKeyHasOneOwner)
+{
+    // Every format offers these two, because each asks for them; their owners remove them.
+    const std::set<std::string> shared{"BCADOptions use ATF", "PLMXML load referenced files"};
+    std::map<std::string, std::string> owners;
+    for (const olPreferencesEntry *module : modules()) {
+        for (const olOfferedDefault &offered : module->defaults()) {
+            EXPECT_FALSE(olValue::typeName(offered.value).empty()) << offered.key << " has a type of no setting";
+            const auto [owner, isNew] = owners.emplace(offered.key, module->className());
+            EXPECT_TRUE(isNew || shared.count(offered.key))
+                << offered.key << " of " << module->className() << " is also " << owner->second << "'s";
+        }
+    }
+}
+
+TEST_P(Contract, DefaultsWithoutTheFlagOverwriteNothing)
+{
+    for (olPreferencesEntry *module : modules()) {
+        if (module->home() != olHome::Record)
+            continue;
+        const auto offered = module->defaults();
+        for (const olOfferedDefault &setting : offered)
+            record().set(setting.key, std::string("someone's own"), true);
+        module->setDefaults(false);
+        for (const olOfferedDefault &setting : offered)
+            EXPECT_EQ(olValue::typeName(record().get(setting.key)), "string") << setting.key;
+        module->setDefaults(true);
+        for (const olOfferedDefault &setting : offered)
+            EXPECT_TRUE(olValue::equal(record().get(setting.key), setting.value)) << setting.key;
+    }
+}
+
+TEST_P(Contract, AWrongTypeReachesTheHostNoMoreThanAMissingKey)
+{
+    const QuietDiagnostics quiet;
+    for (olPreferencesEntry *module : modules()) {
+        if (module->home() != olHome::Record)
+            continue;
+        const auto offered = module->defaults();
+        for (const olOfferedDefault &setting : offered) {
+            module->setDefaults(true);
+            module->updateGUI();
+            module->applyPreferences();
+
+            record().remove(setting.key);
+            calls.take();
+            module->applyPreferences();
+            const auto missing = calls.take();
+            module->updateGUI();
+            const QVariant control = onPage(*module, setting.key);
+
+            // No setting is a single character.
+            record().set(setting.key, 'x', true);
+            module->applyPreferences();
+            EXPECT_EQ(calls.take(), missing) << setting.key;
+            module->updateGUI();
+            EXPECT_EQ(onPage(*module, setting.key), control) << setting.key;
+        }
+    }
+}
+
+TEST_P(Contract, TearingDownLeavesNoKey)
+{
+    plugin.unload();
+    EXPECT_TRUE(record().entries().empty()) << "first key left: " << record().entries().begin()->first;
+}
+
+TEST_P(Contract, NothingEditedMeansNothingChangedForTheTrackingModules)
+{
+    // These store plainly and report nothing, so everything of theirs counts as changed.
+    const std::set<std::string> plain{"olMainWindowPreferencesGUII", "olFileIOPreferencesGUII", "olWrlPreferencesGUII",
+                                      "olKBXFilePreferencesGUII"};
+    for (olPreferencesEntry *module : modules()) {
+        auto *tracking = dynamic_cast<olPreferences *>(module->object());
+        if (!tracking || plain.count(module->className()))
+            continue;
+        module->updateGUI();
+        module->updateData();
+        for (const olOfferedDefault &offered : module->defaults()) {
+            const bool hasControl = onPage(*module, offered.key).isValid();
+            EXPECT_EQ(tracking->isChanged(offered.key.c_str()), !hasControl && module->page()) << offered.key;
+        }
+    }
+}
+
+/// What a host may do in another order than ours: the pages are filled last.
+TEST_P(Contract, AnotherHostsOrderOfStartingWorksToo)
+{
+    olMessage &data = record();
+    data.set("Camera fov", 60.0f, true);
+    for (olPreferencesEntry *module : modules()) {
+        module->setDefaults(false);
+        module->preferencesLoaded();
+    }
+    for (olPreferencesEntry *module : modules())
+        module->preferencesInitialApply();
+    for (olPreferencesEntry *module : modules())
+        module->updateGUI();
+    const auto otherOrder = calls.take();
+    EXPECT_NE(std::find(otherOrder.begin(), otherOrder.end(), "olOSGWidget::setFov(-1, 60)"), otherOrder.end());
+
+    Values values;
+    for (olPreferencesEntry *module : modules()) {
+        const Values some = valuesOf(*module);
+        module->updateData();
+        expectSame(some, valuesOf(*module));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Editions, Contract,
+                         testing::Values(olEdition::Essentials, olEdition::Design, olEdition::Enterprise),
+                         [](const auto &info) {
+                             switch (info.param) {
+                             case olEdition::Essentials:
+                                 return "Essentials";
+                             case olEdition::Design:
+                                 return "Design";
+                             default:
+                                 return "Enterprise";
+                             }
+                         });
+
+} // namespace

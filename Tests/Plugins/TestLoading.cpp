@@ -1,0 +1,149 @@
+#include "Preferences/olPreferencesRegistry.h"
+#include "Support/PluginTest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <stdexcept>
+
+namespace
+{
+
+bool isMapped(const char *library)
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(library);
+}
+
+std::vector<QString> registered()
+{
+    std::vector<QString> names;
+    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries())
+        names.push_back(entry->name());
+    return names;
+}
+
+class Loading : public PluginTest
+{
+};
+
+TEST_F(Loading, EnteringTwiceRegistersNothingTwice)
+{
+    const auto once = registered();
+    ASSERT_FALSE(once.empty());
+    EXPECT_EQ(plugin.enter(), QString());
+    EXPECT_EQ(registered(), once);
+}
+
+TEST_F(Loading, UnloadingDestroysTheModulesLastFirstAndLeavesNothing)
+{
+    for (olPreferencesEntry *entry : modules())
+        entry->setDefaults(true);
+    ASSERT_TRUE(isMapped("libKernelPreferences.so"));
+
+    // Each departure must take the last of those still there.
+    auto expected = registered();
+    const auto watch = QObject::connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, [&expected] {
+        expected.pop_back();
+        EXPECT_EQ(registered(), expected);
+    });
+    plugin.unload();
+    QObject::disconnect(watch);
+
+    EXPECT_TRUE(registered().empty());
+    EXPECT_FALSE(isMapped("libKernelPreferences.so"));
+    EXPECT_TRUE(record().entries().empty()) << "first key left: " << record().entries().begin()->first;
+}
+
+TEST_F(Loading, WhatTheRecordStillHoldsOutlivesTheLibrary)
+{
+    record().set("Someone else's", std::vector<float>{1.0f, 0.5f}, true);
+    plugin.unload();
+    const auto *kept = boost::any_cast<std::vector<float>>(&record().get("Someone else's"));
+    ASSERT_NE(kept, nullptr);
+    EXPECT_EQ(*kept, (std::vector<float>{1.0f, 0.5f}));
+    record().remove("Someone else's");
+}
+
+TEST_F(Loading, AModuleThatCannotBeBuiltIsTriedAgainAndTheOthersStay)
+{
+    const auto all = registered();
+    const std::size_t failing = all.size() / 2;
+    plugin.unload();
+
+    int attempts = 0;
+    olPreferencesRegistry::the().setRegistrationHook([&](const QString &name) {
+        if (name == all[failing] && ++attempts == 1)
+            throw std::runtime_error("no room for it");
+    });
+    const QString file = QStringLiteral(ORLO_PLUGIN_FILE);
+    QLibrary library(file);
+    ASSERT_TRUE(library.load());
+    const auto entry = reinterpret_cast<void (*)()>(library.resolve("initPreferencesPlugin"));
+    EXPECT_THROW(entry(), std::runtime_error);
+    EXPECT_EQ(registered(), std::vector<QString>(all.begin(), all.begin() + std::ptrdiff_t(failing)));
+
+    entry();
+    EXPECT_EQ(registered(), all);
+    EXPECT_EQ(attempts, 2);
+    olPreferencesRegistry::the().setRegistrationHook({});
+    library.unload();
+    EXPECT_TRUE(registered().empty());
+}
+
+TEST_F(Loading, TheLoaderReportsAModuleThatCannotBeBuilt)
+{
+    plugin.unload();
+    olPreferencesRegistry::the().setRegistrationHook(
+        [](const QString &) { throw std::runtime_error("no room for it"); });
+    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
+    olPreferencesRegistry::the().setRegistrationHook({});
+    EXPECT_TRUE(error.contains(QStringLiteral("libKernelPreferences.so"))) << error.toStdString();
+    EXPECT_TRUE(error.contains(QStringLiteral("no room for it"))) << error.toStdString();
+    EXPECT_FALSE(isMapped("libKernelPreferences.so"));
+}
+
+/// A file that is no plug-in, and what the one sentence about it must contain.
+struct BadLibrary {
+    const char *name;
+    QString file;
+    const char *reason;
+};
+
+void PrintTo(const BadLibrary &library, std::ostream *out) { *out << library.name; }
+
+class BadLibraries : public testing::TestWithParam<BadLibrary>
+{
+};
+
+TEST_P(BadLibraries, GetOneSentenceWithFileAndReason)
+{
+    QTemporaryDir folder;
+    QString file = GetParam().file;
+    if (file.isEmpty()) {
+        file = folder.filePath(QStringLiteral("broken.so"));
+        QFile broken(file);
+        ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+        broken.write("\x7f"
+                     "ELF, but not really a library");
+    }
+    olPluginLoader loader;
+    const QString error = loader.load(file);
+    EXPECT_TRUE(error.startsWith(QStringLiteral("Cannot load the preferences plug-in ") + file)) << error.toStdString();
+    EXPECT_TRUE(error.contains(QLatin1String(GetParam().reason))) << error.toStdString();
+    EXPECT_FALSE(error.contains(QLatin1Char('\n')));
+    EXPECT_FALSE(loader.isLoaded());
+    EXPECT_TRUE(registered().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, BadLibraries,
+    testing::Values(BadLibrary{"Missing", QStringLiteral("/nowhere/libKernelPreferences.so"), "no such file"},
+                    BadLibrary{"Folder", QStringLiteral("/tmp"), "not a file"},
+                    BadLibrary{"Broken", QString(), "too short"},
+                    BadLibrary{"Foreign", QStringLiteral(ORLO_FOREIGN_LIBRARY),
+                               "no entry function initPreferencesPlugin"},
+                    BadLibrary{"Unresolved", QStringLiteral(ORLO_UNRESOLVED_LIBRARY), "functionThatNoHostHas"}),
+    [](const auto &info) { return info.param.name; });
+
+} // namespace

@@ -1,0 +1,50 @@
+"""Looks through the sources for what the rings forbid: the plug-in knows only the SDK, never the embedded host behind
+it, and every header guards itself."""
+
+import re
+import sys
+from pathlib import Path
+
+SDK_FOLDERS = {"Display", "Kernel", "KernelServices", "OpenSG", "Utilities", "Widgets"}
+PLUGIN_FOLDERS = {"Framework", "Viewer", "FileIO"}
+INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.MULTILINE)
+
+
+def plugin_faults(path, text):
+    for quote, name in INCLUDE.findall(text):
+        folder = name.split("/")[0] if "/" in name else ""
+        own = folder in PLUGIN_FOLDERS or name.startswith("ui_") or name == "olKernelPreferences.h"
+        if quote == '"' and folder not in SDK_FOLDERS and not own and not name.endswith(".moc"):
+            yield f"includes {name}, which is not in the SDK"
+        if quote == "<" and folder and folder not in {"OpenSG", "boost", "sys"}:
+            yield f"includes {name}, which is no dependency of the plug-in"
+    if "QStringLiteral" in text:
+        yield "uses QStringLiteral, whose text would go with the library while the host may still hold it"
+
+
+def sdk_faults(path, text):
+    if path.suffix != ".h":
+        return
+    for quote, name in INCLUDE.findall(text):
+        if name.split("/")[0] in {"Embedded", "Preferences"}:
+            yield f"an SDK header includes {name} of the embedded host"
+
+
+def main():
+    root = Path(sys.argv[1])
+    faults = []
+    for path in sorted((root / "Plugins").rglob("*")):
+        if path.suffix in {".h", ".cpp"}:
+            faults += [f"{path.relative_to(root)}: {fault}" for fault in plugin_faults(path, path.read_text())]
+    for folder in sorted(SDK_FOLDERS):
+        for path in sorted((root / "Host" / folder).rglob("*.h")):
+            faults += [f"{path.relative_to(root)}: {fault}" for fault in sdk_faults(path, path.read_text())]
+    for top in ("Apps", "Host", "Plugins", "Tests"):
+        for path in sorted((root / top).rglob("*.h")):
+            if not path.read_text().startswith("#pragma once"):
+                faults.append(f"{path.relative_to(root)}: does not begin with #pragma once")
+    print("\n".join(faults) or "no fault")
+    sys.exit(1 if faults else 0)
+
+
+main()
