@@ -16,5 +16,4 @@ done
 
 install_packages
 build "$preset"
-export QT_QPA_PLATFORM=offscreen
 ctest --preset "$preset" --parallel "$(nproc)"

@@ -64,8 +64,9 @@ int count(const olScriptWord &word)
     return number;
 }
 
-QString moduleNames(QStringList &names)
+QString moduleNames()
 {
+    QStringList names;
     for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries())
         names << entry->name();
     return names.join(QStringLiteral(", "));
@@ -354,9 +355,7 @@ std::vector<olPreferencesEntry *> olScriptRunner::modules(const std::optional<ol
     olPreferencesEntry *entry = olPreferencesRegistry::the().find(name->text);
     if (entry)
         return {entry};
-    QStringList names;
-    const QString all = moduleNames(names);
-    throw olToolError(QStringLiteral("there is no module \"%1\"; there is: %2").arg(name->text, all));
+    throw olToolError(QStringLiteral("there is no module \"%1\"; there is: %2").arg(name->text, moduleNames()));
 }
 
 void olScriptRunner::requireLibrary() const

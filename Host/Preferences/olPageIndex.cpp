@@ -83,6 +83,20 @@ QString ownText(const QWidget &widget)
     return {};
 }
 
+/// As the form has them. A stack keeps its children by depth, so its pages are put in order first.
+QList<QWidget *> childrenInOrder(const QWidget &parent)
+{
+    QList<QWidget *> children;
+    const auto *stack = qobject_cast<const QStackedWidget *>(&parent);
+    for (int index = 0; stack && index < stack->count(); ++index)
+        children << stack->widget(index);
+    for (QObject *child : parent.children()) {
+        if (child->isWidgetType() && !children.contains(static_cast<QWidget *>(child)))
+            children << static_cast<QWidget *>(child);
+    }
+    return children;
+}
+
 /// Collects the controls of a page on one walk through its widgets.
 class Walk
 {
@@ -103,10 +117,9 @@ public:
 private:
     void visitChildren(const QWidget &parent)
     {
-        for (QObject *child : parent.children()) {
-            if (child->isWidgetType())
-                visit(*static_cast<QWidget *>(child));
-        }
+        const QList<QWidget *> children = childrenInOrder(parent);
+        for (QWidget *child : children)
+            visit(*child);
     }
 
     void visit(QWidget &widget)

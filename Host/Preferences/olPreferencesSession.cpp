@@ -171,6 +171,14 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
     return {};
 }
 
+boost::any olPreferencesSession::defaultValue(const std::string &key) const
+{
+    const olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key);
+    return owner ? owner->findDefault(key)->value : boost::any();
+}
+
+std::optional<QString> olPreferencesSession::lockReason(const std::string &) const { return std::nullopt; }
+
 std::vector<std::string> olPreferencesSession::keys()
 {
     std::vector<std::string> keys;

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,12 @@ public:
 
     /// Unloads the plug-in. Values are not stored by this.
     void stop() { m_plugin.unload(); }
+
+    /// What a setting is without anyone's choice: the module's default. Empty for a key that has none.
+    [[nodiscard]] boost::any defaultValue(const std::string &key) const;
+
+    /// Why a setting cannot be changed; nothing where it can.
+    [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
     /// Of all modules in order, each key once.
     [[nodiscard]] static std::vector<std::string> keys();

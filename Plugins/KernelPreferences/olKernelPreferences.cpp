@@ -7,6 +7,7 @@
 #include "FileIO/olWrlPreferencesGUII.h"
 #include "Kernel/olController.h"
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
 {
@@ -29,6 +30,7 @@ constexpr Creation creations[] = {
     create<olFileIOPreferencesGUII>,
     create<olMirraPreferencesGUII>,
     create<olOsbPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>,
     createOutsideEssentials<olTesselationPreferencesGUII>,
     create<olWrlPreferencesGUII>,
 };

@@ -8,6 +8,8 @@ int main(int argc, char *argv[])
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("ORLO tests"));
     return RUN_ALL_TESTS();
