@@ -69,8 +69,10 @@ void olTesselationPreferencesGUIW::itemChanged(QTreeWidgetItem *item, int)
     m_form->qualities->setSortingEnabled(false);
     {
         const QSignalBlocker quiet(m_form->qualities);
-        if (!row.takeText())
-            refuse(row);
+        if (!row.takeText()) {
+            QMessageBox::warning(this, tr("Tesselation"), tr("Only positive non zero values are allowed!"));
+            row.showTolerance();
+        }
     }
     m_form->qualities->setSortingEnabled(true);
 }
@@ -84,12 +86,3 @@ void olTesselationPreferencesGUIW::clickedAdd()
 }
 
 void olTesselationPreferencesGUIW::clickedRemove() { qDeleteAll(m_form->qualities->selectedItems()); }
-
-void olTesselationPreferencesGUIW::refuse(olTesselationListViewItem &row)
-{
-    // The box takes the focus from the editor that the text came from. The editor would hand the text in once more and
-    // be deleted, while those who called are still using it.
-    const QSignalBlocker keepsEditor(m_form->qualities->itemDelegate());
-    QMessageBox::warning(this, tr("Tesselation"), tr("Only positive non zero values are allowed!"));
-    row.showTolerance();
-}

@@ -6,7 +6,6 @@
 #include <vector>
 
 class QTreeWidgetItem;
-class olTesselationListViewItem;
 
 namespace Ui
 {
@@ -35,7 +34,5 @@ public slots:
     void clickedRemove();
 
 private:
-    void refuse(olTesselationListViewItem &row);
-
     std::unique_ptr<Ui::olTesselationPreferencesGUI> m_form;
 };
