@@ -7,6 +7,7 @@
 #include "olModalAnswers.h"
 #include "olNearest.h"
 #include "olScriptRunner.h"
+#include "olSettingsCatalogue.h"
 #include "olSettingsList.h"
 #include "olToolError.h"
 
@@ -67,11 +68,17 @@ void olPrefsTool::run()
 
 void olPrefsTool::list()
 {
-    const bool json = m_options.arguments == QStringList{QStringLiteral("--json")};
-    if (!json)
-        requireArguments(0, "list [--json]");
+    const QString form = m_options.arguments.value(0);
+    const bool json = form == QLatin1String("--json");
+    const bool markdown = form == QLatin1String("--markdown");
+    requireArguments(json || markdown ? 1 : 0, "list [--json | --markdown]");
     loadEverything();
-    print(json ? olSettingsList::json() : olSettingsList::table());
+    if (json)
+        print(olSettingsList::json());
+    else if (markdown)
+        print(olSettingsCatalogue());
+    else
+        print(olSettingsList::table());
 }
 
 void olPrefsTool::get()

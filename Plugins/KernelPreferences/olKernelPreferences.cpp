@@ -7,6 +7,11 @@
 #include "FileIO/olWrlPreferencesGUII.h"
 #include "Kernel/olController.h"
 #include "Viewer/olCameraPreferencesGUII.h"
+#include "Viewer/olDevicesPreferencesGUII.h"
+#include "Viewer/olHelpPreferencesGUII.h"
+#include "Viewer/olMainWindowPreferencesGUII.h"
+#include "Viewer/olMarkerPreferencesGUII.h"
+#include "Viewer/olNavigatorPreferencesGUII.h"
 #include "Viewer/olRenderOptionsPreferencesGUII.h"
 
 namespace
@@ -26,13 +31,12 @@ using Creation = void (*)();
 
 /// In the order of registration, which is the order of the host's list and, reversed, of destruction.
 constexpr Creation creations[] = {
-    create<olCameraPreferencesGUII>,
-    create<olFileIOPreferencesGUII>,
-    create<olMirraPreferencesGUII>,
-    create<olOsbPreferencesGUII>,
-    create<olRenderOptionsPreferencesGUII>,
-    createOutsideEssentials<olTesselationPreferencesGUII>,
-    create<olWrlPreferencesGUII>,
+    create<olCameraPreferencesGUII>,        create<olDevicesPreferencesGUII>,
+    create<olFileIOPreferencesGUII>,        create<olMainWindowPreferencesGUII>,
+    create<olMarkerPreferencesGUII>,        create<olMirraPreferencesGUII>,
+    create<olNavigatorPreferencesGUII>,     create<olOsbPreferencesGUII>,
+    create<olRenderOptionsPreferencesGUII>, createOutsideEssentials<olTesselationPreferencesGUII>,
+    create<olWrlPreferencesGUII>,           create<olHelpPreferencesGUII>,
 };
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 #include <string>
@@ -43,6 +44,13 @@ struct olZeroOrOne {
 };
 inline olZeroOrOne zeroOrOne(QCheckBox *box) { return {box}; }
 
+/// A control whose signals are held back while it is shown: what it sets off when the user works it must not happen
+/// when the page is filled.
+template <class Control> struct olQuiet {
+    Control control;
+    QWidget *widget;
+};
+
 /// The widget behind a control, wrapped or plain.
 template <class Control> QWidget *widgetOf(const Control &control)
 {
@@ -51,6 +59,8 @@ template <class Control> QWidget *widgetOf(const Control &control)
     else
         return control.widget;
 }
+
+template <class Control> olQuiet<Control> quiet(Control control) { return {control, widgetOf(control)}; }
 
 inline void showOn(QCheckBox *box, bool value) { box->setChecked(value); }
 inline void takeFrom(const QCheckBox *box, bool &value) { value = box->isChecked(); }
@@ -115,3 +125,13 @@ template <class Number> void takeFrom(const QOLWheelPrec *wheel, Number &value) 
 
 inline void showOn(QOLColorManipulator *colour, const osg::Color3f &value) { colour->setColor(value); }
 inline void takeFrom(const QOLColorManipulator *colour, osg::Color3f &value) { value = colour->getColor(); }
+
+template <class Control, class T> void showOn(const olQuiet<Control> &quiet, const T &value)
+{
+    const QSignalBlocker blocker(quiet.widget);
+    showOn(quiet.control, value);
+}
+template <class Control, class T> void takeFrom(const olQuiet<Control> &quiet, T &value)
+{
+    takeFrom(quiet.control, value);
+}
