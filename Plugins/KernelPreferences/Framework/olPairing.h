@@ -57,7 +57,7 @@ class olRetiredSetting : public olListedSetting
 public:
     explicit olRetiredSetting(std::string key) : olListedSetting(m_retired), m_retired(std::move(key)) {}
 
-    void writeDefault(olMessage &, bool) const override {}
+    void writeDefault(bool) const override {}
 
 private:
     olSettingBase m_retired;
@@ -129,23 +129,13 @@ public:
     {
     }
 
-    void writeDefault(olMessage &, bool) const override {}
+    void writeDefault(bool) const override {}
 
-    bool takeIfChanged(olMessage &record) const override
+    bool takeIfChanged() const override
     {
         const List list = this->taken();
-        if (!list.empty())
-            return setIfChanged(record, this->key(), list, true);
-        const bool wasThere = !record.get(this->key()).empty();
-        record.remove(this->key());
-        return wasThere;
+        return list.empty() ? olRecordStore::remove(this->setting())
+                            : olRecordStore::writeIfChanged(this->typed(), list);
     }
-    void take(olMessage &record) const override
-    {
-        const List list = this->taken();
-        if (list.empty())
-            record.remove(this->key());
-        else
-            record.set(this->key(), boost::any(list), true);
-    }
+    void take() const override { takeIfChanged(); }
 };

@@ -27,6 +27,14 @@ struct olRecordStore {
         return setIfChanged(record(), setting.key(), value, true);
     }
 
+    /// False where the record had none.
+    static bool remove(const olSettingBase &setting)
+    {
+        const bool wasThere = !record().get(setting.key()).empty();
+        record().remove(setting.key());
+        return wasThere;
+    }
+
 private:
     static olMessage &record() { return olPreferences::getData(); }
 };
