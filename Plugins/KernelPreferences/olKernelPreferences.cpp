@@ -4,11 +4,14 @@
 #include "FileIO/olCatiaV5FilePreferencesGUII.h"
 #include "FileIO/olDGNFilePreferencesGUII.h"
 #include "FileIO/olDraftixFilePreferencesGUII.h"
+#include "FileIO/olFileIOPreferencesGUII.h"
 #include "FileIO/olGenericCADFilePreferencesGUII.h"
 #include "FileIO/olIgesFilePreferencesGUII.h"
 #include "FileIO/olJtFilePreferencesGUII.h"
 #include "FileIO/olKBXFilePreferencesGUII.h"
+#include "FileIO/olMirraPreferencesGUII.h"
 #include "FileIO/olNXFilePreferencesGUII.h"
+#include "FileIO/olOsbPreferencesGUII.h"
 #include "FileIO/olPLMXMLPreferencesGUII.h"
 #include "FileIO/olPartwrightFilePreferencesGUII.h"
 #include "FileIO/olProEngineerFilePreferencesGUII.h"
@@ -17,7 +20,10 @@
 #include "FileIO/olSolidWorksFilePreferencesGUII.h"
 #include "FileIO/olStepFilePreferencesGUII.h"
 #include "FileIO/olStlFilePreferencesGUII.h"
+#include "FileIO/olTesselationPreferencesGUII.h"
 #include "FileIO/olWireFilePreferencesGUII.h"
+#include "FileIO/olWrlPreferencesGUII.h"
+#include "Kernel/olController.h"
 #include "Viewer/olCameraPreferencesGUII.h"
 #include "Viewer/olDevicesPreferencesGUII.h"
 #include "Viewer/olHelpPreferencesGUII.h"
@@ -31,6 +37,13 @@ namespace
 
 /// Builds the module the first time it is called; the library's unloading destroys it.
 template <class Module> void create() { static Module module; }
+
+/// The same where the edition is not the reduced one, which is asked at each call: a later call makes up for it.
+template <class Module> void createOutsideEssentials()
+{
+    if (!olController::isOrloEssentials())
+        create<Module>();
+}
 
 using Creation = void (*)();
 
@@ -57,10 +70,15 @@ constexpr Creation creations[] = {
     create<olPLMXMLPreferencesGUII>,
     create<olCameraPreferencesGUII>,
     create<olDevicesPreferencesGUII>,
+    create<olFileIOPreferencesGUII>,
     create<olMainWindowPreferencesGUII>,
     create<olMarkerPreferencesGUII>,
+    create<olMirraPreferencesGUII>,
     create<olNavigatorPreferencesGUII>,
+    create<olOsbPreferencesGUII>,
     create<olRenderOptionsPreferencesGUII>,
+    createOutsideEssentials<olTesselationPreferencesGUII>,
+    create<olWrlPreferencesGUII>,
     create<olHelpPreferencesGUII>,
 };
 // clang-format on

@@ -125,6 +125,4 @@ void olSettingList::removeKeys() const
         if (!isForeign(setting->setting()))
             record().remove(setting->key());
     }
-    for (const std::string &key : m_retired)
-        record().remove(key);
 }

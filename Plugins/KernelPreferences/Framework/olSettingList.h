@@ -45,6 +45,12 @@ public:
         append(std::make_unique<olUnshownSetting<T>>(setting));
     }
 
+    /// A list without a default, which the record holds only while it has elements.
+    template <class List, class Control> void addOptionalList(const olSetting<List> &setting, Control control)
+    {
+        append(std::make_unique<olOptionalList<List, Control>>(setting, control));
+    }
+
     /// A setting without a control whose default several modules write. Its key stays at teardown, unless this module
     /// owns it.
     template <class T> void addShared(const olSetting<T> &setting)
@@ -56,8 +62,8 @@ public:
     /// Makes this module the one that removes a shared setting.
     void own(const olSettingBase &shared);
 
-    /// A key of former times: never written, removed behind all others.
-    void addRetired(std::string key) { m_retired.push_back(std::move(key)); }
+    /// A key of former times: never written, removed at its place among the others.
+    void addRetired(std::string key) { append(std::make_unique<olRetiredSetting>(std::move(key))); }
 
     void writeDefaults(bool flag) const;
     void writeDefaults(Order order, bool flag) const;
@@ -87,5 +93,4 @@ private:
 
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
     std::vector<const olSettingBase *> m_foreign;
-    std::vector<std::string> m_retired;
 };
