@@ -7,6 +7,7 @@
 #include "olModalAnswers.h"
 #include "olNearest.h"
 #include "olScriptRunner.h"
+#include "olSettingsCatalogue.h"
 #include "olSettingsList.h"
 #include "olToolError.h"
 
@@ -74,11 +75,17 @@ void olPrefsTool::run()
 
 void olPrefsTool::list()
 {
-    const bool json = m_options.arguments == QStringList{QStringLiteral("--json")};
-    if (!json)
-        requireArguments(0, "list [--json]");
+    const QString form = m_options.arguments.value(0);
+    const bool json = form == QLatin1String("--json");
+    const bool markdown = form == QLatin1String("--markdown");
+    requireArguments(json || markdown ? 1 : 0, "list [--json | --markdown]");
     loadEverything();
-    print(json ? olSettingsList::json() : olSettingsList::table());
+    if (json)
+        print(olSettingsList::json());
+    else if (markdown)
+        print(olSettingsCatalogue());
+    else
+        print(olSettingsList::table());
 }
 
 void olPrefsTool::get()
@@ -118,6 +125,9 @@ void olPrefsTool::script()
         throw olToolError(QStringLiteral("Cannot read the script %1: %2.").arg(name, file.errorString()));
     if (!m_options.store.isEmpty())
         loadStore(olStoreUse::LookAt);
+    // The language that was stored is that of a start, which a script does not run; its controls go by the names of
+    // the untranslated pages.
+    olHostState::the().displayLanguage.reset();
     loadPlugin();
     olScriptRunner(m_session, stdout).run(file);
 }

@@ -42,12 +42,13 @@ public:
     olHostValue<bool> buttonTextShown{*this, "buttonTextShown", true};
     olHostValue<bool> simpleToolclips{*this, "simpleToolclips", false};
 
-    // Web interface: its port and pipe as given from outside the preferences, whether the object exists, and whether
-    // the server shall run
+    // Web interface: its port and pipe as given from outside the preferences, whether the object exists, whether
+    // the server shall run and whether it does
     olHostValue<int> webInterfacePort{*this, "webInterfacePort", 0, Fact};
     olHostValue<std::string> webInterfacePipe{*this, "webInterfacePipe", {}, Fact};
     olHostValue<bool> webInterface{*this, "webInterface", false, Fact};
     olHostValue<bool> webInterfaceWanted{*this, "webInterfaceWanted", false};
+    olHostValue<bool> webInterfaceRunning{*this, "webInterfaceRunning", false};
     olHostValue<bool> webInterfaceDebugMode{*this, "webInterfaceDebugMode", false};
 
     // Camera
@@ -168,8 +169,13 @@ public:
     olHostValue<int> navOrbitDetectionArea{*this, "navOrbitDetectionArea", 0, Fact};
     olHostValue<int> navOrbitDetectionTime{*this, "navOrbitDetectionTime", 0, Fact};
 
-    // Input devices; the space mouse is wanted or not, whether or not one is connected
+    // Input devices. The space mouse is wanted or not, whether or not its daemon is there. Its motion is how far the
+    // cap is moved along x, y and z and turned about them, in the daemon's units; each button is a bit, the first the
+    // lowest
     olHostValue<bool> spacemouseWanted{*this, "spacemouseWanted", false};
+    olHostValue<bool> spacemouseConnected{*this, "spacemouseConnected", false};
+    olHostValue<std::vector<float>> spacemouseMotion{*this, "spacemouseMotion", std::vector<float>(6, 0.0f)};
+    olHostValue<unsigned> spacemouseButtons{*this, "spacemouseButtons", 0};
     olHostValue<int> spacemouseViewMode{*this, "spacemouseViewMode", 0};
     olHostValue<int> spacemousePivotMode{*this, "spacemousePivotMode", 0};
     olHostValue<bool> spacemouseTwoAxis{*this, "spacemouseTwoAxis", false};

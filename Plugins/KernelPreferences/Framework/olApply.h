@@ -20,6 +20,9 @@ template <class T> T readOr(const olSetting<T> &setting, T fallback)
     return fallback;
 }
 
+/// The setting's value, or its default where the record has none of its type.
+template <class T> T readOrDefault(const olSetting<T> &setting) { return readOr(setting, setting.defaultValue()); }
+
 /// Hands the setting's value to a host call; the call is left out where the record has none of its type.
 template <class T, class Call> void applyIfRead(const olSetting<T> &setting, Call &&call)
 {
@@ -51,6 +54,13 @@ public:
     {
         if (anyChanged(setting))
             call(readOr(setting, std::move(fallback)));
+    }
+
+    /// When the setting changed; what cannot be read is applied as the default.
+    template <class T, class Call> void ifChangedOrDefault(const olSetting<T> &setting, Call &&call) const
+    {
+        if (anyChanged(setting))
+            call(readOrDefault(setting));
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 #include <string>
@@ -24,11 +25,31 @@ struct olByData {
 };
 inline olByData byData(QComboBox *combo) { return {combo}; }
 
+/// A combo box that stands for the numbers that its items read. A number that no item reads selects none; without a
+/// current item it stores 0.
+struct olByNumber {
+    QComboBox *widget;
+};
+inline olByNumber byNumber(QComboBox *combo) { return {combo}; }
+
+/// An editable combo box that stands for its text, which need not be that of an item.
+struct olByText {
+    QComboBox *widget;
+};
+inline olByText byText(QComboBox *combo) { return {combo}; }
+
 /// A check box over a number: checked when it is not 0, stored as 0 or 1.
 struct olZeroOrOne {
     QCheckBox *widget;
 };
 inline olZeroOrOne zeroOrOne(QCheckBox *box) { return {box}; }
+
+/// A control whose signals are held back while it is shown: what it sets off when the user works it must not happen
+/// when the page is filled.
+template <class Control> struct olQuiet {
+    Control control;
+    QWidget *widget;
+};
 
 /// The widget behind a control, wrapped or plain.
 template <class Control> QWidget *widgetOf(const Control &control)
@@ -38,6 +59,8 @@ template <class Control> QWidget *widgetOf(const Control &control)
     else
         return control.widget;
 }
+
+template <class Control> olQuiet<Control> quiet(Control control) { return {control, widgetOf(control)}; }
 
 inline void showOn(QCheckBox *box, bool value) { box->setChecked(value); }
 inline void takeFrom(const QCheckBox *box, bool &value) { value = box->isChecked(); }
@@ -50,6 +73,18 @@ inline void takeFrom(const QComboBox *combo, int &index) { index = combo->curren
 
 inline void showOn(const olByData &combo, int data) { combo.widget->setCurrentIndex(combo.widget->findData(data)); }
 inline void takeFrom(const olByData &combo, int &data) { data = combo.widget->currentData().toInt(); }
+
+inline void showOn(const olByNumber &combo, int number)
+{
+    combo.widget->setCurrentIndex(combo.widget->findText(QString::number(number), Qt::MatchFixedString));
+}
+inline void takeFrom(const olByNumber &combo, int &number) { number = combo.widget->currentText().toInt(); }
+
+inline void showOn(const olByText &combo, const std::string &text)
+{
+    combo.widget->setCurrentText(QString::fromStdString(text));
+}
+inline void takeFrom(const olByText &combo, std::string &text) { text = combo.widget->currentText().toStdString(); }
 
 template <class Number> void showOn(const olZeroOrOne &box, Number value) { box.widget->setChecked(value != 0); }
 template <class Number> void takeFrom(const olZeroOrOne &box, Number &value)
@@ -90,3 +125,13 @@ template <class Number> void takeFrom(const QOLWheelPrec *wheel, Number &value) 
 
 inline void showOn(QOLColorManipulator *colour, const osg::Color3f &value) { colour->setColor(value); }
 inline void takeFrom(const QOLColorManipulator *colour, osg::Color3f &value) { value = colour->getColor(); }
+
+template <class Control, class T> void showOn(const olQuiet<Control> &quiet, const T &value)
+{
+    const QSignalBlocker blocker(quiet.widget);
+    showOn(quiet.control, value);
+}
+template <class Control, class T> void takeFrom(const olQuiet<Control> &quiet, T &value)
+{
+    takeFrom(quiet.control, value);
+}

@@ -11,20 +11,31 @@
 namespace
 {
 
-/// The labels in front of fields, but for those on the tabs of a tab widget further down.
-void collectLabels(const QWidget &place, std::vector<QLabel *> &labels)
+/// A label in front of a field, and how far the groups around it move it to the right.
+struct FieldLabel {
+    QLabel *widget;
+    int inset;
+
+    [[nodiscard]] int end() const { return inset + widget->sizeHint().width(); }
+};
+
+/// All of them but for those on the tabs of a tab widget further down.
+void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &labels)
 {
+    inset += place.contentsMargins().left();
+    if (const QLayout *layout = place.layout())
+        inset += layout->contentsMargins().left();
     const QObjectList children = place.children();
     for (QObject *child : children) {
         if (const auto *form = qobject_cast<QFormLayout *>(child)) {
             for (int row = 0; row < form->rowCount(); ++row) {
                 QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);
                 if (auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr)
-                    labels.push_back(label);
+                    labels.push_back({label, inset});
             }
         } else if (const auto *widget = qobject_cast<QWidget *>(child)) {
             if (!qobject_cast<const QTabWidget *>(widget))
-                collectLabels(*widget, labels);
+                collectLabels(*widget, inset, labels);
         }
     }
 }
@@ -33,17 +44,28 @@ void collectLabels(const QWidget &place, std::vector<QLabel *> &labels)
 
 void alignFields(QWidget &page)
 {
-    std::vector<QLabel *> labels;
-    collectLabels(page, labels);
-    int width = 0;
-    for (const QLabel *label : labels)
-        width = std::max(width, label->sizeHint().width());
-    for (QLabel *label : labels)
-        label->setMinimumWidth(width);
+    std::vector<FieldLabel> labels;
+    collectLabels(page, 0, labels);
+    int end = 0;
+    for (const FieldLabel &label : labels)
+        end = std::max(end, label.end());
+    for (const FieldLabel &label : labels)
+        label.widget->setMinimumWidth(end - label.inset);
 
     const auto tabs = page.findChildren<QTabWidget *>();
     for (QTabWidget *tab : tabs) {
         for (int index = 0; index < tab->count(); ++index)
             alignFields(*tab->widget(index));
     }
+}
+
+void hideRow(QWidget &field)
+{
+    field.hide();
+    auto *form = qobject_cast<QFormLayout *>(field.parentWidget()->layout());
+    Q_ASSERT_X(form && form->indexOf(&field) >= 0, "hideRow", "the field has no row of a form");
+    int row = -1;
+    QFormLayout::ItemRole role = QFormLayout::SpanningRole;
+    form->getWidgetPosition(&field, &row, &role);
+    delete form->takeRow(row).fieldItem;
 }

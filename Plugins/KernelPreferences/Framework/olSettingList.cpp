@@ -25,7 +25,7 @@ olMessage &record() { return olPreferences::getData(); }
 
 void takeOne(const olListedSetting &setting, olPreferences &module)
 {
-    if (setting.widget() && !setting.takeIfChanged(record()))
+    if (setting.widget() && !setting.takeIfChanged())
         module.addUnchanged(setting.key().c_str());
 }
 
@@ -46,6 +46,16 @@ void olSettingList::append(std::unique_ptr<olListedSetting> setting)
     m_settings.push_back(std::move(setting));
 }
 
+void olSettingList::own(const olSettingBase &shared)
+{
+    m_foreign.erase(std::remove(m_foreign.begin(), m_foreign.end(), &shared), m_foreign.end());
+}
+
+bool olSettingList::isForeign(const olSettingBase &setting) const
+{
+    return std::find(m_foreign.begin(), m_foreign.end(), &setting) != m_foreign.end();
+}
+
 const olListedSetting *olSettingList::find(const std::string &key) const
 {
     const auto found = std::find_if(m_settings.begin(), m_settings.end(),
@@ -64,25 +74,25 @@ const olListedSetting &olSettingList::listed(const olSettingBase &setting) const
 void olSettingList::writeDefaults(bool flag) const
 {
     for (const auto &setting : m_settings)
-        setting->writeDefault(record(), flag);
+        setting->writeDefault(flag);
 }
 
 void olSettingList::writeDefaults(Order order, bool flag) const
 {
     for (const olSettingBase *setting : order)
-        listed(*setting).writeDefault(record(), flag);
+        listed(*setting).writeDefault(flag);
 }
 
 void olSettingList::showOnPage() const
 {
     for (const auto &setting : m_settings)
-        setting->show(record());
+        setting->show();
 }
 
 void olSettingList::showOnPage(Order order) const
 {
     for (const olSettingBase *setting : order)
-        listed(*setting).show(record());
+        listed(*setting).show();
 }
 
 void olSettingList::takeFromPage(olPreferences &module) const
@@ -100,19 +110,19 @@ void olSettingList::takeFromPage(Order order, olPreferences &module) const
 void olSettingList::storeFromPage() const
 {
     for (const auto &setting : m_settings)
-        setting->take(record());
+        setting->take();
 }
 
 void olSettingList::storeFromPage(Order order) const
 {
     for (const olSettingBase *setting : order)
-        listed(*setting).take(record());
+        listed(*setting).take();
 }
 
 void olSettingList::removeKeys() const
 {
-    for (const auto &setting : m_settings)
-        record().remove(setting->key());
-    for (const std::string &key : m_retired)
-        record().remove(key);
+    for (const auto &setting : m_settings) {
+        if (!isForeign(setting->setting()))
+            record().remove(setting->key());
+    }
 }

@@ -153,6 +153,14 @@ TEST_F(PageIndex, TablesBearTheCaptionOfTheirFrameElseOfTheirTab)
     EXPECT_EQ(found("Frame"), nullptr);
 }
 
+TEST_F(PageIndex, ControlsComeInTheOrderOfTheForm)
+{
+    new QCheckBox(QStringLiteral("Second"), second);
+    new QCheckBox(QStringLiteral("First"), first);
+    new QCheckBox(QStringLiteral("Below"), &page);
+    EXPECT_EQ(paths(), (QStringList{"Quality/First", "Paths/Second", "Below"}));
+}
+
 TEST_F(PageIndex, InnerPartsAreNoControls)
 {
     auto *scrolled = new QScrollArea(first);

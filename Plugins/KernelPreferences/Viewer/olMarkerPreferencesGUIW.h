@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class olMarkerPreferencesGUI;
+}
+
+/// The page of the selection settings.
+class olMarkerPreferencesGUIW : public QWidget
+{
+    Q_OBJECT
+
+public:
+    olMarkerPreferencesGUIW();
+    ~olMarkerPreferencesGUIW() override;
+
+    [[nodiscard]] const Ui::olMarkerPreferencesGUI &form() const { return *m_form; }
+
+public slots:
+    /// Previews the colour on the page.
+    void changedSelectionColor(float red, float green, float blue);
+
+private:
+    std::unique_ptr<Ui::olMarkerPreferencesGUI> m_form;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Framework/olSettingList.h"
+#include "Kernel/olPreferences.h"
+
+#include <QObject>
+
+#include <memory>
+
+class olApply;
+class olRenderOptionsPreferencesGUIW;
+
+/// How the real-time view draws: antialiasing and its presets, background, transparency, lighting, buffers, clipping,
+/// raytracing, size of the picture, and what is shown beside the scene.
+class olRenderOptionsPreferencesGUII : public QObject, public olPreferences
+{
+    Q_OBJECT
+
+public:
+    olRenderOptionsPreferencesGUII();
+    ~olRenderOptionsPreferencesGUII() override;
+
+    void setDefaults(olMessage &, bool flag) override;
+    void applyPreferences() override;
+    void updateGUI() override;
+    void updateData() override;
+    void preferencesNewScene(olMessage &) override;
+
+private:
+    void listSettings();
+
+    // The parts of apply, in their order.
+    void applyStillframe(const olApply &apply) const;
+    void applyView(const olApply &apply) const;
+    void applyHeadlight(const olApply &apply) const;
+    void applyPresets(const olApply &apply) const;
+    void applyQuality(const olApply &apply) const;
+    void applyGraphicsCards(const olApply &apply) const;
+    void applyPicture(const olApply &apply) const;
+    void applyVisibility(const olApply &apply) const;
+
+    std::unique_ptr<olRenderOptionsPreferencesGUIW> m_page;
+    olSettingList m_settings;
+};

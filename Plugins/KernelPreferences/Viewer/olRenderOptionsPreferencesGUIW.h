@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+class QOLColorDialog;
+
+namespace Ui
+{
+class olRenderOptionsPreferencesGUI;
+}
+
+/// The page of the render options, spread over tabs. Which of its controls are offered depends on the edition.
+class olRenderOptionsPreferencesGUIW : public QWidget
+{
+    Q_OBJECT
+
+public:
+    olRenderOptionsPreferencesGUIW();
+    ~olRenderOptionsPreferencesGUIW() override;
+
+    [[nodiscard]] const Ui::olRenderOptionsPreferencesGUI &form() const { return *m_form; }
+
+public slots:
+    void clickedAdd();
+    void clickedDelete();
+    void clickedChooseColor();
+    void acceptedChooseColor();
+    void rejectedChooseColor();
+
+private:
+    void addValidators();
+    void fillSampleCombos();
+    void hideWithheldControls();
+    void adaptToEdition();
+    void scaleSizes();
+    void connectBackground();
+    QOLColorDialog &colorDialog();
+
+    std::unique_ptr<Ui::olRenderOptionsPreferencesGUI> m_form;
+    QOLColorDialog *m_colorDialog = nullptr;
+};

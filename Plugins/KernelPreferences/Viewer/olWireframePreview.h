@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+/// Shows on a page how a wireframe of a colour will look in the view.
+class olWireframePreview : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit olWireframePreview(QWidget *parent = nullptr);
+
+    void setColor(const QColor &color);
+    [[nodiscard]] QColor color() const { return m_color; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+
+private:
+    QColor m_color = Qt::black;
+};

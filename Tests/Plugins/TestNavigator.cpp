@@ -1,0 +1,99 @@
+#include "Support/PluginTest.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QMetaObject>
+#include <QSpinBox>
+#include <QVariant>
+
+namespace
+{
+
+class Navigator : public PluginTest
+{
+protected:
+    Navigator()
+    {
+        module("Navigator").setDefaults(true);
+        module("Navigator").updateGUI();
+    }
+
+    static bool callSlot(const char *name, QGenericArgument argument)
+    {
+        return QMetaObject::invokeMethod(module("Navigator").page(), name, argument);
+    }
+    static bool isEnabled(const char *name) { return control<QWidget>("Navigator", name).isEnabled(); }
+    static int indexOf(const char *name) { return control<QComboBox>("Navigator", name).currentIndex(); }
+    static bool isChecked(const char *name) { return control<QAbstractButton>("Navigator", name).isChecked(); }
+    static void check(const char *name) { control<QAbstractButton>("Navigator", name).setChecked(true); }
+};
+
+TEST_F(Navigator, TheSlotsAreFoundByNameAndRunTheRules)
+{
+    EXPECT_TRUE(callSlot("toggledAnimateCameraChange", Q_ARG(bool, false)));
+    EXPECT_FALSE(isEnabled("duration"));
+    EXPECT_FALSE(isEnabled("durationLabel"));
+
+    EXPECT_TRUE(callSlot("toggledOrbitMode", Q_ARG(bool, true)));
+    for (const char *name :
+         {"orbitDetectionArea", "orbitDetectionAreaLabel", "orbitDetectionTime", "orbitDetectionTimeLabel"})
+        EXPECT_TRUE(isEnabled(name)) << name;
+
+    EXPECT_TRUE(callSlot("changedInteractionMode", Q_ARG(int, 1)));
+    EXPECT_EQ(indexOf("speedMode"), 2);
+    EXPECT_FALSE(isEnabled("pivotBasedPanning"));
+    EXPECT_TRUE(isEnabled("panningSpeedLabel"));
+
+    EXPECT_TRUE(callSlot("toggledPivotBasedPanning", Q_ARG(bool, true)));
+    EXPECT_TRUE(callSlot("changedNavigationSpeedMode", Q_ARG(int, 1)));
+}
+
+TEST_F(Navigator, AnIndexWithoutPresetChangesNothing)
+{
+    check("invertDollyAxis");
+    // A rule that ran would enable the speed's field again or disable it.
+    check("pivotBasedPanning");
+    control<QWidget>("Navigator", "panningSpeed").setEnabled(false);
+    for (const int index : {-1, 3, 1000}) {
+        EXPECT_TRUE(callSlot("changedInteractionMode", Q_ARG(int, index)));
+        EXPECT_TRUE(isChecked("invertDollyAxis"));
+        EXPECT_TRUE(isChecked("pivotBasedPanning"));
+        EXPECT_EQ(indexOf("speedMode"), 1);
+        EXPECT_FALSE(isEnabled("panningSpeed"));
+    }
+}
+
+TEST_F(Navigator, ResettingTheInteractionModeAloneSetsOffNoPreset)
+{
+    control<QComboBox>("Navigator", "interactionMode").setCurrentIndex(2);
+    check("dollyToPivot");
+    auto &access = control<QObject>("Navigator", "olSettingAccess");
+    bool shown = false;
+    QMetaObject::invokeMethod(&access, "setValue", Q_RETURN_ARG(bool, shown), Q_ARG(QString, "Interaction mode"),
+                              Q_ARG(QVariant, 0));
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(indexOf("interactionMode"), 0);
+    EXPECT_TRUE(isChecked("dollyToPivot"));
+    EXPECT_TRUE(isChecked("pivotBasedPanning"));
+    EXPECT_EQ(indexOf("dollyAxis"), 2);
+}
+
+TEST_F(Navigator, TheModesBearTheHostsNumbers)
+{
+    const auto items = [](const char *name) {
+        const auto &combo = control<QComboBox>("Navigator", name);
+        QStringList list;
+        for (int index = 0; index < combo.count(); ++index)
+            list << combo.itemText(index) + '=' + combo.itemData(index).toString();
+        return list.join(' ').toStdString();
+    };
+    EXPECT_EQ(items("navigationMode"), "Trackball=0 TwoAxis=3 Fly=1 Orientation=4");
+    EXPECT_EQ(items("interactionMode"), "ORLO=0 Contura=1 Mirra=2");
+    restart(olEdition::Design);
+    EXPECT_EQ(items("navigationMode"), "Trackball=0 TwoAxis=3 Fly=1 Orientation=4");
+    restart(olEdition::Essentials);
+    EXPECT_EQ(items("navigationMode"), "Trackball=0 TwoAxis=3");
+}
+
+} // namespace

@@ -1,0 +1,181 @@
+#include "Support/PluginTest.h"
+
+#include "Widgets/QOLColorDialog.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+
+namespace
+{
+
+using Cells = std::vector<std::string>;
+
+class RenderOptions : public PluginTest
+{
+protected:
+    RenderOptions()
+    {
+        olPreferencesEntry &entry = module("Render Options");
+        entry.setDefaults(true);
+        entry.updateGUI();
+    }
+
+    static QTableWidget &table() { return control<QTableWidget>("Render Options", "backgroundTable"); }
+    static QWidget &page() { return *module("Render Options").page(); }
+    static void call(const char *slot) { ASSERT_TRUE(QMetaObject::invokeMethod(&page(), slot)); }
+
+    static Cells column(int column)
+    {
+        Cells texts;
+        for (int row = 0; row < table().rowCount(); ++row)
+            texts.push_back(table().item(row, column)->text().toStdString());
+        return texts;
+    }
+
+    template <class T> static T stored(const char *key)
+    {
+        module("Render Options").updateData();
+        return boost::any_cast<T>(record().get(key));
+    }
+    static std::vector<osg::Color3f> storedColors()
+    {
+        return stored<std::vector<osg::Color3f>>("RenderOptions background colors");
+    }
+    static std::vector<float> storedPositions() { return stored<std::vector<float>>("RenderOptions background ints"); }
+
+    static QOLColorDialog *dialog() { return page().findChild<QOLColorDialog *>(); }
+};
+
+TEST_F(RenderOptions, CellsThatHoldNoNumbersCountAsZero)
+{
+    table().item(0, 0)->setText("  0.5   nonsense");
+    table().item(0, 1)->setText("top");
+    table().item(1, 0)->setText(QString());
+    table().item(1, 1)->setText(" 0.25 ");
+    const std::vector<osg::Color3f> colors = storedColors();
+    ASSERT_EQ(2u, colors.size());
+    EXPECT_EQ(osg::Color3f(0.5f, 0.0f, 0.0f), colors[0]);
+    EXPECT_EQ(osg::Color3f(0.0f, 0.0f, 0.0f), colors[1]);
+    EXPECT_EQ((std::vector<float>{0.0f, 0.25f}), storedPositions());
+}
+
+TEST_F(RenderOptions, CellsAreReadInTheCLocaleWhateverTheUsers)
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    module("Render Options").updateGUI();
+    EXPECT_EQ((Cells{"0.207843 0.207843 0.207843", "0.749020 0.749020 0.749020"}), column(0));
+    table().item(0, 1)->setText("0.5");
+    EXPECT_EQ((std::vector<float>{0.5f, 0.0f}), storedPositions());
+    QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(RenderOptions, OneRowGoesAtATimeThoughSeveralAreSelected)
+{
+    table().selectAll();
+    call("clickedDelete");
+    EXPECT_EQ((Cells{"0.749020 0.749020 0.749020"}), column(0));
+}
+
+TEST_F(RenderOptions, TheButtonsReachTheirSlots)
+{
+    control<QPushButton>("Render Options", "addColor").click();
+    EXPECT_EQ(3, table().rowCount());
+    table().selectRow(2);
+    control<QPushButton>("Render Options", "deleteColor").click();
+    EXPECT_EQ(2, table().rowCount());
+    table().selectRow(0);
+    control<QPushButton>("Render Options", "chooseColor").click();
+    ASSERT_TRUE(dialog());
+    EXPECT_TRUE(dialog()->isVisible());
+}
+
+TEST_F(RenderOptions, TheColourGoesToTheRowThatIsSelectedWhenItIsAccepted)
+{
+    table().selectRow(0);
+    call("clickedChooseColor");
+    ASSERT_TRUE(dialog());
+    EXPECT_EQ(osg::Color3f(0.207843f, 0.207843f, 0.207843f), dialog()->getColor());
+
+    dialog()->setColor({0.25f, 0.5f, 1.0f});
+    table().selectRow(1);
+    dialog()->accept();
+    EXPECT_FALSE(dialog()->isVisible());
+    EXPECT_EQ((Cells{"0.207843 0.207843 0.207843", "0.250000 0.500000 1.000000"}), column(0));
+    EXPECT_EQ((Cells{"1", "0"}), column(1));
+}
+
+TEST_F(RenderOptions, ACancelledColourChangesNothing)
+{
+    call("clickedChooseColor");
+    EXPECT_FALSE(dialog()) << "nothing is selected";
+
+    table().selectRow(1);
+    call("clickedChooseColor");
+    dialog()->setColor({1.0f, 0.0f, 0.0f});
+    dialog()->reject();
+    EXPECT_FALSE(dialog()->isVisible());
+
+    table().clearSelection();
+    call("clickedChooseColor");
+    EXPECT_FALSE(dialog()->isVisible());
+    call("acceptedChooseColor");
+    EXPECT_EQ((Cells{"0.207843 0.207843 0.207843", "0.749020 0.749020 0.749020"}), column(0));
+    EXPECT_EQ(1, page().findChildren<QOLColorDialog *>().size());
+}
+
+TEST_F(RenderOptions, ResettingOneColumnLeavesTheOther)
+{
+    table().item(0, 0)->setText("1 0 0");
+    table().item(0, 1)->setText("0.9");
+    auto *access = page().findChild<QObject *>("olSettingAccess");
+    ASSERT_TRUE(access);
+    bool shown = false;
+    const QVariant colors = QVariantList{QVariantList{0.0f, 1.0f, 0.0f}, QVariantList{0.0f, 0.0f, 1.0f}};
+    ASSERT_TRUE(QMetaObject::invokeMethod(access, "setValue", Q_RETURN_ARG(bool, shown),
+                                          Q_ARG(QString, "RenderOptions background colors"), Q_ARG(QVariant, colors)));
+    EXPECT_TRUE(shown);
+    EXPECT_EQ((Cells{"0.000000 1.000000 0.000000", "0.000000 0.000000 1.000000"}), column(0));
+    EXPECT_EQ((Cells{"0.9", "0"}), column(1));
+}
+
+TEST_F(RenderOptions, TheHeadersFitTheirContents)
+{
+    const QHeaderView &header = *table().horizontalHeader();
+    EXPECT_EQ("Color", table().horizontalHeaderItem(0)->text());
+    EXPECT_EQ("Position", table().horizontalHeaderItem(1)->text());
+    EXPECT_TRUE(header.defaultAlignment() & Qt::AlignLeft);
+    for (int column : {0, 1})
+        EXPECT_EQ(QHeaderView::ResizeToContents, header.sectionResizeMode(column));
+}
+
+TEST_F(RenderOptions, OnlyEssentialsLacksTheSecondTab)
+{
+    const auto tabs = [] {
+        auto &widget = control<QTabWidget>("Render Options", "tabs");
+        Cells texts;
+        for (int tab = 0; tab < widget.count(); ++tab)
+            texts.push_back(widget.tabText(tab).toStdString());
+        return texts;
+    };
+    EXPECT_EQ((Cells{"Rendering", "Advanced", "Viewport"}), tabs());
+    restart(olEdition::Design);
+    EXPECT_EQ((Cells{"Rendering", "Advanced", "Viewport"}), tabs());
+    restart(olEdition::Essentials);
+    EXPECT_EQ((Cells{"Rendering", "Viewport"}), tabs());
+}
+
+TEST_F(RenderOptions, WhatAnEditionHidesLeavesNoGap)
+{
+    restart(olEdition::Essentials);
+    page().show();
+    const auto gapBelow = [](const char *upper, const char *lower) {
+        return control<QWidget>("Render Options", lower).y() -
+               control<QWidget>("Render Options", upper).geometry().bottom();
+    };
+    EXPECT_EQ(gapBelow("postprocessAntialiasing", "disableOnCameraMovement"),
+              gapBelow("disableOnCameraMovement", "auxiliaryNodes"));
+}
+
+} // namespace
