@@ -7,8 +7,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QSlider>
 
+#include <algorithm>
+#include <map>
 #include <set>
 
 namespace
@@ -181,6 +184,29 @@ TEST_F(CadFormats, ComeFirstInTheRegistryEachWithAPageOfItsOwn)
         pages.insert(entry.page());
     }
     EXPECT_EQ(pages.size(), formats.size());
+}
+
+TEST_F(CadFormats, HandTheirPageOverWithTheirOwnGroupsOnIt)
+{
+    const auto &registry = olPreferencesRegistry::the();
+    std::map<QString, int> groupsAtHandOver;
+    QObject context;
+    plugin.unload();
+    QObject::connect(&registry, &olPreferencesRegistry::changed, &context, [&registry, &groupsAtHandOver] {
+        for (const olPreferencesEntry *entry : registry.entries()) {
+            if (!entry->page() || groupsAtHandOver.count(entry->name()))
+                continue;
+            const auto groups = entry->page()->findChildren<QGroupBox *>();
+            groupsAtHandOver[entry->name()] = int(
+                std::count_if(groups.begin(), groups.end(), [](const QGroupBox *group) { return !group->isHidden(); }));
+        }
+    });
+    restart();
+    EXPECT_EQ(groupsAtHandOver["Step"], 4);
+    EXPECT_EQ(groupsAtHandOver["JT"], 6);
+    EXPECT_EQ(groupsAtHandOver["Rhino"], 5);
+    EXPECT_EQ(groupsAtHandOver["STL"], 5);
+    EXPECT_EQ(groupsAtHandOver["KBX"], 1);
 }
 
 TEST_F(CadFormats, WriteTheirKeysWithTypesAndDefaultsInOrder)

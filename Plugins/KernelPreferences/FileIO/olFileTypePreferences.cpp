@@ -9,21 +9,33 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 const olSetting<bool> olFileTypePreferences::useAtf{"BCADOptions use ATF", false};
 const olSetting<bool> olFileTypePreferences::loadReferencedFiles{"PLMXML load referenced files", true};
 
-olFileTypePreferences::olFileTypePreferences(const char *displayName)
-    : olPreferences(QString::fromLatin1(displayName), QCoreApplication::translate("olPreferences", "FileIO")),
-      m_page(std::make_unique<olFileTypePreferencesGUIW>()),
-      m_settings(*m_page)
+olFileTypePreferences::olFileTypePreferences(int fileType, const char *displayName, ShowGroups showGroups)
+    : olFileTypePreferences(displayName, showGroups, std::make_unique<olImportSettings>(olFileType::name(fileType)))
 {
-    addPreferencesGUI(m_page.get());
 }
 
-olFileTypePreferences::olFileTypePreferences(int fileType, const char *displayName) : olFileTypePreferences(displayName)
+olFileTypePreferences::olFileTypePreferences(const char *displayName, ShowGroups showGroups)
+    : olFileTypePreferences(displayName, showGroups, nullptr)
 {
-    m_import = std::make_unique<olImportSettings>(olFileType::name(fileType));
-    listImportSettings();
+}
+
+olFileTypePreferences::olFileTypePreferences(const char *displayName, ShowGroups showGroups,
+                                             std::unique_ptr<olImportSettings> import)
+    : olPreferences(QString::fromLatin1(displayName), QCoreApplication::translate("olPreferences", "FileIO")),
+      m_page(std::make_unique<olFileTypePreferencesGUIW>()),
+      m_import(std::move(import)),
+      m_settings(*m_page)
+{
+    if (m_import)
+        listImportSettings();
+    if (showGroups)
+        (m_page.get()->*showGroups)();
+    addPreferencesGUI(m_page.get());
 }
 
 olFileTypePreferences::~olFileTypePreferences()

@@ -25,12 +25,15 @@ public:
     void updateData() override;
 
 protected:
+    /// Shows the groups that a format has for itself, before the page is handed to the host.
+    using ShowGroups = void (olFileTypePreferencesGUIW::*)();
+
     /// A format with the import options, under the keys of its file type (see olFileType.h). Settings that it has
-    /// beyond them it adds to the list, and shows their group on the page.
-    olFileTypePreferences(int fileType, const char *displayName);
+    /// beyond them it adds to the list.
+    olFileTypePreferences(int fileType, const char *displayName, ShowGroups showGroups = nullptr);
 
     /// A format without the import options: it lists settings of its own and replaces the four operations.
-    explicit olFileTypePreferences(const char *displayName);
+    olFileTypePreferences(const char *displayName, ShowGroups showGroups);
 
     [[nodiscard]] olFileTypePreferencesGUIW &page() const { return *m_page; }
     [[nodiscard]] olSettingList &settings() { return m_settings; }
@@ -47,6 +50,8 @@ protected:
     static constexpr char legacyLoaderName[] = "VWSH";
 
 private:
+    olFileTypePreferences(const char *displayName, ShowGroups showGroups, std::unique_ptr<olImportSettings> import);
+
     void listImportSettings();
 
     std::unique_ptr<olFileTypePreferencesGUIW> m_page;

@@ -16,13 +16,13 @@ const olSetting<int> loadBreps{"JTOptions LOADBREPS", 0};
 
 } // namespace
 
-olJtFilePreferencesGUII::olJtFilePreferencesGUII() : olFileTypePreferences(olFileType::Jt, "JT")
+olJtFilePreferencesGUII::olJtFilePreferencesGUII()
+    : olFileTypePreferences(olFileType::Jt, "JT", &olFileTypePreferencesGUIW::showJtGroups)
 {
     const auto &form = page().form();
     settings().add(useLegacyLoader, form.useLegacyJtLoader);
     settings().add(useActiveLayerFilter, form.useActiveLayerFilter);
     settings().add(loadBreps, form.loadBreps);
-    page().showJtGroups();
 }
 
 void olJtFilePreferencesGUII::applyPreferences()

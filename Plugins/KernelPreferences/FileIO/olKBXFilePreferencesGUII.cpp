@@ -47,10 +47,10 @@ std::string versionToken(int year)
 
 } // namespace
 
-olKBXFilePreferencesGUII::olKBXFilePreferencesGUII() : olFileTypePreferences("KBX")
+olKBXFilePreferencesGUII::olKBXFilePreferencesGUII()
+    : olFileTypePreferences("KBX", &olFileTypePreferencesGUIW::showKbxGroup)
 {
     const auto &form = page().form();
-    page().showKbxGroup();
     settings().add(version, KnownData{form.kbxVersion});
     settings().add(format, form.kbxFormat);
     settings().add(exportVertexColors, form.kbxExportVertexColors);

@@ -16,12 +16,12 @@ const olSetting<bool> importNurbs{"RhinoOptions import nurbs", true};
 
 } // namespace
 
-olRhinoFilePreferencesGUII::olRhinoFilePreferencesGUII() : olFileTypePreferences(olFileType::Rhino, "Rhino")
+olRhinoFilePreferencesGUII::olRhinoFilePreferencesGUII()
+    : olFileTypePreferences(olFileType::Rhino, "Rhino", &olFileTypePreferencesGUIW::showRhinoGroup)
 {
     const auto &form = page().form();
     settings().add(useLegacyLoader, form.useLegacyRhinoLoader);
     settings().add(importNurbs, form.importNurbs);
-    page().showRhinoGroup();
 }
 
 void olRhinoFilePreferencesGUII::applyPreferences()

@@ -13,10 +13,10 @@ const olSetting<int> exportFormat{"STLOptions export", 0};
 
 } // namespace
 
-olStlFilePreferencesGUII::olStlFilePreferencesGUII() : olFileTypePreferences(olFileType::Stl, "STL")
+olStlFilePreferencesGUII::olStlFilePreferencesGUII()
+    : olFileTypePreferences(olFileType::Stl, "STL", &olFileTypePreferencesGUIW::showStlGroup)
 {
     settings().add(exportFormat, page().form().stlExportFormat);
-    page().showStlGroup();
 }
 
 void olStlFilePreferencesGUII::applyPreferences()
