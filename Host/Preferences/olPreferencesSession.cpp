@@ -59,6 +59,24 @@ bool isKnown(const olPreferencesStore::Key &key)
            });
 }
 
+template <class Use> void withOwner(const std::string &key, Use &&use)
+{
+    if (olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key))
+        use(*owner);
+}
+
+/// The modules with, behind them, those that own one of the values.
+std::vector<olPreferencesEntry *> withOwners(std::vector<olPreferencesEntry *> modules, const olSettingValues &values)
+{
+    for (const auto &value : values) {
+        withOwner(value.first, [&](olPreferencesEntry &owner) {
+            if (std::find(modules.begin(), modules.end(), &owner) == modules.end())
+                modules.push_back(&owner);
+        });
+    }
+    return modules;
+}
+
 } // namespace
 
 olPreferencesSession::olPreferencesSession(const QString &storeFile) : m_store(storeFile) {}
@@ -149,11 +167,16 @@ QString olPreferencesSession::save()
     return error;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown)
+QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
 {
     const Snapshot before;
+    // Out of the way first: a module must not find its page equal to the old value and report the setting unchanged.
+    for (const auto &value : besides)
+        withOwner(value.first, [&](olPreferencesEntry &owner) { owner.removeValue(value.first); });
     for (olPreferencesEntry *entry : shown)
         entry->updateData();
+    for (const auto &value : besides)
+        withOwner(value.first, [&](olPreferencesEntry &owner) { owner.setValue(value.first, value.second); });
     QString error = save();
     if (!error.isEmpty()) {
         before.restore();
@@ -164,7 +187,11 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
         }
         return error;
     }
-    for (olPreferencesEntry *entry : shown) {
+    const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
+    // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
+                  [](auto *entry) { entry->updateGUI(); });
+    for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
         entry->settle();
     }

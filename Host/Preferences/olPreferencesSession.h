@@ -6,11 +6,15 @@
 
 #include <QString>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 class olPreferencesEntry;
+
+/// Values of settings by their keys, wherever they are kept.
+using olSettingValues = std::map<std::string, boost::any>;
 
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
@@ -42,8 +46,9 @@ public:
     [[nodiscard]] QString save();
 
     /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing
-    /// fails, every value is as it was before and nothing is applied.
-    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown);
+    /// fails, every value is as it was before and nothing is applied. `besides` are values that count whatever the
+    /// pages hold: of settings that no page shows, or that their control shows only rounded.
+    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
 
     /// Unloads the plug-in. Values are not stored by this.
     void stop() { m_plugin.unload(); }

@@ -1,0 +1,47 @@
+#include "Preferences/olPageFrame.h"
+
+#include "Preferences/olSettingMarks.h"
+#include "Widgets/QOLCollapsibleFrame.h"
+
+#include <QLayout>
+#include <QTabWidget>
+
+olPageFrame::olPageFrame(QWidget &page) : m_page(&page), m_marks(new olSettingMarks(page)), m_wheelGuard(page)
+{
+    setFrameShape(NoFrame);
+    setWidgetResizable(true);
+    setWidget(&page);
+    // The page inherits no focus from the area around it: Tab goes from control to control.
+    setFocusPolicy(Qt::NoFocus);
+}
+
+olPageFrame::~olPageFrame()
+{
+    if (!m_page)
+        return;
+    delete m_marks;
+    if (takeWidget())
+        m_page->setParent(nullptr);
+}
+
+void olPageFrame::reveal(QWidget &control)
+{
+    for (QWidget *widget = &control; widget && widget != m_page; widget = widget->parentWidget()) {
+        if (auto *frame = qobject_cast<QOLCollapsibleFrame *>(widget))
+            frame->setFolded(false);
+        QWidget *stack = widget->parentWidget();
+        auto *tabs = stack ? qobject_cast<QTabWidget *>(stack->parentWidget()) : nullptr;
+        if (tabs && tabs->indexOf(widget) >= 0)
+            tabs->setCurrentWidget(widget);
+    }
+    // What was behind has its place only once the layouts have run.
+    if (m_page->layout())
+        m_page->layout()->activate();
+    ensureWidgetVisible(&control);
+}
+
+QSize olPageFrame::minimumSizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    return {metrics.averageCharWidth() * 30, metrics.height() * 6};
+}
