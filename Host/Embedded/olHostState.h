@@ -168,8 +168,13 @@ public:
     olHostValue<int> navOrbitDetectionArea{*this, "navOrbitDetectionArea", 0, Fact};
     olHostValue<int> navOrbitDetectionTime{*this, "navOrbitDetectionTime", 0, Fact};
 
-    // Input devices; the space mouse is wanted or not, whether or not one is connected
+    // Input devices. The space mouse is wanted or not, whether or not its daemon is there. Its motion is how far the
+    // cap is moved along x, y and z and turned about them, in the daemon's units; each button is a bit, the first the
+    // lowest
     olHostValue<bool> spacemouseWanted{*this, "spacemouseWanted", false};
+    olHostValue<bool> spacemouseConnected{*this, "spacemouseConnected", false};
+    olHostValue<std::vector<float>> spacemouseMotion{*this, "spacemouseMotion", std::vector<float>(6, 0.0f)};
+    olHostValue<unsigned> spacemouseButtons{*this, "spacemouseButtons", 0};
     olHostValue<int> spacemouseViewMode{*this, "spacemouseViewMode", 0};
     olHostValue<int> spacemousePivotMode{*this, "spacemousePivotMode", 0};
     olHostValue<bool> spacemouseTwoAxis{*this, "spacemouseTwoAxis", false};

@@ -6,8 +6,8 @@
 class ORLO_SDK_EXPORT olSpacemouse
 {
 public:
-    /// Searches for the device and uses it while it is there. Where there is none nothing else happens; a second call
-    /// is one too many and does no harm.
+    /// Searches for the device and uses it while it is there. Where there is none the log says so and nothing else
+    /// happens. Never blocks. A second call looks again where nothing was found before, else it does no harm.
     static void init();
 
     /// Lets go of the device; allowed when it was never searched for.

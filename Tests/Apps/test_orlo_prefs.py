@@ -143,7 +143,7 @@ class CommandLine(ToolTest):
                     "there is no edition gold, only essentials, design, professional or enterprise",
                 ("--edition",): "--edition needs a value",
                 ("--help=1",): "--help takes no value",
-                ("list", "--xml"): "usage: orlo-prefs [OPTIONS] list [--json]",
+                ("list", "--xml"): "usage: orlo-prefs [OPTIONS] list [--json | --markdown]",
                 ("get",): "usage: orlo-prefs [OPTIONS] get KEY",
                 ("set", "Camera fov"): "usage: orlo-prefs [OPTIONS] set KEY VALUE",
                 ("script",): "usage: orlo-prefs [OPTIONS] script FILE|-"}.items():

@@ -52,7 +52,8 @@ QStringList textsOf(const QWidget &widget)
         texts << box->title();
     if (const auto *field = qobject_cast<const QLineEdit *>(&widget))
         texts << field->placeholderText();
-    if (const auto *combo = qobject_cast<const QComboBox *>(&widget)) {
+    // What a person may also type is meant for a program, word by word.
+    if (const auto *combo = qobject_cast<const QComboBox *>(&widget); combo && !combo->isEditable()) {
         for (int row = 0; row < combo->count(); ++row)
             texts << combo->itemText(row);
     }

@@ -25,6 +25,19 @@ struct olByData {
 };
 inline olByData byData(QComboBox *combo) { return {combo}; }
 
+/// A combo box that stands for the numbers that its items read. A number that no item reads selects none; without a
+/// current item it stores 0.
+struct olByNumber {
+    QComboBox *widget;
+};
+inline olByNumber byNumber(QComboBox *combo) { return {combo}; }
+
+/// An editable combo box that stands for its text, which need not be that of an item.
+struct olByText {
+    QComboBox *widget;
+};
+inline olByText byText(QComboBox *combo) { return {combo}; }
+
 /// A check box over a number: checked when it is not 0, stored as 0 or 1.
 struct olZeroOrOne {
     QCheckBox *widget;
@@ -60,6 +73,18 @@ inline void takeFrom(const QComboBox *combo, int &index) { index = combo->curren
 
 inline void showOn(const olByData &combo, int data) { combo.widget->setCurrentIndex(combo.widget->findData(data)); }
 inline void takeFrom(const olByData &combo, int &data) { data = combo.widget->currentData().toInt(); }
+
+inline void showOn(const olByNumber &combo, int number)
+{
+    combo.widget->setCurrentIndex(combo.widget->findText(QString::number(number), Qt::MatchFixedString));
+}
+inline void takeFrom(const olByNumber &combo, int &number) { number = combo.widget->currentText().toInt(); }
+
+inline void showOn(const olByText &combo, const std::string &text)
+{
+    combo.widget->setCurrentText(QString::fromStdString(text));
+}
+inline void takeFrom(const olByText &combo, std::string &text) { text = combo.widget->currentText().toStdString(); }
 
 template <class Number> void showOn(const olZeroOrOne &box, Number value) { box.widget->setChecked(value != 0); }
 template <class Number> void takeFrom(const olZeroOrOne &box, Number &value)

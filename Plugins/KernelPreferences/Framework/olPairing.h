@@ -56,6 +56,18 @@ protected:
     [[nodiscard]] const olSetting<T> &typed() const { return static_cast<const olSetting<T> &>(setting()); }
 };
 
+/// A key of former times, which the module still sweeps from the record.
+class olRetiredSetting : public olListedSetting
+{
+public:
+    explicit olRetiredSetting(std::string key) : olListedSetting(m_retired), m_retired(std::move(key)) {}
+
+    void writeDefault(olMessage &, bool) const override {}
+
+private:
+    olSettingBase m_retired;
+};
+
 /// The live value of a setting that has none.
 struct olNoLiveValue {
 };
@@ -92,7 +104,7 @@ public:
         return true;
     }
 
-private:
+protected:
     [[nodiscard]] T taken() const
     {
         T value{};
@@ -100,6 +112,7 @@ private:
         return value;
     }
 
+private:
     void showLive() const
     {
         if constexpr (!std::is_same_v<Live, olNoLiveValue>)
@@ -108,4 +121,35 @@ private:
 
     Control m_control;
     Live m_live;
+};
+
+/// A list that the record holds only while it has elements: it has no default, and its key goes when it is empty.
+/// While the record has none of its type, the page shows an empty list.
+template <class List, class Control> class olOptionalList : public olPairing<List, Control, List (*)()>
+{
+public:
+    olOptionalList(const olSetting<List> &setting, Control control)
+        : olPairing<List, Control, List (*)()>(setting, control, [] { return List(); })
+    {
+    }
+
+    void writeDefault(olMessage &, bool) const override {}
+
+    bool takeIfChanged(olMessage &record) const override
+    {
+        const List list = this->taken();
+        if (!list.empty())
+            return setIfChanged(record, this->key(), list, true);
+        const bool wasThere = !record.get(this->key()).empty();
+        record.remove(this->key());
+        return wasThere;
+    }
+    void take(olMessage &record) const override
+    {
+        const List list = this->taken();
+        if (list.empty())
+            record.remove(this->key());
+        else
+            record.set(this->key(), boost::any(list), true);
+    }
 };

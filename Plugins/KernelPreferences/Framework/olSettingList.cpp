@@ -46,6 +46,16 @@ void olSettingList::append(std::unique_ptr<olListedSetting> setting)
     m_settings.push_back(std::move(setting));
 }
 
+void olSettingList::own(const olSettingBase &shared)
+{
+    m_foreign.erase(std::remove(m_foreign.begin(), m_foreign.end(), &shared), m_foreign.end());
+}
+
+bool olSettingList::isForeign(const olSettingBase &setting) const
+{
+    return std::find(m_foreign.begin(), m_foreign.end(), &setting) != m_foreign.end();
+}
+
 const olListedSetting *olSettingList::find(const std::string &key) const
 {
     const auto found = std::find_if(m_settings.begin(), m_settings.end(),
@@ -111,8 +121,8 @@ void olSettingList::storeFromPage(Order order) const
 
 void olSettingList::removeKeys() const
 {
-    for (const auto &setting : m_settings)
-        record().remove(setting->key());
-    for (const std::string &key : m_retired)
-        record().remove(key);
+    for (const auto &setting : m_settings) {
+        if (!isForeign(setting->setting()))
+            record().remove(setting->key());
+    }
 }

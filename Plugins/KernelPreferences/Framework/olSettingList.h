@@ -45,8 +45,25 @@ public:
         append(std::make_unique<olUnshownSetting<T>>(setting));
     }
 
-    /// A key of former times: never written, removed behind all others.
-    void addRetired(std::string key) { m_retired.push_back(std::move(key)); }
+    /// A list without a default, which the record holds only while it has elements.
+    template <class List, class Control> void addOptionalList(const olSetting<List> &setting, Control control)
+    {
+        append(std::make_unique<olOptionalList<List, Control>>(setting, control));
+    }
+
+    /// A setting without a control whose default several modules write. Its key stays at teardown, unless this module
+    /// owns it.
+    template <class T> void addShared(const olSetting<T> &setting)
+    {
+        addWithoutControl(setting);
+        m_foreign.push_back(&setting);
+    }
+
+    /// Makes this module the one that removes a shared setting.
+    void own(const olSettingBase &shared);
+
+    /// A key of former times: never written, removed at its place among the others.
+    void addRetired(std::string key) { append(std::make_unique<olRetiredSetting>(std::move(key))); }
 
     void writeDefaults(bool flag) const;
     void writeDefaults(Order order, bool flag) const;
@@ -71,8 +88,9 @@ public:
 
 private:
     void append(std::unique_ptr<olListedSetting> setting);
+    [[nodiscard]] bool isForeign(const olSettingBase &setting) const;
     [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
 
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
-    std::vector<std::string> m_retired;
+    std::vector<const olSettingBase *> m_foreign;
 };

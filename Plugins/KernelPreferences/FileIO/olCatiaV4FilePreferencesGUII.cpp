@@ -1,0 +1,5 @@
+#include "FileIO/olCatiaV4FilePreferencesGUII.h"
+
+#include "FileIO/olFileType.h"
+
+olCatiaV4FilePreferencesGUII::olCatiaV4FilePreferencesGUII() : olFileTypePreferences(olFileType::CatiaV4, "Catia V4") {}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "FileIO/olFileTypePreferences.h"
+
+/// The import of Draftix files.
+class olDraftixFilePreferencesGUII : public olFileTypePreferences
+{
+    Q_OBJECT
+
+public:
+    olDraftixFilePreferencesGUII();
+};

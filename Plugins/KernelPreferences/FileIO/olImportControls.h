@@ -1,0 +1,71 @@
+#pragma once
+
+#include "Widgets/olTesselationSettings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+
+// The controls of the import page that stand for their settings in a way of their own.
+
+/// A value inside the tessellation block.
+template <class Value> struct olTesselationValue {
+    olTesselationSettings *block;
+    QWidget *widget;
+    Value (olTesselationSettings::*get)() const;
+    void (olTesselationSettings::*set)(Value);
+};
+template <class Value>
+olTesselationValue<Value> valueOf(olTesselationSettings *block, olTesselationSettings::Control control,
+                                  Value (olTesselationSettings::*get)() const,
+                                  void (olTesselationSettings::*set)(Value))
+{
+    return {block, block->control(control), get, set};
+}
+template <class Value> void showOn(const olTesselationValue<Value> &part, Value value)
+{
+    (part.block->*part.set)(value);
+    // A single value may be shown alone; the quality belongs to it all the same.
+    part.block->updateQualityPreset();
+}
+template <class Value> void takeFrom(const olTesselationValue<Value> &part, Value &value)
+{
+    value = (part.block->*part.get)();
+}
+
+/// The choices of a combo box over two settings: whether a kind of entity is imported, and its invisible ones too.
+enum olImportChoice { ImportNone, ImportVisible, ImportAll };
+
+/// The first of the two.
+struct olImported {
+    QComboBox *widget;
+};
+inline olImported imported(QComboBox *choice) { return {choice}; }
+inline void showOn(const olImported &choice, bool value)
+{
+    const bool all = choice.widget->currentIndex() == ImportAll;
+    choice.widget->setCurrentIndex(!value ? ImportNone : all ? ImportAll : ImportVisible);
+}
+inline void takeFrom(const olImported &choice, bool &value) { value = choice.widget->currentIndex() != ImportNone; }
+
+/// The second of the two, to be shown after the first: invisible ones of what is not imported are none.
+struct olInvisibleImported {
+    QComboBox *widget;
+};
+inline olInvisibleImported invisibleImported(QComboBox *choice) { return {choice}; }
+inline void showOn(const olInvisibleImported &choice, bool value)
+{
+    if (choice.widget->currentIndex() != ImportNone)
+        choice.widget->setCurrentIndex(value ? ImportAll : ImportVisible);
+}
+inline void takeFrom(const olInvisibleImported &choice, bool &value)
+{
+    value = choice.widget->currentIndex() == ImportAll;
+}
+
+/// A check box over the number of a mesh's levels of detail: checked when it is not 0, stored as 2 or 0.
+struct olMeshLevels {
+    QCheckBox *widget;
+};
+inline olMeshLevels meshLevels(QCheckBox *box) { return {box}; }
+inline void showOn(const olMeshLevels &box, int levels) { box.widget->setChecked(levels != 0); }
+inline void takeFrom(const olMeshLevels &box, int &levels) { levels = box.widget->isChecked() ? 2 : 0; }

@@ -1,0 +1,46 @@
+#include "FileIO/olJtFilePreferencesGUII.h"
+
+#include "FileIO/olFileType.h"
+#include "FileIO/olFileTypePreferencesGUIW.h"
+#include "Framework/olApply.h"
+#include "Kernel/olFileIO.h"
+#include "Kernel/olImportOptions.h"
+#include "ui_olFileTypePreferencesGUI.h"
+
+namespace
+{
+
+const olSetting<bool> useLegacyLoader{"JTOptions USEPLUGIN", false};
+const olSetting<bool> useActiveLayerFilter{"JTOptions ACTIVELAYERFILTER", true};
+const olSetting<int> loadBreps{"JTOptions LOADBREPS", 0};
+
+} // namespace
+
+olJtFilePreferencesGUII::olJtFilePreferencesGUII()
+    : olFileTypePreferences(olFileType::Jt, "JT", &olFileTypePreferencesGUIW::showJtGroups)
+{
+    const auto &form = page().form();
+    settings().add(useLegacyLoader, form.useLegacyJtLoader);
+    settings().add(useActiveLayerFilter, form.useActiveLayerFilter);
+    settings().add(loadBreps, form.loadBreps);
+}
+
+void olJtFilePreferencesGUII::applyPreferences()
+{
+    olFileTypePreferences::applyPreferences();
+
+    const bool legacy = readOr(useLegacyLoader, false);
+    const bool layerFilter = readOr(useActiveLayerFilter, true);
+    const int breps = readOr(loadBreps, 0);
+
+    // A second record on top of the one that all formats write.
+    olImportOptions options(olFileType::name(olFileType::Jt), true, true);
+    options.setUsePlugin(legacy);
+    options.setActiveLayerFilter(layerFilter);
+    options.setLoadBreps(breps);
+    if (legacy)
+        options.setLegacyLoader(legacyLoaderName);
+    options.write();
+
+    olFileIO::setUseLegacyJtLoader(legacy);
+}

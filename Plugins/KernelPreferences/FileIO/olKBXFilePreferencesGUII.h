@@ -1,0 +1,17 @@
+#pragma once
+
+#include "FileIO/olFileTypePreferences.h"
+
+/// How KBX files are written: the version and encoding of the file, and whether colours of vertices go into it.
+class olKBXFilePreferencesGUII : public olFileTypePreferences
+{
+    Q_OBJECT
+
+public:
+    olKBXFilePreferencesGUII();
+
+    void setDefaults(olMessage &, bool flag) override;
+    void applyPreferences() override;
+    void updateGUI() override;
+    void updateData() override;
+};

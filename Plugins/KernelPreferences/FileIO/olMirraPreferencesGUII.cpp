@@ -1,0 +1,92 @@
+#include "FileIO/olMirraPreferencesGUII.h"
+
+#include "FileIO/olMirraPreferencesGUIW.h"
+#include "Framework/olApply.h"
+#include "Kernel/olController.h"
+#include "ui_olMirraPreferencesGUI.h"
+
+#include <QCoreApplication>
+
+#include <OpenSG/OSGSceneFileHandler.h>
+
+#include <string>
+
+namespace
+{
+
+bool isNotEssentials() { return !olController::isOrloEssentials(); }
+
+const olSetting<bool> multitextureEnvCombiner{"MirraFileIO multitexture env combiner", false};
+const olSetting<bool> forceGrayscaleShadows{"MirraFileIO force grayscale shadow texture", isNotEssentials};
+const olSetting<QString> location{"MirraFileIO mirra location", QString()};
+const olSetting<bool> autoloadShadowGeometry{"MirraFileIO autoload shadow geometry", true};
+const olSetting<bool> shadowGeometry{"MirraFileIO shadow geometry", false};
+const olSetting<bool> shadowMerge{"MirraFileIO shadow merge", true};
+const olSetting<bool> localMaterialLibrary{"MirraFileIO local material library", isNotEssentials};
+const olSetting<std::string> units{"MirraFileIO units", "millimeter"};
+const olSetting<std::string> importUnits{"MirraFileIO import units", "millimeter"};
+
+std::string trueOrFalse(bool value) { return value ? "true" : "false"; }
+
+/// With the separator behind it; nothing for an empty location. A quote in the path goes out as it is, because the
+/// loader's options know no escapes.
+std::string locationOption(const QString &path)
+{
+    return path.isEmpty() ? std::string() : "mirraLocation=\"" + path.toLocal8Bit().toStdString() + "\",";
+}
+
+} // namespace
+
+olMirraPreferencesGUII::olMirraPreferencesGUII()
+    : olPreferences(QLatin1String("Mirra"), QCoreApplication::translate("olPreferences", "FileIO")),
+      m_page(std::make_unique<olMirraPreferencesGUIW>()),
+      m_settings(*m_page)
+{
+    // The four without a control are kept for stored preferences; the loader's options never follow them.
+    const auto &form = m_page->form();
+    m_settings.addWithoutControl(multitextureEnvCombiner);
+    m_settings.add(forceGrayscaleShadows, form.forceGrayscaleShadows);
+    m_settings.add(location, form.location);
+    m_settings.addWithoutControl(autoloadShadowGeometry);
+    m_settings.addWithoutControl(shadowGeometry);
+    m_settings.addWithoutControl(shadowMerge);
+    m_settings.add(localMaterialLibrary, form.localMaterialLibrary);
+    m_settings.add(units, byText(form.units));
+    m_settings.add(importUnits, byText(form.importUnits));
+
+    addPreferencesGUI(m_page.get());
+}
+
+olMirraPreferencesGUII::~olMirraPreferencesGUII()
+{
+    m_settings.removeKeys();
+    subPreferencesGUI(m_page.get());
+}
+
+void olMirraPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
+
+void olMirraPreferencesGUII::applyPreferences()
+{
+    // Deliberately on every apply: the loader always gets a whole set of options. What cannot be read has a fallback;
+    // that of the import units is not their default but leaves the units of a file alone.
+    const bool grayscale = readOr(forceGrayscaleShadows, false);
+    const QString path = readOr(location, QString());
+    const bool library = readOr(localMaterialLibrary, false);
+    const std::string sceneUnits = readOr(units, std::string("millimeter"));
+    const std::string fileUnits = readOr(importUnits, std::string("ignore"));
+
+    // The entries without a value of ours are fixed, whatever the settings of the same names hold: the loader works
+    // with no others.
+    std::string options = "multitextureEnvCombiner=false,";
+    options += "forceGrayscaleShadowTexture=" + trueOrFalse(grayscale) + ',';
+    options += locationOption(path);
+    options += "autoLoadShadowGeometry=true,shadowGeometry=false,shadowMerge=true,";
+    options += "useLocalMaterialLibrary=" + trueOrFalse(library) + ',';
+    options += "units=" + sceneUnits + ',';
+    options += "importunits=" + fileUnits;
+    osg::SceneFileHandler::the().setOptions("mrb", options.c_str());
+}
+
+void olMirraPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
+
+void olMirraPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

@@ -1,0 +1,26 @@
+#include "FileIO/olMirraPreferencesGUIW.h"
+
+#include "Framework/olPageLayout.h"
+#include "Utilities/olFile.h"
+#include "Utilities/olPlatform.h"
+#include "ui_olMirraPreferencesGUI.h"
+
+#include <QFileDialog>
+
+olMirraPreferencesGUIW::olMirraPreferencesGUIW() : m_form(std::make_unique<Ui::olMirraPreferencesGUI>())
+{
+    m_form->setupUi(this);
+    m_form->setLocation->setIcon(olPlatform::getIcon(QLatin1String("FileOpen")));
+    connect(m_form->setLocation, SIGNAL(clicked()), this, SLOT(clickedSetMirraLocation()));
+    alignFields(*this);
+}
+
+olMirraPreferencesGUIW::~olMirraPreferencesGUIW() = default;
+
+void olMirraPreferencesGUIW::clickedSetMirraLocation()
+{
+    const QString directory = QFileDialog::getExistingDirectory(this, tr("Set Mirra Location"),
+                                                                m_form->location->text(), QFileDialog::ShowDirsOnly);
+    if (!directory.isEmpty())
+        m_form->location->setText(olFile::convertSeparators(directory));
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Kernel/olPreferences.h"
+
+#include <QObject>
+
+#include <memory>
+
+class olOsbPreferencesGUIW;
+
+/// The native scene format's place in the host's list. It has no settings.
+class olOsbPreferencesGUII : public QObject, public olPreferences
+{
+    Q_OBJECT
+
+public:
+    olOsbPreferencesGUII();
+    ~olOsbPreferencesGUII() override;
+
+    void setDefaults(olMessage &, bool) override {}
+    void applyPreferences() override {}
+    void updateGUI() override {}
+    void updateData() override {}
+
+private:
+    std::unique_ptr<olOsbPreferencesGUIW> m_page;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class olOsbPreferencesGUI;
+}
+
+/// The page of the native scene format, which tells that there is nothing to set.
+class olOsbPreferencesGUIW : public QWidget
+{
+    Q_OBJECT
+
+public:
+    olOsbPreferencesGUIW();
+    ~olOsbPreferencesGUIW() override;
+
+private:
+    std::unique_ptr<Ui::olOsbPreferencesGUI> m_form;
+};

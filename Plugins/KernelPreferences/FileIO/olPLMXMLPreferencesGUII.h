@@ -1,0 +1,12 @@
+#pragma once
+
+#include "FileIO/olFileTypePreferences.h"
+
+/// The import of PLM XML files.
+class olPLMXMLPreferencesGUII : public olFileTypePreferences
+{
+    Q_OBJECT
+
+public:
+    olPLMXMLPreferencesGUII();
+};

@@ -1,0 +1,8 @@
+#include "FileIO/olProEngineerFilePreferencesGUII.h"
+
+#include "FileIO/olFileType.h"
+
+olProEngineerFilePreferencesGUII::olProEngineerFilePreferencesGUII()
+    : olFileTypePreferences(olFileType::ProEngineer, "ProE / Creo")
+{
+}

@@ -1,0 +1,8 @@
+#include "FileIO/olSolidEdgeFilePreferencesGUII.h"
+
+#include "FileIO/olFileType.h"
+
+olSolidEdgeFilePreferencesGUII::olSolidEdgeFilePreferencesGUII()
+    : olFileTypePreferences(olFileType::SolidEdge, "SolidEdge")
+{
+}

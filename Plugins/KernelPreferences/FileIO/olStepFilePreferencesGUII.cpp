@@ -1,0 +1,5 @@
+#include "FileIO/olStepFilePreferencesGUII.h"
+
+#include "FileIO/olFileType.h"
+
+olStepFilePreferencesGUII::olStepFilePreferencesGUII() : olFileTypePreferences(olFileType::Step, "Step") {}

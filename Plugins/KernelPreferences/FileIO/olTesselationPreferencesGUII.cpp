@@ -1,0 +1,68 @@
+#include "FileIO/olTesselationPreferencesGUII.h"
+
+#include "FileIO/olTesselationPreferencesGUIW.h"
+#include "Framework/olApply.h"
+#include "Kernel/olGeometryOptimizer.h"
+#include "ui_olTesselationPreferencesGUI.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+using Tolerances = std::vector<float>;
+
+const olSetting<float> topologyTolerance{"Optimizer Topology Tolerance", 0.005f};
+const olSetting<int> topologyMethod{"Optimizer Topology Method", 0};
+const olSetting<float> offsetFactor{"Optimizer Offset Factor", 1.0f};
+/// In millimetres, finest first. The misspelt key is the one that stored preferences hold.
+const olSetting<Tolerances> qualities{"Optimizer Teselation Quality", {0.01f, 0.05f, 0.1f, 0.5f, 1.0f}};
+const olSetting<bool> checkOrientation{"Optimizer Check Orientation", true};
+
+/// The list of qualities as a control.
+struct QualityRows {
+    olTesselationPreferencesGUIW *page;
+    QTreeWidget *widget;
+};
+void showOn(const QualityRows &rows, const Tolerances &tolerances) { rows.page->setQualities(tolerances); }
+void takeFrom(const QualityRows &rows, Tolerances &tolerances) { tolerances = rows.page->qualities(); }
+
+} // namespace
+
+olTesselationPreferencesGUII::olTesselationPreferencesGUII()
+    : olPreferences(QCoreApplication::translate("olPreferences", "Tesselation"),
+                    QCoreApplication::translate("olPreferences", "Import")),
+      m_page(std::make_unique<olTesselationPreferencesGUIW>()),
+      m_settings(*m_page)
+{
+    const auto &form = m_page->form();
+    m_settings.add(topologyTolerance, form.topologyTolerance);
+    m_settings.add(topologyMethod, form.topologyMethod);
+    m_settings.add(offsetFactor, form.offsetFactor);
+    m_settings.add(qualities, QualityRows{m_page.get(), form.qualities});
+    m_settings.add(checkOrientation, form.checkOrientation);
+
+    addPreferencesGUI(m_page.get());
+}
+
+olTesselationPreferencesGUII::~olTesselationPreferencesGUII()
+{
+    m_settings.removeKeys();
+    subPreferencesGUI(m_page.get());
+}
+
+void olTesselationPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
+
+void olTesselationPreferencesGUII::applyPreferences()
+{
+    // Deliberately on every apply, changed or not.
+    applyIfRead(topologyTolerance, &olGeometryOptimizer::setTopologyTolerance);
+    applyIfRead(topologyMethod, &olGeometryOptimizer::setTopologyMethod);
+    applyIfRead(offsetFactor, &olGeometryOptimizer::setOffsetFactor);
+    applyIfRead(qualities, &olGeometryOptimizer::setTessellationQuality);
+    applyIfRead(checkOrientation, &olGeometryOptimizer::setCheckOrientation);
+}
+
+void olTesselationPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
+
+void olTesselationPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

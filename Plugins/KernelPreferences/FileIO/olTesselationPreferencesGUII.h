@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Framework/olSettingList.h"
+#include "Kernel/olPreferences.h"
+
+#include <QObject>
+
+#include <memory>
+
+class olTesselationPreferencesGUIW;
+
+/// How the host's geometry optimizer tessellates imported surfaces anew.
+class olTesselationPreferencesGUII : public QObject, public olPreferences
+{
+    Q_OBJECT
+
+public:
+    olTesselationPreferencesGUII();
+    ~olTesselationPreferencesGUII() override;
+
+    void setDefaults(olMessage &, bool flag) override;
+    void applyPreferences() override;
+    void updateGUI() override;
+    void updateData() override;
+
+private:
+    std::unique_ptr<olTesselationPreferencesGUIW> m_page;
+    olSettingList m_settings;
+};

@@ -1,0 +1,5 @@
+#include "FileIO/olWireFilePreferencesGUII.h"
+
+#include "FileIO/olFileType.h"
+
+olWireFilePreferencesGUII::olWireFilePreferencesGUII() : olFileTypePreferences(olFileType::Wire, "Contura") {}

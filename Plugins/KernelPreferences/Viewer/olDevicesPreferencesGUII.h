@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Framework/olSettingList.h"
+#include "Kernel/olPreferences.h"
+
+#include <QObject>
+
+#include <memory>
+
+class olDevicesPreferencesGUIW;
+
+/// The devices for navigation beside mouse and keyboard: a 3D mouse and a joystick.
+class olDevicesPreferencesGUII : public QObject, public olPreferences
+{
+    Q_OBJECT
+
+public:
+    olDevicesPreferencesGUII();
+    ~olDevicesPreferencesGUII() override;
+
+    void setDefaults(olMessage &, bool flag) override;
+    void applyPreferences() override;
+    void updateGUI() override;
+    void updateData() override;
+
+private:
+    std::unique_ptr<olDevicesPreferencesGUIW> m_page;
+    olSettingList m_settings;
+};

@@ -1,0 +1,70 @@
+#include "Viewer/olHelpPreferencesGUII.h"
+
+#include "Framework/olApply.h"
+#include "Kernel/olController.h"
+#include "Utilities/olMessage.h"
+#include "Utilities/olPlatform.h"
+#include "Viewer/olHelpPreferencesGUIW.h"
+#include "ui_olHelpPreferencesGUI.h"
+
+namespace
+{
+
+// Deliberately plain text: the data directory is taken as it comes, and backslashes follow it on every system.
+QString installedHelp() { return "file:///" + olPlatform::getDataDir() + "\\ToolClip\\Help"; }
+
+const olSetting<int> location{"Help Location", 0};
+const olSetting<QString> path{"Help Path", &installedHelp};
+const olSetting<int> popup{"Help Popup", 0};
+
+constexpr int simpleToolclips = 1;
+constexpr int wholeApplication = 0;
+
+void updateToolclips(int popupHelp)
+{
+    olMessage message;
+    message.set("useSimpleToolclips", boost::any(popupHelp == simpleToolclips), true);
+    olController::call("updateToolclip", message, wholeApplication);
+}
+
+} // namespace
+
+olHelpPreferencesGUII::olHelpPreferencesGUII()
+    : olPreferences(tr("Help"), QString()), m_page(std::make_unique<olHelpPreferencesGUIW>()), m_settings(*m_page)
+{
+    const auto &form = m_page->form();
+    m_settings.add(location, form.location);
+    m_settings.add(path, form.path);
+    m_settings.add(popup, form.popup);
+
+    addPreferencesGUI(m_page.get());
+}
+
+olHelpPreferencesGUII::~olHelpPreferencesGUII()
+{
+    m_settings.removeKeys();
+    subPreferencesGUI(m_page.get());
+}
+
+void olHelpPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
+
+void olHelpPreferencesGUII::applyPreferences()
+{
+    const olApply apply(*this);
+
+    // Deliberately read and not handed on: the host looks them up when help is opened, and here a value of the wrong
+    // type gets reported.
+    apply.ifChanged(location, [](int) {});
+    apply.ifChanged(path, [](const QString &) {});
+
+    apply.ifChanged(popup, &updateToolclips);
+}
+
+void olHelpPreferencesGUII::updateGUI()
+{
+    m_settings.showOnPage();
+    // Also where the index stayed as it was, so that no signal told it.
+    m_page->indexChangedLocation(m_page->form().location->currentIndex());
+}
+
+void olHelpPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

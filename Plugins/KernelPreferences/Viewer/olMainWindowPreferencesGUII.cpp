@@ -1,0 +1,94 @@
+#include "Viewer/olMainWindowPreferencesGUII.h"
+
+#include "Framework/olApply.h"
+#include "Kernel/olController.h"
+#include "Viewer/olMainWindowPreferencesGUIW.h"
+#include "ui_olMainWindowPreferencesGUI.h"
+
+#include <QMessageBox>
+
+namespace
+{
+
+bool isDesignOrEssentials() { return olController::isOrloDesign() || olController::isOrloEssentials(); }
+
+const olSetting<bool> showToolButtonsText{"MainWindow show tool buttons text", &isDesignOrEssentials};
+const olSetting<bool> showButtonText{"MainWindow show button text", true};
+const olSetting<bool> showFps{"MainWindow show fps", false};
+const olSetting<bool> redirectOsgLog{"MainWindow redirect osg log", false};
+const olSetting<double> windowOpacity{"MainWindow window opacity", 1.0};
+const olSetting<bool> disableDocking{"MainWindow disable docking", false};
+const olSetting<int> userLanguage{"MainWindow user language", -1};
+
+constexpr int english = 0;
+
+/// The host's number of a stored language; what it does not know is English.
+int displayLanguage(int stored) { return stored >= 1 && stored <= 3 ? stored : english; }
+
+} // namespace
+
+olMainWindowPreferencesGUII::olMainWindowPreferencesGUII()
+    : olPreferences(tr("MainWindow"), QString()),
+      m_page(std::make_unique<olMainWindowPreferencesGUIW>()),
+      m_settings(*m_page)
+{
+    const auto &form = m_page->form();
+    m_settings.addWithoutControl(showToolButtonsText);
+    m_settings.add(showButtonText, form.showButtonText);
+    m_settings.add(showFps, form.showFps);
+    m_settings.add(redirectOsgLog, form.redirectOsgLog);
+    m_settings.add(windowOpacity, form.windowOpacity);
+    m_settings.add(disableDocking, form.disableDocking);
+    m_settings.add(userLanguage, form.userLanguage);
+
+    addPreferencesGUI(m_page.get());
+}
+
+olMainWindowPreferencesGUII::~olMainWindowPreferencesGUII()
+{
+    m_settings.removeKeys();
+    subPreferencesGUI(m_page.get());
+}
+
+void olMainWindowPreferencesGUII::setDefaults(olMessage &, bool flag)
+{
+    m_settings.writeDefaults(flag);
+
+    // Read back, as a language that was stored before may have stayed.
+    const auto language = read(userLanguage);
+    if (language && displayLanguage(*language) != olController::getDisplayLanguage())
+        askForRestart();
+}
+
+// Deliberately without asking what changed: the window always becomes what the record says. The log and the language
+// are not applied, the host reads them when it starts. The fallback for the button text is not its default.
+void olMainWindowPreferencesGUII::applyPreferences()
+{
+    olController::showFPS(readOr(showFps, false));
+    olController::setWindowOpacity(readOr(windowOpacity, 1.0));
+    olController::setMainWindowDocking(!readOr(disableDocking, false));
+    olController::showButtonText(readOr(showButtonText, false));
+}
+
+void olMainWindowPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
+
+void olMainWindowPreferencesGUII::updateData()
+{
+    // Stored plainly, and nothing is reported unchanged: apply does not ask.
+    m_settings.storeFromPage({&showFps, &redirectOsgLog, &showButtonText});
+
+    // The indices themselves count here: from a language never chosen to English is a change as well. Opacity and
+    // docking are stored once the box is closed.
+    const int before = readOr(userLanguage, english);
+    m_settings.storeFromPage({&userLanguage});
+    if (readOr(userLanguage, before) != before)
+        askForRestart();
+
+    m_settings.storeFromPage({&windowOpacity, &disableDocking});
+}
+
+void olMainWindowPreferencesGUII::askForRestart()
+{
+    QMessageBox::information(m_page.get(), tr("Language Preferences Change"),
+                             tr("Please restart ORLO so that your language changes can take effect."), QMessageBox::Ok);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class olMainWindowPreferencesGUI;
+}
+
+/// The page of the main window settings.
+class olMainWindowPreferencesGUIW : public QWidget
+{
+    Q_OBJECT
+
+public:
+    olMainWindowPreferencesGUIW();
+    ~olMainWindowPreferencesGUIW() override;
+
+    [[nodiscard]] const Ui::olMainWindowPreferencesGUI &form() const { return *m_form; }
+
+private:
+    std::unique_ptr<Ui::olMainWindowPreferencesGUI> m_form;
+};

@@ -1,0 +1,80 @@
+#include "Support/PluginTest.h"
+#include "Utilities/olPlatform.h"
+
+#include <QHeaderView>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTest>
+#include <QToolButton>
+
+namespace
+{
+
+using Paths = std::vector<std::string>;
+
+class FileIO : public PluginTest
+{
+protected:
+    FileIO() { show({"/c", "/a", "/d", "/b"}); }
+
+    static void show(const Paths &paths)
+    {
+        record().set("texture search paths", paths, true);
+        module("FileIO").updateGUI();
+    }
+    static QTableWidget &table() { return control<QTableWidget>("FileIO", "searchPaths"); }
+    static Paths rows()
+    {
+        Paths paths;
+        for (int row = 0; row < table().rowCount(); ++row)
+            paths.push_back(table().item(row, 0)->text().toStdString());
+        return paths;
+    }
+};
+
+TEST_F(FileIO, SearchPathsAreSelectedButNotEdited)
+{
+    EXPECT_EQ(table().item(0, 0)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    EXPECT_EQ(table().rowHeight(0), 20);
+    EXPECT_EQ(table().horizontalHeaderItem(0)->text(), "Path");
+    EXPECT_TRUE(table().isSortingEnabled());
+}
+
+TEST_F(FileIO, SearchPathsAreSortedByTheUserAndKeptInThatOrderOnlyWhenConfirmed)
+{
+    module("FileIO").page()->show();
+    EXPECT_EQ(rows(), (Paths{"/c", "/a", "/d", "/b"}));
+    QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton);
+    EXPECT_EQ(rows(), (Paths{"/a", "/b", "/c", "/d"}));
+
+    // Cancelled: the next filling shows what is searched, in its order.
+    module("FileIO").updateGUI();
+    EXPECT_EQ(rows(), (Paths{"/c", "/a", "/d", "/b"}));
+    QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton);
+    module("FileIO").updateData();
+    EXPECT_EQ(boost::any_cast<Paths>(record().get("texture search paths")), (Paths{"/a", "/b", "/c", "/d"}));
+}
+
+TEST_F(FileIO, DeleteTakesEverySelectedRow)
+{
+    for (const int row : {0, 2, 3})
+        table().item(row, 0)->setSelected(true);
+    ASSERT_TRUE(QMetaObject::invokeMethod(module("FileIO").page(), "clickedSub"));
+    EXPECT_EQ(rows(), Paths{"/a"});
+}
+
+TEST_F(FileIO, ControlsAreAsThePageNeedsThem)
+{
+    const auto &browse = control<QToolButton>("FileIO", "browseTmpPath");
+    const QSize size(olPlatform::getMediumIconSizeX() + 2, olPlatform::getMediumIconSizeY() + 2);
+    EXPECT_EQ(browse.minimumSize(), size);
+    EXPECT_EQ(browse.maximumSize(), size);
+    EXPECT_FALSE(browse.icon().isNull());
+
+    const auto &tasks = control<QSpinBox>("FileIO", "maxParallelTasks");
+    EXPECT_EQ(tasks.minimum(), -1);
+    EXPECT_EQ(tasks.maximum(), 32768);
+    EXPECT_EQ(tasks.toolTip(), "Sets the maximum number of import tasks. Changing this value increases memory usage. ");
+}
+
+} // namespace
