@@ -15,6 +15,7 @@ namespace
 
 constexpr int keyRole = Qt::UserRole;
 constexpr int mostRowsAtOnce = 12;
+constexpr int columnGap = 16;
 
 int heightFor(const QTreeWidget &list)
 {
@@ -105,12 +106,12 @@ void olChangesView::fit()
             continue;
         list->setMinimumHeight(std::min(heightFor(*list), fontMetrics().height() * 8));
         list->setCurrentItem(list->topLevelItem(0));
-        for (int column = 0; column < list->columnCount(); ++column)
-            list->resizeColumnToContents(column);
         // What is too long for its column is elided, and whole in its tooltip.
         const int widest = fontMetrics().averageCharWidth() * 50;
-        for (int column = 0; column < list->columnCount(); ++column)
-            list->setColumnWidth(column, std::min(list->columnWidth(column) + 16, widest));
+        for (int column = 0; column + 1 < list->columnCount(); ++column) {
+            list->resizeColumnToContents(column);
+            list->setColumnWidth(column, std::min(list->columnWidth(column) + columnGap, widest));
+        }
     }
     const QSize comfortable(fontMetrics().averageCharWidth() * 100, 0);
     const int height = heightFor(*m_changes) + (m_skipped->topLevelItemCount() > 0 ? heightFor(*m_skipped) : 0) +

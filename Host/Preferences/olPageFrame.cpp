@@ -4,7 +4,10 @@
 #include "Widgets/QOLCollapsibleFrame.h"
 
 #include <QLayout>
+#include <QScrollBar>
 #include <QTabWidget>
+
+#include <algorithm>
 
 olPageFrame::olPageFrame(QWidget &page) : m_page(&page), m_marks(new olSettingMarks(page)), m_wheelGuard(page)
 {
@@ -24,9 +27,11 @@ olPageFrame::~olPageFrame()
         m_page->setParent(nullptr);
 }
 
-void olPageFrame::reveal(QWidget &control)
+void olPageFrame::reveal(const olFoundControl &control)
 {
-    for (QWidget *widget = &control; widget && widget != m_page; widget = widget->parentWidget()) {
+    if (!control.widget)
+        return;
+    for (QWidget *widget = control.widget; widget && widget != m_page; widget = widget->parentWidget()) {
         if (auto *frame = qobject_cast<QOLCollapsibleFrame *>(widget))
             frame->setFolded(false);
         QWidget *stack = widget->parentWidget();
@@ -37,11 +42,24 @@ void olPageFrame::reveal(QWidget &control)
     // What was behind has its place only once the layouts have run.
     if (m_page->layout())
         m_page->layout()->activate();
-    ensureWidgetVisible(&control);
+    ensureWidgetVisible(control.widget);
+    showFromTheLeft(control);
+}
+
+/// A control is worth little without the label before it, so the page goes no further sideways than it must.
+void olPageFrame::showFromTheLeft(const olFoundControl &control)
+{
+    int left = control.widget->mapTo(m_page, QPoint()).x();
+    const int right = left + control.widget->width();
+    for (const auto &label : control.labels) {
+        if (label)
+            left = std::min(left, label->mapTo(m_page, QPoint()).x());
+    }
+    horizontalScrollBar()->setValue(std::min(right - viewport()->width(), left - fontMetrics().averageCharWidth()));
 }
 
 QSize olPageFrame::minimumSizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.averageCharWidth() * 30, metrics.height() * 6};
+    return {metrics.averageCharWidth() * 12, metrics.height() * 6};
 }

@@ -25,12 +25,14 @@ public:
     [[nodiscard]] olSettingLocks &locks() { return m_locks; }
 
     /// Brings the control into sight: its tab to the front, its frames unfolded, scrolled to.
-    void reveal(QWidget &control);
+    void reveal(const olFoundControl &control);
 
     /// A page never asks the dialog for more room than it can scroll in.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 private:
+    void showFromTheLeft(const olFoundControl &control);
+
     QPointer<QWidget> m_page;
     olSettingMarks *m_marks;
     olWheelGuard m_wheelGuard;

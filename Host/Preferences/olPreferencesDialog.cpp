@@ -27,7 +27,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -43,12 +42,6 @@ QSize comfortableSize(const QWidget &widget)
 {
     const QFontMetrics metrics = widget.fontMetrics();
     return {metrics.averageCharWidth() * 130, metrics.height() * 36};
-}
-
-QLayout *withoutMargins(QLayout *layout)
-{
-    layout->setContentsMargins(0, 0, 0, 0);
-    return layout;
 }
 
 QString changesText(std::size_t count)
@@ -68,11 +61,11 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_menu(std::make_unique<olSettingMenu>(session, *m_pending)),
       m_searchField(new QLineEdit),
       m_changedOnly(new QCheckBox(tr("Changed &only"))),
-      m_more(new QToolButton),
+      m_more(new QPushButton(tr("&More"))),
       m_tree(new olModuleTree),
       m_splitter(new QSplitter),
       m_title(new QLabel),
-      m_locked(new QToolButton),
+      m_locked(new QPushButton),
       m_restorePage(new QPushButton(tr("Restore &Page"))),
       m_pages(new QStackedWidget),
       m_nothing(new QLabel),
@@ -109,10 +102,12 @@ olPreferencesDialog::~olPreferencesDialog()
 
 QWidget *olPreferencesDialog::buildLeft()
 {
+    m_searchField->setObjectName(QStringLiteral("search"));
     m_searchField->setPlaceholderText(tr("Search"));
     m_searchField->setAccessibleName(tr("Search all settings"));
     m_searchField->setToolTip(tr("Finds settings by label, tooltip, choice and key (Ctrl+F)."));
     m_searchField->setClearButtonEnabled(true);
+    m_changedOnly->setObjectName(QStringLiteral("changedOnly"));
     m_changedOnly->setToolTip(
         tr("Shows only the pages with settings that differ from their defaults, and marks them."));
 
@@ -121,14 +116,12 @@ QWidget *olPreferencesDialog::buildLeft()
     menu->addAction(tr("&Export..."), this, &olPreferencesDialog::chooseExport);
     menu->addSeparator();
     menu->addAction(tr("&Restore All Defaults"), this, &olPreferencesDialog::restoreAll);
-    m_more->setText(tr("&More"));
     m_more->setMenu(menu);
-    m_more->setPopupMode(QToolButton::InstantPopup);
-    m_more->setFocusPolicy(Qt::StrongFocus);
+    m_more->setAutoDefault(false);
 
     auto *left = new QWidget;
     auto *layout = new QVBoxLayout(left);
-    withoutMargins(layout);
+    layout->setContentsMargins(0, 0, 0, 0);
     auto *options = new QHBoxLayout;
     options->addWidget(m_changedOnly, 1);
     options->addWidget(m_more);
@@ -145,9 +138,11 @@ QWidget *olPreferencesDialog::buildRight()
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.3);
     m_title->setFont(titleFont);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_locked->setPopupMode(QToolButton::InstantPopup);
-    m_locked->setFocusPolicy(Qt::StrongFocus);
+    m_locked->setObjectName(QStringLiteral("locked"));
+    m_locked->setAutoDefault(false);
+    m_locked->setVisible(false);
     m_locked->setMenu(new QMenu(m_locked));
+    m_restorePage->setObjectName(QStringLiteral("restorePage"));
     m_restorePage->setAutoDefault(false);
     m_restorePage->setToolTip(tr("Shows the defaults of this page. Nothing changes before OK or Apply."));
     m_nothing->setAlignment(Qt::AlignCenter);
@@ -156,7 +151,7 @@ QWidget *olPreferencesDialog::buildRight()
 
     auto *right = new QWidget;
     auto *layout = new QVBoxLayout(right);
-    withoutMargins(layout);
+    layout->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
     auto *header = new QHBoxLayout;
     header->addWidget(m_title, 1);
     header->addWidget(m_locked);
@@ -168,11 +163,12 @@ QWidget *olPreferencesDialog::buildRight()
 
 QWidget *olPreferencesDialog::buildBottom()
 {
+    m_changes->setObjectName(QStringLiteral("changes"));
     m_changes->setAutoDefault(false);
     m_changes->setToolTip(tr("Lists what OK and Apply will change."));
     auto *bottom = new QWidget;
     auto *layout = new QHBoxLayout(bottom);
-    withoutMargins(layout);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_changes);
     layout->addStretch(1);
     layout->addWidget(m_buttons);
@@ -214,7 +210,7 @@ void olPreferencesDialog::recall()
     resize(size.boundedTo(screen()->availableSize() - windowFrame));
     const int character = fontMetrics().averageCharWidth();
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
-        m_splitter->setSizes({character * 32, character * 98});
+        m_splitter->setSizes({character * 26, character * 104});
     m_splitter->setChildrenCollapsible(false);
     m_tree->choose(memory.page);
 }
@@ -469,9 +465,7 @@ void olPreferencesDialog::revealFirstHit()
         return;
     // The tab in front stays there while it has a hit.
     const auto first = std::find_if(hits.begin(), hits.end(), inSight);
-    const olFoundControl &hit = first == hits.end() ? hits.front() : *first;
-    if (hit.widget)
-        frame->reveal(*hit.widget);
+    frame->reveal(first == hits.end() ? hits.front() : *first);
 }
 
 void olPreferencesDialog::focusFirstHit()
@@ -491,12 +485,14 @@ void olPreferencesDialog::goTo(const QString &key)
     const olFoundControl *control = m_search->control(key.toStdString());
     if (!owner || !control || !control->widget)
         return;
+    // The index may be built anew on the way.
+    const olFoundControl shown = *control;
     QWidget *widget = control->widget;
     m_searchField->clear();
     m_changedOnly->setChecked(false);
     m_tree->choose(owner->name());
     if (olPageFrame *frame = m_frames.value(owner->page()))
-        frame->reveal(*widget);
+        frame->reveal(shown);
     widget->setFocus(Qt::TabFocusReason);
 }
 

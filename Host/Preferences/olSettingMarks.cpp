@@ -12,7 +12,7 @@ namespace
 
 constexpr int barWidth = 3;
 constexpr int barGap = 3;
-constexpr int tintMargin = 3;
+constexpr int tintMargin = 2;
 constexpr int dotRadius = 3;
 
 /// Whether anything of it is to be seen: a tab behind, a folded frame and a hidden control show nothing.
@@ -124,7 +124,8 @@ void olSettingMarks::paintHit(QPainter &painter, const olFoundControl &control) 
         return;
     // The page is painted beneath, so the tint must let its texts through.
     QColor tint = palette().color(QPalette::Highlight);
-    painter.setPen(QPen(tint, 1.0));
+    tint.setAlpha(130);
+    painter.setPen(tint);
     tint.setAlpha(40);
     painter.setBrush(tint);
     painter.drawRoundedRect(
@@ -152,8 +153,7 @@ void olSettingMarks::paintChanged(QPainter &painter, const olFoundControl &contr
     const QRect place = placeOf(control);
     if (place.isEmpty())
         return;
-    painter.setBrush(
-        palette().color(control.widget->isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Link));
+    painter.setBrush(palette().color(QPalette::Active, QPalette::Highlight));
     const qreal left = std::max(0, place.left() - barGap - barWidth);
     painter.drawRoundedRect(QRectF(left, place.top(), barWidth, place.height()), barWidth / 2.0, barWidth / 2.0);
 }
