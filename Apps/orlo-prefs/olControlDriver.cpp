@@ -7,6 +7,7 @@
 #include "olToolError.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -126,7 +127,10 @@ void write(QAbstractButton &button, const Value &value)
     if (button.isChecked() == asBool(value))
         return;
     button.click();
-    if (button.isChecked() != value.json.toBool())
+    // A page may answer the click by taking it back, which is its good right; one of several that exclude each other
+    // cannot be switched off by anybody.
+    const bool isOneOfSeveral = button.autoExclusive() || (button.group() && button.group()->exclusive());
+    if (isOneOfSeveral && button.isChecked() != value.json.toBool())
         refuse(value, QStringLiteral("true, as another one must be chosen instead"));
 }
 

@@ -146,7 +146,7 @@ void olModalAnswers::answerBox(QMessageBox &box)
     const QList<QAbstractButton *> buttons = box.buttons();
     for (QAbstractButton *button : buttons) {
         const QString text = olPageIndex::withoutMnemonic(button->text());
-        if (text == olPageIndex::withoutMnemonic(answer.text))
+        if (text == answer.text || button->text() == answer.text)
             return button->click();
         texts << QLatin1Char('"') + text + QLatin1Char('"');
     }

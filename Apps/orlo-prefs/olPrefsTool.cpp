@@ -115,6 +115,9 @@ void olPrefsTool::script()
         throw olToolError(QStringLiteral("Cannot read the script %1: %2.").arg(name, file.errorString()));
     if (!m_options.store.isEmpty())
         loadStore();
+    // The language that was stored is that of a start, which a script does not run; its controls go by the names of
+    // the untranslated pages.
+    olHostState::the().displayLanguage.reset();
     loadPlugin();
     olScriptRunner(m_session, stdout).run(file);
 }

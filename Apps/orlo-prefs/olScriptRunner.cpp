@@ -47,7 +47,7 @@ TypedValue typedValue(olScriptParser &line)
                       .arg(QString::fromStdString(type)));
     const std::string key = line.word("KEY").text.toStdString();
     const olScriptValue written = line.value();
-    const boost::any value = olValue::fromJson(type, written.json);
+    const boost::any value = olValue::fromJson(type, written.written);
     if (value.empty())
         throw olToolError(QStringLiteral("%1 is no value of type %2: expected %3")
                               .arg(QString::fromUtf8(written.written), QString::fromStdString(type),
@@ -299,7 +299,7 @@ void olScriptRunner::host(olScriptParser &line)
         throw olToolError(QStringLiteral("there is no fact %1%2").arg(name, olDidYouMean(name, factNames())));
     const olScriptValue value = line.value();
     const std::string type = olValue::typeName(fact->any());
-    if (!fact->setAny(olValue::fromJson(type, value.json)))
+    if (!fact->setAny(olValue::fromJson(type, value.written)))
         throw olToolError(
             QStringLiteral("%1 does not fit the fact %2: expected %3")
                 .arg(QString::fromUtf8(value.written), name, QString::fromStdString(olValue::expectation(type))));

@@ -42,12 +42,13 @@ public:
     olHostValue<bool> buttonTextShown{*this, "buttonTextShown", true};
     olHostValue<bool> simpleToolclips{*this, "simpleToolclips", false};
 
-    // Web interface: its port and pipe as given from outside the preferences, whether the object exists, and whether
-    // the server shall run
+    // Web interface: its port and pipe as given from outside the preferences, whether the object exists, whether
+    // the server shall run and whether it does
     olHostValue<int> webInterfacePort{*this, "webInterfacePort", 0, Fact};
     olHostValue<std::string> webInterfacePipe{*this, "webInterfacePipe", {}, Fact};
     olHostValue<bool> webInterface{*this, "webInterface", false, Fact};
     olHostValue<bool> webInterfaceWanted{*this, "webInterfaceWanted", false};
+    olHostValue<bool> webInterfaceRunning{*this, "webInterfaceRunning", false};
     olHostValue<bool> webInterfaceDebugMode{*this, "webInterfaceDebugMode", false};
 
     // Camera

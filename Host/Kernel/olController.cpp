@@ -4,6 +4,7 @@
 #include "Embedded/olJournal.h"
 #include "Kernel/olWebInterface.h"
 #include "Utilities/olMessage.h"
+#include "WebServer/olWebServer.h"
 
 bool olController::isOrloEssentials() { return olHostState::the().edition == olEdition::Essentials; }
 
@@ -84,13 +85,21 @@ std::string olController::getWebInterfacePipe() { return olHostState::the().webI
 olWebInterface *olController::getWebInterface()
 {
     static olWebInterface webInterface;
-    return olHostState::the().webInterface ? &webInterface : nullptr;
+    const olHostState &host = olHostState::the();
+    return host.webInterface || host.webInterfaceRunning ? &webInterface : nullptr;
 }
 
 void olController::enableWebInterface(bool enable)
 {
     olJournal::call("olController::enableWebInterface", enable);
-    olHostState::the().webInterfaceWanted = enable;
+    olHostState &host = olHostState::the();
+    host.webInterfaceWanted = enable;
+    if (host.isPassive)
+        return;
+    if (enable)
+        olWebServer::the().start();
+    else
+        olWebServer::the().stop();
 }
 
 void olController::call(const std::string &command, const olMessage &arguments, int receiver)

@@ -31,6 +31,8 @@
 #include "Viewer/olMarkerPreferencesGUII.h"
 #include "Viewer/olNavigatorPreferencesGUII.h"
 #include "Viewer/olRenderOptionsPreferencesGUII.h"
+#include "Viewer/olVirtualRealityPreferencesGUII.h"
+#include "Viewer/olWebInterfacePreferencesGUII.h"
 
 namespace
 {
@@ -78,8 +80,10 @@ constexpr Creation creations[] = {
     create<olOsbPreferencesGUII>,
     create<olRenderOptionsPreferencesGUII>,
     createOutsideEssentials<olTesselationPreferencesGUII>,
+    create<olWebInterfacePreferencesGUII>,
     create<olWrlPreferencesGUII>,
     create<olHelpPreferencesGUII>,
+    create<olVirtualRealityPreferencesGUII>,
 };
 // clang-format on
 

@@ -118,6 +118,12 @@ class Script(ToolTest):
         self.assertEqual(self.store.read_bytes(), before)
         self.assert_printed(self.stored("get", "Camera fov"), "60.1\n")
 
+    def test_the_language_of_the_store_is_not_that_of_the_host(self):
+        self.stored("set", "MainWindow user language", "2")
+        self.assert_printed(self.stored("script", "-", input="host displayLanguage 2\ndefaults MainWindow keep\n"), "")
+        printed = self.stored("script", "-", input="defaults MainWindow keep\n").stdout
+        self.assertTrue(printed.startswith('message information "Language Preferences Change" '), printed)
+
     def test_a_file_may_end_without_a_line_end_and_have_those_of_windows(self):
         script = self.folder / "some.script"
         script.write_bytes(b'\r\n  # nothing\r\nput int "a" 1 # one\r\n\tget "a"')

@@ -83,7 +83,7 @@ CONTROLS = {
 SEQUENCES = {
     'edit Sample "Left" true\nedit Sample "Left" false':
         "false cannot be entered: expected true, as another one must be chosen instead",
-    'answer "Do"\nclick Sample "Ask"': 'the box "Sure?" has no button "Do"; it has "Do It", "Leave It"',
+    'answer "Do"\nclick Sample "Ask"': 'the box "Sure?" has no button "Do"; it has "Do It", "Leave & Go"',
     'answer directory "/tmp"\nclick Sample "Tell"':
         'the box "Told" opened, but the answer queued for it is a directory',
     'answer "OK"\nclick Sample "Browse"':

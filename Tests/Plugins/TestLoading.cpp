@@ -1,9 +1,11 @@
+#include "Embedded/olHostState.h"
 #include "Preferences/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace
@@ -26,6 +28,87 @@ std::vector<QString> registered()
 class Loading : public PluginTest
 {
 };
+
+/// Class, category and name of each module, in the order of registration.
+std::vector<std::string> registrations()
+{
+    std::vector<std::string> found;
+    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
+        const QString category = entry->category().isEmpty() ? QString() : entry->category() + " > ";
+        found.push_back(entry->className() + ": " + (category + entry->name()).toStdString());
+    }
+    return found;
+}
+
+const std::vector<std::string> allModules{
+    "olCatiaV4FilePreferencesGUII: FileIO > Catia V4",
+    "olCatiaV5FilePreferencesGUII: FileIO > Catia V5",
+    "olWireFilePreferencesGUII: FileIO > Contura",
+    "olIgesFilePreferencesGUII: FileIO > Iges",
+    "olNXFilePreferencesGUII: FileIO > NX",
+    "olStepFilePreferencesGUII: FileIO > Step",
+    "olDraftixFilePreferencesGUII: FileIO > Draftix",
+    "olPartwrightFilePreferencesGUII: FileIO > Partwright",
+    "olSolidWorksFilePreferencesGUII: FileIO > SolidWorks",
+    "olSolidEdgeFilePreferencesGUII: FileIO > SolidEdge",
+    "olStlFilePreferencesGUII: FileIO > STL",
+    "olProEngineerFilePreferencesGUII: FileIO > ProE / Creo",
+    "olJtFilePreferencesGUII: FileIO > JT",
+    "olRhinoFilePreferencesGUII: FileIO > Rhino",
+    "olGenericCADFilePreferencesGUII: FileIO > Base CAD",
+    "olKBXFilePreferencesGUII: FileIO > KBX",
+    "olDGNFilePreferencesGUII: FileIO > DGN",
+    "olPLMXMLPreferencesGUII: FileIO > PLM XML",
+    "olCameraPreferencesGUII: Camera",
+    "olDevicesPreferencesGUII: Devices > Devices",
+    "olFileIOPreferencesGUII: FileIO > FileIO",
+    "olMainWindowPreferencesGUII: MainWindow",
+    "olMarkerPreferencesGUII: Selection",
+    "olMirraPreferencesGUII: FileIO > Mirra",
+    "olNavigatorPreferencesGUII: Navigator",
+    "olOsbPreferencesGUII: FileIO > OSB / OPB",
+    "olRenderOptionsPreferencesGUII: Render Options",
+    "olTesselationPreferencesGUII: Import > Tesselation",
+    "olWebInterfacePreferencesGUII: WebInterface",
+    "olWrlPreferencesGUII: FileIO > WRL",
+    "olHelpPreferencesGUII: Help",
+    "olVirtualRealityPreferencesGUII: Virtual Reality",
+};
+
+void expectRegistered(const std::vector<std::string> &expected)
+{
+    const auto found = registrations();
+    ASSERT_EQ(found.size(), expected.size());
+    for (std::size_t row = 0; row < found.size(); ++row)
+        EXPECT_EQ(found[row], expected[row]);
+}
+
+TEST_F(Loading, EveryModuleIsRegisteredInItsPlaceWithItsPage)
+{
+    for (const olEdition edition : {olEdition::Design, olEdition::Professional, olEdition::Enterprise}) {
+        restart(edition);
+        expectRegistered(allModules);
+        for (const olPreferencesEntry *entry : modules())
+            EXPECT_TRUE(entry->page()) << entry->className();
+    }
+}
+
+TEST_F(Loading, EssentialsLacksTheTessellationAndTheCamerasPage)
+{
+    const std::string tessellation = "olTesselationPreferencesGUII: Import > Tesselation";
+    auto expected = allModules;
+    expected.erase(std::remove(expected.begin(), expected.end(), tessellation), expected.end());
+    restart(olEdition::Essentials);
+    expectRegistered(expected);
+    for (const olPreferencesEntry *entry : modules())
+        EXPECT_EQ(entry->page() == nullptr, entry->name() == "Camera") << entry->className();
+
+    // The edition is asked at each call, so a later one makes up for what was left out.
+    olHostState::the().edition = olEdition::Professional;
+    EXPECT_EQ(plugin.enter(), QString());
+    expected.push_back(tessellation);
+    expectRegistered(expected);
+}
 
 TEST_F(Loading, EnteringTwiceRegistersNothingTwice)
 {
@@ -67,13 +150,13 @@ TEST_F(Loading, WhatTheRecordStillHoldsOutlivesTheLibrary)
 
 TEST_F(Loading, AModuleThatCannotBeBuiltIsTriedAgainAndTheOthersStay)
 {
-    const auto all = registered();
-    const std::size_t failing = all.size() / 2;
+    const auto names = registered();
+    const std::size_t failing = names.size() / 2;
     plugin.unload();
 
     int attempts = 0;
     olPreferencesRegistry::the().setRegistrationHook([&](const QString &name) {
-        if (name == all[failing] && ++attempts == 1)
+        if (name == names[failing] && ++attempts == 1)
             throw std::runtime_error("no room for it");
     });
     const QString file = QStringLiteral(ORLO_PLUGIN_FILE);
@@ -81,10 +164,10 @@ TEST_F(Loading, AModuleThatCannotBeBuiltIsTriedAgainAndTheOthersStay)
     ASSERT_TRUE(library.load());
     const auto entry = reinterpret_cast<void (*)()>(library.resolve("initPreferencesPlugin"));
     EXPECT_THROW(entry(), std::runtime_error);
-    EXPECT_EQ(registered(), std::vector<QString>(all.begin(), all.begin() + std::ptrdiff_t(failing)));
+    EXPECT_EQ(registered(), std::vector<QString>(names.begin(), names.begin() + std::ptrdiff_t(failing)));
 
     entry();
-    EXPECT_EQ(registered(), all);
+    EXPECT_EQ(registered(), names);
     EXPECT_EQ(attempts, 2);
     olPreferencesRegistry::the().setRegistrationHook({});
     library.unload();

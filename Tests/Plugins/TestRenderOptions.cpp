@@ -166,4 +166,16 @@ TEST_F(RenderOptions, OnlyEssentialsLacksTheSecondTab)
     EXPECT_EQ((Cells{"Rendering", "Viewport"}), tabs());
 }
 
+TEST_F(RenderOptions, WhatAnEditionHidesLeavesNoGap)
+{
+    restart(olEdition::Essentials);
+    page().show();
+    const auto gapBelow = [](const char *upper, const char *lower) {
+        return control<QWidget>("Render Options", lower).y() -
+               control<QWidget>("Render Options", upper).geometry().bottom();
+    };
+    EXPECT_EQ(gapBelow("postprocessAntialiasing", "disableOnCameraMovement"),
+              gapBelow("disableOnCameraMovement", "auxiliaryNodes"));
+}
+
 } // namespace

@@ -58,3 +58,14 @@ void alignFields(QWidget &page)
             alignFields(*tab->widget(index));
     }
 }
+
+void hideRow(QWidget &field)
+{
+    field.hide();
+    auto *form = qobject_cast<QFormLayout *>(field.parentWidget()->layout());
+    Q_ASSERT_X(form && form->indexOf(&field) >= 0, "hideRow", "the field has no row of a form");
+    int row = -1;
+    QFormLayout::ItemRole role = QFormLayout::SpanningRole;
+    form->getWidgetPosition(&field, &row, &role);
+    delete form->takeRow(row).fieldItem;
+}

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "Framework/olControls.h"
+#include "Framework/olRecordStore.h"
 #include "Framework/olSetting.h"
-#include "Framework/olTypedAccess.h"
 #include "Framework/olVariant.h"
 
 #include <QVariant>
-
-#include <optional>
 
 /// A setting in a module's list, whatever its type and control.
 class olListedSetting
@@ -21,17 +19,17 @@ public:
     [[nodiscard]] const olSettingBase &setting() const { return m_setting; }
     [[nodiscard]] const std::string &key() const { return m_setting.key(); }
 
-    virtual void writeDefault(olMessage &record, bool flag) const = 0;
+    virtual void writeDefault(bool flag) const = 0;
 
     /// The control; null for a setting without one. The rest is not to be called without one.
     [[nodiscard]] virtual QWidget *widget() const { return nullptr; }
 
-    /// Record to control. What cannot be read leaves the control as it is, or shows the live value if there is one.
-    virtual void show(olMessage &) const {}
+    /// Store to control. What cannot be read leaves the control as it is, or shows the live value if there is one.
+    virtual void show() const {}
 
-    /// Control to record; false where the record held that value already.
-    virtual bool takeIfChanged(olMessage &) const { return true; }
-    virtual void take(olMessage &) const {}
+    /// Control to store; false where the store held that value already.
+    virtual bool takeIfChanged() const { return true; }
+    virtual void take() const {}
 
     /// The control alone.
     [[nodiscard]] virtual QVariant value() const { return {}; }
@@ -42,15 +40,12 @@ private:
 };
 
 /// A setting that no control shows: defaulted and removed, never shown or taken.
-template <class T> class olUnshownSetting : public olListedSetting
+template <class T, class Store = olRecordStore> class olUnshownSetting : public olListedSetting
 {
 public:
     explicit olUnshownSetting(const olSetting<T> &setting) : olListedSetting(setting) {}
 
-    void writeDefault(olMessage &record, bool flag) const override
-    {
-        record.set(key(), boost::any(typed().defaultValue()), flag);
-    }
+    void writeDefault(bool flag) const override { Store::writeDefault(typed(), flag); }
 
 protected:
     [[nodiscard]] const olSetting<T> &typed() const { return static_cast<const olSetting<T> &>(setting()); }
@@ -62,7 +57,7 @@ class olRetiredSetting : public olListedSetting
 public:
     explicit olRetiredSetting(std::string key) : olListedSetting(m_retired), m_retired(std::move(key)) {}
 
-    void writeDefault(olMessage &, bool) const override {}
+    void writeDefault(bool) const override {}
 
 private:
     olSettingBase m_retired;
@@ -72,27 +67,28 @@ private:
 struct olNoLiveValue {
 };
 
-/// A setting paired with its control, and with the host's live value to show while the record has none.
-template <class T, class Control, class Live> class olPairing : public olUnshownSetting<T>
+/// A setting paired with its control, and with the host's live value to show while the store has none.
+template <class T, class Control, class Live, class Store = olRecordStore>
+class olPairing : public olUnshownSetting<T, Store>
 {
 public:
     olPairing(const olSetting<T> &setting, Control control, Live live)
-        : olUnshownSetting<T>(setting), m_control(control), m_live(live)
+        : olUnshownSetting<T, Store>(setting), m_control(control), m_live(live)
     {
     }
 
     [[nodiscard]] QWidget *widget() const override { return widgetOf(m_control); }
 
-    void show(olMessage &record) const override
+    void show() const override
     {
         T value{};
-        if (getFromMessage(record, this->key(), value))
+        if (Store::read(this->typed(), value))
             showOn(m_control, value);
         else
             showLive();
     }
-    bool takeIfChanged(olMessage &record) const override { return setIfChanged(record, this->key(), taken(), true); }
-    void take(olMessage &record) const override { record.set(this->key(), boost::any(taken()), true); }
+    bool takeIfChanged() const override { return Store::writeIfChanged(this->typed(), taken()); }
+    void take() const override { Store::write(this->typed(), taken()); }
 
     [[nodiscard]] QVariant value() const override { return toVariant(taken()); }
     bool setValue(const QVariant &variant) const override
@@ -133,23 +129,13 @@ public:
     {
     }
 
-    void writeDefault(olMessage &, bool) const override {}
+    void writeDefault(bool) const override {}
 
-    bool takeIfChanged(olMessage &record) const override
+    bool takeIfChanged() const override
     {
         const List list = this->taken();
-        if (!list.empty())
-            return setIfChanged(record, this->key(), list, true);
-        const bool wasThere = !record.get(this->key()).empty();
-        record.remove(this->key());
-        return wasThere;
+        return list.empty() ? olRecordStore::remove(this->setting())
+                            : olRecordStore::writeIfChanged(this->typed(), list);
     }
-    void take(olMessage &record) const override
-    {
-        const List list = this->taken();
-        if (list.empty())
-            record.remove(this->key());
-        else
-            record.set(this->key(), boost::any(list), true);
-    }
+    void take() const override { takeIfChanged(); }
 };

@@ -25,7 +25,7 @@ olMessage &record() { return olPreferences::getData(); }
 
 void takeOne(const olListedSetting &setting, olPreferences &module)
 {
-    if (setting.widget() && !setting.takeIfChanged(record()))
+    if (setting.widget() && !setting.takeIfChanged())
         module.addUnchanged(setting.key().c_str());
 }
 
@@ -74,25 +74,25 @@ const olListedSetting &olSettingList::listed(const olSettingBase &setting) const
 void olSettingList::writeDefaults(bool flag) const
 {
     for (const auto &setting : m_settings)
-        setting->writeDefault(record(), flag);
+        setting->writeDefault(flag);
 }
 
 void olSettingList::writeDefaults(Order order, bool flag) const
 {
     for (const olSettingBase *setting : order)
-        listed(*setting).writeDefault(record(), flag);
+        listed(*setting).writeDefault(flag);
 }
 
 void olSettingList::showOnPage() const
 {
     for (const auto &setting : m_settings)
-        setting->show(record());
+        setting->show();
 }
 
 void olSettingList::showOnPage(Order order) const
 {
     for (const olSettingBase *setting : order)
-        listed(*setting).show(record());
+        listed(*setting).show();
 }
 
 void olSettingList::takeFromPage(olPreferences &module) const
@@ -110,13 +110,13 @@ void olSettingList::takeFromPage(Order order, olPreferences &module) const
 void olSettingList::storeFromPage() const
 {
     for (const auto &setting : m_settings)
-        setting->take(record());
+        setting->take();
 }
 
 void olSettingList::storeFromPage(Order order) const
 {
     for (const olSettingBase *setting : order)
-        listed(*setting).take(record());
+        listed(*setting).take();
 }
 
 void olSettingList::removeKeys() const

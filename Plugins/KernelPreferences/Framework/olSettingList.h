@@ -86,8 +86,10 @@ public:
     /// Null where no setting of the list bears the key.
     [[nodiscard]] const olListedSetting *find(const std::string &key) const;
 
-private:
+protected:
     void append(std::unique_ptr<olListedSetting> setting);
+
+private:
     [[nodiscard]] bool isForeign(const olSettingBase &setting) const;
     [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
 

@@ -43,7 +43,8 @@ olNavigatorPreferencesGUIW::olNavigatorPreferencesGUIW() : m_form(std::make_uniq
         speed->setDecimals(2);
     }
     m_form->duration->setMinimum(0.0);
-    m_form->autoCenter->setVisible(!olController::isOrloEssentials());
+    if (olController::isOrloEssentials())
+        hideRow(*m_form->autoCenter);
     alignFields(*this);
 
     // The first item that a combo gets becomes its current one, which must not choose a preset.

@@ -105,9 +105,9 @@ void olRenderOptionsPreferencesGUIW::adaptToEdition()
 
     // Buffer formats and coupled graphics cards are for the two larger editions.
     if (!olController::isOrloProfessional() && !olController::isOrloEnterprise()) {
-        m_form->rgb10->hide();
-        m_form->rgb16Float->hide();
-        m_form->sli->hide();
+        hideRow(*m_form->rgb10);
+        hideRow(*m_form->rgb16Float);
+        hideRow(*m_form->sli);
     }
     if (!olController::isOrloEssentials())
         return;
@@ -115,8 +115,8 @@ void olRenderOptionsPreferencesGUIW::adaptToEdition()
     // Taken out of the tabs only: the page keeps it, so that its settings are filled and taken back in every edition.
     m_form->tabs->removeTab(m_form->tabs->indexOf(m_form->advanced));
     // Always on in Essentials, whatever is set.
-    m_form->stillframeAntialiasing->hide();
-    m_form->downscale->hide();
+    hideRow(*m_form->stillframeAntialiasing);
+    hideRow(*m_form->downscale);
     m_form->fixedWidth->setMaximum(largestWidthInEssentials);
     m_form->fixedHeight->setMaximum(largestHeightInEssentials);
 }

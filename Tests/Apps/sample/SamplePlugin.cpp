@@ -191,7 +191,7 @@ private:
         QMessageBox box(QMessageBox::Warning, "Sure?", "First\nsecond", QMessageBox::NoButton, this);
         box.setInformativeText("More of it");
         const auto *yes = box.addButton("&Do It", QMessageBox::AcceptRole);
-        box.addButton("Leave It", QMessageBox::RejectRole);
+        box.addButton("&Leave && Go", QMessageBox::RejectRole);
         box.exec();
         hear(box.clickedButton() == yes ? "done" : "left");
     }

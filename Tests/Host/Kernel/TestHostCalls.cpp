@@ -25,11 +25,16 @@ using Calls = std::vector<std::string>;
 class HostCalls : public ::testing::Test, private olJournalObserver
 {
 protected:
-    HostCalls() : m_before(olJournal::observe(this)) { state.reset(); }
+    HostCalls() : m_before(olJournal::observe(this))
+    {
+        state.reset();
+        state.isPassive = true;
+    }
     ~HostCalls() override
     {
         olJournal::observe(m_before);
         state.reset();
+        state.isPassive = false;
     }
 
     void called(const std::string &call) override { calls.push_back(call); }

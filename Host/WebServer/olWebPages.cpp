@@ -1,0 +1,132 @@
+#include "WebServer/olWebPages.h"
+
+#include "Embedded/olHostState.h"
+#include "Embedded/olValue.h"
+#include "Preferences/olPreferencesEntry.h"
+#include "Preferences/olPreferencesRegistry.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+namespace
+{
+
+using Values = std::map<std::string, boost::any>;
+
+QString translated(const char *text) { return QCoreApplication::translate("olWebPages", text); }
+
+/// Whether a value is nobody's business outside: who is let in, by which pipe the host is driven, and whatever a module
+/// calls a secret.
+bool isConfidential(const std::string &key)
+{
+    const QString name = QString::fromStdString(key).toLower();
+    const auto isIn = [&name](const char *word) { return name.contains(QLatin1String(word)); };
+    constexpr const char *words[] = {"white list", "webinterfacepipe", "password", "passphrase", "secret", "token"};
+    return std::any_of(std::begin(words), std::end(words), isIn);
+}
+
+bool isPublic(const std::string &key, const boost::any &value)
+{
+    return !olValue::typeName(value).empty() && !isConfidential(key);
+}
+
+/// Of all modules, wherever they keep their values.
+Values settings()
+{
+    Values values;
+    const auto addPublic = [&values](const std::string &key, const boost::any &value) {
+        if (isPublic(key, value))
+            values[key] = value;
+    };
+    olPreferencesRegistry &registry = olPreferencesRegistry::the();
+    for (const auto &[key, value] : registry.record().entries())
+        addPublic(key, value);
+    for (const olPreferencesEntry *entry : registry.entries()) {
+        for (const olOfferedDefault &offered : entry->defaults())
+            addPublic(offered.key, entry->value(offered.key));
+    }
+    return values;
+}
+
+Values state()
+{
+    Values values;
+    for (const olHostValueBase *value : olHostState::the().values()) {
+        if (isPublic(value->name(), value->any()))
+            values[value->name()] = value->any();
+    }
+    return values;
+}
+
+std::string joined(const Values &values, std::string (*text)(const boost::any &))
+{
+    std::string lines;
+    for (const auto &[key, value] : values)
+        lines += (lines.empty() ? "\n  " : ",\n  ") + olValue::quoted(key) + ": " + text(value);
+    return '{' + lines + "\n}\n";
+}
+
+std::string withType(const boost::any &value)
+{
+    return R"({"type": )" + olValue::quoted(olValue::typeName(value)) + R"(, "value": )" + olValue::toJson(value) + '}';
+}
+
+olWebAnswer json(const std::string &text)
+{
+    return {200, "application/json; charset=utf-8", QByteArray::fromStdString(text)};
+}
+
+olWebAnswer message(unsigned status, const QString &text)
+{
+    return {status, "text/plain; charset=utf-8", text.toUtf8() + '\n'};
+}
+
+QString row(const QString &name, const QString &value)
+{
+    return QStringLiteral("<tr><th scope=\"row\">%1</th><td>%2</td></tr>\n")
+        .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
+}
+
+olWebAnswer statusPage()
+{
+    const olHostState &host = olHostState::the();
+    QString rows;
+    for (const auto &[name, value] : state())
+        rows += row(QString::fromStdString(name), QString::fromStdString(olValue::toJson(value)));
+
+    const QString page =
+        QStringLiteral("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
+                       "<meta name=\"viewport\" content=\"width=device-width\">\n"
+                       "<style>body{font-family:sans-serif;margin:2em auto;max-width:50em;padding:0 1em;color:#222;"
+                       "background:#fff}th,td{padding:.2em 1em .2em 0;text-align:left;vertical-align:top;"
+                       "border-bottom:1px solid #ddd;font-weight:normal;overflow-wrap:anywhere}"
+                       "table{border-collapse:collapse;width:100%}</style>\n</head>\n"
+                       "<body>\n<h1>%1</h1>\n<p>%2</p>\n"
+                       "<p><a href=\"/settings.json\">%3</a> &middot; <a href=\"/state.json\">%4</a></p>\n"
+                       "<h2>%4</h2>\n<table>\n")
+            .arg(host.appVersionName.get().toHtmlEscaped(), translated("The application is running.").toHtmlEscaped(),
+                 translated("Settings").toHtmlEscaped(), translated("State of the host").toHtmlEscaped()) +
+        rows + QStringLiteral("</table>\n</body>\n</html>\n");
+    return {200, "text/html; charset=utf-8", page.toUtf8()};
+}
+
+} // namespace
+
+olWebAnswer olWebPages::answer(const olWebRequest &request)
+{
+    if (request.method != "GET" && request.method != "HEAD")
+        return message(405, translated("Nothing can be changed here; ask with GET."));
+    if (request.path == "/")
+        return statusPage();
+    if (request.path == "/settings.json")
+        return json(joined(settings(), withType));
+    if (request.path == "/state.json")
+        return json(joined(state(), olValue::toJson));
+    return message(404, translated("There is no such page."));
+}
+
+olWebAnswer olWebPages::refusal() { return message(403, translated("This host is not allowed.")); }

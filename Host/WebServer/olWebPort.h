@@ -1,0 +1,55 @@
+#pragma once
+
+#include "WebServer/olWebRequest.h"
+
+#include <QByteArray>
+#include <QSocketNotifier>
+#include <QString>
+#include <QTimer>
+
+#include <cstdarg>
+#include <functional>
+#include <memory>
+#include <optional>
+
+struct MHD_Daemon;
+
+/// A certificate chain and its private key, both as PEM.
+struct olWebCertificate {
+    QByteArray chain;
+    QByteArray key;
+
+    /// Where the chain was read, for messages.
+    QString file;
+};
+
+/// One open port that speaks HTTP, or HTTPS with a certificate. It has no thread of its own: requests are answered from
+/// the event loop of the thread that opened it, so that answers may read whatever belongs to that thread, and once it
+/// is destroyed nothing of it is left.
+class olWebPort
+{
+public:
+    using Handler = std::function<olWebAnswer(const olWebRequest &)>;
+
+    explicit olWebPort(Handler handler);
+    ~olWebPort();
+    olWebPort(const olWebPort &) = delete;
+    olWebPort &operator=(const olWebPort &) = delete;
+
+    /// Listens on the loopback address alone or on all. Returns an empty text, else the reason why it does not.
+    [[nodiscard]] QString open(quint16 port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate);
+
+    [[nodiscard]] olWebAnswer answer(const olWebRequest &request) const { return m_handler(request); }
+
+private:
+    static void keepReason(void *self, const char *format, va_list arguments);
+    void run();
+
+    Handler m_handler;
+    QString m_reason;
+    std::optional<olWebCertificate> m_certificate;
+    std::unique_ptr<MHD_Daemon, void (*)(MHD_Daemon *)> m_daemon;
+    // Behind the daemon: they watch what it closes, so they go first.
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    QTimer m_timer;
+};

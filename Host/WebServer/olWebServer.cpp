@@ -1,0 +1,115 @@
+#include "WebServer/olWebServer.h"
+
+#include "Embedded/olHostState.h"
+#include "Preferences/olPreferencesRegistry.h"
+#include "Preferences/olPreferencesStore.h"
+#include "Utilities/olLog.h"
+#include "WebServer/olWebPages.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+namespace
+{
+
+QString translated(const char *text) { return QCoreApplication::translate("olWebServer", text); }
+
+template <class T> T setting(const char *key, T fallback)
+{
+    const T *value = boost::any_cast<T>(&olPreferencesRegistry::the().record().get(key));
+    return value ? *value : fallback;
+}
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        olLog::error(translated("The web server cannot read %1: %2").arg(name, file.errorString()));
+    return file.isOpen() ? file.readAll() : QByteArray();
+}
+
+/// The certificate that is installed; nothing where there is none or half of it cannot be read.
+std::optional<olWebCertificate> installedCertificate()
+{
+    const QDir folder = QFileInfo(olPreferencesStore::userFile()).dir();
+    const QString chain = folder.filePath(QStringLiteral("web.crt"));
+    if (!QFileInfo::exists(chain))
+        return std::nullopt;
+    olWebCertificate certificate{contentOf(chain), contentOf(folder.filePath(QStringLiteral("web.key"))), chain};
+    return certificate.chain.isEmpty() || certificate.key.isEmpty() ? std::nullopt : std::make_optional(certificate);
+}
+
+void log(const olWebRequest &request, unsigned status)
+{
+    // Encoded, so that no client writes lines of its own into the log.
+    const QByteArray path = QUrl::toPercentEncoding(QString::fromUtf8(request.path), "/");
+    olLog::info(QStringLiteral("web server: %1 %2 %3 %4")
+                    .arg(request.client.toString(), QString::fromLatin1(request.method.left(16)),
+                         QString::fromLatin1(path), QString::number(status)));
+}
+
+} // namespace
+
+olWebServer &olWebServer::the()
+{
+    static olWebServer server;
+    return server;
+}
+
+olWebServer::olWebServer()
+{
+    // No port outlives the event loop that serves it.
+    qAddPostRoutine([] { olWebServer::the().stop(); });
+}
+
+void olWebServer::start()
+{
+    stop();
+    // What cannot be read restricts rather than opens.
+    const bool localhostOnly = setting("WebInterface localhost only", true);
+    m_access = std::make_unique<olWebAccess>();
+    if (localhostOnly)
+        m_access->allowLocalNamesOnly();
+    if (setting("WebInterface use white list", false))
+        m_access->allowOnly(setting("WebInterface white list", std::string()));
+
+    m_plain = open(setting("WebInterface port", 8888), localhostOnly, std::nullopt);
+    if (const auto certificate = installedCertificate())
+        m_secure = open(setting("WebInterface ssl port", 8444), localhostOnly, certificate);
+    olHostState::the().webInterfaceRunning = isRunning();
+}
+
+void olWebServer::stop()
+{
+    m_plain.reset();
+    m_secure.reset();
+    m_access.reset();
+    olHostState::the().webInterfaceRunning = false;
+}
+
+std::unique_ptr<olWebPort> olWebServer::open(int port, bool loopbackOnly,
+                                             const std::optional<olWebCertificate> &certificate)
+{
+    if (port == 0)
+        return nullptr;
+    auto opened = std::make_unique<olWebPort>([this](const olWebRequest &request) { return answer(request); });
+    const QString reason = port < 0 || port > 65535 ? translated("ports are numbered 1 to 65535")
+                                                    : opened->open(quint16(port), loopbackOnly, certificate);
+    if (reason.isEmpty())
+        return opened;
+    const QString place = certificate ? translated("port %1 with %2").arg(QString::number(port), certificate->file)
+                                      : translated("port %1").arg(port);
+    olLog::error(translated("The web server does not listen on %1: %2").arg(place, reason));
+    return nullptr;
+}
+
+olWebAnswer olWebServer::answer(const olWebRequest &request) const
+{
+    olWebAnswer answer = m_access->isAllowed(request) ? olWebPages::answer(request) : olWebPages::refusal();
+    if (olHostState::the().webInterfaceDebugMode)
+        log(request, answer.status);
+    return answer;
+}

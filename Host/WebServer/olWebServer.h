@@ -1,0 +1,38 @@
+#pragma once
+
+#include "WebServer/olWebAccess.h"
+#include "WebServer/olWebPort.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+/// The host's built-in web server: a status page and the settings and state as JSON, all of it read-only. It runs in
+/// the GUI thread's event loop and has no threads.
+class olWebServer
+{
+public:
+    static olWebServer &the();
+
+    /// Starts, anew where it runs already, with what the settings record says now. Where "localhost only" cannot be
+    /// read it counts as set. A port of 0 stays closed. The SSL port opens only where the folder of the user's
+    /// preferences holds a certificate, web.crt, with its private key, web.key, both as PEM. What cannot be opened is
+    /// told in the log.
+    void start();
+
+    /// Closes the ports and every connection before it returns.
+    void stop();
+
+    [[nodiscard]] bool isRunning() const { return m_plain || m_secure; }
+
+private:
+    olWebServer();
+
+    std::unique_ptr<olWebPort> open(int port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate);
+    [[nodiscard]] olWebAnswer answer(const olWebRequest &request) const;
+
+    std::unique_ptr<olWebAccess> m_access;
+    std::unique_ptr<olWebPort> m_plain;
+    std::unique_ptr<olWebPort> m_secure;
+};

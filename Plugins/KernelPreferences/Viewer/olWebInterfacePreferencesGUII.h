@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Framework/olSettingList.h"
+#include "Kernel/olPreferences.h"
+
+#include <QObject>
+
+#include <memory>
+
+class olWebInterfacePreferencesGUIW;
+
+/// The host's built-in web server: whether it runs, where it listens and whom it answers.
+class olWebInterfacePreferencesGUII : public QObject, public olPreferences
+{
+    Q_OBJECT
+
+public:
+    olWebInterfacePreferencesGUII();
+    ~olWebInterfacePreferencesGUII() override;
+
+    void setDefaults(olMessage &, bool flag) override;
+    void applyPreferences() override;
+    void updateGUI() override;
+    void updateData() override;
+
+private:
+    std::unique_ptr<olWebInterfacePreferencesGUIW> m_page;
+    olSettingList m_settings;
+    const bool m_disabledByEnvironment;
+};

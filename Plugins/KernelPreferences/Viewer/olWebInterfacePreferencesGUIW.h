@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class olWebInterfacePreferencesGUI;
+}
+
+/// The page of the web server's settings. Switching the server on must be confirmed, and the two ways of restricting
+/// it exclude each other.
+class olWebInterfacePreferencesGUIW : public QWidget
+{
+    Q_OBJECT
+
+public:
+    olWebInterfacePreferencesGUIW();
+    ~olWebInterfacePreferencesGUIW() override;
+
+    [[nodiscard]] const Ui::olWebInterfacePreferencesGUI &form() const { return *m_form; }
+
+    /// Until then the page neither asks nor keeps the two restrictions apart.
+    void connectSlots();
+
+    /// For a server that must not run: switching it on here means nothing, so it is not confirmed either.
+    void neverAsk() { m_neverAsks = true; }
+
+    /// While it lives the page is being filled: what changes on it was not the user's doing.
+    class Filling
+    {
+    public:
+        explicit Filling(olWebInterfacePreferencesGUIW &page);
+        ~Filling();
+        Filling(const Filling &) = delete;
+        Filling &operator=(const Filling &) = delete;
+
+    private:
+        olWebInterfacePreferencesGUIW &m_page;
+    };
+
+public slots:
+    /// Asks whether the server shall really be switched on, and switches it off again where it shall not.
+    void toggledEnable(bool checked);
+
+    void toggledLocalhostOnly(bool checked);
+    void toggledAllowedHosts(bool checked);
+
+private:
+    [[nodiscard]] bool confirmsServer();
+
+    std::unique_ptr<Ui::olWebInterfacePreferencesGUI> m_form;
+    bool m_neverAsks = false;
+    bool m_isFilling = false;
+};

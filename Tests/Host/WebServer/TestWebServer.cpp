@@ -1,0 +1,412 @@
+#include "Embedded/olHostState.h"
+#include "Kernel/olController.h"
+#include "Kernel/olWebInterface.h"
+#include "Preferences/olPreferencesRegistry.h"
+#include "Utilities/olLog.h"
+#include "Utilities/olMessage.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QHostInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QProcess>
+#include <QSslConfiguration>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace
+{
+
+struct Reply {
+    int status = 0; // 0 where nobody answered
+    QByteArray body;
+    QByteArray contentType;
+    QByteArray allow;
+};
+
+/// A host with the record as its modules would fill it, a configuration folder of its own, and a free port.
+class WebServer : public testing::Test, private olLogObserver
+{
+protected:
+    WebServer() : m_log(olLog::observe(this))
+    {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_configuration.path()));
+        host.reset();
+        host.isPassive = false;
+        port = freePort();
+        record.set("WebInterface port", port);
+        record.set("WebInterface ssl port", freePort());
+        record.set("WebInterface localhost only", false);
+        record.set("WebInterface use white list", false);
+        record.set("WebInterface white list", std::string());
+    }
+
+    ~WebServer() override
+    {
+        olController::enableWebInterface(false);
+        host.reset();
+        olLog::observe(m_log);
+        const olMessage::Entries left = record.entries();
+        for (const auto &entry : left)
+            record.remove(entry.first);
+    }
+
+    void logged(olLogLevel level, const QString &text) override
+    {
+        (level == olLogLevel::Error ? errors : lines).append(text);
+    }
+
+    static int freePort()
+    {
+        QTcpServer finder;
+        finder.listen(QHostAddress::LocalHost);
+        return finder.serverPort();
+    }
+
+    QNetworkRequest request(const QString &path) const
+    {
+        QNetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(port).arg(path)));
+        request.setTransferTimeout(5000);
+        return request;
+    }
+
+    Reply get(const QString &path) { return wait(m_client.get(request(path))); }
+
+    static Reply wait(QNetworkReply *pending)
+    {
+        const std::unique_ptr<QNetworkReply> reply(pending);
+        QEventLoop loop;
+        QObject::connect(pending, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+        if (!pending->isFinished())
+            loop.exec();
+        return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll(),
+                reply->rawHeader("Content-Type"), reply->rawHeader("Allow")};
+    }
+
+    QString configured(const char *file) const
+    {
+        QDir(m_configuration.path()).mkpath(QStringLiteral("orlo"));
+        return m_configuration.filePath(QStringLiteral("orlo/") + QLatin1String(file));
+    }
+
+    QTemporaryDir m_configuration;
+    QNetworkAccessManager m_client;
+    olHostState &host = olHostState::the();
+    olMessage &record = olPreferencesRegistry::the().record();
+    int port = 0;
+    QStringList errors;
+    QStringList lines;
+
+private:
+    olLogObserver *m_log;
+};
+
+int threads() { return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); }
+
+TEST_F(WebServer, AnswersWhileItIsOnAndIsGoneAfterIsOff)
+{
+    EXPECT_EQ(get("/").status, 0) << "refused before it is switched on";
+    const int before = threads();
+
+    olController::enableWebInterface(true);
+    EXPECT_TRUE(host.webInterfaceRunning);
+    EXPECT_NE(olController::getWebInterface(), nullptr);
+    const Reply page = get("/");
+    EXPECT_EQ(page.status, 200);
+    EXPECT_EQ(page.contentType, "text/html; charset=utf-8");
+
+    olController::enableWebInterface(false);
+    EXPECT_FALSE(host.webInterfaceRunning);
+    EXPECT_EQ(olController::getWebInterface(), nullptr);
+    EXPECT_EQ(get("/").status, 0);
+    EXPECT_LE(threads(), before);
+    QTcpServer successor;
+    EXPECT_TRUE(successor.listen(QHostAddress::Any, quint16(port))) << "the port is free again";
+    EXPECT_TRUE(errors.isEmpty());
+}
+
+TEST_F(WebServer, ClosesWhatIsConnectedWhenItStops)
+{
+    olController::enableWebInterface(true);
+    QTcpSocket idle;
+    idle.connectToHost(QHostAddress::LocalHost, quint16(port));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return idle.state() == QAbstractSocket::ConnectedState; }));
+    idle.write("GET / HTTP/1.1\r\nHost: localh");
+    QTest::qWait(50);
+
+    QElapsedTimer clock;
+    clock.start();
+    olController::enableWebInterface(false);
+    EXPECT_LT(clock.elapsed(), 1000) << "nobody waits for a slow client";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return idle.state() == QAbstractSocket::UnconnectedState; }));
+}
+
+TEST_F(WebServer, ListensOnThePortThatTheRecordNamesWhenItStarts)
+{
+    olController::enableWebInterface(true);
+    const int before = std::exchange(port, freePort());
+    record.set("WebInterface port", port);
+    EXPECT_EQ(get("/").status, 0);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(get("/").status, 200);
+    port = before;
+    EXPECT_EQ(get("/").status, 0);
+}
+
+TEST_F(WebServer, IsOnlyRecordedInAPassiveHost)
+{
+    host.isPassive = true;
+    olController::enableWebInterface(true);
+    EXPECT_TRUE(host.webInterfaceWanted);
+    EXPECT_FALSE(host.webInterfaceRunning);
+    EXPECT_EQ(get("/").status, 0);
+}
+
+TEST_F(WebServer, SaysInTheLogThatAPortIsTakenAndTheHostGoesOn)
+{
+    QTcpServer other;
+    ASSERT_TRUE(other.listen(QHostAddress::Any, quint16(port)));
+    olController::enableWebInterface(true);
+    EXPECT_EQ(
+        errors,
+        QStringList(QStringLiteral("The web server does not listen on port %1: Address already in use").arg(port)));
+    EXPECT_FALSE(host.webInterfaceRunning);
+}
+
+TEST_F(WebServer, RefusesNumbersThatAreNoPorts)
+{
+    for (const int number : {-1, 65536}) {
+        errors.clear();
+        record.set("WebInterface port", number);
+        olController::enableWebInterface(true);
+        ASSERT_EQ(errors.size(), 1);
+        EXPECT_TRUE(errors.first().endsWith(QStringLiteral("ports are numbered 1 to 65535")));
+    }
+    errors.clear();
+    record.set("WebInterface port", 0);
+    olController::enableWebInterface(true);
+    EXPECT_TRUE(errors.isEmpty()) << "0 keeps a port closed";
+    EXPECT_FALSE(host.webInterfaceRunning);
+}
+
+/// The addresses that the process listens on at a port, as the kernel lists them.
+QByteArray listeningAt(int port)
+{
+    QFile table(QStringLiteral("/proc/net/tcp"));
+    if (!table.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray hexPort = QByteArray::number(port, 16).toUpper().rightJustified(4, '0');
+    const QList<QByteArray> rows = table.readAll().split('\n');
+    for (const QByteArray &row : rows) {
+        const QList<QByteArray> fields = row.simplified().split(' ');
+        if (fields.size() > 3 && fields[1].endsWith(':' + hexPort) && fields[3] == "0A")
+            return fields[1].left(8);
+    }
+    return {};
+}
+
+TEST_F(WebServer, BindsToTheLoopbackAddressWhenOnlyThisMachineMayAsk)
+{
+    olController::enableWebInterface(true);
+    EXPECT_EQ(listeningAt(port), "00000000");
+    record.set("WebInterface localhost only", true);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(listeningAt(port), "0100007F");
+    EXPECT_EQ(get("/").status, 200);
+
+    record.remove("WebInterface localhost only");
+    olController::enableWebInterface(true);
+    EXPECT_EQ(listeningAt(port), "0100007F") << "what cannot be read restricts";
+}
+
+TEST_F(WebServer, OnlyThisMachineMeansUnderItsOwnName)
+{
+    record.set("WebInterface localhost only", true);
+    olController::enableWebInterface(true);
+    const auto askedAs = [this](const QByteArray &name) {
+        QNetworkRequest disguised = request(QStringLiteral("/settings.json"));
+        disguised.setRawHeader("Host", name);
+        return wait(m_client.get(disguised)).status;
+    };
+    EXPECT_EQ(askedAs("LOCALHOST:8888"), 200);
+    EXPECT_EQ(askedAs("rebound.example:8888"), 403);
+    EXPECT_EQ(askedAs("localhost.example"), 403);
+}
+
+TEST_F(WebServer, AnswersOnlyListedHostsWhileTheWhiteListIsInUse)
+{
+    struct Case {
+        const char *list;
+        int status;
+    };
+    record.set("WebInterface use white list", true);
+    for (const Case &listed : {Case{"", 403}, Case{"10.0.0.1\n10.0.0.2", 403}, Case{"10.0.0.1\n 127.0.0.1 \n", 200},
+                               Case{"10.0.0.1\r\nLocalHost\r\n", 200}, Case{"10.0.0.1, 127.0.0.1", 403}}) {
+        record.set("WebInterface white list", std::string(listed.list));
+        olController::enableWebInterface(true);
+        for (const char *path : {"/", "/settings.json", "/nowhere"}) {
+            const Reply reply = get(QLatin1String(path));
+            EXPECT_EQ(reply.status == 403, listed.status == 403) << listed.list << path;
+            EXPECT_EQ(reply.body.contains("This host is not allowed."), listed.status == 403);
+        }
+    }
+
+    record.set("WebInterface use white list", false);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(get("/").status, 200) << "the list counts only while it is in use";
+}
+
+TEST_F(WebServer, AnswersTheAddressesThatListedNamesStandFor)
+{
+    const QHostInfo self = QHostInfo::fromName(QHostInfo::localHostName());
+    const auto addresses = self.addresses();
+    const auto address = std::find_if(addresses.begin(), addresses.end(), [](const QHostAddress &each) {
+        return each.protocol() == QAbstractSocket::IPv4Protocol;
+    });
+    if (address == addresses.end())
+        GTEST_SKIP() << "this machine's name stands for no address";
+
+    record.set("WebInterface use white list", true);
+    record.set("WebInterface white list", QHostInfo::localHostName().toStdString());
+    olController::enableWebInterface(true);
+    QNetworkRequest byAddress = request("/");
+    QUrl url = byAddress.url();
+    url.setHost(address->toString());
+    byAddress.setUrl(url);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wait(m_client.get(byAddress)).status == 200; }));
+}
+
+TEST_F(WebServer, TellsSettingsAndStateAsJson)
+{
+    host.fov = 60.5f;
+    record.set("Camera fov", 60.5f);
+    record.set("Help path", QStringLiteral("C:\\Help \"new\""));
+    olController::enableWebInterface(true);
+
+    const Reply settings = get("/settings.json");
+    EXPECT_EQ(settings.contentType, "application/json; charset=utf-8");
+    const QJsonObject all = QJsonDocument::fromJson(settings.body).object();
+    EXPECT_EQ(all["Camera fov"].toObject()["type"].toString(), "float");
+    EXPECT_EQ(all["Camera fov"].toObject()["value"].toDouble(), 60.5);
+    EXPECT_EQ(all["Help path"].toObject()["value"].toString(), "C:\\Help \"new\"");
+    EXPECT_EQ(all["WebInterface port"].toObject()["value"].toInt(), port);
+
+    const QJsonObject state = QJsonDocument::fromJson(get("/state.json").body).object();
+    EXPECT_EQ(state["fov"].toDouble(), 60.5);
+    EXPECT_TRUE(state["webInterfaceRunning"].toBool());
+}
+
+TEST_F(WebServer, KeepsSecretsAndForeignValues)
+{
+    record.set("WebInterface white list", std::string("secrethost"));
+    record.set("Proxy Password", std::string("secretword"));
+    record.set("Unknown", std::vector<double>{1.0});
+    host.webInterfacePipe = "secretpipe";
+    olController::enableWebInterface(true);
+    for (const char *path : {"/", "/settings.json", "/state.json"}) {
+        const QByteArray body = get(QLatin1String(path)).body;
+        EXPECT_FALSE(body.isEmpty());
+        EXPECT_FALSE(body.contains("secret")) << path;
+        EXPECT_FALSE(body.contains("Unknown")) << path;
+    }
+}
+
+TEST_F(WebServer, EscapesWhatItPutsIntoThePage)
+{
+    host.appVersionName = QStringLiteral("<script>alert(1)</script>");
+    host.textureSearchPaths = {"/a&b/<i>\"x\"</i>"};
+    olController::enableWebInterface(true);
+    const QByteArray page = get("/").body;
+    EXPECT_TRUE(page.contains("&lt;script&gt;alert(1)&lt;/script&gt;"));
+    EXPECT_TRUE(page.contains("/a&amp;b/&lt;i&gt;"));
+    EXPECT_FALSE(page.contains("<script>"));
+    EXPECT_FALSE(page.contains("<i>"));
+}
+
+TEST_F(WebServer, ChangesNothingWhateverItIsAsked)
+{
+    olController::enableWebInterface(true);
+    const olMessage::Entries before = record.entries();
+    for (const char *method : {"POST", "PUT", "DELETE", "PATCH"}) {
+        const Reply reply = wait(m_client.sendCustomRequest(request("/settings.json"), method, "x = 1"));
+        EXPECT_EQ(reply.status, 405) << method;
+        EXPECT_EQ(reply.allow, "GET, HEAD");
+    }
+    EXPECT_EQ(get("/python?code=1").status, 404);
+    EXPECT_EQ(get("/../etc/passwd").status, 404);
+    const Reply head = wait(m_client.head(request("/")));
+    EXPECT_EQ(head.status, 200);
+    EXPECT_TRUE(head.body.isEmpty());
+    EXPECT_EQ(record.entries().size(), before.size());
+}
+
+TEST_F(WebServer, WritesRequestsIntoTheLogInDebugModeAlone)
+{
+    olController::enableWebInterface(true);
+    get("/");
+    EXPECT_TRUE(lines.isEmpty());
+    olController::getWebInterface()->setDebugMode(true);
+    get("/state.json");
+    get("/a%0Aerror:%20b");
+    EXPECT_EQ(lines, (QStringList{"web server: 127.0.0.1 GET /state.json 200",
+                                  "web server: 127.0.0.1 GET /a%0Aerror%3A%20b 404"}));
+}
+
+TEST_F(WebServer, SpeaksTlsOnTheSslPortWhereACertificateIsInstalled)
+{
+    const QString certificate = configured("web.crt");
+    const QString key = configured("web.key");
+    QProcess maker;
+    maker.start("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=localhost", "-days", "1",
+                            "-keyout", key, "-out", certificate});
+    ASSERT_TRUE(maker.waitForFinished() && maker.exitCode() == 0) << maker.readAllStandardError().data();
+    olController::enableWebInterface(true);
+    EXPECT_TRUE(errors.isEmpty());
+    EXPECT_EQ(get("/").status, 200) << "the plain port stays";
+
+    QNetworkRequest secure = request(QStringLiteral("/state.json"));
+    QUrl url = secure.url();
+    url.setScheme("https");
+    url.setPort(boost::any_cast<int>(record.get("WebInterface ssl port")));
+    secure.setUrl(url);
+    QNetworkReply *reply = m_client.get(secure);
+    QObject::connect(reply, &QNetworkReply::sslErrors, reply,
+                     QOverload<>::of(&QNetworkReply::ignoreSslErrors)); // signed by itself
+    const Reply answer = wait(reply);
+    EXPECT_EQ(answer.status, 200);
+    EXPECT_TRUE(QJsonDocument::fromJson(answer.body).isObject());
+
+    olController::enableWebInterface(false);
+    EXPECT_EQ(wait(m_client.get(secure)).status, 0);
+}
+
+TEST_F(WebServer, GoesOnWithoutTlsWhenTheCertificateIsUnusable)
+{
+    for (const char *file : {"web.crt", "web.key"}) {
+        QFile broken(configured(file));
+        ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+        broken.write("no certificate");
+    }
+    olController::enableWebInterface(true);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors.first().contains(configured("web.crt") + ": ")) << qPrintable(errors.first());
+    EXPECT_EQ(get("/").status, 200);
+
+    errors.clear();
+    QFile::remove(configured("web.key"));
+    olController::enableWebInterface(true);
+    ASSERT_EQ(errors.size(), 1);
+    EXPECT_TRUE(errors.first().contains("web.key")) << qPrintable(errors.first());
+}
+
+} // namespace

@@ -1,0 +1,187 @@
+#include "Embedded/olHostState.h"
+#include "KernelServices/olKernelServiceFactory.h"
+#include "KernelServices/olPreferencesService.h"
+#include "Support/PluginTest.h"
+
+#include <QComboBox>
+#include <QSignalSpy>
+
+namespace
+{
+
+constexpr auto foveatedKey = "StarVR Foveated Rendering Enabled";
+
+class VirtualReality : public PluginTest
+{
+protected:
+    using Calls = std::vector<std::string>;
+
+    VirtualReality() { vr().setDefaults(true); }
+
+    static olPreferencesEntry &vr() { return module("Virtual Reality"); }
+    static QComboBox &renderMode() { return control<QComboBox>("Virtual Reality", "renderMode"); }
+
+    static void expectEditable(bool foveated)
+    {
+        const auto isEnabled = [](const char *name) { return control<QWidget>("Virtual Reality", name).isEnabled(); };
+        for (const char *name : {"foveatedFovFactor", "foveatedResolutionScale", "nonFoveatedResolutionScale"})
+            EXPECT_EQ(isEnabled(name), foveated) << name;
+        for (const char *name : {"frontViewResolutionScale", "sideViewResolutionScale", "singleTexturePerEye"})
+            EXPECT_EQ(isEnabled(name), !foveated) << name;
+    }
+
+    Calls applied()
+    {
+        calls.take();
+        vr().applyPreferences();
+        vr().settle();
+        return calls.take();
+    }
+
+    olHostState &host = olHostState::the();
+    olPreferencesService &service = *olKernelServiceFactory::the<olPreferencesService>();
+};
+
+TEST_F(VirtualReality, KeepsNothingInTheRecordAndLeavesItsValuesToTheService)
+{
+    vr().updateGUI();
+    vr().updateData();
+    for (const auto &entry : record().entries())
+        EXPECT_TRUE(entry.first.rfind("VR ", 0) != 0 && entry.first.rfind("StarVR ", 0) != 0) << entry.first;
+    service.setFloat("VR Teleport Range", 12.0f);
+    plugin.unload();
+    EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 12.0f);
+}
+
+TEST_F(VirtualReality, DefaultsLieBeneathWhatIsSet)
+{
+    service.setInt("VR Visualise Hands", 0);
+    vr().setDefaults(true);
+    EXPECT_EQ(service.getInt("VR Visualise Hands", 7), 0);
+    EXPECT_EQ(service.getInt("VR Teleport Ground Mode", 7), 1);
+}
+
+TEST_F(VirtualReality, WithoutAnyValueThePageShowsTheDefaults)
+{
+    restart();
+    vr().updateGUI();
+    vr().updateData();
+    EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 15000.0f);
+    EXPECT_EQ(service.getFloat("StarVR Foveated FOV Factor", 0.0f), 0.35f) << "to the last bit";
+    EXPECT_TRUE(service.getBool("VR Show Tooltips on start", false));
+    EXPECT_FALSE(service.getBool(foveatedKey, true));
+}
+
+TEST_F(VirtualReality, TheRenderModeIsInvertedAndFillingItIsSilent)
+{
+    service.setBool(foveatedKey, true);
+    const QSignalSpy changes(&renderMode(), QOverload<int>::of(&QComboBox::currentIndexChanged));
+    for (const bool blockedBefore : {false, true}) {
+        renderMode().setCurrentIndex(1);
+        renderMode().blockSignals(blockedBefore);
+        const int before = changes.size();
+        vr().updateGUI();
+        EXPECT_EQ(renderMode().currentText(), "Foveated Rendering");
+        EXPECT_EQ(changes.size(), before);
+        EXPECT_EQ(renderMode().signalsBlocked(), blockedBefore);
+        renderMode().blockSignals(false);
+    }
+    renderMode().setCurrentIndex(1);
+    vr().updateData();
+    EXPECT_FALSE(service.getBool(foveatedKey, true));
+}
+
+TEST_F(VirtualReality, OnlyWhatTheRenderModeUsesCanBeEdited)
+{
+    expectEditable(renderMode().currentIndex() == 0);
+    for (const bool foveated : {false, true, false}) {
+        service.setBool(foveatedKey, foveated);
+        vr().updateGUI();
+        expectEditable(foveated);
+    }
+    renderMode().setCurrentIndex(0);
+    expectEditable(true);
+}
+
+TEST_F(VirtualReality, OnlySixKeysRestartTheHeadset)
+{
+    const std::vector<std::pair<std::string, boost::any>> restarting{
+        {foveatedKey, true},
+        {"StarVR Foveated Resolution Scale", 0.5f},
+        {"StarVR Non-Foveated Resolution Scale", 0.5f},
+        {"StarVR Front View Resolution Scale", 0.5f},
+        {"StarVR Side View Resolution Scale", 0.5f},
+        {"StarVR Single Texture Per Eye", true},
+    };
+    host.starVRHandler = true;
+    host.displayType = 6;
+    applied();
+    for (const auto &[key, value] : restarting) {
+        service.set(key, value);
+        const Calls done = applied();
+        ASSERT_EQ(done.size(), 3u) << key;
+        EXPECT_EQ(done.front(), "olOSGWidget::setDisplayType(0)");
+        EXPECT_EQ(done.back(), "olOSGWidget::setDisplayType(6)");
+    }
+
+    service.setFloat("StarVR Foveated FOV Factor", 0.5f);
+    EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedFovFactor(0.5)"}));
+    service.setInt("VR Teleport Ground Mode", 0);
+    EXPECT_EQ(applied(), (Calls{"olImmersiveInteractionService::setTeleportGroundMode(0)"}));
+
+    host.displayType = 5;
+    service.setBool(foveatedKey, false);
+    EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedRendering(false)"}));
+    EXPECT_TRUE(applied().empty());
+}
+
+/// Moves the display while the headset takes its values.
+class Meddler : public olHostObserver
+{
+public:
+    Meddler(olHostState &host, int display) : m_host(host), m_display(display) { host.addObserver(*this); }
+    ~Meddler() override { m_host.removeObserver(*this); }
+    void stateChanged(const olHostValueBase &value) override
+    {
+        if (&value == &m_host.starVRFoveatedFovFactor)
+            m_host.displayType = m_display;
+    }
+
+private:
+    olHostState &m_host;
+    int m_display;
+};
+
+TEST_F(VirtualReality, TheDisplayGoesBackToWhereItWasWhoeverMovedIt)
+{
+    host.starVRHandler = true;
+    host.displayType = 2;
+    applied();
+    service.setFloat("StarVR Foveated FOV Factor", 0.5f);
+    {
+        const Meddler meddler(host, 4);
+        EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedFovFactor(0.5)", "olOSGWidget::setDisplayType(2)"}));
+    }
+
+    host.displayType = 6;
+    service.setFloat("StarVR Foveated FOV Factor", 0.6f);
+    service.setBool("StarVR Single Texture Per Eye", true);
+    const Meddler meddler(host, 6);
+    EXPECT_EQ(applied(), (Calls{"olOSGWidget::setDisplayType(0)", "olStarVRHandler::setFoveatedFovFactor(0.6)",
+                                "olStarVRHandler::setUseSingleTexture(true)"}))
+        << "it is back already";
+}
+
+TEST_F(VirtualReality, TheSlidersTakeLessThanTheirHandlesReach)
+{
+    service.setFloat("StarVR Foveated Resolution Scale", 0.01f);
+    vr().updateGUI();
+    vr().updateData();
+    EXPECT_EQ(service.getFloat("StarVR Foveated Resolution Scale", 1.0f), 0.01f);
+    const auto &slider = control<QWidget>("Virtual Reality", "foveatedResolutionScale");
+    EXPECT_EQ(slider.property("minValue").toDouble(), 0.05);
+    EXPECT_EQ(slider.property("hardMinValue").toInt(), 0);
+    EXPECT_EQ(slider.property("hardMaxValue").toInt(), 1);
+}
+
+} // namespace

@@ -1,0 +1,320 @@
+#include "Embedded/olHostState.h"
+#include "Support/PluginTest.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+namespace
+{
+
+constexpr auto enableKey = "WebInterface enable web server2";
+constexpr auto stop = "olController::enableWebInterface(false)";
+constexpr auto start = "olController::enableWebInterface(true)";
+
+/// The two environment variables, unset where the value is null, until it goes out of scope.
+class Environment
+{
+public:
+    Environment(const char *mrvn, const char *own)
+    {
+        if (mrvn)
+            qputenv("MRVN_ORLO_DISABLE_WEBINTERFACE", mrvn);
+        if (own)
+            qputenv("ORLO_DISABLE_WEBINTERFACE", own);
+    }
+    ~Environment()
+    {
+        qunsetenv("MRVN_ORLO_DISABLE_WEBINTERFACE");
+        qunsetenv("ORLO_DISABLE_WEBINTERFACE");
+    }
+};
+
+class WebInterface : public PluginTest
+{
+protected:
+    using Calls = std::vector<std::string>;
+
+    static olPreferencesEntry &webInterface() { return module("WebInterface"); }
+    static QCheckBox &box(const char *name) { return control<QCheckBox>("WebInterface", name); }
+    static QGroupBox &allowedHosts() { return control<QGroupBox>("WebInterface", "allowedHosts"); }
+    static bool isEnabled(const char *name) { return control<QWidget>("WebInterface", name).isEnabled(); }
+
+    Calls applied()
+    {
+        calls.take();
+        webInterface().applyPreferences();
+        return calls.take();
+    }
+
+    olHostState &host = olHostState::the();
+};
+
+/// What the record may hold under the key that switches the server on.
+enum class Stored { Absent, WrongType, False, True };
+
+void store(olMessage &record, Stored stored)
+{
+    record.remove(enableKey);
+    if (stored == Stored::WrongType)
+        record.set(enableKey, 1);
+    else if (stored != Stored::Absent)
+        record.set(enableKey, stored == Stored::True);
+}
+
+TEST_F(WebInterface, StartsByItsTruthTable)
+{
+    struct Variables {
+        const char *mrvn;
+        const char *own;
+        bool forbid;
+    };
+    const Variables environments[] = {
+        {nullptr, nullptr, false}, {"1", nullptr, true},  {nullptr, "1", true}, {"1", "1", true},
+        {"1", "0", true},          {"0", "1", true},      {"0", "0", false},    {"", "", false},
+        {"1 ", "01", false},       {"true", " 1", false}, {"11", "1\n", false},
+    };
+    testing::internal::CaptureStderr(); // the wrong types are reported there
+    for (const Variables &variables : environments) {
+        const Environment environment(variables.mrvn, variables.own);
+        restart();
+        // One bit each: node, viewer, analysis mode, pipe.
+        for (unsigned bits = 0; bits < 16; ++bits) {
+            for (const int port : {-1, 0, 1}) {
+                for (const Stored stored : {Stored::Absent, Stored::WrongType, Stored::False, Stored::True}) {
+                    host.renderServerNode = (bits & 1) != 0;
+                    host.viewer = (bits & 2) != 0;
+                    host.analysisMode = (bits & 4) != 0;
+                    host.webInterfacePipe = (bits & 8) != 0 ? "pipe" : "";
+                    host.webInterfacePort = port;
+                    store(record(), stored);
+
+                    Calls expected{stop};
+                    const bool required = bits != 0 || port == 1;
+                    if (!variables.forbid && (required || stored == Stored::True))
+                        expected.push_back(start);
+                    else if (!variables.forbid && stored == Stored::False)
+                        expected.push_back(stop);
+                    EXPECT_EQ(applied(), expected)
+                        << "mrvn " << variables.mrvn << ", own " << variables.own << ", bits " << bits << ", port "
+                        << port << ", stored " << int(stored);
+                }
+            }
+        }
+    }
+    testing::internal::GetCapturedStderr();
+}
+
+TEST_F(WebInterface, ASwitchInTheEnvironmentCountsAtConstructionAlone)
+{
+    record().set(enableKey, true);
+    {
+        const Environment late(nullptr, "1");
+        EXPECT_EQ(applied(), (Calls{stop, start}));
+    }
+    {
+        const Environment early(nullptr, "1");
+        restart();
+    }
+    record().set(enableKey, true);
+    record().set("WebInterface debug mode", true);
+    host.webInterface = true;
+    EXPECT_EQ(webInterface().page(), nullptr);
+    EXPECT_EQ(applied(), (Calls{stop, "olWebInterface::setDebugMode(true)"}));
+}
+
+TEST_F(WebInterface, DebugModeGoesOnlyToAServerThatExistsAndOnlyWhenItCanBeRead)
+{
+    record().set("WebInterface debug mode", true);
+    EXPECT_EQ(applied(), (Calls{stop}));
+    host.webInterface = true;
+    EXPECT_EQ(applied(), (Calls{stop, "olWebInterface::setDebugMode(true)"}));
+    record().remove("WebInterface debug mode");
+    EXPECT_EQ(applied(), (Calls{stop}));
+}
+
+TEST_F(WebInterface, EachOfTheEightKeysRestartsTheServerAndNothingChangedTouchesNothing)
+{
+    const std::vector<std::pair<std::string, boost::any>> changes{
+        {enableKey, true},
+        {"WebInterface port", 8889},
+        {"WebInterface ssl port", 0},
+        {"WebInterface localhost only", true},
+        {"WebInterface debug mode", true},
+        {"WebInterface use white list", true},
+        {"WebInterface white list", std::string("host")},
+        {"WebInterface secure python", false},
+    };
+    for (const auto &[key, value] : changes) {
+        webInterface().setDefaults(true);
+        webInterface().updateGUI();
+        // From here on the page takes this one key back as a change.
+        record().set(key, value);
+        webInterface().settle();
+        webInterface().updateData();
+        EXPECT_EQ(applied(), (Calls{stop, stop})) << key;
+        webInterface().settle();
+        webInterface().updateData();
+        EXPECT_TRUE(applied().empty()) << key;
+    }
+}
+
+/// Presses a button of the box that opens next, or Escape where that is empty, and keeps what it said.
+class Answer : public QObject
+{
+public:
+    explicit Answer(const QString &button)
+    {
+        QTimer::singleShot(0, this, [this, button] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            asked = true;
+            texts = QStringList{box->windowTitle(), box->text(), box->informativeText()};
+            icon = box->icon();
+            parent = box->parentWidget();
+            const auto all = box->buttons();
+            for (QAbstractButton *each : all) {
+                buttons[each->text()] = box->buttonRole(each);
+                if (static_cast<QPushButton *>(each)->isDefault())
+                    defaultButton = each->text();
+                if (each->text() == button)
+                    QTimer::singleShot(0, each, &QAbstractButton::click);
+            }
+            if (button.isEmpty())
+                QTimer::singleShot(0, box, [box] { QTest::keyClick(box, Qt::Key_Escape); });
+        });
+    }
+
+    bool asked = false;
+    QStringList texts;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QWidget *parent = nullptr;
+    QString defaultButton;
+    QMap<QString, QMessageBox::ButtonRole> buttons;
+};
+
+TEST_F(WebInterface, AsksBeforeTheServerIsSwitchedOn)
+{
+    box("enableWebServer").setChecked(false);
+    const Answer answer("Enable");
+    box("enableWebServer").setChecked(true);
+    ASSERT_TRUE(answer.asked);
+    EXPECT_EQ(
+        answer.texts,
+        (QStringList{"Enable Web Server",
+                     "Do you really want to enable the Web Server?\nThe Web Server allows the execution of Python "
+                     "commands from remote locations!",
+                     "Choosing \"Enable\" enables the Web Server.\nYou are advised to set up a local firewall to "
+                     "protect yourself from unauthorized access.\n\nChoosing \"Do Not Enable\" leaves the Web "
+                     "Server disabled."}));
+    EXPECT_EQ(answer.icon, QMessageBox::Warning);
+    EXPECT_EQ(answer.parent, webInterface().page());
+    EXPECT_EQ(answer.buttons, (QMap<QString, QMessageBox::ButtonRole>{{"Enable", QMessageBox::AcceptRole},
+                                                                      {"Do Not Enable", QMessageBox::RejectRole}}));
+    EXPECT_EQ(answer.defaultButton, "Do Not Enable");
+    EXPECT_TRUE(box("enableWebServer").isChecked());
+}
+
+TEST_F(WebInterface, ARefusalGoesBackSilentlySoThatTheDependantsStayEnabled)
+{
+    for (const char *refusal : {"Do Not Enable", ""}) {
+        restart();
+        box("enableWebServer").setChecked(false);
+        ASSERT_FALSE(isEnabled("port"));
+        const QSignalSpy toggles(&box("enableWebServer"), &QCheckBox::toggled);
+        const Answer answer{QLatin1String(refusal)};
+        box("enableWebServer").setChecked(true);
+        EXPECT_TRUE(answer.asked);
+        EXPECT_FALSE(box("enableWebServer").isChecked());
+        EXPECT_EQ(toggles.size(), 1) << "the user's own toggle alone";
+        for (const char *name : {"port", "portLabel", "allowedHosts", "localhostOnly", "sslPort", "debugMode",
+                                 "sslPortLabel", "securePython"})
+            EXPECT_TRUE(isEnabled(name)) << name;
+    }
+}
+
+TEST_F(WebInterface, DoesNotAskWhenSwitchingOffNorWhileThePageIsFilled)
+{
+    webInterface().setDefaults(true);
+    record().set(enableKey, true);
+    box("enableWebServer").setChecked(false);
+    const Answer answer("Do Not Enable");
+    webInterface().updateGUI();
+    box("enableWebServer").setChecked(false);
+    QApplication::processEvents();
+    EXPECT_FALSE(answer.asked);
+}
+
+TEST_F(WebInterface, TheTwoRestrictionsExcludeEachOtherButBothMayBeStored)
+{
+    box("localhostOnly").setChecked(true);
+    allowedHosts().setChecked(true);
+    EXPECT_FALSE(box("localhostOnly").isChecked());
+    box("localhostOnly").setChecked(true);
+    EXPECT_FALSE(allowedHosts().isChecked());
+
+    record().set("WebInterface localhost only", true);
+    record().set("WebInterface use white list", true);
+    webInterface().updateGUI();
+    EXPECT_TRUE(box("localhostOnly").isChecked());
+    EXPECT_TRUE(allowedHosts().isChecked());
+}
+
+TEST_F(WebInterface, OnARenderServerNodeThePageIsThereButNeitherAsksNorExcludes)
+{
+    // The process must be one before the library comes.
+    plugin.unload();
+    host.renderServerNode = true;
+    ASSERT_TRUE(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).isEmpty());
+    ASSERT_NE(webInterface().page(), nullptr);
+
+    const Answer answer("Do Not Enable");
+    box("enableWebServer").setChecked(false);
+    EXPECT_FALSE(isEnabled("port")) << "the form's own links stay";
+    box("enableWebServer").setChecked(true);
+    box("localhostOnly").setChecked(true);
+    allowedHosts().setChecked(true);
+    QApplication::processEvents();
+    EXPECT_FALSE(answer.asked);
+    EXPECT_TRUE(box("enableWebServer").isChecked());
+    EXPECT_TRUE(box("localhostOnly").isChecked());
+}
+
+TEST_F(WebInterface, TheWhiteListIsKeptToTheLetterAndClearedWhenItCannotBeRead)
+{
+    const std::string list = "first.example\n\n  10.0.0.1\nm\xc3\xbcnchen.example\n";
+    record().set("WebInterface white list", list);
+    webInterface().updateGUI();
+    webInterface().updateData();
+    EXPECT_EQ(boost::any_cast<std::string>(record().get("WebInterface white list")), list);
+
+    record().remove("WebInterface white list");
+    webInterface().updateGUI();
+    EXPECT_EQ(control<QPlainTextEdit>("WebInterface", "whiteList").toPlainText(), "");
+}
+
+TEST_F(WebInterface, TheFormStandsAsItIsBeforeItIsFilled)
+{
+    EXPECT_TRUE(box("enableWebServer").isChecked());
+    const auto &port = control<QSpinBox>("WebInterface", "port");
+    const auto &sslPort = control<QSpinBox>("WebInterface", "sslPort");
+    EXPECT_EQ(port.minimum(), 0);
+    EXPECT_EQ(port.value(), 8888);
+    EXPECT_EQ(sslPort.minimum(), 0);
+    EXPECT_EQ(sslPort.maximum(), 2147483647);
+    EXPECT_EQ(sslPort.value(), 8444);
+    EXPECT_FALSE(allowedHosts().isChecked());
+    EXPECT_FALSE(isEnabled("whiteList"));
+    allowedHosts().setChecked(true);
+    EXPECT_TRUE(isEnabled("whiteList"));
+}
+
+} // namespace
