@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Utilities/olExport.h"
+
 #include <QDialog>
 #include <QString>
 
@@ -8,7 +10,7 @@ class QLabel;
 class QTreeWidget;
 
 /// Lists settings with their old and new values, and beneath them those that are passed over and why.
-class olChangesView : public QDialog
+class ORLO_SDK_EXPORT olChangesView : public QDialog
 {
     Q_OBJECT
 
