@@ -165,9 +165,11 @@ void olPendingChanges::putOwn(olPreferencesEntry &entry, const olSettingValues &
 
 olSettingValues olPendingChanges::defaultsOf(const olPreferencesEntry &entry) const
 {
+    if (m_owners.empty())
+        findOwners();
     olSettingValues defaults;
     for (const olOfferedDefault &offered : entry.defaults()) {
-        if (ownerOf(offered.key) == &entry)
+        if (ownerOf(offered.key) == &entry && !isShared(offered.key))
             defaults[offered.key] = m_session.defaultValue(offered.key);
     }
     // What a page edits without a default is by default absent.
@@ -178,24 +180,42 @@ olSettingValues olPendingChanges::defaultsOf(const olPreferencesEntry &entry) co
     return defaults;
 }
 
+/// Whether no page edits the setting and several modules have it: then it is none of any one page.
+bool olPendingChanges::isShared(const std::string &key) const
+{
+    return m_owners.count(key) == 0 && std::count_if(modules().begin(), modules().end(),
+                                                     [&key](const auto *entry) { return entry->findDefault(key); }) > 1;
+}
+
 void olPendingChanges::restore(olPreferencesEntry &entry)
 {
-    olSettingValues defaults = defaultsOf(entry);
+    const olSettingValues defaults = defaultsOf(entry);
     const bool isTagged =
         std::any_of(m_owners.begin(), m_owners.end(), [&entry](const auto &owned) { return owned.second == &entry; });
-    if (entry.page() && !isTagged) {
+    if (entry.page() && !isTagged)
         page(entry).show(defaults);
-        return;
-    }
-    for (auto standard = defaults.begin(); standard != defaults.end();)
-        standard = differsFromDefault(standard->first) ? std::next(standard) : defaults.erase(standard);
-    put(defaults);
+    else
+        putWhatDiffers(defaults);
 }
 
 void olPendingChanges::restoreAll()
 {
     for (olPreferencesEntry *entry : modules())
         restore(*entry);
+    olSettingValues shared;
+    for (const std::string &key : olPreferencesSession::keys()) {
+        if (isShared(key))
+            shared[key] = m_session.defaultValue(key);
+    }
+    putWhatDiffers(shared);
+}
+
+/// Pages whose settings have their defaults already need not be filled for that.
+void olPendingChanges::putWhatDiffers(olSettingValues defaults)
+{
+    for (auto standard = defaults.begin(); standard != defaults.end();)
+        standard = differsFromDefault(standard->first) ? std::next(standard) : defaults.erase(standard);
+    put(defaults);
 }
 
 QString olPendingChanges::commit()

@@ -79,6 +79,8 @@ private:
     void forgetTheGone();
     void findOwners() const;
     [[nodiscard]] olSettingValues defaultsOf(const olPreferencesEntry &entry) const;
+    [[nodiscard]] bool isShared(const std::string &key) const;
+    void putWhatDiffers(olSettingValues defaults);
     void putOwn(olPreferencesEntry &entry, const olSettingValues &values);
 
     olPreferencesSession &m_session;

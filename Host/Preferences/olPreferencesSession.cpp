@@ -85,13 +85,14 @@ template <class Visit> void eachOwner(const std::string &key, Visit visit)
     }
 }
 
-/// The modules with, behind them, those that own one of the values.
+/// The modules with, behind them, those that have one of the settings.
 std::vector<olPreferencesEntry *> withOwners(std::vector<olPreferencesEntry *> modules, const olSettingValues &values)
 {
     for (const auto &value : values) {
-        olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(value.first);
-        if (owner && std::find(modules.begin(), modules.end(), owner) == modules.end())
-            modules.push_back(owner);
+        eachOwner(value.first, [&modules](olPreferencesEntry &owner) {
+            if (std::find(modules.begin(), modules.end(), &owner) == modules.end())
+                modules.push_back(&owner);
+        });
     }
     return modules;
 }
@@ -312,13 +313,12 @@ void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &sho
     const Snapshot before;
     for (olPreferencesEntry *entry : shown)
         entry->updateData();
-    for (const auto &[key, value] : besides) {
-        olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key);
-        if (!owner)
-            continue;
-        owner->setValue(key, value);
-        // Its page may show the old value and have reported it unchanged.
-        owner->setChanged(key, true);
+    for (const auto &setting : besides) {
+        eachOwner(setting.first, [&setting](olPreferencesEntry &owner) {
+            owner.setValue(setting.first, setting.second);
+            // Its page may show the old value and have reported it unchanged.
+            owner.setChanged(setting.first, true);
+        });
     }
     restoreLocked();
     for (olPreferencesEntry *entry : shown) {
