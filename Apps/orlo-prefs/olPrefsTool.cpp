@@ -39,10 +39,17 @@ boost::any valueFrom(const std::string &type, const QString &written)
     return {};
 }
 
+/// A script shows the modules as they are, at whatever site it runs.
+QStringList siteFiles(const olPrefsOptions &options)
+{
+    return options.command == QLatin1String("script") ? QStringList() : olSiteDefaults::systemFiles();
+}
+
 } // namespace
 
 olPrefsTool::olPrefsTool(const olPrefsOptions &options)
-    : m_options(options), m_session(options.store.isEmpty() ? olPreferencesStore::userFile() : options.store)
+    : m_options(options),
+      m_session(options.store.isEmpty() ? olPreferencesStore::userFile() : options.store, siteFiles(options))
 {
     olHostState::the().edition = options.edition;
     olHostState::the().applicationName = options.applicationName;
@@ -94,6 +101,8 @@ void olPrefsTool::set()
     requireArguments(2, "set KEY VALUE");
     loadEverything();
     const Setting changed = setting(m_options.arguments.at(0));
+    if (const auto reason = m_session.lockReason(changed.key))
+        throw olToolError(QStringLiteral("\"%1\" is locked: %2").arg(m_options.arguments.at(0), *reason));
     const QString &written = m_options.arguments.at(1);
     const boost::any value = valueFrom(changed.type, written);
     if (value.empty())
@@ -102,6 +111,7 @@ void olPrefsTool::set()
                 .arg(written, m_options.arguments.at(0), QString::fromStdString(olValue::expectation(changed.type))));
     changed.entry->setValue(changed.key, value);
     requireSuccess(m_session.save());
+    printNotices();
 }
 
 void olPrefsTool::script()
@@ -114,7 +124,7 @@ void olPrefsTool::script()
     if (!isOpen)
         throw olToolError(QStringLiteral("Cannot read the script %1: %2.").arg(name, file.errorString()));
     if (!m_options.store.isEmpty())
-        loadStore();
+        loadStore(olStoreUse::LookAt);
     // The language that was stored is that of a start, which a script does not run; its controls go by the names of
     // the untranslated pages.
     olHostState::the().displayLanguage.reset();
@@ -122,7 +132,18 @@ void olPrefsTool::script()
     olScriptRunner(m_session, stdout).run(file);
 }
 
-void olPrefsTool::loadStore() { requireSuccess(m_session.loadStore()); }
+void olPrefsTool::loadStore(olStoreUse use)
+{
+    requireSuccess(m_session.loadStore(use));
+    printNotices();
+}
+
+void olPrefsTool::printNotices()
+{
+    const QStringList notices = m_session.takeNotices();
+    for (const QString &notice : notices)
+        std::fprintf(stderr, "%s\n", qPrintable(notice));
+}
 
 void olPrefsTool::loadPlugin() { requireSuccess(m_session.loadPlugin(olPluginLoader::locate(m_options.plugin))); }
 
@@ -130,9 +151,10 @@ void olPrefsTool::loadEverything()
 {
     // Some defaults come with a message to the user, of whom there is none here.
     const olModalAnswers silent;
-    loadStore();
+    loadStore(olStoreUse::Own);
     loadPlugin();
     m_session.fillDefaults();
+    printNotices();
 }
 
 void olPrefsTool::requireArguments(int count, const char *usage) const

@@ -29,7 +29,8 @@ private:
     void set();
     void script();
 
-    void loadStore();
+    void loadStore(olStoreUse use);
+    void printNotices();
     void loadPlugin();
     void loadEverything();
     void requireArguments(int count, const char *usage) const;

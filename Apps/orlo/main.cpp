@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QMessageBox>
 
 #include <cstdio>
 
@@ -17,6 +18,22 @@ int fail(const QString &error)
 {
     std::fprintf(stderr, "orlo: %s\n", qPrintable(error));
     return 1;
+}
+
+/// In a box that keeps nobody from working; without a window, on the standard error stream.
+void tell(const QStringList &notices, QWidget *window)
+{
+    if (notices.isEmpty())
+        return;
+    for (const QString &notice : notices)
+        std::fprintf(stderr, "orlo: %s\n", qPrintable(notice));
+    if (!window)
+        return;
+    auto *box = new QMessageBox(QMessageBox::Warning, QCoreApplication::translate("orlo", "Preferences"),
+                                notices.join(QStringLiteral("\n\n")), QMessageBox::Ok, window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->open();
 }
 
 /// From the options of the command line to the end of the run.
@@ -47,10 +64,12 @@ int run(const QCommandLineParser &options)
     window.show();
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
+    tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
     window.closePreferences();
     const QString saveError = session.save();
+    tell(session.takeNotices(), nullptr);
     session.stop();
     return saveError.isEmpty() ? result : fail(saveError);
 }

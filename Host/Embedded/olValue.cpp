@@ -1,16 +1,16 @@
 #include "Embedded/olValue.h"
 
+#include "Embedded/olJsonText.h"
+
 #include <OpenSG/OSGColor.h>
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonValue>
 #include <QString>
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 #include <optional>
 
@@ -56,8 +56,8 @@ std::string json(int value) { return std::to_string(value); }
 std::string json(unsigned value) { return std::to_string(value); }
 std::string json(float value) { return jsonNumber(value); }
 std::string json(double value) { return jsonNumber(value); }
-std::string json(const std::string &value) { return olValue::quoted(value); }
-std::string json(const QString &value) { return olValue::quoted(value.toStdString()); }
+std::string json(const std::string &value) { return olJsonText::quoted(value); }
+std::string json(const QString &value) { return olJsonText::quoted(value); }
 std::string json(const Color &value)
 {
     return '[' + json(value.red()) + ", " + json(value.green()) + ", " + json(value.blue()) + ']';
@@ -70,78 +70,111 @@ template <class Element> std::string json(const std::vector<Element> &list)
     return text + ']';
 }
 
-template <class Number> std::optional<Number> whole(const QJsonValue &json)
+/// A JSON value as text, for which there is only one reader.
+std::string textOf(const QJsonValue &json)
 {
-    const double value = json.toDouble(0.5);
-    if (!json.isDouble() || value != std::floor(value) || value < double(std::numeric_limits<Number>::min()) ||
-        value > double(std::numeric_limits<Number>::max()))
-        return std::nullopt;
-    return Number(value);
+    if (json.isBool())
+        return json.toBool() ? "true" : "false";
+    if (json.isDouble())
+        return shortest(json.toDouble());
+    if (json.isString())
+        return olJsonText::quoted(json.toString());
+    if (!json.isArray())
+        return "null";
+    std::string text = "[";
+    const QJsonArray array = json.toArray();
+    for (const QJsonValue &item : array)
+        text += (text.size() > 1 ? "," : "") + textOf(item);
+    return text + ']';
 }
 
-template <class Number> std::optional<Number> fraction(const QJsonValue &json)
+template <class Number> std::optional<Number> exactly(std::string_view digits)
+{
+    Number value{};
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return result.ec == std::errc() ? std::optional<Number>(value) : std::nullopt;
+}
+
+template <class Number> std::optional<Number> whole(olJsonReader &json)
+{
+    const auto digits = json.number();
+    const auto value = digits ? exactly<double>(*digits) : std::nullopt;
+    if (!value || *value != std::floor(*value) || *value < double(std::numeric_limits<Number>::min()) ||
+        *value > double(std::numeric_limits<Number>::max()))
+        return std::nullopt;
+    return Number(*value);
+}
+
+template <class Number> std::optional<Number> special(const QString &text)
 {
     using Limits = std::numeric_limits<Number>;
-    if (json.isString()) {
-        const QString text = json.toString();
-        if (text == QLatin1String("nan"))
-            return Limits::quiet_NaN();
-        if (text == QLatin1String("inf"))
-            return Limits::infinity();
-        if (text == QLatin1String("-inf"))
-            return -Limits::infinity();
-    }
-    if (!json.isDouble() || std::fabs(json.toDouble()) > double(Limits::max()))
-        return std::nullopt;
-    return Number(json.toDouble());
+    if (text == QLatin1String("nan"))
+        return Limits::quiet_NaN();
+    if (text == QLatin1String("inf"))
+        return Limits::infinity();
+    if (text == QLatin1String("-inf"))
+        return -Limits::infinity();
+    return std::nullopt;
 }
 
-template <class T> std::optional<T> parse(const QJsonValue &json);
-
-template <class Element> std::optional<std::vector<Element>> parseList(const QJsonValue &json)
+template <class Number> std::optional<Number> fraction(olJsonReader &json)
 {
-    if (!json.isArray())
+    if (const auto text = json.text())
+        return special<Number>(*text);
+    const auto digits = json.number();
+    if (!digits)
         return std::nullopt;
+    if (const auto value = exactly<Number>(*digits))
+        return value;
+    // Out of a float's range is too large for it, or so small that it is nothing.
+    const auto value = exactly<double>(*digits);
+    return value && std::fabs(*value) < 1 ? std::optional<Number>(Number(*value)) : std::nullopt;
+}
+
+template <class T> std::optional<T> parse(olJsonReader &json);
+
+template <class Element> std::optional<std::vector<Element>> parseList(olJsonReader &json)
+{
     std::vector<Element> list;
-    const QJsonArray array = json.toArray();
-    for (const QJsonValue &item : array) {
-        const auto element = parse<Element>(item);
+    if (!json.take("["))
+        return std::nullopt;
+    if (json.take("]"))
+        return list;
+    do {
+        const auto element = parse<Element>(json);
         if (!element)
             return std::nullopt;
         list.push_back(*element);
-    }
-    return list;
+    } while (json.take(","));
+    return json.take("]") ? std::optional<std::vector<Element>>(std::move(list)) : std::nullopt;
 }
 
-template <> std::optional<bool> parse(const QJsonValue &json)
+template <> std::optional<bool> parse(olJsonReader &json)
 {
-    return json.isBool() ? std::optional<bool>(json.toBool()) : std::nullopt;
+    if (json.take("true"))
+        return true;
+    return json.take("false") ? std::optional<bool>(false) : std::nullopt;
 }
-template <> std::optional<int> parse(const QJsonValue &json) { return whole<int>(json); }
-template <> std::optional<unsigned> parse(const QJsonValue &json) { return whole<unsigned>(json); }
-template <> std::optional<float> parse(const QJsonValue &json) { return fraction<float>(json); }
-template <> std::optional<double> parse(const QJsonValue &json) { return fraction<double>(json); }
-template <> std::optional<QString> parse(const QJsonValue &json)
+template <> std::optional<int> parse(olJsonReader &json) { return whole<int>(json); }
+template <> std::optional<unsigned> parse(olJsonReader &json) { return whole<unsigned>(json); }
+template <> std::optional<float> parse(olJsonReader &json) { return fraction<float>(json); }
+template <> std::optional<double> parse(olJsonReader &json) { return fraction<double>(json); }
+template <> std::optional<QString> parse(olJsonReader &json) { return json.text(); }
+template <> std::optional<std::string> parse(olJsonReader &json)
 {
-    return json.isString() ? std::optional<QString>(json.toString()) : std::nullopt;
+    const auto text = json.text();
+    return text ? olJsonText::bytes(*text) : std::nullopt;
 }
-template <> std::optional<std::string> parse(const QJsonValue &json)
-{
-    return json.isString() ? std::optional<std::string>(json.toString().toStdString()) : std::nullopt;
-}
-template <> std::optional<std::vector<std::string>> parse(const QJsonValue &json)
-{
-    return parseList<std::string>(json);
-}
-template <> std::optional<std::vector<float>> parse(const QJsonValue &json) { return parseList<float>(json); }
-template <> std::optional<Color> parse(const QJsonValue &json)
+template <> std::optional<std::vector<std::string>> parse(olJsonReader &json) { return parseList<std::string>(json); }
+template <> std::optional<std::vector<float>> parse(olJsonReader &json) { return parseList<float>(json); }
+template <> std::optional<Color> parse(olJsonReader &json)
 {
     const auto channels = parseList<float>(json);
     if (!channels || channels->size() != 3)
         return std::nullopt;
     return Color((*channels)[0], (*channels)[1], (*channels)[2]);
 }
-template <> std::optional<std::vector<Color>> parse(const QJsonValue &json) { return parseList<Color>(json); }
+template <> std::optional<std::vector<Color>> parse(olJsonReader &json) { return parseList<Color>(json); }
 
 template <class T> bool same(const T &left, const T &right) { return left == right; }
 bool same(const Color &left, const Color &right)
@@ -160,7 +193,7 @@ struct Type {
     const char *expectation;
     bool (*holds)(const boost::any &);
     std::string (*toJson)(const boost::any &);
-    boost::any (*fromJson)(const QJsonValue &);
+    boost::any (*fromJson)(olJsonReader &);
     bool (*equal)(const boost::any &, const boost::any &);
     boost::any (*adopted)(const boost::any &);
 };
@@ -169,9 +202,9 @@ template <class T> Type type(const char *name, const char *expectation)
 {
     return {name, expectation, [](const boost::any &value) { return boost::any_cast<T>(&value) != nullptr; },
             [](const boost::any &value) { return json(boost::any_cast<const T &>(value)); },
-            [](const QJsonValue &json) {
+            [](olJsonReader &json) {
                 const auto value = parse<T>(json);
-                return value ? boost::any(*value) : boost::any();
+                return value && json.atEnd() ? boost::any(*value) : boost::any();
             },
             [](const boost::any &left, const boost::any &right) {
                 return same(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
@@ -241,17 +274,17 @@ std::string toJson(const boost::any &value)
     return type ? type->toJson(value) : "null";
 }
 
-boost::any fromJson(const std::string &name, const QJsonValue &json)
+boost::any fromJson(const std::string &type, const QJsonValue &json)
 {
-    const Type *type = typeNamed(name);
-    return type ? type->fromJson(json) : boost::any();
+    const std::string text = textOf(json);
+    return fromJson(type, QByteArray::fromRawData(text.data(), int(text.size())));
 }
 
-boost::any fromJson(const std::string &type, const QByteArray &text)
+boost::any fromJson(const std::string &name, const QByteArray &text)
 {
-    // The parser takes only whole documents; in a list any value is one.
-    const QJsonArray wrapped = QJsonDocument::fromJson('[' + text + ']').array();
-    return wrapped.size() == 1 ? fromJson(type, wrapped.first()) : boost::any();
+    const Type *type = typeNamed(name);
+    olJsonReader json({text.constData(), std::size_t(text.size())});
+    return type ? type->fromJson(json) : boost::any();
 }
 
 bool equal(const boost::any &left, const boost::any &right)
@@ -260,6 +293,11 @@ bool equal(const boost::any &left, const boost::any &right)
         return left.empty() && right.empty();
     const Type *type = typeOf(left);
     return type && type->holds(right) && type->equal(left, right);
+}
+
+bool identical(const boost::any &left, const boost::any &right)
+{
+    return typeOf(left) == typeOf(right) && toJson(left) == toJson(right);
 }
 
 boost::any adopted(const boost::any &value)
@@ -272,37 +310,6 @@ std::string number(float value) { return shortest(value); }
 
 std::string number(double value) { return shortest(value); }
 
-std::string quoted(const std::string &text)
-{
-    std::string out = "\"";
-    for (const char character : text) {
-        switch (character) {
-        case '"':
-            out += "\\\"";
-            break;
-        case '\\':
-            out += "\\\\";
-            break;
-        case '\n':
-            out += "\\n";
-            break;
-        case '\r':
-            out += "\\r";
-            break;
-        case '\t':
-            out += "\\t";
-            break;
-        default:
-            if (static_cast<unsigned char>(character) < 0x20) {
-                char escape[8];
-                std::snprintf(escape, sizeof escape, "\\u%04x", unsigned(character));
-                out += escape;
-            } else {
-                out += character;
-            }
-        }
-    }
-    return out + '"';
-}
+std::string quoted(const std::string &text) { return olJsonText::quoted(text); }
 
 } // namespace olValue

@@ -25,16 +25,21 @@ ORLO_SDK_EXPORT bool isTypeName(const std::string &type);
 ORLO_SDK_EXPORT std::string expectation(const std::string &type);
 
 /// JSON on one line, a blank after each comma. Numbers that JSON does not know stand as texts: "nan", "inf", "-inf".
+/// Bytes of a text that are no UTF-8 are escaped as quoted() does, and read back as the same bytes.
 ORLO_SDK_EXPORT std::string toJson(const boost::any &value);
 
 /// A value of exactly that type; empty when the JSON does not fit it: nothing is converted or cut.
 ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QJsonValue &json);
 
-/// As above from JSON text; empty also where the text is no JSON.
+/// As above from JSON text, with every digit as it stands; empty also where the text is no JSON.
 ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &text);
 
 /// Same type and same value, floats by `==`, colours channel by channel. An empty value equals only an empty one.
 ORLO_SDK_EXPORT bool equal(const boost::any &left, const boost::any &right);
+
+/// Whether both are exactly the same, to the sign of a zero; a NaN is the same as a NaN. What has to be kept is told by
+/// this one.
+ORLO_SDK_EXPORT bool identical(const boost::any &left, const boost::any &right);
 
 /// The same value held by this library's own code, so that it stays usable when the plug-in that made it is gone;
 /// empty for a type that settings do not have.
@@ -44,7 +49,7 @@ ORLO_SDK_EXPORT boost::any adopted(const boost::any &value);
 ORLO_SDK_EXPORT std::string number(float value);
 ORLO_SDK_EXPORT std::string number(double value);
 
-/// In double quotes with JSON's escapes.
+/// In double quotes with JSON's escapes; a byte that is no UTF-8 stands as one of \udc80 to \udcff.
 ORLO_SDK_EXPORT std::string quoted(const std::string &text);
 
 } // namespace olValue

@@ -37,6 +37,14 @@ public:
     void setValue(const std::string &key, const boost::any &value) override { record().set(key, value, true); }
     void removeValue(const std::string &key) override { record().remove(key); }
 
+    void setChanged(const std::string &key, bool changed) override
+    {
+        if (changed)
+            unchanged.erase(key);
+        else
+            unchanged.insert(key);
+    }
+
     std::set<std::string, std::less<>> unchanged;
 
 protected:

@@ -40,6 +40,8 @@ public:
     void setValue(const std::string &key, const boost::any &value) override { service().set(key, value); }
     void removeValue(const std::string &key) override { service().remove(key); }
 
+    void setChanged(const std::string &key, bool changed) override { service().setChanged(key, changed); }
+
 protected:
     void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
 

@@ -65,4 +65,12 @@ void olPreferencesService::settle()
     m_changed.clear();
 }
 
+void olPreferencesService::setChanged(const std::string &key, bool changed)
+{
+    if (changed)
+        m_changed.insert(key);
+    else
+        m_changed.erase(key);
+}
+
 void olPreferencesService::clear() { *this = {}; }

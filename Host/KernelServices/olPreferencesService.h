@@ -35,6 +35,9 @@ public:
     void remove(const std::string &key);
     void settle();
 
+    /// For the host, which may undo a change: what isChanged() answers, from the first settle() on.
+    void setChanged(const std::string &key, bool changed);
+
     /// Back to an empty service that was never settled.
     void clear();
 

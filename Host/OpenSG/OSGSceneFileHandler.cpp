@@ -24,7 +24,7 @@ bool SceneFileHandler::setOptions(const char *suffix, const char *options)
     return true;
 }
 
-const char *SceneFileHandler::getOptions(const char *suffix) const
+const char *SceneFileHandler::getOptions(const char *suffix)
 {
     const SceneFileType *type = find(suffix);
     return type ? type->options.c_str() : nullptr;

@@ -45,6 +45,14 @@ const olOfferedDefault *olPreferencesEntry::findDefault(const std::string &key) 
     return found == m_defaults.end() ? nullptr : &*found;
 }
 
+void olPreferencesEntry::replaceDefault(const std::string &key, const boost::any &value)
+{
+    for (olOfferedDefault &offered : m_defaults) {
+        if (offered.key == key)
+            offered.value = value;
+    }
+}
+
 void olPreferencesEntry::offered(const std::string &key, const boost::any &value)
 {
     if (!findDefault(key))

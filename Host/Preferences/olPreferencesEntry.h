@@ -49,6 +49,10 @@ public:
     [[nodiscard]] const olOfferedDefault *findDefault(const std::string &key) const;
     void offered(const std::string &key, const boost::any &value);
 
+    /// From here on another value counts as the default, until the next setDefaults(). Nothing happens where the
+    /// module has no such setting.
+    void replaceDefault(const std::string &key, const boost::any &value);
+
     virtual void applyPreferences() = 0;
     virtual void updateGUI() = 0;
     virtual void updateData() = 0;
@@ -65,6 +69,9 @@ public:
     [[nodiscard]] virtual boost::any value(const std::string &key) const = 0;
     virtual void setValue(const std::string &key, const boost::any &value) = 0;
     virtual void removeValue(const std::string &key) = 0;
+
+    /// What the module's isChanged() answers for the key until the next settle().
+    virtual void setChanged(const std::string &key, bool changed) = 0;
 
 protected:
     virtual void writeDefaults(bool flag) = 0;

@@ -7,7 +7,10 @@
 #include "Preferences/olPreferencesEntry.h"
 #include "Preferences/olPreferencesRegistry.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -25,6 +28,15 @@ class Snapshot
 {
 public:
     Snapshot() : m_record(record().entries()), m_service(service()) {}
+
+    /// Empty where it was absent.
+    [[nodiscard]] boost::any value(olHome home, const std::string &key) const
+    {
+        if (home == olHome::Service)
+            return m_service.get(key);
+        const auto entry = m_record.find(key);
+        return entry == m_record.end() ? boost::any() : entry->second;
+    }
 
     void restore() const
     {
@@ -47,46 +59,99 @@ bool isDefault(const olPreferencesStore::Key &key, const boost::any &value)
 {
     return std::any_of(entries().begin(), entries().end(), [&](const olPreferencesEntry *entry) {
         const olOfferedDefault *offered = entry->home() == key.first ? entry->findDefault(key.second) : nullptr;
-        return offered && olValue::equal(offered->value, value);
+        return offered && olValue::identical(offered->value, value);
     });
 }
 
-/// Whether the value's absence says anything: the record holds all its rows, the service only those of its modules.
-bool isKnown(const olPreferencesStore::Key &key)
+bool hasDefault(const olPreferencesStore::Key &key)
 {
-    return key.first == olHome::Record || std::any_of(entries().begin(), entries().end(), [&](const auto *entry) {
-               return entry->home() == key.first && entry->findDefault(key.second);
-           });
+    return std::any_of(entries().begin(), entries().end(), [&](const olPreferencesEntry *entry) {
+        return entry->home() == key.first && entry->findDefault(key.second);
+    });
+}
+
+void setDisplayLanguage()
+{
+    const int *language = boost::any_cast<int>(&record().get(languageKey));
+    olHostState::the().displayLanguage = language && *language >= 1 && *language <= 3 ? *language : 0;
+}
+
+/// Calls with each module that has the setting.
+template <class Visit> void eachOwner(const std::string &key, Visit visit)
+{
+    for (olPreferencesEntry *entry : entries()) {
+        if (entry->findDefault(key))
+            visit(*entry);
+    }
 }
 
 } // namespace
 
-olPreferencesSession::olPreferencesSession(const QString &storeFile) : m_store(storeFile) {}
+olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStringList &siteFiles)
+    : m_store(storeFile), m_site(siteFiles), m_siteFiles(siteFiles)
+{
+}
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
 
-QString olPreferencesSession::loadStore()
+QString olPreferencesSession::loadStore(olStoreUse use)
 {
-    QString error = m_store.load(m_stored);
+    const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
+    if (!opening.notice.isEmpty())
+        m_notices << opening.notice;
     for (const auto &[key, value] : m_stored) {
         if (key.first == olHome::Record)
             record().set(key.second, value, true);
         else
             service().set(key.second, value);
     }
+    m_site.read();
     // The language must stand before any text of a module is translated.
-    const int *language = boost::any_cast<int>(&record().get(languageKey));
-    if (language)
-        olHostState::the().displayLanguage = *language >= 1 && *language <= 3 ? *language : 0;
-    return error;
+    const olSiteSetting language = m_site.early(languageKey, "int");
+    const bool isStored = m_stored.count({olHome::Record, languageKey}) != 0;
+    if (!language.value.empty() && (language.locked || !isStored)) {
+        m_earlyLanguage = language.value;
+        record().set(languageKey, language.value, true);
+    }
+    setDisplayLanguage();
+    return opening.error;
 }
 
 QString olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
 
 void olPreferencesSession::fillDefaults()
 {
+    const Snapshot before;
     for (olPreferencesEntry *entry : entries())
         entry->setDefaults(false);
+
+    m_site.settle([this](const std::string &key) { return defaultValue(key); });
+    m_notices << m_site.takeFaults();
+    for (const auto &site : m_site.settings()) {
+        const auto &[key, setting] = site;
+        eachOwner(key, [&, key = key, value = setting.value](olPreferencesEntry &owner) {
+            owner.replaceDefault(key, value);
+            if (before.value(owner.home(), key).empty())
+                owner.setValue(key, value);
+        });
+    }
+    dropEarlyLanguage();
+    restoreLocked();
+}
+
+/// The language of a site file that turned out to have a fault goes with the file.
+void olPreferencesSession::dropEarlyLanguage()
+{
+    const bool isStored = m_stored.count({olHome::Record, languageKey}) != 0;
+    const boost::any early = std::exchange(m_earlyLanguage, {});
+    if (early.empty() || m_site.settings().count(languageKey) != 0)
+        return;
+    const boost::any own = isStored ? m_stored.at({olHome::Record, languageKey}) : defaultValue(languageKey);
+    if (own.empty())
+        record().remove(languageKey);
+    else
+        record().set(languageKey, own, true);
+    setDisplayLanguage();
 }
 
 void olPreferencesSession::start()
@@ -126,34 +191,75 @@ Values olPreferencesSession::current() const
     return values;
 }
 
+bool olPreferencesSession::isLocked(const std::string &key) const { return lockReason(key).has_value(); }
+
+Values olPreferencesSession::toBeKept() const
+{
+    Values kept = current();
+    for (auto value = kept.begin(); value != kept.end();)
+        value = isLocked(value->first.second) ? kept.erase(value) : std::next(value);
+    // The record shows all its rows; the service only those of its modules. And under a lock waits what was chosen
+    // before it.
+    for (const auto &[key, value] : m_stored) {
+        const bool isUnseen = key.first == olHome::Service && !hasDefault(key);
+        if (isUnseen || isLocked(key.second))
+            kept[key] = value;
+    }
+    return kept;
+}
+
+olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored) const
+{
+    Changes changes;
+    const Values kept = toBeKept();
+    for (const auto &[key, value] : kept) {
+        const auto found = stored.find(key);
+        if (found == stored.end() || !olValue::identical(found->second, value))
+            changes.changed[key] = value;
+    }
+    for (const auto &[key, value] : stored) {
+        const bool isOurs = m_stored.count(key) != 0 || hasDefault(key);
+        if (kept.count(key) == 0 && isOurs)
+            changes.removed.push_back(key);
+    }
+    return changes;
+}
+
 QString olPreferencesSession::save()
 {
-    const Values values = current();
-    Values changed;
-    for (const auto &[key, value] : values) {
-        const auto stored = m_stored.find(key);
-        if (stored == m_stored.end() || !olValue::equal(stored->second, value))
-            changed[key] = value;
-    }
-    std::vector<olPreferencesStore::Key> removed;
-    for (const auto &stored : m_stored) {
-        if (values.count(stored.first) == 0 && isKnown(stored.first))
-            removed.push_back(stored.first);
-    }
-    QString error = m_store.save(changed, removed);
+    restoreLocked();
+    const Changes changes = changesTo(m_stored);
+    QString error = m_store.save(changes.changed, changes.removed);
+    if (!error.isEmpty() && m_store.isBroken())
+        error = saveIntoMended(error);
     if (error.isEmpty()) {
+        const Values kept = toBeKept();
         m_stored.clear();
-        for (const auto &[key, value] : values)
+        for (const auto &[key, value] : kept)
             m_stored[key] = olValue::adopted(value);
     }
     return error;
 }
 
+/// What this run holds is newer than any copy, so all of it goes into the mended file.
+QString olPreferencesSession::saveIntoMended(const QString &error)
+{
+    Values mended;
+    const olStoreOpening opening = m_store.open(mended);
+    if (!opening.error.isEmpty())
+        return error;
+    const Changes changes = changesTo(mended);
+    QString newError = m_store.save(changes.changed, changes.removed);
+    if (newError.isEmpty() && !opening.notice.isEmpty())
+        m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",
+                                                                  " All settings of this run were then saved into it.");
+    return newError;
+}
+
 QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown)
 {
     const Snapshot before;
-    for (olPreferencesEntry *entry : shown)
-        entry->updateData();
+    takeBack(shown);
     QString error = save();
     if (!error.isEmpty()) {
         before.restore();
@@ -177,7 +283,51 @@ boost::any olPreferencesSession::defaultValue(const std::string &key) const
     return owner ? owner->findDefault(key)->value : boost::any();
 }
 
-std::optional<QString> olPreferencesSession::lockReason(const std::string &) const { return std::nullopt; }
+std::optional<QString> olPreferencesSession::lockReason(const std::string &key) const
+{
+    const auto found = m_site.settings().find(key);
+    return found == m_site.settings().end() ? std::nullopt : found->second.locked;
+}
+
+/// The pages into their values, but for what is locked: that has its value again and counts as if nobody had touched
+/// it.
+void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown) const
+{
+    const Snapshot before;
+    for (olPreferencesEntry *entry : shown)
+        entry->updateData();
+    restoreLocked();
+    for (olPreferencesEntry *entry : shown) {
+        for (const olOfferedDefault &offered : entry->defaults()) {
+            if (isLocked(offered.key))
+                entry->setChanged(offered.key, !olValue::identical(before.value(entry->home(), offered.key),
+                                                                   entry->value(offered.key)));
+        }
+    }
+}
+
+void olPreferencesSession::restoreLocked() const
+{
+    for (const auto &site : m_site.settings()) {
+        const auto &[key, setting] = site;
+        if (!setting.locked)
+            continue;
+        eachOwner(key, [key = key, value = setting.value](olPreferencesEntry &owner) {
+            if (!olValue::identical(owner.value(key), value))
+                owner.setValue(key, value);
+        });
+    }
+}
+
+QStringList olPreferencesSession::check() const
+{
+    QStringList findings = m_store.check();
+    olSiteDefaults site(m_siteFiles);
+    site.read();
+    if (!keys().empty())
+        site.settle([this](const std::string &key) { return defaultValue(key); });
+    return findings << site.takeFaults() << site.unknown();
+}
 
 std::vector<std::string> olPreferencesSession::keys()
 {

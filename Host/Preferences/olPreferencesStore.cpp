@@ -1,104 +1,55 @@
 #include "Preferences/olPreferencesStore.h"
 
 #include "Embedded/olValue.h"
+#include "Preferences/olStoreFile.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QLocale>
+#include <QLockFile>
 #include <QStandardPaths>
-#include <sqlite3.h>
 
-#include <memory>
+#include <optional>
 
 namespace
 {
 
-constexpr int currentFormat = 1;
-constexpr int busyMilliseconds = 3000;
+using Kind = olStoreFault::Kind;
+
+constexpr int lockMilliseconds = 3000;
 
 QString translated(const char *text) { return QCoreApplication::translate("olPreferencesStore", text); }
 
-/// A failure on the way; its text is the reason alone.
-struct Failure {
-    QString reason;
-};
+const char *nameOf(olHome home) { return home == olHome::Record ? "record" : "service"; }
 
-using Statement = std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt *)>;
+std::optional<olHome> homeNamed(const std::string &name)
+{
+    for (const olHome home : {olHome::Record, olHome::Service}) {
+        if (name == nameOf(home))
+            return home;
+    }
+    return std::nullopt;
+}
 
-/// An open database file; closed when it goes, and rolled back if a transaction was under way.
-class Database
+olStoreRows::Key rowKey(const olPreferencesStore::Key &key) { return {nameOf(key.first), key.second}; }
+
+/// Keeps other programs from mending or copying the same store at the same time.
+class Lock
 {
 public:
-    Database(const QString &file, int flags)
+    Lock(const QString &file, int milliseconds) : m_lock(file + QStringLiteral(".lock"))
     {
-        sqlite3 *handle = nullptr;
-        const int result = sqlite3_open_v2(file.toUtf8().constData(), &handle, flags, nullptr);
-        m_handle.reset(handle);
-        check(result);
-        sqlite3_busy_timeout(handle, busyMilliseconds);
-        sqlite3_extended_result_codes(handle, 1);
-        run("PRAGMA synchronous = FULL");
+        m_isHeld = m_lock.tryLock(milliseconds);
     }
-
-    void run(const char *sql) { check(sqlite3_exec(m_handle.get(), sql, nullptr, nullptr, nullptr)); }
-
-    Statement prepare(const char *sql)
-    {
-        sqlite3_stmt *statement = nullptr;
-        check(sqlite3_prepare_v2(m_handle.get(), sql, -1, &statement, nullptr));
-        return {statement, sqlite3_finalize};
-    }
-
-    /// True while there is another row.
-    bool step(const Statement &statement)
-    {
-        const int result = sqlite3_step(statement.get());
-        if (result != SQLITE_ROW && result != SQLITE_DONE)
-            check(result);
-        return result == SQLITE_ROW;
-    }
-
-    int format()
-    {
-        const Statement statement = prepare("PRAGMA user_version");
-        return step(statement) ? sqlite3_column_int(statement.get(), 0) : 0;
-    }
-
-    void requireKnownFormat()
-    {
-        if (format() > currentFormat)
-            throw Failure{translated("it was written by a newer version")};
-    }
+    [[nodiscard]] bool isHeld() const { return m_isHeld; }
 
 private:
-    void check(int result) const
-    {
-        if (result != SQLITE_OK)
-            throw Failure{QString::fromUtf8(m_handle ? sqlite3_errmsg(m_handle.get()) : sqlite3_errstr(result))};
-    }
-
-    std::unique_ptr<sqlite3, int (*)(sqlite3 *)> m_handle{nullptr, sqlite3_close};
+    QLockFile m_lock;
+    bool m_isHeld;
 };
-
-std::string column(const Statement &statement, int index)
-{
-    const auto *bytes = static_cast<const char *>(sqlite3_column_blob(statement.get(), index));
-    return {bytes ? bytes : "", std::size_t(sqlite3_column_bytes(statement.get(), index))};
-}
-
-void bindText(const Statement &statement, int index, const std::string &text)
-{
-    sqlite3_bind_text(statement.get(), index, text.data(), int(text.size()), SQLITE_TRANSIENT);
-}
-
-const char *homeName(olHome home) { return home == olHome::Record ? "record" : "service"; }
-
-void createTable(Database &database)
-{
-    database.run("CREATE TABLE IF NOT EXISTS setting (home TEXT NOT NULL, key TEXT NOT NULL, type TEXT NOT NULL,"
-                 " value TEXT NOT NULL, PRIMARY KEY (home, key)) WITHOUT ROWID");
-    database.run("PRAGMA user_version = 1");
-}
 
 } // namespace
 
@@ -110,57 +61,170 @@ QString olPreferencesStore::userFile()
 
 olPreferencesStore::olPreferencesStore(QString file) : m_file(std::move(file)) {}
 
-QString olPreferencesStore::load(Values &values) const
-try {
-    if (!QFileInfo::exists(m_file))
-        return {};
-    Database database(m_file, SQLITE_OPEN_READONLY);
-    database.requireKnownFormat();
-    if (database.format() == 0)
-        return {};
-    const Statement rows = database.prepare("SELECT home, key, type, value FROM setting");
-    while (database.step(rows)) {
-        const std::string text = column(rows, 3);
-        const boost::any value = olValue::fromJson(column(rows, 2), QByteArray(text.data(), int(text.size())));
-        const olHome home = column(rows, 0) == homeName(olHome::Service) ? olHome::Service : olHome::Record;
-        // A row that cannot be read stays in the file; the setting has its default meanwhile.
-        if (!value.empty())
-            values[{home, column(rows, 1)}] = value;
-    }
-    return {};
-} catch (const Failure &failure) {
-    return translated("Cannot read the preferences %1: %2.").arg(m_file, failure.reason);
+olStoreFile olPreferencesStore::store() const { return olStoreFile(m_file); }
+
+olStoreFile olPreferencesStore::copy() const { return olStoreFile(m_file + QStringLiteral(".last-good")); }
+
+bool olPreferencesStore::wasStore() const { return copy().exists(); }
+
+QString olPreferencesStore::cannotRead(const QString &reason) const
+{
+    return translated("Cannot read the preferences %1: %2.").arg(m_file, reason);
 }
 
-QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &removed) const
-try {
+void olPreferencesStore::hand(const olStoreRows &rows, Values &values)
+{
+    m_hadRows = !rows.rows.empty();
+    for (const auto &[key, row] : rows.rows) {
+        const auto home = homeNamed(key.first);
+        const boost::any value =
+            olValue::fromJson(row.type, QByteArray::fromRawData(row.value.data(), int(row.value.size())));
+        if (home && !value.empty())
+            values[{*home, key.second}] = value;
+    }
+}
+
+QString olPreferencesStore::load(Values &values)
+{
+    try {
+        hand(store().read(wasStore()), values);
+        return {};
+    } catch (const olStoreFault &fault) {
+        return cannotRead(fault.reason);
+    }
+}
+
+olStoreOpening olPreferencesStore::open(Values &values)
+{
+    try {
+        const olStoreRows rows = store().read(wasStore());
+        hand(rows, values);
+        keepCopy(rows);
+        return {};
+    } catch (const olStoreFault &fault) {
+        if (fault.kind == Kind::Damaged)
+            return repair(fault.reason, values);
+        return {cannotRead(fault.reason), {}};
+    }
+}
+
+olStoreOpening olPreferencesStore::lookAt(Values &values)
+{
+    try {
+        hand(store().read(wasStore()), values);
+        return {};
+    } catch (const olStoreFault &fault) {
+        if (fault.kind != Kind::Damaged)
+            return {cannotRead(fault.reason), {}};
+        QString remark;
+        hand(copiedRows(remark), values);
+        return {{}, translated("The preferences file %1 is damaged: %2. %3").arg(m_file, fault.reason, remark)};
+    }
+}
+
+olStoreRows olPreferencesStore::copiedRows(QString &remark) const
+{
+    const olStoreFile copied = copy();
+    try {
+        if (copied.exists()) {
+            olStoreRows rows = copied.read(true);
+            const QDateTime when = QFileInfo(copied.name()).lastModified();
+            remark = translated("The copy of %1 was loaded; what was changed after that is not in it.")
+                         .arg(QLocale().toString(when, QLocale::ShortFormat));
+            return rows;
+        }
+        remark = translated("There is no copy of it yet, so all settings are at their defaults.");
+    } catch (const olStoreFault &fault) {
+        remark =
+            translated("Its copy cannot be read either (%1), so all settings are at their defaults.").arg(fault.reason);
+    }
+    return {};
+}
+
+olStoreOpening olPreferencesStore::repair(const QString &reason, Values &values)
+{
+    const Lock lock(m_file, lockMilliseconds);
+    try {
+        // Another program may have mended it meanwhile.
+        if (lock.isHeld()) {
+            hand(store().read(wasStore()), values);
+            return {};
+        }
+    } catch (const olStoreFault &) {
+    }
+
+    QString remark;
+    const olStoreRows rows = copiedRows(remark);
+    hand(rows, values);
+    const QString found = translated("The preferences file %1 is damaged: %2. ").arg(m_file, reason);
+    try {
+        if (!lock.isHeld())
+            throw olStoreFault{Kind::Access, translated("its folder is read-only, or another program keeps it busy")};
+        const QString aside = store().replaceAndSetAside(rows);
+        return {{}, found + translated("It is now kept as %1. ").arg(aside) + remark};
+    } catch (const olStoreFault &fault) {
+        return {{}, found + translated("It could not be set aside: %1. ").arg(fault.reason) + remark};
+    }
+}
+
+void olPreferencesStore::keepCopy(const olStoreRows &rows) const
+{
+    if (!store().exists())
+        return;
+    try {
+        const olStoreFile copied = copy();
+        if (copied.exists() && copied.read(true).rows == rows.rows)
+            return;
+    } catch (const olStoreFault &fault) {
+        if (fault.kind == Kind::Newer)
+            return;
+    }
+    // Who cannot have the lock lets the other one make the copy; and without one all is as good as before.
+    const Lock lock(m_file, 0);
+    try {
+        if (lock.isHeld())
+            copy().replace(rows);
+    } catch (const olStoreFault &) {
+    }
+}
+
+QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &removed)
+{
+    m_isBroken = false;
     if (changed.empty() && removed.empty())
         return {};
-    if (!QDir().mkpath(QFileInfo(m_file).absolutePath()))
-        throw Failure{translated("its folder cannot be created")};
+    olStoreRows put;
+    for (const auto &[key, value] : changed)
+        put.rows[rowKey(key)] = {olValue::typeName(value), olValue::toJson(value)};
+    std::vector<olStoreRows::Key> gone;
+    for (const Key &key : removed)
+        gone.push_back(rowKey(key));
 
-    Database database(m_file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    database.requireKnownFormat();
-    database.run("PRAGMA journal_mode = WAL");
-    database.run("BEGIN IMMEDIATE");
-    createTable(database);
-    for (const auto &[key, value] : changed) {
-        const Statement row = database.prepare("INSERT OR REPLACE INTO setting VALUES (?, ?, ?, ?)");
-        bindText(row, 1, homeName(key.first));
-        bindText(row, 2, key.second);
-        bindText(row, 3, olValue::typeName(value));
-        bindText(row, 4, olValue::toJson(value));
-        database.step(row);
+    try {
+        if (!QDir().mkpath(QFileInfo(m_file).absolutePath()))
+            throw olStoreFault{Kind::Access, translated("its folder cannot be created")};
+        // Who took the file away wants to begin anew; a copy of the old one would come back at the next damage.
+        if (!store().exists() && !m_hadRows)
+            QFile::remove(copy().name());
+        store().change(put, gone, m_hadRows);
+        m_hadRows = true;
+        return {};
+    } catch (const olStoreFault &fault) {
+        m_isBroken = fault.kind == Kind::Damaged;
+        return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
+            .arg(m_file, fault.reason);
     }
-    for (const Key &key : removed) {
-        const Statement row = database.prepare("DELETE FROM setting WHERE home = ? AND key = ?");
-        bindText(row, 1, homeName(key.first));
-        bindText(row, 2, key.second);
-        database.step(row);
+}
+
+QStringList olPreferencesStore::check() const
+{
+    QStringList findings;
+    for (const olStoreFile &file : {store(), copy()}) {
+        try {
+            (void)file.read(wasStore());
+        } catch (const olStoreFault &fault) {
+            findings << translated("%1: %2.").arg(file.name(), fault.reason);
+        }
     }
-    database.run("COMMIT");
-    return {};
-} catch (const Failure &failure) {
-    return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
-        .arg(m_file, failure.reason);
+    return findings;
 }

@@ -3,6 +3,7 @@
 #include "Utilities/olExport.h"
 
 #include <QString>
+#include <QStringList>
 #include <boost/any.hpp>
 
 #include <map>
@@ -10,10 +11,20 @@
 #include <utility>
 #include <vector>
 
+class olStoreFile;
+struct olStoreRows;
+
 /// Where the values of a module live while the host runs.
 enum class olHome { Record, Service };
 
-/// Where the values of settings are kept between runs: one database file, written whole or not at all.
+/// How opening a store went. Both texts are empty when all is well.
+struct olStoreOpening {
+    QString error;  ///< nothing was read, and why: one sentence that names the file
+    QString notice; ///< values were read, but not those of the file; to be told to the person, once
+};
+
+/// Where the values of settings are kept between runs: one database file, written whole or not at all, that finds out
+/// when it is damaged, and a copy beside it to go back to.
 class ORLO_SDK_EXPORT olPreferencesStore
 {
 public:
@@ -28,14 +39,39 @@ public:
 
     [[nodiscard]] const QString &file() const { return m_file; }
 
-    /// Reads everything into `values`; a file that does not exist yet holds nothing. Returns an empty text, else one
-    /// sentence that names the file and the reason.
-    [[nodiscard]] QString load(Values &values) const;
+    /// For a run that will save: reads everything into `values`. A damaged file is set aside under a dated name and the
+    /// last good copy takes its place; a sound one becomes the last good copy. A file that does not exist yet holds
+    /// nothing. Rows whose value cannot be understood stay in the file and are not among the values.
+    [[nodiscard]] olStoreOpening open(Values &values);
+
+    /// The same values without changing anything on the disk, whatever is found there.
+    [[nodiscard]] olStoreOpening lookAt(Values &values);
+
+    /// Only what the file itself holds: damage is an error. Returns an empty text, else one sentence that names the
+    /// file and the reason.
+    [[nodiscard]] QString load(Values &values);
 
     /// Makes the store hold `changed` and no longer hold `removed`; what neither names stays as it is. One transaction:
     /// on failure the file keeps what it held. Returns as load() does. With nothing to do the file is not touched.
-    [[nodiscard]] QString save(const Values &changed, const std::vector<Key> &removed) const;
+    [[nodiscard]] QString save(const Values &changed, const std::vector<Key> &removed);
+
+    /// Whether the last save() failed because the file is damaged or gone, which open() mends.
+    [[nodiscard]] bool isBroken() const { return m_isBroken; }
+
+    /// One sentence for each thing that is wrong with the file or its copy. Changes nothing.
+    [[nodiscard]] QStringList check() const;
 
 private:
+    [[nodiscard]] olStoreFile store() const;
+    [[nodiscard]] olStoreFile copy() const;
+    [[nodiscard]] bool wasStore() const;
+    [[nodiscard]] QString cannotRead(const QString &reason) const;
+    [[nodiscard]] olStoreRows copiedRows(QString &remark) const;
+    void keepCopy(const olStoreRows &rows) const;
+    [[nodiscard]] olStoreOpening repair(const QString &reason, Values &values);
+    void hand(const olStoreRows &rows, Values &values);
+
     QString m_file;
+    bool m_hadRows = false;
+    bool m_isBroken = false;
 };

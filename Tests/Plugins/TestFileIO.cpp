@@ -1,10 +1,14 @@
 #include "Support/PluginTest.h"
 #include "Utilities/olPlatform.h"
 
+#include <QApplication>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QSpinBox>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 namespace
@@ -53,6 +57,32 @@ TEST_F(FileIO, SearchPathsAreSortedByTheUserAndKeptInThatOrderOnlyWhenConfirmed)
     QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton);
     module("FileIO").updateData();
     EXPECT_EQ(boost::any_cast<Paths>(record().get("texture search paths")), (Paths{"/a", "/b", "/c", "/d"}));
+}
+
+TEST_F(FileIO, AnAddedSearchPathStandsLastUntilTheUserHasSorted)
+{
+    const QTemporaryDir directory(QStringLiteral("/tmp/added-XXXXXX"));
+    const std::string added = directory.path().toStdString();
+    const auto add = [&directory] {
+        QTimer::singleShot(0, [&directory] {
+            auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(chooser, nullptr);
+            chooser->selectFile(directory.path());
+            ASSERT_TRUE(QMetaObject::invokeMethod(chooser, "accept"));
+        });
+        EXPECT_TRUE(QMetaObject::invokeMethod(module("FileIO").page(), "clickedAdd"));
+    };
+
+    module("FileIO").page()->show();
+    add();
+    EXPECT_EQ(rows(), (Paths{"/c", "/a", "/d", "/b", added}));
+
+    module("FileIO").updateGUI();
+    QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton);
+    QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton);
+    ASSERT_EQ(rows(), (Paths{"/d", "/c", "/b", "/a"}));
+    add();
+    EXPECT_EQ(rows(), (Paths{added, "/d", "/c", "/b", "/a"}));
 }
 
 TEST_F(FileIO, DeleteTakesEverySelectedRow)

@@ -22,7 +22,7 @@ public:
     bool setOptions(const char *suffix, const char *options);
 
     /// The options of the suffix's loader, empty at first; null for a suffix without a loader.
-    [[nodiscard]] const char *getOptions(const char *suffix) const;
+    [[nodiscard]] const char *getOptions(const char *suffix);
 
 private:
     friend ORLO_SDK_EXPORT void registerSceneLoader(const char *suffix);

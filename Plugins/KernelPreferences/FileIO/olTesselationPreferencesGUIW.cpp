@@ -43,8 +43,6 @@ void olTesselationPreferencesGUIW::setQualities(const std::vector<float> &tolera
     for (const float tolerance : tolerances)
         m_form->qualities->addTopLevelItem(std::make_unique<olTesselationListViewItem>(tolerance).release());
     m_form->qualities->setSortingEnabled(true);
-    // Clearing the tree drops the selection without a word.
-    selectionChanged();
 }
 
 std::vector<float> olTesselationPreferencesGUIW::qualities() const

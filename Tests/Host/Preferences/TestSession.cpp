@@ -165,7 +165,7 @@ TEST_F(Session, WhenStoringFailsEverythingIsAsItWasAndNothingIsApplied)
 
 TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)
 {
-    const olPreferencesStore store(file);
+    olPreferencesStore store(file);
     const olPreferencesStore::Key foreign{olHome::Record, "Someone else's"};
     const olPreferencesStore::Key foreignService{olHome::Service, "Someone else's"};
     ASSERT_EQ(store.save({{foreign, 0.1f}, {foreignService, true}}, {}), QString());

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Texts in JSON, exact to the byte: bytes that are no UTF-8 stand as the lone surrogates \udc80 to \udcff, one for
+/// each byte, and lone surrogates of a QString as themselves. Neither can occur in a text that is in order.
+namespace olJsonText
+{
+
+/// In double quotes with JSON's escapes.
+[[nodiscard]] std::string quoted(std::string_view text);
+[[nodiscard]] std::string quoted(const QString &text);
+
+/// The bytes that quoted() would have been given; nothing for a lone surrogate that stands for no byte.
+[[nodiscard]] std::optional<std::string> bytes(const QString &text);
+
+} // namespace olJsonText
+
+/// Takes a JSON text apart from its beginning, without ever rounding a number: what a number is to be, its taker knows.
+/// Blanks before what is asked for are passed over. What is not there leaves the position after those blanks.
+class olJsonReader
+{
+public:
+    explicit olJsonReader(std::string_view text) : m_rest(text) {}
+
+    /// True, and past it, where this very text comes next.
+    bool take(std::string_view expected);
+
+    /// The number's own characters.
+    [[nodiscard]] std::optional<std::string_view> number();
+
+    /// The text between the quotes, without its escapes.
+    [[nodiscard]] std::optional<QString> text();
+
+    [[nodiscard]] bool atEnd();
+
+private:
+    void skipBlanks();
+    [[nodiscard]] std::size_t digitsFrom(std::size_t position) const;
+    bool takeEscape(QString &text);
+    bool takeCharacter(QString &text);
+
+    std::string_view m_rest;
+};

@@ -1,0 +1,246 @@
+#include "Embedded/olValue.h"
+#include "StoreTest.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <random>
+
+namespace
+{
+
+/// A store of the second run, and beside it the copy that was made at that run's start.
+class StoreDamage : public StoreTest
+{
+protected:
+    StoreDamage()
+    {
+        old = {{key("Camera fov"), 60.0f}, {key("Path"), std::string("/tmp")}, {{olHome::Service, "Scale"}, 0.5f}};
+        for (int row = 0; row < 40; ++row)
+            old[key("Row " + std::to_string(row))] = std::string(std::size_t(row) * 5, 'v');
+        save(old);
+        Values values;
+        EXPECT_EQ(olPreferencesStore(file).open(values).error, QString());
+        save({{key("Camera fov"), 75.0f}});
+        current = stored();
+        sound = bytesOf(file);
+        copy = bytesOf(file + ".last-good");
+    }
+
+    /// Opens the store with these bytes in it. Nothing may ever come out of it but its values, its copy's or an error.
+    void open(const QByteArray &bytes, const std::string &what)
+    {
+        write(file, bytes);
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        if (!opening.error.isEmpty()) {
+            ++refused;
+            ASSERT_EQ(bytesOf(file), bytes) << what;
+            ASSERT_TRUE(values.empty()) << what;
+        } else if (opening.notice.isEmpty()) {
+            ++harmless;
+            ASSERT_TRUE(same(values, current)) << what;
+        } else {
+            ++mended;
+            ASSERT_TRUE(same(values, old)) << what;
+            const QStringList kept = setAside();
+            ASSERT_EQ(kept.size(), 1) << what;
+            ASSERT_TRUE(opening.notice.contains(kept.first()) && opening.notice.contains(file)) << what;
+            ASSERT_EQ(bytesOf(folder.filePath(kept.first())), bytes) << what;
+            QFile::remove(folder.filePath(kept.first()));
+        }
+        // Where the file went on being used, it can be.
+        if (opening.error.isEmpty() && (harmless + mended) % 50 == 0) {
+            ASSERT_EQ(olPreferencesStore(file).save({{key("Camera fov"), 80.0f}}, {}), QString()) << what;
+            ASSERT_TRUE(olValue::identical(stored()[key("Camera fov")], 80.0f)) << what;
+        }
+        write(file + ".last-good", copy);
+    }
+
+    Values old;
+    Values current;
+    QByteArray sound;
+    QByteArray copy;
+    int refused = 0;
+    int harmless = 0;
+    int mended = 0;
+};
+
+class StoreBitFlips : public StoreDamage, public testing::WithParamInterface<unsigned>
+{
+};
+
+TEST_P(StoreBitFlips, EachIsNoticedOrHarmlessAndTheBadFileIsKept)
+{
+    std::mt19937 random(GetParam());
+    for (int round = 0; round < 2500 && !HasFatalFailure(); ++round) {
+        const int bit = int(random() % unsigned(sound.size() * 8));
+        QByteArray bytes = sound;
+        bytes[bit / 8] = char(bytes.at(bit / 8) ^ (1 << bit % 8));
+        open(bytes, "bit " + std::to_string(bit));
+    }
+    RecordProperty("harmless", harmless);
+    RecordProperty("mended", mended);
+    EXPECT_GT(mended, 100);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, StoreBitFlips, testing::Values(1u, 2u, 3u, 4u));
+
+TEST_F(StoreDamage, EveryBitOfTheHeaderIsNoticedOrHarmless)
+{
+    for (int bit = 0; bit < 100 * 8 && !HasFatalFailure(); ++bit) {
+        QByteArray bytes = sound;
+        bytes[bit / 8] = char(bytes.at(bit / 8) ^ (1 << bit % 8));
+        open(bytes, "bit " + std::to_string(bit));
+    }
+    EXPECT_LE(refused, 31) << "only what claims to be of a newer version is left alone";
+}
+
+TEST_F(StoreDamage, EveryTruncationIsNoticed)
+{
+    for (int size = 0; size < sound.size() && !HasFatalFailure(); ++size) {
+        const QByteArray bytes = sound.left(size);
+        if (size % 16 == 0) {
+            open(bytes, "cut to " + std::to_string(size));
+            continue;
+        }
+        write(file, bytes);
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).lookAt(values);
+        ASSERT_EQ(opening.error, QString()) << size;
+        ASSERT_FALSE(opening.notice.isEmpty()) << size;
+        ASSERT_TRUE(same(values, old)) << size;
+        ASSERT_EQ(bytesOf(file), bytes) << "looking changes nothing";
+    }
+    EXPECT_EQ(harmless + refused, 0);
+}
+
+TEST_F(StoreDamage, RowsThatWereChangedOrTakenAwayOutsideAreNoticed)
+{
+    for (const char *sql :
+         {"UPDATE setting SET value = '61' WHERE key = 'Camera fov'", "DELETE FROM setting WHERE key = 'Row 7'",
+          "UPDATE setting SET key = 'Camera for' WHERE key = 'Camera fov'",
+          "UPDATE setting SET value = CAST(value AS BLOB) WHERE key = 'Path'", "DELETE FROM seal",
+          "DELETE FROM setting", "DROP TABLE setting",
+          "CREATE TRIGGER t AFTER INSERT ON setting BEGIN SELECT 1; END"}) {
+        write(file, sound);
+        tamper(sql);
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        EXPECT_NE(opening.notice, QString()) << sql;
+        EXPECT_TRUE(same(values, old)) << sql;
+    }
+}
+
+TEST_F(StoreDamage, ThePersonIsToldOnce)
+{
+    write(file, sound.left(5000));
+    Values values;
+    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
+}
+
+TEST_F(StoreDamage, ThreeDamagesAreThreeFiles)
+{
+    for (int round = 0; round < 3; ++round) {
+        write(file, sound.left(5000 + round));
+        Values values;
+        EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    }
+    EXPECT_EQ(setAside().size(), 3);
+}
+
+TEST_F(StoreDamage, WithoutASoundCopyAllIsAtItsDefault)
+{
+    for (const bool isThere : {true, false}) {
+        write(file, sound.left(5000));
+        write(file + ".last-good", copy.left(5000));
+        if (!isThere)
+            QFile::remove(file + ".last-good");
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        EXPECT_TRUE(values.empty());
+        EXPECT_TRUE(opening.notice.contains("default")) << opening.notice.toStdString();
+        save({{key("again"), 1}});
+        EXPECT_EQ(stored().size(), 1u);
+        QFile::remove(file);
+    }
+    EXPECT_EQ(setAside().size(), 2);
+}
+
+TEST_F(StoreDamage, ALogGoesWithTheFileItBelongsTo)
+{
+    write(file, sound.left(5000));
+    write(file + "-wal", "not a log");
+    Values values;
+    const olStoreOpening opening = olPreferencesStore(file).open(values);
+    EXPECT_TRUE(same(values, old));
+    ASSERT_EQ(setAside().size(), 1);
+    EXPECT_EQ(bytesOf(folder.filePath(setAside().first() + "-wal")), "not a log");
+    EXPECT_TRUE(same(stored(), old));
+}
+
+TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
+{
+    write(file + ".last-good", copy.left(5000));
+    EXPECT_EQ(olPreferencesStore(file).check().size(), 1);
+    Values values;
+    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(same(values, current));
+    EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
+}
+
+TEST_F(StoreDamage, ASaveOnADamagedFileIsRefusedAndPutsNoSealOnIt)
+{
+    tamper("DELETE FROM setting WHERE key = 'Row 7'");
+    olPreferencesStore store(file);
+    EXPECT_TRUE(store.save({{key("new"), 1}}, {}).contains(file));
+    EXPECT_TRUE(store.isBroken());
+    Values values;
+    EXPECT_NE(store.open(values).notice, QString());
+}
+
+TEST_F(StoreDamage, WhoDeletesTheStoreBeginsAnewForGood)
+{
+    QFile::remove(file);
+    Values values;
+    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(values.empty());
+    save({{key("new"), 1}});
+    write(file, bytesOf(file).left(4000));
+    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(values.empty()) << "the old copy does not come back";
+}
+
+TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
+{
+    tamper("PRAGMA user_version = 2; ALTER TABLE setting ADD COLUMN unit TEXT");
+    const QByteArray newer = bytesOf(file);
+    olPreferencesStore store(file);
+    Values values;
+    EXPECT_TRUE(store.open(values).error.contains("newer"));
+    EXPECT_TRUE(store.save({{key("a"), 1}}, {}).contains("newer"));
+    EXPECT_FALSE(store.isBroken());
+    EXPECT_TRUE(values.empty());
+    EXPECT_EQ(bytesOf(file), newer);
+    EXPECT_TRUE(setAside().isEmpty());
+}
+
+TEST_F(StoreDamage, FilesThatNeverWereStoresAreLeftWhereTheyAre)
+{
+    const QString other = folder.filePath(QStringLiteral("other"));
+    QFile::copy(file, other);
+    file = other;
+    tamper("PRAGMA application_id = 7; PRAGMA user_version = 0");
+    const QByteArray database = bytesOf(other);
+    for (const QByteArray &bytes : {database, QByteArray("Dear reader, "), QByteArray(20000, '\0')}) {
+        write(other, bytes);
+        Values values;
+        EXPECT_TRUE(olPreferencesStore(other).open(values).error.contains(other));
+        EXPECT_TRUE(olPreferencesStore(other).save({{key("a"), 1}}, {}).contains(other));
+        EXPECT_EQ(bytesOf(other), bytes);
+    }
+}
+
+} // namespace

@@ -1,0 +1,313 @@
+#include "StoreTest.h"
+#include "Support/ChildProcess.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <sched.h>
+#include <sqlite3.h>
+#include <sys/mman.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+#include <random>
+
+namespace
+{
+
+class StoreFaults : public StoreTest
+{
+protected:
+    static constexpr int rows = 20;
+
+    static Values generation(int number)
+    {
+        Values values;
+        for (int row = 0; row < rows; ++row)
+            values[key("row " + std::to_string(row))] = number;
+        return values;
+    }
+
+    /// The one number that all rows hold; -1 where they differ.
+    static int generationOf(const Values &values)
+    {
+        if (values.empty())
+            return 0;
+        const int number = boost::any_cast<int>(values.begin()->second);
+        return same(values, generation(number)) ? number : -1;
+    }
+
+    /// What is wrong with an error that a person is to understand; empty where nothing is.
+    [[nodiscard]] std::string faultIn(const QString &error, const char *reason) const
+    {
+        const bool isFine = error.contains(file) && error.contains(QLatin1String(reason)) &&
+                            error.contains(QLatin1String("What it held before is unchanged"));
+        return isFine ? "" : "the message is: " + error.toStdString();
+    }
+
+    /// Loads in this very process.
+    [[nodiscard]] bool holds(const Values &expected) const
+    {
+        Values values;
+        return olPreferencesStore(file).load(values).isEmpty() && same(values, expected);
+    }
+
+    static const Values &large()
+    {
+        static const Values values{{key("large"), std::string(1 << 20, 'x')}};
+        return values;
+    }
+};
+
+TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
+{
+    auto *saved = static_cast<std::atomic<int> *>(
+        ::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(saved, MAP_FAILED);
+    std::mt19937 random(42);
+    int last = 0;
+    for (int round = 0; round < 150; ++round) {
+        saved->store(last);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            for (int number = last + 1;; ++number) {
+                if (!olPreferencesStore(file).save(generation(number), {}).isEmpty())
+                    ::_exit(1);
+                saved->store(number);
+            }
+        }
+        ::usleep(useconds_t(random() % 12000));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "a save failed";
+
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        ASSERT_EQ(opening.error, QString());
+        ASSERT_EQ(opening.notice, QString());
+        const int found = generationOf(values);
+        ASSERT_TRUE(found == *saved || found == *saved + 1) << found << " after " << *saved;
+
+        QElapsedTimer timer;
+        timer.start();
+        last = found + 1;
+        ASSERT_EQ(olPreferencesStore(file).save(generation(last), {}), QString());
+        ASSERT_LT(timer.elapsed(), 1500);
+    }
+    EXPECT_GT(last, 150);
+    ::munmap(saved, sizeof(std::atomic<int>));
+}
+
+TEST_F(StoreFaults, AFullDiskIsReportedAndTakesNothingAway)
+{
+    save({{key("a"), 1}});
+    const std::string fault = inChildProcess([this]() -> std::string {
+        if (::unshare(CLONE_NEWNS) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+            return "skip";
+        ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
+        if (::mount("tmpfs", QFile::encodeName(folder.path()).constData(), "tmpfs", 0, "size=256k") != 0)
+            return "skip";
+        olPreferencesStore store(file);
+        if (!store.save({{key("a"), 2}}, {}).isEmpty())
+            return "not even a small store can be saved";
+        const std::string message = faultIn(store.save(large(), {}), "no space left on the device");
+        if (!message.empty())
+            return message;
+        if (!holds({{key("a"), 2}}))
+            return "the earlier values are gone";
+        if (!store.save({{key("b"), 3}}, {}).isEmpty())
+            return "a smaller save does not work afterwards";
+        return holds({{key("a"), 2}, {key("b"), 3}}) ? "" : "the later save did not arrive";
+    });
+    if (fault == "skip")
+        GTEST_SKIP() << "no file system can be mounted here";
+    EXPECT_EQ(fault, "");
+}
+
+TEST_F(StoreFaults, AWriteThatTheSystemRefusesIsReportedAndTakesNothingAway)
+{
+    save({{key("a"), 1}});
+    EXPECT_EQ(inChildProcess([this]() -> std::string {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit small{50000, RLIM_INFINITY};
+                  ::setrlimit(RLIMIT_FSIZE, &small);
+                  olPreferencesStore store(file);
+                  const std::string message = faultIn(store.save(large(), {}), "File too large");
+                  if (!message.empty())
+                      return message;
+                  if (!holds({{key("a"), 1}}))
+                      return "the earlier values are gone";
+                  const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+                  ::setrlimit(RLIMIT_FSIZE, &none);
+                  return store.save(large(), {}).toStdString();
+              }),
+              "");
+    EXPECT_EQ(stored().size(), 2u);
+}
+
+TEST_F(StoreFaults, WithoutRoomNothingDamagedIsMoved)
+{
+    const Values before{{key("a"), std::string(100000, 'x')}};
+    save(before);
+    Values values;
+    ASSERT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    const QByteArray damaged = bytesOf(file).left(5000);
+    write(file, damaged);
+    EXPECT_EQ(inChildProcess([&]() -> std::string {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit small{50000, RLIM_INFINITY};
+                  ::setrlimit(RLIMIT_FSIZE, &small);
+                  Values copied;
+                  const olStoreOpening opening = olPreferencesStore(file).open(copied);
+                  if (!opening.error.isEmpty() || !opening.notice.contains("File too large"))
+                      return (opening.error + '|' + opening.notice).toStdString();
+                  return same(copied, before) ? "" : "the copy was not read";
+              }),
+              "");
+    EXPECT_EQ(bytesOf(file), damaged);
+    EXPECT_TRUE(setAside().isEmpty());
+}
+
+/// Permissions bind nobody who is root.
+std::string becomeNobody()
+{
+    constexpr uid_t nobody = 65534;
+    return ::getuid() != 0 || (::setgid(nobody) == 0 && ::setuid(nobody) == 0) ? "" : "cannot be someone else";
+}
+
+TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
+{
+    const QByteArray path = QFile::encodeName(folder.path());
+    struct Case {
+        mode_t file;
+        mode_t folder;
+        const char *reason;
+    };
+    for (const Case &each :
+         {Case{0444, 0777, "read-only"}, Case{0666, 0555, "read-only"}, Case{0444, 0555, "read-only"}}) {
+        save({{key("a"), 1}});
+        Values values;
+        ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+        ::chmod(QFile::encodeName(file).constData(), each.file);
+        ::chmod(path.constData(), each.folder);
+        EXPECT_EQ(inChildProcess([&]() -> std::string {
+                      if (const std::string fault = becomeNobody(); !fault.empty())
+                          return fault;
+                      olPreferencesStore store(file);
+                      Values read;
+                      const olStoreOpening opening = store.open(read);
+                      if (!opening.error.isEmpty() || !opening.notice.isEmpty() || !same(read, {{key("a"), 1}}))
+                          return "cannot be read: " + (opening.error + opening.notice).toStdString();
+                      return faultIn(store.save({{key("a"), 2}}, {}), each.reason);
+                  }),
+                  "")
+            << std::oct << each.file << ' ' << each.folder;
+        ::chmod(path.constData(), 0700);
+        ::chmod(QFile::encodeName(file).constData(), 0600);
+        EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
+    }
+}
+
+TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
+{
+    save({{key("a"), 1}});
+    Values values;
+    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    const QByteArray damaged = bytesOf(file).left(5000);
+    write(file, damaged);
+    ::chmod(QFile::encodeName(folder.path()).constData(), 0555);
+    EXPECT_EQ(inChildProcess([this]() -> std::string {
+                  if (const std::string fault = becomeNobody(); !fault.empty())
+                      return fault;
+                  Values read;
+                  const olStoreOpening opening = olPreferencesStore(file).open(read);
+                  return opening.notice.contains("could not be set aside") && same(read, {{key("a"), 1}})
+                             ? ""
+                             : (opening.error + '|' + opening.notice).toStdString();
+              }),
+              "");
+    ::chmod(QFile::encodeName(folder.path()).constData(), 0700);
+    EXPECT_EQ(bytesOf(file), damaged);
+}
+
+TEST_F(StoreFaults, TwoProgramsThatSaveDifferentSettingsBothKeepTheirs)
+{
+    constexpr int saves = 150;
+    std::vector<pid_t> children;
+    for (const char *program : {"one", "two", "three"}) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            int failed = 0;
+            for (int number = 1; number <= saves; ++number) {
+                const Values mine{{key(program), number}, {key(program + std::to_string(number)), number}};
+                failed += olPreferencesStore(file).save(mine, {}).isEmpty() ? 0 : 1;
+            }
+            ::_exit(failed);
+        }
+        children.push_back(child);
+    }
+    for (const pid_t child : children) {
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "saves failed";
+    }
+    Values values = stored();
+    EXPECT_EQ(values.size(), 3u * (saves + 1));
+    EXPECT_EQ(boost::any_cast<int>(values[key("two")]), saves);
+}
+
+TEST_F(StoreFaults, TwoProgramsThatStartOnADamagedStoreMendItOnce)
+{
+    save({{key("a"), 1}});
+    Values values;
+    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    for (int round = 0; round < 20; ++round) {
+        write(file, bytesOf(file).left(5000));
+        std::vector<pid_t> children;
+        for (int program = 0; program < 3; ++program) {
+            const pid_t child = ::fork();
+            if (child == 0) {
+                Values read;
+                const olStoreOpening opening = olPreferencesStore(file).open(read);
+                ::_exit(opening.error.isEmpty() && same(read, {{key("a"), 1}}) ? (opening.notice.isEmpty() ? 0 : 1)
+                                                                               : 9);
+            }
+            children.push_back(child);
+        }
+        int told = 0;
+        for (const pid_t child : children) {
+            int status = 0;
+            ::waitpid(child, &status, 0);
+            told += WEXITSTATUS(status);
+        }
+        ASSERT_EQ(told, 1);
+        ASSERT_EQ(setAside().size(), round + 1);
+    }
+}
+
+TEST_F(StoreFaults, ABusyStoreIsWaitedForBrieflyAndThenReported)
+{
+    save({{key("a"), 1}});
+    sqlite3 *other = nullptr;
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(file).constData(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    QElapsedTimer timer;
+    timer.start();
+    olPreferencesStore store(file);
+    EXPECT_EQ(faultIn(store.save({{key("a"), 2}}, {}), "busy"), "");
+    EXPECT_GT(timer.elapsed(), 1000);
+    EXPECT_LT(timer.elapsed(), 6000);
+    Values values;
+    EXPECT_EQ(store.open(values).error, QString()) << "who reads need not wait for who writes";
+    sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
+    sqlite3_close(other);
+    EXPECT_EQ(store.save({{key("a"), 2}}, {}), QString());
+}
+
+} // namespace
