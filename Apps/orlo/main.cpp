@@ -4,6 +4,8 @@
 #include "Embedded/olEdition.h"
 #include "Embedded/olHostState.h"
 #include "Preferences/olPreferencesSession.h"
+#include "Viewport/olScene.h"
+#include "Viewport/olViewport.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -61,7 +63,13 @@ int run(const QCommandLineParser &options)
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.start();
+    if (options.isSet(QStringLiteral("sample"))) {
+        window.scene().loadSample();
+        session.newScene();
+    }
     window.show();
+    if (options.isSet(QStringLiteral("preferences")))
+        window.openPreferences();
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
@@ -80,6 +88,7 @@ int main(int argc, char *argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    olViewport::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("ORLO"));
     QApplication::setApplicationName(QStringLiteral("orlo"));
@@ -97,6 +106,9 @@ int main(int argc, char *argv[])
         {QStringLiteral("store"), QStringLiteral("The file that keeps the preferences."), QStringLiteral("file")});
     options.addOption(
         {QStringLiteral("plugin"), QStringLiteral("The preferences plug-in to load."), QStringLiteral("file")});
+    options.addOption(
+        {QStringLiteral("sample"), QStringLiteral("Open a small assembly that the program builds itself.")});
+    options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});

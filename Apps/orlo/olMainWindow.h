@@ -1,16 +1,24 @@
 #pragma once
 
+#include "Embedded/olHostValue.h"
+
 #include <QMainWindow>
 
 #include <memory>
 
+class QDockWidget;
+class QLabel;
+class QToolBar;
 class olHostStatePanel;
 class olJournalPanel;
 class olPreferencesDialog;
 class olPreferencesSession;
+class olScene;
+class olViewport;
 
-/// The viewer's window: what the host holds and what it was told, and the way to the preferences.
-class olMainWindow : public QMainWindow
+/// The viewer's window: the scene as the host's state shows it, what the host holds and what it was told, and the way
+/// to the preferences.
+class olMainWindow : public QMainWindow, private olHostObserver
 {
     Q_OBJECT
 
@@ -25,15 +33,31 @@ public:
     /// Gives all pages back to their modules; to be called before the plug-in is unloaded.
     void closePreferences();
 
+    [[nodiscard]] olScene &scene() { return *m_scene; }
+
+    /// Null where the display cannot show a 3D view.
+    [[nodiscard]] olViewport *viewport() { return m_viewport; }
+
     [[nodiscard]] const olJournalPanel &journal() const { return *m_journal; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void stateChanged(const olHostValueBase &value) override;
+    void addCentre();
+    void addDocks();
     void addMenus();
+    void addViewActions();
+    void applyWindowSettings();
+    void placePreferencesBeside();
 
     olPreferencesSession &m_session;
+    std::unique_ptr<olScene> m_scene;
+    olViewport *m_viewport = nullptr;
+    QList<QDockWidget *> m_docks;
+    QToolBar *m_tools = nullptr;
+    QLabel *m_frameRate = nullptr;
     olHostStatePanel *m_state;
     olJournalPanel *m_journal;
     std::unique_ptr<olPreferencesDialog> m_preferences;
