@@ -2,6 +2,7 @@
 
 #include "olHostStatePanel.h"
 #include "olJournalPanel.h"
+#include "olModelFiles.h"
 
 #include "Embedded/olHostState.h"
 #include "Preferences/olPreferencesDialog.h"
@@ -34,6 +35,7 @@ constexpr double faintestWindow = 0.1;
 olMainWindow::olMainWindow(olPreferencesSession &session)
     : m_session(session),
       m_scene(std::make_unique<olScene>()),
+      m_files(std::make_unique<olModelFiles>(*this, *m_scene)),
       m_state(new olHostStatePanel),
       m_journal(new olJournalPanel)
 {
@@ -161,6 +163,8 @@ void olMainWindow::placePreferencesBeside()
     m_preferences->move(std::max(right, room.left()), std::max(frameGeometry().top(), room.top()));
 }
 
+void olMainWindow::openModel(const QString &file) { m_files->open(file); }
+
 void olMainWindow::closePreferences() { m_preferences.reset(); }
 
 void olMainWindow::closeEvent(QCloseEvent *event)
@@ -185,6 +189,8 @@ void olMainWindow::addMenus()
         m_scene->loadSample();
         m_session.newScene();
     });
+    m_files->addTo(*file);
+    connect(m_files.get(), &olModelFiles::imported, this, [this] { m_session.newScene(); });
     file->addSeparator();
     QAction *quit = file->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);

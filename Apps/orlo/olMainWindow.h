@@ -11,6 +11,7 @@ class QLabel;
 class QToolBar;
 class olHostStatePanel;
 class olJournalPanel;
+class olModelFiles;
 class olPreferencesDialog;
 class olPreferencesSession;
 class olScene;
@@ -35,6 +36,9 @@ public:
 
     [[nodiscard]] olScene &scene() { return *m_scene; }
 
+    /// Reads a model into the scene, and says so where it cannot.
+    void openModel(const QString &file);
+
     /// Null where the display cannot show a 3D view.
     [[nodiscard]] olViewport *viewport() { return m_viewport; }
 
@@ -54,6 +58,7 @@ private:
 
     olPreferencesSession &m_session;
     std::unique_ptr<olScene> m_scene;
+    std::unique_ptr<olModelFiles> m_files;
     olViewport *m_viewport = nullptr;
     QList<QDockWidget *> m_docks;
     QToolBar *m_tools = nullptr;

@@ -37,5 +37,7 @@ olScene::Document olScene::newDocument()
     // threads, documents are not.
     const Document document = new TDocStd_Document("BinXCAF");
     XCAFDoc_DocumentTool::Set(document->Main());
+    // What has no name keeps none; the library's own would name a kind or an address.
+    XCAFDoc_ShapeTool::SetAutoNaming(Standard_False);
     return document;
 }
