@@ -103,12 +103,19 @@ void olPartChanges::stitch(olChangedPart &part, double tolerance)
     for (const TopoDS_Face &face : faces)
         sewing.Add(face);
     sewing.Perform();
-    if (sewing.SewedShape().IsNull())
+    // Small faces vanish between borders that are joined; a gap is better than a hole.
+    if (sewing.SewedShape().IsNull() || facesOf(sewing.SewedShape()).size() < faces.size())
         return;
     std::vector<TopoDS_Shape> pieces = freeEdgesOf(part.shape);
     pieces.push_back(sewing.SewedShape());
     part.shape = pieces.size() == 1 ? pieces.front() : compoundOf(pieces);
-    part.changes.emplace_back(sewing.GetContext());
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    for (const TopoDS_Face &face : faces) {
+        const TopoDS_Shape now = sewing.Modified(face);
+        if (!now.IsNull() && !now.IsSame(face))
+            change->Replace(face, now);
+    }
+    part.changes.push_back(change);
 }
 
 void olPartChanges::repair(olChangedPart &part)
