@@ -11,7 +11,6 @@
 #include "StoreTest.h"
 #include "Utilities/olMessage.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <limits>

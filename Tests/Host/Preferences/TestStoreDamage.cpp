@@ -1,7 +1,6 @@
 #include "Embedded/olValue.h"
 #include "StoreTest.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <random>

@@ -10,7 +10,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
