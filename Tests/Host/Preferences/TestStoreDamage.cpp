@@ -69,7 +69,7 @@ TEST_F(StoreDamage, EachBitIsNoticedOrHarmlessAndTheBadFileIsKept)
 {
     constexpr int header = 100 * 8;
     std::mt19937 random(1);
-    for (int round = 0; round < 4000 && !HasFatalFailure(); ++round) {
+    for (int round = 0; round < 10000 && !HasFatalFailure(); ++round) {
         const int bit = round < header ? round : int(random() % unsigned(sound.size() * 8));
         QByteArray bytes = sound;
         bytes[bit / 8] = char(bytes.at(bit / 8) ^ (1 << bit % 8));
