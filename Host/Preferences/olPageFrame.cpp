@@ -42,7 +42,8 @@ void olPageFrame::reveal(const olFoundControl &control)
     // What was behind has its place only once the layouts have run.
     if (m_page->layout())
         m_page->layout()->activate();
-    ensureWidgetVisible(control.widget);
+    // Not at the very edge: what stands around it tells what it is about.
+    ensureWidgetVisible(control.widget, 0, viewport()->height() / 3);
     showFromTheLeft(control);
 }
 

@@ -154,9 +154,9 @@ QWidget *olPreferencesDialog::buildRight()
     layout->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
     auto *header = new QHBoxLayout;
     header->addWidget(m_title, 1);
-    header->addWidget(m_locked);
     header->addWidget(m_restorePage);
     layout->addLayout(header);
+    layout->addWidget(m_locked, 0, Qt::AlignLeft);
     layout->addWidget(m_pages, 1);
     return right;
 }
@@ -325,7 +325,10 @@ void olPreferencesDialog::restorePage()
 void olPreferencesDialog::restoreAll()
 {
     m_pending->restoreAll();
-    m_message->showNote(tr("All pages show their defaults. OK or Apply makes them count, Cancel takes them back."));
+    m_message->showNote(
+        m_pending->isEmpty()
+            ? tr("All settings have their defaults.")
+            : tr("All pages show their defaults. OK or Apply makes them count, Cancel takes them back."));
 }
 
 void olPreferencesDialog::listModules()

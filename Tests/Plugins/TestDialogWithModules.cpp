@@ -125,7 +125,7 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
 
     ASSERT_TRUE(dialog->apply());
     EXPECT_EQ(pending(), "No Changes");
-    for (const char *key :
+    for (const std::string key :
          {"Camera fov", "Navigator speed mode", "MainWindow show tool buttons text", "Optimizer Teselation Quality"})
         EXPECT_TRUE(olValue::equal(record().get(key), session.defaultValue(key))) << key;
     EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 15000.0f);
