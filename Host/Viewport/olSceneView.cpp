@@ -59,6 +59,14 @@ Handle(Prs3d_Drawer) wireStyle(const osg::Color3f &color, Graphic3d_ZLayerId lay
     return style;
 }
 
+std::vector<std::string> idsOf(const std::vector<Handle(olPart)> &parts)
+{
+    std::vector<std::string> ids;
+    for (const Handle(olPart) & part : parts)
+        ids.emplace_back(part->id().ToCString());
+    return ids;
+}
+
 Graphic3d_Camera::Projection projectionFor(olSceneView::Eye eye)
 {
     switch (eye) {
@@ -431,13 +439,9 @@ std::optional<gp_Pnt> olSceneView::pointUnder(const QPoint &point)
     return {};
 }
 
-std::vector<std::string> olSceneView::selection() const
-{
-    std::vector<std::string> ids;
-    for (const Handle(olPart) & part : d->selected)
-        ids.emplace_back(part->id().ToCString());
-    return ids;
-}
+std::vector<std::string> olSceneView::parts() const { return idsOf(d->parts); }
+
+std::vector<std::string> olSceneView::selection() const { return idsOf(d->selected); }
 
 void olSceneView::select(const std::vector<std::string> &ids)
 {
