@@ -35,7 +35,8 @@ void tell(const QStringList &notices, QWidget *window)
                                 notices.join(QStringLiteral("\n\n")), QMessageBox::Ok, window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
-    box->open();
+    box->setModal(false);
+    box->show();
 }
 
 /// From the options of the command line to the end of the run.
