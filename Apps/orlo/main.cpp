@@ -37,7 +37,8 @@ void tell(const QStringList &notices, QWidget *window)
                                 notices.join(QStringLiteral("\n\n")), QMessageBox::Ok, window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
-    box->open();
+    box->setModal(false);
+    box->show();
 }
 
 bool isBatch(const QCommandLineParser &options)

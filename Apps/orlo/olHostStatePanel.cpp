@@ -4,7 +4,6 @@
 #include "Embedded/olValue.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -21,8 +20,7 @@ QString valueText(const olHostValueBase &value) { return QString::fromStdString(
 olHostStatePanel::olHostStatePanel(QWidget *parent)
     : QWidget(parent), m_filter(new QLineEdit), m_values(new QTreeWidget)
 {
-    auto *label = new QLabel(tr("Host &state"));
-    label->setBuddy(m_values);
+    m_values->setAccessibleName(tr("Host state"));
     m_filter->setPlaceholderText(tr("Filter"));
     m_filter->setAccessibleName(tr("Filter the host state"));
     m_filter->setClearButtonEnabled(true);
@@ -32,7 +30,6 @@ olHostStatePanel::olHostStatePanel(QWidget *parent)
     m_values->header()->setSectionResizeMode(NameColumn, QHeaderView::ResizeToContents);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(label);
     layout->addWidget(m_filter);
     layout->addWidget(m_values, 1);
 

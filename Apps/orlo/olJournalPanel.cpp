@@ -2,7 +2,6 @@
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -17,8 +16,7 @@ constexpr int keptCalls = 10000;
 
 olJournalPanel::olJournalPanel(QWidget *parent) : QWidget(parent), m_calls(new QPlainTextEdit)
 {
-    auto *label = new QLabel(tr("Host &calls"));
-    label->setBuddy(m_calls);
+    m_calls->setAccessibleName(tr("Host calls"));
     auto *clearButton = new QPushButton(tr("C&lear"));
     m_calls->setReadOnly(true);
     m_calls->setMaximumBlockCount(keptCalls);
@@ -26,7 +24,7 @@ olJournalPanel::olJournalPanel(QWidget *parent) : QWidget(parent), m_calls(new Q
     m_calls->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
     auto *head = new QHBoxLayout;
-    head->addWidget(label, 1);
+    head->addStretch(1);
     head->addWidget(clearButton);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(head);

@@ -222,6 +222,43 @@ std::optional<QString> olJsonReader::text()
     return text;
 }
 
+std::optional<std::string_view> olJsonReader::value()
+{
+    skipBlanks();
+    const std::string_view before = m_rest;
+    if (!skipValue(0))
+        return std::nullopt;
+    return before.substr(0, before.size() - m_rest.size());
+}
+
+bool olJsonReader::skipValue(int depth)
+{
+    // Deeper than any setting, and far from the end of the stack.
+    constexpr int deepest = 100;
+    if (depth > deepest)
+        return false;
+    if (take("{"))
+        return skipList('}', depth);
+    if (take("["))
+        return skipList(']', depth);
+    if (take("true") || take("false") || take("null"))
+        return true;
+    return m_rest.substr(0, 1) == "\"" ? text().has_value() : number().has_value();
+}
+
+bool olJsonReader::skipList(char end, int depth)
+{
+    const std::string_view bracket(&end, 1);
+    if (take(bracket))
+        return true;
+    do {
+        const bool isNamed = end != '}' || (text() && take(":"));
+        if (!isNamed || !skipValue(depth + 1))
+            return false;
+    } while (take(","));
+    return take(bracket);
+}
+
 bool olJsonReader::takeCharacter(QString &text)
 {
     const auto character = firstCharacter(m_rest);

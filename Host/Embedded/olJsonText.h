@@ -25,7 +25,7 @@ namespace olJsonText
 class olJsonReader
 {
 public:
-    explicit olJsonReader(std::string_view text) : m_rest(text) {}
+    explicit olJsonReader(std::string_view text) : m_size(text.size()), m_rest(text) {}
 
     /// True, and past it, where this very text comes next.
     bool take(std::string_view expected);
@@ -36,13 +36,22 @@ public:
     /// The text between the quotes, without its escapes.
     [[nodiscard]] std::optional<QString> text();
 
+    /// The whole of whatever value comes next, as it stands there.
+    [[nodiscard]] std::optional<std::string_view> value();
+
     [[nodiscard]] bool atEnd();
 
+    /// How many bytes lie behind: after a failure, the place of the fault.
+    [[nodiscard]] std::size_t position() const { return m_size - m_rest.size(); }
+
 private:
+    bool skipValue(int depth);
+    bool skipList(char end, int depth);
     void skipBlanks();
     [[nodiscard]] std::size_t digitsFrom(std::size_t position) const;
     bool takeEscape(QString &text);
     bool takeCharacter(QString &text);
 
+    std::size_t m_size;
     std::string_view m_rest;
 };

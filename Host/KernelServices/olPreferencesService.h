@@ -26,7 +26,8 @@ public:
     void setDefaultFloat(const std::string &key, float value);
     void setDefaultBool(const std::string &key, bool value);
 
-    /// Whether a value differs from what it was at the last settle(). Before the first one every key counts as changed.
+    /// Whether another value came since the last settle(), also where the former one is back. Before the first settle()
+    /// every key counts as changed.
     [[nodiscard]] bool isChanged(const std::string &key) const;
 
     /// For the host: the value or the default beneath it, empty when there is neither; and what it stores and loads.

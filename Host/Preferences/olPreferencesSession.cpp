@@ -85,6 +85,18 @@ template <class Visit> void eachOwner(const std::string &key, Visit visit)
     }
 }
 
+/// The modules with, behind them, those that have one of the settings.
+std::vector<olPreferencesEntry *> withOwners(std::vector<olPreferencesEntry *> modules, const olSettingValues &values)
+{
+    for (const auto &value : values) {
+        eachOwner(value.first, [&modules](olPreferencesEntry &owner) {
+            if (std::find(modules.begin(), modules.end(), &owner) == modules.end())
+                modules.push_back(&owner);
+        });
+    }
+    return modules;
+}
+
 } // namespace
 
 olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStringList &siteFiles)
@@ -256,10 +268,10 @@ QString olPreferencesSession::saveIntoMended(const QString &error)
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown)
+QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
 {
     const Snapshot before;
-    takeBack(shown);
+    takeBack(shown, besides);
     QString error = save();
     if (!error.isEmpty()) {
         before.restore();
@@ -270,7 +282,11 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
         }
         return error;
     }
-    for (olPreferencesEntry *entry : shown) {
+    const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
+    // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
+                  [](auto *entry) { entry->updateGUI(); });
+    for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
         entry->settle();
     }
@@ -291,11 +307,19 @@ std::optional<QString> olPreferencesSession::lockReason(const std::string &key) 
 
 /// The pages into their values, but for what is locked: that has its value again and counts as if nobody had touched
 /// it.
-void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown) const
+void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown,
+                                    const olSettingValues &besides) const
 {
     const Snapshot before;
     for (olPreferencesEntry *entry : shown)
         entry->updateData();
+    for (const auto &setting : besides) {
+        eachOwner(setting.first, [&setting](olPreferencesEntry &owner) {
+            owner.setValue(setting.first, setting.second);
+            // Its page may show the old value and have reported it unchanged.
+            owner.setChanged(setting.first, true);
+        });
+    }
     restoreLocked();
     for (olPreferencesEntry *entry : shown) {
         for (const olOfferedDefault &offered : entry->defaults()) {

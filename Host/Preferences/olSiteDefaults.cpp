@@ -6,80 +6,64 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <string_view>
 
 namespace
 {
 
 QString translated(const char *text) { return QCoreApplication::translate("olSiteDefaults", text); }
 
-struct KeyPlace {
+/// A key and its value in an object, as they stand in the file.
+struct Member {
     QString key;
     int line;
+    std::string_view value;
 };
 
-int lineOf(const QByteArray &text, int offset) { return 1 + text.left(offset).count('\n'); }
+/// What is wrong, and where.
+struct Fault {
+    int line;
+    QString what;
+};
 
-/// The end of the text that begins with a quote there.
-int endOfText(const QByteArray &json, int begin)
+int lineOf(std::string_view text, std::size_t position)
 {
-    int end = begin + 1;
-    while (end < json.size() && json.at(end) != '"')
-        end += json.at(end) == '\\' ? 2 : 1;
-    return end + 1;
+    return 1 + int(std::count(text.begin(), text.begin() + std::ptrdiff_t(position), '\n'));
 }
 
-/// The outermost object's keys in their order, each as often as it stands there, which a parsed document does not
-/// tell. The text is known to be JSON.
-std::vector<KeyPlace> outermostKeys(const QByteArray &json)
+/// An object's members in their order, each as often as it stands there: a key that stands twice is a slip that must
+/// not go unnoticed. The first line is that of the object's beginning.
+std::optional<Fault> readMembers(std::string_view text, int firstLine, std::vector<Member> &members)
 {
-    std::vector<KeyPlace> keys;
-    int depth = 0;
-    bool isKeyNext = true;
-    for (int position = 0; position < json.size(); ++position) {
-        const char character = json.at(position);
-        if (character == '{' || character == '[')
-            ++depth;
-        else if (character == '}' || character == ']')
-            --depth;
-        else if (character == ',' && depth == 1)
-            isKeyNext = true;
-        if (character != '"')
-            continue;
-        const int end = endOfText(json, position);
-        if (depth == 1 && isKeyNext) {
-            const std::string_view quoted(json.constData() + position, std::size_t(end - position));
-            keys.push_back({olJsonReader(quoted).text().value_or(QString()), lineOf(json, position)});
-            isKeyNext = false;
-        }
-        position = end - 1;
+    olJsonReader json(text);
+    const auto here = [&] { return firstLine - 1 + lineOf(text, json.position()); };
+    const auto noJson = [&] { return Fault{here(), translated("here or just before, this is no JSON")}; };
+    if (!json.take("{"))
+        return Fault{here(), translated("an object is expected, as {\"key\": {\"value\": 1}}")};
+    bool isDone = json.take("}");
+    while (!isDone) {
+        const auto key = json.text();
+        const int line = here();
+        if (!key || !json.take(":"))
+            return noJson();
+        const auto value = json.value();
+        if (!value)
+            return noJson();
+        const auto isSame = [&key](const Member &member) { return member.key == *key; };
+        if (std::any_of(members.begin(), members.end(), isSame))
+            return Fault{line, translated("\"%1\" stands here a second time").arg(*key)};
+        members.push_back({*key, line, *value});
+        isDone = !json.take(",");
+        if (isDone && !json.take("}"))
+            return noJson();
     }
-    return keys;
+    return json.atEnd() ? std::nullopt : std::optional<Fault>(noJson());
 }
 
-/// What is wrong with what stands under a key, whatever the key; empty where nothing is.
-QString faultOf(const QJsonValue &entry)
-{
-    if (!entry.isObject())
-        return translated("takes an object, as {\"value\": 1}");
-    const QJsonObject object = entry.toObject();
-    const QStringList names = object.keys();
-    for (const QString &name : names) {
-        if (name != QLatin1String("value") && name != QLatin1String("locked") && name != QLatin1String("reason"))
-            return translated("has \"%1\", where only \"value\", \"locked\" and \"reason\" can stand").arg(name);
-    }
-    if (object.contains(QLatin1String("locked")) && !object.value(QLatin1String("locked")).isBool())
-        return translated("takes true or false for \"locked\"");
-    if (object.contains(QLatin1String("reason")) && !object.value(QLatin1String("reason")).isString())
-        return translated("takes a text for \"reason\"");
-    if (!object.contains(QLatin1String("value")) && !object.value(QLatin1String("locked")).toBool())
-        return translated("has neither a \"value\" nor a lock");
-    return {};
-}
+QByteArray bytesOf(std::string_view text) { return {text.data(), int(text.size())}; }
 
 } // namespace
 
@@ -111,30 +95,52 @@ void olSiteDefaults::readFile(const QString &name)
                         .arg(name, file.errorString());
         return;
     }
-    const QByteArray json = file.readAll();
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError)
-        return fault(name, lineOf(json, error.offset), error.errorString());
-    if (!document.isObject())
-        return fault(name, 1, translated("the outermost value is no object"));
+    QByteArray json = file.readAll();
+    // Some editors put a mark before the text.
+    if (json.startsWith("\xef\xbb\xbf"))
+        json.remove(0, 3);
+    std::vector<Member> members;
+    if (const auto found = readMembers({json.constData(), std::size_t(json.size())}, 1, members))
+        return fault(name, found->line, found->what);
 
     File read{name, {}};
-    const QJsonObject all = document.object();
-    for (const KeyPlace &place : outermostKeys(json)) {
-        const QString what = faultOf(all.value(place.key));
-        if (!what.isEmpty())
-            return fault(name, place.line, QStringLiteral("\"%1\" %2").arg(place.key, what));
-        const std::string key = place.key.toStdString();
-        const auto isSame = [&key](const Line &line) { return line.key == key; };
-        if (std::any_of(read.lines.begin(), read.lines.end(), isSame))
-            return fault(name, place.line, translated("\"%1\" stands here a second time").arg(place.key));
-        const QJsonObject object = all.value(place.key).toObject();
-        read.lines.push_back({key, place.line, object.value(QLatin1String("value")),
-                              object.value(QLatin1String("locked")).toBool(),
-                              object.value(QLatin1String("reason")).toString()});
+    for (const Member &member : members) {
+        Line line;
+        line.key = member.key.toStdString();
+        line.number = member.line;
+        std::vector<Member> parts;
+        if (const auto found = readMembers(member.value, member.line, parts))
+            return fault(name, found->line, found->what);
+        for (const Member &part : parts) {
+            const QString what = takePart(part.key, bytesOf(part.value), line);
+            if (!what.isEmpty())
+                return fault(name, part.line, QStringLiteral("\"%1\" %2").arg(member.key, what));
+        }
+        if (line.value.isNull() && !line.isLocked)
+            return fault(name, line.number, translated("\"%1\" has neither a \"value\" nor a lock").arg(member.key));
+        read.lines.push_back(std::move(line));
     }
     m_read.push_back(std::move(read));
+}
+
+/// Returns what is wrong with it; empty where nothing is.
+QString olSiteDefaults::takePart(const QString &name, const QByteArray &value, Line &line)
+{
+    if (name == QLatin1String("value")) {
+        line.value = value;
+        return {};
+    }
+    if (name == QLatin1String("locked")) {
+        const boost::any locked = olValue::fromJson("bool", value);
+        line.isLocked = !locked.empty() && boost::any_cast<bool>(locked);
+        return locked.empty() ? translated("takes true or false for \"locked\"") : QString();
+    }
+    if (name == QLatin1String("reason")) {
+        const boost::any reason = olValue::fromJson("qstring", value);
+        line.reason = reason.empty() ? QString() : boost::any_cast<QString>(reason);
+        return reason.empty() ? translated("takes a text for \"reason\"") : QString();
+    }
+    return translated("has \"%1\", where only \"value\", \"locked\" and \"reason\" can stand").arg(name);
 }
 
 olSiteSetting olSiteDefaults::early(const std::string &key, const std::string &type) const
@@ -184,7 +190,7 @@ bool olSiteDefaults::settleFile(const File &file, const DefaultOf &defaultOf,
             continue;
         }
         const std::string type = olValue::typeName(offered);
-        const boost::any value = line.value.isUndefined() ? offered : olValue::fromJson(type, line.value);
+        const boost::any value = line.value.isNull() ? offered : olValue::fromJson(type, line.value);
         if (value.empty()) {
             fault(file.name, line.number,
                   translated("\"%1\" takes %2").arg(key, QString::fromStdString(olValue::expectation(type))));

@@ -2,7 +2,7 @@
 
 #include "Utilities/olExport.h"
 
-#include <QJsonValue>
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <boost/any.hpp>
@@ -56,9 +56,9 @@ public:
 private:
     struct Line {
         std::string key;
-        int number;
-        QJsonValue value; ///< undefined where the module's own default stays
-        bool isLocked;
+        int number = 0;
+        QByteArray value; ///< its JSON text; null where the module's own default stays
+        bool isLocked = false;
         QString reason;
     };
     struct File {
@@ -70,6 +70,7 @@ private:
     [[nodiscard]] bool settleFile(const File &file, const DefaultOf &defaultOf,
                                   std::map<std::string, olSiteSetting> &settings);
     [[nodiscard]] static olSiteSetting settingOf(const Line &line, const boost::any &value);
+    [[nodiscard]] static QString takePart(const QString &name, const QByteArray &value, Line &line);
     void fault(const QString &file, int line, const QString &what);
 
     QStringList m_files;

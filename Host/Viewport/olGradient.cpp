@@ -10,8 +10,7 @@
 namespace
 {
 
-// As many rows as a screen has, so that no step can be seen; the width is what graphics cards align to.
-constexpr int rows = 2048;
+// What graphics cards align rows to.
 constexpr int columns = 4;
 
 unsigned char toByte(float channel)
@@ -49,7 +48,7 @@ osg::Color3f olGradient::at(float position) const
     return between(below.color, above->color, (position - below.position) / (above->position - below.position));
 }
 
-Handle(Graphic3d_Texture2D) olGradient::texture() const
+Handle(Graphic3d_Texture2D) olGradient::texture(int rows) const
 {
     const Handle(Image_PixMap) pixels = new Image_PixMap();
     pixels->SetTopDown(true);

@@ -18,8 +18,8 @@ public:
     /// Black where there is no colour at all. Of several colours at one place the later one counts above it.
     [[nodiscard]] osg::Color3f at(float position) const;
 
-    /// A picture of it, to be stretched over the view.
-    [[nodiscard]] opencascade::handle<Graphic3d_Texture2D> texture() const;
+    /// A picture of it, to be stretched over a view of that many rows; of any other number its ends would mix.
+    [[nodiscard]] opencascade::handle<Graphic3d_Texture2D> texture(int rows) const;
 
 private:
     struct Stop {

@@ -39,6 +39,14 @@ int multisamples(const olHostState::AntialiasingPreset &preset)
     return wanted < 2 ? 0 : wanted;
 }
 
+/// Peeling sorts exactly, but the renderer cannot do it into a multisampled buffer; weighing comes near it there.
+Graphic3d_RenderTransparentMethod transparency(bool isMultisampled)
+{
+    if (!olHostState::the().sortTransparency)
+        return Graphic3d_RTM_BLEND_UNORDERED;
+    return isMultisampled ? Graphic3d_RTM_BLEND_OIT : Graphic3d_RTM_DEPTH_PEELING_OIT;
+}
+
 void applyRaytracing(Graphic3d_RenderingParams &parameters, const olRenderQuality::Wishes &wishes,
                      const olHostState::AntialiasingPreset *preset)
 {
@@ -66,7 +74,6 @@ void olRenderQuality::apply(Graphic3d_RenderingParams &parameters, const Wishes 
 
     parameters.NbMsaaSamples = preset ? multisamples(*preset) : 0;
     parameters.RenderResolutionScale = preset && preset->supersampling ? superSampled : 1.0f;
-    parameters.TransparencyMethod =
-        state.sortTransparency ? Graphic3d_RTM_DEPTH_PEELING_OIT : Graphic3d_RTM_BLEND_UNORDERED;
+    parameters.TransparencyMethod = transparency(parameters.NbMsaaSamples > 0);
     applyRaytracing(parameters, wishes, preset);
 }

@@ -59,6 +59,14 @@ Handle(Prs3d_Drawer) wireStyle(const osg::Color3f &color, Graphic3d_ZLayerId lay
     return style;
 }
 
+std::vector<std::string> idsOf(const std::vector<Handle(olPart)> &parts)
+{
+    std::vector<std::string> ids;
+    for (const Handle(olPart) & part : parts)
+        ids.emplace_back(part->id().ToCString());
+    return ids;
+}
+
 Graphic3d_Camera::Projection projectionFor(olSceneView::Eye eye)
 {
     switch (eye) {
@@ -101,7 +109,7 @@ public:
     Bnd_Box box;
     std::vector<osg::Color3f> shownColors;
     std::vector<float> shownPositions;
-    bool hasBackground = false;
+    int shownRows = 0;
     bool isZUp = true;
     bool isRaytraced = false;
 };
@@ -191,7 +199,6 @@ Bnd_Box olSceneView::Private::boxOf(const std::vector<Handle(olPart)> &some) con
 
 void olSceneView::applyState()
 {
-    d->applyBackground();
     d->applyCamera();
     d->lights->apply();
     d->applySelectionStyle();
@@ -208,13 +215,17 @@ void olSceneView::Private::applyBackground()
     const auto isSame = [](const osg::Color3f &left, const osg::Color3f &right) {
         return left.red() == right.red() && left.green() == right.green() && left.blue() == right.blue();
     };
-    if (hasBackground && shownPositions == positions &&
+    int width = 0;
+    int height = 0;
+    view->Window()->Size(width, height);
+    height = std::max(height, 1);
+    if (shownRows == height && shownPositions == positions &&
         std::equal(colors.begin(), colors.end(), shownColors.begin(), shownColors.end(), isSame))
         return;
-    view->SetBackgroundImage(olGradient(colors, positions).texture(), Aspect_FM_STRETCH, Standard_False);
+    view->SetBackgroundImage(olGradient(colors, positions).texture(height), Aspect_FM_STRETCH, Standard_False);
     shownColors = colors;
     shownPositions = positions;
-    hasBackground = true;
+    shownRows = height;
 }
 
 void olSceneView::Private::applyCamera()
@@ -300,6 +311,7 @@ bool olSceneView::draw(const Frame &frame)
 {
     if (!olGlBinding::drawIntoBoundFramebuffer(d->view))
         return false;
+    d->applyBackground();
     const olHostState &state = olHostState::the();
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
@@ -431,13 +443,9 @@ std::optional<gp_Pnt> olSceneView::pointUnder(const QPoint &point)
     return {};
 }
 
-std::vector<std::string> olSceneView::selection() const
-{
-    std::vector<std::string> ids;
-    for (const Handle(olPart) & part : d->selected)
-        ids.emplace_back(part->id().ToCString());
-    return ids;
-}
+std::vector<std::string> olSceneView::parts() const { return idsOf(d->parts); }
+
+std::vector<std::string> olSceneView::selection() const { return idsOf(d->selected); }
 
 void olSceneView::select(const std::vector<std::string> &ids)
 {

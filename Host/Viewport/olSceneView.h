@@ -72,6 +72,7 @@ public:
     [[nodiscard]] std::optional<gp_Pnt> pointUnder(const QPoint &point);
 
     /// Parts as the explorer of the document names them.
+    [[nodiscard]] std::vector<std::string> parts() const;
     [[nodiscard]] std::vector<std::string> selection() const;
     void select(const std::vector<std::string> &ids);
 

@@ -103,6 +103,8 @@ void olViewAids::setScene(const Bnd_Box &scene, const Handle(Graphic3d_CLight) &
         // A scene has many; letters at each would hide it.
         for (const Prs3d_DatumParts axis : {Prs3d_DatumParts_XAxis, Prs3d_DatumParts_YAxis, Prs3d_DatumParts_ZAxis})
             joint->SetLabel(axis, "");
+        // They are inside what they join.
+        joint->SetZLayer(Graphic3d_ZLayerId_Topmost);
         m_joints.push_back(joint);
     }
 }

@@ -38,6 +38,14 @@ constexpr int largestSide = 8192;
 constexpr int longestGlide = 36000;
 constexpr double longestRest = 24 * 3600.0;
 
+QStringList toNames(const std::vector<std::string> &ids)
+{
+    QStringList names;
+    for (const std::string &id : ids)
+        names.append(QString::fromStdString(id));
+    return names;
+}
+
 /// Red for the left eye, green and blue for the right one.
 QImage anaglyph(const QImage &left, const QImage &right)
 {
@@ -358,15 +366,9 @@ QImage olViewport::shownPicture()
 
 bool olViewport::isStillFrameDone() const { return d->still.isDone(); }
 
-QStringList olViewport::selection() const
-{
-    QStringList parts;
-    if (d->view) {
-        for (const std::string &id : d->view->selection())
-            parts.append(QString::fromStdString(id));
-    }
-    return parts;
-}
+QStringList olViewport::parts() const { return d->view ? toNames(d->view->parts()) : QStringList(); }
+
+QStringList olViewport::selection() const { return d->view ? toNames(d->view->selection()) : QStringList(); }
 
 void olViewport::select(const QStringList &parts)
 {

@@ -45,7 +45,8 @@ public:
     /// Whether the still frame is complete.
     [[nodiscard]] bool isStillFrameDone() const;
 
-    /// What is selected: parts as the explorer of the scene's document names them.
+    /// All parts that are shown, and those that are selected, as the explorer of the scene's document names them.
+    [[nodiscard]] QStringList parts() const;
     [[nodiscard]] QStringList selection() const;
     void select(const QStringList &parts);
 

@@ -21,6 +21,9 @@ constexpr unsigned maxConnectionsOfOneHost = 16;
 constexpr unsigned idleSeconds = 15;
 constexpr size_t connectionMemory = 32 * 1024;
 
+// The library's own choice still lets a client talk it down to TLS 1.0.
+constexpr const char *tlsPriorities = "NORMAL:-VERS-ALL:+VERS-TLS1.3:+VERS-TLS1.2";
+
 /// A listening socket; -1, with errno set, where the port cannot be had.
 int listenOn(quint16 port, bool loopbackOnly)
 {
@@ -117,6 +120,7 @@ QString olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olW
         flags |= MHD_USE_TLS;
         options.push_back({MHD_OPTION_HTTPS_MEM_CERT, 0, m_certificate->chain.data()});
         options.push_back({MHD_OPTION_HTTPS_MEM_KEY, 0, m_certificate->key.data()});
+        options.push_back({MHD_OPTION_HTTPS_PRIORITIES, 0, const_cast<char *>(tlsPriorities)});
     }
     options.push_back({MHD_OPTION_END, 0, nullptr});
 

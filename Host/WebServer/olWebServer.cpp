@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QUrl>
 
 namespace
 {
@@ -26,9 +25,14 @@ template <class T> T setting(const char *key, T fallback)
 QByteArray contentOf(const QString &name)
 {
     QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         olLog::error(translated("The web server cannot read %1: %2").arg(name, file.errorString()));
-    return file.isOpen() ? file.readAll() : QByteArray();
+        return {};
+    }
+    const QByteArray content = file.readAll();
+    if (content.isEmpty())
+        olLog::error(translated("The web server cannot use %1: it is empty").arg(name));
+    return content;
 }
 
 /// The certificate that is installed; nothing where there is none or half of it cannot be read.
@@ -44,11 +48,12 @@ std::optional<olWebCertificate> installedCertificate()
 
 void log(const olWebRequest &request, unsigned status)
 {
-    // Encoded, so that no client writes lines of its own into the log.
-    const QByteArray path = QUrl::toPercentEncoding(QString::fromUtf8(request.path), "/");
+    // Encoded, so that no client writes lines of its own into the log, nor commands to the terminal that shows it.
+    const QByteArray method = request.method.left(16).toPercentEncoding();
+    const QByteArray path = request.path.toPercentEncoding("/");
     olLog::info(QStringLiteral("web server: %1 %2 %3 %4")
-                    .arg(request.client.toString(), QString::fromLatin1(request.method.left(16)),
-                         QString::fromLatin1(path), QString::number(status)));
+                    .arg(request.client.toString(), QString::fromLatin1(method), QString::fromLatin1(path),
+                         QString::number(status)));
 }
 
 } // namespace
@@ -73,7 +78,7 @@ void olWebServer::start()
     m_access = std::make_unique<olWebAccess>();
     if (localhostOnly)
         m_access->allowLocalNamesOnly();
-    if (setting("WebInterface use white list", false))
+    if (setting("WebInterface use white list", true))
         m_access->allowOnly(setting("WebInterface white list", std::string()));
 
     m_plain = open(setting("WebInterface port", 8888), localhostOnly, std::nullopt);

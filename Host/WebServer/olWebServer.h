@@ -15,10 +15,10 @@ class olWebServer
 public:
     static olWebServer &the();
 
-    /// Starts, anew where it runs already, with what the settings record says now. Where "localhost only" cannot be
-    /// read it counts as set. A port of 0 stays closed. The SSL port opens only where the folder of the user's
-    /// preferences holds a certificate, web.crt, with its private key, web.key, both as PEM. What cannot be opened is
-    /// told in the log.
+    /// Starts, anew where it runs already, with what the settings record says now. Where "localhost only" or "use white
+    /// list" cannot be read it counts as set. A port of 0 stays closed. The SSL port opens only where the folder of the
+    /// user's preferences holds a certificate, web.crt, with its private key, web.key, both as PEM. What cannot be
+    /// opened is told in the log.
     void start();
 
     /// Closes the ports and every connection before it returns.

@@ -8,12 +8,15 @@
 #include "Preferences/olPreferencesSession.h"
 #include "Utilities/olMessage.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -209,6 +212,11 @@ TEST_F(Session, TheDialogFillsAPageOnceAnOpeningAndDropsEditsOnCancel)
     EXPECT_EQ(module.told, Told{"gui"});
 
     module.page.setValue(9);
+    QTimer::singleShot(0, &dialog, [] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(question, nullptr) << "a page that tells nothing of its settings is watched all the same";
+        question->button(QMessageBox::Discard)->click();
+    });
     dialog.reject();
     EXPECT_EQ(module.value(), 3);
     dialog.open(QStringLiteral("Counter"));

@@ -201,6 +201,8 @@ TEST_F(Site, AFaultIsReportedByLineAndNothingOfItsFileCounts)
         {"\"Path\": \"/tmp\"}", 2},
         {"\n\n\"Path\": {\"value\": \"a\", \"lock\": true}}", 4},
         {"\"Path\": {\"locked\": \"yes\"}}", 2},
+        {"\"Path\": {\"value\": \"a\",\n \"value\": \"b\"}}", 3},
+        {"\"Path\": {\"value\": \"a\"}} and more", 2},
         {"\"Path\": {\"reason\": \"none\"}}", 2},
         {"\"a{\\\"[\": {\"value\": [1, {\"Path\": 1}]},\n\"Path\": {\"value\": null}}", 3},
         {"\"Path\": {\"value\": \"a\"},\n\n\"Camera fov\": {\"value\": 61}}", 4},

@@ -229,6 +229,13 @@ TEST_F(WebServer, BindsToTheLoopbackAddressWhenOnlyThisMachineMayAsk)
     EXPECT_EQ(listeningAt(port), "0100007F") << "what cannot be read restricts";
 }
 
+TEST_F(WebServer, AnswersNobodyWhenItCannotTellWhetherTheWhiteListIsInUse)
+{
+    record.set("WebInterface use white list", 0);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(get("/").status, 403);
+}
+
 TEST_F(WebServer, OnlyThisMachineMeansUnderItsOwnName)
 {
     record.set("WebInterface localhost only", true);
@@ -291,6 +298,7 @@ TEST_F(WebServer, TellsSettingsAndStateAsJson)
     host.fov = 60.5f;
     record.set("Camera fov", 60.5f);
     record.set("Help path", QStringLiteral("C:\\Help \"new\""));
+    record.set("Texture path", std::string("/latin/\xfc"));
     olController::enableWebInterface(true);
 
     const Reply settings = get("/settings.json");
@@ -299,6 +307,8 @@ TEST_F(WebServer, TellsSettingsAndStateAsJson)
     EXPECT_EQ(all["Camera fov"].toObject()["type"].toString(), "float");
     EXPECT_EQ(all["Camera fov"].toObject()["value"].toDouble(), 60.5);
     EXPECT_EQ(all["Help path"].toObject()["value"].toString(), "C:\\Help \"new\"");
+    EXPECT_EQ(all["Texture path"].toObject()["value"].toString(), "/latin/" + QString(QChar(0xdcfc)))
+        << "a byte that is no UTF-8 comes escaped";
     EXPECT_EQ(all["WebInterface port"].toObject()["value"].toInt(), port);
 
     const QJsonObject state = QJsonDocument::fromJson(get("/state.json").body).object();
@@ -358,8 +368,10 @@ TEST_F(WebServer, WritesRequestsIntoTheLogInDebugModeAlone)
     olController::getWebInterface()->setDebugMode(true);
     get("/state.json");
     get("/a%0Aerror:%20b");
+    wait(m_client.sendCustomRequest(request("/"), "\x1b[31m"));
     EXPECT_EQ(lines, (QStringList{"web server: 127.0.0.1 GET /state.json 200",
-                                  "web server: 127.0.0.1 GET /a%0Aerror%3A%20b 404"}));
+                                  "web server: 127.0.0.1 GET /a%0Aerror%3A%20b 404",
+                                  "web server: 127.0.0.1 %1B%5B31m / 405"}));
 }
 
 TEST_F(WebServer, SpeaksTlsOnTheSslPortWhereACertificateIsInstalled)
@@ -386,6 +398,18 @@ TEST_F(WebServer, SpeaksTlsOnTheSslPortWhereACertificateIsInstalled)
     EXPECT_EQ(answer.status, 200);
     EXPECT_TRUE(QJsonDocument::fromJson(answer.body).isObject());
 
+    // Level 0, else the client itself would not speak the old versions.
+    const auto speaks = [&url](const char *version) {
+        QProcess client;
+        client.start("openssl", {"s_client", "-connect", QStringLiteral("127.0.0.1:%1").arg(url.port()), version,
+                                 "-cipher", "ALL:@SECLEVEL=0"});
+        client.closeWriteChannel();
+        EXPECT_TRUE(QTest::qWaitFor([&client] { return client.state() == QProcess::NotRunning; }));
+        return client.exitCode() == 0;
+    };
+    EXPECT_TRUE(speaks("-tls1_2"));
+    EXPECT_FALSE(speaks("-tls1_1"));
+
     olController::enableWebInterface(false);
     EXPECT_EQ(wait(m_client.get(secure)).status, 0);
 }
@@ -401,6 +425,11 @@ TEST_F(WebServer, GoesOnWithoutTlsWhenTheCertificateIsUnusable)
     ASSERT_EQ(errors.size(), 1);
     EXPECT_TRUE(errors.first().contains(configured("web.crt") + ": ")) << qPrintable(errors.first());
     EXPECT_EQ(get("/").status, 200);
+
+    errors.clear();
+    QFile::resize(configured("web.key"), 0);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(errors, QStringList("The web server cannot use " + configured("web.key") + ": it is empty"));
 
     errors.clear();
     QFile::remove(configured("web.key"));

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Utilities/olExport.h"
+
+#include <QByteArray>
+#include <QSize>
+#include <QString>
+
+/// What the preferences dialog remembers from one run to the next, in the settings of the application.
+struct ORLO_SDK_EXPORT olDialogMemory {
+    /// Empty where nothing is remembered.
+    QSize size;
+    QByteArray splitter;
+    QString page;
+
+    [[nodiscard]] static olDialogMemory recall();
+    void keep() const;
+};

@@ -1,0 +1,179 @@
+#include "Support/PluginTest.h"
+
+#include "Embedded/olValue.h"
+#include "KernelServices/olKernelServiceFactory.h"
+#include "KernelServices/olPreferencesService.h"
+#include "Preferences/olChangesView.h"
+#include "Preferences/olPageIndex.h"
+#include "Preferences/olPreferencesDialog.h"
+#include "Preferences/olPreferencesSession.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include <algorithm>
+
+namespace
+{
+
+/// The dialog on all modules of the plug-in, at their defaults.
+class DialogWithModules : public PluginTest
+{
+protected:
+    DialogWithModules()
+    {
+        session.start();
+        dialog = std::make_unique<olPreferencesDialog>(session);
+        dialog->open(QStringLiteral("Camera"));
+        calls.take();
+    }
+
+    [[nodiscard]] QString pending() const
+    {
+        QCoreApplication::processEvents();
+        return dialog->findChild<QPushButton *>(QStringLiteral("changes"))->text();
+    }
+
+    void import(const QByteArray &settings)
+    {
+        QFile file(folder.filePath(QStringLiteral("import.json")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(R"({"format": 1, "settings": {)" + settings + "}}");
+        file.close();
+        dialog->importFrom(file.fileName());
+        auto *view = dialog->findChild<olChangesView *>();
+        ASSERT_NE(view, nullptr);
+        EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItemCount(), 0);
+        view->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QTemporaryDir folder;
+    olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
+    std::unique_ptr<olPreferencesDialog> dialog;
+};
+
+} // namespace
+
+TEST_F(DialogWithModules, LookingAtEveryPageLeavesNothingPending)
+{
+    for (olPreferencesEntry *entry : modules()) {
+        ASSERT_NE(entry->page(), nullptr) << entry->name().toStdString();
+        dialog->open(entry->name());
+        EXPECT_EQ(pending(), "No Changes") << entry->name().toStdString();
+    }
+    dialog->restoreAll();
+    EXPECT_EQ(pending(), "No Changes") << "everything has its default already";
+    EXPECT_EQ(calls.take(), std::vector<std::string>());
+}
+
+TEST_F(DialogWithModules, EverySettingWithAControlIsFoundByItsKey)
+{
+    auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
+    auto *tree = dialog->findChild<QTreeWidget *>();
+    qint64 slowest = 0;
+    for (olPreferencesEntry *entry : modules()) {
+        const olPageIndex index(*entry->page());
+        for (const olPageControl &control : index.controls()) {
+            if (control.settingKeys.isEmpty() || !olPageIndex::isShown(*entry->page(), *control.widget))
+                continue;
+            QElapsedTimer timer;
+            timer.start();
+            search->setText(control.settingKeys.first());
+            slowest = std::max(slowest, timer.nsecsElapsed() / 1000);
+            const auto items = tree->findItems(entry->name(), Qt::MatchExactly | Qt::MatchRecursive);
+            EXPECT_TRUE(std::any_of(items.begin(), items.end(), [](const auto *item) { return !item->isHidden(); }))
+                << control.settingKeys.first().toStdString();
+        }
+    }
+    // Opening a page for the first time is part of some of these. One frame of a screen, and twice that on a busy
+    // machine.
+    EXPECT_LT(slowest, 200000);
+    search->setText(QStringLiteral("e"));
+    std::vector<qint64> times;
+    for (int turn = 0; turn < 21; ++turn) {
+        QElapsedTimer timer;
+        timer.start();
+        search->setText(turn % 2 ? QStringLiteral("en") : QStringLiteral("e"));
+        times.push_back(timer.nsecsElapsed() / 1000);
+    }
+    std::nth_element(times.begin(), times.begin() + 10, times.end());
+    EXPECT_LT(times[10], 16000) << "microseconds for an answer over all pages";
+}
+
+TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
+{
+    auto &service = *olKernelServiceFactory::the<olPreferencesService>();
+    record().set("Camera fov", 60.5f, true);
+    record().set("Navigator speed mode", 2, true);
+    record().set("MainWindow show tool buttons text", true, true);
+    record().set("texture search paths", std::vector<std::string>{"/a", "/b"}, true);
+    record().set("Optimizer Teselation Quality", std::vector<float>{1.0f}, true);
+    service.setFloat("VR Teleport Range", 5.0f);
+    dialog->reject();
+    dialog->open(QStringLiteral("FileIO"));
+    dialog->restoreAll();
+    EXPECT_EQ(pending(), "6 Changes...");
+    EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.5f);
+    EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 5.0f);
+    EXPECT_EQ(calls.take(), std::vector<std::string>());
+
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(pending(), "No Changes");
+    for (const std::string &key :
+         {"Camera fov", "Navigator speed mode", "MainWindow show tool buttons text", "Optimizer Teselation Quality"})
+        EXPECT_TRUE(olValue::equal(record().get(key), session.defaultValue(key))) << key;
+    EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 15000.0f);
+    EXPECT_TRUE(record().get("texture search paths").empty());
+    const std::vector<std::string> told = calls.take();
+    EXPECT_NE(std::find(told.begin(), told.end(), "olOSGWidget::setFov(-1, 45)"), told.end());
+}
+
+TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
+{
+    import(R"("Interaction mode": {"type": "int", "value": 1}, "Navigator orbit mode": {"type": "bool", "value": true},
+        "WebInterface enable web server2": {"type": "bool", "value": true},
+        "texture search paths": {"type": "strings", "value": ["/textures"]},
+        "VR Teleport Range": {"type": "float", "value": 12.5}, "Camera fov": {"type": "float", "value": 60.123457})");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(pending(), "6 Changes...") << "a preset would have changed more";
+    EXPECT_TRUE(control<QWidget>("Navigator", "orbitDetectionArea").isEnabled()) << "the page's rules did run";
+    EXPECT_EQ(calls.take(), std::vector<std::string>());
+
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(pending(), "No Changes");
+    EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.123457f);
+    EXPECT_EQ(boost::any_cast<int>(record().get("Interaction mode")), 1);
+    EXPECT_TRUE(boost::any_cast<bool>(record().get("WebInterface enable web server2")));
+    EXPECT_TRUE(olValue::equal(record().get("texture search paths"), std::vector<std::string>{"/textures"}));
+    EXPECT_EQ(olKernelServiceFactory::the<olPreferencesService>()->getFloat("VR Teleport Range", 0.0f), 12.5f);
+}
+
+TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllAndCountsOnce)
+{
+    record().set("BCADOptions use ATF", true, true);
+    dialog->open(QStringLiteral("Catia V4"));
+    dialog->restorePage();
+    EXPECT_EQ(pending(), "No Changes") << "it is none of any one page";
+    dialog->restoreAll();
+    EXPECT_EQ(pending(), "1 Change...");
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_FALSE(boost::any_cast<bool>(record().get("BCADOptions use ATF")));
+}
+
+TEST_F(DialogWithModules, TheModulesMayGoWhileTheirPagesAreShown)
+{
+    dialog->open(QStringLiteral("Render Options"));
+    dialog->open(QStringLiteral("Virtual Reality"));
+    plugin.unload();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->findChild<QTreeWidget *>()->topLevelItemCount(), 0);
+    dialog->reject();
+    EXPECT_FALSE(dialog->isVisible());
+}

@@ -1,0 +1,61 @@
+#include "Viewport/ViewTest.h"
+
+#include <QTest>
+
+#include <cstdlib>
+
+ViewTest::ViewTest()
+{
+    for (olPreferencesEntry *entry : modules()) {
+        entry->setDefaults(true);
+        entry->applyPreferences();
+        entry->settle();
+    }
+    scene.loadSample();
+    view.setScene(&scene);
+    view.resize(width, height);
+    view.show();
+    if (!QTest::qWaitForWindowExposed(&view))
+        throw std::runtime_error("the view does not come up");
+    settle();
+    if (!view.error().isEmpty())
+        throw std::runtime_error(view.error().toStdString());
+}
+
+void ViewTest::apply(const char *moduleName, const char *key, const boost::any &value)
+{
+    olPreferencesEntry &entry = module(moduleName);
+    entry.setValue(key, value);
+    entry.setChanged(key, true);
+    entry.applyPreferences();
+    entry.settle();
+}
+
+void ViewTest::settle(int milliseconds) { QTest::qWait(milliseconds); }
+
+void ViewTest::hoverAt(const QPoint &point)
+{
+    // The pointer moves only where it was not already.
+    QTest::mouseMove(&view, point + QPoint(3, 0));
+    settle();
+    QTest::mouseMove(&view, point);
+    settle();
+}
+
+double ViewTest::difference(const QImage &left, const QImage &right)
+{
+    if (left.size() != right.size() || left.isNull())
+        return 1.0;
+    constexpr int tolerance = 6;
+    int different = 0;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            const QRgb one = left.pixel(x, y);
+            const QRgb other = right.pixel(x, y);
+            different += std::abs(qRed(one) - qRed(other)) > tolerance ||
+                         std::abs(qGreen(one) - qGreen(other)) > tolerance ||
+                         std::abs(qBlue(one) - qBlue(other)) > tolerance;
+        }
+    }
+    return double(different) / (left.width() * left.height());
+}

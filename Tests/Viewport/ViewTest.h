@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Support/PluginTest.h"
+
+#include "Viewport/olScene.h"
+#include "Viewport/olViewport.h"
+
+#include <QImage>
+
+/// The real plug-in, and a view of the sample assembly that follows the host: as it is after a first start.
+class ViewTest : public PluginTest
+{
+protected:
+    ViewTest();
+
+    /// Puts a value into the record, as if it had been edited, and applies its module.
+    static void apply(const char *moduleName, const char *key, const boost::any &value);
+
+    /// Lets the view draw what is due.
+    void settle(int milliseconds = 60);
+
+    /// Sends the mouse to a place of the view, as hovering does.
+    void hoverAt(const QPoint &point);
+
+    /// The share of the pixels that differ by more than what rounding explains; 1 for pictures of different sizes.
+    static double difference(const QImage &left, const QImage &right);
+
+    static constexpr int width = 320;
+    static constexpr int height = 240;
+
+    olScene scene;
+    olViewport view;
+};
