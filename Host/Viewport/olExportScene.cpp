@@ -95,6 +95,8 @@ bool writeIges(const olScene::Document &document, const QString &file)
     const olExchangeLock lock;
     IGESControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    // Solids stay solids; else they become loose faces, more of which lose their colour.
+    Interface_Static::SetCVal("write.iges.brep.mode", "BRep");
     IGESCAFControl_Writer writer;
     return writer.Transfer(document) && writer.Write(path(file).ToCString());
 }

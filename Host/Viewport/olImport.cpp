@@ -19,8 +19,10 @@
 #include <Standard_Failure.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
+#include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopLoc_Location.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
@@ -108,7 +110,7 @@ private:
         if (m_job.optimize)
             olPartChanges::repair(part);
         if (options.stitching)
-            olPartChanges::stitch(part, options.stitchingTolerance);
+            stitch(label, part);
         if (m_job.verify)
             dropDegenerate(part.shape);
         if (options.mergeGeometries)
@@ -118,6 +120,22 @@ private:
         olTriangles::mesh(part.shape, fineness());
         if (!options.keepSurfaceData)
             olPartChanges::dropSurfaces(part);
+    }
+
+    /// Sewing may rebuild faces so that their colours would have nowhere to go; then the part stays as it was read.
+    void stitch(const TDF_Label &label, olChangedPart &part) const
+    {
+        olChangedPart stitched = part;
+        olPartChanges::stitch(stitched, m_job.options.stitchingTolerance);
+        TopTools_IndexedMapOfShape pieces;
+        TopExp::MapShapes(stitched.shape, pieces);
+        TDF_LabelSequence labels;
+        XCAFDoc_ShapeTool::GetSubShapes(label, labels);
+        for (const TDF_Label &piece : labels) {
+            if (!pieces.Contains(stitched.follow(XCAFDoc_ShapeTool::GetShape(piece))))
+                return;
+        }
+        part = stitched;
     }
 
     /// Without tessellation values of its own an import goes by the usual ones.

@@ -78,6 +78,14 @@ TEST_F(ImportOption, CoarserDeviationMakesFewerTriangles)
     EXPECT_EQ(Outline(imported(job)).triangles, fine);
 }
 
+TEST_F(ImportOption, StitchingTakesNoColourAway)
+{
+    olImportJob job = olImportJob::of(exported(QStringLiteral("s.igs")));
+    const QStringList stitched = Outline(imported(job)).colours;
+    job.options.stitching = false;
+    EXPECT_EQ(stitched, Outline(imported(job)).colours);
+}
+
 TEST_F(ImportOption, KindsThatAreNotWantedStayOut)
 {
     olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
