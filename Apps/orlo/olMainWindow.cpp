@@ -44,10 +44,14 @@ void olMainWindow::closePreferences() { m_preferences.reset(); }
 
 void olMainWindow::closeEvent(QCloseEvent *event)
 {
-    // The preferences are not modal, and a window of their own would keep the program running.
+    // The preferences are not modal, and a window of their own would keep the program running. Whoever wants to stay
+    // with the edits in them stays in the program.
     if (m_preferences)
         m_preferences->reject();
-    QMainWindow::closeEvent(event);
+    if (m_preferences && m_preferences->isVisible())
+        event->ignore();
+    else
+        QMainWindow::closeEvent(event);
 }
 
 void olMainWindow::addMenus()

@@ -107,7 +107,7 @@ public:
         // In a multi-hash the last inserted comes first.
         for (auto label = labels.rbegin(); label != labels.rend(); ++label) {
             if ((*label)->buddy())
-                m_labels.insert((*label)->buddy(), olPageIndex::withoutMnemonic((*label)->text()));
+                m_labels.insert((*label)->buddy(), *label);
         }
         visitChildren(page);
     }
@@ -144,6 +144,9 @@ private:
         olPageControl control;
         control.widget = &widget;
         control.names = namesOf(widget);
+        const auto labels = m_labels.values(&widget);
+        for (QLabel *label : labels)
+            control.labels << label;
         for (const Caption &caption : m_captions)
             control.captions << caption.text;
         control.toolTip = widget.toolTip();
@@ -158,7 +161,9 @@ private:
     [[nodiscard]] QStringList namesOf(const QWidget &widget) const
     {
         QStringList names{ownText(widget)};
-        names << m_labels.values(&widget);
+        const auto labels = m_labels.values(&widget);
+        for (const QLabel *label : labels)
+            names << olPageIndex::withoutMnemonic(label->text());
         names.removeAll(QString());
         if (names.isEmpty() && isOneOf<QAbstractItemView>(widget))
             names << captionForTable();
@@ -179,7 +184,7 @@ private:
         return m_captions.empty() ? QStringList() : QStringList{m_captions.back().text};
     }
 
-    QMultiHash<const QWidget *, QString> m_labels;
+    QMultiHash<const QWidget *, QLabel *> m_labels;
     std::vector<Caption> m_captions;
 };
 

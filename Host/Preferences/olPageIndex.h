@@ -2,6 +2,7 @@
 
 #include "Utilities/olExport.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +13,9 @@ class QWidget;
 /// One control of a page as a person sees it.
 struct ORLO_SDK_EXPORT olPageControl {
     QWidget *widget = nullptr;
+
+    /// The labels that belong to it, in the order of the form.
+    QList<QWidget *> labels;
 
     /// Its own text, then the texts of its labels; else what it is called for screen readers. A table or tree without
     /// a label bears the caption of its frame, else of its tab. Mnemonics are no part of a name.

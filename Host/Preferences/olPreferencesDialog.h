@@ -4,20 +4,32 @@
 
 #include <QDialog>
 #include <QHash>
+#include <QPointer>
+#include <QTimer>
 
+#include <memory>
+#include <string>
 #include <vector>
 
+class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
-class QScrollArea;
+class QLineEdit;
+class QPushButton;
+class QSplitter;
 class QStackedWidget;
-class QTreeWidget;
-class QTreeWidgetItem;
+class olMessageLine;
+class olModuleTree;
+class olPageFrame;
+class olPendingChanges;
 class olPreferencesEntry;
 class olPreferencesSession;
+class olSettingMenu;
+class olSettingsSearch;
+struct olFoundControl;
 
-/// Shows the modules as entries under their categories, with their pages. Edits stay on the pages until OK or Apply;
-/// Cancel drops them. Not modal: the view stays usable beside it.
+/// Shows the modules as entries under their categories, with their pages. Everything done in it is pending until OK or
+/// Apply, and Cancel drops it. Not modal: the view stays usable beside it.
 class ORLO_SDK_EXPORT olPreferencesDialog : public QDialog
 {
     Q_OBJECT
@@ -32,34 +44,80 @@ public:
     /// page that was shown last.
     void open(const QString &name);
 
-    /// Fills the pages anew from the values as they are.
-    void showEvent(QShowEvent *event) override;
+    /// Shows what the file would change, and makes it pending if that is agreed to.
+    void importFrom(const QString &file);
+
+    /// Writes the values in force, not those still pending.
+    void exportTo(const QString &file);
 
 public slots:
     void accept() override;
+
+    /// With edits pending, asks first whether to apply them, to discard them or to stay.
     void reject() override;
 
     /// Stores and applies every page shown since the dialog opened. False, with the reason on the dialog and the edits
     /// kept, when they cannot be stored.
     bool apply();
 
+    /// Makes the defaults of the page shown, or of all settings, pending.
+    void restorePage();
+    void restoreAll();
+
+    /// Opens the list of pending changes.
+    void showChanges();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
+    [[nodiscard]] QWidget *buildLeft();
+    [[nodiscard]] QWidget *buildRight();
+    [[nodiscard]] QWidget *buildBottom();
+    void connectParts();
+    void recall();
+    void remember() const;
+
     void listModules();
-    void listModule(olPreferencesEntry &entry);
-    QTreeWidgetItem *categoryItem(const QString &category);
     void showCurrent();
-    void fillOnce(olPreferencesEntry &entry);
-    QScrollArea *frameOf(olPreferencesEntry &entry);
+    [[nodiscard]] olPageFrame *frameOf(olPreferencesEntry &entry);
+    void lockSettings(olPreferencesEntry &entry, olPageFrame &frame);
+    void listLocked(olPreferencesEntry &entry);
+    void endTabOrderWithButtons();
     void giveBack(QWidget *page);
-    void showError(const QString &error);
-    [[nodiscard]] olPreferencesEntry *entryOf(const QTreeWidgetItem *item) const;
+
+    void filter();
+    void revealFirstHit();
+    void focusFirstHit();
+    void goTo(const QString &key);
+    [[nodiscard]] std::vector<olFoundControl> changedOn(const olPreferencesEntry &entry) const;
+    [[nodiscard]] QString placeOf(const std::string &key) const;
+
+    void refresh();
+    [[nodiscard]] bool mayLeave();
+    void chooseImport();
+    void chooseExport();
 
     olPreferencesSession &m_session;
-    QTreeWidget *m_tree;
+    std::unique_ptr<olPendingChanges> m_pending;
+    std::unique_ptr<olSettingsSearch> m_search;
+    std::unique_ptr<olSettingMenu> m_menu;
+    QLineEdit *m_searchField;
+    QCheckBox *m_changedOnly;
+    QPushButton *m_more;
+    olModuleTree *m_tree;
+    QSplitter *m_splitter;
     QLabel *m_title;
+    QPushButton *m_locked;
+    QPushButton *m_restorePage;
     QStackedWidget *m_pages;
-    QLabel *m_error;
+    QLabel *m_nothing;
+    olMessageLine *m_message;
+    QPushButton *m_changes;
     QDialogButtonBox *m_buttons;
-    QHash<QWidget *, QScrollArea *> m_frames;
-    std::vector<olPreferencesEntry *> m_shown;
+    QHash<QWidget *, olPageFrame *> m_frames;
+    QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
+    QTimer m_refresh;
 };

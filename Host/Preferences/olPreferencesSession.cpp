@@ -85,6 +85,17 @@ template <class Visit> void eachOwner(const std::string &key, Visit visit)
     }
 }
 
+/// The modules with, behind them, those that own one of the values.
+std::vector<olPreferencesEntry *> withOwners(std::vector<olPreferencesEntry *> modules, const olSettingValues &values)
+{
+    for (const auto &value : values) {
+        olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(value.first);
+        if (owner && std::find(modules.begin(), modules.end(), owner) == modules.end())
+            modules.push_back(owner);
+    }
+    return modules;
+}
+
 } // namespace
 
 olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStringList &siteFiles)
@@ -256,10 +267,10 @@ QString olPreferencesSession::saveIntoMended(const QString &error)
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown)
+QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
 {
     const Snapshot before;
-    takeBack(shown);
+    takeBack(shown, besides);
     QString error = save();
     if (!error.isEmpty()) {
         before.restore();
@@ -270,7 +281,11 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
         }
         return error;
     }
-    for (olPreferencesEntry *entry : shown) {
+    const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
+    // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
+                  [](auto *entry) { entry->updateGUI(); });
+    for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
         entry->settle();
     }
@@ -291,11 +306,20 @@ std::optional<QString> olPreferencesSession::lockReason(const std::string &key) 
 
 /// The pages into their values, but for what is locked: that has its value again and counts as if nobody had touched
 /// it.
-void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown) const
+void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown,
+                                    const olSettingValues &besides) const
 {
     const Snapshot before;
     for (olPreferencesEntry *entry : shown)
         entry->updateData();
+    for (const auto &[key, value] : besides) {
+        olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key);
+        if (!owner)
+            continue;
+        owner->setValue(key, value);
+        // Its page may show the old value and have reported it unchanged.
+        owner->setChanged(key, true);
+    }
     restoreLocked();
     for (olPreferencesEntry *entry : shown) {
         for (const olOfferedDefault &offered : entry->defaults()) {

@@ -8,12 +8,16 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 class olPreferencesEntry;
+
+/// Values of settings by their keys, wherever they are kept.
+using olSettingValues = std::map<std::string, boost::any>;
 
 /// What a run does to the store that it loads: a run of its own keeps it in order, one that only looks leaves the disk
 /// as it is.
@@ -58,8 +62,9 @@ public:
     [[nodiscard]] QString save();
 
     /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing
-    /// fails, every value is as it was before and nothing is applied.
-    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown);
+    /// fails, every value is as it was before and nothing is applied. `besides` are values that count whatever the
+    /// pages hold: of settings that no page shows, or that their control shows only rounded.
+    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
 
     /// Unloads the plug-in. Values are not stored by this.
     void stop() { m_plugin.unload(); }
@@ -89,7 +94,7 @@ private:
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error);
     void dropEarlyLanguage();
-    void takeBack(const std::vector<olPreferencesEntry *> &shown) const;
+    void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
 
     olPreferencesStore m_store;

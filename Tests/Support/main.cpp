@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QtGlobal>
 #include <gtest/gtest.h>
 
@@ -12,5 +14,8 @@ int main(int argc, char *argv[])
         return RUN_ALL_TESTS();
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("ORLO tests"));
+    // What a dialog remembers is no test's concern but its own, nor the user's.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSize>
+#include <QString>
+
+/// What the preferences dialog remembers from one run to the next, in the settings of the application.
+struct olDialogMemory {
+    /// Empty where nothing is remembered.
+    QSize size;
+    QByteArray splitter;
+    QString page;
+
+    [[nodiscard]] static olDialogMemory recall();
+    void keep() const;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QTreeWidget>
+
+#include <vector>
+
+class olPreferencesEntry;
+
+/// The modules with a page as entries under their categories. A module named as its category is the category's own
+/// entry.
+class olModuleTree : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    olModuleTree();
+
+    /// Lists the modules anew and stays, where it can, on the current one.
+    void list();
+
+    /// The module to be shown: the current one, or the first in sight of a category without a page of its own. Null
+    /// where there is none.
+    [[nodiscard]] olPreferencesEntry *chosen() const;
+
+    /// False, with nothing changed, for a name that is not listed.
+    bool choose(const QString &name);
+
+    /// Hides the modules that are not among these, and moves to the first that is if the current one is not.
+    void showOnly(const std::vector<const olPreferencesEntry *> &entries);
+    void showAll();
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+private:
+    void add(const olPreferencesEntry &entry);
+    [[nodiscard]] QTreeWidgetItem *categoryItem(const QString &category);
+    [[nodiscard]] olPreferencesEntry *entryOf(const QTreeWidgetItem *item) const;
+    template <class Use> void eachItem(Use &&use) const;
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "Preferences/olPageIndex.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include <vector>
+
+class olPreferencesEntry;
+
+/// One control as the search knows it. The widgets are null once they are gone.
+struct olFoundControl {
+    QPointer<QWidget> widget;
+    std::vector<QPointer<QWidget>> labels;
+    QString name;
+    QStringList keys;
+    QString searched;
+};
+
+/// A module's page with its controls in the order of the form.
+struct olSearchedPage {
+    olPreferencesEntry *entry = nullptr;
+    std::vector<olFoundControl> controls;
+};
+
+/// A page on which something was found, and what.
+struct olSearchResult {
+    const olSearchedPage *page = nullptr;
+    std::vector<const olFoundControl *> hits;
+};
+
+/// Finds controls on all pages by label, tooltip, choice text and key. What a page hides is not found. The index of the
+/// pages is built at the first question and again after modules or pages come or go.
+class olSettingsSearch : public QObject
+{
+    Q_OBJECT
+
+public:
+    olSettingsSearch();
+
+    /// The pages with hits, in the order of the modules. Every word of the text must be found, case aside; an empty
+    /// text finds every control. A page is also found by its own name. Valid until the pages change.
+    [[nodiscard]] std::vector<olSearchResult> find(const QString &text);
+
+    /// Null for a module without a page. Valid until the pages change.
+    [[nodiscard]] const olSearchedPage *page(const olPreferencesEntry &entry);
+
+    /// The control that edits the setting; null where none does.
+    [[nodiscard]] const olFoundControl *control(const std::string &key);
+
+    /// To be called when texts or controls of pages may have changed.
+    void invalidate() { m_isBuilt = false; }
+
+private:
+    void build();
+
+    std::vector<olSearchedPage> m_pages;
+    bool m_isBuilt = false;
+};
