@@ -1,3 +1,4 @@
+#include "olPrefsCommands.h"
 #include "olPrefsOptions.h"
 #include "olPrefsTool.h"
 #include "olToolError.h"
@@ -47,10 +48,12 @@ QStringList arguments(int count, char **values)
 void run(const QStringList &arguments)
 {
     const olPrefsOptions options = olPrefsOptions::parsed(arguments);
-    if (options.help)
-        std::fputs(qPrintable(olPrefsOptions::usage()), stdout);
+    if (options.help && options.command.isEmpty())
+        olPrefsTool::print(olPrefsCommands::help());
+    else if (options.help)
+        olPrefsTool::print(olPrefsCommands::help(olPrefsCommands::named(options.command)));
     else if (options.version)
-        std::printf("orlo-prefs %s\n", ORLO_VERSION);
+        olPrefsTool::print("orlo-prefs " ORLO_VERSION "\n");
     else
         olPrefsTool(options).run();
 }

@@ -4,6 +4,7 @@
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
+#include "olNumberText.h"
 #include "olToolError.h"
 
 #include <QApplication>
@@ -33,13 +34,7 @@ using Value = olScriptValue;
 
 std::string json(bool value) { return value ? "true" : "false"; }
 std::string json(const QString &text) { return olValue::quoted(text.toStdString()); }
-
-/// What came from a float shows as that float: 0.2, not 0.20000000298023224.
-std::string json(double value)
-{
-    const auto narrow = float(value);
-    return double(narrow) == value ? olValue::number(narrow) : olValue::number(value);
-}
+std::string json(double value) { return olNumberText(value); }
 
 [[noreturn]] void refuse(const Value &value, const QString &expected)
 {
@@ -54,19 +49,6 @@ bool asBool(const Value &value)
     return value.json.toBool();
 }
 
-QString bound(double value) { return QString::fromStdString(json(value)); }
-
-QString between(double lowest, double highest)
-{
-    if (std::isinf(lowest) && std::isinf(highest))
-        return QStringLiteral("a number");
-    if (std::isinf(highest))
-        return QStringLiteral("a number from %1").arg(bound(lowest));
-    if (std::isinf(lowest))
-        return QStringLiteral("a number up to %1").arg(bound(highest));
-    return QStringLiteral("a number from %1 to %2").arg(bound(lowest), bound(highest));
-}
-
 double asNumber(const Value &value, double lowest, double highest, const QString &expected)
 {
     if (!value.json.isDouble() || !(value.json.toDouble() >= lowest) || !(value.json.toDouble() <= highest))
@@ -76,7 +58,7 @@ double asNumber(const Value &value, double lowest, double highest, const QString
 
 int asWholeNumber(const Value &value, int lowest, int highest)
 {
-    const QString expected = QStringLiteral("a whole number from %1 to %2").arg(lowest).arg(highest);
+    const QString expected = olWholeNumbersBetween(lowest, highest);
     const double number = asNumber(value, lowest, highest, expected);
     if (number != std::floor(number))
         refuse(value, expected);
@@ -201,7 +183,7 @@ std::string read(const QDoubleSpinBox &spin) { return json(spin.value()); }
 
 void write(QDoubleSpinBox &spin, const Value &value)
 {
-    const QString expected = between(spin.minimum(), spin.maximum());
+    const QString expected = olNumbersBetween(spin.minimum(), spin.maximum());
     const double number = asNumber(value, spin.minimum(), spin.maximum(), expected);
     if (QString::number(number, 'f', spin.decimals()).toDouble() != number)
         refuse(value, QStringLiteral("%1 with at most %2 decimals").arg(expected).arg(spin.decimals()));
@@ -220,7 +202,7 @@ void write(QSlider &slider, const Value &value)
 /// A host widget that holds a number is edited through its field, which knows what can be typed.
 template <class Widget> void typeIntoFieldOf(Widget &widget, const Value &value)
 {
-    QString expected = between(widget.minimum(), widget.maximum());
+    QString expected = olNumbersBetween(widget.minimum(), widget.maximum());
     if (widget.decimals() >= 0)
         expected += QStringLiteral(" with at most %1 decimals").arg(widget.decimals());
     asNumber(value, widget.minimum(), widget.maximum(), expected);

@@ -92,28 +92,16 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
     return options;
 }
 
-QString olPrefsOptions::usage()
+std::string olPrefsOptions::optionsHelp()
 {
-    return QStringLiteral("Usage: orlo-prefs [OPTIONS] COMMAND\n"
-                          "Shows and changes ORLO's preferences, and drives them by script. It needs no display.\n"
-                          "\n"
-                          "Commands\n"
-                          "  list               all modules with their settings, values and defaults\n"
-                          "       --json        for programs\n"
-                          "       --markdown    the catalogue of the documentation\n"
-                          "  get KEY            prints the value of a setting as JSON\n"
-                          "  set KEY VALUE      stores a value, JSON or plain text\n"
-                          "  script FILE|-      runs a script from a file or the standard input\n"
-                          "\n"
-                          "Options, before the command\n"
-                          "  --edition NAME     %1 (default professional)\n"
-                          "  --app-name NAME    the application's name (default orlo)\n"
-                          "  --store FILE       where the preferences are kept (default the user's store; a script\n"
-                          "                     begins empty without it, and never writes)\n"
-                          "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
-                          "                     installed plug-in folder)\n"
-                          "  --help, --version\n"
-                          "\n"
-                          "The exit status is 0, or 2 with a message on the standard error stream.\n")
-        .arg(editionNames);
+    return "Options, before the command\n"
+           "  --edition NAME     " +
+           editionNames.toStdString() +
+           " (default professional)\n"
+           "  --app-name NAME    the application's name (default orlo)\n"
+           "  --store FILE       where the preferences are kept (default the user's store; a script\n"
+           "                     begins empty without it, and never writes)\n"
+           "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
+           "                     installed plug-in folder)\n"
+           "  --help, --version\n";
 }

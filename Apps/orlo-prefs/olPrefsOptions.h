@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <string>
+
 /// The command line of the tool taken apart.
 struct olPrefsOptions {
     olEdition edition = olEdition::Professional;
@@ -19,5 +21,6 @@ struct olPrefsOptions {
     /// Throws olToolError where an option is not known or its value is none.
     [[nodiscard]] static olPrefsOptions parsed(const QStringList &arguments);
 
-    [[nodiscard]] static QString usage();
+    /// The paragraph of the help about the options.
+    [[nodiscard]] static std::string optionsHelp();
 };

@@ -1,19 +1,12 @@
 #include "olPrefsTool.h"
 
 #include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
-#include "olModalAnswers.h"
-#include "olNearest.h"
-#include "olScriptRunner.h"
-#include "olSettingsCatalogue.h"
-#include "olSettingsList.h"
+#include "olPrefsCommands.h"
 #include "olToolError.h"
 
-#include <QFile>
-
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace
 {
@@ -22,21 +15,6 @@ void requireSuccess(const QString &error)
 {
     if (!error.isEmpty())
         throw olToolError(error);
-}
-
-void print(const std::string &text) { std::fwrite(text.data(), 1, text.size(), stdout); }
-
-/// A text setting takes any text as it is, so that nobody has to quote within quotes.
-boost::any valueFrom(const std::string &type, const QString &written)
-{
-    boost::any value = olValue::fromJson(type, written.toUtf8());
-    if (!value.empty())
-        return value;
-    if (type == "qstring")
-        return written;
-    if (type == "string")
-        return written.toStdString();
-    return {};
 }
 
 /// A script shows the modules as they are, at whatever site it runs.
@@ -59,77 +37,24 @@ olPrefsTool::olPrefsTool(const olPrefsOptions &options)
 
 void olPrefsTool::run()
 {
-    if (m_options.command == QLatin1String("list"))
-        return list();
-    if (m_options.command == QLatin1String("get"))
-        return get();
-    if (m_options.command == QLatin1String("set"))
-        return set();
-    if (m_options.command == QLatin1String("script"))
-        return script();
-    if (m_options.command.isEmpty())
-        throw olToolError(QStringLiteral("a command is missing: list, get, set or script; see --help"));
-    throw olToolError(
-        QStringLiteral("there is no command %1, only list, get, set and script; see --help").arg(m_options.command));
-}
-
-void olPrefsTool::list()
-{
-    const QString form = m_options.arguments.value(0);
-    const bool json = form == QLatin1String("--json");
-    const bool markdown = form == QLatin1String("--markdown");
-    requireArguments(json || markdown ? 1 : 0, "list [--json | --markdown]");
-    loadEverything();
-    if (json)
-        print(olSettingsList::json());
-    else if (markdown)
-        print(olSettingsCatalogue());
+    m_command = &olPrefsCommands::named(m_options.command);
+    // Only in the first place: later it may be a value.
+    const QString first = m_options.arguments.value(0);
+    if (first == QLatin1String("--help") || first == QLatin1String("-h"))
+        print(olPrefsCommands::help(*m_command));
     else
-        print(olSettingsList::table());
+        m_command->run(*this);
 }
 
-void olPrefsTool::get()
+void olPrefsTool::requireArguments(int count) const
 {
-    requireArguments(1, "get KEY");
-    loadEverything();
-    const Setting asked = setting(m_options.arguments.first());
-    print(olValue::toJson(asked.entry->value(asked.key)) + '\n');
+    if (m_options.arguments.size() != count)
+        failUsage();
 }
 
-void olPrefsTool::set()
+void olPrefsTool::failUsage() const
 {
-    requireArguments(2, "set KEY VALUE");
-    loadEverything();
-    const Setting changed = setting(m_options.arguments.at(0));
-    if (const auto reason = m_session.lockReason(changed.key))
-        throw olToolError(QStringLiteral("\"%1\" is locked: %2").arg(m_options.arguments.at(0), *reason));
-    const QString &written = m_options.arguments.at(1);
-    const boost::any value = valueFrom(changed.type, written);
-    if (value.empty())
-        throw olToolError(
-            QStringLiteral("%1 is no value for \"%2\": expected %3")
-                .arg(written, m_options.arguments.at(0), QString::fromStdString(olValue::expectation(changed.type))));
-    changed.entry->setValue(changed.key, value);
-    requireSuccess(m_session.save());
-    printNotices();
-}
-
-void olPrefsTool::script()
-{
-    requireArguments(1, "script FILE|-");
-    const QString &name = m_options.arguments.first();
-    QFile file(name);
-    const bool isOpen =
-        name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (!isOpen)
-        throw olToolError(QStringLiteral("Cannot read the script %1: %2.").arg(name, file.errorString()));
-    if (!m_options.store.isEmpty())
-        loadStore(olStoreUse::LookAt);
-    // The language that was stored is that of a start, which a script does not run; its controls go by the names of
-    // the untranslated pages.
-    olHostState::the().displayLanguage.reset();
-    loadPlugin();
-    olScriptRunner(m_session, stdout).run(file);
+    throw olToolError(QStringLiteral("usage: orlo-prefs [OPTIONS] %1").arg(QLatin1String(m_command->usage)));
 }
 
 void olPrefsTool::loadStore(olStoreUse use)
@@ -138,38 +63,40 @@ void olPrefsTool::loadStore(olStoreUse use)
     printNotices();
 }
 
+void olPrefsTool::loadPlugin() { requireSuccess(m_session.loadPlugin(olPluginLoader::locate(m_options.plugin))); }
+
+void olPrefsTool::fillDefaults()
+{
+    // Some defaults come with a message to the user, of whom there is none here.
+    m_silent.emplace();
+    m_session.fillDefaults();
+    printNotices();
+}
+
+void olPrefsTool::open(olStoreUse use)
+{
+    loadStore(use);
+    loadPlugin();
+    fillDefaults();
+}
+
+void olPrefsTool::save()
+{
+    requireSuccess(m_session.save());
+    printNotices();
+}
+
+void olPrefsTool::print(const std::string &text)
+{
+    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
+    if (!isWritten)
+        throw olToolError(
+            QStringLiteral("Cannot write the output: %1.").arg(QString::fromLocal8Bit(std::strerror(errno))));
+}
+
 void olPrefsTool::printNotices()
 {
     const QStringList notices = m_session.takeNotices();
     for (const QString &notice : notices)
         std::fprintf(stderr, "%s\n", qPrintable(notice));
-}
-
-void olPrefsTool::loadPlugin() { requireSuccess(m_session.loadPlugin(olPluginLoader::locate(m_options.plugin))); }
-
-void olPrefsTool::loadEverything()
-{
-    // Some defaults come with a message to the user, of whom there is none here.
-    const olModalAnswers silent;
-    loadStore(olStoreUse::Own);
-    loadPlugin();
-    m_session.fillDefaults();
-    printNotices();
-}
-
-void olPrefsTool::requireArguments(int count, const char *usage) const
-{
-    if (m_options.arguments.size() != count)
-        throw olToolError(QStringLiteral("usage: orlo-prefs [OPTIONS] %1").arg(QLatin1String(usage)));
-}
-
-olPrefsTool::Setting olPrefsTool::setting(const QString &written)
-{
-    const std::string key = written.toStdString();
-    if (olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key))
-        return {owner, key, olValue::typeName(owner->findDefault(key)->value)};
-    QStringList known;
-    for (const std::string &each : olPreferencesSession::keys())
-        known << QString::fromStdString(each);
-    throw olToolError(QStringLiteral("there is no setting \"%1\"%2").arg(written, olDidYouMean(written, known)));
 }

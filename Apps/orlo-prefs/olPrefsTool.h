@@ -1,14 +1,18 @@
 #pragma once
 
 #include "Preferences/olPreferencesSession.h"
+#include "olModalAnswers.h"
 #include "olPrefsOptions.h"
 
+#include <QStringList>
+
+#include <optional>
 #include <string>
 
-class olPreferencesEntry;
-struct olOfferedDefault;
+struct olPrefsCommand;
 
-/// The commands of the tool. Results go to the standard output stream; what fails throws olToolError.
+/// One run of the tool: finds the command, and has for all commands the session that they work on. What fails throws
+/// olToolError.
 class olPrefsTool
 {
 public:
@@ -16,26 +20,37 @@ public:
 
     void run();
 
-private:
-    /// The setting that a key names: where it lives, and its type.
-    struct Setting {
-        olPreferencesEntry *entry;
-        std::string key;
-        std::string type;
-    };
+    [[nodiscard]] const olPrefsOptions &options() const { return m_options; }
+    [[nodiscard]] olPreferencesSession &session() { return m_session; }
 
-    void list();
-    void get();
-    void set();
-    void script();
+    /// Of the command.
+    [[nodiscard]] const QStringList &arguments() const { return m_options.arguments; }
+    void requireArguments(int count) const;
 
+    /// Ends the command with the line that says how it is used.
+    [[noreturn]] void failUsage() const;
+
+    /// Loads the store alone.
     void loadStore(olStoreUse use);
-    void printNotices();
     void loadPlugin();
-    void loadEverything();
-    void requireArguments(int count, const char *usage) const;
-    [[nodiscard]] static Setting setting(const QString &key);
+
+    /// Lets the modules fill the gaps; no box that one of them opens is waited for from here on.
+    void fillDefaults();
+
+    /// All three: what nearly every command begins with.
+    void open(olStoreUse use);
+
+    /// Stores what changed, and tells what there is to tell.
+    void save();
+
+    /// To the standard output stream, and complains when that cannot take it.
+    static void print(const std::string &text);
+
+private:
+    void printNotices();
 
     olPrefsOptions m_options;
+    const olPrefsCommand *m_command = nullptr;
     olPreferencesSession m_session;
+    std::optional<olModalAnswers> m_silent;
 };

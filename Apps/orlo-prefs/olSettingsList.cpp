@@ -96,4 +96,17 @@ std::string table()
     return text;
 }
 
+std::string changes(const std::vector<olPreferencesImport::Change> &changes)
+{
+    std::size_t width = 0;
+    for (const auto &change : changes)
+        width = std::max(width, change.key.size());
+    std::string text;
+    for (const auto &change : changes)
+        text += padded(change.key, width) + valueText(change.before) + " -> " + valueText(change.after) + '\n';
+    return text;
+}
+
+std::string valueText(const boost::any &value) { return value.empty() ? "null" : olValue::toJson(value); }
+
 } // namespace olSettingsList

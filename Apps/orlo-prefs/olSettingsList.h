@@ -1,8 +1,11 @@
 #pragma once
 
-#include <string>
+#include "Preferences/olPreferencesImport.h"
 
-/// All registered modules with their settings, as text.
+#include <string>
+#include <vector>
+
+/// Settings and values as text. The first two are of all registered modules.
 namespace olSettingsList
 {
 
@@ -11,5 +14,11 @@ namespace olSettingsList
 
 /// For reading: the modules with their settings below them.
 [[nodiscard]] std::string table();
+
+/// A line each, with the values before and after.
+[[nodiscard]] std::string changes(const std::vector<olPreferencesImport::Change> &changes);
+
+/// JSON on one line; null for a value that is absent.
+[[nodiscard]] std::string valueText(const boost::any &value);
 
 } // namespace olSettingsList

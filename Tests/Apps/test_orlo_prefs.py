@@ -6,8 +6,12 @@
 
 import json
 import pathlib
+import re
+import shutil
+import subprocess
+import unittest
 
-from tool_test import ToolTest, main
+from tool_test import SECONDS, ToolTest, main
 
 CAMERA_KEYS = ["Camera fov", "Stereo eye separation", "Stereo zero plane parallaxe", "Powerwall width",
                "Powerwall height", "Powerwall distance"]
@@ -108,6 +112,209 @@ class GetAndSet(ToolTest):
             self.assertTrue(result.stderr.startswith(f"Cannot read the preferences {self.store}: "), result.stderr)
 
 
+PATHS = "texture search paths"
+
+
+class Bounds(ToolTest):
+    def test_what_the_control_could_not_hold_is_refused_with_what_it_could(self):
+        for key, value, expected in (
+                ("Camera fov", "100.5", "a number from 1 to 100"),
+                ("Camera fov", '"nan"', "a number from 1 to 100"),
+                ("Loader compress texture mode", "3", "one of 0, 1, 2"),
+                ("Loader compress texture size", "100", "one of 32, 64, 128, 256, 512, 1024"),
+                ("KbxOptions version", "2010", "one of 0, 2014, 2013, 2012, 2011"),
+                ("RenderOptions enable postprocess antialias", "2", "one of 0, 1"),
+                ("RenderOptions near plane", "-1", "a number from 1e-06"),
+                ("BCADOptions max parallel tasks", "32769", "a whole number from -1 to 32768")):
+            with self.subTest(key):
+                self.assert_refused(self.stored("set", key, value),
+                                    f'{value} is no value for "{key}": expected {expected}')
+        self.assert_printed(self.stored("diff"), "")
+
+    def test_what_it_could_is_stored_as_it_was_given(self):
+        for key, value in {"Camera fov": "99.1235", "Loader compress texture size": "1024",
+                           "Powerwall width": "0.5"}.items():
+            self.assert_printed(self.stored("set", key, value), "")
+            self.assert_printed(self.stored("get", key), value + "\n")
+
+    def test_where_the_edition_has_no_page_only_the_type_counts(self):
+        edition = ["--store", str(self.store), "--edition", "essentials"]
+        self.assert_printed(self.tool("set", "Camera fov", "500", options=edition), "")
+
+
+class Differences(ToolTest):
+    def test_what_differs_is_listed_until_it_is_reset(self):
+        self.stored("set", "Camera fov", "60.1")
+        self.stored("set", "Powerwall width", "5")
+        self.assert_printed(self.stored("diff"), "Camera fov       45 -> 60.1\nPowerwall width  1600 -> 5\n")
+        self.assert_printed(self.stored("reset", "Camera fov"), "")
+        self.assert_printed(self.stored("diff"), "Powerwall width  1600 -> 5\n")
+        self.assert_printed(self.stored("reset", "--all"), "")
+        self.assert_printed(self.stored("diff"), "")
+        self.assert_refused(self.stored("reset", "Camera foz"),
+                            'there is no setting "Camera foz"; did you mean "Camera fov"?')
+
+    def test_a_list_that_no_module_has_a_default_for_is_a_setting_like_any(self):
+        self.assert_printed(self.stored("get", PATHS), "[]\n")
+        self.assert_refused(self.stored("set", PATHS, "[1]"),
+                            f'[1] is no value for "{PATHS}": expected a list of texts, as ["a", "b"]')
+        self.assert_printed(self.stored("set", PATHS, '["/a", "b c"]'), "")
+        self.assert_printed(self.stored("diff"), f'{PATHS}  [] -> ["/a", "b c"]\n')
+        exported = self.stored("export").stdout
+        self.assertNotIn(PATHS, self.stored("list", "--json").stdout)
+        self.assert_printed(self.stored("set", PATHS, "[]"), "")
+        self.assertNotIn(PATHS, self.stored("export").stdout)
+        self.assert_printed(self.stored("import", "-", input=exported), "")
+        self.assert_printed(self.stored("get", PATHS), '["/a", "b c"]\n')
+        self.assert_printed(self.stored("reset", PATHS), "")
+        self.assert_printed(self.stored("get", PATHS), "[]\n")
+
+    def test_those_who_set_at_the_same_time_all_keep_theirs(self):
+        self.stored("set", "Camera fov", "50")
+        values = dict(zip(CAMERA_KEYS[1:], "23456"))
+        running = [subprocess.Popen(self.command("set", key, value, options=["--store", str(self.store)]),
+                                    env=self.environment) for key, value in values.items()]
+        self.assertEqual([process.wait(SECONDS) for process in running], [0] * len(values))
+        lines = self.stored("diff").stdout.splitlines()
+        self.assertEqual(dict(re.fullmatch(r"(.+?)  +.* -> (.*)", line).groups() for line in lines),
+                         {"Camera fov": "50", **values})
+
+
+class Files(ToolTest):
+    def imported(self, settings, *options):
+        return self.stored("import", *options, "-", input=json.dumps({"format": 1, "settings": settings}))
+
+    def test_every_type_survives_a_file(self):
+        given = {"int": "-7", "double": "0.30000000000000004", "qstring": '"ü\\n"', "strings": '["a b", ""]',
+                 "color": "[0.1, 0, 1]", "range": "3"}
+        for key, value in given.items():
+            self.stored("set", f"Sample {key}", value, plugin=self.sample)
+        file = self.folder / "kept.json"
+        before = self.stored("diff", plugin=self.sample).stdout
+        self.assert_printed(self.stored("export", file, plugin=self.sample), "")
+        self.assertEqual(self.stored("export", plugin=self.sample).stdout, file.read_text("utf-8"))
+        self.stored("reset", "--all", plugin=self.sample)
+        self.assertEqual(self.stored("diff", plugin=self.sample).stdout, "")
+        self.assert_printed(self.stored("import", file, plugin=self.sample), "")
+        self.assertEqual(self.stored("diff", plugin=self.sample).stdout, before)
+        self.assertEqual(before.count("\n"), len(given))
+
+    def test_a_dry_run_shows_the_changes_and_leaves_the_disk_alone(self):
+        settings = {"Camera fov": {"type": "float", "value": 60}, "Powerwall width": {"type": "float", "value": 1600}}
+        self.assert_printed(self.imported(settings, "--dry-run"), "Camera fov  45 -> 60\n")
+        self.assertFalse(self.store.exists())
+        self.assert_printed(self.imported(settings), "")
+        self.assert_printed(self.stored("diff"), "Camera fov  45 -> 60\n")
+
+    def test_what_cannot_be_taken_is_named_and_skipped(self):
+        result = self.imported({
+            "Camera fov": {"type": "float", "value": 60}, "Camera foz": {"type": "float", "value": 60},
+            "Powerwall width": {"type": "int", "value": 60}, "Powerwall height": {"type": "float", "value": "high"},
+            PATHS: {"type": "floats", "value": [1]}, "Loader compress texture mode": {"type": "int", "value": 9}})
+        self.assertEqual((result.stdout, result.returncode), ("", 0))
+        self.assertEqual(sorted(result.stderr.splitlines()), [
+            'skipped: "Camera foz" is not known',
+            'skipped: "Loader compress texture mode" cannot be 9: expected one of 0, 1, 2',
+            'skipped: "Powerwall height" is not a number, as its type float asks for',
+            'skipped: "Powerwall width" is of the type int, not float',
+            f'skipped: "{PATHS}" is of the type floats, not strings'])
+        self.assert_printed(self.stored("diff"), "Camera fov  45 -> 60\n")
+
+    def test_files_that_cannot_be_read_or_written_are_named(self):
+        missing = self.folder / "no" / "file.json"
+        self.assert_refused(self.stored("import", missing),
+                            f"Cannot read the preferences from {missing}: No such file or directory.")
+        result = self.stored("export", missing)
+        self.assertEqual((result.stdout, result.returncode), ("", 2))
+        self.assertTrue(result.stderr.startswith(f"Cannot write the preferences to {missing}: "), result.stderr)
+        result = self.stored("import", "-", input='{"format": 1,\n "settings": ')
+        self.assertEqual(result.returncode, 2)
+        self.assertTrue(result.stderr.startswith("Cannot import the standard input. It is no JSON, line 2: "))
+
+
+class Site(ToolTest):
+    def setUp(self):
+        super().setUp()
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        self.file = self.folder / "site/orlo/site.json"
+        self.file.parent.mkdir(parents=True)
+        self.write({"Camera fov": {"value": 60, "locked": True, "reason": "One camera for all."},
+                    "Powerwall width": {"value": 7}})
+
+    def write(self, site):
+        self.file.write_text(json.dumps(site))
+
+    def test_what_is_locked_is_refused_with_the_reason(self):
+        reason = '"Camera fov" is locked: One camera for all.'
+        self.assert_refused(self.stored("set", "Camera fov", "50"), reason)
+        self.assert_refused(self.stored("reset", "Camera fov"), reason)
+        exported = self.stored("export").stdout.replace('"value": 60}', '"value": 61}')
+        result = self.stored("import", "-", input=exported)
+        self.assertEqual(result.stderr, 'skipped: "Camera fov" is locked: One camera for all.\n')
+        self.assert_printed(self.stored("get", "Camera fov"), "60\n")
+
+    def test_the_default_is_that_of_the_site(self):
+        self.assert_printed(self.stored("diff"), "")
+        self.stored("set", "Powerwall width", "1600")
+        self.assert_printed(self.stored("diff"), "Powerwall width  7 -> 1600\n")
+        self.stored("reset", "--all")
+        self.assert_printed(self.stored("get", "Powerwall width"), "7\n")
+
+    def test_check_tells_of_the_store_and_of_the_site(self):
+        self.stored("set", "Powerwall height", "1")
+        self.assert_printed(self.stored("check"), "")
+        self.write({"Camera foz": {"value": 60}})
+        self.store.write_bytes(self.store.read_bytes()[:1000])
+        damaged = self.store.read_bytes()
+        result = self.stored("check")
+        self.assertEqual((result.stderr, result.returncode), ("2 faults were found\n", 2))
+        self.assertIn(str(self.store), result.stdout)
+        self.assertIn("Camera foz", result.stdout)
+        self.assertEqual(self.store.read_bytes(), damaged)
+
+
+class Completion(ToolTest):
+    def completed(self, *words):
+        script = ('source "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _orlo_prefs\n'
+                  'printf "%s\\n" "${COMPREPLY[@]}"')
+        source = pathlib.Path(__file__).resolve().parents[2] / "tools/completion/orlo-prefs"
+        result = subprocess.run(["bash", "-c", script, "bash", source, self.program, *words], env=self.environment,
+                                capture_output=True, encoding="utf-8", timeout=SECONDS, check=False)
+        self.assertEqual((result.stderr, result.returncode), ("", 0))
+        return result.stdout.split("\n")[:-1]
+
+    def test_commands_options_and_keys_are_completed(self):
+        listed = re.findall(r"(?m)^  ([a-z]+) ", self.tool("--help").stdout)
+        self.assertEqual([word for word in self.completed("") if not word.startswith("-")], listed)
+        for words, expected in {("--ed",): ["--edition"], ("--edition", "de"): ["design"],
+                                ("list", "--m"): ["--markdown"], ("reset", "--a"): ["--all"],
+                                ("import", "--d"): ["--dry-run"], ("get", "Camera"): ["Camera\\ fov"],
+                                ("--edition", "design", "set", "Camera\\ f"): ["Camera\\ fov"],
+                                ("reset", '"Camera f'): ["Camera fov"], ("get", "Camera\\ fov", ""): [""],
+                                ("get", "no such"): [""]}.items():
+            with self.subTest(words):
+                self.assertEqual(self.completed(*words), expected)
+        self.assertEqual(len(self.completed("get", "")),
+                         len({setting["key"] for module in json.loads(self.tool("list", "--json").stdout)
+                              for setting in module["settings"]}))
+
+
+class Manual(ToolTest):
+    page = pathlib.Path(__file__).resolve().parents[2] / "docs/orlo-prefs.1"
+
+    def test_it_tells_of_every_command_and_option(self):
+        text = self.page.read_text().replace("\\-", "-")
+        words = re.findall(r"(?m)^  ([a-z]+|--[a-z-]+) ", self.tool("--help").stdout)
+        for word in [*words, "--dry-run", "--all", "--json", "--markdown"]:
+            self.assertRegex(text, rf"(?<![\w-]){word}(?![\w-])")
+
+    @unittest.skipUnless(shutil.which("groff"), "needs groff")
+    def test_it_is_typeset_without_a_warning(self):
+        result = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", self.page], capture_output=True,
+                                encoding="utf-8", check=False)
+        self.assertEqual((result.stderr, result.returncode), ("", 0))
+
+
 class Script(ToolTest):
     def test_a_script_begins_empty_or_as_the_store_holds_it_and_writes_nothing(self):
         self.stored("set", "Camera fov", "60.1")
@@ -140,9 +347,9 @@ class CommandLine(ToolTest):
         self.assertRegex(self.tool("--version").stdout, r"^orlo-prefs \d+\.\d+")
 
     def test_what_is_not_understood_is_named(self):
-        commands = "only list, get, set and script; see --help"
+        commands = "only list, get, set, reset, diff, export, import, check and script; see --help"
         for arguments, message in {
-                (): "a command is missing: list, get, set or script; see --help",
+                (): "a command is missing: list, get, set, reset, diff, export, import, check or script; see --help",
                 ("lst",): f"there is no command lst, {commands}",
                 ("--stroe", "x", "list"): 'there is no option --stroe; did you mean "--store"?',
                 ("--edition", "gold", "list"):
@@ -152,9 +359,27 @@ class CommandLine(ToolTest):
                 ("list", "--xml"): "usage: orlo-prefs [OPTIONS] list [--json | --markdown]",
                 ("get",): "usage: orlo-prefs [OPTIONS] get KEY",
                 ("set", "Camera fov"): "usage: orlo-prefs [OPTIONS] set KEY VALUE",
+                ("reset",): "usage: orlo-prefs [OPTIONS] reset KEY | --all",
+                ("diff", "Camera fov"): "usage: orlo-prefs [OPTIONS] diff",
+                ("export", "a", "b"): "usage: orlo-prefs [OPTIONS] export [FILE|-]",
+                ("import", "--dry-run"): "usage: orlo-prefs [OPTIONS] import [--dry-run] FILE|-",
                 ("script",): "usage: orlo-prefs [OPTIONS] script FILE|-"}.items():
             with self.subTest(arguments):
                 self.assert_refused(self.tool(*arguments), message)
+
+    def test_each_command_has_a_help_of_its_own(self):
+        listed = re.findall(r"(?m)^  ([a-z]+) ", self.tool("--help").stdout)
+        self.assertEqual(listed, "list get set reset diff export import check script".split())
+        for command in listed:
+            help_text = self.tool(command, "--help").stdout
+            self.assertTrue(help_text.startswith(f"Usage: orlo-prefs [OPTIONS] {command}"), help_text)
+            self.assertEqual(self.tool("--help", command).stdout, help_text)
+
+    def test_an_output_that_takes_nothing_is_an_error(self):
+        with open("/dev/full", "w") as full:
+            result = subprocess.run(self.command("list"), stdout=full, stderr=subprocess.PIPE, env=self.environment,
+                                    encoding="utf-8", timeout=SECONDS, check=False)
+        self.assertEqual((result.stderr, result.returncode), ("Cannot write the output: No space left on device.\n", 2))
 
     def test_a_library_that_is_no_plugin_is_named_with_the_reason(self):
         broken = self.folder / "broken.so"

@@ -1,0 +1,169 @@
+#include "olControlBounds.h"
+
+#include "Embedded/olValue.h"
+#include "Preferences/olPreferencesEntry.h"
+#include "Widgets/QOLColorManipulator.h"
+#include "Widgets/QOLSlider.h"
+#include "Widgets/QOLWheelPrec.h"
+#include "olKnownSettings.h"
+#include "olNumberText.h"
+#include "olPageAccess.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace
+{
+
+/// The number as it is written: 0.6 in single precision is more than a bound of 0.6 in double precision.
+std::optional<double> numberOf(const boost::any &value)
+{
+    if (const auto *whole = boost::any_cast<int>(&value))
+        return *whole;
+    if (const auto *whole = boost::any_cast<unsigned>(&value))
+        return *whole;
+    if (const auto *fraction = boost::any_cast<float>(&value))
+        return QString::fromStdString(olValue::number(*fraction)).toDouble();
+    if (const auto *fraction = boost::any_cast<double>(&value))
+        return *fraction;
+    return std::nullopt;
+}
+
+/// What stands in a field for the value; nothing for one that does not go into a field.
+std::optional<QString> fieldText(const boost::any &value)
+{
+    if (const auto *text = boost::any_cast<QString>(&value))
+        return *text;
+    if (const auto *text = boost::any_cast<std::string>(&value))
+        return QString::fromStdString(*text);
+    if (numberOf(value))
+        return QString::fromStdString(olValue::toJson(value));
+    return std::nullopt;
+}
+
+template <class Control> QString outside(const Control &control, double number, const QString &expected)
+{
+    return number >= control.minimum() && number <= control.maximum() ? QString() : expected;
+}
+
+template <class Control> QString outsideFraction(const Control &control, double number)
+{
+    return outside(control, number, olNumbersBetween(control.minimum(), control.maximum()));
+}
+
+template <class Control> QString outsideWhole(const Control &control, double number)
+{
+    return outside(control, number, olWholeNumbersBetween(control.minimum(), control.maximum()));
+}
+
+QString boundsOfNumber(const QWidget *control, double number)
+{
+    if (const auto *box = qobject_cast<const QSpinBox *>(control))
+        return outsideWhole(*box, number);
+    if (const auto *slider = qobject_cast<const QSlider *>(control))
+        return outsideWhole(*slider, number);
+    if (const auto *box = qobject_cast<const QDoubleSpinBox *>(control))
+        return outsideFraction(*box, number);
+    if (const auto *slider = qobject_cast<const QOLSlider *>(control))
+        return outsideFraction(*slider, number);
+    if (const auto *wheel = qobject_cast<const QOLWheelPrec *>(control))
+        return outsideFraction(*wheel, number);
+    return {};
+}
+
+QString expectationOf(const QValidator &validator)
+{
+    if (const auto *whole = qobject_cast<const QIntValidator *>(&validator))
+        return olWholeNumbersBetween(whole->bottom(), whole->top());
+    if (const auto *fraction = qobject_cast<const QDoubleValidator *>(&validator))
+        return olNumbersBetween(fraction->bottom(), fraction->top());
+    return QStringLiteral("what the field's validator lets through");
+}
+
+QString boundsOfField(const QLineEdit &field, QString text)
+{
+    int cursor = text.size();
+    if (field.validator() && field.validator()->validate(text, cursor) != QValidator::Acceptable)
+        return expectationOf(*field.validator());
+    if (text.size() > field.maxLength())
+        return QStringLiteral("at most %1 characters").arg(field.maxLength());
+    return {};
+}
+
+QString boundsOfColor(const boost::any &value)
+{
+    const auto *color = boost::any_cast<osg::Color3f>(&value);
+    const auto isInRange = [](float channel) { return channel >= 0.0f && channel <= 1.0f; };
+    if (!color || (isInRange(color->red()) && isInRange(color->green()) && isInRange(color->blue())))
+        return {};
+    return QStringLiteral("three numbers from 0 to 1");
+}
+
+/// The values that a control with a few states stands for: only the page knows whether an item is its index, its data
+/// or its text. Empty for any other control, and where the page does not tell.
+std::vector<boost::any> choicesOf(const olKnownSetting &setting)
+{
+    std::vector<boost::any> choices;
+    const auto add = [&] { choices.push_back(olPageAccess::value(*setting.page, setting.key, setting.type)); };
+    const QSignalBlocker quiet(setting.control);
+    if (auto *combo = qobject_cast<QComboBox *>(setting.control)) {
+        if (combo->isEditable())
+            return {};
+        const int before = combo->currentIndex();
+        for (int item = 0; item < combo->count(); ++item) {
+            combo->setCurrentIndex(item);
+            add();
+        }
+        combo->setCurrentIndex(before);
+    } else if (auto *box = qobject_cast<QCheckBox *>(setting.control)) {
+        const Qt::CheckState before = box->checkState();
+        for (const bool isChecked : {false, true}) {
+            box->setChecked(isChecked);
+            add();
+        }
+        box->setCheckState(before);
+    }
+    const bool isTold = std::none_of(choices.begin(), choices.end(), [](const auto &choice) { return choice.empty(); });
+    return isTold ? choices : std::vector<boost::any>();
+}
+
+QString boundsOfChoice(const olKnownSetting &setting, const boost::any &value)
+{
+    const std::vector<boost::any> choices = choicesOf(setting);
+    const bool isAmong = std::any_of(choices.begin(), choices.end(),
+                                     [&value](const boost::any &choice) { return olValue::equal(choice, value); });
+    if (choices.empty() || isAmong)
+        return {};
+    QStringList texts;
+    for (const boost::any &choice : choices)
+        texts << QString::fromStdString(olValue::toJson(choice));
+    return QStringLiteral("one of ") + texts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+QString olControlBounds(const olKnownSetting &setting, const boost::any &value)
+{
+    if (!setting.control || olValue::identical(value, setting.standard))
+        return {};
+    if (const auto *field = qobject_cast<const QLineEdit *>(setting.control)) {
+        const std::optional<QString> text = fieldText(value);
+        return text ? boundsOfField(*field, *text) : QString();
+    }
+    if (qobject_cast<const QOLColorManipulator *>(setting.control))
+        return boundsOfColor(value);
+    const std::optional<double> number = numberOf(value);
+    const QString bounds = number ? boundsOfNumber(setting.control, *number) : QString();
+    return bounds.isEmpty() ? boundsOfChoice(setting, value) : bounds;
+}

@@ -1,0 +1,34 @@
+#include "olNumberText.h"
+
+#include "Embedded/olValue.h"
+
+#include <cmath>
+
+namespace
+{
+
+QString bound(double value) { return QString::fromStdString(olNumberText(value)); }
+
+} // namespace
+
+std::string olNumberText(double value)
+{
+    const auto narrow = float(value);
+    return double(narrow) == value ? olValue::number(narrow) : olValue::number(value);
+}
+
+QString olNumbersBetween(double lowest, double highest)
+{
+    if (std::isinf(lowest) && std::isinf(highest))
+        return QStringLiteral("a number");
+    if (std::isinf(highest))
+        return QStringLiteral("a number from %1").arg(bound(lowest));
+    if (std::isinf(lowest))
+        return QStringLiteral("a number up to %1").arg(bound(highest));
+    return QStringLiteral("a number from %1 to %2").arg(bound(lowest), bound(highest));
+}
+
+QString olWholeNumbersBetween(int lowest, int highest)
+{
+    return QStringLiteral("a whole number from %1 to %2").arg(lowest).arg(highest);
+}

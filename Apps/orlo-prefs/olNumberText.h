@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+/// What came from a float shows as that float: 0.2, not 0.20000000298023224.
+[[nodiscard]] std::string olNumberText(double value);
+
+/// Which numbers can be entered, for messages; bounds that are infinite are not named.
+[[nodiscard]] QString olNumbersBetween(double lowest, double highest);
+[[nodiscard]] QString olWholeNumbersBetween(int lowest, int highest);

@@ -1,0 +1,95 @@
+#include "olPrefsCommands.h"
+
+#include "olPrefsOptions.h"
+#include "olToolError.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+
+const olPrefsCommand commands[] = {
+    {"list", "list [--json | --markdown]", "all modules with their settings, values and defaults",
+     "Lists the modules with their settings: key, type, value, and the default where the value is another.\n"
+     "  --json      one array of modules, for programs\n"
+     "  --markdown  the catalogue of the documentation: keys, types, defaults and where they are on the pages\n",
+     &olPrefsCommands::list},
+    {"get", "get KEY", "prints the value of a setting as JSON",
+     "Prints the value that is in force: the stored one, else the default.\n", &olPrefsCommands::get},
+    {"set", "set KEY VALUE", "stores a value, JSON or plain text",
+     "Stores a value. VALUE is JSON of the setting's type; a text needs no quotes. A value that the control of the\n"
+     "setting could not hold is refused, and so is any value of a locked setting. The viewer may be running.\n",
+     &olPrefsCommands::set},
+    {"reset", "reset KEY | --all", "takes a setting back to its default",
+     "Takes a setting back to its default, which is the site's where the site gives one.\n"
+     "  --all       all settings\n",
+     &olPrefsCommands::reset},
+    {"diff", "diff", "what differs from the defaults",
+     "Prints a line for each setting that differs from its default: KEY  DEFAULT -> VALUE.\n", &olPrefsCommands::diff},
+    {"export", "export [FILE|-]", "writes all settings to a file of preferences",
+     "Writes the values in force of all settings, with their types, as JSON to a file, or to the standard output\n"
+     "with - or without a name. An existing file is replaced.\n",
+     &olPrefsCommands::exportTo},
+    {"import", "import [--dry-run] FILE|-", "stores the settings of such a file",
+     "Stores the settings of a file that export wrote, read from the standard input with -. Unknown keys, values of\n"
+     "another type or out of range, and locked settings are named on the standard error stream and skipped.\n"
+     "  --dry-run   prints what would change, KEY  VALUE -> NEW VALUE, and stores nothing\n",
+     &olPrefsCommands::importFrom},
+    {"check", "check", "looks for damage in the store and faults in the site's files",
+     "Prints a line for each thing that is wrong with the store, its copy or the site's files, and changes nothing.\n"
+     "The exit status is 0 when nothing is wrong, else 2.\n",
+     &olPrefsCommands::check},
+    {"script", "script FILE|-", "runs a script from a file or the standard input",
+     "Drives the modules operation by operation and prints every host call. A script begins with empty preferences,\n"
+     "or with those of --store, and never writes any.\n",
+     &olPrefsCommands::script},
+};
+
+/// The names as a sentence has them.
+QString names(const char *lastConjunction)
+{
+    QStringList names;
+    for (const olPrefsCommand &command : commands)
+        names << QLatin1String(command.name);
+    const QString last = names.takeLast();
+    return names.join(QLatin1String(", ")) + QLatin1String(lastConjunction) + last;
+}
+
+} // namespace
+
+const olPrefsCommand &olPrefsCommands::named(const QString &name)
+{
+    if (name.isEmpty())
+        throw olToolError(QStringLiteral("a command is missing: %1; see --help").arg(names(" or ")));
+    const auto *found = std::find_if(std::begin(commands), std::end(commands), [&name](const olPrefsCommand &command) {
+        return name == QLatin1String(command.name);
+    });
+    if (found == std::end(commands))
+        throw olToolError(QStringLiteral("there is no command %1, only %2; see --help").arg(name, names(" and ")));
+    return *found;
+}
+
+std::string olPrefsCommands::help()
+{
+    std::string text = "Usage: orlo-prefs [OPTIONS] COMMAND\n"
+                       "Shows and changes ORLO's preferences, and drives them by script. It needs no display.\n"
+                       "\n"
+                       "Commands; orlo-prefs COMMAND --help tells more of each\n";
+    constexpr std::size_t column = 29;
+    for (const olPrefsCommand &command : commands) {
+        std::string usage = command.usage;
+        usage.resize(column, ' ');
+        text += "  " + usage + command.summary + '\n';
+    }
+    return text + '\n' + olPrefsOptions::optionsHelp() +
+           "\n"
+           "The exit status is 0, or 2 with a message on the standard error stream.\n";
+}
+
+std::string olPrefsCommands::help(const olPrefsCommand &command)
+{
+    return std::string("Usage: orlo-prefs [OPTIONS] ") + command.usage + '\n' + command.details;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+class olPrefsTool;
+
+/// A command of the tool as the user finds it.
+struct olPrefsCommand {
+    const char *name;
+    const char *usage;   ///< the command and its arguments
+    const char *summary; ///< for the list of all; further lines are of options
+    const char *details; ///< what its own help says besides
+    void (*run)(olPrefsTool &);
+};
+
+/// All commands. Each ends with an olToolError where it cannot do what it says.
+namespace olPrefsCommands
+{
+
+/// Throws olToolError where there is none of that name.
+[[nodiscard]] const olPrefsCommand &named(const QString &name);
+
+/// The help of the tool, and that of one command.
+[[nodiscard]] std::string help();
+[[nodiscard]] std::string help(const olPrefsCommand &command);
+
+void list(olPrefsTool &tool);
+void get(olPrefsTool &tool);
+void diff(olPrefsTool &tool);
+void set(olPrefsTool &tool);
+void reset(olPrefsTool &tool);
+void exportTo(olPrefsTool &tool);
+void importFrom(olPrefsTool &tool);
+void check(olPrefsTool &tool);
+void script(olPrefsTool &tool);
+
+} // namespace olPrefsCommands
