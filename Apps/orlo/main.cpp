@@ -1,9 +1,13 @@
+#include "olBatch.h"
+#include "olGivenSettings.h"
 #include "olMainWindow.h"
 #include "olTour.h"
 
 #include "Embedded/olEdition.h"
 #include "Embedded/olHostState.h"
 #include "Preferences/olPreferencesSession.h"
+#include "Viewport/olScene.h"
+#include "Viewport/olViewport.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -37,6 +41,58 @@ void tell(const QStringList &notices, QWidget *window)
     box->show();
 }
 
+bool isBatch(const QCommandLineParser &options)
+{
+    return options.isSet(QStringLiteral("render")) || options.isSet(QStringLiteral("save"));
+}
+
+/// What stands on the command line but makes no sense; empty where all does.
+QString misuse(const QCommandLineParser &options)
+{
+    const bool isRendering = options.isSet(QStringLiteral("render"));
+    if (isRendering && !options.isSet(QStringLiteral("output")))
+        return QStringLiteral("--render needs --output PICTURE");
+    if (isRendering && !olBatch::sizeFrom(options.value(QStringLiteral("size"))))
+        return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 16384")
+            .arg(options.value(QStringLiteral("size")));
+    if (options.isSet(QStringLiteral("save")) && !options.isSet(QStringLiteral("sample")))
+        return QStringLiteral("--save needs --sample");
+    if (options.positionalArguments().size() > 1)
+        return QStringLiteral("only one model can be opened at a time");
+    return {};
+}
+
+/// Without a window, and without storing anything.
+int runBatch(const QCommandLineParser &options)
+{
+    if (options.isSet(QStringLiteral("render")))
+        return olBatch::render(options.value(QStringLiteral("render")), options.value(QStringLiteral("output")),
+                               *olBatch::sizeFrom(options.value(QStringLiteral("size"))));
+    olScene scene;
+    scene.loadSample();
+    return olBatch::save(scene, options.value(QStringLiteral("save")));
+}
+
+/// The preferences come up, with those given for this run, and then the work is done.
+int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
+{
+    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    if (!pluginError.isEmpty())
+        return fail(pluginError);
+    session.fillDefaults();
+    const QString fault = olSetGivenSettings(options.values(QStringLiteral("set")));
+    if (!fault.isEmpty()) {
+        std::fprintf(stderr, "orlo: %s\n", qPrintable(fault));
+        session.stop();
+        return 2;
+    }
+    session.start();
+    tell(session.takeNotices(), nullptr);
+    const int result = runBatch(options);
+    session.stop();
+    return result;
+}
+
 /// From the options of the command line to the end of the run.
 int run(const QCommandLineParser &options)
 {
@@ -48,6 +104,11 @@ int run(const QCommandLineParser &options)
                      qPrintable(options.value(QStringLiteral("edition"))));
         return 2;
     }
+    const QString wrong = misuse(options);
+    if (!wrong.isEmpty()) {
+        std::fprintf(stderr, "orlo: %s\n", qPrintable(wrong));
+        return 2;
+    }
     host.edition = *edition;
     host.applicationName = options.value(QStringLiteral("app-name"));
 
@@ -57,12 +118,24 @@ int run(const QCommandLineParser &options)
     if (!storeError.isEmpty())
         return fail(storeError);
 
+    if (isBatch(options))
+        return startAndRunBatch(session, options);
+
     olMainWindow window(session);
     const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.start();
+    if (options.isSet(QStringLiteral("sample"))) {
+        window.scene().loadSample();
+        session.newScene();
+    }
     window.show();
+    const QStringList models = options.positionalArguments();
+    if (!models.isEmpty())
+        window.openModel(models.first());
+    if (options.isSet(QStringLiteral("preferences")))
+        window.openPreferences();
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
@@ -81,6 +154,7 @@ int main(int argc, char *argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    olViewport::prepareApplication();
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("ORLO"));
     QApplication::setApplicationName(QStringLiteral("orlo"));
@@ -98,6 +172,24 @@ int main(int argc, char *argv[])
         {QStringLiteral("store"), QStringLiteral("The file that keeps the preferences."), QStringLiteral("file")});
     options.addOption(
         {QStringLiteral("plugin"), QStringLiteral("The preferences plug-in to load."), QStringLiteral("file")});
+    options.addOption(
+        {QStringLiteral("sample"), QStringLiteral("Open a small assembly that the program builds itself.")});
+    options.addOption({QStringLiteral("save"),
+                       QStringLiteral("With --sample: write it in the format of the suffix, and end."),
+                       QStringLiteral("file")});
+    options.addOption({QStringLiteral("render"),
+                       QStringLiteral("Import a model, write one picture of it to --output, and end."),
+                       QStringLiteral("model")});
+    options.addOption(
+        {QStringLiteral("output"), QStringLiteral("Where --render puts its picture."), QStringLiteral("picture")});
+    options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
+                       QStringLiteral("WxH"), QStringLiteral("1280x720")});
+    options.addOption({QStringLiteral("set"),
+                       QStringLiteral("A setting for --render and --save, as \"KEY=VALUE\"; nothing is saved."),
+                       QStringLiteral("setting")});
+    options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
+                                  QStringLiteral("[model]"));
+    options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});

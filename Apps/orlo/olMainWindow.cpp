@@ -2,43 +2,168 @@
 
 #include "olHostStatePanel.h"
 #include "olJournalPanel.h"
+#include "olModelFiles.h"
 
+#include "Embedded/olHostState.h"
 #include "Preferences/olPreferencesDialog.h"
 #include "Preferences/olPreferencesSession.h"
+#include "Viewport/olScene.h"
+#include "Viewport/olViewport.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
 #include <QMenuBar>
-#include <QSplitter>
+#include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+/// A window that cannot be seen could not be brought back.
+constexpr double faintestWindow = 0.1;
+
+} // namespace
+
 olMainWindow::olMainWindow(olPreferencesSession &session)
-    : m_session(session), m_state(new olHostStatePanel), m_journal(new olJournalPanel)
+    : m_session(session),
+      m_scene(std::make_unique<olScene>()),
+      m_files(std::make_unique<olModelFiles>(*this, *m_scene)),
+      m_state(new olHostStatePanel),
+      m_journal(new olJournalPanel)
 {
     setWindowTitle(tr("ORLO"));
-    auto *panels = new QSplitter;
-    panels->addWidget(m_state);
-    panels->addWidget(m_journal);
-    panels->setChildrenCollapsible(false);
-    setCentralWidget(panels);
+    addCentre();
+    addDocks();
     addMenus();
+    addViewActions();
+    m_frameRate = new QLabel;
+    statusBar()->addPermanentWidget(m_frameRate);
     statusBar()->showMessage(tr("Edit > Preferences changes what you see here."));
 
     const QFontMetrics metrics = fontMetrics();
     resize(metrics.averageCharWidth() * 150, metrics.height() * 40);
+    olHostState::the().addObserver(*this);
+    applyWindowSettings();
 }
 
-olMainWindow::~olMainWindow() = default;
+olMainWindow::~olMainWindow() { olHostState::the().removeObserver(*this); }
+
+void olMainWindow::addCentre()
+{
+    if (!olViewport::isSupported()) {
+        auto *reason = new QLabel(tr("The 3D view needs an X display with OpenGL."));
+        reason->setAlignment(Qt::AlignCenter);
+        setCentralWidget(reason);
+        return;
+    }
+    m_viewport = new olViewport;
+    m_viewport->setScene(m_scene.get());
+    setCentralWidget(m_viewport);
+    connect(m_viewport, &olViewport::failed, this, [this](const QString &reason) { statusBar()->showMessage(reason); });
+    connect(m_viewport, &olViewport::framesPerSecondMeasured, this,
+            [this](double frames) { m_frameRate->setText(tr("%1 frames/s").arg(frames, 0, 'f', 1)); });
+}
+
+void olMainWindow::addDocks()
+{
+    const auto add = [this](const QString &title, const char *name, QWidget *content, Qt::DockWidgetArea area) {
+        auto *dock = new QDockWidget(title);
+        dock->setObjectName(QLatin1String(name));
+        dock->setWidget(content);
+        addDockWidget(area, dock);
+        m_docks.append(dock);
+        return dock;
+    };
+    QDockWidget *state = add(tr("Host State"), "hostStateDock", m_state, Qt::RightDockWidgetArea);
+    QDockWidget *calls = add(tr("Host Calls"), "hostCallsDock", m_journal, Qt::BottomDockWidgetArea);
+    const QFontMetrics metrics = fontMetrics();
+    resizeDocks({state}, {metrics.averageCharWidth() * 45}, Qt::Horizontal);
+    resizeDocks({calls}, {metrics.height() * 10}, Qt::Vertical);
+}
+
+void olMainWindow::stateChanged(const olHostValueBase &value)
+{
+    const olHostState &state = olHostState::the();
+    if (&value == &state.fpsShown || &value == &state.windowOpacity || &value == &state.mainWindowDocking ||
+        &value == &state.buttonTextShown)
+        applyWindowSettings();
+}
+
+void olMainWindow::applyWindowSettings()
+{
+    const olHostState &state = olHostState::the();
+    m_frameRate->setVisible(state.fpsShown);
+    const double opacity = state.windowOpacity;
+    setWindowOpacity(std::isfinite(opacity) ? std::clamp(opacity, faintestWindow, 1.0) : 1.0);
+    const auto movable = QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable;
+    const auto closable = QDockWidget::DockWidgetClosable;
+    for (QDockWidget *dock : m_docks) {
+        dock->setFeatures(state.mainWindowDocking ? movable | closable : QDockWidget::DockWidgetFeatures(closable));
+        if (!state.mainWindowDocking)
+            dock->setFloating(false);
+    }
+    m_tools->setToolButtonStyle(state.buttonTextShown ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+}
+
+void olMainWindow::addViewActions()
+{
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    m_tools = addToolBar(tr("View"));
+    m_tools->setObjectName(QStringLiteral("viewTools"));
+    const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
+    QAction *all = m_tools->addAction(icon(QStyle::SP_TitleBarMaxButton), tr("Show &All"));
+    all->setShortcut(QKeySequence(Qt::Key_Home));
+    QAction *zoom = m_tools->addAction(icon(QStyle::SP_FileDialogContentsView), tr("&Zoom To"));
+    zoom->setShortcut(QKeySequence(Qt::Key_End));
+    zoom->setToolTip(tr("Brings what is selected near"));
+    view->addActions({all, zoom});
+    view->addSeparator();
+    QAction *stereo = view->addAction(tr("Stereo for &Red and Cyan Glasses"));
+    QAction *rays = view->addAction(tr("Trace Ra&ys"));
+    view->addSeparator();
+    for (QDockWidget *dock : m_docks)
+        view->addAction(dock->toggleViewAction());
+    for (QAction *action : {all, zoom, stereo, rays})
+        action->setEnabled(m_viewport != nullptr);
+    stereo->setCheckable(true);
+    rays->setCheckable(true);
+    if (!m_viewport)
+        return;
+    connect(all, &QAction::triggered, m_viewport, &olViewport::showAll);
+    connect(zoom, &QAction::triggered, m_viewport, &olViewport::zoomToSelection);
+    connect(stereo, &QAction::toggled, m_viewport, &olViewport::setAnaglyph);
+    connect(rays, &QAction::toggled, m_viewport, &olViewport::setRaytracing);
+}
 
 olPreferencesDialog &olMainWindow::openPreferences(const QString &module)
 {
     if (!m_preferences)
         m_preferences = std::make_unique<olPreferencesDialog>(m_session, this);
+    const bool wasVisible = m_preferences->isVisible();
     m_preferences->open(module);
+    if (!wasVisible)
+        placePreferencesBeside();
     return *m_preferences;
 }
+
+void olMainWindow::placePreferencesBeside()
+{
+    // What changes in the view shall be seen; where the screen is too narrow the dialog covers the docks first.
+    const QRect room = screen()->availableGeometry();
+    const QSize own = m_preferences->frameGeometry().size();
+    const int right = std::min(frameGeometry().right() + 1, room.right() - own.width());
+    m_preferences->move(std::max(right, room.left()), std::max(frameGeometry().top(), room.top()));
+}
+
+void olMainWindow::openModel(const QString &file) { m_files->open(file); }
 
 void olMainWindow::closePreferences() { m_preferences.reset(); }
 
@@ -59,7 +184,17 @@ void olMainWindow::addMenus()
     QMenu *file = menuBar()->addMenu(tr("&File"));
     QAction *newScene = file->addAction(tr("&New Scene"));
     newScene->setShortcut(QKeySequence::New);
-    connect(newScene, &QAction::triggered, this, [this] { m_session.newScene(); });
+    connect(newScene, &QAction::triggered, this, [this] {
+        m_scene->clear();
+        m_session.newScene();
+    });
+    QAction *sample = file->addAction(tr("Open the &Sample"));
+    connect(sample, &QAction::triggered, this, [this] {
+        m_scene->loadSample();
+        m_session.newScene();
+    });
+    m_files->addTo(*file);
+    connect(m_files.get(), &olModelFiles::imported, this, [this] { m_session.newScene(); });
     file->addSeparator();
     QAction *quit = file->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);

@@ -1,16 +1,25 @@
 #pragma once
 
+#include "Embedded/olHostValue.h"
+
 #include <QMainWindow>
 
 #include <memory>
 
+class QDockWidget;
+class QLabel;
+class QToolBar;
 class olHostStatePanel;
 class olJournalPanel;
+class olModelFiles;
 class olPreferencesDialog;
 class olPreferencesSession;
+class olScene;
+class olViewport;
 
-/// The viewer's window: what the host holds and what it was told, and the way to the preferences.
-class olMainWindow : public QMainWindow
+/// The viewer's window: the scene as the host's state shows it, what the host holds and what it was told, and the way
+/// to the preferences.
+class olMainWindow : public QMainWindow, private olHostObserver
 {
     Q_OBJECT
 
@@ -25,15 +34,35 @@ public:
     /// Gives all pages back to their modules; to be called before the plug-in is unloaded.
     void closePreferences();
 
+    [[nodiscard]] olScene &scene() { return *m_scene; }
+
+    /// Reads a model into the scene, and says so where it cannot.
+    void openModel(const QString &file);
+
+    /// Null where the display cannot show a 3D view.
+    [[nodiscard]] olViewport *viewport() { return m_viewport; }
+
     [[nodiscard]] const olJournalPanel &journal() const { return *m_journal; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void stateChanged(const olHostValueBase &value) override;
+    void addCentre();
+    void addDocks();
     void addMenus();
+    void addViewActions();
+    void applyWindowSettings();
+    void placePreferencesBeside();
 
     olPreferencesSession &m_session;
+    std::unique_ptr<olScene> m_scene;
+    std::unique_ptr<olModelFiles> m_files;
+    olViewport *m_viewport = nullptr;
+    QList<QDockWidget *> m_docks;
+    QToolBar *m_tools = nullptr;
+    QLabel *m_frameRate = nullptr;
     olHostStatePanel *m_state;
     olJournalPanel *m_journal;
     std::unique_ptr<olPreferencesDialog> m_preferences;

@@ -4,11 +4,13 @@
 #include "olMainWindow.h"
 
 #include "Preferences/olPreferencesDialog.h"
+#include "Viewport/olViewport.h"
 #include "Widgets/QOLSlider.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QImage>
 #include <QPixmap>
 #include <QTextStream>
 
@@ -17,7 +19,7 @@
 namespace
 {
 
-constexpr double changedFieldOfView = 60.0;
+constexpr double changedFieldOfView = 25.0;
 
 /// Lets the windows draw themselves before they are looked at.
 void settle()
@@ -56,7 +58,8 @@ int olTour::run(const QString &folder)
         std::fprintf(stderr, "orlo: the camera has no page in this edition; nothing to show\n");
         return 1;
     }
-    bool saved = picture(m_window, QStringLiteral("before.png"));
+    bool saved = viewPicture(QStringLiteral("view-before.png"));
+    saved = picture(m_window, QStringLiteral("before.png")) && saved;
     slider->setValue(changedFieldOfView);
     settle();
     saved = picture(preferences, QStringLiteral("preferences.png")) && saved;
@@ -67,6 +70,7 @@ int olTour::run(const QString &folder)
         return 1;
     }
     settle();
+    saved = viewPicture(QStringLiteral("view-after.png")) && saved;
     saved = picture(m_window, QStringLiteral("after.png")) && saved;
     const QStringList calls = m_window.journal().calls().mid(callsBefore);
     out << "Applied: Field of View " << changedFieldOfView << '\n';
@@ -75,10 +79,22 @@ int olTour::run(const QString &folder)
     return saved && !calls.isEmpty() ? 0 : 1;
 }
 
-bool olTour::picture(QWidget &widget, const QString &name) const
+bool olTour::viewPicture(const QString &name) const
+{
+    olViewport *viewport = m_window.viewport();
+    if (!viewport) {
+        std::fprintf(stderr, "orlo: this display shows no 3D view; there is no picture of it\n");
+        return false;
+    }
+    return save(viewport->picture(), name);
+}
+
+bool olTour::picture(QWidget &widget, const QString &name) const { return save(widget.grab().toImage(), name); }
+
+bool olTour::save(const QImage &image, const QString &name) const
 {
     const QString file = QDir(m_folder).absoluteFilePath(name);
-    if (!widget.grab().save(file)) {
+    if (!image.save(file)) {
         std::fprintf(stderr, "orlo: the picture %s cannot be written\n", qPrintable(file));
         return false;
     }

@@ -2,10 +2,11 @@
 
 #include <QString>
 
+class QImage;
 class QWidget;
 class olMainWindow;
 
-/// Shows without a person at the screen that a change in the preferences reaches the host.
+/// Shows without a person at the screen that a change in the preferences reaches the view.
 class olTour
 {
 public:
@@ -16,6 +17,8 @@ public:
     [[nodiscard]] int run(const QString &folder);
 
 private:
+    [[nodiscard]] bool viewPicture(const QString &name) const;
+    [[nodiscard]] bool save(const QImage &image, const QString &name) const;
     [[nodiscard]] bool picture(QWidget &widget, const QString &name) const;
 
     olMainWindow &m_window;

@@ -77,8 +77,7 @@ std::string withType(const boost::any &value)
 
 olWebAnswer json(const std::string &text)
 {
-    // By way of QString, which replaces what is no UTF-8: texts of the record are any bytes, as file names are.
-    return {200, "application/json; charset=utf-8", QString::fromStdString(text).toUtf8()};
+    return {200, "application/json; charset=utf-8", QByteArray::fromStdString(text)};
 }
 
 olWebAnswer message(unsigned status, const QString &text)

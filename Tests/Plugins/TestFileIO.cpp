@@ -1,15 +1,12 @@
 #include "Support/PluginTest.h"
-#include "Utilities/olPlatform.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QHeaderView>
-#include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
 namespace
 {
@@ -35,14 +32,6 @@ protected:
         return paths;
     }
 };
-
-TEST_F(FileIO, SearchPathsAreSelectedButNotEdited)
-{
-    EXPECT_EQ(table().item(0, 0)->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-    EXPECT_EQ(table().rowHeight(0), 20);
-    EXPECT_EQ(table().horizontalHeaderItem(0)->text(), "Path");
-    EXPECT_TRUE(table().isSortingEnabled());
-}
 
 TEST_F(FileIO, SearchPathsAreSortedByTheUserAndKeptInThatOrderOnlyWhenConfirmed)
 {
@@ -91,20 +80,6 @@ TEST_F(FileIO, DeleteTakesEverySelectedRow)
         table().item(row, 0)->setSelected(true);
     ASSERT_TRUE(QMetaObject::invokeMethod(module("FileIO").page(), "clickedSub"));
     EXPECT_EQ(rows(), Paths{"/a"});
-}
-
-TEST_F(FileIO, ControlsAreAsThePageNeedsThem)
-{
-    const auto &browse = control<QToolButton>("FileIO", "browseTmpPath");
-    const QSize size(olPlatform::getMediumIconSizeX() + 2, olPlatform::getMediumIconSizeY() + 2);
-    EXPECT_EQ(browse.minimumSize(), size);
-    EXPECT_EQ(browse.maximumSize(), size);
-    EXPECT_FALSE(browse.icon().isNull());
-
-    const auto &tasks = control<QSpinBox>("FileIO", "maxParallelTasks");
-    EXPECT_EQ(tasks.minimum(), -1);
-    EXPECT_EQ(tasks.maximum(), 32768);
-    EXPECT_EQ(tasks.toolTip(), "Sets the maximum number of import tasks. Changing this value increases memory usage. ");
 }
 
 } // namespace

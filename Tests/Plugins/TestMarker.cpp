@@ -3,9 +3,7 @@
 #include "Widgets/QOLColorManipulator.h"
 
 #include <QImage>
-#include <QLineEdit>
 #include <QMetaObject>
-#include <QValidator>
 
 namespace
 {
@@ -42,17 +40,6 @@ TEST_F(Marker, ThePreviewFollowsTheWireframesColourAndTellsTheHostNothing)
     EXPECT_TRUE(calls.take().empty());
     module("Selection").updateGUI();
     EXPECT_FALSE(previewShows(Qt::red)) << "filling shows the stored colour";
-}
-
-TEST_F(Marker, TheSizesFieldTakesNumbersOnly)
-{
-    const auto stateOf = [](QString text) {
-        int position = 0;
-        return control<QLineEdit>("Selection", "markerSize").validator()->validate(text, position);
-    };
-    EXPECT_EQ(stateOf("1.5"), QValidator::Acceptable);
-    EXPECT_EQ(stateOf("1,5"), QValidator::Invalid);
-    EXPECT_EQ(stateOf("big"), QValidator::Invalid);
 }
 
 } // namespace

@@ -2,9 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QLabel>
 #include <QMetaObject>
-#include <QSpinBox>
 #include <QVariant>
 
 namespace
@@ -77,23 +75,6 @@ TEST_F(Navigator, ResettingTheInteractionModeAloneSetsOffNoPreset)
     EXPECT_TRUE(isChecked("dollyToPivot"));
     EXPECT_TRUE(isChecked("pivotBasedPanning"));
     EXPECT_EQ(indexOf("dollyAxis"), 2);
-}
-
-TEST_F(Navigator, TheModesBearTheHostsNumbers)
-{
-    const auto items = [](const char *name) {
-        const auto &combo = control<QComboBox>("Navigator", name);
-        QStringList list;
-        for (int index = 0; index < combo.count(); ++index)
-            list << combo.itemText(index) + '=' + combo.itemData(index).toString();
-        return list.join(' ').toStdString();
-    };
-    EXPECT_EQ(items("navigationMode"), "Trackball=0 TwoAxis=3 Fly=1 Orientation=4");
-    EXPECT_EQ(items("interactionMode"), "ORLO=0 Contura=1 Mirra=2");
-    restart(olEdition::Design);
-    EXPECT_EQ(items("navigationMode"), "Trackball=0 TwoAxis=3 Fly=1 Orientation=4");
-    restart(olEdition::Essentials);
-    EXPECT_EQ(items("navigationMode"), "Trackball=0 TwoAxis=3");
 }
 
 } // namespace

@@ -2,9 +2,6 @@
 
 #include "Widgets/QOLColorDialog.h"
 
-#include <QHeaderView>
-#include <QPushButton>
-#include <QTabWidget>
 #include <QTableWidget>
 
 namespace
@@ -78,19 +75,6 @@ TEST_F(RenderOptions, OneRowGoesAtATimeThoughSeveralAreSelected)
     EXPECT_EQ((Cells{"0.749020 0.749020 0.749020"}), column(0));
 }
 
-TEST_F(RenderOptions, TheButtonsReachTheirSlots)
-{
-    control<QPushButton>("Render Options", "addColor").click();
-    EXPECT_EQ(3, table().rowCount());
-    table().selectRow(2);
-    control<QPushButton>("Render Options", "deleteColor").click();
-    EXPECT_EQ(2, table().rowCount());
-    table().selectRow(0);
-    control<QPushButton>("Render Options", "chooseColor").click();
-    ASSERT_TRUE(dialog());
-    EXPECT_TRUE(dialog()->isVisible());
-}
-
 TEST_F(RenderOptions, TheColourGoesToTheRowThatIsSelectedWhenItIsAccepted)
 {
     table().selectRow(0);
@@ -106,25 +90,6 @@ TEST_F(RenderOptions, TheColourGoesToTheRowThatIsSelectedWhenItIsAccepted)
     EXPECT_EQ((Cells{"1", "0"}), column(1));
 }
 
-TEST_F(RenderOptions, ACancelledColourChangesNothing)
-{
-    call("clickedChooseColor");
-    EXPECT_FALSE(dialog()) << "nothing is selected";
-
-    table().selectRow(1);
-    call("clickedChooseColor");
-    dialog()->setColor({1.0f, 0.0f, 0.0f});
-    dialog()->reject();
-    EXPECT_FALSE(dialog()->isVisible());
-
-    table().clearSelection();
-    call("clickedChooseColor");
-    EXPECT_FALSE(dialog()->isVisible());
-    call("acceptedChooseColor");
-    EXPECT_EQ((Cells{"0.207843 0.207843 0.207843", "0.749020 0.749020 0.749020"}), column(0));
-    EXPECT_EQ(1, page().findChildren<QOLColorDialog *>().size());
-}
-
 TEST_F(RenderOptions, ResettingOneColumnLeavesTheOther)
 {
     table().item(0, 0)->setText("1 0 0");
@@ -138,32 +103,6 @@ TEST_F(RenderOptions, ResettingOneColumnLeavesTheOther)
     EXPECT_TRUE(shown);
     EXPECT_EQ((Cells{"0.000000 1.000000 0.000000", "0.000000 0.000000 1.000000"}), column(0));
     EXPECT_EQ((Cells{"0.9", "0"}), column(1));
-}
-
-TEST_F(RenderOptions, TheHeadersFitTheirContents)
-{
-    const QHeaderView &header = *table().horizontalHeader();
-    EXPECT_EQ("Color", table().horizontalHeaderItem(0)->text());
-    EXPECT_EQ("Position", table().horizontalHeaderItem(1)->text());
-    EXPECT_TRUE(header.defaultAlignment() & Qt::AlignLeft);
-    for (int column : {0, 1})
-        EXPECT_EQ(QHeaderView::ResizeToContents, header.sectionResizeMode(column));
-}
-
-TEST_F(RenderOptions, OnlyEssentialsLacksTheSecondTab)
-{
-    const auto tabs = [] {
-        auto &widget = control<QTabWidget>("Render Options", "tabs");
-        Cells texts;
-        for (int tab = 0; tab < widget.count(); ++tab)
-            texts.push_back(widget.tabText(tab).toStdString());
-        return texts;
-    };
-    EXPECT_EQ((Cells{"Rendering", "Advanced", "Viewport"}), tabs());
-    restart(olEdition::Design);
-    EXPECT_EQ((Cells{"Rendering", "Advanced", "Viewport"}), tabs());
-    restart(olEdition::Essentials);
-    EXPECT_EQ((Cells{"Rendering", "Viewport"}), tabs());
 }
 
 TEST_F(RenderOptions, WhatAnEditionHidesLeavesNoGap)

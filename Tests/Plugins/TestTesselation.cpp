@@ -1,14 +1,10 @@
-#include "Embedded/olHostState.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "Support/BoxWatch.h"
 #include "Support/PluginTest.h"
 
-#include <QApplication>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 namespace
@@ -16,27 +12,22 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-/// Answers every message box that opens while it lives, and keeps what they said.
-class AnsweredBoxes : public QObject
+const std::string refusal = "Tesselation: Only positive non zero values are allowed!";
+
+/// Accepts every message box, and keeps what they said.
+class AnsweredBoxes : public BoxWatch
 {
 public:
-    AnsweredBoxes() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
+    AnsweredBoxes()
+        : BoxWatch([this](QMessageBox &box) {
+              said.push_back((box.windowTitle() + ": " + box.text()).toStdString());
+              box.accept();
+          })
     {
-        auto *box = event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
-        if (box) {
-            said.push_back((box->windowTitle() + ": " + box->text()).toStdString());
-            EXPECT_EQ(box->icon(), QMessageBox::Warning);
-            QTimer::singleShot(0, box, &QMessageBox::accept);
-        }
-        return false;
     }
 
     Texts said;
 };
-
-const std::string refusal = "Tesselation: Only positive non zero values are allowed!";
 
 class Tesselation : public PluginTest
 {
@@ -153,21 +144,6 @@ TEST_F(Tesselation, RemovesAllSelectedRowsThroughItsSlots)
     ASSERT_TRUE(QMetaObject::invokeMethod(page, "clickedAdd"));
     EXPECT_EQ(rows().size(), 4u);
     EXPECT_TRUE(tree().topLevelItem(3)->isSelected());
-}
-
-TEST_F(Tesselation, IsBuiltByALaterCallOnceTheEditionIsNoLongerTheReducedOne)
-{
-    restart(olEdition::Essentials);
-    const auto find = [] { return olPreferencesRegistry::the().find("Tesselation"); };
-    EXPECT_EQ(find(), nullptr);
-    const std::size_t count = modules().size();
-
-    olHostState::the().edition = olEdition::Design;
-    EXPECT_EQ(plugin.enter(), QString());
-    ASSERT_NE(find(), nullptr);
-    EXPECT_EQ(find()->category(), "Import");
-    EXPECT_EQ(find()->page()->windowTitle(), "Tolerance");
-    EXPECT_EQ(modules().size(), count + 1);
 }
 
 } // namespace

@@ -14,27 +14,7 @@
 
 #include <OpenSG/OSGColor.h>
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QFileDialog>
-#include <QFormLayout>
-#include <QGroupBox>
-#include <QIntValidator>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSettings>
-#include <QSpinBox>
-#include <QStandardItemModel>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QToolButton>
-#include <QTreeWidget>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <memory>
 #include <string>
@@ -107,7 +87,6 @@ private:
         auto &wheel = add<QOLWheelPrec>(tab, "Speed");
         wheel.setMinimum(0.0);
         wheel.setDecimals(2);
-        add<QOLWheelPrec>(tab, "Anything");
         auto &colors = add<QOLColorManipulator>(tab, "Colour");
         connect(&colors, &QOLColorManipulator::colorChanged, this, [this] { hear("coloured"); });
 
@@ -174,16 +153,11 @@ private:
         });
         connect(&addButton(tab, "Browse"), &QPushButton::clicked, this, [this] {
             hear('<' + QFileDialog::getExistingDirectory(nullptr, "Pick \"it\"", m_tabs->tabText(9)) + '>');
-            hear('<' + QFileDialog::getExistingDirectory(nullptr, "Again", "some//where\\") + '>');
         });
         connect(&addButton(tab, "Open Colours"), &QPushButton::clicked, m_colors, &QDialog::open);
         connect(m_colors, &QDialog::rejected, this, [this] { hear("rejected"); });
         connect(m_colors, &QDialog::accepted, this,
                 [this] { hear(QString::number(double(m_colors->getColor().red()))); });
-        connect(&addButton(tab, "Complain"), &QPushButton::clicked, this, [] {
-            olLog::info("all is well");
-            olLog::error("all is \"lost\"");
-        });
     }
 
     void ask()
@@ -201,9 +175,9 @@ private:
     QOLColorDialog *m_colors = new QOLColorDialog(this);
 };
 
-template <class... Values> void offer(bool flag, const char *key, const Values &...value)
+template <class Value> void offer(bool flag, const char *key, const Value &value)
 {
-    (olPreferences::getData().set(key, value, flag), ...);
+    olPreferences::getData().set(key, value, flag);
 }
 
 class SampleModule : public olPreferences

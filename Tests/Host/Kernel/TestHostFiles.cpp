@@ -1,10 +1,6 @@
-#include "Embedded/olHostState.h"
 #include "Kernel/olPreferences.h"
 #include "Kernel/olTexSearch.h"
-#include "Utilities/olFile.h"
-#include "Utilities/olLog.h"
 #include "Utilities/olMessage.h"
-#include "Utilities/olPlatform.h"
 
 #include <gtest/gtest.h>
 
@@ -81,51 +77,6 @@ TEST_F(HostFiles, TextureIsFoundInTheFirstDirectoryThatHasIt)
 
     const std::string nearer = makeFile("first/oak.png");
     EXPECT_EQ(olTexSearch::find("oak.png"), nearer);
-}
-
-TEST_F(HostFiles, ExistenceTakesDirectoriesUnlessAFileIsAskedFor)
-{
-    const std::string directory = makeDirectory("d\xc3\xa4");
-    const std::string file = makeFile("f");
-    EXPECT_TRUE(olFile::exists(directory, false, false));
-    EXPECT_FALSE(olFile::exists(directory, true, false));
-    EXPECT_TRUE(olFile::exists(file, true, true));
-    EXPECT_FALSE(olFile::exists(path("missing"), false, false));
-    EXPECT_FALSE(olFile::exists("", false, false));
-}
-
-TEST(HostLog, GoesToTheObserverInsteadOfTheErrorStream)
-{
-    struct Observer : olLogObserver {
-        void logged(olLogLevel level, const QString &text) override
-        {
-            lines << (level == olLogLevel::Error ? "E " : "I ") + text;
-        }
-        QStringList lines;
-    } observer;
-
-    ::testing::internal::CaptureStderr();
-    olLogObserver *before = olLog::observe(&observer);
-    olLog::error("no");
-    olLog::info("yes");
-    EXPECT_EQ(olLog::observe(before), &observer);
-    olLog::observe(nullptr);
-    olLog::error("tmp path doesn't exist!");
-    olLog::observe(before);
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "error: tmp path doesn't exist!\n");
-    EXPECT_EQ(observer.lines, (QStringList{"E no", "I yes"}));
-}
-
-TEST(HostPlatform, AnswersFromTheFactsAndHasAnIconForEveryName)
-{
-    olHostState::the().dataDir = QStringLiteral("/opt/orlo");
-    EXPECT_EQ(olPlatform::getDataDir(), "/opt/orlo");
-    olHostState::the().dataDir.reset();
-    EXPECT_EQ(olPlatform::getAppVersionName(), "ORLO 2026");
-
-    EXPECT_FALSE(olPlatform::getIcon("FileOpen").isNull());
-    EXPECT_FALSE(olPlatform::getIcon("no such icon").isNull());
-    EXPECT_GT(olPlatform::getMediumIconSizeX(), 0);
 }
 
 } // namespace

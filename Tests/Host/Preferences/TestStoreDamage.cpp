@@ -1,7 +1,6 @@
 #include "Embedded/olValue.h"
 #include "StoreTest.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <random>
@@ -66,34 +65,18 @@ protected:
     int mended = 0;
 };
 
-class StoreBitFlips : public StoreDamage, public testing::WithParamInterface<unsigned>
+TEST_F(StoreDamage, EachBitIsNoticedOrHarmlessAndTheBadFileIsKept)
 {
-};
-
-TEST_P(StoreBitFlips, EachIsNoticedOrHarmlessAndTheBadFileIsKept)
-{
-    std::mt19937 random(GetParam());
-    for (int round = 0; round < 2500 && !HasFatalFailure(); ++round) {
-        const int bit = int(random() % unsigned(sound.size() * 8));
+    constexpr int header = 100 * 8;
+    std::mt19937 random(1);
+    for (int round = 0; round < 10000 && !HasFatalFailure(); ++round) {
+        const int bit = round < header ? round : int(random() % unsigned(sound.size() * 8));
         QByteArray bytes = sound;
         bytes[bit / 8] = char(bytes.at(bit / 8) ^ (1 << bit % 8));
         open(bytes, "bit " + std::to_string(bit));
     }
-    RecordProperty("harmless", harmless);
-    RecordProperty("mended", mended);
     EXPECT_GT(mended, 100);
-}
-
-INSTANTIATE_TEST_SUITE_P(Seeds, StoreBitFlips, testing::Values(1u, 2u, 3u, 4u));
-
-TEST_F(StoreDamage, EveryBitOfTheHeaderIsNoticedOrHarmless)
-{
-    for (int bit = 0; bit < 100 * 8 && !HasFatalFailure(); ++bit) {
-        QByteArray bytes = sound;
-        bytes[bit / 8] = char(bytes.at(bit / 8) ^ (1 << bit % 8));
-        open(bytes, "bit " + std::to_string(bit));
-    }
-    EXPECT_LE(refused, 31) << "only what claims to be of a newer version is left alone";
+    EXPECT_LE(refused, 40) << "only what claims to be of a newer version is left alone";
 }
 
 TEST_F(StoreDamage, EveryTruncationIsNoticed)
@@ -132,21 +115,14 @@ TEST_F(StoreDamage, RowsThatWereChangedOrTakenAwayOutsideAreNoticed)
     }
 }
 
-TEST_F(StoreDamage, ThePersonIsToldOnce)
-{
-    write(file, sound.left(5000));
-    Values values;
-    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
-    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
-    EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
-}
-
-TEST_F(StoreDamage, ThreeDamagesAreThreeFiles)
+TEST_F(StoreDamage, EachIsToldOnceAndKeptInAFileOfItsOwn)
 {
     for (int round = 0; round < 3; ++round) {
         write(file, sound.left(5000 + round));
         Values values;
         EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+        EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+        EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
     }
     EXPECT_EQ(setAside().size(), 3);
 }

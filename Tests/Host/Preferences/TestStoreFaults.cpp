@@ -8,13 +8,14 @@
 #include <sqlite3.h>
 #include <sys/mman.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <csignal>
+#include <functional>
+#include <numeric>
 #include <random>
 
 namespace
@@ -55,6 +56,24 @@ protected:
     {
         Values values;
         return olPreferencesStore(file).load(values).isEmpty() && same(values, expected);
+    }
+
+    /// The exit statuses of several processes that do this at the same time.
+    static std::vector<int> atOnce(int programs, const std::function<int(int)> &work)
+    {
+        std::vector<pid_t> children;
+        for (int program = 0; program < programs; ++program) {
+            children.push_back(::fork());
+            if (children.back() == 0)
+                ::_exit(work(program));
+        }
+        std::vector<int> statuses;
+        for (const pid_t child : children) {
+            int status = 0;
+            ::waitpid(child, &status, 0);
+            statuses.push_back(WIFEXITED(status) ? WEXITSTATUS(status) : -1);
+        }
+        return statuses;
     }
 
     static const Values &large()
@@ -130,50 +149,6 @@ TEST_F(StoreFaults, AFullDiskIsReportedAndTakesNothingAway)
     EXPECT_EQ(fault, "");
 }
 
-TEST_F(StoreFaults, AWriteThatTheSystemRefusesIsReportedAndTakesNothingAway)
-{
-    save({{key("a"), 1}});
-    EXPECT_EQ(inChildProcess([this]() -> std::string {
-                  std::signal(SIGXFSZ, SIG_IGN);
-                  const rlimit small{50000, RLIM_INFINITY};
-                  ::setrlimit(RLIMIT_FSIZE, &small);
-                  olPreferencesStore store(file);
-                  const std::string message = faultIn(store.save(large(), {}), "File too large");
-                  if (!message.empty())
-                      return message;
-                  if (!holds({{key("a"), 1}}))
-                      return "the earlier values are gone";
-                  const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
-                  ::setrlimit(RLIMIT_FSIZE, &none);
-                  return store.save(large(), {}).toStdString();
-              }),
-              "");
-    EXPECT_EQ(stored().size(), 2u);
-}
-
-TEST_F(StoreFaults, WithoutRoomNothingDamagedIsMoved)
-{
-    const Values before{{key("a"), std::string(100000, 'x')}};
-    save(before);
-    Values values;
-    ASSERT_EQ(olPreferencesStore(file).open(values).notice, QString());
-    const QByteArray damaged = bytesOf(file).left(5000);
-    write(file, damaged);
-    EXPECT_EQ(inChildProcess([&]() -> std::string {
-                  std::signal(SIGXFSZ, SIG_IGN);
-                  const rlimit small{50000, RLIM_INFINITY};
-                  ::setrlimit(RLIMIT_FSIZE, &small);
-                  Values copied;
-                  const olStoreOpening opening = olPreferencesStore(file).open(copied);
-                  if (!opening.error.isEmpty() || !opening.notice.contains("File too large"))
-                      return (opening.error + '|' + opening.notice).toStdString();
-                  return same(copied, before) ? "" : "the copy was not read";
-              }),
-              "");
-    EXPECT_EQ(bytesOf(file), damaged);
-    EXPECT_TRUE(setAside().isEmpty());
-}
-
 /// Permissions bind nobody who is root.
 std::string becomeNobody()
 {
@@ -184,18 +159,12 @@ std::string becomeNobody()
 TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
 {
     const QByteArray path = QFile::encodeName(folder.path());
-    struct Case {
-        mode_t file;
-        mode_t folder;
-        const char *reason;
-    };
-    for (const Case &each :
-         {Case{0444, 0777, "read-only"}, Case{0666, 0555, "read-only"}, Case{0444, 0555, "read-only"}}) {
+    for (const auto &[fileMode, folderMode] : {std::pair<mode_t, mode_t>{0444, 0777}, {0666, 0555}}) {
         save({{key("a"), 1}});
         Values values;
         ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
-        ::chmod(QFile::encodeName(file).constData(), each.file);
-        ::chmod(path.constData(), each.folder);
+        ::chmod(QFile::encodeName(file).constData(), fileMode);
+        ::chmod(path.constData(), folderMode);
         EXPECT_EQ(inChildProcess([&]() -> std::string {
                       if (const std::string fault = becomeNobody(); !fault.empty())
                           return fault;
@@ -204,10 +173,10 @@ TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
                       const olStoreOpening opening = store.open(read);
                       if (!opening.error.isEmpty() || !opening.notice.isEmpty() || !same(read, {{key("a"), 1}}))
                           return "cannot be read: " + (opening.error + opening.notice).toStdString();
-                      return faultIn(store.save({{key("a"), 2}}, {}), each.reason);
+                      return faultIn(store.save({{key("a"), 2}}, {}), "read-only");
                   }),
                   "")
-            << std::oct << each.file << ' ' << each.folder;
+            << std::oct << fileMode << ' ' << folderMode;
         ::chmod(path.constData(), 0700);
         ::chmod(QFile::encodeName(file).constData(), 0600);
         EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
@@ -236,57 +205,38 @@ TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
     EXPECT_EQ(bytesOf(file), damaged);
 }
 
-TEST_F(StoreFaults, TwoProgramsThatSaveDifferentSettingsBothKeepTheirs)
+TEST_F(StoreFaults, ProgramsThatSaveDifferentSettingsAllKeepTheirs)
 {
     constexpr int saves = 150;
-    std::vector<pid_t> children;
-    for (const char *program : {"one", "two", "three"}) {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            int failed = 0;
-            for (int number = 1; number <= saves; ++number) {
-                const Values mine{{key(program), number}, {key(program + std::to_string(number)), number}};
-                failed += olPreferencesStore(file).save(mine, {}).isEmpty() ? 0 : 1;
-            }
-            ::_exit(failed);
+    const auto failures = atOnce(3, [this](int program) {
+        int failed = 0;
+        const std::string name = "program " + std::to_string(program) + ' ';
+        for (int number = 1; number <= saves; ++number) {
+            const Values mine{{key(name), number}, {key(name + std::to_string(number)), number}};
+            failed += olPreferencesStore(file).save(mine, {}).isEmpty() ? 0 : 1;
         }
-        children.push_back(child);
-    }
-    for (const pid_t child : children) {
-        int status = 0;
-        ::waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "saves failed";
-    }
+        return failed;
+    });
+    EXPECT_EQ(failures, std::vector<int>(3));
     Values values = stored();
     EXPECT_EQ(values.size(), 3u * (saves + 1));
-    EXPECT_EQ(boost::any_cast<int>(values[key("two")]), saves);
+    EXPECT_EQ(boost::any_cast<int>(values[key("program 1 ")]), saves);
 }
 
-TEST_F(StoreFaults, TwoProgramsThatStartOnADamagedStoreMendItOnce)
+TEST_F(StoreFaults, ProgramsThatStartOnADamagedStoreMendItOnce)
 {
     save({{key("a"), 1}});
     Values values;
     ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
     for (int round = 0; round < 20; ++round) {
         write(file, bytesOf(file).left(5000));
-        std::vector<pid_t> children;
-        for (int program = 0; program < 3; ++program) {
-            const pid_t child = ::fork();
-            if (child == 0) {
-                Values read;
-                const olStoreOpening opening = olPreferencesStore(file).open(read);
-                ::_exit(opening.error.isEmpty() && same(read, {{key("a"), 1}}) ? (opening.notice.isEmpty() ? 0 : 1)
-                                                                               : 9);
-            }
-            children.push_back(child);
-        }
-        int told = 0;
-        for (const pid_t child : children) {
-            int status = 0;
-            ::waitpid(child, &status, 0);
-            told += WEXITSTATUS(status);
-        }
-        ASSERT_EQ(told, 1);
+        const auto told = atOnce(3, [this](int) {
+            Values read;
+            const olStoreOpening opening = olPreferencesStore(file).open(read);
+            const bool isRead = opening.error.isEmpty() && same(read, {{key("a"), 1}});
+            return isRead ? int(!opening.notice.isEmpty()) : 9;
+        });
+        ASSERT_EQ(std::accumulate(told.begin(), told.end(), 0), 1);
         ASSERT_EQ(setAside().size(), round + 1);
     }
 }

@@ -1,0 +1,77 @@
+#include "olBatch.h"
+
+#include "Viewport/olExportScene.h"
+#include "Viewport/olImport.h"
+#include "Viewport/olScene.h"
+#include "Viewport/olViewport.h"
+
+#include <TDocStd_Document.hxx>
+
+#include <QImage>
+#include <QImageWriter>
+#include <QRegularExpression>
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr int longestSide = 16384;
+
+int fail(const QString &error, int status)
+{
+    std::fprintf(stderr, "orlo: %s\n", qPrintable(error));
+    return status;
+}
+
+void remark(const QStringList &remarks)
+{
+    for (const QString &each : remarks)
+        std::fprintf(stderr, "orlo: %s\n", qPrintable(each));
+}
+
+} // namespace
+
+int olBatch::render(const QString &model, const QString &pictureFile, const QSize &size)
+{
+    const olImportResult result = olImport(olImportJob::of(model));
+    if (!result.isGood())
+        return fail(result.error, 2);
+    remark(result.remarks);
+    olScene scene;
+    scene.setDocument(result.document);
+    if (!olViewport::isSupported())
+        return fail(QStringLiteral("The 3D view needs an X display with OpenGL."), 1);
+
+    olViewport view;
+    view.setAttribute(Qt::WA_DontShowOnScreen);
+    view.resize(size);
+    view.setScene(&scene);
+    view.show();
+    view.showAll();
+    const QImage picture = view.picture(size);
+    if (picture.isNull())
+        return fail(QStringLiteral("The model %1 cannot be drawn: %2").arg(model, view.error()), 1);
+    QImageWriter writer(pictureFile);
+    if (!writer.write(picture))
+        return fail(QStringLiteral("Cannot write %1: %2.").arg(pictureFile, writer.errorString()), 1);
+    std::printf("triangles %u\n", scene.triangleCount());
+    return 0;
+}
+
+int olBatch::save(const olScene &scene, const QString &file)
+{
+    const olExportResult result = olExportScene(scene.document(), file);
+    remark(result.remarks);
+    return result.error.isEmpty() ? 0 : fail(result.error, 1);
+}
+
+std::optional<QSize> olBatch::sizeFrom(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
+    const QRegularExpressionMatch match = form.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    if (size.isEmpty() || size.width() > longestSide || size.height() > longestSide)
+        return std::nullopt;
+    return size;
+}

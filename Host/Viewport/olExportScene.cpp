@@ -1,0 +1,212 @@
+#include "Viewport/olExportScene.h"
+
+#include "Viewport/olDocumentCopy.h"
+#include "Viewport/olExportVrml.h"
+#include "Viewport/olImportJob.h"
+#include "Viewport/olImportReaders.h"
+#include "Viewport/olLibraryMessages.h"
+#include "Viewport/olModelFormat.h"
+#include "Viewport/olPartChanges.h"
+
+#include "Embedded/olHostState.h"
+
+#include <BRep_Builder.hxx>
+#include <IFSelect_ReturnStatus.hxx>
+#include <IGESCAFControl_Writer.hxx>
+#include <IGESControl_Controller.hxx>
+#include <Interface_Static.hxx>
+#include <Message_ProgressRange.hxx>
+#include <RWGltf_CafWriter.hxx>
+#include <RWObj_CafWriter.hxx>
+#include <STEPCAFControl_Controller.hxx>
+#include <STEPCAFControl_Writer.hxx>
+#include <Standard_Failure.hxx>
+#include <StlAPI_Writer.hxx>
+#include <TColStd_IndexedDataMapOfStringString.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDocStd_Document.hxx>
+#include <TopoDS_Compound.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QTemporaryDir>
+
+namespace
+{
+
+constexpr double meter = 0.001;
+
+// Through the host's state: what its STL export format may be.
+constexpr int binaryStl = 1;
+
+QString translated(const char *text) { return QCoreApplication::translate("olExport", text); }
+
+TCollection_AsciiString path(const QString &file) { return QFile::encodeName(file).constData(); }
+
+/// Formats of surfaces take no triangles.
+olScene::Document withoutMeshes(const olScene::Document &document, QStringList &remarks)
+{
+    olDocumentCopy copy;
+    copy.keepEmptyGroups = false;
+    copy.changePart = [&remarks](const TDF_Label &label, olChangedPart &part) {
+        olPartChanges::keepOnly(part, {true, false, true});
+        if (part.shape.IsNull())
+            remarks << translated("%1 is a mesh, which this format cannot hold; it is left out.").arg(olNameOf(label));
+    };
+    return copy.copy(document);
+}
+
+bool isEmpty(const olScene::Document &document)
+{
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
+    return labels.IsEmpty();
+}
+
+TopoDS_Compound wholeShape(const olScene::Document &document)
+{
+    TopoDS_Compound whole;
+    BRep_Builder builder;
+    builder.MakeCompound(whole);
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
+    for (const TDF_Label &label : labels)
+        builder.Add(whole, XCAFDoc_ShapeTool::GetShape(label));
+    return whole;
+}
+
+bool writeStep(const olScene::Document &document, const QString &file)
+{
+    const olExchangeLock lock;
+    STEPCAFControl_Controller::Init();
+    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    Interface_Static::SetCVal("write.step.unit", "MM");
+    STEPCAFControl_Writer writer;
+    return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
+}
+
+bool writeIges(const olScene::Document &document, const QString &file)
+{
+    const olExchangeLock lock;
+    IGESControl_Controller::Init();
+    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    IGESCAFControl_Writer writer;
+    return writer.Transfer(document) && writer.Write(path(file).ToCString());
+}
+
+bool writeStl(const olScene::Document &document, const QString &file)
+{
+    StlAPI_Writer writer;
+    writer.ASCIIMode() = olHostState::the().stlExportFormat != binaryStl;
+    return writer.Write(wholeShape(document), path(file).ToCString());
+}
+
+bool writeObj(const olScene::Document &document, const QString &file)
+{
+    RWObj_CafWriter writer(path(file));
+    return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
+}
+
+bool writeGltf(const olScene::Document &document, const QString &file)
+{
+    const bool isBinary = QFileInfo(file).suffix().compare(QLatin1String("glb"), Qt::CaseInsensitive) == 0;
+    RWGltf_CafWriter writer(path(file), isBinary);
+    writer.ChangeCoordinateSystemConverter().SetInputLengthUnit(meter);
+    writer.ChangeCoordinateSystemConverter().SetInputCoordinateSystem(RWMesh_CoordinateSystem_Zup);
+    return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
+}
+
+bool write(const olScene::Document &document, const olModelFormat &format, const QString &file)
+{
+    switch (format.id) {
+    case olModelFormat::Step:
+        return writeStep(document, file);
+    case olModelFormat::Iges:
+        return writeIges(document, file);
+    case olModelFormat::Stl:
+        return writeStl(document, file);
+    case olModelFormat::Vrml:
+        return olWriteVrml(document, file);
+    case olModelFormat::Obj:
+        return writeObj(document, file);
+    case olModelFormat::Gltf:
+        return writeGltf(document, file);
+    }
+    return false;
+}
+
+/// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
+QString putInPlace(const QString &finished, const QString &target)
+{
+    constexpr qint64 block = 1 << 20;
+    QFile source(finished);
+    QSaveFile destination(target);
+    if (!source.open(QIODevice::ReadOnly))
+        return source.errorString();
+    if (!destination.open(QIODevice::WriteOnly))
+        return destination.errorString();
+    while (!source.atEnd()) {
+        if (destination.write(source.read(block)) < 0)
+            return destination.errorString();
+    }
+    return destination.commit() ? QString() : destination.errorString();
+}
+
+/// Written where it disturbs nobody first: a format may take several files, and half of one is worse than none.
+QString writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file)
+{
+    const QTemporaryDir folder(
+        QDir(olImportJob::of(file).temporaryDirectory).filePath(QStringLiteral("orlo-export-XXXXXX")));
+    if (!folder.isValid())
+        return translated("the temporary directory cannot be written to");
+    const QFileInfo target(file);
+    if (!write(document, format, folder.filePath(target.fileName())))
+        return translated("the writer failed");
+    const QStringList written = QDir(folder.path()).entryList(QDir::Files);
+    if (!written.contains(target.fileName()))
+        return translated("the writer failed");
+    for (const QString &each : written) {
+        const QString fault = putInPlace(folder.filePath(each), target.absoluteDir().filePath(each));
+        if (!fault.isEmpty())
+            return fault;
+    }
+    return {};
+}
+
+QString attempt(const olScene::Document &document, const olModelFormat &format, const QString &file,
+                QStringList &remarks)
+{
+    try {
+        const bool takesMeshes = format.id != olModelFormat::Step && format.id != olModelFormat::Iges;
+        const olScene::Document content = takesMeshes ? document : withoutMeshes(document, remarks);
+        if (isEmpty(content))
+            return translated("there is nothing that this format can hold");
+        return writeThroughTemporary(content, format, file);
+    } catch (const Standard_Failure &failure) {
+        return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+    } catch (const std::exception &failure) {
+        return translated("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+    }
+}
+
+} // namespace
+
+olExportResult olExportScene(const olScene::Document &document, const QString &file)
+{
+    olSilenceLibrary();
+    olExportResult result;
+    const olModelFormat *format = olModelFormat::ofFile(file);
+    if (!format) {
+        result.error = olModelFormat::noWriter(file);
+        return result;
+    }
+    const QString fault = attempt(document, *format, file, result.remarks);
+    if (!fault.isEmpty())
+        result.error = translated("Cannot write %1: %2.").arg(file, fault);
+    return result;
+}

@@ -1,0 +1,101 @@
+#include "Viewport/olGlBinding.h"
+
+#include "Viewport/olX11Display.h"
+
+#include <Aspect_DisplayConnection.hxx>
+#include <Aspect_NeutralWindow.hxx>
+#include <OpenGl_Context.hxx>
+#include <OpenGl_FrameBuffer.hxx>
+#include <OpenGl_GraphicDriver.hxx>
+#include <OpenGl_View.hxx>
+#include <OpenGl_Window.hxx>
+#include <V3d_View.hxx>
+
+namespace
+{
+
+/// A framebuffer of Qt's. Its values are sRGB although its format does not say so; told otherwise, the renderer would
+/// leave the picture washed out.
+class BoundFramebuffer : public OpenGl_FrameBuffer
+{
+public:
+    void BindBuffer(const Handle(OpenGl_Context) & context) override
+    {
+        OpenGl_FrameBuffer::BindBuffer(context);
+        context->SetFrameBufferSRGB(true, false);
+    }
+
+    void BindDrawBuffer(const Handle(OpenGl_Context) & context) override
+    {
+        OpenGl_FrameBuffer::BindDrawBuffer(context);
+        context->SetFrameBufferSRGB(true, false);
+    }
+
+    void BindReadBuffer(const Handle(OpenGl_Context) & context) override
+    {
+        OpenGl_FrameBuffer::BindReadBuffer(context);
+    }
+};
+
+Handle(OpenGl_Context) contextOf(const Handle(V3d_View) & view)
+{
+    const Handle(OpenGl_View) glView = Handle(OpenGl_View)::DownCast(view->View());
+    return glView.IsNull() || glView->GlWindow().IsNull() ? Handle(OpenGl_Context)()
+                                                          : glView->GlWindow()->GetGlContext();
+}
+
+} // namespace
+
+Handle(Graphic3d_GraphicDriver) olGlBinding::makeDriver()
+{
+    void *display = olX11Display();
+    if (!display)
+        return {};
+    // A second connection would not know the windows and contexts of Qt's.
+    const Handle(Aspect_DisplayConnection) connection =
+        new Aspect_DisplayConnection(static_cast<Aspect_XDisplay *>(display));
+    const Handle(OpenGl_GraphicDriver) driver = new OpenGl_GraphicDriver(connection, Standard_False);
+    driver->ChangeOptions().buffersNoSwap = Standard_True;
+    driver->ChangeOptions().buffersOpaqueAlpha = Standard_True;
+    driver->ChangeOptions().useSystemBuffer = Standard_False;
+    return Handle(Graphic3d_GraphicDriver)(driver);
+}
+
+bool olGlBinding::attach(const Handle(V3d_View) & view, quintptr window, const QSize &size)
+{
+    const Handle(OpenGl_Context) context = new OpenGl_Context();
+    if (!context->Init(Standard_False))
+        return false;
+    const Handle(Aspect_NeutralWindow) neutral = new Aspect_NeutralWindow();
+    neutral->SetVirtual(Standard_True);
+    neutral->SetNativeHandle(Aspect_Drawable(window));
+    neutral->SetSize(size.width(), size.height());
+    view->SetWindow(neutral, context->RenderingContext());
+    return !contextOf(view).IsNull();
+}
+
+bool olGlBinding::drawIntoBoundFramebuffer(const Handle(V3d_View) & view)
+{
+    const Handle(OpenGl_Context) context = contextOf(view);
+    if (context.IsNull())
+        return false;
+    Handle(OpenGl_FrameBuffer) framebuffer = context->DefaultFrameBuffer();
+    if (framebuffer.IsNull()) {
+        framebuffer = new BoundFramebuffer();
+        context->SetDefaultFrameBuffer(framebuffer);
+    }
+    if (!framebuffer->InitWrapper(context))
+        return false;
+
+    const Handle(Aspect_NeutralWindow) window = Handle(Aspect_NeutralWindow)::DownCast(view->Window());
+    const Graphic3d_Vec2i size = framebuffer->GetVPSize();
+    int width = 0;
+    int height = 0;
+    window->Size(width, height);
+    if (width != size.x() || height != size.y()) {
+        window->SetSize(size.x(), size.y());
+        view->MustBeResized();
+        view->Invalidate();
+    }
+    return true;
+}

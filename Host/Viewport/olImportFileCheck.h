@@ -1,0 +1,7 @@
+#pragma once
+
+#include "Viewport/olModelFormat.h"
+
+/// Why a file cannot be a whole model of the format, in half a sentence; empty where nothing speaks against it. The
+/// readers themselves take what they get of a cut file and say nothing.
+[[nodiscard]] QString olImportFileCheck(const QString &file, const olModelFormat &format);

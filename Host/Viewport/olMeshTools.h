@@ -1,0 +1,28 @@
+#pragma once
+
+#include <Standard_Handle.hxx>
+#include <TopoDS_Face.hxx>
+
+#include <vector>
+
+class Poly_Triangulation;
+
+/// Work on triangles that have no surface.
+namespace olMeshTools
+{
+
+/// Turns triangles so that neighbours go around their common edge in opposite directions; the first of each connected
+/// piece stays. Normals are computed anew where something was turned.
+void orientAlike(const opencascade::handle<Poly_Triangulation> &mesh);
+
+/// One face with the triangles of all, which have no surfaces.
+[[nodiscard]] TopoDS_Face merged(const std::vector<TopoDS_Face> &faces);
+
+/// The face's triangles with the normals of its surface; null where it has no triangles.
+[[nodiscard]] TopoDS_Face withoutSurface(const TopoDS_Face &face);
+
+/// Without the triangles that have no area; null where none is left.
+[[nodiscard]] opencascade::handle<Poly_Triangulation>
+withoutDegenerate(const opencascade::handle<Poly_Triangulation> &mesh);
+
+} // namespace olMeshTools

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+
+#include <memory>
+
+class QOpenGLFramebufferObject;
+
+/// The framebuffer in which a picture of the view comes about, at the size that it shall have; from there it goes to
+/// the window, to a file, or gets replaced by a better one. The context must be current in every call.
+class olPictureTarget
+{
+public:
+    olPictureTarget();
+    ~olPictureTarget();
+
+    /// Makes it ready to be drawn into; false where the context cannot.
+    [[nodiscard]] bool bind(const QSize &size);
+
+    /// Gives everything back to the context.
+    void release();
+
+    [[nodiscard]] QSize size() const;
+
+    /// Puts the picture into a framebuffer, as large as its shape allows, with black bars beside it where needed.
+    void show(unsigned framebuffer, const QSize &room) const;
+
+    [[nodiscard]] QImage picture() const;
+
+    /// Takes a picture of the same size instead of what was drawn.
+    void replace(const QImage &picture);
+
+    /// Where a picture of that size comes to lie in a room, in the room's pixels.
+    [[nodiscard]] static QRect placeIn(const QSize &picture, const QSize &room);
+
+private:
+    std::unique_ptr<QOpenGLFramebufferObject> m_buffer;
+};

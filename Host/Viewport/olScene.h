@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+
+#include <Standard_Handle.hxx>
+
+class TDocStd_Document;
+
+/// What is open in the viewer: one document of named, coloured and structured shapes, in millimetres, z up.
+/// Every shape in it is already triangulated as the options of its import want it; the view only draws.
+class olScene : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Document = opencascade::handle<TDocStd_Document>;
+
+    explicit olScene(QObject *parent = nullptr);
+    ~olScene() override;
+
+    /// Never null; its shapes are read through XCAFDoc_DocumentTool. Another one after every change.
+    [[nodiscard]] const Document &document() const { return m_document; }
+
+    [[nodiscard]] bool isEmpty() const;
+
+    /// How many triangles the instances of the scene have together.
+    [[nodiscard]] unsigned triangleCount() const;
+
+    /// Takes the document as the new content. A null one is taken as an empty one.
+    void setDocument(const Document &document);
+
+    /// Replaces the content by nothing, or by the assembly that the program builds itself.
+    void clear();
+    void loadSample();
+
+    /// A document without shapes, ready to be filled; may be called in any thread.
+    [[nodiscard]] static Document newDocument();
+
+signals:
+    /// The document was replaced.
+    void changed();
+
+private:
+    Document m_document;
+};

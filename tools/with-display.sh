@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Runs a command on a virtual display of its own. -noreset: the display must not start anew when its first client goes.
+set -euo pipefail
+export QT_QPA_PLATFORM=xcb
+# Pictures are compared: every machine draws them in the same way, on the processor.
+export LIBGL_ALWAYS_SOFTWARE=1
+exec xvfb-run --auto-servernum --server-args="-screen 0 1600x1000x24 -noreset" "$@"
