@@ -21,6 +21,12 @@
 namespace
 {
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr int slowdown = 10;
+#else
+constexpr int slowdown = 1;
+#endif
+
 /// The dialog on all modules of the plug-in, at their defaults.
 class DialogWithModules : public PluginTest
 {
@@ -76,34 +82,31 @@ TEST_F(DialogWithModules, EverySettingWithAControlIsFoundByItsKey)
 {
     auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
     auto *tree = dialog->findChild<QTreeWidget *>();
-    qint64 slowest = 0;
     for (olPreferencesEntry *entry : modules()) {
         const olPageIndex index(*entry->page());
         for (const olPageControl &control : index.controls()) {
             if (control.settingKeys.isEmpty() || !olPageIndex::isShown(*entry->page(), *control.widget))
                 continue;
-            QElapsedTimer timer;
-            timer.start();
             search->setText(control.settingKeys.first());
-            slowest = std::max(slowest, timer.nsecsElapsed() / 1000);
             const auto items = tree->findItems(entry->name(), Qt::MatchExactly | Qt::MatchRecursive);
             EXPECT_TRUE(std::any_of(items.begin(), items.end(), [](const auto *item) { return !item->isHidden(); }))
                 << control.settingKeys.first().toStdString();
         }
     }
-    // Opening a page for the first time is part of some of these. One frame of a screen, and twice that on a busy
-    // machine.
-    EXPECT_LT(slowest, 200000);
-    search->setText(QStringLiteral("e"));
-    std::vector<qint64> times;
+}
+
+TEST_F(DialogWithModules, ASearchOverAllPagesIsAnsweredWithinAFrameOfTheScreen)
+{
+    auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
+    std::vector<qint64> microseconds;
     for (int turn = 0; turn < 21; ++turn) {
         QElapsedTimer timer;
         timer.start();
         search->setText(turn % 2 ? QStringLiteral("en") : QStringLiteral("e"));
-        times.push_back(timer.nsecsElapsed() / 1000);
+        microseconds.push_back(timer.nsecsElapsed() / 1000);
     }
-    std::nth_element(times.begin(), times.begin() + 10, times.end());
-    EXPECT_LT(times[10], 16000) << "microseconds for an answer over all pages";
+    std::nth_element(microseconds.begin(), microseconds.begin() + 10, microseconds.end());
+    EXPECT_LT(microseconds[10], 16000 * slowdown);
 }
 
 TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
@@ -125,7 +128,7 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
 
     ASSERT_TRUE(dialog->apply());
     EXPECT_EQ(pending(), "No Changes");
-    for (const std::string key :
+    for (const char *key :
          {"Camera fov", "Navigator speed mode", "MainWindow show tool buttons text", "Optimizer Teselation Quality"})
         EXPECT_TRUE(olValue::equal(record().get(key), session.defaultValue(key))) << key;
     EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 15000.0f);
