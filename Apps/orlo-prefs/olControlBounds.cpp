@@ -26,20 +26,6 @@
 namespace
 {
 
-/// The number as it is written: 0.6 in single precision is more than a bound of 0.6 in double precision.
-std::optional<double> numberOf(const boost::any &value)
-{
-    if (const auto *whole = boost::any_cast<int>(&value))
-        return *whole;
-    if (const auto *whole = boost::any_cast<unsigned>(&value))
-        return *whole;
-    if (const auto *fraction = boost::any_cast<float>(&value))
-        return QString::fromStdString(olValue::number(*fraction)).toDouble();
-    if (const auto *fraction = boost::any_cast<double>(&value))
-        return *fraction;
-    return std::nullopt;
-}
-
 /// What stands in a field for the value; nothing for one that does not go into a field.
 std::optional<QString> fieldText(const boost::any &value)
 {
@@ -47,7 +33,7 @@ std::optional<QString> fieldText(const boost::any &value)
         return *text;
     if (const auto *text = boost::any_cast<std::string>(&value))
         return QString::fromStdString(*text);
-    if (numberOf(value))
+    if (olValue::asNumber(value))
         return QString::fromStdString(olValue::toJson(value));
     return std::nullopt;
 }
@@ -163,7 +149,7 @@ QString olControlBounds(const olKnownSetting &setting, const boost::any &value)
     }
     if (qobject_cast<const QOLColorManipulator *>(setting.control))
         return boundsOfColor(value);
-    const std::optional<double> number = numberOf(value);
+    const std::optional<double> number = olValue::asNumber(value);
     const QString bounds = number ? boundsOfNumber(setting.control, *number) : QString();
     return bounds.isEmpty() ? boundsOfChoice(setting, value) : bounds;
 }

@@ -310,6 +310,19 @@ std::string number(float value) { return shortest(value); }
 
 std::string number(double value) { return shortest(value); }
 
+std::optional<double> asNumber(const boost::any &value)
+{
+    if (const auto *whole = boost::any_cast<int>(&value))
+        return *whole;
+    if (const auto *whole = boost::any_cast<unsigned>(&value))
+        return *whole;
+    if (const auto *fraction = boost::any_cast<float>(&value))
+        return QString::fromStdString(number(*fraction)).toDouble();
+    if (const auto *fraction = boost::any_cast<double>(&value))
+        return *fraction;
+    return std::nullopt;
+}
+
 std::string quoted(const std::string &text) { return olJsonText::quoted(text); }
 
 } // namespace olValue

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <boost/any.hpp>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,10 @@ ORLO_SDK_EXPORT boost::any adopted(const boost::any &value);
 /// The shortest plain decimals that read back the same; an exponent only below 1e-4 and from 1e16.
 ORLO_SDK_EXPORT std::string number(float value);
 ORLO_SDK_EXPORT std::string number(double value);
+
+/// A number of whichever type as it is written: 0.6 in single precision is 0.6, although its bits are more than that in
+/// double precision. Nothing for a value that is no number.
+ORLO_SDK_EXPORT std::optional<double> asNumber(const boost::any &value);
 
 /// In double quotes with JSON's escapes; a byte that is no UTF-8 stands as one of \udc80 to \udcff.
 ORLO_SDK_EXPORT std::string quoted(const std::string &text);

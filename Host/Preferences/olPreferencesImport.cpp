@@ -34,20 +34,6 @@ std::optional<Range> rangeOf(const QWidget *control)
     return std::nullopt;
 }
 
-std::optional<double> number(const boost::any &value)
-{
-    if (const auto *whole = boost::any_cast<int>(&value))
-        return *whole;
-    if (const auto *whole = boost::any_cast<unsigned>(&value))
-        return *whole;
-    // As it is written: 0.6 in single precision is more than a bound of 0.6 in double precision.
-    if (const auto *fraction = boost::any_cast<float>(&value))
-        return QString::fromStdString(olValue::number(*fraction)).toDouble();
-    if (const auto *fraction = boost::any_cast<double>(&value))
-        return *fraction;
-    return std::nullopt;
-}
-
 bool isList(const boost::any &value)
 {
     const std::string type = olValue::typeName(value);
@@ -60,7 +46,7 @@ QString bound(double value) { return QString::fromStdString(olValue::number(valu
 QString whyNotOn(const QWidget *control, const boost::any &value)
 {
     const std::optional<Range> range = rangeOf(control);
-    const std::optional<double> wanted = number(value);
+    const std::optional<double> wanted = olValue::asNumber(value);
     if (!range || !wanted || (*wanted >= range->lowest && *wanted <= range->highest))
         return {};
     return translated("is out of range: %1 to %2").arg(bound(range->lowest), bound(range->highest));
