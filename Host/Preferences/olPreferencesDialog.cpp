@@ -78,6 +78,8 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
     m_splitter->addWidget(buildRight());
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setChildrenCollapsible(false);
+    // The gap is the splitter's: a margin of one side would stay on it where reading goes from right to left.
+    m_splitter->setHandleWidth(m_splitter->handleWidth() + fontMetrics().averageCharWidth());
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_splitter, 1);
@@ -151,7 +153,7 @@ QWidget *olPreferencesDialog::buildRight()
 
     auto *right = new QWidget;
     auto *layout = new QVBoxLayout(right);
-    layout->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
+    layout->setContentsMargins(0, 0, 0, 0);
     auto *header = new QHBoxLayout;
     header->addWidget(m_title, 1);
     header->addWidget(m_restorePage);

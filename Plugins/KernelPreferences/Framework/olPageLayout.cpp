@@ -27,7 +27,9 @@ void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &lab
         inset += layout->contentsMargins().left();
     const QObjectList children = place.children();
     for (QObject *child : children) {
-        if (const auto *form = qobject_cast<QFormLayout *>(child)) {
+        if (auto *form = qobject_cast<QFormLayout *>(child)) {
+            // In a language of long words a field goes below its label rather than out of the page.
+            form->setRowWrapPolicy(QFormLayout::WrapLongRows);
             for (int row = 0; row < form->rowCount(); ++row) {
                 QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);
                 if (auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr)

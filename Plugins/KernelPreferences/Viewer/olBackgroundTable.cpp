@@ -60,6 +60,8 @@ olBackgroundTable::olBackgroundTable(QWidget *parent) : QTableWidget(0, 2, paren
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setSelectionBehavior(SelectRows);
+    // Tab would go round the cells for ever; the arrow keys are enough for them.
+    setTabKeyNavigation(false);
     setItemDelegateForColumn(ColorColumn, new SwatchDelegate(this)); // owned by the table
 }
 
