@@ -37,7 +37,7 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         option->features |= QStyleOptionViewItem::HasDecoration;
         option->icon =
-            swatch(colorFromText(option->text), option->decorationSize, option->palette.color(QPalette::Mid));
+            swatch(colorFromText(option->text), option->decorationSize, option->palette.color(QPalette::Text));
     }
 
 private:
