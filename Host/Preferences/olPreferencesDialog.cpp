@@ -78,6 +78,8 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
     m_splitter->addWidget(buildRight());
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setChildrenCollapsible(false);
+    // The gap is the splitter's: a margin of one side would stay on it where reading goes from right to left.
+    m_splitter->setHandleWidth(m_splitter->handleWidth() + fontMetrics().averageCharWidth());
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_splitter, 1);
@@ -121,7 +123,8 @@ QWidget *olPreferencesDialog::buildLeft()
 
     auto *left = new QWidget;
     auto *layout = new QVBoxLayout(left);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // From right to left the splitter puts its last part one pixel over the edge.
+    layout->setContentsMargins(1, 0, 1, 0);
     auto *options = new QHBoxLayout;
     options->addWidget(m_changedOnly, 1);
     options->addWidget(m_more);
@@ -137,7 +140,7 @@ QWidget *olPreferencesDialog::buildRight()
     titleFont.setBold(true);
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.3);
     m_title->setFont(titleFont);
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_title->setMinimumWidth(fontMetrics().averageCharWidth()); // the dialog may be narrower than it likes to be
     m_locked->setObjectName(QStringLiteral("locked"));
     m_locked->setAutoDefault(false);
     m_locked->setVisible(false);
@@ -151,9 +154,11 @@ QWidget *olPreferencesDialog::buildRight()
 
     auto *right = new QWidget;
     auto *layout = new QVBoxLayout(right);
-    layout->setContentsMargins(fontMetrics().averageCharWidth(), 0, 0, 0);
+    layout->setContentsMargins(0, 0, 0, 0);
     auto *header = new QHBoxLayout;
-    header->addWidget(m_title, 1);
+    // No wider than its text, which would else stand at its own side where reading goes the other way.
+    header->addWidget(m_title);
+    header->addStretch(1);
     header->addWidget(m_restorePage);
     layout->addLayout(header);
     layout->addWidget(m_locked, 0, Qt::AlignLeft);
@@ -163,6 +168,7 @@ QWidget *olPreferencesDialog::buildRight()
 
 QWidget *olPreferencesDialog::buildBottom()
 {
+    m_message->setObjectName(QStringLiteral("message"));
     m_changes->setObjectName(QStringLiteral("changes"));
     m_changes->setAutoDefault(false);
     m_changes->setToolTip(tr("Lists what OK and Apply will change."));
@@ -270,7 +276,8 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
 
 void olPreferencesDialog::accept()
 {
-    if (!apply())
+    // What the host has to say about the saving is read first; a second OK finds nothing more to do.
+    if (!store() || tellNotices())
         return;
     m_pending->drop();
     QDialog::accept();
@@ -308,12 +315,29 @@ bool olPreferencesDialog::mayLeave()
 
 bool olPreferencesDialog::apply()
 {
+    if (!store())
+        return false;
+    tellNotices();
+    return true;
+}
+
+bool olPreferencesDialog::store()
+{
     const QString error = m_pending->commit();
     if (error.isEmpty())
         m_message->clear();
     else
         m_message->showError(error);
     return error.isEmpty();
+}
+
+/// False where there are none.
+bool olPreferencesDialog::tellNotices()
+{
+    const QStringList notices = m_session.takeNotices();
+    if (!notices.isEmpty())
+        m_message->showNote(notices.join(QLatin1Char('\n')));
+    return !notices.isEmpty();
 }
 
 void olPreferencesDialog::restorePage()

@@ -51,6 +51,7 @@ public:
     void exportTo(const QString &file);
 
 public slots:
+    /// Applies and closes; stays open where the host has something to tell about the saving.
     void accept() override;
 
     /// With edits pending, asks first whether to apply them, to discard them or to stay.
@@ -96,6 +97,8 @@ private:
     [[nodiscard]] QString placeOf(const std::string &key) const;
 
     void refresh();
+    [[nodiscard]] bool store();
+    bool tellNotices();
     [[nodiscard]] bool mayLeave();
     void chooseImport();
     void chooseExport();

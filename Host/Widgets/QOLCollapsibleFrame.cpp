@@ -91,6 +91,9 @@ bool QOLCollapsibleFrame::eventFilter(QObject *watched, QEvent *event)
 bool QOLCollapsibleFrame::event(QEvent *event)
 {
     const bool done = QFrame::event(event);
+    // At both of these QFrame sets the margins back to its border, and with them the header's place.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::ParentChange)
+        updateHeader();
     if (event->type() == QEvent::Polish)
         recallState();
     return done;

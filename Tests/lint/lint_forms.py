@@ -62,8 +62,14 @@ class Form:
             name = widget.get("name")
             if widget is not self.page and widget.find("property[@name='geometry']") is not None:
                 yield f"{name} has a fixed geometry"
+            for size in ("maximumSize", "baseSize"):
+                if widget.find(f"property[@name='{size}']") is not None:
+                    yield f"{name} has a {size}, beyond which its text could not grow"
             if widget.get("class") in CONTAINERS and widget.find("widget") is not None and widget.find("layout") is None:
                 yield f"{name} has children but no layout"
+        for alignment in self.page.iter("set"):
+            if "AlignAbsolute" in alignment.text:
+                yield "an alignment keeps its side where reading goes from right to left"
         for name, count in Counter(widget.get("name") for widget in self.widgets).items():
             if count > 1:
                 yield f"{count} widgets are named {name}"

@@ -10,6 +10,16 @@ PLUGIN_FOLDERS = {"Framework", "Viewer", "FileIO"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.MULTILINE)
 
 
+# Sizes of widgets follow from their texts, their font and the screen. No margin at all, or a pixel, is none.
+PIXELS = re.compile(r"\b(?:set(?:Fixed|Minimum|Maximum)(?:Size|Width|Height)|setPixelSize|setSpacing|setIconSize|resize)"
+                    r"\((?:QSize\()?\s*[1-9]|setContentsMargins\([^)]*\b(?:[2-9]|\d\d+)\b|AlignAbsolute")
+
+
+def widget_faults(text):
+    for found in PIXELS.findall(text):
+        yield f"gives a widget a fixed size or side: {found}"
+
+
 def plugin_faults(path, text):
     for quote, name in INCLUDE.findall(text):
         folder = name.split("/")[0] if "/" in name else ""
@@ -39,6 +49,9 @@ def main():
     for folder in sorted(SDK_FOLDERS):
         for path in sorted((root / "Host" / folder).rglob("*.h")):
             faults += [f"{path.relative_to(root)}: {fault}" for fault in sdk_faults(path, path.read_text())]
+    for folder in ("Apps/orlo", "Host/Preferences", "Host/Widgets", "Plugins"):
+        for path in sorted((root / folder).rglob("*.cpp")):
+            faults += [f"{path.relative_to(root)}: {fault}" for fault in widget_faults(path.read_text())]
     for top in ("Apps", "Host", "Plugins", "Tests"):
         for path in sorted((root / top).rglob("*.h")):
             if not path.read_text().startswith("#pragma once"):

@@ -98,6 +98,7 @@ void olFileIOPreferencesGUIW::appendSearchPath(const QString &path)
     m_form->searchPaths->insertRow(row);
     auto item = std::make_unique<QTableWidgetItem>(path);
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    item->setToolTip(path); // the column may be too narrow for all of it
     m_form->searchPaths->setItem(row, 0, item.release());
 }
 

@@ -26,7 +26,9 @@ void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &lab
     if (const QLayout *layout = place.layout())
         inset += layout->contentsMargins().left();
     for (QObject *child : place.children()) {
-        if (const auto *form = qobject_cast<QFormLayout *>(child)) {
+        if (auto *form = qobject_cast<QFormLayout *>(child)) {
+            // In a language of long words a field goes below its label rather than out of the page.
+            form->setRowWrapPolicy(QFormLayout::WrapLongRows);
             for (int row = 0; row < form->rowCount(); ++row) {
                 QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);
                 if (auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr)

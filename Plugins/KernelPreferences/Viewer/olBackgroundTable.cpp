@@ -37,7 +37,7 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         option->features |= QStyleOptionViewItem::HasDecoration;
         option->icon =
-            swatch(colorFromText(option->text), option->decorationSize, option->palette.color(QPalette::Mid));
+            swatch(colorFromText(option->text), option->decorationSize, option->palette.color(QPalette::Text));
     }
 
 private:
@@ -62,6 +62,8 @@ void olBackgroundTable::setUp()
     m_table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    // Tab would go round the cells for ever; the arrow keys are enough for them.
+    m_table.setTabKeyNavigation(false);
     m_table.setItemDelegateForColumn(ColorColumn, new SwatchDelegate(&m_table)); // owned by the table
 }
 

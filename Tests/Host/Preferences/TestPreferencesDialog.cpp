@@ -194,3 +194,24 @@ TEST_F(PreferencesDialog, RemembersItsSizeAndPageAndNeverOutgrowsTheScreen)
     EXPECT_LE(dialog->height(), room.height());
     EXPECT_FALSE(dialog->isModal());
 }
+
+TEST_F(PreferencesDialog, WhatTheHostSaysAboutASaveIsReadBeforeTheDialogCloses)
+{
+    start();
+    const auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
+    module.page.samples->setValue(8);
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_FALSE(message->isVisible());
+    QFile file(store);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(file.size() / 2));
+    file.close();
+
+    module.page.samples->setValue(16);
+    dialog->accept();
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_FALSE(canApply()) << "it was saved all the same";
+    dialog->accept();
+    EXPECT_FALSE(dialog->isVisible());
+}

@@ -1,0 +1,129 @@
+#include "Forms/FormFaults.h"
+#include "Forms/Pictures.h"
+#include "Preferences/olPreferencesDialog.h"
+#include "Preferences/olPreferencesSession.h"
+#include "Support/PluginTest.h"
+#include "Widgets/QOLCollapsibleFrame.h"
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTranslator>
+
+#include <memory>
+#include <ostream>
+
+namespace
+{
+
+/// A language whose texts are two fifths longer than ours.
+class LongerTexts : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *, const char *source, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(source);
+        const QString tail = QStringLiteral(" en langue longue et plus longue encore");
+        return text + tail.repeated(1 + text.size() / tail.size()).left((text.size() * 2 + 4) / 5);
+    }
+};
+
+struct Look {
+    const char *name;
+    bool isLonger;
+    Qt::LayoutDirection direction;
+};
+
+void PrintTo(const Look &look, std::ostream *out) { *out << look.name; }
+
+/// The dialog on all modules of the plug-in, in one language and direction, as large as it likes to be.
+class Forms : public PluginTest, public testing::WithParamInterface<Look>
+{
+protected:
+    Forms()
+    {
+        if (GetParam().isLonger)
+            QCoreApplication::installTranslator(&translator);
+        QApplication::setLayoutDirection(GetParam().direction); // a new language brings its own direction
+        restart();
+        session.start();
+        dialog = std::make_unique<olPreferencesDialog>(session);
+        const QFontMetrics metrics = dialog->fontMetrics();
+        dialog->resize(metrics.averageCharWidth() * 130, metrics.height() * 36);
+        dialog->open({});
+    }
+    ~Forms() override
+    {
+        dialog.reset();
+        QCoreApplication::removeTranslator(&translator);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
+    /// Every page, every tab of it, unfolded and with everything on it enabled.
+    template <class Use> void eachView(Use &&use)
+    {
+        for (olPreferencesEntry *entry : modules()) {
+            QWidget &page = *entry->page();
+            dialog->open(entry->name());
+            for (QOLCollapsibleFrame *frame : page.findChildren<QOLCollapsibleFrame *>())
+                frame->setFolded(false);
+            for (QWidget *widget : page.findChildren<QWidget *>())
+                widget->setEnabled(true);
+            auto *tabs = page.findChild<QTabWidget *>();
+            for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+                if (tabs)
+                    tabs->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                const QString name = tabs ? entry->name() + QLatin1String(", ") + tabs->tabText(tab) : entry->name();
+                use(page, name.toStdString());
+            }
+        }
+    }
+
+    QTemporaryDir folder;
+    LongerTexts translator;
+    olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
+    std::unique_ptr<olPreferencesDialog> dialog;
+};
+
+void expectNone(const QStringList &faults, const std::string &place)
+{
+    EXPECT_TRUE(faults.isEmpty()) << place << ":\n  " << faults.join(QStringLiteral("\n  ")).toStdString();
+}
+
+TEST_P(Forms, EverythingIsInItsPlaceWithTheRoomItNeeds)
+{
+    eachView([this](QWidget &page, const std::string &name) {
+        Pictures::take(*dialog,
+                       QStringLiteral("%1 %2").arg(QLatin1String(GetParam().name), QString::fromStdString(name)));
+        expectNone(FormFaults::clipped(*dialog), name);
+        expectNone(FormFaults::misplaced(*dialog), name);
+        const auto *area = qobject_cast<QScrollArea *>(page.parentWidget()->parentWidget());
+        ASSERT_NE(area, nullptr);
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << name << " must be scrolled sideways";
+    });
+}
+
+TEST_P(Forms, TheTabKeyReachesEveryControlInTheOrderOfReading)
+{
+    eachView(
+        [this](QWidget &page, const std::string &name) { expectNone(FormFaults::unreached(*dialog, page), name); });
+}
+
+TEST_P(Forms, TheOtherDirectionOfReadingIsTheMirrorImage)
+{
+    eachView([this](QWidget &, const std::string &name) { expectNone(FormFaults::unmirrored(*dialog), name); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, Forms,
+                         testing::Values(Look{"plain", false, Qt::LeftToRight}, Look{"longer", true, Qt::LeftToRight},
+                                         Look{"mirrored", false, Qt::RightToLeft},
+                                         Look{"mirrored-longer", true, Qt::RightToLeft}),
+                         [](const auto &look) {
+                             return QString::fromLatin1(look.param.name).remove('-').toStdString();
+                         });
+
+} // namespace
