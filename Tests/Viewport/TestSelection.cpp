@@ -31,6 +31,18 @@ protected:
         settle();
     }
 
+    void findTransparent(bool on)
+    {
+        apply(marking, "Transparent Object Selection", on);
+        settle();
+    }
+
+    void hide(const QSet<QString> &parts)
+    {
+        scene.setHiddenParts(parts);
+        settle();
+    }
+
     QString add(const olScene::Document &document, const gp_Pnt &corner, float opacity)
     {
         const TopoDS_Shape box = BRepPrimAPI_MakeBox(corner, 20, 20, 20).Shape();
@@ -66,25 +78,25 @@ protected:
 
 TEST_F(Selection, FindsTransparentObjectsWhereItShall)
 {
-    apply(marking, "Transparent Object Selection", true);
+    findTransparent(true);
     const QPoint place = aside();
     ASSERT_FALSE(place.isNull());
-    apply(marking, "Transparent Object Selection", false);
+    findTransparent(false);
     EXPECT_EQ(partUnder(place), QString());
     hoverAt(QPoint(4, height - 4));
     const QImage before = view.picture();
     hoverAt(place);
     EXPECT_LT(difference(before, view.picture()), 0.0005) << "nor does hovering";
 
-    apply(marking, "Transparent Object Selection", true);
+    findTransparent(true);
     hoverAt(place);
     EXPECT_GT(difference(before, view.picture()), 0.0005) << "its wireframe shows what a click would select";
     EXPECT_EQ(partUnder(place), invisible);
 
-    scene.setHiddenParts({invisible});
+    hide({invisible});
     EXPECT_NE(partUnder(place), invisible) << "what is not drawn at all is not there";
-    apply(marking, "Transparent Object Selection", false);
-    scene.setHiddenParts({});
+    findTransparent(false);
+    hide({});
     EXPECT_NE(partUnder(place), invisible) << "shown again it is as transparent as before";
 }
 
