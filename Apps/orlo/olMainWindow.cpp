@@ -3,6 +3,7 @@
 #include "olHostStatePanel.h"
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
+#include "olSceneTree.h"
 
 #include "Embedded/olHostState.h"
 #include "Preferences/olPreferencesDialog.h"
@@ -36,6 +37,7 @@ olMainWindow::olMainWindow(olPreferencesSession &session)
     : m_session(session),
       m_scene(std::make_unique<olScene>()),
       m_files(std::make_unique<olModelFiles>(*this, *m_scene)),
+      m_tree(new olSceneTree(*m_scene)),
       m_state(new olHostStatePanel),
       m_journal(new olJournalPanel)
 {
@@ -45,11 +47,13 @@ olMainWindow::olMainWindow(olPreferencesSession &session)
     addMenus();
     addViewActions();
     m_frameRate = new QLabel;
+    m_frameRate->setObjectName(QStringLiteral("frameRate"));
     statusBar()->addPermanentWidget(m_frameRate);
     statusBar()->showMessage(tr("Edit > Preferences changes what you see here."));
 
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 150, metrics.height() * 40);
+    resize(QSize(metrics.averageCharWidth() * 150, metrics.height() * 40)
+               .boundedTo(QApplication::primaryScreen()->availableSize()));
     olHostState::the().addObserver(*this);
     applyWindowSettings();
 }
@@ -70,6 +74,9 @@ void olMainWindow::addCentre()
     connect(m_viewport, &olViewport::failed, this, [this](const QString &reason) { statusBar()->showMessage(reason); });
     connect(m_viewport, &olViewport::framesPerSecondMeasured, this,
             [this](double frames) { m_frameRate->setText(tr("%1 frames/s").arg(frames, 0, 'f', 1)); });
+    connect(m_viewport, &olViewport::selectionChanged, m_tree, &olSceneTree::showSelection);
+    connect(m_tree, &olSceneTree::selectionChanged, m_viewport, &olViewport::select);
+    connect(m_tree, &olSceneTree::zoomWanted, m_viewport, &olViewport::zoomToSelection);
 }
 
 void olMainWindow::addDocks()
@@ -82,10 +89,11 @@ void olMainWindow::addDocks()
         m_docks.append(dock);
         return dock;
     };
+    QDockWidget *tree = add(tr("Scene"), "sceneDock", m_tree, Qt::LeftDockWidgetArea);
     QDockWidget *state = add(tr("Host State"), "hostStateDock", m_state, Qt::RightDockWidgetArea);
     QDockWidget *calls = add(tr("Host Calls"), "hostCallsDock", m_journal, Qt::BottomDockWidgetArea);
     const QFontMetrics metrics = fontMetrics();
-    resizeDocks({state}, {metrics.averageCharWidth() * 45}, Qt::Horizontal);
+    resizeDocks({tree, state}, {metrics.averageCharWidth() * 32, metrics.averageCharWidth() * 45}, Qt::Horizontal);
     resizeDocks({calls}, {metrics.height() * 10}, Qt::Vertical);
 }
 

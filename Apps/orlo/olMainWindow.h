@@ -15,6 +15,7 @@ class olModelFiles;
 class olPreferencesDialog;
 class olPreferencesSession;
 class olScene;
+class olSceneTree;
 class olViewport;
 
 /// The viewer's window: the scene as the host's state shows it, what the host holds and what it was told, and the way
@@ -63,6 +64,7 @@ private:
     QList<QDockWidget *> m_docks;
     QToolBar *m_tools = nullptr;
     QLabel *m_frameRate = nullptr;
+    olSceneTree *m_tree;
     olHostStatePanel *m_state;
     olJournalPanel *m_journal;
     std::unique_ptr<olPreferencesDialog> m_preferences;

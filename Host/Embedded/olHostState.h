@@ -171,7 +171,8 @@ public:
 
     // Input devices. The space mouse is wanted or not, whether or not its daemon is there. Its motion is how far the
     // cap is moved along x, y and z and turned about them, in the daemon's units; each button is a bit, the first the
-    // lowest
+    // lowest. The joystick's axes go from -1 to 1, to the right and towards the user: two of the first stick, two of the
+    // second
     olHostValue<bool> spacemouseWanted{*this, "spacemouseWanted", false};
     olHostValue<bool> spacemouseConnected{*this, "spacemouseConnected", false};
     olHostValue<std::vector<float>> spacemouseMotion{*this, "spacemouseMotion", std::vector<float>(6, 0.0f)};
@@ -184,6 +185,8 @@ public:
     olHostValue<float> spacemouseFixedHeight{*this, "spacemouseFixedHeight", 0.0f};
     olHostValue<int> joystickId{*this, "joystickId", 0};
     olHostValue<bool> joystickNavigation{*this, "joystickNavigation", false};
+    olHostValue<bool> joystickConnected{*this, "joystickConnected", false};
+    olHostValue<std::vector<float>> joystickAxes{*this, "joystickAxes", std::vector<float>(4, 0.0f)};
 
     // Displays
     olHostValue<int> displayType{*this, "displayType", 0, Fact};

@@ -1,6 +1,7 @@
 #include "Kernel/olController.h"
 
 #include "Embedded/olHostState.h"
+#include "Embedded/olJoystickLink.h"
 #include "Embedded/olJournal.h"
 #include "Kernel/olWebInterface.h"
 #include "Utilities/olMessage.h"
@@ -58,6 +59,12 @@ void olController::setJoystickNavigation(int id, bool enable)
     olHostState &state = olHostState::the();
     state.joystickId = id;
     state.joystickNavigation = enable;
+    if (state.isPassive)
+        return;
+    if (enable)
+        olJoystickLink::the().open(id);
+    else
+        olJoystickLink::the().close();
 }
 
 void olController::setShowImportOptions(bool show)

@@ -45,6 +45,8 @@ public:
     /// Acts when tool bars are next built.
     static void showButtonText(bool show);
 
+    /// The first joystick is 0. Where there is none of that number the log says so and nothing else happens; a second
+    /// call looks again.
     static void setJoystickNavigation(int id, bool enable);
 
     // The import dialog

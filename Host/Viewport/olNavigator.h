@@ -42,12 +42,19 @@ public:
     /// Straight ahead, as flying does while the button is held.
     void fly(double seconds);
 
+    // What all of these are made of; angles are radians.
+
+    [[nodiscard]] const Graphic3d_Camera &camera() const { return *m_camera; }
+    [[nodiscard]] double sceneSize() const { return m_sceneSize; }
+    void shift(const gp_Vec &by);
+    void turn(const gp_Pnt &around, const gp_Dir &axis, double angle);
+
+    /// Keeps the horizon level and stops at the poles. A positive tilt raises the direction in which the camera looks.
+    void turnUpright(const gp_Pnt &around, double heading, double tilt);
+
 private:
     [[nodiscard]] double worldPerPixel(double distance) const;
-    void turn(const gp_Pnt &around, const gp_Dir &axis, double angle);
-    void turnUpright(const gp_Pnt &around, double heading, double tilt);
     void moveAhead(double share);
-    void shift(const gp_Vec &by);
 
     opencascade::handle<Graphic3d_Camera> m_camera;
     gp_Pnt m_pivot;

@@ -3,9 +3,12 @@
 #include <XCAFPrs_AISObject.hxx>
 #include <XCAFPrs_Style.hxx>
 
+#include <optional>
+
 struct XCAFPrs_DocumentNode;
 
-/// One part of the scene where it stands, in the colours that it inherits from the assemblies around it.
+/// One part of the scene where it stands, in the colours that it inherits from the assemblies around it. It is drawn
+/// with one of its levels of detail, and either the whole part or one level is what gets selected.
 class olPart : public XCAFPrs_AISObject
 {
     DEFINE_STANDARD_RTTI_INLINE(olPart, XCAFPrs_AISObject)
@@ -18,13 +21,34 @@ public:
 
     [[nodiscard]] bool isFullyTransparent() const;
 
+    [[nodiscard]] int levels() const { return m_levels; }
+
+    /// The display mode in which one of the levels is drawn.
+    [[nodiscard]] static int displayModeOf(int level);
+
+    /// The level that suits a part of that many pixels.
+    [[nodiscard]] int levelFor(double pixels) const;
+
+    /// Which level is drawn now.
+    int shownLevel = 0;
+
+    /// Which level is selected where it is not the whole part.
+    std::optional<int> selectedLevel;
+
     /// Whether it counts as solid for the depth, although one sees through it.
     void setWritesDepth(bool writes);
 
 protected:
     void DefaultStyle(XCAFPrs_Style &style) const override;
+    Standard_Boolean AcceptDisplayMode(const Standard_Integer mode) const override;
+    void Compute(const Handle(PrsMgr_PresentationManager) & manager, const Handle(Prs3d_Presentation) & presentation,
+                 const Standard_Integer mode) override;
 
 private:
+    [[nodiscard]] static int levelOf(int displayMode);
+
     TCollection_AsciiString m_id;
     XCAFPrs_Style m_style;
+    TopoDS_Shape m_source;
+    int m_levels;
 };

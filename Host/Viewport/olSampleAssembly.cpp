@@ -1,5 +1,6 @@
 #include "Viewport/olSampleAssembly.h"
 
+#include "Viewport/olLevelsOfDetail.h"
 #include "Viewport/olTriangles.h"
 
 #include <BRepAdaptor_Curve.hxx>
@@ -39,6 +40,9 @@ constexpr double boreRadius = 35.0;
 constexpr double ballRadius = 6.5;
 constexpr int balls = 8;
 
+/// A little above the housing: two faces in one plane would flicker.
+constexpr double coverBottom = 30.2;
+
 /// A ring about the z axis, from `bottom` up.
 TopoDS_Shape ring(double inner, double outer, double bottom, double height)
 {
@@ -73,6 +77,12 @@ TopoDS_Shape shaft()
     const gp_Ax2 axis(gp_Pnt(0, 0, -40), gp::DZ());
     // The seam of a cylinder is a line, and no edge to be rounded.
     return rounded(BRepPrimAPI_MakeCylinder(axis, shaftRadius, 110).Shape(), GeomAbs_Circle, 2.0);
+}
+
+/// To lift the housing by. Seen from afar, few of its triangles count.
+TopoDS_Shape liftingEye()
+{
+    return BRepPrimAPI_MakeTorus(gp_Ax2(gp_Pnt(38, -38, 37), gp_Dir(1, -1, 0)), 6.5, 2).Shape();
 }
 
 /// A wavy plate of triangles only, as a scanner would leave it.
@@ -130,6 +140,13 @@ public:
         return label;
     }
 
+    TDF_Label partWithLevels(const char *name, const TopoDS_Shape &shape, const Quantity_ColorRGBA &color)
+    {
+        const TDF_Label label = part(name, shape, color);
+        olLevelsOfDetail::add(shape, {{0.4, 30.0}, {1.5, 60.0}});
+        return label;
+    }
+
     void place(const TDF_Label &parent, const TDF_Label &part, const TCollection_ExtendedString &name,
                const gp_Trsf &where = {})
     {
@@ -172,8 +189,10 @@ olScene::Document olSampleAssembly::build()
                   builder.part("Seal", BRepPrimAPI_MakeTorus(gp_Ax2(gp_Pnt(0, 0, 36), gp::DZ()), 24, 4).Shape(),
                                {0.12f, 0.12f, 0.13f, 1.0f}),
                   "Seal");
-    builder.place(whole, builder.part("Cover", ring(40, 42, 30, 35), {0.55f, 0.85f, 0.95f, 0.35f}), "Cover");
+    builder.place(whole, builder.part("Cover", ring(40, 42, coverBottom, 35), {0.55f, 0.85f, 0.95f, 0.35f}), "Cover");
     builder.place(whole, builder.part("Scanned plate", scannedPlate(), {0.35f, 0.55f, 0.30f, 1.0f}), "Scanned plate");
+    builder.place(whole, builder.partWithLevels("Lifting eye", liftingEye(), {0.85f, 0.85f, 0.87f, 1.0f}),
+                  "Lifting eye");
     builder.finish();
     return document;
 }

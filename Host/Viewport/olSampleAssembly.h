@@ -3,7 +3,7 @@
 #include "Viewport/olScene.h"
 
 /// A small assembly that the program builds itself: a bearing with a shaft in a housing, balls that share one shape,
-/// a transparent cover, and a mesh without a surface.
+/// a transparent cover, a part with levels of detail, and a mesh without a surface.
 class olSampleAssembly
 {
 public:

@@ -7,6 +7,23 @@
 #include <TDocStd_Document.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFPrs_DocumentExplorer.hxx>
+
+namespace
+{
+
+QSet<QString> hiddenIn(const olScene::Document &document)
+{
+    QSet<QString> hidden;
+    for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
+         explorer.Next()) {
+        if (!explorer.Current().Style.IsVisible())
+            hidden.insert(QString::fromLatin1(explorer.Current().Id.ToCString()));
+    }
+    return hidden;
+}
+
+} // namespace
 
 olScene::olScene(QObject *parent) : QObject(parent), m_document(newDocument()) {}
 
@@ -24,7 +41,16 @@ unsigned olScene::triangleCount() const { return olTriangles::count(m_document);
 void olScene::setDocument(const Document &document)
 {
     m_document = document.IsNull() ? newDocument() : document;
+    m_hidden = hiddenIn(m_document);
     emit changed();
+}
+
+void olScene::setHiddenParts(const QSet<QString> &parts)
+{
+    if (m_hidden == parts)
+        return;
+    m_hidden = parts;
+    emit visibilityChanged();
 }
 
 void olScene::clear() { setDocument(newDocument()); }

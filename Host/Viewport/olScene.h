@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QSet>
+#include <QString>
 
 #include <Standard_Handle.hxx>
 
@@ -33,6 +35,10 @@ public:
     void clear();
     void loadSample();
 
+    /// Parts that are not drawn, as the explorer of the document names them. At first those that the document hides.
+    [[nodiscard]] const QSet<QString> &hiddenParts() const { return m_hidden; }
+    void setHiddenParts(const QSet<QString> &parts);
+
     /// A document without shapes, ready to be filled; may be called in any thread.
     [[nodiscard]] static Document newDocument();
 
@@ -40,6 +46,10 @@ signals:
     /// The document was replaced.
     void changed();
 
+    /// Other parts are hidden than before.
+    void visibilityChanged();
+
 private:
     Document m_document;
+    QSet<QString> m_hidden;
 };

@@ -59,12 +59,12 @@ Handle(Prs3d_Drawer) wireStyle(const osg::Color3f &color, Graphic3d_ZLayerId lay
     return style;
 }
 
-std::vector<std::string> idsOf(const std::vector<Handle(olPart)> &parts)
+std::string idOf(const olPart &part)
 {
-    std::vector<std::string> ids;
-    for (const Handle(olPart) & part : parts)
-        ids.emplace_back(part->id().ToCString());
-    return ids;
+    std::string id = part.id().ToCString();
+    if (part.selectedLevel)
+        id += '#' + std::to_string(*part.selectedLevel);
+    return id;
 }
 
 Graphic3d_Camera::Projection projectionFor(olSceneView::Eye eye)
@@ -89,7 +89,11 @@ bool isSane(float nearest, float farthest)
 class olSceneView::Private
 {
 public:
-    void showParts(const olScene::Document &document);
+    void showParts(const olScene::Document &document, const QSet<QString> &hidden);
+    void showPart(const Handle(olPart) & part, bool shown);
+    void measure();
+    void chooseLevels();
+    bool chooseLevel(const Handle(olPart) & part, int height);
     void applyBackground();
     void applyCamera();
     void applySelectionStyle();
@@ -153,14 +157,44 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
     return made;
 }
 
-void olSceneView::setDocument(const olScene::Document &document)
+void olSceneView::setDocument(const olScene::Document &document, const QSet<QString> &hidden)
 {
-    d->showParts(document);
+    d->showParts(document, hidden);
     applyState();
     resetCamera();
 }
 
-void olSceneView::Private::showParts(const olScene::Document &document)
+void olSceneView::setHidden(const QSet<QString> &hidden)
+{
+    d->context->ClearDetected(Standard_False);
+    for (const Handle(olPart) & part : d->parts)
+        d->showPart(part, !hidden.contains(QString::fromLatin1(part->id().ToCString())));
+    d->measure();
+    d->applyParts();
+    d->showSelection();
+}
+
+void olSceneView::Private::showPart(const Handle(olPart) & part, bool shown)
+{
+    if (shown == bool(context->IsDisplayed(part)))
+        return;
+    if (shown)
+        context->Display(part, olPart::displayModeOf(part->shownLevel), 0, Standard_False);
+    else
+        context->Erase(part, Standard_False);
+}
+
+void olSceneView::Private::measure()
+{
+    std::vector<Handle(olPart)> shown;
+    for (const Handle(olPart) & part : parts) {
+        if (context->IsDisplayed(part))
+            shown.push_back(part);
+    }
+    box = boxOf(shown);
+}
+
+void olSceneView::Private::showParts(const olScene::Document &document, const QSet<QString> &hidden)
 {
     context->ClearDetected(Standard_False);
     for (const Handle(olPart) & part : parts)
@@ -172,15 +206,14 @@ void olSceneView::Private::showParts(const olScene::Document &document)
     for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
          explorer.Next()) {
         const XCAFPrs_DocumentNode &node = explorer.Current();
-        if (!node.Style.IsVisible())
-            continue;
         const Handle(olPart) part = new olPart(node);
-        context->Display(part, AIS_Shaded, 0, Standard_False);
+        const bool shown = !hidden.contains(QString::fromLatin1(node.Id.ToCString()));
+        showPart(part, shown);
         parts.push_back(part);
-        if (!node.Location.IsIdentity())
+        if (shown && !node.Location.IsIdentity())
             joints.push_back(node.Location);
     }
-    box = boxOf(parts);
+    measure();
     lights->placeLamp(box);
     aids->setScene(box, lights->lamp(), joints);
     showSelection();
@@ -269,6 +302,8 @@ void olSceneView::Private::applyParts()
 {
     const olHostState &state = olHostState::the();
     for (const Handle(olPart) & part : parts) {
+        if (!context->IsDisplayed(part))
+            continue;
         part->setWritesDepth(state.zWriteTransparency);
         if (part->isFullyTransparent() && !state.transparentObjectSelection)
             context->Deactivate(part);
@@ -287,6 +322,9 @@ void olSceneView::Private::showSelection()
     for (const Handle(olPart) & part : parts)
         context->Unhilight(part, Standard_False);
     for (const Handle(olPart) & part : selected) {
+        const bool isDrawn = part->selectedLevel.value_or(part->shownLevel) == part->shownLevel;
+        if (!isDrawn || !context->IsDisplayed(part))
+            continue;
         if (state.wireframeSelection)
             context->HilightWithColor(part, style, Standard_False);
         boxes.push_back(boxOf({part}));
@@ -301,6 +339,38 @@ void olSceneView::Private::showSelection()
     context->Redisplay(marks, Standard_False);
 }
 
+void olSceneView::Private::chooseLevels()
+{
+    int width = 0;
+    int height = 0;
+    view->Window()->Size(width, height);
+    bool isSelectionConcerned = false;
+    for (const Handle(olPart) & part : parts) {
+        if (part->levels() > 1 && context->IsDisplayed(part) && chooseLevel(part, height))
+            isSelectionConcerned = isSelectionConcerned || part->selectedLevel;
+    }
+    if (isSelectionConcerned)
+        showSelection();
+}
+
+bool olSceneView::Private::chooseLevel(const Handle(olPart) & part, int height)
+{
+    const Bnd_Box one = boxOf({part});
+    if (one.IsVoid())
+        return false;
+    const Handle(Graphic3d_Camera) &camera = view->Camera();
+    const gp_Pnt middle((one.CornerMin().XYZ() + one.CornerMax().XYZ()) / 2);
+    const double distance = std::max(camera->Eye().Distance(middle), gp::Resolution());
+    const double pictureSize = 2.0 * distance * std::tan(camera->FOVy() * M_PI / 360.0);
+    const int level = part->levelFor(one.CornerMin().Distance(one.CornerMax()) / pictureSize * height);
+    if (level == part->shownLevel)
+        return false;
+    part->shownLevel = level;
+    context->SetDisplayMode(part, olPart::displayModeOf(level), Standard_False);
+    part->setWritesDepth(olHostState::the().zWriteTransparency);
+    return true;
+}
+
 void olSceneView::setRaytracing(bool on)
 {
     d->isRaytraced = on;
@@ -312,6 +382,7 @@ bool olSceneView::draw(const Frame &frame)
     if (!olGlBinding::drawIntoBoundFramebuffer(d->view))
         return false;
     d->applyBackground();
+    d->chooseLevels();
     const olHostState &state = olHostState::the();
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
@@ -376,6 +447,8 @@ void olSceneView::resetCamera()
     camera->SetUp(up);
     camera->SetEyeAndCenter(gp_Pnt(0, 0, 0).Translated(gp_Vec(direction) * -1000.0), gp_Pnt(0, 0, 0));
     camera->SetUp(up);
+    // The library places the cube by it, and takes it to be at right angles to the direction of view.
+    camera->OrthogonalizeUp();
     camera->Copy(d->fitted(d->box));
 }
 
@@ -385,11 +458,16 @@ gp_Pnt olSceneView::middle(bool selected) const
     return box.IsVoid() ? gp_Pnt() : gp_Pnt((box.CornerMin().XYZ() + box.CornerMax().XYZ()) / 2);
 }
 
+gp_Pnt olSceneView::target() const { return d->selected.empty() ? gp_Pnt() : middle(true); }
+
 double olSceneView::size() const { return d->box.IsVoid() ? 1.0 : d->box.CornerMin().Distance(d->box.CornerMax()); }
 
 bool olSceneView::hover(const QPoint &point)
 {
     const Handle(SelectMgr_EntityOwner) before = d->context->HasDetected() ? d->context->DetectedOwner() : nullptr;
+    // The camera may have moved since the last frame, and what is not between its planes would not be found.
+    if (d->view->AutoZFitMode())
+        d->view->AutoZFit();
     d->context->MoveTo(point.x(), point.y(), d->view, Standard_False);
     const Handle(SelectMgr_EntityOwner) after = d->context->HasDetected() ? d->context->DetectedOwner() : nullptr;
     return before != after;
@@ -424,8 +502,11 @@ Handle(Graphic3d_Camera) olSceneView::click(bool add)
     } else {
         if (!add)
             d->selected.clear();
-        if (!part.IsNull())
+        if (!part.IsNull()) {
+            const bool isOneLevel = part->levels() > 1 && !olHostState::the().lodSelection;
+            part->selectedLevel = isOneLevel ? std::optional<int>(part->shownLevel) : std::nullopt;
             d->selected.push_back(part);
+        }
     }
     d->showSelection();
     return {};
@@ -443,16 +524,37 @@ std::optional<gp_Pnt> olSceneView::pointUnder(const QPoint &point)
     return {};
 }
 
-std::vector<std::string> olSceneView::parts() const { return idsOf(d->parts); }
+std::vector<std::string> olSceneView::parts() const
+{
+    std::vector<std::string> ids;
+    for (const Handle(olPart) & part : d->parts) {
+        if (d->context->IsDisplayed(part))
+            ids.emplace_back(part->id().ToCString());
+    }
+    return ids;
+}
 
-std::vector<std::string> olSceneView::selection() const { return idsOf(d->selected); }
+std::vector<std::string> olSceneView::selection() const
+{
+    std::vector<std::string> ids;
+    for (const Handle(olPart) & part : d->selected)
+        ids.push_back(idOf(*part));
+    return ids;
+}
 
 void olSceneView::select(const std::vector<std::string> &ids)
 {
     const std::set<std::string> wanted(ids.begin(), ids.end());
     d->selected.clear();
     for (const Handle(olPart) & part : d->parts) {
-        if (wanted.count(part->id().ToCString()) != 0)
+        // The whole part counts more than one of its levels.
+        part->selectedLevel.reset();
+        bool isWanted = wanted.count(idOf(*part)) != 0;
+        for (int level = 0; !isWanted && part->levels() > 1 && level < part->levels(); ++level) {
+            part->selectedLevel = level;
+            isWanted = wanted.count(idOf(*part)) != 0;
+        }
+        if (isWanted)
             d->selected.push_back(part);
     }
     d->showSelection();

@@ -36,7 +36,10 @@ public:
     [[nodiscard]] static std::unique_ptr<olSceneView> create(quintptr window, const QSize &size, QString &error);
     ~olSceneView();
 
-    void setDocument(const olScene::Document &document);
+    void setDocument(const olScene::Document &document, const QSet<QString> &hidden);
+
+    /// Which parts are not drawn; nothing else changes.
+    void setHidden(const QSet<QString> &hidden);
 
     /// Takes over what the host's state says now.
     void applyState();
@@ -71,7 +74,11 @@ public:
     /// The place in the scene under the mouse.
     [[nodiscard]] std::optional<gp_Pnt> pointUnder(const QPoint &point);
 
-    /// Parts as the explorer of the document names them.
+    /// Where one of the pivots of the 3D mouse is: the middle of what is selected, else the origin.
+    [[nodiscard]] gp_Pnt target() const;
+
+    /// Parts that are drawn, as the explorer of the document names them. In the selection a part's level of detail is
+    /// named by the part, "#" and its number.
     [[nodiscard]] std::vector<std::string> parts() const;
     [[nodiscard]] std::vector<std::string> selection() const;
     void select(const std::vector<std::string> &ids);

@@ -3,6 +3,7 @@
 #include "Embedded/olHostState.h"
 #include "Kernel/olOSGWidget.h"
 #include "Utilities/olLog.h"
+#include "Viewport/olDeviceMotion.h"
 #include "Viewport/olMouseStyle.h"
 #include "Viewport/olNavigator.h"
 #include "Viewport/olPictureTarget.h"
@@ -80,6 +81,7 @@ public:
     std::unique_ptr<olSceneView> view;
     olPictureTarget target;
     olNavigator navigator;
+    olDeviceMotion devices;
     olStillFrame still;
     olProgressWheel wheel;
     QPointer<olScene> scene;
@@ -133,6 +135,8 @@ olViewport::olViewport(QWidget *parent) : QOpenGLWidget(parent), d(std::make_uni
         d->navigator.fly(frameMilliseconds / 1000.0);
         redraw();
     });
+    connect(&d->devices, &olDeviceMotion::due, this, &olViewport::moveByDevices);
+    connect(&d->devices, &olDeviceMotion::stopped, this, &olViewport::redraw);
     d->restTimer.setSingleShot(true);
     connect(&d->restTimer, &QTimer::timeout, this, [this] {
         const olHostState &state = olHostState::the();
@@ -208,15 +212,23 @@ void olViewport::setScene(olScene *scene)
     if (d->scene)
         disconnect(d->scene, nullptr, this, nullptr);
     d->scene = scene;
-    if (scene)
+    if (scene) {
         connect(scene, &olScene::changed, this, [this] { withContext([this] { takeScene(); }); });
+        connect(scene, &olScene::visibilityChanged, this, [this] {
+            withContext([this] { d->view->setHidden(d->scene->hiddenParts()); });
+            redraw();
+        });
+    }
     withContext([this] { takeScene(); });
 }
 
 void olViewport::takeScene()
 {
     d->glideTimer.stop();
-    d->view->setDocument(d->scene ? d->scene->document() : olScene::newDocument());
+    if (d->scene)
+        d->view->setDocument(d->scene->document(), d->scene->hiddenParts());
+    else
+        d->view->setDocument(olScene::newDocument(), {});
     d->navigator.setScene(d->view->middle(false), d->view->size());
     redraw();
 }
@@ -243,7 +255,7 @@ void olViewport::redraw()
     d->still.stop();
     d->wheel.setProgress(1.0);
     const olHostState &state = olHostState::the();
-    const bool rests = !d->isDragging && !d->glideTimer.isActive();
+    const bool rests = !d->isDragging && !d->glideTimer.isActive() && !d->devices.isMoving();
     if (state.antialiasing && rests)
         d->restTimer.start(int(std::clamp(state.antialiasingTime.get(), 0.0, longestRest) * 1000.0));
     else
@@ -297,7 +309,7 @@ bool olViewport::drawInto(olPictureTarget &target, const QSize &size, bool isSti
 {
     olSceneView::Frame frame;
     frame.isStill = isStill;
-    frame.isMoving = d->isDragging || d->glideTimer.isActive();
+    frame.isMoving = d->isDragging || d->glideTimer.isActive() || d->devices.isMoving();
     if (isStill)
         frame.shift = d->still.nextShift();
     if (!d->isAnaglyph)
@@ -424,6 +436,15 @@ void olViewport::advanceGlide()
         camera->SetEyeAndCenter(between->Eye(), between->Center());
         camera->SetUp(between->Up());
     }
+    redraw();
+}
+
+void olViewport::moveByDevices(double seconds)
+{
+    if (!d->view)
+        return;
+    d->glideTimer.stop();
+    guarded([&] { olDeviceMotion::move(d->navigator, d->view->target(), seconds); });
     redraw();
 }
 

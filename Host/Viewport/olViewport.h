@@ -45,7 +45,8 @@ public:
     /// Whether the still frame is complete.
     [[nodiscard]] bool isStillFrameDone() const;
 
-    /// All parts that are shown, and those that are selected, as the explorer of the scene's document names them.
+    /// All parts that are shown, and those that are selected, as the explorer of the scene's document names them; a
+    /// level of detail by its part, "#" and its number.
     [[nodiscard]] QStringList parts() const;
     [[nodiscard]] QStringList selection() const;
     void select(const QStringList &parts);
@@ -85,6 +86,7 @@ private:
     void guarded(const std::function<void()> &work);
     void releaseView();
     void takeScene();
+    void moveByDevices(double seconds);
     void takeState();
     void redraw();
     void drawFrame();

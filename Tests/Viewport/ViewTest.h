@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Support/PictureDifference.h"
 #include "Support/PluginTest.h"
 
 #include "Viewport/olScene.h"
@@ -22,8 +23,7 @@ protected:
     /// Sends the mouse to a place of the view, as hovering does.
     void hoverAt(const QPoint &point);
 
-    /// The share of the pixels that differ by more than what rounding explains; 1 for pictures of different sizes.
-    static double difference(const QImage &left, const QImage &right);
+    static double difference(const QImage &left, const QImage &right) { return pictureDifference(left, right); }
 
     static constexpr int width = 320;
     static constexpr int height = 240;

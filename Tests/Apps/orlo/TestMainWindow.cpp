@@ -1,0 +1,165 @@
+#include "WindowTest.h"
+
+#include "Support/BoxWatch.h"
+
+#include "Embedded/olHostState.h"
+#include "Preferences/olPreferencesDialog.h"
+#include "Viewport/olScene.h"
+#include "Viewport/olViewport.h"
+
+#include <TDocStd_Document.hxx>
+
+#include <QDockWidget>
+#include <QFile>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolBar>
+#include <QWindow>
+
+namespace
+{
+
+constexpr auto settings = "MainWindow";
+
+class MainWindow : public WindowTest
+{
+protected:
+    QLabel &frameRate = *window.statusBar()->findChild<QLabel *>(QStringLiteral("frameRate"));
+
+    /// The texts of the boxes that came up after something, of which one at least is waited for.
+    QStringList textsAfter(const std::function<void()> &work)
+    {
+        QStringList texts;
+        BoxWatch watch([&texts](QMessageBox &box) {
+            texts << box.text();
+            box.accept();
+        });
+        work();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !texts.isEmpty(); }, 10000));
+        QTest::qWait(100);
+        return texts;
+    }
+};
+
+TEST_F(MainWindow, FramesPerSecondAreInTheStatusBarWhereWanted)
+{
+    EXPECT_FALSE(frameRate.isVisible());
+    apply(settings, "MainWindow show fps", true);
+    EXPECT_TRUE(frameRate.isVisible());
+    // Without sleep the view draws all the time.
+    olHostState::the().sleepTime = 0;
+    EXPECT_TRUE(QTest::qWaitFor([this] { return frameRate.text().endsWith(QLatin1String("frames/s")); }));
+    EXPECT_GT(frameRate.text().section(QLatin1Char(' '), 0, 0).toDouble(), 0.0);
+    apply(settings, "MainWindow show fps", false);
+    EXPECT_FALSE(frameRate.isVisible());
+}
+
+TEST_F(MainWindow, OpacityNeverMakesTheWindowVanish)
+{
+    apply(settings, "MainWindow window opacity", 0.5);
+    EXPECT_NEAR(window.windowHandle()->opacity(), 0.5, 0.01);
+    apply(settings, "MainWindow window opacity", 0.0);
+    EXPECT_NEAR(window.windowHandle()->opacity(), 0.1, 0.01);
+}
+
+TEST_F(MainWindow, WithoutDockingPanelsStayWhereTheyAre)
+{
+    auto &dock = *window.findChild<QDockWidget *>(QStringLiteral("sceneDock"));
+    dock.setFloating(true);
+    apply(settings, "MainWindow disable docking", true);
+    EXPECT_FALSE(dock.isFloating());
+    EXPECT_EQ(dock.features(), QDockWidget::DockWidgetClosable);
+    apply(settings, "MainWindow disable docking", false);
+    EXPECT_TRUE(dock.features() & QDockWidget::DockWidgetFloatable);
+    EXPECT_TRUE(dock.features() & QDockWidget::DockWidgetMovable);
+}
+
+TEST_F(MainWindow, ButtonsShowTheirTextsWhereWanted)
+{
+    const auto &tools = *window.findChild<QToolBar *>(QStringLiteral("viewTools"));
+    const QWidget &button = *tools.widgetForAction(&action("Show All"));
+    const int wide = (QTest::qWait(20), button.width());
+    apply(settings, "MainWindow show button text", false);
+    EXPECT_EQ(tools.toolButtonStyle(), Qt::ToolButtonIconOnly);
+    QTest::qWait(20);
+    EXPECT_LT(button.width(), wide);
+}
+
+TEST_F(MainWindow, MenusDoWhatTheySay)
+{
+    const QImage first = view.picture();
+    for (const char *toggled : {"Stereo for Red and Cyan Glasses", "Trace Rays"}) {
+        action(toggled).trigger();
+        EXPECT_FALSE(isLike(first)) << toggled;
+        action(toggled).trigger();
+        EXPECT_TRUE(isLike(first)) << toggled;
+    }
+    view.select({idOf(node("Lifting eye"))});
+    action("Zoom To").trigger();
+    view.select({});
+    EXPECT_FALSE(isLike(first));
+    action("Show All").trigger();
+    EXPECT_TRUE(isLike(first));
+
+    QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier);
+    EXPECT_TRUE(window.scene().isEmpty());
+    action("Open the Sample").trigger();
+    EXPECT_FALSE(window.scene().isEmpty());
+    EXPECT_TRUE(isLike(first));
+
+    QTest::keyClick(&window, Qt::Key_Comma, Qt::ControlModifier);
+    auto *preferences = window.findChild<olPreferencesDialog *>();
+    ASSERT_NE(preferences, nullptr);
+    EXPECT_TRUE(preferences->isVisible());
+    action("Quit").trigger();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(preferences->isVisible()) << "it would keep the program running";
+}
+
+TEST_F(MainWindow, WhatIsDroppedIsReadOrRefusedOnceWithTheSceneKept)
+{
+    EXPECT_FALSE(drop({})) << "what is no file";
+    QFile broken(path(QStringLiteral("broken.step")));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("ISO-10303-21;\nHEADER;\nnonsense");
+    broken.close();
+    const olScene::Document before = window.scene().document();
+    const QStringList faults = textsAfter([&] { EXPECT_TRUE(drop({broken.fileName()})); });
+    ASSERT_EQ(faults.size(), 1);
+    EXPECT_TRUE(faults.first().contains(QStringLiteral("broken.step"))) << faults.first().toStdString();
+    EXPECT_EQ(window.scene().document(), before);
+
+    QFile good(path(QStringLiteral("triangle.stl")));
+    ASSERT_TRUE(good.open(QIODevice::WriteOnly));
+    good.write("solid t\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 9 0 0\nvertex 0 9 0\nendloop\nendfacet\n"
+               "endsolid t\n");
+    good.close();
+    EXPECT_TRUE(drop({good.fileName()}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.scene().document() != before; }, 10000));
+    EXPECT_EQ(window.scene().triangleCount(), 1u);
+    EXPECT_EQ(tree.topLevelItemCount(), 1);
+}
+
+TEST_F(MainWindow, DevicesMoveTheCameraWhileTheyAreDeflected)
+{
+    const QImage before = view.picture();
+    olHostState &state = olHostState::the();
+    state.spacemouseMotion = {0, 0, 200, 0, 0, 0};
+    QTest::qWait(300);
+    state.spacemouseMotion.reset();
+    const QImage moved = view.picture();
+    EXPECT_FALSE(isLike(before));
+    QTest::qWait(100);
+    EXPECT_TRUE(isLike(moved)) << "at rest it stays";
+
+    state.joystickAxes = {0, 0, 1, 0};
+    QTest::qWait(100);
+    EXPECT_TRUE(isLike(moved)) << "nobody wants the joystick";
+    state.joystickNavigation = true;
+    QTest::qWait(300);
+    state.joystickNavigation = false;
+    EXPECT_FALSE(isLike(moved));
+}
+
+} // namespace
