@@ -4,6 +4,7 @@
 
 #include <Aspect_DisplayConnection.hxx>
 #include <Aspect_NeutralWindow.hxx>
+#include <Graphic3d_Layer.hxx>
 #include <OpenGl_Context.hxx>
 #include <OpenGl_FrameBuffer.hxx>
 #include <OpenGl_GraphicDriver.hxx>
@@ -37,6 +38,46 @@ public:
     }
 };
 
+/// A view whose buffers can be chosen.
+class View : public OpenGl_View
+{
+    DEFINE_STANDARD_RTTI_INLINE(View, OpenGl_View)
+
+public:
+    using OpenGl_View::OpenGl_View;
+
+    void setColorFormat(GLint format)
+    {
+        if (myFboColorFormat == format)
+            return;
+        myFboColorFormat = format;
+        // They are made anew once their size does not fit.
+        for (const auto &buffers : {myMainSceneFbos, myImmediateSceneFbos}) {
+            for (int eye = 0; eye < 2; ++eye) {
+                buffers[eye]->Release(GlWindow()->GetGlContext().get());
+                buffers[eye]->ChangeViewport(0, 0);
+            }
+        }
+    }
+};
+
+class Driver : public OpenGl_GraphicDriver
+{
+    DEFINE_STANDARD_RTTI_INLINE(Driver, OpenGl_GraphicDriver)
+
+public:
+    using OpenGl_GraphicDriver::OpenGl_GraphicDriver;
+
+    Handle(Graphic3d_CView) CreateView(const Handle(Graphic3d_StructureManager) & manager) override
+    {
+        const Handle(View) view = new View(manager, this, myCaps, &myStateCounter);
+        myMapOfView.Add(view);
+        for (const Handle(Graphic3d_Layer) & layer : myLayers)
+            view->InsertLayerAfter(layer->LayerId(), layer->LayerSettings(), Graphic3d_ZLayerId_UNKNOWN);
+        return Handle(Graphic3d_CView)(view);
+    }
+};
+
 Handle(OpenGl_Context) contextOf(const Handle(V3d_View) & view)
 {
     const Handle(OpenGl_View) glView = Handle(OpenGl_View)::DownCast(view->View());
@@ -54,7 +95,7 @@ Handle(Graphic3d_GraphicDriver) olGlBinding::makeDriver()
     // A second connection would not know the windows and contexts of Qt's.
     const Handle(Aspect_DisplayConnection) connection =
         new Aspect_DisplayConnection(static_cast<Aspect_XDisplay *>(display));
-    const Handle(OpenGl_GraphicDriver) driver = new OpenGl_GraphicDriver(connection, Standard_False);
+    const Handle(OpenGl_GraphicDriver) driver = new Driver(connection, Standard_False);
     driver->ChangeOptions().buffersNoSwap = Standard_True;
     driver->ChangeOptions().buffersOpaqueAlpha = Standard_True;
     driver->ChangeOptions().useSystemBuffer = Standard_False;
@@ -72,6 +113,13 @@ bool olGlBinding::attach(const Handle(V3d_View) & view, quintptr window, const Q
     neutral->SetSize(size.width(), size.height());
     view->SetWindow(neutral, context->RenderingContext());
     return !contextOf(view).IsNull();
+}
+
+void olGlBinding::setFloatBuffers(const Handle(V3d_View) & view, bool isFloat)
+{
+    const Handle(View) own = Handle(View)::DownCast(view->View());
+    if (!own.IsNull())
+        own->setColorFormat(isFloat ? GL_RGBA16F : GL_SRGB8_ALPHA8);
 }
 
 bool olGlBinding::drawIntoBoundFramebuffer(const Handle(V3d_View) & view)

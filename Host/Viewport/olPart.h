@@ -18,6 +18,9 @@ public:
 
     [[nodiscard]] bool isFullyTransparent() const;
 
+    /// Whether one sees through any of what is displayed of it.
+    [[nodiscard]] bool isTransparent() const;
+
     /// Whether it counts as solid for the depth, although one sees through it.
     void setWritesDepth(bool writes);
 

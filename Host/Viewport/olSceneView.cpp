@@ -95,6 +95,7 @@ public:
     void applySelectionStyle();
     void applyParts();
     void showSelection();
+    olRenderQuality::Wishes wishes(bool isMoving) const;
     Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
     Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
 
@@ -112,6 +113,7 @@ public:
     int shownRows = 0;
     bool isZUp = true;
     bool isRaytraced = false;
+    bool hasTransparency = false;
 };
 
 olSceneView::olSceneView() : d(std::make_unique<Private>()) {}
@@ -167,6 +169,7 @@ void olSceneView::Private::showParts(const olScene::Document &document)
         context->Remove(part, Standard_False);
     parts.clear();
     selected.clear();
+    hasTransparency = false;
 
     std::vector<TopLoc_Location> joints;
     for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
@@ -177,6 +180,7 @@ void olSceneView::Private::showParts(const olScene::Document &document)
         const Handle(olPart) part = new olPart(node);
         context->Display(part, AIS_Shaded, 0, Standard_False);
         parts.push_back(part);
+        hasTransparency = hasTransparency || part->isTransparent();
         if (!node.Location.IsIdentity())
             joints.push_back(node.Location);
     }
@@ -307,6 +311,17 @@ void olSceneView::setRaytracing(bool on)
     applyState();
 }
 
+olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
+{
+    olRenderQuality::Wishes wishes;
+    wishes.isMoving = isMoving;
+    wishes.isRaytraced = isRaytraced;
+    wishes.hasTransparency = hasTransparency;
+    return wishes;
+}
+
+std::vector<QPointF> olSceneView::shifts(bool isMoving) const { return olRenderQuality::shifts(d->wishes(isMoving)); }
+
 bool olSceneView::draw(const Frame &frame)
 {
     if (!olGlBinding::drawIntoBoundFramebuffer(d->view))
@@ -315,11 +330,8 @@ bool olSceneView::draw(const Frame &frame)
     const olHostState &state = olHostState::the();
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
-    olRenderQuality::Wishes wishes;
-    wishes.isMoving = frame.isMoving;
-    wishes.isStill = frame.isStill;
-    wishes.isRaytraced = d->isRaytraced;
-    olRenderQuality::apply(d->view->ChangeRenderingParams(), wishes);
+    olGlBinding::setFloatBuffers(d->view, state.rgb16F);
+    olRenderQuality::apply(d->view->ChangeRenderingParams(), d->wishes(frame.isMoving));
 
     const Handle(Graphic3d_Camera) &camera = d->view->Camera();
     camera->SetProjectionType(projectionFor(frame.eye));

@@ -3,6 +3,7 @@
 #include "Embedded/olHostState.h"
 #include "Kernel/olOSGWidget.h"
 #include "Utilities/olLog.h"
+#include "Viewport/olFrameMaker.h"
 #include "Viewport/olMouseStyle.h"
 #include "Viewport/olNavigator.h"
 #include "Viewport/olPictureTarget.h"
@@ -46,20 +47,6 @@ QStringList toNames(const std::vector<std::string> &ids)
     return names;
 }
 
-/// Red for the left eye, green and blue for the right one.
-QImage anaglyph(const QImage &left, const QImage &right)
-{
-    QImage result(left.size(), QImage::Format_RGB32);
-    for (int row = 0; row < left.height(); ++row) {
-        const auto *red = reinterpret_cast<const QRgb *>(left.constScanLine(row));
-        const auto *cyan = reinterpret_cast<const QRgb *>(right.constScanLine(row));
-        auto *pixel = reinterpret_cast<QRgb *>(result.scanLine(row));
-        for (int column = 0; column < left.width(); ++column)
-            pixel[column] = (red[column] & 0xffff0000u) | (cyan[column] & 0x0000ffffu);
-    }
-    return result;
-}
-
 /// From standing to standing, without a jerk at either end.
 double eased(double share) { return share * share * (3.0 - 2.0 * share); }
 
@@ -79,6 +66,7 @@ public:
 
     std::unique_ptr<olSceneView> view;
     olPictureTarget target;
+    olFrameMaker frames;
     olNavigator navigator;
     olStillFrame still;
     olProgressWheel wheel;
@@ -102,7 +90,7 @@ public:
 
     QElapsedTimer frameClock;
     qint64 lastFrame = 0;
-    int frames = 0;
+    int measuredFrames = 0;
 };
 
 void olViewport::prepareApplication()
@@ -136,7 +124,7 @@ olViewport::olViewport(QWidget *parent) : QOpenGLWidget(parent), d(std::make_uni
     d->restTimer.setSingleShot(true);
     connect(&d->restTimer, &QTimer::timeout, this, [this] {
         const olHostState &state = olHostState::the();
-        d->still.start(d->target.size(), double(state.antialiasingDistance) * double(state.antialiasingScale));
+        d->still.start(double(state.antialiasingDistance) * double(state.antialiasingScale));
         update();
     });
     olHostState::the().addObserver(*this);
@@ -200,6 +188,7 @@ void olViewport::releaseView()
     d->navigator.setCamera({});
     guarded([this] { d->view.reset(); });
     d->target.release();
+    d->frames.release();
     doneCurrent();
 }
 
@@ -289,39 +278,24 @@ void olViewport::drawFrame()
     d->still.stop();
     takeState();
     d->navigator.setPictureHeight(pictureSize().height());
-    if (!drawInto(d->target, pictureSize()))
+    if (!d->frames.draw(*d->view, d->target, pictureSize(), manner()))
         olLog::error(tr("A frame of the 3D view could not be drawn."));
 }
 
-bool olViewport::drawInto(olPictureTarget &target, const QSize &size, bool isStill)
+olFrameMaker::Manner olViewport::manner() const
 {
-    olSceneView::Frame frame;
-    frame.isStill = isStill;
-    frame.isMoving = d->isDragging || d->glideTimer.isActive();
-    if (isStill)
-        frame.shift = d->still.nextShift();
-    if (!d->isAnaglyph)
-        return target.bind(size) && d->view->draw(frame);
-
-    frame.eye = olSceneView::Eye::Left;
-    if (!target.bind(size) || !d->view->draw(frame))
-        return false;
-    const QImage left = target.picture();
-    frame.eye = olSceneView::Eye::Right;
-    if (!target.bind(size) || !d->view->draw(frame))
-        return false;
-    target.replace(anaglyph(left, target.picture()));
-    return true;
+    olFrameMaker::Manner manner;
+    manner.isMoving = d->isDragging || d->glideTimer.isActive();
+    manner.isAnaglyph = d->isAnaglyph;
+    return manner;
 }
 
 void olViewport::drawStillSample()
 {
-    if (!drawInto(d->target, d->target.size(), true)) {
+    if (!d->frames.drawStill(*d->view, d->target, manner(), d->still)) {
         d->still.stop();
         return;
     }
-    d->still.take(d->target.picture());
-    d->target.replace(d->still.mean());
     d->wheel.setProgress(d->still.progress());
     if (d->still.isRunning())
         update();
@@ -333,16 +307,16 @@ void olViewport::measureFrame()
     constexpr qint64 pause = 1000;
     if (!d->frameClock.isValid() || d->frameClock.elapsed() - d->lastFrame > pause) {
         d->frameClock.start();
-        d->frames = 0;
+        d->measuredFrames = 0;
     }
     d->lastFrame = d->frameClock.elapsed();
-    ++d->frames;
+    ++d->measuredFrames;
     if (d->lastFrame < span)
         return;
-    emit framesPerSecondMeasured(1000.0 * d->frames / double(d->lastFrame));
+    emit framesPerSecondMeasured(1000.0 * d->measuredFrames / double(d->lastFrame));
     d->frameClock.start();
     d->lastFrame = 0;
-    d->frames = 0;
+    d->measuredFrames = 0;
 }
 
 QImage olViewport::picture(const QSize &size)
@@ -351,7 +325,9 @@ QImage olViewport::picture(const QSize &size)
     withContext([&] {
         takeState();
         olPictureTarget target;
-        if (drawInto(target, size.isValid() ? size : pictureSize()))
+        // A still frame that is on its way is not to be disturbed.
+        olFrameMaker frames;
+        if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), manner()))
             result = target.picture();
     });
     return result;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Embedded/olHostValue.h"
+#include "Viewport/olFrameMaker.h"
 
 #include <QElapsedTimer>
 #include <QImage>
@@ -11,7 +12,6 @@
 #include <functional>
 #include <memory>
 
-class olPictureTarget;
 class olScene;
 
 /// The 3D view: shows a scene as the host's state says, and lets it be looked at with the mouse.
@@ -88,7 +88,7 @@ private:
     void takeState();
     void redraw();
     void drawFrame();
-    [[nodiscard]] bool drawInto(olPictureTarget &target, const QSize &size, bool isStill = false);
+    [[nodiscard]] olFrameMaker::Manner manner() const;
     void drawStillSample();
     void measureFrame();
     void drag(const QPoint &position);
