@@ -22,6 +22,13 @@ protected:
     /// Sends the mouse to a place of the view, as hovering does.
     void hoverAt(const QPoint &point);
 
+    /// Presses a mouse button and moves; the second lets it go again.
+    void press(const QPoint &from, const QPoint &to, int restMilliseconds = 0);
+    void release(const QPoint &at);
+
+    /// By how many of 255 steps the channels differ in the mean; 255 for pictures of different sizes.
+    static double distance(const QImage &left, const QImage &right);
+
     /// The share of the pixels that differ by more than what rounding explains; 1 for pictures of different sizes.
     static double difference(const QImage &left, const QImage &right);
 
