@@ -123,8 +123,7 @@ olViewport::olViewport(QWidget *parent) : QOpenGLWidget(parent), d(std::make_uni
     });
     d->restTimer.setSingleShot(true);
     connect(&d->restTimer, &QTimer::timeout, this, [this] {
-        const olHostState &state = olHostState::the();
-        d->still.start(double(state.antialiasingDistance) * double(state.antialiasingScale));
+        startStill(d->still);
         update();
     });
     olHostState::the().addObserver(*this);
@@ -282,6 +281,12 @@ void olViewport::drawFrame()
         olLog::error(tr("A frame of the 3D view could not be drawn."));
 }
 
+void olViewport::startStill(olStillFrame &still) const
+{
+    const olHostState &state = olHostState::the();
+    still.start(double(state.antialiasingDistance) * double(state.antialiasingScale));
+}
+
 olFrameMaker::Manner olViewport::manner() const
 {
     olFrameMaker::Manner manner;
@@ -328,6 +333,27 @@ QImage olViewport::picture(const QSize &size)
         // A still frame that is on its way is not to be disturbed.
         olFrameMaker frames;
         if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), manner()))
+            result = target.picture();
+    });
+    return result;
+}
+
+QImage olViewport::stillPicture(const QSize &size)
+{
+    QImage result;
+    withContext([&] {
+        takeState();
+        olPictureTarget target;
+        olFrameMaker frames;
+        olStillFrame still;
+        if (olHostState::the().antialiasing)
+            startStill(still);
+        olFrameMaker::Manner rest;
+        rest.isAnaglyph = d->isAnaglyph;
+        bool isDrawn = frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), rest);
+        while (isDrawn && still.isRunning())
+            isDrawn = frames.drawStill(*d->view, target, rest, still);
+        if (isDrawn)
             result = target.picture();
     });
     return result;

@@ -39,6 +39,9 @@ public:
     /// with Qt::WA_DontShowOnScreen. Null where it cannot be drawn.
     [[nodiscard]] QImage picture(const QSize &size = {});
 
+    /// The same of a camera at rest and, where still frames are antialiased, with all that makes it better.
+    [[nodiscard]] QImage stillPicture(const QSize &size = {});
+
     /// What the window shows now; a still frame as far as it has come.
     [[nodiscard]] QImage shownPicture();
 
@@ -89,6 +92,7 @@ private:
     void redraw();
     void drawFrame();
     [[nodiscard]] olFrameMaker::Manner manner() const;
+    void startStill(olStillFrame &still) const;
     void drawStillSample();
     void measureFrame();
     void drag(const QPoint &position);

@@ -182,6 +182,7 @@ TEST_F(SettingsInTheView, AStillFrameComesAfterTheSecondsOfRest)
     const double smoothed = difference(moving, still);
     EXPECT_GT(smoothed, 0.002);
     EXPECT_LT(smoothed, 0.2) << "the same picture, only better";
+    EXPECT_LT(difference(still, view.stillPicture()), 0.0005) << "for a file it comes at once";
 
     apply("Camera", "Camera fov", 50.0f);
     EXPECT_FALSE(view.isStillFrameDone()) << "a change begins it anew";
