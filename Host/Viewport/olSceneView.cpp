@@ -91,6 +91,7 @@ class olSceneView::Private
 public:
     void showParts(const olScene::Document &document);
     void applyBackground();
+    void applyFieldOfView();
     void applyCamera();
     void applySelectionStyle();
     void applyParts();
@@ -232,12 +233,24 @@ void olSceneView::Private::applyBackground()
     shownRows = height;
 }
 
+void olSceneView::Private::applyFieldOfView()
+{
+    const olHostState &state = olHostState::the();
+    if (!std::isfinite(state.fov.get()))
+        return;
+    const Handle(Graphic3d_Camera) &camera = view->Camera();
+    const double upright = std::clamp(double(state.fov), smallestAngle, largestAngle);
+    // The renderer takes it for the angle across the shorter side.
+    const double narrow = std::min(camera->Aspect(), 1.0);
+    const double angle = 2.0 * std::atan(std::tan(upright * M_PI / 360.0) * narrow) * 180.0 / M_PI;
+    camera->SetFOVy(std::max(angle, smallestAngle));
+}
+
 void olSceneView::Private::applyCamera()
 {
     const olHostState &state = olHostState::the();
     const Handle(Graphic3d_Camera) &camera = view->Camera();
-    if (std::isfinite(state.fov.get()))
-        camera->SetFOVy(std::clamp(double(state.fov), smallestAngle, largestAngle));
+    applyFieldOfView();
 
     const bool limits = state.limitNearFarPlane && isSane(state.nearPlane, state.farPlane);
     view->SetAutoZFitMode(!limits);
@@ -327,6 +340,7 @@ bool olSceneView::draw(const Frame &frame)
     if (!olGlBinding::drawIntoBoundFramebuffer(d->view))
         return false;
     d->applyBackground();
+    d->applyFieldOfView();
     const olHostState &state = olHostState::the();
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
@@ -365,9 +379,7 @@ Handle(Graphic3d_Camera) olSceneView::Private::fitted(const Bnd_Box &what) const
     // A sphere around it fits whichever way the camera is turned, and the camera comes to the same place every time.
     const gp_Pnt middle((what.CornerMin().XYZ() + what.CornerMax().XYZ()) / 2);
     const double radius = std::max(what.CornerMin().Distance(what.CornerMax()) / 2, 1e-6) * (1.0 + fitMargin);
-    double halfAngle = now->FOVy() * M_PI / 360.0;
-    if (now->Aspect() < 1.0)
-        halfAngle = std::atan(std::tan(halfAngle) * now->Aspect());
+    const double halfAngle = now->FOVy() * M_PI / 360.0;
     const gp_Dir direction = now->Direction();
     result->SetEyeAndCenter(middle.Translated(gp_Vec(direction) * (-radius / std::sin(halfAngle))), middle);
     return result;

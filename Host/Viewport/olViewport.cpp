@@ -276,7 +276,7 @@ void olViewport::drawFrame()
 {
     d->still.stop();
     takeState();
-    d->navigator.setPictureHeight(pictureSize().height());
+    d->navigator.setPictureHeight(std::min(pictureSize().width(), pictureSize().height()));
     if (!d->frames.draw(*d->view, d->target, pictureSize(), manner()))
         olLog::error(tr("A frame of the 3D view could not be drawn."));
 }

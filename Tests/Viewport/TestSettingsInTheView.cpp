@@ -163,6 +163,11 @@ TEST_F(SettingsInTheView, FixedResolutionIsLetterboxed)
     EXPECT_LT(difference(window.copy(110, 30, 100, 60), view.shownPicture().scaled(120, 240).copy(10, 30, 100, 60)),
               0.2)
         << "the picture stands upright";
+    view.showAll();
+    settle(600);
+    const QImage tall = view.shownPicture();
+    EXPECT_GT(distance(tall.copy(20, 150, 40, 100), tall.copy(0, 150, 1, 100).scaled(40, 100)), 10.0)
+        << "a picture that is higher than wide is filled from side to side";
     apply(rendering, "RenderOptions fixed res", false);
     settle();
     EXPECT_EQ(view.shownPicture().size(), QSize(width, height));
