@@ -49,7 +49,7 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
     view.setScene(&scene);
     view.show();
     view.showAll();
-    const QImage picture = view.picture(size);
+    const QImage picture = view.stillPicture(size);
     if (picture.isNull())
         return fail(QStringLiteral("The model %1 cannot be drawn: %2").arg(model, view.error()), 1);
     QImageWriter writer(pictureFile);

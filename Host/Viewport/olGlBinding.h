@@ -18,6 +18,9 @@ namespace olGlBinding
 /// The window must be a real one, of the top level, on Qt's display. False where the context does not serve.
 [[nodiscard]] bool attach(const opencascade::handle<V3d_View> &view, quintptr window, const QSize &size);
 
+/// Whether the view resolves colours in floating point, or in 256 steps a channel.
+void setFloatBuffers(const opencascade::handle<V3d_View> &view, bool isFloat);
+
 /// Makes the framebuffer that is bound now the one into which the view draws. To be called before every frame: Qt may
 /// have bound another since.
 [[nodiscard]] bool drawIntoBoundFramebuffer(const opencascade::handle<V3d_View> &view);

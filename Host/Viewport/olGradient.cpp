@@ -2,7 +2,9 @@
 
 #include <Graphic3d_Texture2Dmanual.hxx>
 #include <Graphic3d_TextureParams.hxx>
+#include <Graphic3d_Vec3.hxx>
 #include <Image_PixMap.hxx>
+#include <Quantity_Color.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -13,9 +15,12 @@ namespace
 // What graphics cards align rows to.
 constexpr int columns = 4;
 
-unsigned char toByte(float channel)
+/// The renderer mixes light; the numbers of the screen are not in proportion to it.
+Graphic3d_Vec3 toLight(const osg::Color3f &color)
 {
-    return static_cast<unsigned char>(std::lround(std::clamp(channel, 0.0f, 1.0f) * 255.0f));
+    const auto channel = [](float value) { return std::clamp(value, 0.0f, 1.0f); };
+    return Quantity_Color::Convert_sRGB_To_LinearRGB(
+        Graphic3d_Vec3(channel(color.red()), channel(color.green()), channel(color.blue())));
 }
 
 osg::Color3f between(const osg::Color3f &from, const osg::Color3f &to, float share)
@@ -52,16 +57,13 @@ Handle(Graphic3d_Texture2D) olGradient::texture(int rows) const
 {
     const Handle(Image_PixMap) pixels = new Image_PixMap();
     pixels->SetTopDown(true);
-    if (!pixels->InitTrash(Image_Format_RGB, columns, rows))
+    // In numbers, for steps of a byte would show as bands where a picture has finer ones.
+    if (!pixels->InitTrash(Image_Format_RGBF, columns, rows))
         return {};
     for (int row = 0; row < rows; ++row) {
-        const osg::Color3f color = at(1.0f - (float(row) + 0.5f) / float(rows));
-        for (int column = 0; column < columns; ++column) {
-            unsigned char *pixel = pixels->ChangeRawValue(row, column);
-            pixel[0] = toByte(color.red());
-            pixel[1] = toByte(color.green());
-            pixel[2] = toByte(color.blue());
-        }
+        const Graphic3d_Vec3 light = toLight(at(1.0f - (float(row) + 0.5f) / float(rows)));
+        for (int column = 0; column < columns; ++column)
+            pixels->ChangeValue<Graphic3d_Vec3>(row, column) = light;
     }
     const Handle(Graphic3d_Texture2Dmanual) texture = new Graphic3d_Texture2Dmanual(pixels);
     texture->DisableModulate();

@@ -18,7 +18,7 @@ public:
     /// What there is to look at: its middle, which becomes the pivot, and its size.
     void setScene(const gp_Pnt &middle, double size);
 
-    /// The height of the picture in pixels.
+    /// The height of the picture in pixels, or its width where that is less.
     void setPictureHeight(int pixels) { m_height = pixels; }
 
     void setPivot(const gp_Pnt &pivot) { m_pivot = pivot; }

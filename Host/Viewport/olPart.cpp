@@ -54,6 +54,18 @@ void olPart::Compute(const Handle(PrsMgr_PresentationManager) & manager,
     XCAFPrs_AISObject::Compute(manager, presentation, level > 0 ? int(AIS_Shaded) : mode);
 }
 
+bool olPart::isTransparent() const
+{
+    for (const Handle(PrsMgr_Presentation) & presentation : myPresentations) {
+        for (const Handle(Graphic3d_Group) & group : presentation->Groups()) {
+            const Handle(Graphic3d_Aspects) aspects = group->Aspects();
+            if (!aspects.IsNull() && aspects->FrontMaterial().Transparency() > 0.0f)
+                return true;
+        }
+    }
+    return false;
+}
+
 void olPart::DefaultStyle(XCAFPrs_Style &style) const { style = m_style; }
 
 void olPart::setWritesDepth(bool writes)

@@ -35,6 +35,9 @@ public:
     /// Which level is selected where it is not the whole part.
     std::optional<int> selectedLevel;
 
+    /// Whether one sees through any of what is displayed of it.
+    [[nodiscard]] bool isTransparent() const;
+
     /// Whether it counts as solid for the depth, although one sees through it.
     void setWritesDepth(bool writes);
 

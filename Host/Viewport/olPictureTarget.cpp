@@ -1,5 +1,7 @@
 #include "Viewport/olPictureTarget.h"
 
+#include "Viewport/olGlState.h"
+
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
 #include <QOpenGLFramebufferObject>
@@ -14,19 +16,25 @@ QOpenGLExtraFunctions &gl() { return *QOpenGLContext::currentContext()->extraFun
 olPictureTarget::olPictureTarget() = default;
 olPictureTarget::~olPictureTarget() = default;
 
-bool olPictureTarget::bind(const QSize &size)
+bool olPictureTarget::bind(const QSize &size, Depth depth)
 {
-    if (!m_buffer || m_buffer->size() != size) {
+    const GLenum texture = depth == Depth::Float ? GL_RGBA16F : GL_RGBA8;
+    if (!m_buffer || m_buffer->size() != size || m_buffer->format().internalTextureFormat() != texture) {
         QOpenGLFramebufferObjectFormat format;
         format.setAttachment(QOpenGLFramebufferObject::CombinedDepthStencil);
+        format.setInternalTextureFormat(texture);
         m_buffer = std::make_unique<QOpenGLFramebufferObject>(size, format);
     }
-    if (!m_buffer->bind())
+    if (!bindAgain())
         return false;
     // The renderer takes the size of what it shall fill from here.
     gl().glViewport(0, 0, size.width(), size.height());
     return true;
 }
+
+bool olPictureTarget::bindAgain() const { return m_buffer && m_buffer->bind(); }
+
+unsigned olPictureTarget::texture() const { return m_buffer ? m_buffer->texture() : 0; }
 
 void olPictureTarget::release() { m_buffer.reset(); }
 
@@ -44,10 +52,9 @@ void olPictureTarget::show(unsigned framebuffer, const QSize &room) const
         return;
     const QSize own = m_buffer->size();
     const QRect place = placeIn(own, room);
+    const olGlState state;
     QOpenGLExtraFunctions &functions = gl();
     functions.glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
-    functions.glDisable(GL_SCISSOR_TEST);
-    functions.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     functions.glClearColor(0.0f, 0.0f, 0.0f, 1.0f);
     functions.glClear(GL_COLOR_BUFFER_BIT);
     functions.glBindFramebuffer(GL_READ_FRAMEBUFFER, m_buffer->handle());
@@ -61,19 +68,4 @@ void olPictureTarget::show(unsigned framebuffer, const QSize &room) const
 QImage olPictureTarget::picture() const
 {
     return m_buffer ? m_buffer->toImage().convertToFormat(QImage::Format_RGB32) : QImage();
-}
-
-void olPictureTarget::replace(const QImage &picture)
-{
-    if (!m_buffer || picture.size() != m_buffer->size())
-        return;
-    const QImage rows = picture.convertToFormat(QImage::Format_RGBA8888).mirrored();
-    QOpenGLExtraFunctions &functions = gl();
-    GLint bound = 0;
-    functions.glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    functions.glBindTexture(GL_TEXTURE_2D, m_buffer->texture());
-    functions.glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    functions.glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, rows.width(), rows.height(), GL_RGBA, GL_UNSIGNED_BYTE,
-                              rows.constBits());
-    functions.glBindTexture(GL_TEXTURE_2D, GLuint(bound));
 }

@@ -5,6 +5,7 @@
 #include <Graphic3d_RenderingParams.hxx>
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -32,36 +33,47 @@ const olHostState::AntialiasingPreset *presetInUse()
     }
 }
 
-/// A multisampled buffer holds 2 or more; the graphics card takes the most that it can of what is asked.
-int multisamples(const olHostState::AntialiasingPreset &preset)
+/// While the camera moves, nothing of the real-time kind may be wanted.
+const olHostState::AntialiasingPreset *presetFor(const olRenderQuality::Wishes &wishes)
 {
-    const int wanted = std::clamp(preset.multisamples.get(), 0, largestSampleCount);
-    return wanted < 2 ? 0 : wanted;
+    return wishes.isMoving && olHostState::the().autoSuperSampling ? nullptr : presetInUse();
 }
 
-/// Peeling sorts exactly, but the renderer cannot do it into a multisampled buffer; weighing comes near it there.
-Graphic3d_RenderTransparentMethod transparency(bool isMultisampled)
+int samplesOf(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Wishes &wishes)
 {
-    if (!olHostState::the().sortTransparency)
-        return Graphic3d_RTM_BLEND_UNORDERED;
-    return isMultisampled ? Graphic3d_RTM_BLEND_OIT : Graphic3d_RTM_DEPTH_PEELING_OIT;
+    const int wanted = wishes.isRaytraced ? preset.raytracingSamples : preset.multisamples;
+    return std::clamp(wanted, 1, largestSampleCount);
 }
 
-void applyRaytracing(Graphic3d_RenderingParams &parameters, const olRenderQuality::Wishes &wishes,
-                     const olHostState::AntialiasingPreset *preset)
+/// The graphics card takes its samples faster than one picture after the other, but neither sorts it transparent
+/// surfaces in them nor does it filter or work at another scale. It serves where speed counts.
+bool takesSamplesOnCard(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Wishes &wishes)
 {
-    const olHostState &state = olHostState::the();
-    parameters.Method = wishes.isRaytraced ? Graphic3d_RM_RAYTRACING : Graphic3d_RM_RASTERIZATION;
-    if (!wishes.isRaytraced)
-        return;
-    const int samples = preset ? std::clamp(preset->raytracingSamples.get(), 1, largestSampleCount) : 1;
-    parameters.IsAntialiasingEnabled = samples > 1;
-    parameters.IsShadowEnabled = Standard_True;
-    parameters.IsReflectionEnabled = Standard_True;
-    parameters.NbMsaaSamples = 0;
-    parameters.RenderResolutionScale = 1.0f;
-    if (wishes.isMoving && state.raytracingDownscale)
-        parameters.RenderResolutionScale = 1.0f / float(std::clamp(state.raytracingDownscaleFactor.get(), 1u, 8u));
+    const bool sorts = wishes.hasTransparency && olHostState::the().sortTransparency;
+    return wishes.isMoving && !wishes.isRaytraced && !sorts && !preset.supersampling;
+}
+
+/// As likely far out as a tent is high there, for a number that is evenly spread from 0 to 1.
+double tent(double even) { return even < 0.5 ? std::sqrt(2.0 * even) - 1.0 : 1.0 - std::sqrt(2.0 - 2.0 * even); }
+
+/// Evenly over one pixel, or the filter's way: over its neighbours too, but less the farther away.
+std::vector<QPointF> spread(int count, bool isFiltered)
+{
+    // The steps that leave no gaps, whatever the count.
+    constexpr double stepX = 0.7548776662466927;
+    constexpr double stepY = 0.5698402909980532;
+    std::vector<QPointF> places;
+    QPointF middle;
+    for (int i = 0; i < count; ++i) {
+        const double x = std::fmod(0.5 + i * stepX, 1.0);
+        const double y = std::fmod(0.5 + i * stepY, 1.0);
+        places.push_back(isFiltered ? QPointF(tent(x), tent(y)) : QPointF(x - 0.5, y - 0.5));
+        middle += places.back() / count;
+    }
+    // The picture as a whole stays where it is.
+    for (QPointF &place : places)
+        place -= middle;
+    return places;
 }
 
 } // namespace
@@ -69,11 +81,26 @@ void applyRaytracing(Graphic3d_RenderingParams &parameters, const olRenderQualit
 void olRenderQuality::apply(Graphic3d_RenderingParams &parameters, const Wishes &wishes)
 {
     const olHostState &state = olHostState::the();
-    const bool realTime = !(wishes.isMoving && state.autoSuperSampling);
-    const olHostState::AntialiasingPreset *preset = realTime ? presetInUse() : nullptr;
+    const olHostState::AntialiasingPreset *preset = presetFor(wishes);
+    parameters.NbMsaaSamples = preset && takesSamplesOnCard(*preset, wishes) ? samplesOf(*preset, wishes) : 0;
+    parameters.ToEnableAlphaToCoverage = Standard_False;
+    parameters.TransparencyMethod =
+        state.sortTransparency ? Graphic3d_RTM_DEPTH_PEELING_OIT : Graphic3d_RTM_BLEND_UNORDERED;
+    parameters.Method = wishes.isRaytraced ? Graphic3d_RM_RAYTRACING : Graphic3d_RM_RASTERIZATION;
+    parameters.IsShadowEnabled = Standard_True;
+    parameters.IsReflectionEnabled = Standard_True;
+    if (!wishes.isRaytraced)
+        parameters.RenderResolutionScale = preset && preset->supersampling ? superSampled : 1.0f;
+    else if (wishes.isMoving && state.raytracingDownscale)
+        parameters.RenderResolutionScale = 1.0f / float(std::clamp(state.raytracingDownscaleFactor.get(), 1u, 8u));
+    else
+        parameters.RenderResolutionScale = 1.0f;
+}
 
-    parameters.NbMsaaSamples = preset ? multisamples(*preset) : 0;
-    parameters.RenderResolutionScale = preset && preset->supersampling ? superSampled : 1.0f;
-    parameters.TransparencyMethod = transparency(parameters.NbMsaaSamples > 0);
-    applyRaytracing(parameters, wishes, preset);
+std::vector<QPointF> olRenderQuality::shifts(const Wishes &wishes)
+{
+    const olHostState::AntialiasingPreset *preset = presetFor(wishes);
+    if (!preset || takesSamplesOnCard(*preset, wishes))
+        return {QPointF()};
+    return spread(samplesOf(*preset, wishes), preset->pixelfilter);
 }

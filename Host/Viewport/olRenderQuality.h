@@ -1,17 +1,25 @@
 #pragma once
 
+#include <QPointF>
+
+#include <vector>
+
 class Graphic3d_RenderingParams;
 
 /// How much work goes into a frame, as the host's state says it: antialiasing, transparency, raytracing.
 namespace olRenderQuality
 {
 
+/// What the frame is like.
 struct Wishes {
     bool isMoving = false;
-    bool isStill = false;
     bool isRaytraced = false;
+    bool hasTransparency = false;
 };
 
 void apply(Graphic3d_RenderingParams &parameters, const Wishes &wishes);
+
+/// By how much each of the pictures is shifted, in pixels, whose mean the frame is. At least one.
+[[nodiscard]] std::vector<QPointF> shifts(const Wishes &wishes);
 
 } // namespace olRenderQuality

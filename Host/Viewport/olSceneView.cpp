@@ -95,10 +95,12 @@ public:
     void chooseLevels();
     bool chooseLevel(const Handle(olPart) & part, int height);
     void applyBackground();
+    void applyFieldOfView();
     void applyCamera();
     void applySelectionStyle();
     void applyParts();
     void showSelection();
+    olRenderQuality::Wishes wishes(bool isMoving) const;
     Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
     Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
 
@@ -116,6 +118,7 @@ public:
     int shownRows = 0;
     bool isZUp = true;
     bool isRaytraced = false;
+    bool hasTransparency = false;
 };
 
 olSceneView::olSceneView() : d(std::make_unique<Private>()) {}
@@ -201,6 +204,7 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
         context->Remove(part, Standard_False);
     parts.clear();
     selected.clear();
+    hasTransparency = false;
 
     std::vector<TopLoc_Location> joints;
     for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
@@ -210,6 +214,7 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
         const bool shown = !hidden.contains(QString::fromLatin1(node.Id.ToCString()));
         showPart(part, shown);
         parts.push_back(part);
+        hasTransparency = hasTransparency || (shown && part->isTransparent());
         if (shown && !node.Location.IsIdentity())
             joints.push_back(node.Location);
     }
@@ -261,12 +266,24 @@ void olSceneView::Private::applyBackground()
     shownRows = height;
 }
 
+void olSceneView::Private::applyFieldOfView()
+{
+    const olHostState &state = olHostState::the();
+    if (!std::isfinite(state.fov.get()))
+        return;
+    const Handle(Graphic3d_Camera) &camera = view->Camera();
+    const double upright = std::clamp(double(state.fov), smallestAngle, largestAngle);
+    // The renderer takes it for the angle across the shorter side.
+    const double narrow = std::min(camera->Aspect(), 1.0);
+    const double angle = 2.0 * std::atan(std::tan(upright * M_PI / 360.0) * narrow) * 180.0 / M_PI;
+    camera->SetFOVy(std::max(angle, smallestAngle));
+}
+
 void olSceneView::Private::applyCamera()
 {
     const olHostState &state = olHostState::the();
     const Handle(Graphic3d_Camera) &camera = view->Camera();
-    if (std::isfinite(state.fov.get()))
-        camera->SetFOVy(std::clamp(double(state.fov), smallestAngle, largestAngle));
+    applyFieldOfView();
 
     const bool limits = state.limitNearFarPlane && isSane(state.nearPlane, state.farPlane);
     view->SetAutoZFitMode(!limits);
@@ -377,20 +394,29 @@ void olSceneView::setRaytracing(bool on)
     applyState();
 }
 
+olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
+{
+    olRenderQuality::Wishes wishes;
+    wishes.isMoving = isMoving;
+    wishes.isRaytraced = isRaytraced;
+    wishes.hasTransparency = hasTransparency;
+    return wishes;
+}
+
+std::vector<QPointF> olSceneView::shifts(bool isMoving) const { return olRenderQuality::shifts(d->wishes(isMoving)); }
+
 bool olSceneView::draw(const Frame &frame)
 {
     if (!olGlBinding::drawIntoBoundFramebuffer(d->view))
         return false;
     d->applyBackground();
+    d->applyFieldOfView();
     d->chooseLevels();
     const olHostState &state = olHostState::the();
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
-    olRenderQuality::Wishes wishes;
-    wishes.isMoving = frame.isMoving;
-    wishes.isStill = frame.isStill;
-    wishes.isRaytraced = d->isRaytraced;
-    olRenderQuality::apply(d->view->ChangeRenderingParams(), wishes);
+    olGlBinding::setFloatBuffers(d->view, state.rgb16F);
+    olRenderQuality::apply(d->view->ChangeRenderingParams(), d->wishes(frame.isMoving));
 
     const Handle(Graphic3d_Camera) &camera = d->view->Camera();
     camera->SetProjectionType(projectionFor(frame.eye));
@@ -424,9 +450,7 @@ Handle(Graphic3d_Camera) olSceneView::Private::fitted(const Bnd_Box &what) const
     // A sphere around it fits whichever way the camera is turned, and the camera comes to the same place every time.
     const gp_Pnt middle((what.CornerMin().XYZ() + what.CornerMax().XYZ()) / 2);
     const double radius = std::max(what.CornerMin().Distance(what.CornerMax()) / 2, 1e-6) * (1.0 + fitMargin);
-    double halfAngle = now->FOVy() * M_PI / 360.0;
-    if (now->Aspect() < 1.0)
-        halfAngle = std::atan(std::tan(halfAngle) * now->Aspect());
+    const double halfAngle = now->FOVy() * M_PI / 360.0;
     const gp_Dir direction = now->Direction();
     result->SetEyeAndCenter(middle.Translated(gp_Vec(direction) * (-radius / std::sin(halfAngle))), middle);
     return result;

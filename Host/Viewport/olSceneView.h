@@ -47,6 +47,9 @@ public:
     /// Whether rays are traced; the host knows nothing of it.
     void setRaytracing(bool on);
 
+    /// By how much each of the pictures is shifted whose mean a frame is, in pixels.
+    [[nodiscard]] std::vector<QPointF> shifts(bool isMoving) const;
+
     /// Draws into the framebuffer that is bound.
     [[nodiscard]] bool draw(const Frame &frame);
 

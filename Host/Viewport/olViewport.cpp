@@ -4,6 +4,7 @@
 #include "Kernel/olOSGWidget.h"
 #include "Utilities/olLog.h"
 #include "Viewport/olDeviceMotion.h"
+#include "Viewport/olFrameMaker.h"
 #include "Viewport/olMouseStyle.h"
 #include "Viewport/olNavigator.h"
 #include "Viewport/olPictureTarget.h"
@@ -47,20 +48,6 @@ QStringList toNames(const std::vector<std::string> &ids)
     return names;
 }
 
-/// Red for the left eye, green and blue for the right one.
-QImage anaglyph(const QImage &left, const QImage &right)
-{
-    QImage result(left.size(), QImage::Format_RGB32);
-    for (int row = 0; row < left.height(); ++row) {
-        const auto *red = reinterpret_cast<const QRgb *>(left.constScanLine(row));
-        const auto *cyan = reinterpret_cast<const QRgb *>(right.constScanLine(row));
-        auto *pixel = reinterpret_cast<QRgb *>(result.scanLine(row));
-        for (int column = 0; column < left.width(); ++column)
-            pixel[column] = (red[column] & 0xffff0000u) | (cyan[column] & 0x0000ffffu);
-    }
-    return result;
-}
-
 /// From standing to standing, without a jerk at either end.
 double eased(double share) { return share * share * (3.0 - 2.0 * share); }
 
@@ -80,6 +67,7 @@ public:
 
     std::unique_ptr<olSceneView> view;
     olPictureTarget target;
+    olFrameMaker frames;
     olNavigator navigator;
     olDeviceMotion devices;
     olStillFrame still;
@@ -104,7 +92,7 @@ public:
 
     QElapsedTimer frameClock;
     qint64 lastFrame = 0;
-    int frames = 0;
+    int measuredFrames = 0;
 };
 
 void olViewport::prepareApplication()
@@ -139,8 +127,7 @@ olViewport::olViewport(QWidget *parent) : QOpenGLWidget(parent), d(std::make_uni
     connect(&d->devices, &olDeviceMotion::stopped, this, &olViewport::redraw);
     d->restTimer.setSingleShot(true);
     connect(&d->restTimer, &QTimer::timeout, this, [this] {
-        const olHostState &state = olHostState::the();
-        d->still.start(d->target.size(), double(state.antialiasingDistance) * double(state.antialiasingScale));
+        startStill(d->still);
         update();
     });
     olHostState::the().addObserver(*this);
@@ -204,6 +191,7 @@ void olViewport::releaseView()
     d->navigator.setCamera({});
     guarded([this] { d->view.reset(); });
     d->target.release();
+    d->frames.release();
     doneCurrent();
 }
 
@@ -300,40 +288,31 @@ void olViewport::drawFrame()
 {
     d->still.stop();
     takeState();
-    d->navigator.setPictureHeight(pictureSize().height());
-    if (!drawInto(d->target, pictureSize()))
+    d->navigator.setPictureHeight(std::min(pictureSize().width(), pictureSize().height()));
+    if (!d->frames.draw(*d->view, d->target, pictureSize(), manner()))
         olLog::error(tr("A frame of the 3D view could not be drawn."));
 }
 
-bool olViewport::drawInto(olPictureTarget &target, const QSize &size, bool isStill)
+void olViewport::startStill(olStillFrame &still) const
 {
-    olSceneView::Frame frame;
-    frame.isStill = isStill;
-    frame.isMoving = d->isDragging || d->glideTimer.isActive() || d->devices.isMoving();
-    if (isStill)
-        frame.shift = d->still.nextShift();
-    if (!d->isAnaglyph)
-        return target.bind(size) && d->view->draw(frame);
+    const olHostState &state = olHostState::the();
+    still.start(double(state.antialiasingDistance) * double(state.antialiasingScale));
+}
 
-    frame.eye = olSceneView::Eye::Left;
-    if (!target.bind(size) || !d->view->draw(frame))
-        return false;
-    const QImage left = target.picture();
-    frame.eye = olSceneView::Eye::Right;
-    if (!target.bind(size) || !d->view->draw(frame))
-        return false;
-    target.replace(anaglyph(left, target.picture()));
-    return true;
+olFrameMaker::Manner olViewport::manner() const
+{
+    olFrameMaker::Manner manner;
+    manner.isMoving = d->isDragging || d->glideTimer.isActive() || d->devices.isMoving();
+    manner.isAnaglyph = d->isAnaglyph;
+    return manner;
 }
 
 void olViewport::drawStillSample()
 {
-    if (!drawInto(d->target, d->target.size(), true)) {
+    if (!d->frames.drawStill(*d->view, d->target, manner(), d->still)) {
         d->still.stop();
         return;
     }
-    d->still.take(d->target.picture());
-    d->target.replace(d->still.mean());
     d->wheel.setProgress(d->still.progress());
     if (d->still.isRunning())
         update();
@@ -345,16 +324,16 @@ void olViewport::measureFrame()
     constexpr qint64 pause = 1000;
     if (!d->frameClock.isValid() || d->frameClock.elapsed() - d->lastFrame > pause) {
         d->frameClock.start();
-        d->frames = 0;
+        d->measuredFrames = 0;
     }
     d->lastFrame = d->frameClock.elapsed();
-    ++d->frames;
+    ++d->measuredFrames;
     if (d->lastFrame < span)
         return;
-    emit framesPerSecondMeasured(1000.0 * d->frames / double(d->lastFrame));
+    emit framesPerSecondMeasured(1000.0 * d->measuredFrames / double(d->lastFrame));
     d->frameClock.start();
     d->lastFrame = 0;
-    d->frames = 0;
+    d->measuredFrames = 0;
 }
 
 QImage olViewport::picture(const QSize &size)
@@ -363,7 +342,30 @@ QImage olViewport::picture(const QSize &size)
     withContext([&] {
         takeState();
         olPictureTarget target;
-        if (drawInto(target, size.isValid() ? size : pictureSize()))
+        // A still frame that is on its way is not to be disturbed.
+        olFrameMaker frames;
+        if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), manner()))
+            result = target.picture();
+    });
+    return result;
+}
+
+QImage olViewport::stillPicture(const QSize &size)
+{
+    QImage result;
+    withContext([&] {
+        takeState();
+        olPictureTarget target;
+        olFrameMaker frames;
+        olStillFrame still;
+        if (olHostState::the().antialiasing)
+            startStill(still);
+        olFrameMaker::Manner rest;
+        rest.isAnaglyph = d->isAnaglyph;
+        bool isDrawn = frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), rest);
+        while (isDrawn && still.isRunning())
+            isDrawn = frames.drawStill(*d->view, target, rest, still);
+        if (isDrawn)
             result = target.picture();
     });
     return result;

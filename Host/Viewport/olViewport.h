@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Embedded/olHostValue.h"
+#include "Viewport/olFrameMaker.h"
 
 #include <QElapsedTimer>
 #include <QImage>
@@ -11,7 +12,6 @@
 #include <functional>
 #include <memory>
 
-class olPictureTarget;
 class olScene;
 
 /// The 3D view: shows a scene as the host's state says, and lets it be looked at with the mouse.
@@ -38,6 +38,9 @@ public:
     /// One frame as the settings say, at a size or else at the view's own. The view must have been shown once, be it
     /// with Qt::WA_DontShowOnScreen. Null where it cannot be drawn.
     [[nodiscard]] QImage picture(const QSize &size = {});
+
+    /// The same of a camera at rest and, where still frames are antialiased, with all that makes it better.
+    [[nodiscard]] QImage stillPicture(const QSize &size = {});
 
     /// What the window shows now; a still frame as far as it has come.
     [[nodiscard]] QImage shownPicture();
@@ -90,7 +93,8 @@ private:
     void takeState();
     void redraw();
     void drawFrame();
-    [[nodiscard]] bool drawInto(olPictureTarget &target, const QSize &size, bool isStill = false);
+    [[nodiscard]] olFrameMaker::Manner manner() const;
+    void startStill(olStillFrame &still) const;
     void drawStillSample();
     void measureFrame();
     void drag(const QPoint &position);

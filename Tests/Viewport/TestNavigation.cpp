@@ -181,10 +181,8 @@ TEST_F(MouseInTheView, AClickSelectsAndADragDoesNot)
     const int told = selected.count();
 
     const QImage before = view.picture();
-    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, middle);
-    QMouseEvent moved(QEvent::MouseMove, middle + QPoint(60, 20), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&view, &moved);
-    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, middle + QPoint(60, 20));
+    press(middle, middle + QPoint(60, 20));
+    release(middle + QPoint(60, 20));
     EXPECT_GT(difference(before, view.picture()), 0.02);
     EXPECT_EQ(selected.count(), told);
 
@@ -205,11 +203,39 @@ TEST_F(MouseInTheView, TheCameraGlidesOnlyWhereItShall)
 
     QApplication::sendEvent(&view, &wheel);
     olHostState::the().animateNavCam = true;
-    olHostState::the().animateNavCamDuration = 10.0f;
-    view.showAll();
-    EXPECT_GT(difference(home, view.picture()), 0.02) << "on its way";
-    settle(1500);
-    EXPECT_LT(difference(home, view.picture()), 0.002) << "there";
+    for (const float duration : {10.0f, 200.0f}) {
+        QApplication::sendEvent(&view, &wheel);
+        olHostState::the().animateNavCamDuration = duration;
+        view.showAll();
+        EXPECT_GT(difference(home, view.picture()), 0.02) << "on its way";
+        settle(1000);
+        const bool isThere = difference(home, view.picture()) < 0.002;
+        EXPECT_EQ(isThere, duration < 100.0f) << "the duration counts frames, of which a second has some sixty";
+    }
+}
+
+TEST_F(MouseInTheView, AMouseThatRestedOrbitsAroundThePlaceUnderIt)
+{
+    const QPoint offside(185, 140);
+    const QPoint goal = offside + QPoint(30, 0);
+    olHostState &state = olHostState::the();
+    state.navOrbitMode = true;
+    const auto orbited = [&](int rest, int area, int time) {
+        state.navOrbitDetectionArea = area;
+        state.navOrbitDetectionTime = time;
+        scene.loadSample();
+        press(offside, goal, rest);
+        release(goal);
+        settle();
+        return view.picture();
+    };
+    const QImage around = orbited(150, 40, 100);
+    const QImage aroundPivot = orbited(0, 40, 100);
+    EXPECT_GT(difference(around, aroundPivot), 0.02);
+    EXPECT_LT(difference(orbited(150, 20, 100), aroundPivot), 0.002) << "it went too far at once";
+    EXPECT_LT(difference(orbited(150, 40, 5000), aroundPivot), 0.002) << "it did not rest for long enough";
+    state.navOrbitMode = false;
+    EXPECT_LT(difference(orbited(150, 40, 100), aroundPivot), 0.002);
 }
 
 TEST_F(MouseInTheView, AnotherSceneReplacesTheFirst)

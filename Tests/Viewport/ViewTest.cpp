@@ -1,5 +1,7 @@
 #include "Viewport/ViewTest.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 
 ViewTest::ViewTest()
@@ -38,4 +40,29 @@ void ViewTest::hoverAt(const QPoint &point)
     settle();
     QTest::mouseMove(&view, point);
     settle();
+}
+
+void ViewTest::press(const QPoint &from, const QPoint &to, int restMilliseconds)
+{
+    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, from);
+    if (restMilliseconds > 0)
+        settle(restMilliseconds);
+    QMouseEvent moved(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&view, &moved);
+}
+
+void ViewTest::release(const QPoint &at) { QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, at); }
+
+double ViewTest::distance(const QImage &left, const QImage &right)
+{
+    if (left.size() != right.size() || left.isNull())
+        return 255.0;
+    double sum = 0.0;
+    for (int y = 0; y < left.height(); ++y) {
+        const uchar *one = left.constScanLine(y);
+        const uchar *other = right.constScanLine(y);
+        for (int i = 0; i < left.width() * 4; ++i)
+            sum += std::abs(one[i] - other[i]);
+    }
+    return sum / (left.width() * left.height() * 3.0);
 }

@@ -24,6 +24,12 @@ protected:
     void hoverAt(const QPoint &point);
 
     static double difference(const QImage &left, const QImage &right) { return pictureDifference(left, right); }
+    /// Presses a mouse button and moves; the second lets it go again.
+    void press(const QPoint &from, const QPoint &to, int restMilliseconds = 0);
+    void release(const QPoint &at);
+
+    /// By how many of 255 steps the channels differ in the mean; 255 for pictures of different sizes.
+    static double distance(const QImage &left, const QImage &right);
 
     static constexpr int width = 320;
     static constexpr int height = 240;
