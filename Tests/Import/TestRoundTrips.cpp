@@ -119,30 +119,6 @@ TEST_F(ImportOption, WithoutSurfacesOnlyTheTrianglesAreKept)
     EXPECT_EQ(bare.colours, whole.colours);
 }
 
-TEST_F(Fault, NothingIsReadFromBrokenFiles)
-{
-    EXPECT_TRUE(faultOf(path(QStringLiteral("none.step"))).contains(QStringLiteral("no such file")));
-    EXPECT_TRUE(faultOf(path(QStringLiteral("m.mrb"))).contains(QStringLiteral("no reader for .mrb")));
-    for (const char *suffix : {"step", "igs", "stl", "wrl", "obj", "gltf", "glb"}) {
-        SCOPED_TRACE(suffix);
-        const QString end = QLatin1Char('.') + QLatin1String(suffix);
-        EXPECT_TRUE(faultOf(written(QStringLiteral("empty") + end, {})).contains(QStringLiteral("empty")));
-        EXPECT_FALSE(faultOf(written(QStringLiteral("noise") + end, QByteArray(5000, '\x7f'))).isEmpty());
-        if (qstrcmp(suffix, "obj") == 0)
-            continue;
-        const QByteArray whole = contentOf(exported(QStringLiteral("whole") + end));
-        EXPECT_FALSE(faultOf(written(QStringLiteral("cut") + end, whole.left(whole.size() * 2 / 3))).isEmpty());
-    }
-}
-
-TEST_F(Fault, AFileLargerThanTheMemoryIsNotTried)
-{
-    QFile huge(written(QStringLiteral("huge.stl"), "solid"));
-    if (!huge.resize(qint64(1) << 42))
-        GTEST_SKIP() << "the disk takes no such file";
-    EXPECT_TRUE(faultOf(huge.fileName()).contains(QStringLiteral("too large")));
-}
-
 TEST_F(Fault, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
 {
     const olScene::Document before = m_scene.document();
