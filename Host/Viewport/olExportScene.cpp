@@ -1,6 +1,7 @@
 #include "Viewport/olExportScene.h"
 
 #include "Viewport/olDocumentCopy.h"
+#include "Viewport/olExportIges.h"
 #include "Viewport/olExportVrml.h"
 #include "Viewport/olImportJob.h"
 #include "Viewport/olImportReaders.h"
@@ -12,8 +13,6 @@
 
 #include <BRep_Builder.hxx>
 #include <IFSelect_ReturnStatus.hxx>
-#include <IGESCAFControl_Writer.hxx>
-#include <IGESControl_Controller.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
 #include <RWGltf_CafWriter.hxx>
@@ -90,17 +89,6 @@ bool writeStep(const olScene::Document &document, const QString &file)
     return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
 }
 
-bool writeIges(const olScene::Document &document, const QString &file)
-{
-    const olExchangeLock lock;
-    IGESControl_Controller::Init();
-    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
-    // Solids stay solids; else they become loose faces, more of which lose their colour.
-    Interface_Static::SetCVal("write.iges.brep.mode", "BRep");
-    IGESCAFControl_Writer writer;
-    return writer.Transfer(document) && writer.Write(path(file).ToCString());
-}
-
 bool writeStl(const olScene::Document &document, const QString &file)
 {
     StlAPI_Writer writer;
@@ -123,13 +111,13 @@ bool writeGltf(const olScene::Document &document, const QString &file)
     return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
 }
 
-bool write(const olScene::Document &document, const olModelFormat &format, const QString &file)
+bool write(const olScene::Document &document, const olModelFormat &format, const QString &file, QStringList &remarks)
 {
     switch (format.id) {
     case olModelFormat::Step:
         return writeStep(document, file);
     case olModelFormat::Iges:
-        return writeIges(document, file);
+        return olWriteIges(document, file, remarks);
     case olModelFormat::Stl:
         return writeStl(document, file);
     case olModelFormat::Vrml:
@@ -160,14 +148,15 @@ QString putInPlace(const QString &finished, const QString &target)
 }
 
 /// Written where it disturbs nobody first: a format may take several files, and half of one is worse than none.
-QString writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file)
+QString writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file,
+                              QStringList &remarks)
 {
     const QTemporaryDir folder(
         QDir(olImportJob::of(file).temporaryDirectory).filePath(QStringLiteral("orlo-export-XXXXXX")));
     if (!folder.isValid())
         return translated("the temporary directory cannot be written to");
     const QFileInfo target(file);
-    if (!write(document, format, folder.filePath(target.fileName())))
+    if (!write(document, format, folder.filePath(target.fileName()), remarks))
         return translated("the writer failed");
     const QStringList written = QDir(folder.path()).entryList(QDir::Files);
     if (!written.contains(target.fileName()))
@@ -188,7 +177,7 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
         const olScene::Document content = takesMeshes ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
             return translated("there is nothing that this format can hold");
-        return writeThroughTemporary(content, format, file);
+        return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
         return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
     } catch (const std::exception &failure) {
