@@ -163,7 +163,7 @@ void olMainWindow::placePreferencesBeside()
     m_preferences->move(std::max(right, room.left()), std::max(frameGeometry().top(), room.top()));
 }
 
-void olMainWindow::openModel(const QString &file) { m_files->open(file); }
+void olMainWindow::openModel(const QString &file) { m_files->openAtOnce(file); }
 
 void olMainWindow::closePreferences() { m_preferences.reset(); }
 

@@ -222,6 +222,11 @@ private:
 olScene::Document olDocumentCopy::copy(const olScene::Document &source) const
 {
     const olScene::Document target = olScene::newDocument();
-    Run(*this, source, target).copy();
+    copyInto(source, target);
     return target;
+}
+
+void olDocumentCopy::copyInto(const olScene::Document &source, const olScene::Document &target) const
+{
+    Run(*this, source, target).copy();
 }

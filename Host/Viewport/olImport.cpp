@@ -70,8 +70,7 @@ public:
                 part.shape.Nullify();
                 return;
             }
-            change(label, part);
-            scope.Next();
+            change(label, part, scope.Next());
         };
         return copy.copy(m_raw);
     }
@@ -97,7 +96,7 @@ private:
         return true;
     }
 
-    void change(const TDF_Label &label, olChangedPart &part)
+    void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
     {
         const olImportOptions::Record &options = m_job.options;
         const bool visible = isVisible(label);
@@ -118,7 +117,7 @@ private:
             olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
         if (options.unifySurfaceNormals)
             olPartChanges::unifyNormals(part);
-        olTriangles::mesh(part.shape, fineness());
+        olTriangles::mesh(part.shape, fineness(), progress);
         if (!options.keepSurfaceData)
             olPartChanges::dropSurfaces(part);
     }
