@@ -1,5 +1,6 @@
 #include "olMainWindow.h"
 
+#include "olAbout.h"
 #include "olHostStatePanel.h"
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
@@ -44,6 +45,7 @@ olMainWindow::olMainWindow(olPreferencesSession &session)
     addDocks();
     addMenus();
     addViewActions();
+    addHelp();
     m_frameRate = new QLabel;
     statusBar()->addPermanentWidget(m_frameRate);
     statusBar()->showMessage(tr("Edit > Preferences changes what you see here."));
@@ -204,4 +206,11 @@ void olMainWindow::addMenus()
     QAction *preferences = edit->addAction(tr("&Preferences..."));
     preferences->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma));
     connect(preferences, &QAction::triggered, this, [this] { openPreferences(); });
+}
+
+void olMainWindow::addHelp()
+{
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
+    QAction *about = help->addAction(tr("&About ORLO"));
+    connect(about, &QAction::triggered, this, [this] { olShowAbout(*this); });
 }

@@ -15,6 +15,7 @@
 #include <IFSelect_ReturnStatus.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
+#include <NCollection_DataMap.hxx>
 #include <RWGltf_CafWriter.hxx>
 #include <RWObj_CafWriter.hxx>
 #include <STEPCAFControl_Controller.hxx>
@@ -22,8 +23,10 @@
 #include <Standard_Failure.hxx>
 #include <StlAPI_Writer.hxx>
 #include <TColStd_IndexedDataMapOfStringString.hxx>
+#include <TDF_LabelMapHasher.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
+#include <TopTools_MapOfShape.hxx>
 #include <TopoDS_Compound.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
@@ -47,11 +50,23 @@ QString translated(const char *text) { return QCoreApplication::translate("olExp
 
 TCollection_AsciiString path(const QString &file) { return QFile::encodeName(file).constData(); }
 
-/// Formats of surfaces take no triangles.
+/// Formats of surfaces take no triangles. And their writers fall over a part that stands twice in the same place with
+/// different looks, which nobody can see anyway.
 olScene::Document withoutMeshes(const olScene::Document &document, QStringList &remarks)
 {
     olDocumentCopy copy;
     copy.keepEmptyGroups = false;
+    NCollection_DataMap<TDF_Label, TopTools_MapOfShape, TDF_LabelMapHasher> places;
+    copy.isWanted = [&places, &remarks](const TDF_Label &instance) {
+        if (!XCAFDoc_ShapeTool::IsComponent(instance))
+            return true;
+        if (!places.IsBound(instance.Father()))
+            places.Bind(instance.Father(), {});
+        if (places.ChangeFind(instance.Father()).Add(XCAFDoc_ShapeTool::GetShape(instance)))
+            return true;
+        remarks << translated("%1 stands twice in the same place; it is written once.").arg(olNameOf(instance));
+        return false;
+    };
     copy.changePart = [&remarks](const TDF_Label &label, olChangedPart &part) {
         olPartChanges::keepOnly(part, {true, false, true});
         if (part.shape.IsNull())

@@ -47,12 +47,16 @@ public:
         return label;
     }
 
-    TDF_Label group(const char *name, const std::vector<TDF_Label> &members)
+    /// The members stand so far apart.
+    TDF_Label group(const char *name, const std::vector<TDF_Label> &members, double apart = 0)
     {
+        gp_Trsf where;
         const TDF_Label label = shapes()->NewShape();
         TDataStd_Name::Set(label, name);
-        for (const TDF_Label &member : members)
-            shapes()->AddComponent(label, member, TopLoc_Location());
+        for (const TDF_Label &member : members) {
+            TDataStd_Name::Set(shapes()->AddComponent(label, member, TopLoc_Location(where)), name);
+            where.SetTranslation(gp_Vec(where.TranslationPart()) + gp_Vec(apart, 0, 0));
+        }
         shapes()->UpdateAssemblies();
         return label;
     }
@@ -232,16 +236,19 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
 
 TEST_F(ImportOption, HiddenInstancesComeInHiddenOrNotAtAll)
 {
-    Model model;
-    const TDF_Label part = model.part("Box", box(0));
-    const TDF_Label group = model.group("Group", {part, part});
-    TDF_LabelSequence members;
-    XCAFDoc_ShapeTool::GetComponents(group, members);
-    model.hide(members.Last());
-    olImportJob instances = job("instances.step", model);
-    EXPECT_EQ(count(imported(instances), TopAbs_SOLID), 1);
-    instances.options.importInvisibleInstances = true;
-    EXPECT_EQ(count(imported(instances), TopAbs_SOLID), 2);
+    for (const double apart : {20.0, 0.0}) {
+        Model model;
+        const TDF_Label part = model.part("Box", box(0));
+        const TDF_Label group = model.group("Group", {part, part}, apart);
+        TDF_LabelSequence members;
+        XCAFDoc_ShapeTool::GetComponents(group, members);
+        model.hide(members.Last());
+        olImportJob instances = job("instances.step", model);
+        EXPECT_EQ(count(imported(instances), TopAbs_SOLID), 1);
+        instances.options.importInvisibleInstances = true;
+        // Two in the same place cannot be told apart, and are written as one.
+        EXPECT_EQ(count(imported(instances), TopAbs_SOLID), apart > 0 ? 2 : 1);
+    }
 }
 
 TEST_F(ImportOption, MeshesOfOneLookBecomeOne)
