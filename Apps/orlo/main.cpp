@@ -80,7 +80,7 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.fillDefaults();
-    const QString fault = olSetGivenSettings(options.values(QStringLiteral("set")));
+    const QString fault = olSetGivenSettings(session, options.values(QStringLiteral("set")));
     if (!fault.isEmpty()) {
         std::fprintf(stderr, "orlo: %s\n", qPrintable(fault));
         session.stop();

@@ -3,6 +3,7 @@
 #include "Embedded/olValue.h"
 #include "Preferences/olPreferencesEntry.h"
 #include "Preferences/olPreferencesRegistry.h"
+#include "Preferences/olPreferencesSession.h"
 
 namespace
 {
@@ -18,7 +19,7 @@ boost::any valueFrom(const std::string &type, const QString &text)
     return value;
 }
 
-QString setOne(const QString &setting)
+QString setOne(const olPreferencesSession &session, const QString &setting)
 {
     const int equals = setting.indexOf(QLatin1Char('='));
     if (equals < 1)
@@ -28,6 +29,8 @@ QString setOne(const QString &setting)
     olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key);
     if (!owner)
         return QStringLiteral("there is no setting \"%1\"").arg(name);
+    if (const std::optional<QString> reason = session.lockReason(key))
+        return QStringLiteral("\"%1\" is locked: %2").arg(name, *reason);
     const std::string type = olValue::typeName(owner->findDefault(key)->value);
     const boost::any value = valueFrom(type, setting.mid(equals + 1).trimmed());
     if (value.empty())
@@ -39,10 +42,10 @@ QString setOne(const QString &setting)
 
 } // namespace
 
-QString olSetGivenSettings(const QStringList &settings)
+QString olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings)
 {
     for (const QString &setting : settings) {
-        const QString fault = setOne(setting);
+        const QString fault = setOne(session, setting);
         if (!fault.isEmpty())
             return fault;
     }

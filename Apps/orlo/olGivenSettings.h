@@ -3,6 +3,9 @@
 #include <QString>
 #include <QStringList>
 
+class olPreferencesSession;
+
 /// Puts settings given as "KEY=VALUE" into the record, where they hold for this run. The modules must be there; the
-/// host applies them when it starts. Returns what is wrong with the first one that cannot be, empty if all could.
-[[nodiscard]] QString olSetGivenSettings(const QStringList &settings);
+/// host applies them when it starts. What a site locked stays as it is. Returns what is wrong with the first one that
+/// cannot be set, empty if all could.
+[[nodiscard]] QString olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings);

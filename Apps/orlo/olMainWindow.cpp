@@ -1,5 +1,6 @@
 #include "olMainWindow.h"
 
+#include "olAbout.h"
 #include "olHostStatePanel.h"
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
@@ -46,6 +47,7 @@ olMainWindow::olMainWindow(olPreferencesSession &session)
     addDocks();
     addMenus();
     addViewActions();
+    addHelp();
     m_frameRate = new QLabel;
     m_frameRate->setObjectName(QStringLiteral("frameRate"));
     statusBar()->addPermanentWidget(m_frameRate);
@@ -171,7 +173,7 @@ void olMainWindow::placePreferencesBeside()
     m_preferences->move(std::max(right, room.left()), std::max(frameGeometry().top(), room.top()));
 }
 
-void olMainWindow::openModel(const QString &file) { m_files->open(file); }
+void olMainWindow::openModel(const QString &file) { m_files->openAtOnce(file); }
 
 void olMainWindow::closePreferences() { m_preferences.reset(); }
 
@@ -212,4 +214,11 @@ void olMainWindow::addMenus()
     QAction *preferences = edit->addAction(tr("&Preferences..."));
     preferences->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma));
     connect(preferences, &QAction::triggered, this, [this] { openPreferences(); });
+}
+
+void olMainWindow::addHelp()
+{
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
+    QAction *about = help->addAction(tr("&About ORLO"));
+    connect(about, &QAction::triggered, this, [this] { olShowAbout(*this); });
 }

@@ -54,6 +54,7 @@ private:
     void addDocks();
     void addMenus();
     void addViewActions();
+    void addHelp();
     void applyWindowSettings();
     void placePreferencesBeside();
 

@@ -1,5 +1,7 @@
 #include "olModelFiles.h"
 
+#include "olImportDialog.h"
+
 #include "Embedded/olHostState.h"
 #include "Viewport/olExportScene.h"
 #include "Viewport/olModelFormat.h"
@@ -14,19 +16,31 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QProgressDialog>
 #include <QSettings>
 #include <QUrl>
+
+#include <algorithm>
+
+namespace
+{
+
+bool isFlawless(const olImportReport &report)
+{
+    return report.error.isEmpty() && report.remarks.isEmpty() && !report.isCancelled;
+}
+
+} // namespace
 
 olModelFiles::olModelFiles(QWidget &window, olScene &scene) : m_window(window), m_scene(scene), m_importer(scene)
 {
     m_window.setAcceptDrops(true);
     m_window.installEventFilter(this);
-    connect(&m_importer, &olImporter::started, this, &olModelFiles::showProgress);
     connect(&m_importer, &olImporter::finished, this, &olModelFiles::finish);
+    connect(&m_importer, &olImporter::progressed, this, [this](int import, int percent) {
+        if (olImportDialog *dialog = m_dialogs.value(import))
+            dialog->setPercent(percent);
+    });
 }
-
-olModelFiles::~olModelFiles() { delete m_progress; }
 
 void olModelFiles::addTo(QMenu &menu)
 {
@@ -44,23 +58,23 @@ bool olModelFiles::eventFilter(QObject *watched, QEvent *event)
     if (!isDrop && event->type() != QEvent::DragEnter)
         return QObject::eventFilter(watched, event);
     auto *drop = static_cast<QDropEvent *>(event);
+    QStringList files;
     const QList<QUrl> urls = drop->mimeData()->urls();
     for (const QUrl &url : urls) {
-        if (!url.isLocalFile())
-            continue;
-        drop->acceptProposedAction();
-        if (isDrop)
-            open(url.toLocalFile());
+        if (url.isLocalFile())
+            files << url.toLocalFile();
     }
+    if (files.isEmpty())
+        return true;
+    drop->acceptProposedAction();
+    if (isDrop)
+        open(files);
     return true;
 }
 
 void olModelFiles::chooseImport()
 {
-    const QStringList files =
-        QFileDialog::getOpenFileNames(&m_window, tr("Import"), QString(), olModelFormat::filter());
-    for (const QString &file : files)
-        open(file);
+    open(QFileDialog::getOpenFileNames(&m_window, tr("Import"), QString(), olModelFormat::filter()));
 }
 
 void olModelFiles::chooseExport()
@@ -75,32 +89,82 @@ void olModelFiles::chooseExport()
         tell(text);
 }
 
-void olModelFiles::showProgress(const QString &file)
+void olModelFiles::open(const QStringList &files)
 {
-    if (!olHostState::the().fileIOProgressShown)
+    std::vector<olImportJob> jobs;
+    for (const QString &file : files)
+        jobs.push_back(olImportJob::of(file));
+    if (jobs.empty())
         return;
-    delete m_progress;
-    m_progress = new QProgressDialog(tr("Reading %1").arg(QFileInfo(file).fileName()), tr("Cancel"), 0, 100, &m_window);
-    m_progress->setWindowTitle(tr("Import"));
-    m_progress->setAutoClose(false);
-    m_progress->setAutoReset(false);
-    connect(m_progress, &QProgressDialog::canceled, &m_importer, &olImporter::cancel);
-    connect(&m_importer, &olImporter::progressed, m_progress, &QProgressDialog::setValue);
-}
-
-void olModelFiles::finish(const QString &file, const QString &error, bool isCancelled, const QStringList &remarks)
-{
-    delete m_progress;
-    if (isCancelled)
-        return;
-    if (!error.isEmpty()) {
-        tell(error);
+    if (!olHostState::the().importOptionsShown) {
+        start(jobs, addDialog(jobs));
         return;
     }
-    emit imported(file);
+    auto *dialog = new olImportDialog(jobs, &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &olImportDialog::confirmed, this, [this, dialog, jobs] {
+        std::vector<olImportJob> asked = jobs;
+        for (olImportJob &job : asked) {
+            job.centerInOrigin = dialog->centersInOrigin();
+            job.putOnGround = dialog->putsOnGround();
+        }
+        start(asked, dialog);
+    });
+    dialog->show();
+}
+
+void olModelFiles::openAtOnce(const QString &file)
+{
+    const std::vector<olImportJob> jobs{olImportJob::of(file)};
+    start(jobs, addDialog(jobs));
+}
+
+olImportDialog *olModelFiles::addDialog(const std::vector<olImportJob> &jobs)
+{
+    if (!olHostState::the().fileIOProgressShown)
+        return nullptr;
+    auto *dialog = new olImportDialog(jobs, &m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->showReading();
+    dialog->show();
+    return dialog;
+}
+
+void olModelFiles::start(const std::vector<olImportJob> &jobs, olImportDialog *dialog)
+{
+    const int import = m_importer.start(jobs);
+    if (!dialog)
+        return;
+    if (!olHostState::the().fileIOProgressShown) {
+        dialog->accept();
+        return;
+    }
+    m_dialogs.insert(import, dialog);
+    connect(dialog, &olImportDialog::cancelled, &m_importer, [this, import] { m_importer.cancel(import); });
+}
+
+void olModelFiles::finish(int import, const QVector<olImportReport> &reports)
+{
+    QStringList texts;
+    bool isGood = false;
+    for (const olImportReport &report : reports) {
+        if (report.isCancelled)
+            continue;
+        isGood = isGood || report.error.isEmpty();
+        texts << (report.error.isEmpty() ? tr("%1 was read.").arg(QFileInfo(report.file).fileName()) : report.error);
+        texts << report.remarks;
+    }
+    if (isGood)
+        emit imported();
     const bool closes = QSettings().value(QStringLiteral("importDialog/closeOnSuccess"), true).toBool();
-    if (!remarks.isEmpty() || !closes)
-        tell(tr("%1 was read.").arg(QFileInfo(file).fileName()) + QLatin1Char('\n') + remarks.join(QLatin1Char('\n')));
+    const bool isQuiet = texts.isEmpty() || (closes && std::all_of(reports.begin(), reports.end(), isFlawless));
+    olImportDialog *dialog = m_dialogs.take(import);
+    if (dialog && isQuiet)
+        dialog->accept();
+    else if (dialog)
+        dialog->showOutcome(texts.join(QLatin1Char('\n')));
+    else if (!isQuiet)
+        tell(texts.join(QLatin1Char('\n')));
 }
 
 void olModelFiles::tell(const QString &text)

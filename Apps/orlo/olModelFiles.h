@@ -2,15 +2,16 @@
 
 #include "Viewport/olImporter.h"
 
+#include <QHash>
 #include <QPointer>
 
 class QMenu;
-class QProgressDialog;
 class QWidget;
+class olImportDialog;
 class olScene;
 
-/// Import and export from the window: menu entries, files dropped onto it, the progress with its cancel, and what to
-/// say when something cannot be read.
+/// Import and export from the window: menu entries, files dropped onto it, a dialog for each import, and what to say
+/// when something cannot be read.
 class olModelFiles : public QObject
 {
     Q_OBJECT
@@ -18,13 +19,18 @@ class olModelFiles : public QObject
 public:
     /// Neither is owned; both must outlive this.
     olModelFiles(QWidget &window, olScene &scene);
-    ~olModelFiles() override;
 
     void addTo(QMenu &menu);
-    void open(const QString &file) { m_importer.start(file); }
+
+    /// Imports the files together, after asking how where the host's state wants that.
+    void open(const QStringList &files);
+
+    /// Imports a file without asking.
+    void openAtOnce(const QString &file);
 
 signals:
-    void imported(const QString &file);
+    /// At least one file was read well, and the scene is another one.
+    void imported();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -32,12 +38,13 @@ protected:
 private:
     void chooseImport();
     void chooseExport();
-    void showProgress(const QString &file);
-    void finish(const QString &file, const QString &error, bool isCancelled, const QStringList &remarks);
+    [[nodiscard]] olImportDialog *addDialog(const std::vector<olImportJob> &jobs);
+    void start(const std::vector<olImportJob> &jobs, olImportDialog *dialog);
+    void finish(int import, const QVector<olImportReport> &reports);
     void tell(const QString &text);
 
     QWidget &m_window;
     olScene &m_scene;
     olImporter m_importer;
-    QPointer<QProgressDialog> m_progress;
+    QHash<int, QPointer<olImportDialog>> m_dialogs;
 };

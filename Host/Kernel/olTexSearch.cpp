@@ -30,9 +30,9 @@ std::vector<std::string> existing(const std::vector<std::string> &paths)
 
 bool isFile(const QString &path) { return olFile::exists(path.toStdString(), true, false); }
 
-QString findInDirectories(const QString &name)
+QString search(const std::vector<std::string> &directories, const QString &name)
 {
-    for (const std::string &directory : olTexSearch::directories()) {
+    for (const std::string &directory : directories) {
         const QString path = QDir(QString::fromStdString(directory)).filePath(name);
         if (isFile(path))
             return path;
@@ -52,7 +52,9 @@ void olTexSearch::set()
 
 const std::vector<std::string> &olTexSearch::directories() { return olHostState::the().textureSearchPaths; }
 
-std::string olTexSearch::find(const std::string &texture)
+std::string olTexSearch::find(const std::string &texture) { return findIn(directories(), texture); }
+
+std::string olTexSearch::findIn(const std::vector<std::string> &directories, const std::string &texture)
 {
     // Models from elsewhere bring the other system's separators.
     const QString path = QString::fromStdString(texture).replace('\\', '/');
@@ -61,7 +63,7 @@ std::string olTexSearch::find(const std::string &texture)
     if (QDir::isAbsolutePath(path) && isFile(path))
         return path.toStdString();
 
-    const QString relative = QDir::isRelativePath(path) ? findInDirectories(path) : QString();
-    const QString found = relative.isEmpty() ? findInDirectories(path.section('/', -1)) : relative;
+    const QString relative = QDir::isRelativePath(path) ? search(directories, path) : QString();
+    const QString found = relative.isEmpty() ? search(directories, path.section('/', -1)) : relative;
     return found.toStdString();
 }

@@ -19,4 +19,7 @@ public:
     /// The file that a model means by a texture's path: an absolute one where such a file is, else a relative one in
     /// the first directory that has it, else its bare name likewise. Empty when there is none.
     static std::string find(const std::string &texture);
+
+    /// The same in directories of the caller's choice; may be called in any thread.
+    static std::string findIn(const std::vector<std::string> &directories, const std::string &texture);
 };

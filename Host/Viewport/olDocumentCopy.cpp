@@ -10,6 +10,7 @@
 #include <TDataStd_Name.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopLoc_Location.hxx>
+#include <TopoDS_Iterator.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_LayerTool.hxx>
@@ -47,6 +48,15 @@ struct Tools {
     Handle(XCAFDoc_VisMaterialTool) materials;
 };
 
+/// A group without members is no assembly in the eyes of the library.
+bool isGroup(const TDF_Label &label)
+{
+    if (XCAFDoc_ShapeTool::IsAssembly(label))
+        return true;
+    const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(label);
+    return !shape.IsNull() && shape.ShapeType() == TopAbs_COMPOUND && !TopoDS_Iterator(shape).More();
+}
+
 } // namespace
 
 class olDocumentCopy::Run
@@ -78,7 +88,7 @@ private:
         TDF_Label referred;
         if (XCAFDoc_ShapeTool::GetReferredShape(label, referred))
             return place(label, referred, move * XCAFDoc_ShapeTool::GetLocation(label));
-        if (XCAFDoc_ShapeTool::IsAssembly(label)) {
+        if (isGroup(label)) {
             copyAssembly(label, move);
             return;
         }
@@ -104,7 +114,7 @@ private:
     {
         if (const TDF_Label *known = m_done.Seek(label))
             return *known;
-        const TDF_Label target = XCAFDoc_ShapeTool::IsAssembly(label) ? copyAssembly(label, {}) : copyPart(label);
+        const TDF_Label target = isGroup(label) ? copyAssembly(label, {}) : copyPart(label);
         m_done.Bind(label, target);
         return target;
     }
@@ -222,6 +232,11 @@ private:
 olScene::Document olDocumentCopy::copy(const olScene::Document &source) const
 {
     const olScene::Document target = olScene::newDocument();
-    Run(*this, source, target).copy();
+    copyInto(source, target);
     return target;
+}
+
+void olDocumentCopy::copyInto(const olScene::Document &source, const olScene::Document &target) const
+{
+    Run(*this, source, target).copy();
 }

@@ -38,6 +38,9 @@ public:
 
     [[nodiscard]] olScene::Document copy(const olScene::Document &source) const;
 
+    /// Adds the copy to what the target has.
+    void copyInto(const olScene::Document &source, const olScene::Document &target) const;
+
 private:
     class Run;
 };

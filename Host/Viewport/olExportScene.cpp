@@ -1,6 +1,7 @@
 #include "Viewport/olExportScene.h"
 
 #include "Viewport/olDocumentCopy.h"
+#include "Viewport/olExportIges.h"
 #include "Viewport/olExportVrml.h"
 #include "Viewport/olImportJob.h"
 #include "Viewport/olImportReaders.h"
@@ -12,10 +13,9 @@
 
 #include <BRep_Builder.hxx>
 #include <IFSelect_ReturnStatus.hxx>
-#include <IGESCAFControl_Writer.hxx>
-#include <IGESControl_Controller.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
+#include <NCollection_DataMap.hxx>
 #include <RWGltf_CafWriter.hxx>
 #include <RWObj_CafWriter.hxx>
 #include <STEPCAFControl_Controller.hxx>
@@ -23,8 +23,10 @@
 #include <Standard_Failure.hxx>
 #include <StlAPI_Writer.hxx>
 #include <TColStd_IndexedDataMapOfStringString.hxx>
+#include <TDF_LabelMapHasher.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
+#include <TopTools_MapOfShape.hxx>
 #include <TopoDS_Compound.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
@@ -48,11 +50,23 @@ QString translated(const char *text) { return QCoreApplication::translate("olExp
 
 TCollection_AsciiString path(const QString &file) { return QFile::encodeName(file).constData(); }
 
-/// Formats of surfaces take no triangles.
+/// Formats of surfaces take no triangles. And their writers fall over a part that stands twice in the same place with
+/// different looks, which nobody can see anyway.
 olScene::Document withoutMeshes(const olScene::Document &document, QStringList &remarks)
 {
     olDocumentCopy copy;
     copy.keepEmptyGroups = false;
+    NCollection_DataMap<TDF_Label, TopTools_MapOfShape, TDF_LabelMapHasher> places;
+    copy.isWanted = [&places, &remarks](const TDF_Label &instance) {
+        if (!XCAFDoc_ShapeTool::IsComponent(instance))
+            return true;
+        if (!places.IsBound(instance.Father()))
+            places.Bind(instance.Father(), {});
+        if (places.ChangeFind(instance.Father()).Add(XCAFDoc_ShapeTool::GetShape(instance)))
+            return true;
+        remarks << translated("%1 stands twice in the same place; it is written once.").arg(olNameOf(instance));
+        return false;
+    };
     copy.changePart = [&remarks](const TDF_Label &label, olChangedPart &part) {
         olPartChanges::keepOnly(part, {true, false, true});
         if (part.shape.IsNull())
@@ -90,17 +104,6 @@ bool writeStep(const olScene::Document &document, const QString &file)
     return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
 }
 
-bool writeIges(const olScene::Document &document, const QString &file)
-{
-    const olExchangeLock lock;
-    IGESControl_Controller::Init();
-    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
-    // Solids stay solids; else they become loose faces, more of which lose their colour.
-    Interface_Static::SetCVal("write.iges.brep.mode", "BRep");
-    IGESCAFControl_Writer writer;
-    return writer.Transfer(document) && writer.Write(path(file).ToCString());
-}
-
 bool writeStl(const olScene::Document &document, const QString &file)
 {
     StlAPI_Writer writer;
@@ -123,13 +126,13 @@ bool writeGltf(const olScene::Document &document, const QString &file)
     return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
 }
 
-bool write(const olScene::Document &document, const olModelFormat &format, const QString &file)
+bool write(const olScene::Document &document, const olModelFormat &format, const QString &file, QStringList &remarks)
 {
     switch (format.id) {
     case olModelFormat::Step:
         return writeStep(document, file);
     case olModelFormat::Iges:
-        return writeIges(document, file);
+        return olWriteIges(document, file, remarks);
     case olModelFormat::Stl:
         return writeStl(document, file);
     case olModelFormat::Vrml:
@@ -160,14 +163,15 @@ QString putInPlace(const QString &finished, const QString &target)
 }
 
 /// Written where it disturbs nobody first: a format may take several files, and half of one is worse than none.
-QString writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file)
+QString writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file,
+                              QStringList &remarks)
 {
     const QTemporaryDir folder(
         QDir(olImportJob::of(file).temporaryDirectory).filePath(QStringLiteral("orlo-export-XXXXXX")));
     if (!folder.isValid())
         return translated("the temporary directory cannot be written to");
     const QFileInfo target(file);
-    if (!write(document, format, folder.filePath(target.fileName())))
+    if (!write(document, format, folder.filePath(target.fileName()), remarks))
         return translated("the writer failed");
     const QStringList written = QDir(folder.path()).entryList(QDir::Files);
     if (!written.contains(target.fileName()))
@@ -188,7 +192,7 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
         const olScene::Document content = takesMeshes ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
             return translated("there is nothing that this format can hold");
-        return writeThroughTemporary(content, format, file);
+        return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
         return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
     } catch (const std::exception &failure) {

@@ -6,6 +6,7 @@
 #include "Viewport/olLibraryMessages.h"
 #include "Viewport/olMeshTools.h"
 #include "Viewport/olPartChanges.h"
+#include "Viewport/olTextures.h"
 #include "Viewport/olTriangles.h"
 
 #include <BRepBndLib.hxx>
@@ -69,8 +70,7 @@ public:
                 part.shape.Nullify();
                 return;
             }
-            change(label, part);
-            scope.Next();
+            change(label, part, scope.Next());
         };
         return copy.copy(m_raw);
     }
@@ -96,7 +96,7 @@ private:
         return true;
     }
 
-    void change(const TDF_Label &label, olChangedPart &part)
+    void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
     {
         const olImportOptions::Record &options = m_job.options;
         const bool visible = isVisible(label);
@@ -117,7 +117,7 @@ private:
             olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
         if (options.unifySurfaceNormals)
             olPartChanges::unifyNormals(part);
-        olTriangles::mesh(part.shape, fineness());
+        olTriangles::mesh(part.shape, fineness(), progress);
         if (!options.keepSurfaceData)
             olPartChanges::dropSurfaces(part);
     }
@@ -194,6 +194,22 @@ Bnd_Box boundsOf(const olScene::Document &document)
     return box;
 }
 
+/// Whether the triangles that were read can be worked with.
+bool isWhole(const olScene::Document &document)
+{
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
+    TopLoc_Location location;
+    for (const TDF_Label &label : labels) {
+        for (TopExp_Explorer faces(XCAFDoc_ShapeTool::GetShape(label), TopAbs_FACE); faces.More(); faces.Next()) {
+            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(TopoDS::Face(faces.Current()), location);
+            if (!mesh.IsNull() && !olMeshTools::isWhole(mesh))
+                return false;
+        }
+    }
+    return true;
+}
+
 bool hasGeometry(const olScene::Document &document) { return !boundsOf(document).IsVoid(); }
 
 /// The centre goes to the origin, and what stands on the ground begins at height 0.
@@ -223,8 +239,11 @@ QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImpo
     result.isCancelled = scope.UserBreak();
     if (!fault.isEmpty() || result.isCancelled)
         return fault;
+    if (!isWhole(raw))
+        return translated("the file is damaged: it has triangles without their points");
     if (!hasGeometry(raw))
         return translated("there is no geometry in it");
+    olFindTextures(job, raw, result.remarks);
 
     const olScene::Document treated = Treatment(job, raw, result.remarks).run(scope.Next(treatmentShare));
     result.isCancelled = scope.UserBreak();
@@ -241,7 +260,7 @@ QString attempt(const olImportJob &job, const olModelFormat &format, olImportRes
                 const Message_ProgressRange &progress)
 {
     try {
-        const QString fault = olImportFileCheck(job.file, format);
+        const QString fault = olImportFileCheck(job.file, format, result.remarks);
         return fault.isEmpty() ? readAndTreat(job, format, result, progress) : fault;
     } catch (const Standard_Failure &failure) {
         return translated("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));

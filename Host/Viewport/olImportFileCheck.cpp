@@ -1,5 +1,8 @@
 #include "Viewport/olImportFileCheck.h"
 
+#include "Viewport/olGltfFileCheck.h"
+#include "Viewport/olObjFileCheck.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -74,19 +77,9 @@ QString vrmlFault(QFile &file)
     return head.startsWith("#VRML V2") ? QString() : reason("this is no VRML file");
 }
 
-QString gltfFault(QFile &file)
-{
-    const QByteArray head = file.read(12);
-    if (!head.startsWith("glTF"))
-        return head.trimmed().startsWith('{') ? QString() : reason("this is no glTF file");
-    if (head.size() < 12)
-        return cutOff();
-    return file.size() >= qFromLittleEndian<quint32>(head.constData() + 8) ? QString() : cutOff();
-}
-
 } // namespace
 
-QString olImportFileCheck(const QString &name, const olModelFormat &format)
+QString olImportFileCheck(const QString &name, const olModelFormat &format, QStringList &remarks)
 {
     const QFileInfo info(name);
     if (!info.exists())
@@ -111,9 +104,9 @@ QString olImportFileCheck(const QString &name, const olModelFormat &format)
     case olModelFormat::Vrml:
         return vrmlFault(file);
     case olModelFormat::Gltf:
-        return gltfFault(file);
+        return olGltfFault(file);
     case olModelFormat::Obj:
-        return {};
+        return olObjFault(file, remarks);
     }
     return {};
 }

@@ -3,5 +3,5 @@
 #include "Viewport/olModelFormat.h"
 
 /// Why a file cannot be a whole model of the format, in half a sentence; empty where nothing speaks against it. The
-/// readers themselves take what they get of a cut file and say nothing.
-[[nodiscard]] QString olImportFileCheck(const QString &file, const olModelFormat &format);
+/// readers themselves take what they get of a cut file and say nothing. Remarks tell of what is missing beside it.
+[[nodiscard]] QString olImportFileCheck(const QString &file, const olModelFormat &format, QStringList &remarks);

@@ -1,7 +1,7 @@
 #include "Viewport/olImportReaders.h"
 
 #include "Viewport/olImportVrml.h"
-#include "Viewport/olMeshTools.h"
+#include "Viewport/olLibraryMessages.h"
 
 #include <BRep_Builder.hxx>
 #include <IFSelect_ReturnStatus.hxx>
@@ -43,6 +43,7 @@ std::mutex &exchange()
 
 QString reason(const char *text) { return QCoreApplication::translate("olImport", text); }
 QString damaged() { return reason("the file is damaged or of another format"); }
+QString noTemporary() { return reason("the temporary directory cannot be written to"); }
 
 TCollection_AsciiString path(const QString &file) { return QFile::encodeName(file).constData(); }
 
@@ -117,9 +118,7 @@ QString readStep(const olImportJob &job, const olScene::Document &document, cons
     if (job.options.importReferencedFiles)
         return readStepFile(job.file, document, progress);
     const Secluded alone(job);
-    if (!alone.isReady())
-        return reason("the temporary directory cannot be written to");
-    return readStepFile(alone.file(), document, progress);
+    return alone.isReady() ? readStepFile(alone.file(), document, progress) : noTemporary();
 }
 
 QString readIges(const olImportJob &job, olScene::Document document, const Message_ProgressRange &progress)
@@ -149,11 +148,16 @@ QString readStl(const olImportJob &job, const olScene::Document &document, const
     return {};
 }
 
-QString readMeshes(RWMesh_CafReader &reader, const olImportJob &job, const olScene::Document &document,
+QString readMeshes(RWMesh_CafReader &reader, const QString &file, const olScene::Document &document,
                    const Message_ProgressRange &progress)
 {
     reader.SetDocument(document);
-    return reader.Perform(path(job.file), progress) ? QString() : damaged();
+    reader.SetFillIncompleteDocument(false);
+    const olLibraryFailures failures;
+    const bool isRead = reader.Perform(path(file), progress);
+    if (!failures.first().isEmpty())
+        return reason("the file is damaged (%1)").arg(failures.first());
+    return isRead ? QString() : damaged();
 }
 
 QString readGltf(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress)
@@ -162,13 +166,16 @@ QString readGltf(const olImportJob &job, const olScene::Document &document, cons
     reader.SetSystemLengthUnit(meter);
     reader.SetSystemCoordinateSystem(RWMesh_CoordinateSystem_Zup);
     reader.SetDoublePrecision(true);
-    return readMeshes(reader, job, document, progress);
+    return readMeshes(reader, job.file, document, progress);
 }
 
 QString readObj(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress)
 {
     RWObj_CafReader reader;
-    return readMeshes(reader, job, document, progress);
+    if (job.options.importReferencedFiles)
+        return readMeshes(reader, job.file, document, progress);
+    const Secluded alone(job);
+    return alone.isReady() ? readMeshes(reader, alone.file(), document, progress) : noTemporary();
 }
 
 } // namespace
@@ -188,7 +195,7 @@ QString olReadModel(const olImportJob &job, const olModelFormat &format, olScene
     case olModelFormat::Stl:
         return readStl(job, document, progress);
     case olModelFormat::Vrml:
-        return olReadVrml(job.file, document) ? QString() : damaged();
+        return olReadVrml(job.file, document);
     case olModelFormat::Obj:
         return readObj(job, document, progress);
     case olModelFormat::Gltf:

@@ -1,5 +1,8 @@
 #include "Viewport/olImportVrml.h"
 
+#include "Viewport/olVrmlMesh.h"
+
+#include <Image_Texture.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TDF_Label.hxx>
 #include <TDataStd_Name.hxx>
@@ -9,13 +12,18 @@
 #include <VrmlData_Appearance.hxx>
 #include <VrmlData_Geometry.hxx>
 #include <VrmlData_Group.hxx>
+#include <VrmlData_ImageTexture.hxx>
+#include <VrmlData_IndexedFaceSet.hxx>
 #include <VrmlData_Material.hxx>
 #include <VrmlData_Scene.hxx>
 #include <VrmlData_ShapeNode.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -25,13 +33,16 @@
 namespace
 {
 
+QString reason(const char *text) { return QCoreApplication::translate("olImport", text); }
+
 /// Turns groups into assemblies and shape nodes into parts; a node used in several places stays one.
 class Walk
 {
 public:
     explicit Walk(const olScene::Document &document)
         : m_shapes(XCAFDoc_DocumentTool::ShapeTool(document->Main())),
-          m_colors(XCAFDoc_DocumentTool::ColorTool(document->Main()))
+          m_colors(XCAFDoc_DocumentTool::ColorTool(document->Main())),
+          m_materials(XCAFDoc_DocumentTool::VisMaterialTool(document->Main()))
     {
     }
 
@@ -44,6 +55,9 @@ public:
         m_shapes->UpdateAssemblies();
         return label;
     }
+
+    /// Whether all faces had their points.
+    [[nodiscard]] bool isWhole() const { return m_isWhole; }
 
 private:
     void add(const TDF_Label &parent, const Handle(VrmlData_Node) & node)
@@ -104,19 +118,62 @@ private:
     TDF_Label part(const Handle(VrmlData_ShapeNode) & node)
     {
         const Handle(VrmlData_Geometry) &geometry = node->Geometry();
+        const auto set = Handle(VrmlData_IndexedFaceSet)::DownCast(geometry);
+        if (!set.IsNull() && !olVrmlMesh::isWhole(set)) {
+            m_isWhole = false;
+            return {};
+        }
         if (geometry.IsNull() || geometry->TShape().IsNull())
             return {};
+        const QString texture = textureOf(node->Appearance());
+        const TDF_Label label = m_shapes->AddShape(shapeOf(geometry, !texture.isEmpty()), Standard_False);
+        name(label, node);
+        paint(label, node->Appearance(), texture);
+        return label;
+    }
+
+    static TopoDS_Shape shapeOf(const Handle(VrmlData_Geometry) & geometry, bool hasTexture)
+    {
+        const auto set = Handle(VrmlData_IndexedFaceSet)::DownCast(geometry);
+        const TopoDS_Face textured = hasTexture && !set.IsNull() ? olVrmlMesh::withTexture(set) : TopoDS_Face();
+        if (!textured.IsNull())
+            return textured;
         TopoDS_Shape shape;
         shape.TShape(geometry->TShape());
-        const TDF_Label label = m_shapes->AddShape(shape, Standard_False);
-        name(label, node);
-        const Handle(VrmlData_Appearance) &appearance = node->Appearance();
-        if (appearance.IsNull() || appearance->Material().IsNull())
-            return label;
-        const Handle(VrmlData_Material) &material = appearance->Material();
-        const double opacity = 1.0 - material->Transparency();
-        m_colors->SetColor(label, Quantity_ColorRGBA(material->DiffuseColor(), float(opacity)), XCAFDoc_ColorGen);
-        return label;
+        return shape;
+    }
+
+    static QString textureOf(const Handle(VrmlData_Appearance) & appearance)
+    {
+        if (appearance.IsNull())
+            return {};
+        const auto image = Handle(VrmlData_ImageTexture)::DownCast(appearance->Texture());
+        return image.IsNull() || image->URL().IsEmpty() ? QString()
+                                                        : QFile::decodeName(image->URL().First().ToCString());
+    }
+
+    void paint(const TDF_Label &label, const Handle(VrmlData_Appearance) & appearance, const QString &texture)
+    {
+        const Handle(VrmlData_Material) material =
+            appearance.IsNull() ? Handle(VrmlData_Material)() : appearance->Material();
+        Quantity_ColorRGBA color(1.0f, 1.0f, 1.0f, 1.0f);
+        if (!material.IsNull())
+            color = Quantity_ColorRGBA(material->DiffuseColor(), float(1.0 - material->Transparency()));
+        if (!texture.isEmpty())
+            return paintTexture(label, color, texture);
+        if (!material.IsNull())
+            m_colors->SetColor(label, color, XCAFDoc_ColorGen);
+    }
+
+    void paintTexture(const TDF_Label &label, const Quantity_ColorRGBA &color, const QString &texture)
+    {
+        XCAFDoc_VisMaterialCommon common;
+        common.DiffuseColor = color.GetRGB();
+        common.Transparency = 1.0f - color.Alpha();
+        common.DiffuseTexture = new Image_Texture(QFile::encodeName(texture).constData());
+        const Handle(XCAFDoc_VisMaterial) material = new XCAFDoc_VisMaterial;
+        material->SetCommonMaterial(common);
+        m_materials->SetShapeMaterial(label, m_materials->AddMaterial(material, TCollection_AsciiString()));
     }
 
     static void name(const TDF_Label &label, const Handle(VrmlData_Node) & node)
@@ -127,20 +184,26 @@ private:
 
     Handle(XCAFDoc_ShapeTool) m_shapes;
     Handle(XCAFDoc_ColorTool) m_colors;
+    Handle(XCAFDoc_VisMaterialTool) m_materials;
+    bool m_isWhole = true;
     std::map<const VrmlData_Node *, TDF_Label> m_done;
 };
 
 } // namespace
 
-bool olReadVrml(const QString &file, const olScene::Document &document)
+QString olReadVrml(const QString &file, const olScene::Document &document)
 {
     std::ifstream stream(QFile::encodeName(file).constData());
     const QFileInfo info(file);
     VrmlData_Scene scene;
-    scene.SetVrmlDir(info.absolutePath().toStdU16String().c_str());
+    // The library puts the name of a file directly behind it.
+    scene.SetVrmlDir((info.absolutePath() + QLatin1Char('/')).toStdU16String().c_str());
     scene << stream;
+    if (scene.Status() == VrmlData_CannotOpenFile)
+        return reason("a file that it refers to cannot be opened");
     if (scene.Status() != VrmlData_StatusOK)
-        return false;
-    Walk(document).root(scene, info.completeBaseName());
-    return true;
+        return reason("the file is damaged: line %1 cannot be understood").arg(scene.GetLineError());
+    Walk walk(document);
+    walk.root(scene, info.completeBaseName());
+    return walk.isWhole() ? QString() : reason("the file is damaged: a face refers to a point that is not there");
 }

@@ -3,13 +3,25 @@
 #include "Viewport/olImport.h"
 
 #include <QObject>
+#include <QVector>
 
+#include <deque>
 #include <memory>
+#include <vector>
 
 class olScene;
 
-/// Reads models into a scene without making its caller wait: the reading runs in a thread of its own, and the scene
-/// changes in the GUI thread when a file was read well. One file at a time; further ones wait in line.
+/// What became of one file of an import. An empty error without `isCancelled` is success.
+struct olImportReport {
+    QString file;
+    QString error;
+    bool isCancelled = false;
+    QStringList remarks;
+};
+
+/// Reads models into a scene without making its caller wait: each file is read in a thread of its own, and the scene
+/// changes in the GUI thread when all files of an import are through. Imports wait in line for each other; the files of
+/// one are read side by side, as many at a time as the host's state allows.
 class olImporter : public QObject
 {
     Q_OBJECT
@@ -18,31 +30,48 @@ public:
     /// The scene must outlive the importer.
     explicit olImporter(olScene &scene, QObject *parent = nullptr);
 
-    /// Cancels, and waits for the reader to notice.
+    /// Cancels, and waits for the readers to notice.
     ~olImporter() override;
 
-    void start(const QString &file);
-    [[nodiscard]] bool isRunning() const;
+    /// The files make one scene together, in their order. Returns the number by which the signals name this import; 0,
+    /// and no signal, without any files.
+    int start(const std::vector<olImportJob> &jobs);
+    int start(const QString &file);
 
-    /// Gives the running file and those in line up. The library notices between two parts of its work.
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
+
+    /// Gives one import up, or all. The library notices between two parts of its work; an import in line goes at once.
+    void cancel(int import);
     void cancel();
 
 signals:
-    void started(const QString &file);
-
     /// From 0 to 100.
-    void progressed(int percent);
+    void progressed(int import, int percent);
 
-    /// After a good import the scene has changed already. An empty error with `isCancelled` false is success.
-    void finished(const QString &file, const QString &error, bool isCancelled, const QStringList &remarks);
+    /// One report a file. The scene has changed already, if any file was read well; a cancelled import leaves it alone.
+    void finished(int import, const QVector<olImportReport> &reports);
 
 private:
     class Reading;
 
+    /// Files asked for together.
+    struct Import {
+        int number = 0;
+        std::vector<std::unique_ptr<Reading>> readings;
+        std::size_t next = 0;
+        bool isCancelled = false;
+    };
+
     void startNext();
-    void finish();
+    void fill();
+    void finishOne(Reading &reading);
+    void finishAll();
+    void showProgress();
+    void take(const Import &import);
 
     olScene &m_scene;
-    QStringList m_waiting;
-    std::unique_ptr<Reading> m_reading;
+    std::deque<Import> m_imports;
+    bool m_isRunning = false;
+    int m_last = 0;
+    int m_active = 0;
 };

@@ -8,6 +8,8 @@
 #include <gp_Dir.hxx>
 #include <gp_Trsf.hxx>
 
+#include <algorithm>
+#include <cmath>
 #include <map>
 #include <queue>
 
@@ -90,6 +92,25 @@ TopoDS_Face faceOf(const Mesh &mesh)
 }
 
 } // namespace
+
+bool olMeshTools::isWhole(const Mesh &mesh)
+{
+    // No model is larger than this, and what is cannot be computed with.
+    constexpr double farthest = 1e30;
+    for (int index = 1; index <= mesh->NbNodes(); ++index) {
+        const gp_Pnt point = mesh->Node(index);
+        // Written so that what is no number fails too.
+        if (!(std::abs(point.X()) < farthest && std::abs(point.Y()) < farthest && std::abs(point.Z()) < farthest))
+            return false;
+    }
+    for (int index = 1; index <= mesh->NbTriangles(); ++index) {
+        int n[3];
+        mesh->Triangle(index).Get(n[0], n[1], n[2]);
+        if (std::min({n[0], n[1], n[2]}) < 1 || std::max({n[0], n[1], n[2]}) > mesh->NbNodes())
+            return false;
+    }
+    return true;
+}
 
 void olMeshTools::orientAlike(const Mesh &mesh)
 {

@@ -11,6 +11,9 @@ class Poly_Triangulation;
 namespace olMeshTools
 {
 
+/// Whether every triangle has its points, and all of them lie somewhere.
+[[nodiscard]] bool isWhole(const opencascade::handle<Poly_Triangulation> &mesh);
+
 /// Turns triangles so that neighbours go around their common edge in opposite directions; the first of each connected
 /// piece stays. Normals are computed anew where something was turned.
 void orientAlike(const opencascade::handle<Poly_Triangulation> &mesh);

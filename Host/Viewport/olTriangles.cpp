@@ -3,6 +3,7 @@
 #include <BRepMesh_IncrementalMesh.hxx>
 #include <BRepTools.hxx>
 #include <BRep_Tool.hxx>
+#include <Message_ProgressRange.hxx>
 #include <Poly_Triangulation.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
@@ -28,13 +29,18 @@ constexpr double radiansPerDegree = 0.017453292519943295;
 
 void olTriangles::mesh(const TopoDS_Shape &shape, const Fineness &fineness)
 {
+    mesh(shape, fineness, Message_ProgressRange());
+}
+
+void olTriangles::mesh(const TopoDS_Shape &shape, const Fineness &fineness, const Message_ProgressRange &progress)
+{
     IMeshTools_Parameters parameters;
     parameters.Deflection =
         std::max(std::isfinite(fineness.chordDeviation) ? fineness.chordDeviation : 0.0, finestDeviation);
     parameters.Angle = std::clamp(fineness.normalTolerance, finestAngle, coarsestAngle) * radiansPerDegree;
     // Only a face that is drawn coarser than asked is meshed again; triangles that are there already must go first.
     BRepTools::Clean(shape);
-    BRepMesh_IncrementalMesh(shape, parameters);
+    BRepMesh_IncrementalMesh(shape, parameters, progress);
 }
 
 unsigned olTriangles::count(const TopoDS_Shape &shape)

@@ -2,6 +2,7 @@
 
 #include "Viewport/olScene.h"
 
+class Message_ProgressRange;
 class TopoDS_Shape;
 
 /// The triangles of shapes: making and counting them.
@@ -16,6 +17,9 @@ public:
 
     /// Replaces the triangles that the shape's surfaces have. Faces without a surface keep theirs.
     static void mesh(const TopoDS_Shape &shape, const Fineness &fineness);
+
+    /// The same, which can be watched and given up.
+    static void mesh(const TopoDS_Shape &shape, const Fineness &fineness, const Message_ProgressRange &progress);
 
     [[nodiscard]] static unsigned count(const TopoDS_Shape &shape);
 

@@ -1,19 +1,13 @@
 #include "Import/ImportTest.h"
 
 #include "Embedded/olHostState.h"
-#include "Viewport/olImporter.h"
 
 #include <TDocStd_Document.hxx>
-
-#include <QFile>
-#include <QSignalSpy>
 
 namespace
 {
 
 using RoundTrip = ImportTest;
-using ImportOption = ImportTest;
-using Fault = ImportTest;
 
 // Triangles without area, as they come about at the poles of a ball, are not kept.
 constexpr double few = 60;
@@ -64,105 +58,4 @@ TEST_F(RoundTrip, TheHostSaysWhetherStlIsTextOrBinary)
     olHostState::the().stlExportFormat = 1;
     const QByteArray binary = contentOf(exported(QStringLiteral("binary.stl")));
     EXPECT_EQ(binary.size(), 84 + 50 * int(m_scene.triangleCount()));
-}
-
-TEST_F(ImportOption, CoarserDeviationMakesFewerTriangles)
-{
-    olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
-    const unsigned fine = Outline(imported(job)).triangles;
-    job.options.chordDeviation = 2;
-    job.options.normalTolerance = 60;
-    const unsigned coarse = Outline(imported(job)).triangles;
-    EXPECT_LT(coarse, fine / 4);
-    job.options.tessellation = false;
-    EXPECT_EQ(Outline(imported(job)).triangles, fine);
-}
-
-TEST_F(ImportOption, StitchingTakesNoColourAway)
-{
-    olImportJob job = olImportJob::of(exported(QStringLiteral("s.igs")));
-    const QStringList stitched = Outline(imported(job)).colours;
-    job.options.stitching = false;
-    EXPECT_EQ(stitched, Outline(imported(job)).colours);
-}
-
-TEST_F(ImportOption, KindsThatAreNotWantedStayOut)
-{
-    olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
-    job.options.importSurfaces = false;
-    EXPECT_TRUE(olImport(job).error.contains(QStringLiteral("leave nothing")));
-
-    job = olImportJob::of(exported(QStringLiteral("s.glb")));
-    job.options.importMeshes = false;
-    EXPECT_TRUE(olImport(job).error.contains(QStringLiteral("leave nothing")));
-}
-
-TEST_F(ImportOption, TheModelIsMovedToTheOriginAndTheGround)
-{
-    for (const char *name : {"s.step", "s.stl"}) {
-        olImportJob job = olImportJob::of(exported(QLatin1String(name)));
-        job.centerInOrigin = true;
-        job.putOnGround = true;
-        const Outline moved(imported(job));
-        EXPECT_NEAR(moved.low[2], 0, near);
-        EXPECT_NEAR(moved.low[0], -moved.high[0], near);
-    }
-}
-
-TEST_F(ImportOption, WithoutSurfacesOnlyTheTrianglesAreKept)
-{
-    olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
-    const Outline whole(imported(job));
-    job.options.keepSurfaceData = false;
-    const Outline bare(imported(job));
-    EXPECT_EQ(bare.triangles, whole.triangles);
-    EXPECT_EQ(bare.colours, whole.colours);
-}
-
-TEST_F(Fault, NothingIsReadFromBrokenFiles)
-{
-    EXPECT_TRUE(faultOf(path(QStringLiteral("none.step"))).contains(QStringLiteral("no such file")));
-    EXPECT_TRUE(faultOf(path(QStringLiteral("m.mrb"))).contains(QStringLiteral("no reader for .mrb")));
-    for (const char *suffix : {"step", "igs", "stl", "wrl", "obj", "gltf", "glb"}) {
-        SCOPED_TRACE(suffix);
-        const QString end = QLatin1Char('.') + QLatin1String(suffix);
-        EXPECT_TRUE(faultOf(written(QStringLiteral("empty") + end, {})).contains(QStringLiteral("empty")));
-        EXPECT_FALSE(faultOf(written(QStringLiteral("noise") + end, QByteArray(5000, '\x7f'))).isEmpty());
-        if (qstrcmp(suffix, "obj") == 0)
-            continue;
-        const QByteArray whole = contentOf(exported(QStringLiteral("whole") + end));
-        EXPECT_FALSE(faultOf(written(QStringLiteral("cut") + end, whole.left(whole.size() * 2 / 3))).isEmpty());
-    }
-}
-
-TEST_F(Fault, AFileLargerThanTheMemoryIsNotTried)
-{
-    QFile huge(written(QStringLiteral("huge.stl"), "solid"));
-    if (!huge.resize(qint64(1) << 42))
-        GTEST_SKIP() << "the disk takes no such file";
-    EXPECT_TRUE(faultOf(huge.fileName()).contains(QStringLiteral("too large")));
-}
-
-TEST_F(Fault, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
-{
-    const olScene::Document before = m_scene.document();
-    olImporter importer(m_scene);
-    QSignalSpy finished(&importer, &olImporter::finished);
-    importer.start(written(QStringLiteral("bad.step"), "no"));
-    ASSERT_TRUE(finished.wait(60000));
-    EXPECT_EQ(m_scene.document(), before);
-
-    importer.start(exported(QStringLiteral("good.step")));
-    importer.start(exported(QStringLiteral("other.igs")));
-    while (importer.isRunning())
-        ASSERT_TRUE(finished.wait(60000));
-    EXPECT_EQ(finished.size(), 3);
-    EXPECT_NE(m_scene.document(), before);
-
-    const olScene::Document good = m_scene.document();
-    importer.start(path(QStringLiteral("good.step")));
-    importer.cancel();
-    ASSERT_TRUE(finished.wait(60000));
-    EXPECT_TRUE(finished.last().at(2).toBool());
-    EXPECT_EQ(m_scene.document(), good);
 }

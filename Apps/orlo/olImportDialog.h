@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Viewport/olImporter.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QDialogButtonBox;
+class QLabel;
+class QPlainTextEdit;
+class QProgressBar;
+
+/// One import from the question to the outcome: what it will go by, how far it is, and what came of it. Nothing else
+/// has to wait for it.
+class olImportDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent = nullptr);
+
+    /// As the boxes are now.
+    [[nodiscard]] bool centersInOrigin() const;
+    [[nodiscard]] bool putsOnGround() const;
+
+    /// From the question to the progress.
+    void showReading();
+    void setPercent(int percent);
+
+    /// From the progress to the outcome; the dialog stays until it is closed.
+    void showOutcome(const QString &text);
+
+    void reject() override;
+
+signals:
+    /// Import was pressed.
+    void confirmed();
+
+    /// Cancel was pressed, or the dialog closed, before the import was through.
+    void cancelled();
+
+private:
+    enum class Stage { Asking, Reading, Done };
+
+    void setStage(Stage stage);
+
+    Stage m_stage = Stage::Asking;
+    QLabel *m_options;
+    QCheckBox *m_center;
+    QCheckBox *m_ground;
+    QProgressBar *m_progress;
+    QPlainTextEdit *m_outcome;
+    QDialogButtonBox *m_buttons;
+};

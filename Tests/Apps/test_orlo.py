@@ -1,0 +1,65 @@
+"""The viewer without its window: pictures of models, and settings that hold for one run."""
+
+import json
+import os
+
+import tool_test
+
+FORMATS = ["step", "stp", "igs", "iges", "stl", "wrl", "vrml", "obj", "gltf", "glb"]
+
+
+class Batch(tool_test.ToolTest):
+    def setUp(self):
+        super().setUp()
+        self.environment.update(DISPLAY=os.environ["DISPLAY"], XAUTHORITY=os.environ.get("XAUTHORITY", ""))
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+
+    def sample_as(self, suffix):
+        file = self.folder / f"sample.{suffix}"
+        result = self.stored("--sample", "--save", file)
+        self.assertEqual((result.stdout, result.returncode), ("", 0), result.stderr)
+        return file
+
+    def triangles(self, model, *options):
+        picture = self.folder / "picture.png"
+        picture.unlink(missing_ok=True)
+        result = self.stored("--render", model, "--output", picture, "--size", "160x120", *options)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertTrue(picture.read_bytes().startswith(b"\x89PNG"))
+        word, number = result.stdout.split()
+        self.assertEqual(word, "triangles")
+        return int(number)
+
+    def test_every_format_is_written_read_and_drawn(self):
+        counts = {suffix: self.triangles(self.sample_as(suffix)) for suffix in FORMATS}
+        # Surfaces are resolved anew; those two formats hold no meshes.
+        whole = counts["stl"]
+        for suffix, count in counts.items():
+            self.assertLess(abs(count - whole), 600, suffix)
+
+    def test_settings_hold_for_one_run_and_locks_hold_always(self):
+        model = self.sample_as("step")
+        fine = self.triangles(model)
+        coarse = ["--set", "STEPOptions chord deviation=2", "--set", "STEPOptions normal tolerance=60"]
+        self.assertLess(self.triangles(model, *coarse), fine / 3)
+        self.assertEqual(self.triangles(model), fine)
+
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        site.write_text(json.dumps({"STEPOptions chord deviation":
+                                    {"value": 0.075, "locked": True, "reason": "One fineness for all."}}))
+        self.assert_refused(self.stored("--render", model, "--output", "p.png", *coarse),
+                            'orlo: "STEPOptions chord deviation" is locked: One fineness for all.')
+        self.assertEqual(self.triangles(model), fine)
+
+    def test_what_cannot_be_read_gives_one_message_and_status_2(self):
+        model = self.folder / "m.jt"
+        model.write_text("no model")
+        self.assert_refused(self.stored("--render", model, "--output", "p.png"),
+                            f"orlo: Cannot read {model}: there is no reader for .jt files. These can be read: "
+                            "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb.")
+        self.assertFalse((self.folder / "p.png").exists())
+
+
+if __name__ == "__main__":
+    tool_test.main()
