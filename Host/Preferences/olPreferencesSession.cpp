@@ -197,10 +197,18 @@ Values olPreferencesSession::current() const
             values[{entry->home(), offered.key}] = entry->value(offered.key);
     }
     for (auto value = values.begin(); value != values.end();) {
-        const bool kept = !olValue::typeName(value->second).empty() && !isDefault(value->first, value->second);
+        // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
+        const bool isChosen = !isDefault(value->first, value->second) || isStored(value->first, value->second);
+        const bool kept = isChosen && !olValue::typeName(value->second).empty();
         value = kept ? std::next(value) : values.erase(value);
     }
     return values;
+}
+
+bool olPreferencesSession::isStored(const olPreferencesStore::Key &key, const boost::any &value) const
+{
+    const auto stored = m_stored.find(key);
+    return stored != m_stored.end() && olValue::identical(stored->second, value);
 }
 
 bool olPreferencesSession::isLocked(const std::string &key) const { return lockReason(key).has_value(); }
