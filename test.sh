@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets the machine up, builds and runs all tests without a display.
-#   ./test.sh              the tests
+#   ./test.sh              the tests, and ten seconds of fuzzing for each reader
 #   ./test.sh --sanitize   the tests under the address, undefined behaviour and leak sanitizers
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -17,3 +17,4 @@ done
 install_packages
 build "$preset"
 ctest --preset "$preset" --parallel "$(nproc)"
+[ "$preset" = sanitize ] || ./fuzz.sh --seconds 10

@@ -1,9 +1,9 @@
-// A store: either the bytes of its file, or else rows of a sound one, on each line a type, a blank and a value.
+// A store: the bytes of its file, or the log that a crash left beside a sound one, or else rows of a sound one, on each
+// line a type, a blank and a value.
 
 #include "Preferences/olPreferencesStore.h"
 #include "Preferences/olStoreFile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -24,20 +24,31 @@ olStoreRows rowsIn(const QByteArray &text)
     return rows;
 }
 
+void write(const QString &name, const QByteArray &bytes)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        std::abort();
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("preferences.db")));
-    if (!bytes.startsWith("SQLite format 3"))
-        olStoreFile(file.fileName()).replace(rowsIn(bytes));
-    else if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        std::abort();
-    file.close();
+    const QString name = folder.filePath(QStringLiteral("preferences.db"));
+    olPreferencesStore store(name);
+    if (bytes.startsWith("SQLite format 3")) {
+        write(name, bytes);
+    } else if (bytes.startsWith("\x37\x7f\x06")) {
+        if (!store.save({{{olHome::Record, "key"}, 1}}, {}).isEmpty())
+            std::abort();
+        write(name + QStringLiteral("-wal"), bytes);
+    } else {
+        olStoreFile(name).replace(rowsIn(bytes));
+    }
 
-    olPreferencesStore store(file.fileName());
     olPreferencesStore::Values looked;
     olPreferencesStore::Values opened;
     (void)store.check();
