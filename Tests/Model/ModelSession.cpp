@@ -85,6 +85,14 @@ bool isPlain(const std::string &token)
     return *end == '\0' && number == int(number) && number >= -1 && number <= 16;
 }
 
+std::string listed(const GuardModel::Calls &calls)
+{
+    std::string text;
+    for (const std::string &call : calls)
+        text.append("\n  ").append(call);
+    return text;
+}
+
 /// Of all that the host can be asked for.
 std::set<std::string> liveTokens()
 {
@@ -157,10 +165,7 @@ void ModelSession::run(int lines)
         if (!module)
             continue;
         if (line.startsWith("apply") && GuardModel::knows(module->name) && m_calls != expected) {
-            std::string text = "the model has other calls:";
-            for (const std::string &call : expected)
-                text += "\n  " + call;
-            throw ModelFailure(text);
+            throw ModelFailure("the model has other calls:" + listed(expected) + "\ninstead of:" + listed(m_calls));
         }
         check(line, *module, before);
         const bool isOfOne = line.startsWith("put") || line.startsWith("remove") || line.startsWith("defaults");
@@ -271,7 +276,7 @@ void ModelSession::checkOrigins(const DrivenModule &module)
                 continue;
             if (call.find("olImportOptions") == 0 && readBefore.count(token) != 0)
                 continue;
-            throw ModelFailure("nobody knows where " + token + " comes from in " + call);
+            throw ModelFailure("nobody knows where this comes from: " + listed({token, call}));
         }
     }
 }
