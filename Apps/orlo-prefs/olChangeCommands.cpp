@@ -1,7 +1,7 @@
 // The commands that give one setting another value, or take them back.
 
 #include "Embedded/olValue.h"
-#include "olControlBounds.h"
+#include "Preferences/olControlBounds.h"
 #include "olKnownSettings.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"
@@ -49,7 +49,7 @@ void olPrefsCommands::set(olPrefsTool &tool)
     const boost::any value = valueFrom(setting.type, written);
     if (value.empty())
         requireExpected(QString::fromStdString(olValue::expectation(setting.type)), setting, written);
-    requireExpected(olControlBounds(setting, value), setting, written);
+    requireExpected(olControlBounds(setting.control, setting.key, setting.standard, value), setting, written);
     setting.setValue(value);
     tool.save();
 }

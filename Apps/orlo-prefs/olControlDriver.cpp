@@ -1,10 +1,10 @@
 #include "olControlDriver.h"
 
 #include "Embedded/olValue.h"
+#include "Preferences/olNumberText.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
-#include "olNumberText.h"
 #include "olToolError.h"
 
 #include <QApplication>

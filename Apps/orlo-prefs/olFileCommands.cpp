@@ -4,7 +4,6 @@
 #include "Preferences/olPreferencesEntry.h"
 #include "Preferences/olPreferencesFile.h"
 #include "Preferences/olPreferencesImport.h"
-#include "olControlBounds.h"
 #include "olKnownSettings.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"
@@ -41,19 +40,11 @@ olPreferencesImport importOf(const olPreferencesSession &session, const olKnownS
         const olKnownSetting *setting = settings.find(key);
         return setting ? setting->value() : boost::any();
     };
-    olPreferencesImport import(session, contents, valueOf, [](const std::string &) { return nullptr; });
-    std::vector<olPreferencesImport::Change> changes;
-    for (const olPreferencesImport::Change &change : import.changes) {
-        const QString expected = olControlBounds(*settings.find(change.key), change.after);
-        if (expected.isEmpty())
-            changes.push_back(change);
-        else
-            import.skipped.push_back(
-                {change.key, QStringLiteral("cannot be %1: expected %2")
-                                 .arg(QString::fromStdString(olValue::toJson(change.after)), expected)});
-    }
-    import.changes = changes;
-    return import;
+    const auto controlOf = [&settings](const std::string &key) {
+        const olKnownSetting *setting = settings.find(key);
+        return setting ? setting->control : nullptr;
+    };
+    return olPreferencesImport(session, contents, valueOf, controlOf);
 }
 
 } // namespace

@@ -1,11 +1,11 @@
 #include "olKnownSettings.h"
 
 #include "Embedded/olValue.h"
+#include "Preferences/olPageAccess.h"
 #include "Preferences/olPageIndex.h"
 #include "Preferences/olPreferencesEntry.h"
 #include "Preferences/olPreferencesRegistry.h"
 #include "olNearest.h"
-#include "olPageAccess.h"
 #include "olToolError.h"
 
 #include <algorithm>

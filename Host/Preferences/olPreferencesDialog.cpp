@@ -594,7 +594,7 @@ void olPreferencesDialog::importFrom(const QString &file)
         m_message->showError(contents.error);
         return;
     }
-    const auto controlOf = [this](const std::string &key) -> const QWidget * {
+    const auto controlOf = [this](const std::string &key) -> QWidget * {
         const olFoundControl *control = m_search->control(key);
         return control ? control->widget.data() : nullptr;
     };

@@ -19,7 +19,7 @@ struct ORLO_SDK_EXPORT olPreferencesImport {
 
     /// The value that counts as the present one, and the control that edits a setting, null where none does.
     using ValueOf = std::function<boost::any(const std::string &key)>;
-    using ControlOf = std::function<const QWidget *(const std::string &key)>;
+    using ControlOf = std::function<QWidget *(const std::string &key)>;
 
     /// Unknown keys, values of another type than the setting's, those that its control cannot hold, and locked settings
     /// are skipped.

@@ -351,14 +351,13 @@ void olPreferencesSession::restoreLocked() const
     }
 }
 
-QStringList olPreferencesSession::check() const
+olPreferencesFindings olPreferencesSession::check() const
 {
-    QStringList findings = m_store.check();
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
         site.settle([this](const std::string &key) { return defaultValue(key); });
-    return findings << site.takeFaults() << site.unknown();
+    return {m_store.check() << site.takeFaults(), site.unknown()};
 }
 
 std::vector<std::string> olPreferencesSession::keys()

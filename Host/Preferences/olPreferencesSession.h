@@ -23,6 +23,12 @@ using olSettingValues = std::map<std::string, boost::any>;
 /// as it is.
 enum class olStoreUse { Own, LookAt };
 
+/// What a check found, one sentence for each.
+struct olPreferencesFindings {
+    QStringList faults;
+    QStringList remarks; ///< what may be meant so: keys of a site's files that no module of this edition has
+};
+
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
 class ORLO_SDK_EXPORT olPreferencesSession
@@ -75,9 +81,9 @@ public:
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
-    /// One sentence for each thing that is wrong with the store and the site's files; changes nothing. Types and keys
-    /// of the site's files are checked only when the modules' defaults are there.
-    [[nodiscard]] QStringList check() const;
+    /// Looks the store and the site's files through; changes nothing. Types and keys of the site's files are checked
+    /// only when the modules' defaults are there.
+    [[nodiscard]] olPreferencesFindings check() const;
 
     /// Of all modules in order, each key once.
     [[nodiscard]] static std::vector<std::string> keys();

@@ -67,9 +67,30 @@ olStoreFile olPreferencesStore::copy() const { return olStoreFile(m_file + QStri
 
 bool olPreferencesStore::wasStore() const { return copy().exists(); }
 
-QString olPreferencesStore::cannotRead(const QString &reason) const
+QString olPreferencesStore::cannotRead(const olStoreFault &fault) const
 {
-    return translated("Cannot read the preferences %1: %2.").arg(m_file, reason);
+    return translated("Cannot read the preferences %1: %2.").arg(m_file, fault.reason) + wayOut(fault);
+}
+
+/// A file of a newer version is not ours to touch; but it may also be damaged just where its version stands.
+QString olPreferencesStore::wayOut(const olStoreFault &fault) const
+{
+    if (fault.kind != Kind::Newer)
+        return {};
+    const QString fresh =
+        translated(" Use that version. If there is none, the file is damaged: move it away to start with defaults");
+    return fresh +
+           (copy().exists() ? translated(", or rename its copy %1 to it.").arg(copy().name()) : QStringLiteral("."));
+}
+
+/// Empty where none are.
+QString olPreferencesStore::lostSaves() const
+{
+    if (!store().isLogDamaged())
+        return {};
+    return translated("The log of the preferences file %1 is damaged: what was changed last before the program or the "
+                      "system stopped may be missing.")
+        .arg(m_file);
 }
 
 void olPreferencesStore::hand(const olStoreRows &rows, Values &values)
@@ -90,32 +111,34 @@ QString olPreferencesStore::load(Values &values)
         hand(store().read(wasStore()), values);
         return {};
     } catch (const olStoreFault &fault) {
-        return cannotRead(fault.reason);
+        return cannotRead(fault);
     }
 }
 
 olStoreOpening olPreferencesStore::open(Values &values)
 {
+    const QString lost = lostSaves();
     try {
         const olStoreRows rows = store().read(wasStore());
         hand(rows, values);
         keepCopy(rows);
-        return {};
+        return {{}, lost};
     } catch (const olStoreFault &fault) {
         if (fault.kind == Kind::Damaged)
             return repair(fault.reason, values);
-        return {cannotRead(fault.reason), {}};
+        return {cannotRead(fault), {}};
     }
 }
 
 olStoreOpening olPreferencesStore::lookAt(Values &values)
 {
+    const QString lost = lostSaves();
     try {
         hand(store().read(wasStore()), values);
-        return {};
+        return {{}, lost};
     } catch (const olStoreFault &fault) {
         if (fault.kind != Kind::Damaged)
-            return {cannotRead(fault.reason), {}};
+            return {cannotRead(fault), {}};
         QString remark;
         hand(copiedRows(remark), values);
         return {{}, translated("The preferences file %1 is damaged: %2. %3").arg(m_file, fault.reason, remark)};
@@ -213,13 +236,17 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
     } catch (const olStoreFault &fault) {
         m_isBroken = fault.kind == Kind::Damaged;
         return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
-            .arg(m_file, fault.reason);
+                   .arg(m_file, fault.reason) +
+               wayOut(fault);
     }
 }
 
 QStringList olPreferencesStore::check() const
 {
     QStringList findings;
+    const QString lost = lostSaves();
+    if (!lost.isEmpty())
+        findings << lost;
     for (const olStoreFile &file : {store(), copy()}) {
         try {
             (void)file.read(wasStore());

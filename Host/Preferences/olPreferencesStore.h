@@ -12,6 +12,7 @@
 #include <vector>
 
 class olStoreFile;
+struct olStoreFault;
 struct olStoreRows;
 
 /// Where the values of a module live while the host runs.
@@ -65,7 +66,9 @@ private:
     [[nodiscard]] olStoreFile store() const;
     [[nodiscard]] olStoreFile copy() const;
     [[nodiscard]] bool wasStore() const;
-    [[nodiscard]] QString cannotRead(const QString &reason) const;
+    [[nodiscard]] QString cannotRead(const olStoreFault &fault) const;
+    [[nodiscard]] QString wayOut(const olStoreFault &fault) const;
+    [[nodiscard]] QString lostSaves() const;
     [[nodiscard]] olStoreRows copiedRows(QString &remark) const;
     void keepCopy(const olStoreRows &rows) const;
     [[nodiscard]] olStoreOpening repair(const QString &reason, Values &values);

@@ -1,6 +1,7 @@
 #include "Preferences/olStoreFile.h"
 
 #include "Preferences/olSqlite.h"
+#include "Preferences/olWriteAheadLog.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -227,6 +228,19 @@ try {
     return rows;
 } catch (const olSqliteError &error) {
     throw faultOf(error);
+}
+
+bool olStoreFile::isLogDamaged() const
+try {
+    const QString log = m_file + QStringLiteral("-wal");
+    if (!olWriteAheadLog::isDamaged(log))
+        return false;
+    // Perhaps only half of what another program is just writing; while this one may write, nobody does.
+    olSqlite database(m_file, olSqlite::Access::Existing);
+    database.run("BEGIN IMMEDIATE");
+    return olWriteAheadLog::isDamaged(log);
+} catch (const olSqliteError &) {
+    return false;
 }
 
 void olStoreFile::change(const olStoreRows &put, const std::vector<olStoreRows::Key> &removed, bool wasStore) const

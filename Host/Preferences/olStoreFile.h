@@ -49,6 +49,9 @@ public:
     /// `wasStore` says that a store was here before: whatever is here now is then not Foreign but Damaged.
     [[nodiscard]] olStoreRows read(bool wasStore) const;
 
+    /// Whether saves are lost that stand in a left-over log. To be asked before read(), which takes the log in.
+    [[nodiscard]] bool isLogDamaged() const;
+
     /// Puts and removes in one transaction. Makes the file, but not its folder, where there is none and none was.
     void change(const olStoreRows &put, const std::vector<olStoreRows::Key> &removed, bool wasStore) const;
 

@@ -147,8 +147,12 @@ TEST_F(PreferencesImport, StaysPendingUntilItIsApplied)
 TEST_F(PreferencesImport, SkipsWhatTheControlCannotHold)
 {
     start();
-    dialog->importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 100})")));
-    EXPECT_EQ(rows(*opened<olChangesView>(), "skipped"), QStringList{"Studio samples | is out of range: 0 to 99"});
+    dialog->importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 100},
+        "Studio mode": {"type": "int", "value": 7})")));
+    EXPECT_EQ(rows(*opened<olChangesView>(), "skipped"),
+              (QStringList{"Studio mode | cannot be 7: expected one of 0, 1",
+                           "Studio samples | cannot be 100: expected a whole number from 0 to 99"}));
+    EXPECT_FALSE(canApply()) << "asking what a control could hold is no edit";
     const auto *ok = opened<olChangesView>()->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
     EXPECT_FALSE(ok->isEnabled()) << "there is nothing to import";
 }

@@ -226,8 +226,8 @@ TEST_F(Site, TheMoreImportantFileHoldsAndAFaultInItLeavesTheOther)
     // A key that no module has here is no fault, but a check names it.
     run(R"({"Camera fvo": {"value": 60, "locked": true}})");
     EXPECT_EQ(notices, QStringList());
-    ASSERT_EQ(session->check().size(), 1);
-    EXPECT_TRUE(session->check().first().contains("Camera fvo"));
+    EXPECT_EQ(session->check().faults, QStringList()) << "an edition may lack the module";
+    EXPECT_TRUE(session->check().remarks.value(0).contains("Camera fvo"));
 
     run(R"({"Camera fov": {"value": "wide"}})");
     EXPECT_EQ(notices.size(), 1);

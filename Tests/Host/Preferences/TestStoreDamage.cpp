@@ -2,6 +2,7 @@
 #include "StoreTest.h"
 
 #include <QFile>
+#include <sqlite3.h>
 
 #include <random>
 
@@ -157,6 +158,39 @@ TEST_F(StoreDamage, ALogGoesWithTheFileItBelongsTo)
     EXPECT_TRUE(same(stored(), old));
 }
 
+TEST_F(StoreDamage, SavesThatADamagedLogLosesAreTold)
+{
+    // A second connection keeps the log from being worked in, as a crash would.
+    tamper("PRAGMA journal_mode = WAL");
+    const QByteArray before = bytesOf(file);
+    sqlite3 *other = nullptr;
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(file).constData(), &other), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(other, "SELECT count(*) FROM setting", nullptr, nullptr, nullptr), SQLITE_OK);
+    save({{key("Camera fov"), 80.0f}});
+    save({{key("Camera fov"), 85.0f}});
+    const QByteArray log = bytesOf(file + "-wal");
+    sqlite3_close(other);
+    constexpr int header = 32;
+    ASSERT_GT(log.size(), header);
+    const auto notice = [&](const QByteArray &left) {
+        write(file, before);
+        write(file + "-wal", left);
+        QFile::remove(file + "-shm");
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        EXPECT_EQ(opening.error, QString());
+        return opening.notice;
+    };
+    EXPECT_EQ(notice(log), QString());
+    EXPECT_TRUE(olValue::identical(stored()[key("Camera fov")], 85.0f));
+    EXPECT_EQ(notice(log.left(log.size() - 10)), QString()) << "a save that was never finished is no loss";
+    for (const int place : {4, 20, header + 2, header + 9, header + 30, log.size() - 100}) {
+        QByteArray damaged = log;
+        damaged[place] = char(damaged.at(place) ^ 16);
+        EXPECT_TRUE(notice(damaged).contains(file)) << "byte " << place;
+    }
+}
+
 TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
 {
     write(file + ".last-good", copy.left(5000));
@@ -195,7 +229,8 @@ TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
     const QByteArray newer = bytesOf(file);
     olPreferencesStore store(file);
     Values values;
-    EXPECT_TRUE(store.open(values).error.contains("newer"));
+    const QString error = store.open(values).error;
+    EXPECT_TRUE(error.contains("newer") && error.contains("move it away") && error.contains(".last-good"));
     EXPECT_TRUE(store.save({{key("a"), 1}}, {}).contains("newer"));
     EXPECT_FALSE(store.isBroken());
     EXPECT_TRUE(values.empty());

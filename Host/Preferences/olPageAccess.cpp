@@ -1,4 +1,4 @@
-#include "olPageAccess.h"
+#include "Preferences/olPageAccess.h"
 
 #include "Embedded/olValueVariant.h"
 

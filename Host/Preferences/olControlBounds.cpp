@@ -1,16 +1,15 @@
-#include "olControlBounds.h"
+#include "Preferences/olControlBounds.h"
 
 #include "Embedded/olValue.h"
-#include "Preferences/olPreferencesEntry.h"
+#include "Preferences/olNumberText.h"
+#include "Preferences/olPageAccess.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
-#include "olKnownSettings.h"
-#include "olNumberText.h"
-#include "olPageAccess.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QDoubleValidator>
 #include <QIntValidator>
@@ -25,6 +24,8 @@
 
 namespace
 {
+
+QString translated(const char *text) { return QCoreApplication::translate("olControlBounds", text); }
 
 /// What stands in a field for the value; nothing for one that does not go into a field.
 std::optional<QString> fieldText(const boost::any &value)
@@ -74,7 +75,7 @@ QString expectationOf(const QValidator &validator)
         return olWholeNumbersBetween(whole->bottom(), whole->top());
     if (const auto *fraction = qobject_cast<const QDoubleValidator *>(&validator))
         return olNumbersBetween(fraction->bottom(), fraction->top());
-    return QStringLiteral("what the field's validator lets through");
+    return translated("what the field's validator lets through");
 }
 
 QString boundsOfField(const QLineEdit &field, QString text)
@@ -83,7 +84,7 @@ QString boundsOfField(const QLineEdit &field, QString text)
     if (field.validator() && field.validator()->validate(text, cursor) != QValidator::Acceptable)
         return expectationOf(*field.validator());
     if (text.size() > field.maxLength())
-        return QStringLiteral("at most %1 characters").arg(field.maxLength());
+        return translated("at most %1 characters").arg(field.maxLength());
     return {};
 }
 
@@ -93,17 +94,26 @@ QString boundsOfColor(const boost::any &value)
     const auto isInRange = [](float channel) { return channel >= 0.0f && channel <= 1.0f; };
     if (!color || (isInRange(color->red()) && isInRange(color->green()) && isInRange(color->blue())))
         return {};
-    return QStringLiteral("three numbers from 0 to 1");
+    return translated("three numbers from 0 to 1");
+}
+
+/// The widget around the control through which its settings can be asked for.
+const QWidget &pageOf(const QWidget &control)
+{
+    const QWidget *page = &control;
+    while (page->parentWidget() && !page->findChild<QObject *>(QStringLiteral("olSettingAccess")))
+        page = page->parentWidget();
+    return *page;
 }
 
 /// The values that a control with a few states stands for: only the page knows whether an item is its index, its data
 /// or its text. Empty for any other control, and where the page does not tell.
-std::vector<boost::any> choicesOf(const olKnownSetting &setting)
+std::vector<boost::any> choicesOf(QWidget &control, const std::string &key, const std::string &type)
 {
     std::vector<boost::any> choices;
-    const auto add = [&] { choices.push_back(olPageAccess::value(*setting.page, setting.key, setting.type)); };
-    const QSignalBlocker quiet(setting.control);
-    if (auto *combo = qobject_cast<QComboBox *>(setting.control)) {
+    const auto add = [&] { choices.push_back(olPageAccess::value(pageOf(control), key, type)); };
+    const QSignalBlocker quiet(&control);
+    if (auto *combo = qobject_cast<QComboBox *>(&control)) {
         if (combo->isEditable())
             return {};
         const int before = combo->currentIndex();
@@ -112,7 +122,7 @@ std::vector<boost::any> choicesOf(const olKnownSetting &setting)
             add();
         }
         combo->setCurrentIndex(before);
-    } else if (auto *box = qobject_cast<QCheckBox *>(setting.control)) {
+    } else if (auto *box = qobject_cast<QCheckBox *>(&control)) {
         const Qt::CheckState before = box->checkState();
         for (const bool isChecked : {false, true}) {
             box->setChecked(isChecked);
@@ -124,9 +134,9 @@ std::vector<boost::any> choicesOf(const olKnownSetting &setting)
     return isTold ? choices : std::vector<boost::any>();
 }
 
-QString boundsOfChoice(const olKnownSetting &setting, const boost::any &value)
+QString boundsOfChoice(QWidget &control, const std::string &key, const boost::any &value)
 {
-    const std::vector<boost::any> choices = choicesOf(setting);
+    const std::vector<boost::any> choices = choicesOf(control, key, olValue::typeName(value));
     const bool isAmong = std::any_of(choices.begin(), choices.end(),
                                      [&value](const boost::any &choice) { return olValue::equal(choice, value); });
     if (choices.empty() || isAmong)
@@ -134,22 +144,22 @@ QString boundsOfChoice(const olKnownSetting &setting, const boost::any &value)
     QStringList texts;
     for (const boost::any &choice : choices)
         texts << QString::fromStdString(olValue::toJson(choice));
-    return QStringLiteral("one of ") + texts.join(QStringLiteral(", "));
+    return translated("one of %1").arg(texts.join(QStringLiteral(", ")));
 }
 
 } // namespace
 
-QString olControlBounds(const olKnownSetting &setting, const boost::any &value)
+QString olControlBounds(QWidget *control, const std::string &key, const boost::any &standard, const boost::any &value)
 {
-    if (!setting.control || olValue::identical(value, setting.standard))
+    if (!control || olValue::identical(value, standard))
         return {};
-    if (const auto *field = qobject_cast<const QLineEdit *>(setting.control)) {
+    if (const auto *field = qobject_cast<const QLineEdit *>(control)) {
         const std::optional<QString> text = fieldText(value);
         return text ? boundsOfField(*field, *text) : QString();
     }
-    if (qobject_cast<const QOLColorManipulator *>(setting.control))
+    if (qobject_cast<const QOLColorManipulator *>(control))
         return boundsOfColor(value);
     const std::optional<double> number = olValue::asNumber(value);
-    const QString bounds = number ? boundsOfNumber(setting.control, *number) : QString();
-    return bounds.isEmpty() ? boundsOfChoice(setting, value) : bounds;
+    const QString bounds = number ? boundsOfNumber(control, *number) : QString();
+    return bounds.isEmpty() ? boundsOfChoice(*control, key, value) : bounds;
 }

@@ -1,11 +1,15 @@
-#include "olNumberText.h"
+#include "Preferences/olNumberText.h"
 
 #include "Embedded/olValue.h"
+
+#include <QCoreApplication>
 
 #include <cmath>
 
 namespace
 {
+
+QString translated(const char *text) { return QCoreApplication::translate("olNumberText", text); }
 
 QString bound(double value) { return QString::fromStdString(olNumberText(value)); }
 
@@ -20,15 +24,15 @@ std::string olNumberText(double value)
 QString olNumbersBetween(double lowest, double highest)
 {
     if (std::isinf(lowest) && std::isinf(highest))
-        return QStringLiteral("a number");
+        return translated("a number");
     if (std::isinf(highest))
-        return QStringLiteral("a number from %1").arg(bound(lowest));
+        return translated("a number from %1").arg(bound(lowest));
     if (std::isinf(lowest))
-        return QStringLiteral("a number up to %1").arg(bound(highest));
-    return QStringLiteral("a number from %1 to %2").arg(bound(lowest), bound(highest));
+        return translated("a number up to %1").arg(bound(highest));
+    return translated("a number from %1 to %2").arg(bound(lowest), bound(highest));
 }
 
 QString olWholeNumbersBetween(int lowest, int highest)
 {
-    return QStringLiteral("a whole number from %1 to %2").arg(lowest).arg(highest);
+    return translated("a whole number from %1 to %2").arg(lowest).arg(highest);
 }

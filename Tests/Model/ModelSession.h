@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Embedded/olEdition.h"
+#include "Embedded/olJournal.h"
+#include "Model/GuardModel.h"
+#include "Model/RandomLines.h"
+#include "Preferences/olPreferencesSession.h"
+#include "olScriptRunner.h"
+
+#include <QFile>
+
+#include <memory>
+#include <stdexcept>
+
+/// What should never have come about.
+class ModelFailure : public std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+/// One load of the plug-in driven by random lines, with everything checked that must hold after each. The lines that
+/// were carried out stand in a script at any moment, so that it is there after a crash too.
+class ModelSession : private olJournalObserver
+{
+public:
+    ModelSession(unsigned seed, const QString &plugin, const QString &script);
+    ~ModelSession() override;
+
+    /// Carries that many lines out and unloads. Throws ModelFailure.
+    void run(int lines);
+
+private:
+    using Values = std::map<std::string, boost::any>;
+
+    void called(const std::string &call) override { m_calls.push_back(call); }
+    [[nodiscard]] bool carryOut(const QByteArray &line);
+    void writeDown(const QByteArray &line);
+    void check(const QByteArray &line, const DrivenModule &module, const Values &before);
+    void checkTypes(const DrivenModule &module) const;
+    void checkOrigins(const DrivenModule &module);
+    [[nodiscard]] static Values valuesOf(const DrivenModule &module);
+
+    RandomLines m_lines;
+    std::vector<DrivenModule> m_modules;
+    std::FILE *m_nowhere;
+    QFile m_script;
+    std::unique_ptr<GuardModel> m_model;
+    olPreferencesSession m_session;
+    std::unique_ptr<olScriptRunner> m_runner;
+    GuardModel::Calls m_calls;
+    std::set<std::string> m_liveBefore;
+    std::map<std::string, std::set<std::string>> m_readBefore;
+};

@@ -1,0 +1,23 @@
+// A file of exported preferences.
+
+#include "Embedded/olValue.h"
+#include "Preferences/olPreferencesFile.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray text(reinterpret_cast<const char *>(data), int(size));
+    const auto read = olPreferencesFile::fromJson(text).settings;
+    // What was understood reads back as the same.
+    const auto again = olPreferencesFile::fromJson(olPreferencesFile::toJson(read)).settings;
+    if (again.size() != read.size())
+        std::abort();
+    for (const auto &[key, value] : read) {
+        const auto found = again.find(key);
+        if (found == again.end() || !olValue::identical(found->second, value))
+            std::abort();
+    }
+    return 0;
+}

@@ -1,0 +1,45 @@
+// A site's file of defaults and locks, held against modules whose keys begin with the name of their type.
+
+#include "Embedded/olValue.h"
+#include "Preferences/olSiteDefaults.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace
+{
+
+boost::any defaultOf(const std::string &key)
+{
+    const std::string type = key.substr(0, key.find(' '));
+    for (const char *json : {"false", "0", "\"\"", "[]", "[0, 0, 0]"}) {
+        const boost::any value = olValue::fromJson(type, QByteArray(json));
+        if (!value.empty())
+            return value;
+    }
+    return {};
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    static const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("site.json"));
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(reinterpret_cast<const char *>(data), qint64(size)) < 0)
+        std::abort();
+    file.close();
+
+    olSiteDefaults site({name});
+    site.read();
+    (void)site.early("int language", "int");
+    site.settle(defaultOf);
+    // A file with a fault counts as a whole as not there.
+    if (!site.takeFaults().isEmpty() && !site.settings().empty())
+        std::abort();
+    return 0;
+}
