@@ -39,7 +39,7 @@ def main():
     for folder in sorted(SDK_FOLDERS):
         for path in sorted((root / "Host" / folder).rglob("*.h")):
             faults += [f"{path.relative_to(root)}: {fault}" for fault in sdk_faults(path, path.read_text())]
-    for top in ("Apps", "Host", "Plugins", "Tests"):
+    for top in ("Apps", "Benchmarks", "Host", "Plugins", "Tests"):
         for path in sorted((root / top).rglob("*.h")):
             if not path.read_text().startswith("#pragma once"):
                 faults.append(f"{path.relative_to(root)}: does not begin with #pragma once")
