@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <unordered_set>
 
 namespace
 {
@@ -62,6 +64,8 @@ bool isDefault(const olPreferencesStore::Key &key, const boost::any &value)
         return offered && olValue::identical(offered->value, value);
     });
 }
+
+bool isStorable(const boost::any &value) { return !olValue::typeName(value).empty(); }
 
 bool hasDefault(const olPreferencesStore::Key &key)
 {
@@ -189,16 +193,22 @@ void olPreferencesSession::newScene()
 Values olPreferencesSession::current() const
 {
     Values values;
-    // Some keys have no default; whatever the record holds beyond the defaults is kept.
-    for (const auto &[key, value] : record().entries())
-        values[{olHome::Record, key}] = value;
+    std::unordered_set<std::string_view> offeredKeys;
     for (const olPreferencesEntry *entry : entries()) {
-        for (const olOfferedDefault &offered : entry->defaults())
-            values[{entry->home(), offered.key}] = entry->value(offered.key);
+        for (const olOfferedDefault &offered : entry->defaults()) {
+            if (entry->home() == olHome::Record)
+                offeredKeys.insert(offered.key);
+            // Most have their default; what does not is asked of all modules, as several may offer one key.
+            const boost::any value = entry->value(offered.key);
+            const olPreferencesStore::Key key{entry->home(), offered.key};
+            if (!olValue::identical(value, offered.value) && isStorable(value) && !isDefault(key, value))
+                values[key] = value;
+        }
     }
-    for (auto value = values.begin(); value != values.end();) {
-        const bool kept = !olValue::typeName(value->second).empty() && !isDefault(value->first, value->second);
-        value = kept ? std::next(value) : values.erase(value);
+    // Some keys have no default; whatever the record holds beyond the defaults is kept.
+    for (const auto &[key, value] : record().entries()) {
+        if (offeredKeys.count(key) == 0 && isStorable(value))
+            values[{olHome::Record, key}] = value;
     }
     return values;
 }
