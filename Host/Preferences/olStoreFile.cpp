@@ -258,7 +258,6 @@ void olStoreFile::changeDatabase(const olStoreRows &rows, const std::vector<olSt
     erase(database, removed);
     renewSeal(database);
     database.run("COMMIT");
-    database.releaseLog();
     tryToUseALog(database);
 }
 
