@@ -50,8 +50,8 @@ private:
 class RecordEntry : public olPreferencesEntry
 {
 public:
-    RecordEntry(olPreferences &module, QString name, QString category)
-        : olPreferencesEntry(std::move(name), std::move(category)), m_module(module)
+    RecordEntry(olPreferences &module, const QString &name, const QString &category)
+        : olPreferencesEntry(name, category), m_module(module)
     {
     }
 
@@ -94,8 +94,8 @@ UnchangedKeys &unchangedOf(olPreferencesEntry &entry) { return static_cast<Recor
 
 } // namespace
 
-olPreferences::olPreferences(QString name, QString category)
-    : m_entry(std::make_unique<RecordEntry>(*this, std::move(name), std::move(category)))
+olPreferences::olPreferences(const QString &name, const QString &category)
+    : m_entry(std::make_unique<RecordEntry>(*this, name, category))
 {
 }
 

@@ -438,7 +438,7 @@ void olPreferencesDialog::filter()
         if (hits.empty() && m_changedOnly->isChecked())
             continue;
         found.push_back(result.entry);
-        m_hits.insert(result.entry, std::move(hits));
+        m_hits.insert(result.entry, hits);
     }
     for (olPageFrame *frame : qAsConst(m_frames))
         frame->marks().setHits({});

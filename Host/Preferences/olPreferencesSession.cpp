@@ -133,6 +133,12 @@ QString olPreferencesSession::loadStore(olStoreUse use)
     return opening.error;
 }
 
+void olPreferencesSession::stop()
+{
+    m_plugin.unload();
+    m_store.close();
+}
+
 QString olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
 
 void olPreferencesSession::fillDefaults()
@@ -198,10 +204,12 @@ Values olPreferencesSession::current() const
         for (const olOfferedDefault &offered : entry->defaults()) {
             if (entry->home() == olHome::Record)
                 offeredKeys.insert(offered.key);
-            // Most have their default; what does not is asked of all modules, as several may offer one key.
             const boost::any value = entry->value(offered.key);
             const olPreferencesStore::Key key{entry->home(), offered.key};
-            if (!olValue::identical(value, offered.value) && isStorable(value) && !isDefault(key, value))
+            // Most have their module's default; only for the others all modules are asked, as several may offer a key.
+            const bool isAtDefault = olValue::identical(value, offered.value) || isDefault(key, value);
+            // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
+            if (isStorable(value) && (!isAtDefault || isStored(key, value)))
                 values[key] = value;
         }
     }
@@ -211,6 +219,12 @@ Values olPreferencesSession::current() const
             values[{olHome::Record, key}] = value;
     }
     return values;
+}
+
+bool olPreferencesSession::isStored(const olPreferencesStore::Key &key, const boost::any &value) const
+{
+    const auto stored = m_stored.find(key);
+    return stored != m_stored.end() && olValue::identical(stored->second, value);
 }
 
 bool olPreferencesSession::isLocked(const std::string &key) const { return lockReason(key).has_value(); }
@@ -230,10 +244,9 @@ Values olPreferencesSession::toBeKept() const
     return kept;
 }
 
-olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored) const
+olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored, const Values &kept) const
 {
     Changes changes;
-    const Values kept = toBeKept();
     for (const auto &[key, value] : kept) {
         const auto found = stored.find(key);
         if (found == stored.end() || !olValue::identical(found->second, value))
@@ -250,12 +263,12 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
 QString olPreferencesSession::save()
 {
     restoreLocked();
-    const Changes changes = changesTo(m_stored);
+    const Values kept = toBeKept();
+    const Changes changes = changesTo(m_stored, kept);
     QString error = m_store.save(changes.changed, changes.removed);
     if (!error.isEmpty() && m_store.isBroken())
-        error = saveIntoMended(error);
-    if (error.isEmpty()) {
-        const Values kept = toBeKept();
+        error = saveIntoMended(error, kept);
+    if (error.isEmpty() && !(changes.changed.empty() && changes.removed.empty())) {
         m_stored.clear();
         for (const auto &[key, value] : kept)
             m_stored[key] = olValue::adopted(value);
@@ -264,13 +277,13 @@ QString olPreferencesSession::save()
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the mended file.
-QString olPreferencesSession::saveIntoMended(const QString &error)
+QString olPreferencesSession::saveIntoMended(const QString &error, const Values &kept)
 {
     Values mended;
     const olStoreOpening opening = m_store.open(mended);
     if (!opening.error.isEmpty())
         return error;
-    const Changes changes = changesTo(mended);
+    const Changes changes = changesTo(mended, kept);
     QString newError = m_store.save(changes.changed, changes.removed);
     if (newError.isEmpty() && !opening.notice.isEmpty())
         m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",

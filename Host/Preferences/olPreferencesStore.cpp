@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 
 #include <optional>
+#include <utility>
 
 namespace
 {
@@ -197,6 +198,7 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
     for (const auto &[key, value] : changed)
         put.rows[rowKey(key)] = {olValue::typeName(value), olValue::toJson(value)};
     std::vector<olStoreRows::Key> gone;
+    gone.reserve(removed.size());
     for (const Key &key : removed)
         gone.push_back(rowKey(key));
 
@@ -208,11 +210,23 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
             QFile::remove(copy().name());
         store().change(put, gone, m_hadRows);
         m_hadRows = true;
+        m_hasLog = true;
         return {};
     } catch (const olStoreFault &fault) {
         m_isBroken = fault.kind == Kind::Damaged;
         return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
             .arg(m_file, fault.reason);
+    }
+}
+
+void olPreferencesStore::close()
+{
+    if (!std::exchange(m_hasLog, false))
+        return;
+    try {
+        // A log is only worked into what was proved sound.
+        (void)store().read(wasStore());
+    } catch (const olStoreFault &) {
     }
 }
 

@@ -259,6 +259,7 @@ void olStoreFile::changeDatabase(const olStoreRows &rows, const std::vector<olSt
     renewSeal(database);
     database.run("COMMIT");
     tryToUseALog(database);
+    // The log stays behind: working it into the file would have each save wait for the disk four times.
 }
 
 void olStoreFile::replace(const olStoreRows &rows) const { putInPlace(buildBeside(rows)); }

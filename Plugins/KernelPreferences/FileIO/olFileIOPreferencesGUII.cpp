@@ -41,8 +41,8 @@ void takeFrom(const SearchPathRows &rows, Paths &paths) { paths = rows.page->sea
 } // namespace
 
 olFileIOPreferencesGUII::olFileIOPreferencesGUII()
-    : olPreferences(QCoreApplication::translate("olPreferences", "FileIO"),
-                    QCoreApplication::translate("olPreferences", "FileIO")),
+    : olModule(QCoreApplication::translate("olPreferences", "FileIO"),
+               QCoreApplication::translate("olPreferences", "FileIO")),
       m_page(std::make_unique<olFileIOPreferencesGUIW>()),
       m_settings(*m_page)
 {

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olFileIOPreferencesGUIW;
 
 /// What holds for every import, whatever the format, and where textures are searched.
-class olFileIOPreferencesGUII : public QObject, public olPreferences
+class olFileIOPreferencesGUII : public olModule
 {
     Q_OBJECT
 

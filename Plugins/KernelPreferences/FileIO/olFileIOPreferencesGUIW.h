@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 #include <string>
@@ -12,7 +12,7 @@ class olFileIOPreferencesGUI;
 }
 
 /// The page of the settings that hold for every import, and of the directories searched for textures.
-class olFileIOPreferencesGUIW : public QWidget
+class olFileIOPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -26,7 +26,7 @@ olFileTypePreferences::olFileTypePreferences(const char *displayName, ShowGroups
 
 olFileTypePreferences::olFileTypePreferences(const char *displayName, ShowGroups showGroups,
                                              std::unique_ptr<olImportSettings> import)
-    : olPreferences(QString::fromLatin1(displayName), QCoreApplication::translate("olPreferences", "FileIO")),
+    : olModule(QString::fromLatin1(displayName), QCoreApplication::translate("olPreferences", "FileIO")),
       m_page(std::make_unique<olFileTypePreferencesGUIW>()),
       m_import(std::move(import)),
       m_settings(*m_page)

@@ -1,9 +1,7 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
@@ -12,7 +10,7 @@ struct olImportSettings;
 
 /// How the files of one CAD format are imported. Each format is a class of its own with a page of its own; what they
 /// have in common stands here.
-class olFileTypePreferences : public QObject, public olPreferences
+class olFileTypePreferences : public olModule
 {
     Q_OBJECT
 

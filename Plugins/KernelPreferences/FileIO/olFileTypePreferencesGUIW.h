@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olFileTypePreferencesGUI;
 }
 
 /// The page of a CAD format. At first it has what all formats have; the groups of single ones are hidden.
-class olFileTypePreferencesGUIW : public QWidget
+class olFileTypePreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

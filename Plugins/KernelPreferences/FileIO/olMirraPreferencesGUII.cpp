@@ -38,7 +38,7 @@ std::string locationOption(const QString &path)
 } // namespace
 
 olMirraPreferencesGUII::olMirraPreferencesGUII()
-    : olPreferences(QLatin1String("Mirra"), QCoreApplication::translate("olPreferences", "FileIO")),
+    : olModule(QLatin1String("Mirra"), QCoreApplication::translate("olPreferences", "FileIO")),
       m_page(std::make_unique<olMirraPreferencesGUIW>()),
       m_settings(*m_page)
 {

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olMirraPreferencesGUIW;
 
 /// The options of the Mirra scene loader.
-class olMirraPreferencesGUII : public QObject, public olPreferences
+class olMirraPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olMirraPreferencesGUI;
 }
 
 /// The page of the Mirra settings.
-class olMirraPreferencesGUIW : public QWidget
+class olMirraPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 
 olOsbPreferencesGUII::olOsbPreferencesGUII()
-    : olPreferences(QLatin1String("OSB / OPB"), QCoreApplication::translate("olPreferences", "FileIO")),
+    : olModule(QLatin1String("OSB / OPB"), QCoreApplication::translate("olPreferences", "FileIO")),
       m_page(std::make_unique<olOsbPreferencesGUIW>())
 {
     addPreferencesGUI(m_page.get());

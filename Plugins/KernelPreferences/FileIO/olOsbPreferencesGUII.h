@@ -1,15 +1,13 @@
 #pragma once
 
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
+#include "Framework/olModule.h"
 
 #include <memory>
 
 class olOsbPreferencesGUIW;
 
 /// The native scene format's place in the host's list. It has no settings.
-class olOsbPreferencesGUII : public QObject, public olPreferences
+class olOsbPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olOsbPreferencesGUI;
 }
 
 /// The page of the native scene format, which tells that there is nothing to set.
-class olOsbPreferencesGUIW : public QWidget
+class olOsbPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

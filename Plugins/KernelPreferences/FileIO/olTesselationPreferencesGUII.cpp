@@ -30,8 +30,8 @@ void takeFrom(const QualityRows &rows, Tolerances &tolerances) { tolerances = ro
 } // namespace
 
 olTesselationPreferencesGUII::olTesselationPreferencesGUII()
-    : olPreferences(QCoreApplication::translate("olPreferences", "Tesselation"),
-                    QCoreApplication::translate("olPreferences", "Import")),
+    : olModule(QCoreApplication::translate("olPreferences", "Tesselation"),
+               QCoreApplication::translate("olPreferences", "Import")),
       m_page(std::make_unique<olTesselationPreferencesGUIW>()),
       m_settings(*m_page)
 {

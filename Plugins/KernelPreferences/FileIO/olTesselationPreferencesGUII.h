@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olTesselationPreferencesGUIW;
 
 /// How the host's geometry optimizer tessellates imported surfaces anew.
-class olTesselationPreferencesGUII : public QObject, public olPreferences
+class olTesselationPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 #include <vector>
@@ -13,7 +13,7 @@ class olTesselationPreferencesGUI;
 }
 
 /// The page of the tessellation settings, with the list of qualities that is edited in place.
-class olTesselationPreferencesGUIW : public QWidget
+class olTesselationPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -34,7 +34,7 @@ std::string readerOptions()
 } // namespace
 
 olWrlPreferencesGUII::olWrlPreferencesGUII()
-    : olPreferences(QLatin1String("WRL"), QCoreApplication::translate("olPreferences", "FileIO")),
+    : olModule(QLatin1String("WRL"), QCoreApplication::translate("olPreferences", "FileIO")),
       m_page(std::make_unique<olWrlPreferencesGUIW>()),
       m_settings(*m_page)
 {

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olWrlPreferencesGUIW;
 
 /// The options of the VRML reader and writer.
-class olWrlPreferencesGUII : public QObject, public olPreferences
+class olWrlPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olWrlPreferencesGUI;
 }
 
 /// The page of the VRML settings.
-class olWrlPreferencesGUIW : public QWidget
+class olWrlPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QTableWidget>
 
 namespace
 {
@@ -54,21 +55,22 @@ private:
 
 } // namespace
 
-olBackgroundTable::olBackgroundTable(QWidget *parent) : QTableWidget(0, 2, parent)
+void olBackgroundTable::setUp()
 {
-    setHorizontalHeaderLabels({tr("Color"), tr("Position")});
-    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setSelectionBehavior(SelectRows);
-    setItemDelegateForColumn(ColorColumn, new SwatchDelegate(this)); // owned by the table
+    m_table.setColumnCount(2);
+    m_table.setHorizontalHeaderLabels({tr("Color"), tr("Position")});
+    m_table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table.setItemDelegateForColumn(ColorColumn, new SwatchDelegate(&m_table)); // owned by the table
 }
 
 void olBackgroundTable::setColors(const std::vector<osg::Color3f> &colors)
 {
-    setRowCount(int(colors.size()));
-    for (int row = 0; row < rowCount(); ++row) {
+    m_table.setRowCount(int(colors.size()));
+    for (int row = 0; row < m_table.rowCount(); ++row) {
         setColor(row, colors[size_t(row)]);
-        if (!item(row, PositionColumn))
+        if (!m_table.item(row, PositionColumn))
             setText(row, PositionColumn, positionText(0.0f));
     }
 }
@@ -76,14 +78,14 @@ void olBackgroundTable::setColors(const std::vector<osg::Color3f> &colors)
 std::vector<osg::Color3f> olBackgroundTable::colors() const
 {
     std::vector<osg::Color3f> colors;
-    for (int row = 0; row < rowCount(); ++row)
+    for (int row = 0; row < m_table.rowCount(); ++row)
         colors.push_back(color(row));
     return colors;
 }
 
 void olBackgroundTable::setPositions(const std::vector<float> &positions)
 {
-    for (int row = 0; row < rowCount(); ++row) {
+    for (int row = 0; row < m_table.rowCount(); ++row) {
         const float position = size_t(row) < positions.size() ? positions[size_t(row)] : 0.0f;
         setText(row, PositionColumn, positionText(position));
     }
@@ -92,14 +94,14 @@ void olBackgroundTable::setPositions(const std::vector<float> &positions)
 std::vector<float> olBackgroundTable::positions() const
 {
     std::vector<float> positions;
-    for (int row = 0; row < rowCount(); ++row)
+    for (int row = 0; row < m_table.rowCount(); ++row)
         positions.push_back(text(row, PositionColumn).toFloat());
     return positions;
 }
 
 std::optional<int> olBackgroundTable::selectedRow() const
 {
-    const QList<QTableWidgetItem *> selected = selectedItems();
+    const QList<QTableWidgetItem *> selected = m_table.selectedItems();
     return selected.isEmpty() ? std::nullopt : std::optional<int>(selected.first()->row());
 }
 
@@ -110,8 +112,8 @@ void olBackgroundTable::setColor(int row, const osg::Color3f &color) { setText(r
 void olBackgroundTable::addRow()
 {
     const auto selected = selectedRow();
-    const int row = selected ? *selected + 1 : rowCount();
-    insertRow(row);
+    const int row = selected ? *selected + 1 : m_table.rowCount();
+    m_table.insertRow(row);
     setText(row, ColorColumn, QString::fromLatin1("0.0 0.0 0.0"));
     setText(row, PositionColumn, QString::fromLatin1("0.0"));
 }
@@ -119,19 +121,19 @@ void olBackgroundTable::addRow()
 void olBackgroundTable::deleteRow()
 {
     if (const auto row = selectedRow())
-        removeRow(*row);
+        m_table.removeRow(*row);
 }
 
 QString olBackgroundTable::text(int row, int column) const
 {
-    const QTableWidgetItem *cell = item(row, column);
+    const QTableWidgetItem *cell = m_table.item(row, column);
     return cell ? cell->text() : QString();
 }
 
 void olBackgroundTable::setText(int row, int column, const QString &text)
 {
-    if (QTableWidgetItem *cell = item(row, column))
+    if (QTableWidgetItem *cell = m_table.item(row, column))
         cell->setText(text);
     else
-        setItem(row, column, new QTableWidgetItem(text)); // owned by the table
+        m_table.setItem(row, column, new QTableWidgetItem(text)); // owned by the table
 }

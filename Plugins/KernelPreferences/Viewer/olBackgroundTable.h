@@ -2,18 +2,24 @@
 
 #include <OpenSG/OSGColor.h>
 
-#include <QTableWidget>
+#include <QCoreApplication>
 
 #include <optional>
 #include <vector>
 
-/// The table of the background gradient: a row is a colour and its position, both as texts that can be typed over.
-class olBackgroundTable : public QTableWidget
+class QTableWidget;
+
+/// The background gradient in a table of a page: a row is a colour and its position, both as texts that can be typed
+/// over. Made where it is needed; all that it knows stands in the table.
+class olBackgroundTable
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(olBackgroundTable)
 
 public:
-    explicit olBackgroundTable(QWidget *parent = nullptr);
+    explicit olBackgroundTable(QTableWidget &table) : m_table(table) {}
+
+    /// Gives the table its columns, once.
+    void setUp();
 
     /// One row a colour. Rows that stay keep their position, new ones get 0.
     void setColors(const std::vector<osg::Color3f> &colors);
@@ -38,30 +44,32 @@ public:
 private:
     [[nodiscard]] QString text(int row, int column) const;
     void setText(int row, int column, const QString &text);
+
+    QTableWidget &m_table;
 };
 
 // Both settings of the gradient stand in the one table, each in its column.
 
 struct olBackgroundColors {
-    olBackgroundTable *widget;
+    QTableWidget *widget;
 };
 inline void showOn(const olBackgroundColors &column, const std::vector<osg::Color3f> &colors)
 {
-    column.widget->setColors(colors);
+    olBackgroundTable(*column.widget).setColors(colors);
 }
 inline void takeFrom(const olBackgroundColors &column, std::vector<osg::Color3f> &colors)
 {
-    colors = column.widget->colors();
+    colors = olBackgroundTable(*column.widget).colors();
 }
 
 struct olBackgroundPositions {
-    olBackgroundTable *widget;
+    QTableWidget *widget;
 };
 inline void showOn(const olBackgroundPositions &column, const std::vector<float> &positions)
 {
-    column.widget->setPositions(positions);
+    olBackgroundTable(*column.widget).setPositions(positions);
 }
 inline void takeFrom(const olBackgroundPositions &column, std::vector<float> &positions)
 {
-    positions = column.widget->positions();
+    positions = olBackgroundTable(*column.widget).positions();
 }

@@ -21,7 +21,7 @@ constexpr int allViews = -1;
 } // namespace
 
 olCameraPreferencesGUII::olCameraPreferencesGUII()
-    : olPreferences(tr("Camera"), QString()), m_page(std::make_unique<olCameraPreferencesGUIW>()), m_settings(*m_page)
+    : olModule(tr("Camera"), QString()), m_page(std::make_unique<olCameraPreferencesGUIW>()), m_settings(*m_page)
 {
     const auto &form = m_page->form();
     m_settings.add(fov, form.fieldOfView);

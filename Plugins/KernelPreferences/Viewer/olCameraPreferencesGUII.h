@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olCameraPreferencesGUIW;
 
 /// The field of view, the stereo parameters and the powerwall of the render view.
-class olCameraPreferencesGUII : public QObject, public olPreferences
+class olCameraPreferencesGUII : public olModule
 {
     Q_OBJECT
 

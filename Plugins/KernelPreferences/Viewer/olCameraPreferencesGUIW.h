@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olCameraPreferencesGUI;
 }
 
 /// The page of the camera settings.
-class olCameraPreferencesGUIW : public QWidget
+class olCameraPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -57,7 +57,7 @@ QString name() { return QCoreApplication::translate("olPreferences", "Devices");
 } // namespace
 
 olDevicesPreferencesGUII::olDevicesPreferencesGUII()
-    : olPreferences(name(), name()), m_page(std::make_unique<olDevicesPreferencesGUIW>()), m_settings(*m_page)
+    : olModule(name(), name()), m_page(std::make_unique<olDevicesPreferencesGUIW>()), m_settings(*m_page)
 {
     const auto &form = m_page->form();
     m_settings.add(searchSpacemouse, olTrueInEssentials{form.searchSpacemouse});

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olDevicesPreferencesGUIW;
 
 /// The devices for navigation beside mouse and keyboard: a 3D mouse and a joystick.
-class olDevicesPreferencesGUII : public QObject, public olPreferences
+class olDevicesPreferencesGUII : public olModule
 {
     Q_OBJECT
 

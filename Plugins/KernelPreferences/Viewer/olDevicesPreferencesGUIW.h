@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olDevicesPreferencesGUI;
 }
 
 /// The page of the device settings.
-class olDevicesPreferencesGUIW : public QWidget
+class olDevicesPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

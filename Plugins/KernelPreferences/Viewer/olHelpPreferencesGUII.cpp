@@ -30,7 +30,7 @@ void updateToolclips(int popupHelp)
 } // namespace
 
 olHelpPreferencesGUII::olHelpPreferencesGUII()
-    : olPreferences(tr("Help"), QString()), m_page(std::make_unique<olHelpPreferencesGUIW>()), m_settings(*m_page)
+    : olModule(tr("Help"), QString()), m_page(std::make_unique<olHelpPreferencesGUIW>()), m_settings(*m_page)
 {
     const auto &form = m_page->form();
     m_settings.add(location, form.location);

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olHelpPreferencesGUIW;
 
 /// Where the help comes from, and the kind of help that pops up over controls.
-class olHelpPreferencesGUII : public QObject, public olPreferences
+class olHelpPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olHelpPreferencesGUI;
 }
 
 /// The page of the help settings.
-class olHelpPreferencesGUIW : public QWidget
+class olHelpPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

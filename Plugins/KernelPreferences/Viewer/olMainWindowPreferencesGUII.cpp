@@ -28,7 +28,7 @@ int displayLanguage(int stored) { return stored >= 1 && stored <= 3 ? stored : e
 } // namespace
 
 olMainWindowPreferencesGUII::olMainWindowPreferencesGUII()
-    : olPreferences(tr("MainWindow"), QString()),
+    : olModule(tr("MainWindow"), QString()),
       m_page(std::make_unique<olMainWindowPreferencesGUIW>()),
       m_settings(*m_page)
 {

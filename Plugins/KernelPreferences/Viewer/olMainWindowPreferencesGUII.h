@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olMainWindowPreferencesGUIW;
 
 /// The main window: frame rate, opacity, docking, texts of tool buttons, and the language of the user interface.
-class olMainWindowPreferencesGUII : public QObject, public olPreferences
+class olMainWindowPreferencesGUII : public olModule
 {
     Q_OBJECT
 

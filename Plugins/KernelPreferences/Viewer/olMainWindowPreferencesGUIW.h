@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olMainWindowPreferencesGUI;
 }
 
 /// The page of the main window settings.
-class olMainWindowPreferencesGUIW : public QWidget
+class olMainWindowPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -27,9 +27,7 @@ const olSetting<bool> selectionInFront{"RenderOptions selection in front", false
 } // namespace
 
 olMarkerPreferencesGUII::olMarkerPreferencesGUII()
-    : olPreferences(tr("Selection"), QString()),
-      m_page(std::make_unique<olMarkerPreferencesGUIW>()),
-      m_settings(*m_page)
+    : olModule(tr("Selection"), QString()), m_page(std::make_unique<olMarkerPreferencesGUIW>()), m_settings(*m_page)
 {
     const auto &form = m_page->form();
     m_settings.add(markerSize, form.markerSize);

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olMarkerPreferencesGUIW;
 
 /// How the render view marks what is selected, and what a click there selects.
-class olMarkerPreferencesGUII : public QObject, public olPreferences
+class olMarkerPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olMarkerPreferencesGUI;
 }
 
 /// The page of the selection settings.
-class olMarkerPreferencesGUIW : public QWidget
+class olMarkerPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

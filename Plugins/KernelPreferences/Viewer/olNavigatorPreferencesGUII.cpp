@@ -42,9 +42,7 @@ void applyInversion(const olSetting<bool> &setting, void (*invert)(bool))
 } // namespace
 
 olNavigatorPreferencesGUII::olNavigatorPreferencesGUII()
-    : olPreferences(tr("Navigator"), QString()),
-      m_page(std::make_unique<olNavigatorPreferencesGUIW>()),
-      m_settings(*m_page)
+    : olModule(tr("Navigator"), QString()), m_page(std::make_unique<olNavigatorPreferencesGUIW>()), m_settings(*m_page)
 {
     const auto &form = m_page->form();
     m_settings.add(navigationMode, byData(form.navigationMode));

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olNavigatorPreferencesGUIW;
 
 /// How the mouse moves the camera in the render view.
-class olNavigatorPreferencesGUII : public QObject, public olPreferences
+class olNavigatorPreferencesGUII : public olModule
 {
     Q_OBJECT
 

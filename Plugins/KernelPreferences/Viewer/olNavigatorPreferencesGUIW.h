@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olNavigatorPreferencesGUI;
 }
 
 /// The page of the navigation settings.
-class olNavigatorPreferencesGUIW : public QWidget
+class olNavigatorPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -6,6 +6,7 @@
 #include "Kernel/olOSGWidget.h"
 #include "Kernel/olScenegraph.h"
 #include "Utilities/olPlatform.h"
+#include "Viewer/olBackgroundTable.h"
 #include "Viewer/olRenderOptionsPreferencesGUIW.h"
 #include "Widgets/exCursorProgress.h"
 #include "ui_olRenderOptionsPreferencesGUI.h"
@@ -145,7 +146,7 @@ constexpr bool zWriteFallback = true;
 } // namespace
 
 olRenderOptionsPreferencesGUII::olRenderOptionsPreferencesGUII()
-    : olPreferences(tr("Render Options"), QString()),
+    : olModule(tr("Render Options"), QString()),
       m_page(std::make_unique<olRenderOptionsPreferencesGUIW>()),
       m_settings(*m_page)
 {

@@ -1,9 +1,7 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
@@ -12,7 +10,7 @@ class olRenderOptionsPreferencesGUIW;
 
 /// How the real-time view draws: antialiasing and its presets, background, transparency, lighting, buffers, clipping,
 /// raytracing, size of the picture, and what is shown beside the scene.
-class olRenderOptionsPreferencesGUII : public QObject, public olPreferences
+class olRenderOptionsPreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #include "Framework/olValidators.h"
 #include "Kernel/olController.h"
 #include "Utilities/olPlatform.h"
+#include "Viewer/olBackgroundTable.h"
 #include "Widgets/QOLColorDialog.h"
 #include "ui_olRenderOptionsPreferencesGUI.h"
 
@@ -36,19 +37,19 @@ olRenderOptionsPreferencesGUIW::olRenderOptionsPreferencesGUIW()
     hideWithheldControls();
     adaptToEdition();
     scaleSizes();
-    connectBackground();
+    setUpBackground();
     alignFields(*this);
 }
 
 olRenderOptionsPreferencesGUIW::~olRenderOptionsPreferencesGUIW() = default;
 
-void olRenderOptionsPreferencesGUIW::clickedAdd() { m_form->backgroundTable->addRow(); }
+void olRenderOptionsPreferencesGUIW::clickedAdd() { olBackgroundTable(*m_form->backgroundTable).addRow(); }
 
-void olRenderOptionsPreferencesGUIW::clickedDelete() { m_form->backgroundTable->deleteRow(); }
+void olRenderOptionsPreferencesGUIW::clickedDelete() { olBackgroundTable(*m_form->backgroundTable).deleteRow(); }
 
 void olRenderOptionsPreferencesGUIW::clickedChooseColor()
 {
-    const olBackgroundTable &table = *m_form->backgroundTable;
+    const olBackgroundTable table(*m_form->backgroundTable);
     if (const auto row = table.selectedRow()) {
         colorDialog().setColor(table.color(*row));
         colorDialog().open();
@@ -60,8 +61,9 @@ void olRenderOptionsPreferencesGUIW::acceptedChooseColor()
     colorDialog().hide();
     const osg::Color3f color = colorDialog().getColor();
     // The selection may have moved on while the dialog was open; what is selected now is what the user sees.
-    if (const auto row = m_form->backgroundTable->selectedRow())
-        m_form->backgroundTable->setColor(*row, color);
+    olBackgroundTable table(*m_form->backgroundTable);
+    if (const auto row = table.selectedRow())
+        table.setColor(*row, color);
 }
 
 void olRenderOptionsPreferencesGUIW::rejectedChooseColor() { colorDialog().hide(); }
@@ -130,8 +132,9 @@ void olRenderOptionsPreferencesGUIW::scaleSizes()
     m_form->fixedHeight->setMinimumWidth(width);
 }
 
-void olRenderOptionsPreferencesGUIW::connectBackground()
+void olRenderOptionsPreferencesGUIW::setUpBackground()
 {
+    olBackgroundTable(*m_form->backgroundTable).setUp();
     connect(m_form->addColor, SIGNAL(clicked()), this, SLOT(clickedAdd()));
     connect(m_form->deleteColor, SIGNAL(clicked()), this, SLOT(clickedDelete()));
     connect(m_form->chooseColor, SIGNAL(clicked()), this, SLOT(clickedChooseColor()));

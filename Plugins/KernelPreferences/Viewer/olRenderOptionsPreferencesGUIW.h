@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -12,7 +12,7 @@ class olRenderOptionsPreferencesGUI;
 }
 
 /// The page of the render options, spread over tabs. Which of its controls are offered depends on the edition.
-class olRenderOptionsPreferencesGUIW : public QWidget
+class olRenderOptionsPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private:
     void hideWithheldControls();
     void adaptToEdition();
     void scaleSizes();
-    void connectBackground();
+    void setUpBackground();
     QOLColorDialog &colorDialog();
 
     std::unique_ptr<Ui::olRenderOptionsPreferencesGUI> m_form;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -10,7 +10,7 @@ class olVirtualRealityPreferencesGUI;
 }
 
 /// The page of the immersive sessions' and the headset's settings. Only what the chosen render mode uses can be edited.
-class olVirtualRealityPreferencesGUIW : public QWidget
+class olVirtualRealityPreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

@@ -45,7 +45,7 @@ void startServer()
 } // namespace
 
 olWebInterfacePreferencesGUII::olWebInterfacePreferencesGUII()
-    : olPreferences(tr("WebInterface"), QString()),
+    : olModule(tr("WebInterface"), QString()),
       m_page(std::make_unique<olWebInterfacePreferencesGUIW>()),
       m_settings(*m_page),
       m_disabledByEnvironment(isDisabledByEnvironment())

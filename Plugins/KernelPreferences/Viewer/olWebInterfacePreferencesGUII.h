@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Framework/olModule.h"
 #include "Framework/olSettingList.h"
-#include "Kernel/olPreferences.h"
-
-#include <QObject>
 
 #include <memory>
 
 class olWebInterfacePreferencesGUIW;
 
 /// The host's built-in web server: whether it runs, where it listens and whom it answers.
-class olWebInterfacePreferencesGUII : public QObject, public olPreferences
+class olWebInterfacePreferencesGUII : public olModule
 {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class olWebInterfacePreferencesGUI;
 
 /// The page of the web server's settings. Switching the server on must be confirmed, and the two ways of restricting
 /// it exclude each other.
-class olWebInterfacePreferencesGUIW : public QWidget
+class olWebInterfacePreferencesGUIW : public olPageWidget
 {
     Q_OBJECT
 

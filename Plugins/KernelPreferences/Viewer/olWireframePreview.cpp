@@ -13,7 +13,7 @@ const QColor right(110, 110, 110);
 
 } // namespace
 
-olWireframePreview::olWireframePreview(QWidget *parent) : QWidget(parent)
+olWireframePreview::olWireframePreview(QWidget *parent) : olPageWidget(parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

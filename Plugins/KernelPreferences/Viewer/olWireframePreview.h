@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QWidget>
+#include "Framework/olPageWidget.h"
 
 /// Shows on a page how a wireframe of a colour will look in the view.
-class olWireframePreview : public QWidget
+class olWireframePreview : public olPageWidget
 {
     Q_OBJECT
 

@@ -41,7 +41,7 @@ public:
     void setDefaults(olMessage &, bool flag) override
     {
         told.emplace_back("defaults");
-        getData().set(m_key, 3, flag);
+        getData().set(m_key, defaultValue, flag);
     }
     void updateGUI() override
     {
@@ -74,6 +74,7 @@ public:
     QSpinBox page;
     std::vector<std::string> told;
     bool appliedChange = false;
+    int defaultValue = 3;
 
 private:
     std::string m_key;
@@ -136,6 +137,25 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
     EXPECT_EQ(session->confirm(shown), QString());
     nextRun();
     EXPECT_TRUE(olPreferences::getData().get("Counter").empty());
+}
+
+TEST_F(Session, KeepsAChoiceThatIsADefaultInTheEditionOfThisRun)
+{
+    session->start();
+    module.page.setValue(7);
+    EXPECT_EQ(session->confirm(shown), QString());
+
+    CountingModule other("Other");
+    module.defaultValue = 7;
+    nextRun();
+    session->start();
+    other.page.setValue(8);
+    EXPECT_EQ(session->confirm({olPreferencesRegistry::the().find(QStringLiteral("Other"))}), QString());
+
+    module.defaultValue = 3;
+    nextRun();
+    session->start();
+    EXPECT_EQ(module.value(), 7);
 }
 
 TEST_F(Session, AConfirmationWithoutAnEditChangesNothing)

@@ -1,0 +1,3 @@
+#include "Framework/olModule.h"
+
+olModule::~olModule() = default;

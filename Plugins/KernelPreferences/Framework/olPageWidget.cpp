@@ -1,0 +1,3 @@
+#include "Framework/olPageWidget.h"
+
+olPageWidget::~olPageWidget() = default;
