@@ -1,12 +1,13 @@
 # What run.sh and test.sh share: to be sourced in the root of the repository.
 
-# Debian's packages, once: what is installed already is not asked for again.
+# Debian's packages, once: what is installed already is not asked for again. Those below the line "# only for NAME" are
+# left out unless the name is given.
 install_packages() {
     local missing=()
     local package
     while read -r package; do
         dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' || missing+=("$package")
-    done < <(grep -vE '^\s*(#|$)' tools/packages.txt)
+    done < <(awk -v wanted="${1:-}" '/^# only for /{ skipped = $4 != wanted } !skipped && !/^\s*(#|$)/' tools/packages.txt)
     [ "${#missing[@]}" -eq 0 ] && return
 
     local root=()

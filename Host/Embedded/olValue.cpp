@@ -187,6 +187,25 @@ bool same(const std::vector<Color> &left, const std::vector<Color> &right)
                       [](const Color &a, const Color &b) { return same(a, b); });
 }
 
+// To the last bit, as the texts of the values tell them apart: the zeros by their signs, and what is no number is
+// itself.
+template <class T> bool exact(const T &left, const T &right) { return left == right; }
+template <class T> bool exactNumber(T left, T right)
+{
+    return left == right ? std::signbit(left) == std::signbit(right) : std::isnan(left) && std::isnan(right);
+}
+bool exact(float left, float right) { return exactNumber(left, right); }
+bool exact(double left, double right) { return exactNumber(left, right); }
+bool exact(const Color &left, const Color &right)
+{
+    return exact(left.red(), right.red()) && exact(left.green(), right.green()) && exact(left.blue(), right.blue());
+}
+template <class T> bool exact(const std::vector<T> &left, const std::vector<T> &right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const T &a, const T &b) { return exact(a, b); });
+}
+
 /// What can be done with a value of one type.
 struct Type {
     const char *name;
@@ -195,6 +214,7 @@ struct Type {
     std::string (*toJson)(const boost::any &);
     boost::any (*fromJson)(olJsonReader &);
     bool (*equal)(const boost::any &, const boost::any &);
+    bool (*identical)(const boost::any &, const boost::any &);
     boost::any (*adopted)(const boost::any &);
 };
 
@@ -208,6 +228,9 @@ template <class T> Type type(const char *name, const char *expectation)
             },
             [](const boost::any &left, const boost::any &right) {
                 return same(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
+            },
+            [](const boost::any &left, const boost::any &right) {
+                return exact(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
             },
             // A copy of the holder would keep the virtual table of the library that made it.
             [](const boost::any &value) { return boost::any(T(boost::any_cast<const T &>(value))); }};
@@ -297,7 +320,8 @@ bool equal(const boost::any &left, const boost::any &right)
 
 bool identical(const boost::any &left, const boost::any &right)
 {
-    return typeOf(left) == typeOf(right) && toJson(left) == toJson(right);
+    const Type *type = typeOf(left);
+    return type == typeOf(right) && (!type || type->identical(left, right));
 }
 
 boost::any adopted(const boost::any &value)

@@ -6,11 +6,45 @@
 #include <QObject>
 #include <boost/core/demangle.hpp>
 
-#include <set>
+#include <map>
+#include <string>
+#include <string_view>
 #include <typeinfo>
 
 namespace
 {
+
+/// The keys that a module reported unchanged. Every confirmation reports them all and every apply forgets them, so the
+/// texts stay and only what they mean is forgotten.
+class UnchangedKeys
+{
+public:
+    void insert(std::string_view key)
+    {
+        const auto known = m_reported.find(key);
+        if (known == m_reported.end())
+            m_reported.emplace(key, m_round);
+        else
+            known->second = m_round;
+    }
+    void erase(std::string_view key)
+    {
+        const auto known = m_reported.find(key);
+        if (known != m_reported.end())
+            known->second = 0;
+    }
+    [[nodiscard]] bool contains(std::string_view key) const
+    {
+        const auto known = m_reported.find(key);
+        return known != m_reported.end() && known->second == m_round;
+    }
+    void clear() { ++m_round; }
+
+private:
+    /// With the round in which each was reported last.
+    std::map<std::string, std::size_t, std::less<>> m_reported;
+    std::size_t m_round = 1;
+};
 
 /// A module whose values live in the shared record.
 class RecordEntry : public olPreferencesEntry
@@ -45,7 +79,7 @@ public:
             unchanged.insert(key);
     }
 
-    std::set<std::string, std::less<>> unchanged;
+    UnchangedKeys unchanged;
 
 protected:
     void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
@@ -56,10 +90,7 @@ private:
     olPreferences &m_module;
 };
 
-std::set<std::string, std::less<>> &unchangedOf(olPreferencesEntry &entry)
-{
-    return static_cast<RecordEntry &>(entry).unchanged;
-}
+UnchangedKeys &unchangedOf(olPreferencesEntry &entry) { return static_cast<RecordEntry &>(entry).unchanged; }
 
 } // namespace
 
@@ -82,6 +113,6 @@ void olPreferences::subPreferencesGUI(QWidget *page) { m_entry->subPage(page); }
 
 void olPreferences::addUnchanged(const char *key) { unchangedOf(*m_entry).insert(key); }
 
-bool olPreferences::isChanged(const char *key) const { return unchangedOf(*m_entry).count(key) == 0; }
+bool olPreferences::isChanged(const char *key) const { return !unchangedOf(*m_entry).contains(key); }
 
 olMessage &olPreferences::getData() { return olPreferencesRegistry::the().record(); }

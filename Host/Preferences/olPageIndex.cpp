@@ -38,6 +38,12 @@ struct Caption {
     bool isFrame;
 };
 
+/// A property that was given to this widget alone. Most have none, and a look through those of its class takes long.
+QVariant given(const QWidget &widget, const char *name)
+{
+    return widget.dynamicPropertyNames().isEmpty() ? QVariant() : widget.property(name);
+}
+
 template <class... Kinds> bool isOneOf(const QWidget &widget) { return (qobject_cast<const Kinds *>(&widget) || ...); }
 
 bool isCheckableGroup(const QWidget &widget)
@@ -124,7 +130,7 @@ private:
 
     void visit(QWidget &widget)
     {
-        if (widget.isWindow() || widget.property(innerPartProperty).toBool() || isOneOf<QTabBar>(widget))
+        if (widget.isWindow() || given(widget, innerPartProperty).toBool() || isOneOf<QTabBar>(widget))
             return;
         if (isControl(widget)) {
             add(widget);
@@ -154,7 +160,7 @@ private:
             for (int item = 0; item < combo->count(); ++item)
                 control.choices << combo->itemText(item);
         }
-        control.settingKeys = widget.property(keysProperty).toStringList();
+        control.settingKeys = given(widget, keysProperty).toStringList();
         controls.push_back(std::move(control));
     }
 

@@ -123,6 +123,12 @@ bool olPendingChanges::differsFromDefault(const std::string &key) const
     return !now.empty() && !olValue::equal(now, m_session.defaultValue(key));
 }
 
+bool olPendingChanges::differsFromDefault(const olPreferencesEntry &entry, const std::string &key) const
+{
+    const olEditedPage *page = findPage(entry);
+    return page && page->hasControl(key) ? page->differsFromDefault(key) : differsFromDefault(key);
+}
+
 olSettingValues olPendingChanges::inForce() const
 {
     findOwners();

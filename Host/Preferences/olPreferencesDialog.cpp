@@ -387,8 +387,7 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
     if (!frame) {
         frame = new olPageFrame(*entry.page());
         m_pages->addWidget(frame);
-        if (const olSearchedPage *page = m_search->page(entry))
-            m_menu->addTo(*page);
+        m_menu->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
         frame->marks().setHits(m_hits.value(&entry));
         endTabOrderWithButtons();
@@ -398,8 +397,7 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
 
 void olPreferencesDialog::lockSettings(olPreferencesEntry &entry, olPageFrame &frame)
 {
-    const olSearchedPage *page = m_search->page(entry);
-    for (const olFoundControl &control : page ? page->controls : std::vector<olFoundControl>()) {
+    for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
             if (const auto reason = m_session.lockReason(key.toStdString()))
                 frame.locks().lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
@@ -412,8 +410,7 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
 {
     QMenu *menu = m_locked->menu();
     menu->clear();
-    const olSearchedPage *page = m_search->page(entry);
-    for (const olFoundControl &control : page ? page->controls : std::vector<olFoundControl>()) {
+    for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
             const auto reason = m_session.lockReason(key.toStdString());
             if (!reason)
@@ -456,16 +453,16 @@ void olPreferencesDialog::filter()
     for (const olSearchResult &result : isFiltered ? m_search->find(text) : std::vector<olSearchResult>()) {
         std::vector<olFoundControl> hits;
         for (const olFoundControl *hit : result.hits) {
-            const bool isChanged = std::any_of(hit->keys.begin(), hit->keys.end(), [this](const QString &key) {
-                return m_pending->differsFromDefault(key.toStdString());
+            const bool isChanged = std::any_of(hit->keys.begin(), hit->keys.end(), [&](const QString &key) {
+                return m_pending->differsFromDefault(*result.entry, key.toStdString());
             });
             if (isChanged || !m_changedOnly->isChecked())
                 hits.push_back(*hit);
         }
         if (hits.empty() && m_changedOnly->isChecked())
             continue;
-        found.push_back(result.page->entry);
-        m_hits.insert(result.page->entry, hits);
+        found.push_back(result.entry);
+        m_hits.insert(result.entry, hits);
     }
     for (olPageFrame *frame : qAsConst(m_frames))
         frame->marks().setHits({});
@@ -526,10 +523,9 @@ void olPreferencesDialog::goTo(const QString &key)
 std::vector<olFoundControl> olPreferencesDialog::changedOn(const olPreferencesEntry &entry) const
 {
     std::vector<olFoundControl> changed;
-    const olSearchedPage *page = m_search->page(entry);
-    for (const olFoundControl &control : page ? page->controls : std::vector<olFoundControl>()) {
-        const bool differs = std::any_of(control.keys.begin(), control.keys.end(), [this](const QString &key) {
-            return m_pending->differsFromDefault(key.toStdString());
+    for (const olFoundControl &control : m_search->controls(entry)) {
+        const bool differs = std::any_of(control.keys.begin(), control.keys.end(), [&](const QString &key) {
+            return m_pending->differsFromDefault(entry, key.toStdString());
         });
         if (differs)
             changed.push_back(control);

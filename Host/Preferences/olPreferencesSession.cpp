@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <unordered_set>
 
 namespace
 {
@@ -62,6 +64,8 @@ bool isDefault(const olPreferencesStore::Key &key, const boost::any &value)
         return offered && olValue::identical(offered->value, value);
     });
 }
+
+bool isStorable(const boost::any &value) { return !olValue::typeName(value).empty(); }
 
 bool hasDefault(const olPreferencesStore::Key &key)
 {
@@ -129,6 +133,12 @@ QString olPreferencesSession::loadStore(olStoreUse use)
     return opening.error;
 }
 
+void olPreferencesSession::stop()
+{
+    m_plugin.unload();
+    m_store.close();
+}
+
 QString olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
 
 void olPreferencesSession::fillDefaults()
@@ -189,18 +199,24 @@ void olPreferencesSession::newScene()
 Values olPreferencesSession::current() const
 {
     Values values;
-    // Some keys have no default; whatever the record holds beyond the defaults is kept.
-    for (const auto &[key, value] : record().entries())
-        values[{olHome::Record, key}] = value;
+    std::unordered_set<std::string_view> offeredKeys;
     for (const olPreferencesEntry *entry : entries()) {
-        for (const olOfferedDefault &offered : entry->defaults())
-            values[{entry->home(), offered.key}] = entry->value(offered.key);
+        for (const olOfferedDefault &offered : entry->defaults()) {
+            if (entry->home() == olHome::Record)
+                offeredKeys.insert(offered.key);
+            const boost::any value = entry->value(offered.key);
+            const olPreferencesStore::Key key{entry->home(), offered.key};
+            // Most have their module's default; only for the others all modules are asked, as several may offer a key.
+            const bool isAtDefault = olValue::identical(value, offered.value) || isDefault(key, value);
+            // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
+            if (isStorable(value) && (!isAtDefault || isStored(key, value)))
+                values[key] = value;
+        }
     }
-    for (auto value = values.begin(); value != values.end();) {
-        // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
-        const bool isChosen = !isDefault(value->first, value->second) || isStored(value->first, value->second);
-        const bool kept = isChosen && !olValue::typeName(value->second).empty();
-        value = kept ? std::next(value) : values.erase(value);
+    // Some keys have no default; whatever the record holds beyond the defaults is kept.
+    for (const auto &[key, value] : record().entries()) {
+        if (offeredKeys.count(key) == 0 && isStorable(value))
+            values[{olHome::Record, key}] = value;
     }
     return values;
 }
@@ -228,10 +244,9 @@ Values olPreferencesSession::toBeKept() const
     return kept;
 }
 
-olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored) const
+olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored, const Values &kept) const
 {
     Changes changes;
-    const Values kept = toBeKept();
     for (const auto &[key, value] : kept) {
         const auto found = stored.find(key);
         if (found == stored.end() || !olValue::identical(found->second, value))
@@ -248,12 +263,12 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
 QString olPreferencesSession::save()
 {
     restoreLocked();
-    const Changes changes = changesTo(m_stored);
+    const Values kept = toBeKept();
+    const Changes changes = changesTo(m_stored, kept);
     QString error = m_store.save(changes.changed, changes.removed);
     if (!error.isEmpty() && m_store.isBroken())
-        error = saveIntoMended(error);
-    if (error.isEmpty()) {
-        const Values kept = toBeKept();
+        error = saveIntoMended(error, kept);
+    if (error.isEmpty() && !(changes.changed.empty() && changes.removed.empty())) {
         m_stored.clear();
         for (const auto &[key, value] : kept)
             m_stored[key] = olValue::adopted(value);
@@ -262,13 +277,13 @@ QString olPreferencesSession::save()
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the mended file.
-QString olPreferencesSession::saveIntoMended(const QString &error)
+QString olPreferencesSession::saveIntoMended(const QString &error, const Values &kept)
 {
     Values mended;
     const olStoreOpening opening = m_store.open(mended);
     if (!opening.error.isEmpty())
         return error;
-    const Changes changes = changesTo(mended);
+    const Changes changes = changesTo(mended, kept);
     QString newError = m_store.save(changes.changed, changes.removed);
     if (newError.isEmpty() && !opening.notice.isEmpty())
         m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",

@@ -72,8 +72,8 @@ public:
     /// pages hold: of settings that no page shows, or that their control shows only rounded.
     [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
 
-    /// Unloads the plug-in. Values are not stored by this.
-    void stop() { m_plugin.unload(); }
+    /// Unloads the plug-in and closes the store. Values are not stored by this.
+    void stop();
 
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
     [[nodiscard]] boost::any defaultValue(const std::string &key) const;
@@ -96,10 +96,11 @@ private:
 
     [[nodiscard]] olPreferencesStore::Values current() const;
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
-    [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored) const;
+    [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
+                                    const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isStored(const olPreferencesStore::Key &key, const boost::any &value) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
-    [[nodiscard]] QString saveIntoMended(const QString &error);
+    [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
     void dropEarlyLanguage();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;

@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 
 #include <optional>
+#include <utility>
 
 namespace
 {
@@ -232,12 +233,24 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
             QFile::remove(copy().name());
         store().change(put, gone, m_hadRows);
         m_hadRows = true;
+        m_hasLog = true;
         return {};
     } catch (const olStoreFault &fault) {
         m_isBroken = fault.kind == Kind::Damaged;
         return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
                    .arg(m_file, fault.reason) +
                wayOut(fault);
+    }
+}
+
+void olPreferencesStore::close()
+{
+    if (!std::exchange(m_hasLog, false))
+        return;
+    try {
+        // A log is only worked into what was proved sound.
+        (void)store().read(wasStore());
+    } catch (const olStoreFault &) {
     }
 }
 

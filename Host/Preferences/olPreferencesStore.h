@@ -56,6 +56,10 @@ public:
     /// on failure the file keeps what it held. Returns as load() does. With nothing to do the file is not touched.
     [[nodiscard]] QString save(const Values &changed, const std::vector<Key> &removed);
 
+    /// After the last save of a run: works the log of its saves into the file, which is then whole without it. What
+    /// fails here is made up for when the store is opened next.
+    void close();
+
     /// Whether the last save() failed because the file is damaged or gone, which open() mends.
     [[nodiscard]] bool isBroken() const { return m_isBroken; }
 
@@ -77,4 +81,5 @@ private:
     QString m_file;
     bool m_hadRows = false;
     bool m_isBroken = false;
+    bool m_hasLog = false;
 };

@@ -44,7 +44,7 @@ olSettingMenu::olSettingMenu(const olPreferencesSession &session, olPendingChang
 {
 }
 
-void olSettingMenu::addTo(const olSearchedPage &page)
+void olSettingMenu::addTo(const std::vector<olFoundControl> &controls)
 {
     const auto add = [this](QWidget *widget, const olFoundControl &control) {
         if (!widget || m_controls.contains(widget))
@@ -53,7 +53,7 @@ void olSettingMenu::addTo(const olSearchedPage &page)
         widget->installEventFilter(this);
         connect(widget, &QObject::destroyed, this, [this](const QObject *gone) { m_controls.remove(gone); });
     };
-    for (const olFoundControl &control : page.controls) {
+    for (const olFoundControl &control : controls) {
         if (control.keys.isEmpty() || !control.widget)
             continue;
         add(control.widget, control);

@@ -21,7 +21,7 @@ public:
     olSettingMenu(const olPreferencesSession &session, olPendingChanges &changes);
 
     /// From here on the page's controls have the menu. It ends with them.
-    void addTo(const olSearchedPage &page);
+    void addTo(const std::vector<olFoundControl> &controls);
 
     /// Opens the menu of the control that the widget is, or is a part of, as a key press asks for it. False where the
     /// widget belongs to no setting.

@@ -38,10 +38,9 @@ bool hasAll(const QString &text, const QStringList &words)
     return std::all_of(words.begin(), words.end(), [&text](const QString &word) { return text.contains(word); });
 }
 
-bool isHit(const olSearchedPage &page, const olFoundControl &control, const QStringList &words)
+bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const QStringList &words)
 {
-    return hasAll(control.searched, words) && control.widget &&
-           olPageIndex::isShown(*page.entry->page(), *control.widget);
+    return hasAll(control.searched, words) && control.widget && olPageIndex::isShown(*entry.page(), *control.widget);
 }
 
 } // namespace
@@ -53,57 +52,46 @@ olSettingsSearch::olSettingsSearch()
     connect(registry, &olPreferencesRegistry::pageAboutToGo, this, &olSettingsSearch::invalidate);
 }
 
+void olSettingsSearch::invalidate() { m_pages.clear(); }
+
 std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
 {
-    build();
     const QStringList words = text.toCaseFolded().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     std::vector<olSearchResult> results;
-    for (const olSearchedPage &page : m_pages) {
-        olSearchResult result{&page, {}};
-        for (const olFoundControl &control : page.controls) {
-            if (isHit(page, control, words))
+    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
+        olSearchResult result{entry, {}};
+        for (const olFoundControl &control : controls(*entry)) {
+            if (isHit(*entry, control, words))
                 result.hits.push_back(&control);
         }
-        if (!result.hits.empty() || hasAll(page.entry->name().toCaseFolded(), words))
+        if (!result.hits.empty() || (entry->page() && hasAll(entry->name().toCaseFolded(), words)))
             results.push_back(std::move(result));
     }
     return results;
 }
 
-const olSearchedPage *olSettingsSearch::page(const olPreferencesEntry &entry)
+const std::vector<olFoundControl> &olSettingsSearch::controls(const olPreferencesEntry &entry)
 {
-    build();
-    const auto found = std::find_if(m_pages.begin(), m_pages.end(),
-                                    [&entry](const olSearchedPage &page) { return page.entry == &entry; });
-    return found == m_pages.end() ? nullptr : &*found;
+    const auto known = m_pages.find(&entry);
+    if (known != m_pages.end())
+        return known->second;
+    std::vector<olFoundControl> &controls = m_pages[&entry];
+    if (const QWidget *page = entry.page()) {
+        const olPageIndex index(*page);
+        for (const olPageControl &control : index.controls())
+            controls.push_back(indexed(control));
+    }
+    return controls;
 }
 
 const olFoundControl *olSettingsSearch::control(const std::string &key)
 {
-    build();
     const QString name = QString::fromStdString(key);
-    for (const olSearchedPage &page : m_pages) {
-        for (const olFoundControl &control : page.controls) {
+    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
+        for (const olFoundControl &control : controls(*entry)) {
             if (control.keys.contains(name))
                 return &control;
         }
     }
     return nullptr;
-}
-
-void olSettingsSearch::build()
-{
-    if (m_isBuilt)
-        return;
-    m_isBuilt = true;
-    m_pages.clear();
-    for (olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
-        if (!entry->page())
-            continue;
-        olSearchedPage page{entry, {}};
-        const olPageIndex index(*entry->page());
-        for (const olPageControl &control : index.controls())
-            page.controls.push_back(indexed(control));
-        m_pages.push_back(std::move(page));
-    }
 }

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <map>
+#include <string>
 #include <vector>
 
 class olPreferencesEntry;
@@ -21,20 +23,15 @@ struct olFoundControl {
     QString searched;
 };
 
-/// A module's page with its controls in the order of the form.
-struct olSearchedPage {
-    olPreferencesEntry *entry = nullptr;
-    std::vector<olFoundControl> controls;
-};
-
 /// A page on which something was found, and what.
 struct olSearchResult {
-    const olSearchedPage *page = nullptr;
+    const olPreferencesEntry *entry = nullptr;
     std::vector<const olFoundControl *> hits;
 };
 
-/// Finds controls on all pages by label, tooltip, choice text and key. What a page hides is not found. The index of the
-/// pages is built at the first question and again after modules or pages come or go.
+/// Finds controls on all pages by label, tooltip, choice text and key. What a page hides is not found. A page
+/// is indexed when it is asked for first, so that opening one page need not wait for all; and again after modules or
+/// pages come or go.
 class olSettingsSearch : public QObject
 {
     Q_OBJECT
@@ -46,18 +43,15 @@ public:
     /// text finds every control. A page is also found by its own name. Valid until the pages change.
     [[nodiscard]] std::vector<olSearchResult> find(const QString &text);
 
-    /// Null for a module without a page. Valid until the pages change.
-    [[nodiscard]] const olSearchedPage *page(const olPreferencesEntry &entry);
+    /// Of the module's page in the order of its form; none without a page. Valid until the pages change.
+    [[nodiscard]] const std::vector<olFoundControl> &controls(const olPreferencesEntry &entry);
 
     /// The control that edits the setting; null where none does.
     [[nodiscard]] const olFoundControl *control(const std::string &key);
 
     /// To be called when texts or controls of pages may have changed.
-    void invalidate() { m_isBuilt = false; }
+    void invalidate();
 
 private:
-    void build();
-
-    std::vector<olSearchedPage> m_pages;
-    bool m_isBuilt = false;
+    std::map<const olPreferencesEntry *, std::vector<olFoundControl>> m_pages;
 };

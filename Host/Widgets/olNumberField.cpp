@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace
@@ -71,7 +72,7 @@ void olNumberField::setDecimals(int decimals)
 {
     m_decimals = std::max(decimals, -1);
     m_validator->setDecimals(m_decimals < 0 ? anyDecimals : m_decimals);
-    setValue(m_value);
+    showValue();
 }
 
 void olNumberField::setSteps(double single, double page)
@@ -89,9 +90,14 @@ double olNumberField::fitted(double value) const
 
 void olNumberField::setValue(double value)
 {
+    // Pages are filled over and over with what they show already. Zeros have signs, so the bytes are compared.
+    const bool isShown = !isModified() && std::memcmp(&value, &m_value, sizeof value) == 0 && !text().isEmpty();
     m_value = value;
-    setText(shown(value));
+    if (!isShown)
+        showValue();
 }
+
+void olNumberField::showValue() { setText(shown(m_value)); }
 
 double olNumberField::value() const
 {

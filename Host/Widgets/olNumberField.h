@@ -61,6 +61,7 @@ protected:
 
 private:
     [[nodiscard]] QString shown(double value) const;
+    void showValue();
     void commit();
     bool stepByKey(int key);
 

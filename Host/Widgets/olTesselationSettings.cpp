@@ -99,9 +99,13 @@ void olTesselationSettings::enableGroups(unsigned groups)
 void olTesselationSettings::updateQualityPreset()
 {
     int nearest = 0;
+    double shortest = distanceTo(nearest);
     for (int preset = 1; preset < int(presets.size()); ++preset) {
-        if (distanceTo(preset) < distanceTo(nearest))
+        const double distance = distanceTo(preset);
+        if (distance < shortest) {
             nearest = preset;
+            shortest = distance;
+        }
     }
     const QSignalBlocker keepsTolerances(m_quality);
     m_quality->setValue(nearest);

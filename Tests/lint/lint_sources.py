@@ -52,7 +52,7 @@ def main():
     for folder in ("Apps/orlo", "Host/Preferences", "Host/Widgets", "Plugins"):
         for path in sorted((root / folder).rglob("*.cpp")):
             faults += [f"{path.relative_to(root)}: {fault}" for fault in widget_faults(path.read_text())]
-    for top in ("Apps", "Host", "Plugins", "Tests"):
+    for top in ("Apps", "Benchmarks", "Host", "Plugins", "Tests"):
         for path in sorted((root / top).rglob("*.h")):
             if not path.read_text().startswith("#pragma once"):
                 faults.append(f"{path.relative_to(root)}: does not begin with #pragma once")

@@ -95,20 +95,27 @@ template <class Number> void takeFrom(const olZeroOrOne &box, Number &value)
 inline void showOn(QSpinBox *box, int value) { box->setValue(value); }
 inline void takeFrom(const QSpinBox *box, int &value) { value = box->value(); }
 
+// A page is filled again and again with what it shows already, and setting a text costs more than looking at it.
+inline void showText(QLineEdit *field, const QString &text)
+{
+    if (field->text() != text)
+        field->setText(text);
+}
+
 // Numbers in fields stand with six significant digits and are read in the C locale, whatever the user's.
 template <class Number> void showNumberOn(QLineEdit *field, Number value)
 {
-    field->setText(QString::number(double(value), 'g', 6));
+    showText(field, QString::number(double(value), 'g', 6));
 }
 inline void showOn(QLineEdit *field, float value) { showNumberOn(field, value); }
 inline void showOn(QLineEdit *field, double value) { showNumberOn(field, value); }
 inline void takeFrom(const QLineEdit *field, float &value) { value = field->text().toFloat(); }
 inline void takeFrom(const QLineEdit *field, double &value) { value = field->text().toDouble(); }
 
-inline void showOn(QLineEdit *field, const QString &text) { field->setText(text); }
+inline void showOn(QLineEdit *field, const QString &text) { showText(field, text); }
 inline void takeFrom(const QLineEdit *field, QString &text) { text = field->text(); }
 
-inline void showOn(QLineEdit *field, const std::string &text) { field->setText(QString::fromStdString(text)); }
+inline void showOn(QLineEdit *field, const std::string &text) { showText(field, QString::fromStdString(text)); }
 inline void takeFrom(const QLineEdit *field, std::string &text) { text = field->text().toStdString(); }
 
 inline void showOn(QPlainTextEdit *editor, const std::string &text)

@@ -33,19 +33,27 @@ inline bool isSameValue(const std::vector<osg::Color3f> &left, const std::vector
                       [](const osg::Color3f &a, const osg::Color3f &b) { return isSameValue(a, b); });
 }
 
+/// The held value as one of type T; null where it is of another, and for an empty one. Told by the type itself first,
+/// which is as good as free; types whose names alone are the same fail in the cast.
+template <class T> const T *heldAs(const boost::any &held)
+{
+    if (const T *value = boost::any_cast<T>(&held))
+        return value;
+    return !held.empty() && isSameType(held.type(), typeid(T)) ? &boost::any_cast<const T &>(held) : nullptr;
+}
+
 /// Copies the key's value into `out`. False with `out` untouched where the key is absent, which is silent, or holds
 /// another type, which is reported.
 template <class T> bool getFromMessage(olMessage &record, const std::string &key, T &out)
 {
     const boost::any &held = record.get(key);
-    if (held.empty())
-        return false;
-    if (!isSameType(held.type(), typeid(T))) {
-        reportWrongType(key, held.type(), typeid(T));
-        return false;
+    if (const T *value = heldAs<T>(held)) {
+        out = *value;
+        return true;
     }
-    out = boost::any_cast<const T &>(held);
-    return true;
+    if (!held.empty())
+        reportWrongType(key, held.type(), typeid(T));
+    return false;
 }
 
 /// Stores the value where the key is absent or holds something else, another type included, and says whether the
@@ -53,12 +61,11 @@ template <class T> bool getFromMessage(olMessage &record, const std::string &key
 template <class T> bool setIfChanged(olMessage &record, const std::string &key, const T &value, bool compare)
 {
     const boost::any &held = record.get(key);
-    if (!held.empty()) {
-        if (!compare)
-            return false;
-        if (isSameType(held.type(), typeid(T)) && isSameValue(boost::any_cast<const T &>(held), value))
-            return false;
-    }
+    if (!compare && !held.empty())
+        return false;
+    const T *before = heldAs<T>(held);
+    if (before && isSameValue(*before, value))
+        return false;
     record.set(key, boost::any(value), true);
     return true;
 }

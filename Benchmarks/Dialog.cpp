@@ -1,0 +1,143 @@
+#include "BareForms.h"
+#include "Groups.h"
+#include "Preferences/olPreferencesDialog.h"
+#include "Preferences/olPreferencesEntry.h"
+#include "Preferences/olPreferencesRegistry.h"
+#include "Support/BenchHost.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QLineEdit>
+#include <QSettings>
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+constexpr int repeats = 3;
+
+/// Waits until a widget was painted.
+class Painting : public QObject
+{
+public:
+    void of(QWidget &widget)
+    {
+        widget.installEventFilter(this);
+        m_isDone = false;
+        while (!m_isDone)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_isDone = m_isDone || event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    bool m_isDone = false;
+};
+
+olPreferencesEntry &module(const QString &name)
+{
+    olPreferencesEntry *found = olPreferencesRegistry::the().find(name);
+    require(found, "there is no such module");
+    return *found;
+}
+
+/// From nothing to the first page painted, in a host that has started but never shown a dialog.
+void openDialog(benchmark::State &state, const QString &name)
+{
+    std::unique_ptr<BenchHost> host;
+    std::unique_ptr<olPreferencesDialog> dialog;
+    const auto open = [&] {
+        dialog = std::make_unique<olPreferencesDialog>(host->session());
+        dialog->open(name);
+        Painting().of(*module(name).page());
+    };
+    measure(
+        state, open,
+        [&] {
+            QSettings().clear();
+            host = std::make_unique<BenchHost>();
+        },
+        [&] {
+            dialog.reset();
+            host.reset();
+        });
+}
+
+void openBareDialog(benchmark::State &state, const std::string &moduleClass)
+{
+    std::unique_ptr<QDialog> dialog;
+    const auto open = [&] {
+        dialog = std::make_unique<QDialog>();
+        BareForms::setUp(moduleClass, *dialog);
+        dialog->show();
+        Painting().of(*dialog);
+    };
+    measure(state, open, {}, [&] { dialog.reset(); });
+}
+
+/// A host with the dialog open, for questions to its search.
+struct OpenDialog {
+    OpenDialog()
+    {
+        dialog.open(QStringLiteral("Camera"));
+        QApplication::processEvents();
+    }
+
+    BenchHost host;
+    olPreferencesDialog dialog{host.session()};
+    QLineEdit &field = *dialog.findChild<QLineEdit *>(QStringLiteral("search"));
+};
+
+/// From the text in the field to the answer on the screen.
+void search(benchmark::State &state, OpenDialog &open, const QString &text)
+{
+    measure(
+        state,
+        [&] {
+            open.field.setText(text);
+            QApplication::processEvents();
+        },
+        [&] {
+            open.field.clear();
+            QApplication::processEvents();
+        });
+}
+
+} // namespace
+
+std::shared_ptr<void> registerDialog()
+{
+    for (const char *name : {"Camera", "Render Options", "Step"}) {
+        const QString qtName = QString::fromLatin1(name);
+        const std::string moduleClass = [&] {
+            const BenchHost host;
+            return module(qtName).className();
+        }();
+        benchmark::RegisterBenchmark((std::string("open/") + name).c_str(), openDialog, qtName)
+            ->UseManualTime()
+            ->Iterations(repeats);
+        benchmark::RegisterBenchmark((std::string("open bare/") + name).c_str(), openBareDialog, moduleClass)
+            ->UseManualTime()
+            ->Iterations(repeats);
+    }
+    return {};
+}
+
+std::shared_ptr<void> registerSearch()
+{
+    auto open = std::make_shared<OpenDialog>();
+    for (const char *text : {"t", "tolerance", "import mesh", "RenderOptions", "qqq"}) {
+        benchmark::RegisterBenchmark(
+            (std::string("search/") + text).c_str(),
+            [open, text = QString::fromLatin1(text)](benchmark::State &state) { search(state, *open, text); })
+            ->UseManualTime()
+            ->Iterations(2 * repeats);
+    }
+    return open;
+}

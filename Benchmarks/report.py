@@ -1,0 +1,178 @@
+"""Runs the measurements side by side and prints each beside its goal."""
+
+import argparse
+import json
+import math
+import re
+import statistics
+import subprocess
+import sys
+from pathlib import Path
+
+SCALARS = ("bool", "int", "float", "double")
+TYPES = SCALARS + ("text",)
+FRAME = 0.016  # seconds
+GROWTH_STEPS = ("load", "fill", "take back", "apply")
+
+
+class Figures:
+    """The results of one group: all its repetitions, taken in a random order."""
+
+    def __init__(self, program, group, repetitions):
+        command = [program, group, "--benchmark_format=json", "--benchmark_enable_random_interleaving=true",
+                   f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.05"]
+        ran = subprocess.run(command, capture_output=True, text=True)
+        if ran.returncode != 0:
+            sys.exit(f"bench: {group} failed: {ran.stderr.strip()}")
+        self.runs = {}
+        for run in json.loads(ran.stdout)["benchmarks"]:
+            if run["run_type"] == "iteration":
+                name = re.sub(r"/(iterations:\d+|manual_time)", "", run["run_name"])
+                self.runs.setdefault(name, []).append(run)
+
+    def seconds(self, name):
+        return statistics.median(self.time(run) for run in self.runs[name])
+
+    @staticmethod
+    def time(run):
+        # Whoever measures by hand says what the time is; else the processor's counts, not the clock's.
+        measured = run["real_time" if "manual_time" in run["name"] else "cpu_time"]
+        return measured * {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}[run["time_unit"]]
+
+    def ratio(self, name, other):
+        return self.seconds(name) / self.seconds(other)
+
+    def counter(self, name, counter):
+        return statistics.median(run[counter] for run in self.runs[name])
+
+    def worst(self, figure, types):
+        return max(figure(type) for type in types)
+
+
+def at_most(name, value, goal):
+    return {"name": name, "value": round(value, 3), "goal": f"<= {goal}", "holds": value <= goal}
+
+
+def at_least(name, value, goal):
+    return {"name": name, "value": round(value, 3), "goal": f">= {goal}", "holds": value >= goal}
+
+
+def record(program):
+    figures = Figures(program, "record", 15)
+
+    def ratio(name, other):
+        return lambda type: figures.ratio(f"{name}/{type}", f"{other}/{type}")
+
+    def allocations(name):
+        return figures.worst(lambda type: figures.counter(f"{name}/{type}", "allocations"), SCALARS)
+
+    least = {other: min(figures.ratio(f"{other} unchanged/{type}", f"set unchanged/{type}") for type in TYPES)
+             for other in ("QSettings", "KConfigGroup")}
+    return [
+        at_most("typed read / bare find and checked cast", figures.worst(ratio("read", "bare read"), TYPES), 1.1),
+        at_most("typed read of a scalar: allocations", allocations("read"), 0),
+        at_most("compare-and-set, unchanged / typed read", figures.worst(ratio("set unchanged", "read"), TYPES), 1.15),
+        at_most("compare-and-set of a scalar: allocations", allocations("set unchanged"), 0),
+        at_least("QSettings in memory / compare-and-set", least["QSettings"], 1.5),
+        at_least("KConfigGroup / compare-and-set", least["KConfigGroup"], 4),
+    ]
+
+
+def construction(program):
+    figures = Figures(program, "construction", 9)
+    memory = figures.counter("memory", "modules") / figures.counter("memory", "forms")
+    return [
+        at_most("construction of 32 modules / bare setupUi", figures.ratio("construct modules", "construct forms"), 1.2),
+        at_most("memory of 32 modules with pages / bare forms", memory, 1.15),
+        at_most("loading the library / an empty plug-in", figures.ratio("load plug-in", "load empty plug-in"), 3),
+    ]
+
+
+def pages(program):
+    figures = Figures(program, "pages", 15)
+    both = figures.seconds("fill") + figures.seconds("take back")
+    by_hand = figures.seconds("hand-written fill") + figures.seconds("hand-written take back")
+    return [
+        at_most("fill and take back / hand-written", both / by_hand, 1.25),
+        at_least("fill by KConfigDialogManager / fill", figures.ratio("KConfigDialogManager fill", "fill"), 2),
+        at_least("take back by KConfigDialogManager / take back",
+                 figures.ratio("KConfigDialogManager take back", "take back"), 5),
+        at_most("apply, nothing changed / calls and reads that must be", figures.ratio("apply", "hand-written apply"), 3),
+    ]
+
+
+def library(folder):
+    plugin = str(folder / "libKernelPreferences.so")
+
+    def output(*command):
+        return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+    exported = [line for line in output("nm", "-D", "--defined-only", plugin).splitlines() if " T " in line]
+    kinds = re.findall(r"R_X86_64_(\w+)", output("readelf", "--wide", "--relocs", plugin))
+    symbolic = [kind for kind in kinds if kind in ("64", "GLOB_DAT", "JUMP_SLOT")]
+    stripped = folder / "stripped.so"
+    output("strip", "--strip-unneeded", "-o", str(stripped), plugin)
+    size = stripped.stat().st_size / 1024
+    stripped.unlink()
+    return [
+        at_most("exported functions of the library", len(exported), 1),
+        at_most("symbolic relocations of the library", len(symbolic), 350),
+        at_most("stripped size of the library in KiB", size, 900),
+    ]
+
+
+def growth(program):
+    """How the cost of one module grows: the power of the number of modules that it follows, 0 for linear steps."""
+    figures = Figures(program, "growth", 5)
+    sizes = sorted((int(name.split("/")[1]) for name in figures.runs))
+
+    def power(step):
+        xs = [math.log(size) for size in sizes]
+        ys = [math.log(figures.counter(f"grow/{size}", step)) for size in sizes]
+        mean_x, mean_y = statistics.mean(xs), statistics.mean(ys)
+        return 1 + (sum((x - mean_x) * (y - mean_y) for x, y in zip(xs, ys)) / sum((x - mean_x) ** 2 for x in xs))
+
+    rows = [at_most(f"growth of {step}, 32 to 512 modules: power", power(step), 1.1) for step in GROWTH_STEPS]
+    return rows + [at_most("growth of memory, 32 to 512 modules: power", power("memory"), 1.1)]
+
+
+def dialog(program):
+    figures = Figures(program, "dialog", 9)
+    searches = Figures(program, "search", 9)
+    slowest = max(searches.seconds(name) for name in searches.runs)
+    rows = [at_most(f"first page of the dialog ({page}) / bare dialog",
+                    figures.ratio(f"open/{page}", f"open bare/{page}"), 1.3)
+            for page in sorted(name.split("/")[1] for name in figures.runs if name.startswith("open/"))]
+    return rows + [at_most("search over all pages / one frame", slowest / FRAME, 1)]
+
+
+def save(program):
+    figures = Figures(program, "save", 15)
+    return [
+        at_most("save of one changed setting / QSettings", figures.ratio("save", "QSettings save"), 0.5),
+        at_most("save of nothing: write calls", figures.counter("save nothing", "writes"), 0),
+    ]
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("folder", type=Path)
+    parser.add_argument("--json", type=Path)
+    parser.add_argument("--strict", action="store_true")
+    options = parser.parse_args()
+    program = str(options.folder / "orlo-bench")
+
+    rows = []
+    for group in (record, pages, construction, growth, dialog, save):
+        rows += group(program)
+    rows += library(options.folder)
+
+    width = max(len(row["name"]) for row in rows)
+    for row in rows:
+        print(f"{row['name']:{width}}  {row['value']:>9g}  {row['goal']:>8}  {'holds' if row['holds'] else 'falls short'}")
+    if options.json:
+        options.json.write_text(json.dumps(rows, indent=1) + "\n")
+    sys.exit(1 if options.strict and not all(row["holds"] for row in rows) else 0)
+
+
+main()
