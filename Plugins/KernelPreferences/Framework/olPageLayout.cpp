@@ -25,8 +25,7 @@ void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &lab
     inset += place.contentsMargins().left();
     if (const QLayout *layout = place.layout())
         inset += layout->contentsMargins().left();
-    const QObjectList children = place.children();
-    for (QObject *child : children) {
+    for (QObject *child : place.children()) {
         if (auto *form = qobject_cast<QFormLayout *>(child)) {
             // In a language of long words a field goes below its label rather than out of the page.
             form->setRowWrapPolicy(QFormLayout::WrapLongRows);
