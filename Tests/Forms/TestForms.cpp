@@ -49,6 +49,8 @@ protected:
             QCoreApplication::installTranslator(&translator);
         QApplication::setLayoutDirection(GetParam().direction); // a new language brings its own direction
         restart();
+        const std::string longPath = "/data/" + std::string(200, 'x') + "/textures";
+        record().set("texture search paths", std::vector<std::string>{longPath, "/textures"}, true);
         session.start();
         dialog = std::make_unique<olPreferencesDialog>(session);
         const QFontMetrics metrics = dialog->fontMetrics();

@@ -80,6 +80,7 @@ void olBackgroundTable::setColors(const std::vector<osg::Color3f> &colors)
 std::vector<osg::Color3f> olBackgroundTable::colors() const
 {
     std::vector<osg::Color3f> colors;
+    colors.reserve(size_t(m_table.rowCount()));
     for (int row = 0; row < m_table.rowCount(); ++row)
         colors.push_back(color(row));
     return colors;
@@ -96,6 +97,7 @@ void olBackgroundTable::setPositions(const std::vector<float> &positions)
 std::vector<float> olBackgroundTable::positions() const
 {
     std::vector<float> positions;
+    positions.reserve(size_t(m_table.rowCount()));
     for (int row = 0; row < m_table.rowCount(); ++row)
         positions.push_back(text(row, PositionColumn).toFloat());
     return positions;
