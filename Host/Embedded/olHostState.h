@@ -171,8 +171,8 @@ public:
 
     // Input devices. The space mouse is wanted or not, whether or not its daemon is there. Its motion is how far the
     // cap is moved along x, y and z and turned about them, in the daemon's units; each button is a bit, the first the
-    // lowest. The joystick's axes go from -1 to 1, to the right and towards the user: two of the first stick, two of the
-    // second
+    // lowest. The joystick's axes go from -1 to 1, to the right and towards the user: two of the first stick, two of
+    // the second
     olHostValue<bool> spacemouseWanted{*this, "spacemouseWanted", false};
     olHostValue<bool> spacemouseConnected{*this, "spacemouseConnected", false};
     olHostValue<std::vector<float>> spacemouseMotion{*this, "spacemouseMotion", std::vector<float>(6, 0.0f)};

@@ -1,8 +1,8 @@
 #include "Kernel/olController.h"
 
 #include "Embedded/olHostState.h"
-#include "Embedded/olJoystickLink.h"
 #include "Embedded/olJournal.h"
+#include "Embedded/olJoystickLink.h"
 #include "Kernel/olWebInterface.h"
 #include "Utilities/olMessage.h"
 #include "WebServer/olWebServer.h"
