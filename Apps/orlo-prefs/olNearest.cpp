@@ -29,8 +29,8 @@ int distance(const QString &left, const QString &right)
 
 QString olDidYouMean(const QString &written, const QStringList &names)
 {
-    const auto nearest = std::min_element(names.begin(), names.end(), [&](const QString &left, const QString &right) {
-        return distance(written, left) < distance(written, right);
+    const auto nearest = std::min_element(names.begin(), names.end(), [&](const QString &one, const QString &other) {
+        return distance(written, one) < distance(written, other);
     });
     const int farthest = std::max(2, written.size() / 3);
     if (nearest == names.end() || distance(written, *nearest) > farthest)

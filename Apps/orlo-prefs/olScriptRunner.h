@@ -46,7 +46,7 @@ private:
     };
 
     [[nodiscard]] static const std::vector<Command> &commands();
-    void runLine(const QByteArray &line);
+    void runLine(const QByteArray &text);
 
     void defaults(olScriptParser &line);
     void gui(olScriptParser &line);

@@ -56,6 +56,7 @@ namespace
 template <class List, class Text> std::string listed(const List &list, Text &&text)
 {
     std::vector<std::string> texts;
+    texts.reserve(list.size());
     for (const auto &element : list)
         texts.push_back(text(element));
     return '[' + joined(texts) + ']';

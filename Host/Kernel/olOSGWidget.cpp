@@ -210,10 +210,10 @@ void olOSGWidget::setSuperSampling(bool enable)
     olHostState::the().superSampling = enable;
 }
 
-void olOSGWidget::setSuperSamplingQuality(unsigned factor)
+void olOSGWidget::setSuperSamplingQuality(unsigned samples)
 {
-    olJournal::call("olOSGWidget::setSuperSamplingQuality", factor);
-    olHostState::the().superSamplingQuality = factor;
+    olJournal::call("olOSGWidget::setSuperSamplingQuality", samples);
+    olHostState::the().superSamplingQuality = samples;
 }
 
 void olOSGWidget::setAntialiasingQualityLow(int multisamples, bool pixelfilter, bool supersample, int raytracingSamples)

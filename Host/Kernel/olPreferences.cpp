@@ -16,8 +16,8 @@ namespace
 class RecordEntry : public olPreferencesEntry
 {
 public:
-    RecordEntry(olPreferences &module, QString name, QString category)
-        : olPreferencesEntry(std::move(name), std::move(category)), m_module(module)
+    RecordEntry(olPreferences &module, const QString &name, const QString &category)
+        : olPreferencesEntry(name, category), m_module(module)
     {
     }
 
@@ -63,8 +63,8 @@ std::set<std::string, std::less<>> &unchangedOf(olPreferencesEntry &entry)
 
 } // namespace
 
-olPreferences::olPreferences(QString name, QString category)
-    : m_entry(std::make_unique<RecordEntry>(*this, std::move(name), std::move(category)))
+olPreferences::olPreferences(const QString &name, const QString &category)
+    : m_entry(std::make_unique<RecordEntry>(*this, name, category))
 {
 }
 

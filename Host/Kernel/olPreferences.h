@@ -16,7 +16,7 @@ class ORLO_SDK_EXPORT olPreferences
 {
 public:
     /// Registers under that name, below the category; an empty category makes a top-level entry.
-    olPreferences(QString name, QString category);
+    olPreferences(const QString &name, const QString &category);
     virtual ~olPreferences();
     olPreferences(const olPreferences &) = delete;
     olPreferences &operator=(const olPreferences &) = delete;

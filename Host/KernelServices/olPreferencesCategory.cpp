@@ -19,8 +19,8 @@ olPreferencesService &service() { return *olKernelServiceFactory::the<olPreferen
 class ServiceEntry : public olPreferencesEntry
 {
 public:
-    ServiceEntry(olPreferencesCategory &module, QString name)
-        : olPreferencesEntry(std::move(name), QString()), m_module(module)
+    ServiceEntry(olPreferencesCategory &module, const QString &name)
+        : olPreferencesEntry(name, QString()), m_module(module)
     {
     }
 

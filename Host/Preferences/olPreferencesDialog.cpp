@@ -441,7 +441,7 @@ void olPreferencesDialog::filter()
         if (hits.empty() && m_changedOnly->isChecked())
             continue;
         found.push_back(result.page->entry);
-        m_hits.insert(result.page->entry, std::move(hits));
+        m_hits.insert(result.page->entry, hits);
     }
     for (olPageFrame *frame : qAsConst(m_frames))
         frame->marks().setHits({});

@@ -4,10 +4,9 @@
 #include "Preferences/olPreferencesRegistry.h"
 
 #include <algorithm>
-#include <utility>
 
 // A text of the plug-in's may lie in its read-only memory; what the host keeps is a copy of its own.
-olPreferencesEntry::olPreferencesEntry(QString name, QString category)
+olPreferencesEntry::olPreferencesEntry(const QString &name, const QString &category)
     : m_name(name.constData(), name.size()), m_category(category.constData(), category.size())
 {
     olPreferencesRegistry::the().add(*this);

@@ -22,7 +22,7 @@ class ORLO_SDK_EXPORT olPreferencesEntry
 {
 public:
     /// Enters the registry, behind those already in it, and leaves it at destruction.
-    olPreferencesEntry(QString name, QString category);
+    olPreferencesEntry(const QString &name, const QString &category);
     virtual ~olPreferencesEntry();
     olPreferencesEntry(const olPreferencesEntry &) = delete;
     olPreferencesEntry &operator=(const olPreferencesEntry &) = delete;

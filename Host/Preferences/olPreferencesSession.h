@@ -90,7 +90,7 @@ private:
 
     [[nodiscard]] olPreferencesStore::Values current() const;
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
-    [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &kept) const;
+    [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored) const;
     [[nodiscard]] bool isStored(const olPreferencesStore::Key &key, const boost::any &value) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error);

@@ -197,6 +197,7 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
     for (const auto &[key, value] : changed)
         put.rows[rowKey(key)] = {olValue::typeName(value), olValue::toJson(value)};
     std::vector<olStoreRows::Key> gone;
+    gone.reserve(removed.size());
     for (const Key &key : removed)
         gone.push_back(rowKey(key));
 

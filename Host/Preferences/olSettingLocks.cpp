@@ -25,7 +25,7 @@ void olSettingLocks::lock(const olFoundControl &control, const QString &reason)
 void olSettingLocks::lock(QWidget &widget, const QString &reason)
 {
     if (!m_locked.contains(&widget)) {
-        m_locked.insert(&widget, {widget.testAttribute(Qt::WA_ForceDisabled) == false, widget.toolTip()});
+        m_locked.insert(&widget, {!widget.testAttribute(Qt::WA_ForceDisabled), widget.toolTip()});
         connect(&widget, &QObject::destroyed, this, [this, gone = &widget] { m_locked.remove(gone); });
         widget.installEventFilter(this);
     }

@@ -61,7 +61,7 @@ public:
 private:
     [[nodiscard]] bool looksLikeAStore() const;
     [[nodiscard]] olStoreRows readDatabase(bool wasStore) const;
-    void changeDatabase(const olStoreRows &put, const std::vector<olStoreRows::Key> &removed, bool wasStore) const;
+    void changeDatabase(const olStoreRows &rows, const std::vector<olStoreRows::Key> &removed, bool wasStore) const;
     [[nodiscard]] QString buildBeside(const olStoreRows &rows) const;
     [[nodiscard]] QString setAside() const;
     void putInPlace(const QString &fresh) const;

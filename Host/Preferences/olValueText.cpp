@@ -22,7 +22,7 @@ QString translated(const char *text) { return QCoreApplication::translate("olVal
 /// Of the values that a box or the items of a combo can stand for.
 std::optional<int> number(const boost::any &value)
 {
-    if (const bool *flag = boost::any_cast<bool>(&value))
+    if (const auto *flag = boost::any_cast<bool>(&value))
         return *flag ? 1 : 0;
     if (const int *whole = boost::any_cast<int>(&value))
         return *whole;
@@ -35,7 +35,7 @@ QString plain(const boost::any &value)
 {
     if (value.empty())
         return translated("none");
-    if (const bool *flag = boost::any_cast<bool>(&value))
+    if (const auto *flag = boost::any_cast<bool>(&value))
         return *flag ? translated("on") : translated("off");
     QString text;
     if (const auto *bytes = boost::any_cast<std::string>(&value))

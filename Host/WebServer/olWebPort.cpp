@@ -19,7 +19,7 @@ namespace
 constexpr unsigned maxConnections = 64;
 constexpr unsigned maxConnectionsOfOneHost = 16;
 constexpr unsigned idleSeconds = 15;
-constexpr size_t connectionMemory = 32 * 1024;
+constexpr size_t connectionMemory = 32 * size_t(1024);
 
 // The library's own choice still lets a client talk it down to TLS 1.0.
 constexpr const char *tlsPriorities = "NORMAL:-VERS-ALL:+VERS-TLS1.3:+VERS-TLS1.2";

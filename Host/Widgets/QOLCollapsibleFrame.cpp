@@ -65,7 +65,7 @@ void QOLCollapsibleFrame::setFolded(bool folded)
 QSize QOLCollapsibleFrame::sizeHint() const
 {
     // QFrame's hint is its border, whatever the layout needs.
-    return boundedHint(QWidget::sizeHint());
+    return boundedHint(QWidget::sizeHint()); // NOLINT(bugprone-parent-virtual-call)
 }
 
 QSize QOLCollapsibleFrame::minimumSizeHint() const { return boundedHint(QWidget::minimumSizeHint()); }

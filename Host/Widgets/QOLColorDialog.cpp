@@ -67,5 +67,5 @@ void QOLColorDialog::showInPicker()
 void QOLColorDialog::takeFromPicker(const QColor &picked)
 {
     constexpr float full = 255.0f;
-    m_channels->setColor({picked.red() / full, picked.green() / full, picked.blue() / full});
+    m_channels->setColor({float(picked.red()) / full, float(picked.green()) / full, float(picked.blue()) / full});
 }

@@ -65,7 +65,7 @@ void olFoldHeader::paintEvent(QPaintEvent *)
 
     const QRect place = textRect();
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(place, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter,
+    painter.drawText(place, int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter),
                      fontMetrics().elidedText(m_caption, Qt::ElideRight, place.width()));
 }
 

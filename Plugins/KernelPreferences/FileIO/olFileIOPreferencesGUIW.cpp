@@ -44,6 +44,7 @@ void olFileIOPreferencesGUIW::setSearchPaths(const std::vector<std::string> &pat
 std::vector<std::string> olFileIOPreferencesGUIW::searchPaths() const
 {
     std::vector<std::string> paths;
+    paths.reserve(size_t(m_form->searchPaths->rowCount()));
     for (int row = 0; row < m_form->searchPaths->rowCount(); ++row)
         paths.push_back(m_form->searchPaths->item(row, 0)->text().toStdString());
     return paths;

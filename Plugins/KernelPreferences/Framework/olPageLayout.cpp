@@ -25,8 +25,7 @@ void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &lab
     inset += place.contentsMargins().left();
     if (const QLayout *layout = place.layout())
         inset += layout->contentsMargins().left();
-    const QObjectList children = place.children();
-    for (QObject *child : children) {
+    for (QObject *child : place.children()) {
         if (const auto *form = qobject_cast<QFormLayout *>(child)) {
             for (int row = 0; row < form->rowCount(); ++row) {
                 QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);

@@ -60,10 +60,10 @@ protected:
     }
     bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
 
-    int metric(PaintDeviceMetric metric) const override { return QWidget::metric(metric); }
+    [[nodiscard]] int metric(PaintDeviceMetric metric) const override { return QWidget::metric(metric); }
     void initPainter(QPainter *painter) const override { QWidget::initPainter(painter); }
     QPaintDevice *redirected(QPoint *offset) const override { return QWidget::redirected(offset); }
-    QPainter *sharedPainter() const override { return QWidget::sharedPainter(); }
+    [[nodiscard]] QPainter *sharedPainter() const override { return QWidget::sharedPainter(); }
 
     void timerEvent(QTimerEvent *event) override { QWidget::timerEvent(event); }
     void childEvent(QChildEvent *event) override { QWidget::childEvent(event); }

@@ -28,12 +28,12 @@ public:
     virtual void show() const {}
 
     /// Control to store; false where the store held that value already.
-    virtual bool takeIfChanged() const { return true; }
+    [[nodiscard]] virtual bool takeIfChanged() const { return true; }
     virtual void take() const {}
 
     /// The control alone.
     [[nodiscard]] virtual QVariant value() const { return {}; }
-    virtual bool setValue(const QVariant &) const { return false; }
+    [[nodiscard]] virtual bool setValue(const QVariant &) const { return false; }
 
 private:
     const olSettingBase &m_setting;
@@ -87,11 +87,11 @@ public:
         else
             showLive();
     }
-    bool takeIfChanged() const override { return Store::writeIfChanged(this->typed(), taken()); }
+    [[nodiscard]] bool takeIfChanged() const override { return Store::writeIfChanged(this->typed(), taken()); }
     void take() const override { Store::write(this->typed(), taken()); }
 
     [[nodiscard]] QVariant value() const override { return toVariant(taken()); }
-    bool setValue(const QVariant &variant) const override
+    [[nodiscard]] bool setValue(const QVariant &variant) const override
     {
         T value{};
         if (!fromVariant(variant, value))
@@ -131,11 +131,11 @@ public:
 
     void writeDefault(bool) const override {}
 
-    bool takeIfChanged() const override
+    [[nodiscard]] bool takeIfChanged() const override
     {
         const List list = this->taken();
         return list.empty() ? olRecordStore::remove(this->setting())
                             : olRecordStore::writeIfChanged(this->typed(), list);
     }
-    void take() const override { takeIfChanged(); }
+    void take() const override { (void)takeIfChanged(); }
 };
