@@ -9,6 +9,7 @@
 #include <TopoDS.hxx>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -50,6 +51,7 @@ void olLevelsOfDetail::add(const TopoDS_Shape &shape, const std::vector<olTriang
 {
     const std::vector<TopoDS_Face> faces = facesOf(shape);
     std::vector<Poly_ListOfTriangulation> levels;
+    levels.reserve(faces.size());
     for (const TopoDS_Face &face : faces)
         levels.push_back(triangulationsOf(face));
     for (const olTriangles::Fineness &fineness : coarser) {
@@ -83,7 +85,7 @@ int olLevelsOfDetail::forSize(double pixels, int levels)
     return level;
 }
 
-olLevelsOfDetail::InUse::InUse(const TopoDS_Shape &shape, int level) : m_shape(shape), m_level(level)
+olLevelsOfDetail::InUse::InUse(TopoDS_Shape shape, int level) : m_shape(std::move(shape)), m_level(level)
 {
     if (m_level > 0)
         use(m_shape, m_level);

@@ -24,7 +24,7 @@ void add(const TopoDS_Shape &shape, const std::vector<olTriangles::Fineness> &co
 class InUse
 {
 public:
-    InUse(const TopoDS_Shape &shape, int level);
+    InUse(TopoDS_Shape shape, int level);
     ~InUse();
     InUse(const InUse &) = delete;
     InUse &operator=(const InUse &) = delete;

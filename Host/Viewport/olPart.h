@@ -43,9 +43,9 @@ public:
 
 protected:
     void DefaultStyle(XCAFPrs_Style &style) const override;
-    Standard_Boolean AcceptDisplayMode(const Standard_Integer mode) const override;
+    Standard_Boolean AcceptDisplayMode(Standard_Integer mode) const override;
     void Compute(const Handle(PrsMgr_PresentationManager) & manager, const Handle(Prs3d_Presentation) & presentation,
-                 const Standard_Integer mode) override;
+                 Standard_Integer mode) override;
 
 private:
     [[nodiscard]] static int levelOf(int displayMode);

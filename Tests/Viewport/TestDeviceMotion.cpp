@@ -29,8 +29,8 @@ protected:
         olDeviceMotion::move(navigator, selected, seconds);
     }
 
-    gp_Vec wayFrom(const gp_Pnt &start) const { return {start, camera->Eye()}; }
-    double horizon() const { return camera->Direction().Crossed(camera->Up()).Z(); }
+    [[nodiscard]] gp_Vec wayFrom(const gp_Pnt &start) const { return {start, camera->Eye()}; }
+    [[nodiscard]] double horizon() const { return camera->Direction().Crossed(camera->Up()).Z(); }
 
     olHostState &state;
     opencascade::handle<Graphic3d_Camera> camera;
