@@ -36,7 +36,7 @@ void expectSame(const Values &left, const Values &right)
 /// What the control of a key holds; invalid for a key without one.
 QVariant onPage(const olPreferencesEntry &module, const std::string &key)
 {
-    QObject *access = module.page() ? module.page()->findChild<QObject *>("olSettingAccess") : nullptr;
+    auto *access = module.page() ? module.page()->findChild<QObject *>("olSettingAccess") : nullptr;
     QVariant value;
     if (access)
         QMetaObject::invokeMethod(access, "value", Q_RETURN_ARG(QVariant, value),
@@ -46,7 +46,7 @@ QVariant onPage(const olPreferencesEntry &module, const std::string &key)
 
 bool showOnPage(const olPreferencesEntry &module, const std::string &key, const QVariant &value)
 {
-    QObject *access = module.page()->findChild<QObject *>("olSettingAccess");
+    auto *access = module.page()->findChild<QObject *>("olSettingAccess");
     bool shown = false;
     QMetaObject::invokeMethod(access, "setValue", Q_RETURN_ARG(bool, shown),
                               Q_ARG(QString, QString::fromStdString(key)), Q_ARG(QVariant, value));

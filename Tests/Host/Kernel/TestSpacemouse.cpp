@@ -38,7 +38,7 @@ public:
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         std::strncpy(address.sun_path, file.constData(), sizeof address.sun_path - 1);
-        bind(m_listening, reinterpret_cast<const sockaddr *>(&address), sizeof address);
+        EXPECT_EQ(bind(m_listening, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
         listen(m_listening, 1);
         m_greeter = std::thread([this, manner] { greet(manner); });
     }

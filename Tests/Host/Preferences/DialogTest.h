@@ -31,8 +31,8 @@ class StudioAccess : public QObject
 public:
     explicit StudioAccess(StudioPage &page);
 
-    Q_INVOKABLE QVariant value(const QString &key) const;
-    Q_INVOKABLE bool setValue(const QString &key, const QVariant &value) const;
+    [[nodiscard]] Q_INVOKABLE QVariant value(const QString &key) const;
+    [[nodiscard]] Q_INVOKABLE bool setValue(const QString &key, const QVariant &value) const;
 
 private:
     StudioPage &m_page;

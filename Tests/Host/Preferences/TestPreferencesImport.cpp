@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -17,7 +18,7 @@ namespace
 class PreferencesImport : public DialogTest
 {
 protected:
-    QString file(const QByteArray &text) const
+    [[nodiscard]] QString file(const QByteArray &text) const
     {
         QFile out(folder.filePath(QStringLiteral("import.json")));
         EXPECT_TRUE(out.open(QIODevice::WriteOnly));
@@ -42,11 +43,9 @@ protected:
 
     [[nodiscard]] bool says(const QString &text) const
     {
-        for (const QLabel *label : dialog->findChildren<QLabel *>()) {
-            if (label->isVisible() && label->text().contains(text))
-                return true;
-        }
-        return false;
+        const auto labels = dialog->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&text](const QLabel *label) { return label->isVisible() && label->text().contains(text); });
     }
 };
 

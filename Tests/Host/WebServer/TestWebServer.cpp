@@ -71,7 +71,7 @@ protected:
         return finder.serverPort();
     }
 
-    QNetworkRequest request(const QString &path) const
+    [[nodiscard]] QNetworkRequest request(const QString &path) const
     {
         QNetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(port).arg(path)));
         request.setTransferTimeout(5000);

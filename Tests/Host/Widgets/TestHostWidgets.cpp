@@ -109,7 +109,7 @@ private:
 
     static QString nameOf(const QWidget &stop)
     {
-        auto *box = qobject_cast<const QCheckBox *>(&stop);
+        const auto *box = qobject_cast<const QCheckBox *>(&stop);
         return box ? box->text() : stop.accessibleName();
     }
 };
