@@ -8,6 +8,7 @@
 #include "Viewport/olLibraryMessages.h"
 #include "Viewport/olModelFormat.h"
 #include "Viewport/olPartChanges.h"
+#include "Viewport/olPlainLook.h"
 
 #include "Embedded/olHostState.h"
 
@@ -131,7 +132,8 @@ bool writeStl(const olScene::Document &document, const QString &file)
 bool writeObj(const olScene::Document &document, const QString &file)
 {
     RWObj_CafWriter writer(path(file));
-    return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
+    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
+                          Message_ProgressRange());
 }
 
 bool writeGltf(const olScene::Document &document, const QString &file)
@@ -140,7 +142,8 @@ bool writeGltf(const olScene::Document &document, const QString &file)
     RWGltf_CafWriter writer(path(file), isBinary);
     writer.ChangeCoordinateSystemConverter().SetInputLengthUnit(meter);
     writer.ChangeCoordinateSystemConverter().SetInputCoordinateSystem(RWMesh_CoordinateSystem_Zup);
-    return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
+    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
+                          Message_ProgressRange());
 }
 
 bool write(const olScene::Document &document, const olModelFormat &format, const QString &file, QStringList &remarks)
