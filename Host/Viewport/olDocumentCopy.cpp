@@ -48,6 +48,12 @@ struct Tools {
     Handle(XCAFDoc_VisMaterialTool) materials;
 };
 
+/// A location that moves nothing is none. The STEP writer falls over those that merely amount to nothing.
+TopLoc_Location tidied(const TopLoc_Location &location)
+{
+    return location.Transformation().Form() == gp_Identity ? TopLoc_Location() : location;
+}
+
 /// A group without members is no assembly in the eyes of the library.
 bool isGroup(const TDF_Label &label)
 {
@@ -138,7 +144,7 @@ private:
         const TDF_Label group = m_to.shapes->NewShape();
         copyLook(label, group);
         for (const auto &[component, target] : members) {
-            const TopLoc_Location where = move * XCAFDoc_ShapeTool::GetLocation(component);
+            const TopLoc_Location where = tidied(move * XCAFDoc_ShapeTool::GetLocation(component));
             copyLook(component, m_to.shapes->AddComponent(group, target, where));
         }
         return group;

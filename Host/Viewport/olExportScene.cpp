@@ -8,6 +8,7 @@
 #include "Viewport/olLibraryMessages.h"
 #include "Viewport/olModelFormat.h"
 #include "Viewport/olPartChanges.h"
+#include "Viewport/olPlainLook.h"
 
 #include "Embedded/olHostState.h"
 
@@ -15,7 +16,6 @@
 #include <IFSelect_ReturnStatus.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
-#include <NCollection_DataMap.hxx>
 #include <RWGltf_CafWriter.hxx>
 #include <RWObj_CafWriter.hxx>
 #include <STEPCAFControl_Controller.hxx>
@@ -23,10 +23,9 @@
 #include <Standard_Failure.hxx>
 #include <StlAPI_Writer.hxx>
 #include <TColStd_IndexedDataMapOfStringString.hxx>
-#include <TDF_LabelMapHasher.hxx>
 #include <TDF_LabelSequence.hxx>
+#include <TDF_Tool.hxx>
 #include <TDocStd_Document.hxx>
-#include <TopTools_MapOfShape.hxx>
 #include <TopoDS_Compound.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
@@ -37,6 +36,10 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTemporaryDir>
+
+#include <set>
+#include <sstream>
+#include <string>
 
 namespace
 {
@@ -50,19 +53,34 @@ QString translated(const char *text) { return QCoreApplication::translate("olExp
 
 TCollection_AsciiString path(const QString &file) { return QFile::encodeName(file).constData(); }
 
+/// What stands where in which group, as a key.
+std::string placeOf(const TDF_Label &instance)
+{
+    TDF_Label part;
+    XCAFDoc_ShapeTool::GetReferredShape(instance, part);
+    std::ostringstream place;
+    for (const TDF_Label &label : {instance.Father(), part}) {
+        TCollection_AsciiString entry;
+        TDF_Tool::Entry(label, entry);
+        place << entry.ToCString() << ' ';
+    }
+    const gp_Trsf where = XCAFDoc_ShapeTool::GetLocation(instance).Transformation();
+    for (int row = 1; row <= 3; ++row) {
+        for (int column = 1; column <= 4; ++column)
+            place << where.Value(row, column) << ' ';
+    }
+    return place.str();
+}
+
 /// Formats of surfaces take no triangles. And their writers fall over a part that stands twice in the same place with
 /// different looks, which nobody can see anyway.
 olScene::Document withoutMeshes(const olScene::Document &document, QStringList &remarks)
 {
     olDocumentCopy copy;
     copy.keepEmptyGroups = false;
-    NCollection_DataMap<TDF_Label, TopTools_MapOfShape, TDF_LabelMapHasher> places;
+    std::set<std::string> places;
     copy.isWanted = [&places, &remarks](const TDF_Label &instance) {
-        if (!XCAFDoc_ShapeTool::IsComponent(instance))
-            return true;
-        if (!places.IsBound(instance.Father()))
-            places.Bind(instance.Father(), {});
-        if (places.ChangeFind(instance.Father()).Add(XCAFDoc_ShapeTool::GetShape(instance)))
+        if (!XCAFDoc_ShapeTool::IsComponent(instance) || places.insert(placeOf(instance)).second)
             return true;
         remarks << translated("%1 stands twice in the same place; it is written once.").arg(olNameOf(instance));
         return false;
@@ -114,7 +132,8 @@ bool writeStl(const olScene::Document &document, const QString &file)
 bool writeObj(const olScene::Document &document, const QString &file)
 {
     RWObj_CafWriter writer(path(file));
-    return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
+    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
+                          Message_ProgressRange());
 }
 
 bool writeGltf(const olScene::Document &document, const QString &file)
@@ -123,7 +142,8 @@ bool writeGltf(const olScene::Document &document, const QString &file)
     RWGltf_CafWriter writer(path(file), isBinary);
     writer.ChangeCoordinateSystemConverter().SetInputLengthUnit(meter);
     writer.ChangeCoordinateSystemConverter().SetInputCoordinateSystem(RWMesh_CoordinateSystem_Zup);
-    return writer.Perform(document, TColStd_IndexedDataMapOfStringString(), Message_ProgressRange());
+    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
+                          Message_ProgressRange());
 }
 
 bool write(const olScene::Document &document, const olModelFormat &format, const QString &file, QStringList &remarks)

@@ -6,6 +6,7 @@
 #include "Viewport/olLibraryMessages.h"
 #include "Viewport/olMeshTools.h"
 #include "Viewport/olPartChanges.h"
+#include "Viewport/olPlainLook.h"
 #include "Viewport/olTextures.h"
 #include "Viewport/olTriangles.h"
 
@@ -244,6 +245,7 @@ QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImpo
     if (!hasGeometry(raw))
         return translated("there is no geometry in it");
     olFindTextures(job, raw, result.remarks);
+    olPlainLook::addTo(raw);
 
     const olScene::Document treated = Treatment(job, raw, result.remarks).run(scope.Next(treatmentShare));
     result.isCancelled = scope.UserBreak();

@@ -11,6 +11,7 @@ FORMATS = ["step", "stp", "igs", "iges", "stl", "wrl", "vrml", "obj", "gltf", "g
 class Batch(tool_test.ToolTest):
     def setUp(self):
         super().setUp()
+        self.environment["XDG_RUNTIME_DIR"] = str(self.folder)
         self.environment.update(DISPLAY=os.environ["DISPLAY"], XAUTHORITY=os.environ.get("XAUTHORITY", ""))
         self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
 
