@@ -18,6 +18,7 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 #include <map>
@@ -285,11 +286,13 @@ void HandWritten::show(const Row &row) const
         return showValue<osg::Color3f>(
             row, [&](const osg::Color3f &value) { static_cast<QOLColorManipulator *>(row.widget)->setColor(value); });
     case Kind::GradientColors:
-        return showValue<std::vector<osg::Color3f>>(
-            row, [&](const auto &value) { static_cast<olBackgroundTable *>(row.widget)->setColors(value); });
+        return showValue<std::vector<osg::Color3f>>(row, [&](const auto &value) {
+            olBackgroundTable(*static_cast<QTableWidget *>(row.widget)).setColors(value);
+        });
     case Kind::GradientPositions:
-        return showValue<std::vector<float>>(
-            row, [&](const auto &value) { static_cast<olBackgroundTable *>(row.widget)->setPositions(value); });
+        return showValue<std::vector<float>>(row, [&](const auto &value) {
+            olBackgroundTable(*static_cast<QTableWidget *>(row.widget)).setPositions(value);
+        });
     case Kind::Paths:
         return showPaths(*static_cast<QTableWidget *>(row.widget), {});
     case Kind::Tolerances:
@@ -359,9 +362,9 @@ void HandWritten::take(const Row &row) const
     case Kind::Color:
         return store(row, static_cast<const QOLColorManipulator *>(row.widget)->getColor());
     case Kind::GradientColors:
-        return store(row, static_cast<const olBackgroundTable *>(row.widget)->colors());
+        return store(row, olBackgroundTable(*static_cast<QTableWidget *>(row.widget)).colors());
     case Kind::GradientPositions:
-        return store(row, static_cast<const olBackgroundTable *>(row.widget)->positions());
+        return store(row, olBackgroundTable(*static_cast<QTableWidget *>(row.widget)).positions());
     case Kind::Paths: // there are none, and none are kept
         return m_record.remove(row.key);
     case Kind::Tolerances:

@@ -3,6 +3,7 @@
 #include "HandWrittenApply.h"
 #include "KConfigPages.h"
 #include "Support/BenchHost.h"
+#include "Utilities/olMessage.h"
 
 #include <benchmark/benchmark.h>
 

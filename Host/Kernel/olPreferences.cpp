@@ -10,22 +10,28 @@
 #include <string>
 #include <string_view>
 #include <typeinfo>
+#include <vector>
 
 namespace
 {
 
-/// The keys that a module reported unchanged. Every confirmation reports them all and every apply forgets them, so the
-/// texts stay and only what they mean is forgotten.
+/// The keys that a module reported unchanged. Every confirmation reports them all, in the same order, and every apply
+/// forgets them; so the texts stay, the next one is expected to be the one that followed before, and only the meaning
+/// is forgotten.
 class UnchangedKeys
 {
 public:
     void insert(std::string_view key)
     {
+        if (m_next < m_order.size() && m_order[m_next]->first == key) {
+            m_order[m_next++]->second = m_round;
+            return;
+        }
         const auto known = m_reported.find(key);
-        if (known == m_reported.end())
-            m_reported.emplace(key, m_round);
-        else
+        if (known != m_reported.end())
             known->second = m_round;
+        else
+            m_order.push_back(&*m_reported.emplace(key, m_round).first);
     }
     void erase(std::string_view key)
     {
@@ -38,11 +44,19 @@ public:
         const auto known = m_reported.find(key);
         return known != m_reported.end() && known->second == m_round;
     }
-    void clear() { ++m_round; }
+    void clear()
+    {
+        ++m_round;
+        m_next = 0;
+    }
 
 private:
-    /// With the round in which each was reported last.
-    std::map<std::string, std::size_t, std::less<>> m_reported;
+    /// Each key with the round in which it was reported last.
+    using Reported = std::map<std::string, std::size_t, std::less<>>;
+
+    Reported m_reported;
+    std::vector<Reported::value_type *> m_order;
+    std::size_t m_next = 0;
     std::size_t m_round = 1;
 };
 

@@ -1,6 +1,5 @@
 #include "FileIO/olFileIOPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "Kernel/olController.h"
 #include "Utilities/olPlatform.h"
 #include "ui_olFileIOPreferencesGUI.h"
@@ -25,7 +24,6 @@ olFileIOPreferencesGUIW::olFileIOPreferencesGUIW() : m_form(std::make_unique<Ui:
     connect(m_form->addPath, SIGNAL(clicked()), this, SLOT(clickedAdd()));
     connect(m_form->removePath, SIGNAL(clicked()), this, SLOT(clickedSub()));
     connect(m_form->browseTmpPath, SIGNAL(clicked()), this, SLOT(clickedGetTmpPath()));
-    alignFields(*this);
 }
 
 olFileIOPreferencesGUIW::~olFileIOPreferencesGUIW() = default;

@@ -1,6 +1,5 @@
 #include "FileIO/olFileTypePreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "ui_olFileTypePreferencesGUI.h"
 
 olFileTypePreferencesGUIW::olFileTypePreferencesGUIW() : m_form(std::make_unique<Ui::olFileTypePreferencesGUI>())
@@ -10,7 +9,6 @@ olFileTypePreferencesGUIW::olFileTypePreferencesGUIW() : m_form(std::make_unique
     for (QWidget *group : {m_form->jtLoader, m_form->jtBreps, m_form->rhino, m_form->stl, m_form->kbx})
         group->hide();
     orderTabKey();
-    alignFields(*this);
 }
 
 olFileTypePreferencesGUIW::~olFileTypePreferencesGUIW() = default;

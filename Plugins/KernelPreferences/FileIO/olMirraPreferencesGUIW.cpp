@@ -1,6 +1,5 @@
 #include "FileIO/olMirraPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "Utilities/olFile.h"
 #include "Utilities/olPlatform.h"
 #include "ui_olMirraPreferencesGUI.h"
@@ -12,7 +11,6 @@ olMirraPreferencesGUIW::olMirraPreferencesGUIW() : m_form(std::make_unique<Ui::o
     m_form->setupUi(this);
     m_form->setLocation->setIcon(olPlatform::getIcon(QLatin1String("FileOpen")));
     connect(m_form->setLocation, SIGNAL(clicked()), this, SLOT(clickedSetMirraLocation()));
-    alignFields(*this);
 }
 
 olMirraPreferencesGUIW::~olMirraPreferencesGUIW() = default;

@@ -1,7 +1,6 @@
 #include "FileIO/olTesselationPreferencesGUIW.h"
 
 #include "FileIO/olTesselationListViewItem.h"
-#include "Framework/olPageLayout.h"
 #include "Framework/olValidators.h"
 #include "ui_olTesselationPreferencesGUI.h"
 
@@ -29,7 +28,6 @@ olTesselationPreferencesGUIW::olTesselationPreferencesGUIW()
             SLOT(itemChanged(QTreeWidgetItem *, int)));
     connect(m_form->addQuality, SIGNAL(clicked()), this, SLOT(clickedAdd()));
     connect(m_form->removeQuality, SIGNAL(clicked()), this, SLOT(clickedRemove()));
-    alignFields(*this);
 }
 
 olTesselationPreferencesGUIW::~olTesselationPreferencesGUIW() = default;

@@ -3,8 +3,8 @@
 #include <QVariant>
 #include <QWidget>
 
-/// What every page is: a QWidget. The functions below do what those of QWidget do and stand here for the sake of
-/// loading, as those of olModule do: a page inherits some fifty.
+/// What every page is: a QWidget that aligns its fields before it is shown first. The functions below do what those of
+/// QWidget do and stand here for the sake of loading, as those of olModule do: a page inherits some fifty.
 class olPageWidget : public QWidget
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override { return QWidget::eventFilter(watched, event); }
 
 protected:
-    bool event(QEvent *event) override { return QWidget::event(event); }
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override { QWidget::mousePressEvent(event); }
     void mouseReleaseEvent(QMouseEvent *event) override { QWidget::mouseReleaseEvent(event); }
     void mouseDoubleClickEvent(QMouseEvent *event) override { QWidget::mouseDoubleClickEvent(event); }

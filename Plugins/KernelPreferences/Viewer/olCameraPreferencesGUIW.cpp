@@ -1,6 +1,5 @@
 #include "Viewer/olCameraPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "Framework/olValidators.h"
 #include "ui_olCameraPreferencesGUI.h"
 
@@ -12,7 +11,6 @@ olCameraPreferencesGUIW::olCameraPreferencesGUIW() : m_form(std::make_unique<Ui:
     for (QLineEdit *field : {m_form->eyeSeparation, m_form->zeroParallaxDistance, m_form->projectionWidth,
                              m_form->projectionHeight, m_form->projectionDistance})
         acceptNumbers(field);
-    alignFields(*this);
 }
 
 olCameraPreferencesGUIW::~olCameraPreferencesGUIW() = default;

@@ -1,6 +1,5 @@
 #include "Viewer/olHelpPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "Utilities/olPlatform.h"
 #include "ui_olHelpPreferencesGUI.h"
 
@@ -28,7 +27,6 @@ olHelpPreferencesGUIW::olHelpPreferencesGUIW() : m_form(std::make_unique<Ui::olH
     connect(m_form->popup, SIGNAL(currentIndexChanged(int)), this, SLOT(indexChangedPopup(int)));
     indexChangedLocation(m_form->location->currentIndex());
     indexChangedPopup(m_form->popup->currentIndex());
-    alignFields(*this);
 }
 
 olHelpPreferencesGUIW::~olHelpPreferencesGUIW() = default;

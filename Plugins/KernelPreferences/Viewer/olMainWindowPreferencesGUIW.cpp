@@ -1,6 +1,5 @@
 #include "Viewer/olMainWindowPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "ui_olMainWindowPreferencesGUI.h"
 
 namespace
@@ -16,7 +15,6 @@ olMainWindowPreferencesGUIW::olMainWindowPreferencesGUIW() : m_form(std::make_un
     m_form->setupUi(this);
     m_form->windowOpacity->setRange(lowestOpacity, 1.0);
     m_form->windowOpacity->setSteps(0.01, 0.1);
-    alignFields(*this);
 }
 
 olMainWindowPreferencesGUIW::~olMainWindowPreferencesGUIW() = default;

@@ -1,6 +1,5 @@
 #include "Viewer/olMarkerPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "Framework/olValidators.h"
 #include "Kernel/olController.h"
 #include "ui_olMarkerPreferencesGUI.h"
@@ -11,7 +10,6 @@ olMarkerPreferencesGUIW::olMarkerPreferencesGUIW() : m_form(std::make_unique<Ui:
 {
     m_form->setupUi(this);
     acceptNumbers(m_form->markerSize);
-    alignFields(*this);
 
     // Essentials selects in one way only; how that shows remains the user's choice.
     m_form->selectionModes->setVisible(!olController::isOrloEssentials());

@@ -45,7 +45,6 @@ olNavigatorPreferencesGUIW::olNavigatorPreferencesGUIW() : m_form(std::make_uniq
     m_form->duration->setMinimum(0.0);
     if (olController::isOrloEssentials())
         hideRow(*m_form->autoCenter);
-    alignFields(*this);
 
     // The first item that a combo gets becomes its current one, which must not choose a preset.
     fillCombos();

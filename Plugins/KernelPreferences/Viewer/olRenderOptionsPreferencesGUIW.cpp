@@ -38,7 +38,6 @@ olRenderOptionsPreferencesGUIW::olRenderOptionsPreferencesGUIW()
     adaptToEdition();
     scaleSizes();
     setUpBackground();
-    alignFields(*this);
 }
 
 olRenderOptionsPreferencesGUIW::~olRenderOptionsPreferencesGUIW() = default;

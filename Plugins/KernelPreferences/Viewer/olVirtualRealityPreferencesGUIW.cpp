@@ -1,6 +1,5 @@
 #include "Viewer/olVirtualRealityPreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "ui_olVirtualRealityPreferencesGUI.h"
 
 olVirtualRealityPreferencesGUIW::olVirtualRealityPreferencesGUIW()
@@ -8,7 +7,6 @@ olVirtualRealityPreferencesGUIW::olVirtualRealityPreferencesGUIW()
 {
     m_form->setupUi(this);
     m_form->range->setMinimum(0.0);
-    alignFields(*this);
 
     connect(m_form->renderMode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &olVirtualRealityPreferencesGUIW::followRenderMode);

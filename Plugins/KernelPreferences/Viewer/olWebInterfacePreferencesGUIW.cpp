@@ -1,6 +1,5 @@
 #include "Viewer/olWebInterfacePreferencesGUIW.h"
 
-#include "Framework/olPageLayout.h"
 #include "ui_olWebInterfacePreferencesGUI.h"
 
 #include <QMessageBox>
@@ -11,7 +10,6 @@ olWebInterfacePreferencesGUIW::olWebInterfacePreferencesGUIW()
     : m_form(std::make_unique<Ui::olWebInterfacePreferencesGUI>())
 {
     m_form->setupUi(this);
-    alignFields(*this);
 }
 
 olWebInterfacePreferencesGUIW::~olWebInterfacePreferencesGUIW() = default;
