@@ -27,6 +27,7 @@
 #include <TDF_Tool.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopoDS_Compound.hxx>
+#include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
@@ -112,9 +113,24 @@ TopoDS_Compound wholeShape(const olScene::Document &document)
     return whole;
 }
 
+/// The STEP writer falls over an instance with a look of its own whose part has none.
+void colorBareParts(const olScene::Document &document)
+{
+    const Handle(XCAFDoc_ColorTool) colors = XCAFDoc_DocumentTool::ColorTool(document->Main());
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
+    for (const TDF_Label &label : labels) {
+        if (!XCAFDoc_ShapeTool::IsAssembly(label) && !colors->IsSet(label, XCAFDoc_ColorSurf) &&
+            !colors->IsSet(label, XCAFDoc_ColorGen))
+            colors->SetColor(label, olPlainLook::bare(), XCAFDoc_ColorSurf);
+    }
+}
+
+/// Of a document of its own, whose looks it completes.
 bool writeStep(const olScene::Document &document, const QString &file)
 {
     const olExchangeLock lock;
+    colorBareParts(document);
     STEPCAFControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
     Interface_Static::SetCVal("write.step.unit", "MM");

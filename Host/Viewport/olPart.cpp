@@ -1,6 +1,7 @@
 #include "Viewport/olPart.h"
 
 #include "Viewport/olLevelsOfDetail.h"
+#include "Viewport/olPlainLook.h"
 
 #include <AIS_DisplayMode.hxx>
 #include <Graphic3d_AspectFillArea3d.hxx>
@@ -66,7 +67,12 @@ bool olPart::isTransparent() const
     return false;
 }
 
-void olPart::DefaultStyle(XCAFPrs_Style &style) const { style = m_style; }
+void olPart::DefaultStyle(XCAFPrs_Style &style) const
+{
+    style = m_style;
+    if (style.Material().IsNull() && !style.IsSetColorSurf())
+        style.SetColorSurf(olPlainLook::bare());
+}
 
 void olPart::setWritesDepth(bool writes)
 {

@@ -124,6 +124,8 @@ private:
 
 } // namespace
 
+Quantity_Color olPlainLook::bare() { return {0.86, 0.88, 0.9, Quantity_TOC_sRGB}; }
+
 void olPlainLook::addTo(const olScene::Document &document)
 {
     const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());

@@ -2,10 +2,15 @@
 
 #include "Viewport/olScene.h"
 
+#include <Quantity_Color.hxx>
+
 /// A colour without a material, and a material that is no more than a colour, look the same in the view and in every
 /// format.
 namespace olPlainLook
 {
+
+/// The colour of what has none.
+[[nodiscard]] Quantity_Color bare();
 
 /// Makes colours of materials that are no more than that, and gives those that only say how metallic and rough they are
 /// the look of their base colour: the view does not compute the reflections that would make them more than white.
