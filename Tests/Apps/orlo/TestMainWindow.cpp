@@ -9,6 +9,7 @@
 
 #include <TDocStd_Document.hxx>
 
+#include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
@@ -28,17 +29,22 @@ class MainWindow : public WindowTest
 protected:
     QLabel &frameRate = *window.statusBar()->findChild<QLabel *>(QStringLiteral("frameRate"));
 
-    /// What the dialog of the import says that something started; empty where none comes up.
-    QString outcomeAfter(const std::function<void()> &work)
+    /// Drops the file and confirms the dialog that asks how to import it.
+    void import(const QString &file)
     {
-        work();
-        const auto said = [this] {
-            const auto *dialog = window.findChild<olImportDialog *>();
-            const auto *outcome = dialog ? dialog->findChild<QPlainTextEdit *>() : nullptr;
-            return outcome && outcome->isVisible() ? outcome->toPlainText() : QString();
-        };
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !said().isEmpty(); }, 10000));
-        return said();
+        delete window.findChild<olImportDialog *>();
+        EXPECT_TRUE(drop({file}));
+        const auto *dialog = window.findChild<olImportDialog *>();
+        ASSERT_NE(dialog, nullptr);
+        emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    }
+
+    /// What the dialog says in the end.
+    QString outcome()
+    {
+        const auto *text = window.findChild<olImportDialog *>()->findChild<QPlainTextEdit *>();
+        EXPECT_TRUE(QTest::qWaitFor([text] { return text->isVisible(); }, 10000));
+        return text->toPlainText();
     }
 };
 
@@ -125,8 +131,8 @@ TEST_F(MainWindow, WhatIsDroppedIsReadOrRefusedOnceWithTheSceneKept)
     broken.write("ISO-10303-21;\nHEADER;\nnonsense");
     broken.close();
     const olScene::Document before = window.scene().document();
-    const QString fault = outcomeAfter([&] { EXPECT_TRUE(drop({broken.fileName()})); });
-    EXPECT_EQ(fault.count(QStringLiteral("broken.step")), 1) << fault.toStdString();
+    import(broken.fileName());
+    EXPECT_EQ(outcome().count(QStringLiteral("broken.step")), 1) << outcome().toStdString();
     EXPECT_EQ(window.scene().document(), before);
 
     QFile good(path(QStringLiteral("triangle.stl")));
@@ -134,7 +140,7 @@ TEST_F(MainWindow, WhatIsDroppedIsReadOrRefusedOnceWithTheSceneKept)
     good.write("solid t\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 9 0 0\nvertex 0 9 0\nendloop\nendfacet\n"
                "endsolid t\n");
     good.close();
-    EXPECT_TRUE(drop({good.fileName()}));
+    import(good.fileName());
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.scene().document() != before; }, 10000));
     EXPECT_EQ(window.scene().triangleCount(), 1u);
     EXPECT_EQ(tree.topLevelItemCount(), 1);
