@@ -1,5 +1,7 @@
 #include "olHostStatePanel.h"
 
+#include "olRecordedOnly.h"
+
 #include "Embedded/olHostState.h"
 #include "Embedded/olValue.h"
 
@@ -12,7 +14,12 @@ namespace
 
 enum Column { NameColumn, ValueColumn };
 
-QString valueText(const olHostValueBase &value) { return QString::fromStdString(olValue::toJson(value.any())); }
+QString valueText(const olHostValueBase &value)
+{
+    const QString text = QString::fromStdString(olValue::toJson(value.any()));
+    return olIsRecordedOnly(QString::fromLatin1(value.name())) ? olHostStatePanel::tr("%1 (only recorded)").arg(text)
+                                                               : text;
+}
 
 } // namespace
 

@@ -40,9 +40,24 @@ def sdk_faults(path, text):
             yield f"an SDK header includes {name} of the embedded host"
 
 
+def recorded_faults(root):
+    """No value may be called only recorded that the view or the viewer reads, or that the state does not have."""
+    marks = root / "Apps/orlo/olRecordedOnly.cpp"
+    names = re.findall(r'QStringLiteral\("(\w+)"\)', marks.read_text())
+    state = (root / "Host/Embedded/olHostState.h").read_text()
+    readers = [path for folder in ("Host/Viewport", "Apps/orlo") for path in sorted((root / folder).glob("*.cpp"))]
+    texts = {path: path.read_text() for path in readers if path != marks}
+    for name in names:
+        if f'"{name}"' not in state:
+            yield f"{marks.name}: {name} is no value of the host's state"
+        for path, text in texts.items():
+            if re.search(rf"\b{name}\b", text):
+                yield f"{path.relative_to(root)}: reads {name}, which {marks.name} calls only recorded"
+
+
 def main():
     root = Path(sys.argv[1])
-    faults = []
+    faults = list(recorded_faults(root))
     for path in sorted((root / "Plugins").rglob("*")):
         if path.suffix in {".h", ".cpp"}:
             faults += [f"{path.relative_to(root)}: {fault}" for fault in plugin_faults(path, path.read_text())]

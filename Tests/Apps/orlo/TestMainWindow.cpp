@@ -1,5 +1,6 @@
 #include "WindowTest.h"
 
+#include "olHostStatePanel.h"
 #include "olImportDialog.h"
 
 #include "Embedded/olHostState.h"
@@ -59,6 +60,18 @@ TEST_F(MainWindow, FramesPerSecondAreInTheStatusBarWhereWanted)
     EXPECT_GT(frameRate.text().section(QLatin1Char(' '), 0, 0).toDouble(), 0.0);
     apply(settings, "MainWindow show fps", false);
     EXPECT_FALSE(frameRate.isVisible());
+}
+
+TEST_F(MainWindow, TheHostStateSaysWhatIsOnlyRecorded)
+{
+    const auto *panel = window.findChild<olHostStatePanel *>()->findChild<QTreeWidget *>();
+    const auto value = [panel](const QString &name) {
+        return panel->findItems(name, Qt::MatchExactly).value(0)->text(1);
+    };
+    apply("Camera", "Camera fov", 30.0f);
+    apply("Camera", "Powerwall width", 99.0f);
+    EXPECT_EQ(value(QStringLiteral("fov")), QStringLiteral("30"));
+    EXPECT_EQ(value(QStringLiteral("powerwallWidth")), QStringLiteral("99 (only recorded)"));
 }
 
 TEST_F(MainWindow, OpacityNeverMakesTheWindowVanish)
