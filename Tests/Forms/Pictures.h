@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QDir>
-#include <QPixmap>
-#include <QString>
-#include <QWidget>
+#include <QtWidgets>
 
 /// Where pictures of what is tested are left, for people to look at.
 namespace Pictures

@@ -5,12 +5,7 @@
 #include "Support/PluginTest.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 
-#include <QApplication>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTranslator>
+#include <QtWidgets>
 
 #include <memory>
 #include <ostream>

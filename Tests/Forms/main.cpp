@@ -1,11 +1,6 @@
 #include "Forms/Pictures.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QPalette>
-#include <QSettings>
-#include <QStyleFactory>
-#include <QTemporaryDir>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace

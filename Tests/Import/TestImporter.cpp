@@ -6,10 +6,7 @@
 
 #include <TDocStd_Document.hxx>
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QMap>
-#include <QTimer>
+#include <QtCore>
 
 #include <algorithm>
 #include <future>

@@ -7,15 +7,7 @@
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
 
-#include <QAbstractItemView>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QToolButton>
+#include <QtWidgets>
 
 #include <iterator>
 

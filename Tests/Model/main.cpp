@@ -2,9 +2,7 @@
 
 #include "Model/ModelSession.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QDir>
+#include <QtWidgets>
 
 #include <cstdio>
 #include <iostream>

@@ -4,9 +4,7 @@
 #include "Support/PluginTest.h"
 #include "Widgets/olTesselationSettings.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <map>

@@ -8,13 +8,7 @@
 #include "Preferences/olPreferencesDialog.h"
 #include "Preferences/olPreferencesSession.h"
 
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 #include <algorithm>
 

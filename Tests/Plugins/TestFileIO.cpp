@@ -1,12 +1,7 @@
 #include "Support/PluginTest.h"
 
-#include <QApplication>
-#include <QFileDialog>
-#include <QHeaderView>
-#include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace
 {

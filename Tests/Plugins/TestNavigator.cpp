@@ -1,9 +1,6 @@
 #include "Support/PluginTest.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QMetaObject>
-#include <QVariant>
+#include <QtWidgets>
 
 namespace
 {

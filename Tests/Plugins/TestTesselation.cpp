@@ -1,11 +1,8 @@
 #include "Support/BoxWatch.h"
 #include "Support/PluginTest.h"
 
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 namespace
 {

@@ -1,17 +1,7 @@
 #include "Preferences/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QCoreApplication>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRegularExpression>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTranslator>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 #include <map>
 #include <set>

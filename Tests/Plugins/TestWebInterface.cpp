@@ -2,12 +2,8 @@
 #include "Support/BoxWatch.h"
 #include "Support/PluginTest.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QGroupBox>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace
 {

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QApplication>
-#include <QEvent>
-#include <QMessageBox>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <functional>
 

@@ -6,12 +6,8 @@
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 
-#include <QDropEvent>
-#include <QMenuBar>
-#include <QMimeData>
 #include <QTest>
-#include <QTreeWidgetItemIterator>
-#include <QUrl>
+#include <QtWidgets>
 
 #include <stdexcept>
 

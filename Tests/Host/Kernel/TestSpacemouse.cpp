@@ -2,11 +2,8 @@
 #include "Kernel/olSpacemouse.h"
 #include "Utilities/olLog.h"
 
-#include <QElapsedTimer>
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QtCore>
 #include <gtest/gtest.h>
 
 #include <array>

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QSlider>
 #include <QTest>
+#include <QtWidgets>
 
 namespace
 {

@@ -3,15 +3,8 @@
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QFile>
-#include <QFormLayout>
-#include <QMenu>
-#include <QMessageBox>
 #include <QTest>
-#include <QTimer>
-#include <QTreeWidget>
+#include <QtWidgets>
 
 #include <algorithm>
 

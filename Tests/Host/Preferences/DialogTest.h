@@ -5,16 +5,7 @@
 #include "Preferences/olPreferencesSession.h"
 #include "Utilities/olMessage.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTemporaryDir>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include <memory>

@@ -2,16 +2,8 @@
 #include "Preferences/olChangesView.h"
 #include "Preferences/olDialogMemory.h"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QFile>
-#include <QScreen>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSettings>
 #include <QTest>
-#include <QTreeWidget>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 using PreferencesDialog = DialogTest;
 

@@ -5,18 +5,8 @@
 #include "Widgets/QOLSpiner.h"
 #include "Widgets/QOLWheelPrec.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QFormLayout>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QSlider>
-#include <QTest>
-#include <QVBoxLayout>
-#include <QWheelEvent>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include <cmath>
