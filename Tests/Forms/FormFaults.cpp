@@ -2,8 +2,22 @@
 
 #include "Preferences/olPageIndex.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QStyleOption>
+#include <QTabBar>
 #include <QTest>
-#include <QtWidgets>
+#include <QToolButton>
 
 #include <algorithm>
 #include <map>

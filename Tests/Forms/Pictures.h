@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QtWidgets>
+#include <QDir>
+#include <QPixmap>
+#include <QString>
+#include <QWidget>
 
 /// Where pictures of what is tested are left, for people to look at.
 namespace Pictures

@@ -5,7 +5,12 @@
 #include "Support/PluginTest.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 
-#include <QtWidgets>
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTranslator>
 
 #include <memory>
 #include <ostream>

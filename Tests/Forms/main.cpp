@@ -1,6 +1,11 @@
 #include "Forms/Pictures.h"
 
-#include <QtWidgets>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QPalette>
+#include <QSettings>
+#include <QStyleFactory>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace

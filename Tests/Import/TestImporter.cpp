@@ -6,7 +6,10 @@
 
 #include <TDocStd_Document.hxx>
 
-#include <QtCore>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QMap>
+#include <QTimer>
 
 #include <algorithm>
 #include <future>

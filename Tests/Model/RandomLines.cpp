@@ -7,7 +7,15 @@
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
 
-#include <QtWidgets>
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
 
 #include <iterator>
 

@@ -2,7 +2,9 @@
 
 #include "Model/ModelSession.h"
 
-#include <QtWidgets>
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
 
 #include <cstdio>
 #include <iostream>

@@ -4,7 +4,9 @@
 #include "Support/PluginTest.h"
 #include "Widgets/olTesselationSettings.h"
 
-#include <QtWidgets>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
 
 #include <algorithm>
 #include <map>

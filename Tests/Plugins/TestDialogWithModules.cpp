@@ -8,7 +8,13 @@
 #include "Preferences/olPreferencesDialog.h"
 #include "Preferences/olPreferencesSession.h"
 
-#include <QtWidgets>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeWidget>
 
 #include <algorithm>
 

@@ -1,7 +1,12 @@
 #include "Support/PluginTest.h"
 
+#include <QApplication>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
-#include <QtWidgets>
+#include <QTimer>
 
 namespace
 {

@@ -1,6 +1,9 @@
 #include "Support/PluginTest.h"
 
-#include <QtWidgets>
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QMetaObject>
+#include <QVariant>
 
 namespace
 {

@@ -1,8 +1,11 @@
 #include "Support/BoxWatch.h"
 #include "Support/PluginTest.h"
 
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
-#include <QtWidgets>
+#include <QTreeWidget>
 
 namespace
 {

@@ -1,7 +1,17 @@
 #include "Preferences/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 
-#include <QtWidgets>
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTranslator>
+#include <QTreeWidget>
 
 #include <map>
 #include <set>

@@ -2,8 +2,12 @@
 #include "Support/BoxWatch.h"
 #include "Support/PluginTest.h"
 
-#include <QtTest>
-#include <QtWidgets>
+#include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
 
 namespace
 {

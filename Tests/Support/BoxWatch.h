@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QtWidgets>
+#include <QApplication>
+#include <QEvent>
+#include <QMessageBox>
+#include <QTimer>
 
 #include <functional>
 

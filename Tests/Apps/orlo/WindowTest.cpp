@@ -6,8 +6,12 @@
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 
+#include <QDropEvent>
+#include <QMenuBar>
+#include <QMimeData>
 #include <QTest>
-#include <QtWidgets>
+#include <QTreeWidgetItemIterator>
+#include <QUrl>
 
 #include <stdexcept>
 

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QtCore>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 namespace
 {

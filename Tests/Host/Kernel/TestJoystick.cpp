@@ -3,8 +3,10 @@
 #include "Kernel/olController.h"
 #include "Utilities/olLog.h"
 
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
 #include <QTest>
-#include <QtCore>
 #include <gtest/gtest.h>
 
 #include <fcntl.h>

@@ -2,8 +2,11 @@
 #include "Kernel/olSpacemouse.h"
 #include "Utilities/olLog.h"
 
+#include <QElapsedTimer>
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
 #include <QTest>
-#include <QtCore>
 #include <gtest/gtest.h>
 
 #include <array>

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QSlider>
 #include <QTest>
-#include <QtWidgets>
 
 namespace
 {

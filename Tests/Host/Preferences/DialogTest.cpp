@@ -3,8 +3,15 @@
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QFile>
+#include <QFormLayout>
+#include <QMenu>
+#include <QMessageBox>
 #include <QTest>
-#include <QtWidgets>
+#include <QTimer>
+#include <QTreeWidget>
 
 #include <algorithm>
 

@@ -5,7 +5,16 @@
 #include "Preferences/olPreferencesSession.h"
 #include "Utilities/olMessage.h"
 
-#include <QtWidgets>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include <memory>

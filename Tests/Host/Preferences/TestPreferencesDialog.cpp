@@ -2,8 +2,16 @@
 #include "Preferences/olChangesView.h"
 #include "Preferences/olDialogMemory.h"
 
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFile>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
 #include <QTest>
-#include <QtWidgets>
+#include <QTreeWidget>
+#include <QWheelEvent>
 
 using PreferencesDialog = DialogTest;
 

@@ -1,8 +1,10 @@
 #include "DialogTest.h"
 #include "Preferences/olSettingMarks.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
 #include <QTest>
-#include <QtWidgets>
 
 namespace
 {

@@ -5,9 +5,21 @@
 #include "Utilities/olLog.h"
 #include "Utilities/olMessage.h"
 
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QHostInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QProcess>
+#include <QSslConfiguration>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
 #include <QTest>
-#include <QtCore>
-#include <QtNetwork>
 #include <gtest/gtest.h>
 
 namespace
