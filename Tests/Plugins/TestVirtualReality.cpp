@@ -104,6 +104,9 @@ TEST_F(VirtualReality, OnlySixKeysRestartTheHeadset)
     }
     service.setFloat("StarVR Foveated FOV Factor", 0.5f);
     EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedFovFactor(0.5)"}));
+    host.displayType = 3;
+    service.setBool(foveatedKey, false);
+    EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedRendering(false)"})) << "it is on another display";
 }
 
 /// Moves the display while the headset takes its values.

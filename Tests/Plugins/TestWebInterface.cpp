@@ -128,32 +128,6 @@ TEST_F(WebInterface, ASwitchInTheEnvironmentCountsAtConstructionAlone)
     EXPECT_EQ(applied(), (Calls{stop, "olWebInterface::setDebugMode(true)"}));
 }
 
-TEST_F(WebInterface, EachOfTheEightKeysRestartsTheServerAndNothingChangedTouchesNothing)
-{
-    const std::vector<std::pair<std::string, boost::any>> changes{
-        {enableKey, true},
-        {"WebInterface port", 8889},
-        {"WebInterface ssl port", 0},
-        {"WebInterface localhost only", true},
-        {"WebInterface debug mode", true},
-        {"WebInterface use white list", true},
-        {"WebInterface white list", std::string("host")},
-        {"WebInterface secure python", false},
-    };
-    for (const auto &[key, value] : changes) {
-        webInterface().setDefaults(true);
-        webInterface().updateGUI();
-        // From here on the page takes this one key back as a change.
-        record().set(key, value);
-        webInterface().settle();
-        webInterface().updateData();
-        EXPECT_EQ(applied(), (Calls{stop, stop})) << key;
-        webInterface().settle();
-        webInterface().updateData();
-        EXPECT_TRUE(applied().empty()) << key;
-    }
-}
-
 /// Presses that button of each box, or Escape where there is none, and keeps the last one's buttons.
 class Answer : public BoxWatch
 {
