@@ -344,8 +344,6 @@ TEST_F(ImportOption, OptimizingRepairsWhatTheCheckFindsFaulty)
 {
     // A face whose border is left open.
     Model model;
-    TopoDS_Compound broken;
-    BRep_Builder().MakeCompound(broken);
     TopoDS_Shape open = box(0).EmptyCopied();
     TopExp_Explorer shell(box(0), TopAbs_SHELL);
     BRep_Builder().Add(open, shell.Current().Reversed());
