@@ -310,6 +310,16 @@ boost::any fromJson(const std::string &name, const QByteArray &text)
     return type ? type->fromJson(json) : boost::any();
 }
 
+boost::any fromTyped(const std::string &type, const QString &typed)
+{
+    boost::any value = fromJson(type, typed.toUtf8());
+    if (value.empty() && type == "qstring")
+        return typed;
+    if (value.empty() && type == "string")
+        return typed.toStdString();
+    return value;
+}
+
 bool equal(const boost::any &left, const boost::any &right)
 {
     if (left.empty() || right.empty())
