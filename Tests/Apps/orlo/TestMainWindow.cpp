@@ -45,6 +45,8 @@ protected:
     {
         const auto *text = window.findChild<olImportDialog *>()->findChild<QPlainTextEdit *>();
         EXPECT_TRUE(QTest::qWaitFor([text] { return text->isVisible(); }, 10000));
+        EXPECT_EQ(window.findChild<olImportDialog *>()->findChild<QDialogButtonBox *>()->buttons().size(), 1)
+            << "Close";
         return text->toPlainText();
     }
 };
