@@ -4,7 +4,9 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 #include <optional>
@@ -28,6 +30,8 @@ public:
                m_file.st_size == other.m_file.st_size && m_file.st_ctim.tv_sec == other.m_file.st_ctim.tv_sec &&
                m_file.st_ctim.tv_nsec == other.m_file.st_ctim.tv_nsec;
     }
+
+    [[nodiscard]] off_t logSize() const { return m_log.st_size; }
 
 private:
     /// All zero for a file that is not there.
@@ -78,8 +82,11 @@ public:
         m_begin.run();
         prove(wasStore);
         m_tables.change(put, removed);
-        if (m_database.wasMoved() || (m_standing && !(*m_standing == Standing(m_path))))
+        const Standing now(m_path);
+        if (m_database.wasMoved() || (m_standing && !(*m_standing == now)))
             throw Gone();
+        if (m_standing)
+            makeRoom(now.logSize());
         m_commit.run();
         if (m_standing)
             return;
@@ -105,6 +112,25 @@ private:
         }
     }
 
+    /// A save that lengthens the log waits for the disk twice as long as one that finds room in it. Nobody else writes
+    /// the log during this transaction, and zeros behind its last save mean nothing to the database.
+    void makeRoom(off_t logSize)
+    {
+        static const std::array<char, std::size_t(128) << 10> zeros{};
+        // Before its header stands, the log has to be empty.
+        if (logSize == 0 || logSize <= m_roomEnd)
+            return;
+        m_roomEnd = logSize + off_t(zeros.size());
+        const int log = ::open((m_path + "-wal").constData(), O_WRONLY | O_CLOEXEC);
+        if (log < 0)
+            return;
+        // On a full disk the save itself may still fit.
+        const bool isMade = ::pwrite(log, zeros.data(), zeros.size(), logSize) == ssize_t(zeros.size());
+        if (!isMade && ::ftruncate(log, logSize) != 0)
+            m_roomEnd = 0;
+        ::close(log);
+    }
+
     QByteArray m_path;
     olSqlite m_database;
     olStoreTables m_tables;
@@ -112,6 +138,7 @@ private:
     olSqliteStatement m_commit = m_database.prepare("COMMIT");
     olSqliteStatement m_version = m_database.prepare("PRAGMA data_version");
     int m_provedVersion = 0;
+    off_t m_roomEnd = 0;
     std::optional<Standing> m_standing;
 };
 
