@@ -9,7 +9,7 @@
 namespace
 {
 
-/// A library of the host's, loaded as the host loads it but not entered.
+/// A library of the host's, loaded but not entered.
 class Library
 {
 public:
@@ -56,13 +56,6 @@ void memory(benchmark::State &state)
     }
 }
 
-void load(benchmark::State &state, const char *file)
-{
-    std::unique_ptr<Library> library;
-    measure(
-        state, [&] { library = std::make_unique<Library>(file); }, {}, [&] { library.reset(); });
-}
-
 } // namespace
 
 std::shared_ptr<void> registerConstruction()
@@ -76,9 +69,5 @@ std::shared_ptr<void> registerConstruction()
     benchmark::RegisterBenchmark("construct modules", constructModules)->UseManualTime()->Iterations(repeats);
     benchmark::RegisterBenchmark("construct forms", constructForms)->UseManualTime()->Iterations(repeats);
     benchmark::RegisterBenchmark("memory", memory)->Iterations(1);
-    benchmark::RegisterBenchmark("load plug-in", load, ORLO_PLUGIN_FILE)->UseManualTime()->Iterations(20 * repeats);
-    benchmark::RegisterBenchmark("load empty plug-in", load, ORLO_EMPTY_PLUGIN_FILE)
-        ->UseManualTime()
-        ->Iterations(20 * repeats);
     return {};
 }

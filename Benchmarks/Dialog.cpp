@@ -6,10 +6,17 @@
 #include "Support/BenchHost.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QSettings>
+#include <QTreeWidget>
 #include <benchmark/benchmark.h>
 
 namespace
@@ -62,6 +69,7 @@ void openDialog(benchmark::State &state, const QString &name)
         [&] {
             QSettings().clear();
             host = std::make_unique<BenchHost>();
+            QApplication::processEvents();
         },
         [&] {
             dialog.reset();
@@ -77,6 +85,45 @@ void openBareDialog(benchmark::State &state, const std::string &moduleClass)
         BareForms::setUp(moduleClass, *dialog);
         dialog->show();
         Painting().of(*dialog);
+    };
+    measure(state, open, {}, [&] { dialog.reset(); });
+}
+
+/// What a list of all pages, a search field and the buttons cost whoever writes them, before they do anything.
+void openFurnishedDialog(benchmark::State &state, const std::string &moduleClass)
+{
+    QStringList names;
+    {
+        const BenchHost host;
+        for (const olPreferencesEntry *module : olPreferencesRegistry::the().entries())
+            names << module->name();
+    }
+    std::unique_ptr<QDialog> dialog;
+    const auto open = [&] {
+        dialog = std::make_unique<QDialog>();
+        auto *list = new QTreeWidget;
+        list->setHeaderHidden(true);
+        for (const QString &name : names)
+            new QTreeWidgetItem(list, {name});
+        auto *form = new QWidget;
+        BareForms::setUp(moduleClass, *form);
+        auto *pages = new QScrollArea;
+        pages->setWidgetResizable(true);
+        pages->setWidget(form);
+        auto *layout = new QGridLayout(dialog.get());
+        layout->addWidget(new QLineEdit, 0, 0);
+        layout->addWidget(new QCheckBox(QStringLiteral("Changed only")), 1, 0);
+        layout->addWidget(list, 2, 0);
+        layout->addWidget(new QLabel(QStringLiteral("Page")), 0, 1);
+        layout->addWidget(new QPushButton(QStringLiteral("Restore")), 1, 1);
+        layout->addWidget(pages, 2, 1);
+        layout->addWidget(
+            new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel), 3, 0, 1,
+            2);
+        const QFontMetrics metrics = dialog->fontMetrics();
+        dialog->resize(metrics.averageCharWidth() * 130, metrics.height() * 36);
+        dialog->show();
+        Painting().of(*form);
     };
     measure(state, open, {}, [&] { dialog.reset(); });
 }
@@ -122,9 +169,11 @@ std::shared_ptr<void> registerDialog()
         benchmark::RegisterBenchmark((std::string("open/") + name).c_str(), openDialog, qtName)
             ->UseManualTime()
             ->Iterations(repeats);
-        benchmark::RegisterBenchmark((std::string("open bare/") + name).c_str(), openBareDialog, moduleClass)
-            ->UseManualTime()
-            ->Iterations(repeats);
+        for (const auto &[kind, open] :
+             {std::pair("open bare/", openBareDialog), {"open furnished/", openFurnishedDialog}})
+            benchmark::RegisterBenchmark((kind + std::string(name)).c_str(), open, moduleClass)
+                ->UseManualTime()
+                ->Iterations(repeats);
     }
     return {};
 }

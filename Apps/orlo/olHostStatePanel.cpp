@@ -3,7 +3,6 @@
 #include "Embedded/olHostState.h"
 #include "Embedded/olValue.h"
 
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -27,7 +26,8 @@ olHostStatePanel::olHostStatePanel(QWidget *parent)
     m_values->setHeaderLabels({tr("Name"), tr("Value")});
     m_values->setRootIsDecorated(false);
     m_values->setAlternatingRowColors(true);
-    m_values->header()->setSectionResizeMode(NameColumn, QHeaderView::ResizeToContents);
+    m_values->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_values->setColumnWidth(NameColumn, fontMetrics().averageCharWidth() * 22);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_filter);
@@ -45,6 +45,7 @@ void olHostStatePanel::fill()
     for (const olHostValueBase *value : olHostState::the().values()) {
         auto *item = new QTreeWidgetItem(m_values);
         item->setText(NameColumn, QString::fromLatin1(value->name()));
+        item->setToolTip(NameColumn, item->text(NameColumn));
         item->setText(ValueColumn, valueText(*value));
         item->setToolTip(ValueColumn, item->text(ValueColumn));
     }

@@ -195,6 +195,7 @@ void olSceneView::Private::measure()
             shown.push_back(part);
     }
     box = boxOf(shown);
+    hasTransparency = std::any_of(shown.begin(), shown.end(), [](const auto &part) { return part->isTransparent(); });
 }
 
 void olSceneView::Private::showParts(const olScene::Document &document, const QSet<QString> &hidden)
@@ -204,7 +205,6 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
         context->Remove(part, Standard_False);
     parts.clear();
     selected.clear();
-    hasTransparency = false;
 
     std::vector<TopLoc_Location> joints;
     for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
@@ -214,7 +214,6 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
         const bool shown = !hidden.contains(QString::fromLatin1(node.Id.ToCString()));
         showPart(part, shown);
         parts.push_back(part);
-        hasTransparency = hasTransparency || (shown && part->isTransparent());
         if (shown && !node.Location.IsIdentity())
             joints.push_back(node.Location);
     }

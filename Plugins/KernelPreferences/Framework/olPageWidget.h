@@ -70,4 +70,7 @@ protected:
     void customEvent(QEvent *event) override { QWidget::customEvent(event); }
     void connectNotify(const QMetaMethod &signal) override { QWidget::connectNotify(signal); }
     void disconnectNotify(const QMetaMethod &signal) override { QWidget::disconnectNotify(signal); }
+
+private:
+    bool m_isAligned = false;
 };
