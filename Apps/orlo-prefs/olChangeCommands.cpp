@@ -10,19 +10,6 @@
 namespace
 {
 
-/// A text setting takes any text as it is, so that nobody has to quote within quotes.
-boost::any valueFrom(const std::string &type, const QString &written)
-{
-    boost::any value = olValue::fromJson(type, written.toUtf8());
-    if (!value.empty())
-        return value;
-    if (type == "qstring")
-        return written;
-    if (type == "string")
-        return written.toStdString();
-    return {};
-}
-
 void requireUnlocked(const olPreferencesSession &session, const std::string &key)
 {
     if (const auto reason = session.lockReason(key))
@@ -46,7 +33,7 @@ void olPrefsCommands::set(olPrefsTool &tool)
     const olKnownSetting &setting = settings.named(tool.arguments().at(0));
     requireUnlocked(tool.session(), setting.key);
     const QString &written = tool.arguments().at(1);
-    const boost::any value = valueFrom(setting.type, written);
+    const boost::any value = olValue::fromTyped(setting.type, written);
     if (value.empty())
         requireExpected(QString::fromStdString(olValue::expectation(setting.type)), setting, written);
     requireExpected(olControlBounds(setting.control, setting.key, setting.standard, value), setting, written);

@@ -1,22 +1,26 @@
 #include "olGivenSettings.h"
 
 #include "Embedded/olValue.h"
+#include "Preferences/olControlBounds.h"
+#include "Preferences/olPageIndex.h"
 #include "Preferences/olPreferencesEntry.h"
 #include "Preferences/olPreferencesRegistry.h"
 #include "Preferences/olPreferencesSession.h"
 
+#include <algorithm>
+
 namespace
 {
 
-/// A text setting takes any text as it is, so that nobody has to quote within quotes.
-boost::any valueFrom(const std::string &type, const QString &text)
+QWidget *controlOf(const olPreferencesEntry &owner, const QString &key)
 {
-    boost::any value = olValue::fromJson(type, text.toUtf8());
-    if (value.empty() && type == "qstring")
-        return text;
-    if (value.empty() && type == "string")
-        return text.toStdString();
-    return value;
+    if (!owner.page())
+        return nullptr;
+    const olPageIndex index(*owner.page());
+    const auto &controls = index.controls();
+    const auto found = std::find_if(controls.begin(), controls.end(),
+                                    [&key](const olPageControl &control) { return control.settingKeys.contains(key); });
+    return found == controls.end() ? nullptr : found->widget;
 }
 
 QString setOne(const olPreferencesSession &session, const QString &setting)
@@ -31,11 +35,14 @@ QString setOne(const olPreferencesSession &session, const QString &setting)
         return QStringLiteral("there is no setting \"%1\"").arg(name);
     if (const std::optional<QString> reason = session.lockReason(key))
         return QStringLiteral("\"%1\" is locked: %2").arg(name, *reason);
-    const std::string type = olValue::typeName(owner->findDefault(key)->value);
-    const boost::any value = valueFrom(type, setting.mid(equals + 1).trimmed());
-    if (value.empty())
-        return QStringLiteral("%1 is no value for \"%2\": expected %3")
-            .arg(setting.mid(equals + 1).trimmed(), name, QString::fromStdString(olValue::expectation(type)));
+    const boost::any standard = owner->findDefault(key)->value;
+    const std::string type = olValue::typeName(standard);
+    const QString typed = setting.mid(equals + 1).trimmed();
+    const boost::any value = olValue::fromTyped(type, typed);
+    const QString expected = value.empty() ? QString::fromStdString(olValue::expectation(type))
+                                           : olControlBounds(controlOf(*owner, name), key, standard, value);
+    if (!expected.isEmpty())
+        return QStringLiteral("%1 is no value for \"%2\": expected %3").arg(typed, name, expected);
     owner->setValue(key, value);
     return {};
 }

@@ -61,7 +61,6 @@ olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, QWidget *pa
           static_cast<QWidget *>(m_buttons)})
         layout->addWidget(widget);
     setMinimumWidth(fontMetrics().averageCharWidth() * 60);
-    layout->setSizeConstraint(QLayout::SetMinimumSize);
     connect(m_buttons, &QDialogButtonBox::accepted, this, [this] {
         showReading();
         emit confirmed();
@@ -100,6 +99,7 @@ void olImportDialog::setStage(Stage stage)
     m_ground->setVisible(isAsking);
     m_progress->setVisible(stage == Stage::Reading);
     m_outcome->setVisible(stage == Stage::Done);
+    m_buttons->clear();
     m_buttons->setStandardButtons(stage == Stage::Done ? QDialogButtonBox::Close : QDialogButtonBox::Cancel);
     if (isAsking)
         m_buttons->addButton(tr("Import"), QDialogButtonBox::AcceptRole)->setDefault(true);

@@ -35,6 +35,9 @@ ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QJsonValue &j
 /// As above from JSON text, with every digit as it stands; empty also where the text is no JSON.
 ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &text);
 
+/// From what somebody typed: JSON, or for a text setting the text as it is, so that nobody has to quote within quotes.
+ORLO_SDK_EXPORT boost::any fromTyped(const std::string &type, const QString &typed);
+
 /// Same type and same value, floats by `==`, colours channel by channel. An empty value equals only an empty one.
 ORLO_SDK_EXPORT bool equal(const boost::any &left, const boost::any &right);
 
