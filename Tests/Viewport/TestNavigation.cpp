@@ -31,7 +31,7 @@ protected:
     }
     ~Navigation() override { state.reset(); }
 
-    double distance() const { return camera->Eye().Distance(navigator.pivot()); }
+    [[nodiscard]] double distance() const { return camera->Eye().Distance(navigator.pivot()); }
 
     olHostState &state;
     opencascade::handle<Graphic3d_Camera> camera;
