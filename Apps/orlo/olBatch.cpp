@@ -62,8 +62,10 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
 int olBatch::save(const olScene &scene, const QString &file)
 {
     const olExportResult result = olExportScene(scene.document(), file);
+    if (!result.error.isEmpty())
+        return fail(result.error, 1);
     remark(result.remarks);
-    return result.error.isEmpty() ? 0 : fail(result.error, 1);
+    return 0;
 }
 
 std::optional<QSize> olBatch::sizeFrom(const QString &text)
