@@ -47,6 +47,10 @@ class Figures:
     def counter(self, name, counter):
         return statistics.median(run[counter] for run in self.runs[name])
 
+    def least(self, name, counter):
+        # What else the machine has to do only ever adds to a time.
+        return min(run[counter] for run in self.runs[name])
+
 
 def at_most(name, value, goal):
     return {"name": name, "value": round(value, 3), "goal": f"<= {goal}", "holds": value <= goal}
@@ -138,7 +142,7 @@ def growth(program):
 
     def power(step):
         xs = [math.log(size) for size in sizes]
-        ys = [math.log(figures.counter(f"grow/{size}", step)) for size in sizes]
+        ys = [math.log(figures.least(f"grow/{size}", step)) for size in sizes]
         mean_x, mean_y = statistics.mean(xs), statistics.mean(ys)
         return 1 + (sum((x - mean_x) * (y - mean_y) for x, y in zip(xs, ys)) / sum((x - mean_x) ** 2 for x in xs))
 

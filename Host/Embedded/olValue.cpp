@@ -13,6 +13,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <typeinfo>
 
 namespace
 {
@@ -210,7 +211,7 @@ template <class T> bool exact(const std::vector<T> &left, const std::vector<T> &
 struct Type {
     const char *name;
     const char *expectation;
-    bool (*holds)(const boost::any &);
+    const std::type_info *id;
     std::string (*toJson)(const boost::any &);
     boost::any (*fromJson)(olJsonReader &);
     bool (*equal)(const boost::any &, const boost::any &);
@@ -220,7 +221,7 @@ struct Type {
 
 template <class T> Type type(const char *name, const char *expectation)
 {
-    return {name, expectation, [](const boost::any &value) { return boost::any_cast<T>(&value) != nullptr; },
+    return {name, expectation, &typeid(T),
             [](const boost::any &value) { return json(boost::any_cast<const T &>(value)); },
             [](olJsonReader &json) {
                 const auto value = parse<T>(json);
@@ -256,8 +257,9 @@ const std::vector<Type> &types()
 
 const Type *typeOf(const boost::any &value)
 {
+    const std::type_info &id = value.type();
     for (const Type &type : types()) {
-        if (type.holds(value))
+        if (id == *type.id)
             return &type;
     }
     return nullptr;
@@ -325,13 +327,14 @@ bool equal(const boost::any &left, const boost::any &right)
     if (left.empty() || right.empty())
         return left.empty() && right.empty();
     const Type *type = typeOf(left);
-    return type && type->holds(right) && type->equal(left, right);
+    return type && right.type() == *type->id && type->equal(left, right);
 }
 
 bool identical(const boost::any &left, const boost::any &right)
 {
     const Type *type = typeOf(left);
-    return type == typeOf(right) && (!type || type->identical(left, right));
+    // What settings cannot hold is nothing here.
+    return type ? right.type() == *type->id && type->identical(left, right) : !typeOf(right);
 }
 
 boost::any adopted(const boost::any &value)

@@ -33,6 +33,7 @@ void olPreferencesEntry::subPage(QWidget *page)
 void olPreferencesEntry::setDefaults(bool flag)
 {
     const olPreferencesRegistry::Recording recording(*this);
+    olPreferencesRegistry::the().forgetOffers();
     m_defaults.clear();
     writeDefaults(flag);
 }
@@ -54,6 +55,8 @@ void olPreferencesEntry::replaceDefault(const std::string &key, const boost::any
 
 void olPreferencesEntry::offered(const std::string &key, const boost::any &value)
 {
-    if (!findDefault(key))
-        m_defaults.push_back({key, olValue::adopted(value)});
+    if (findDefault(key))
+        return;
+    olPreferencesRegistry::the().forgetOffers();
+    m_defaults.push_back({key, olValue::adopted(value)});
 }

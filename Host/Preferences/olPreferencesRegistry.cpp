@@ -24,9 +24,31 @@ olPreferencesEntry *olPreferencesRegistry::find(const QString &name) const
 
 olPreferencesEntry *olPreferencesRegistry::ownerOf(const std::string &key) const
 {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&key](const olPreferencesEntry *entry) { return entry->findDefault(key); });
-    return found == m_entries.end() ? nullptr : *found;
+    const auto [first, end] = offersOf(key);
+    return first == end ? nullptr : first->entry;
+}
+
+const olPreferencesRegistry::Offers &olPreferencesRegistry::offers() const
+{
+    if (!m_offers.empty())
+        return m_offers;
+    for (olPreferencesEntry *entry : m_entries) {
+        for (const olOfferedDefault &offered : entry->defaults())
+            m_offers.push_back({entry, &offered});
+    }
+    std::stable_sort(m_offers.begin(), m_offers.end(),
+                     [](const olOffer &one, const olOffer &other) { return one.offered->key < other.offered->key; });
+    return m_offers;
+}
+
+std::pair<olPreferencesRegistry::Offers::const_iterator, olPreferencesRegistry::Offers::const_iterator>
+olPreferencesRegistry::offersOf(const std::string &key) const
+{
+    struct ByKey {
+        bool operator()(const olOffer &offer, const std::string &key) const { return offer.offered->key < key; }
+        bool operator()(const std::string &key, const olOffer &offer) const { return key < offer.offered->key; }
+    };
+    return std::equal_range(offers().begin(), offers().end(), key, ByKey());
 }
 
 void olPreferencesRegistry::adoptRecord()
@@ -58,6 +80,7 @@ void olPreferencesRegistry::add(olPreferencesEntry &entry)
 void olPreferencesRegistry::remove(olPreferencesEntry &entry)
 {
     m_entries.erase(std::remove(m_entries.begin(), m_entries.end(), &entry), m_entries.end());
+    forgetOffers();
     emit changed();
 }
 

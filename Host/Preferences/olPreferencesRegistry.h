@@ -7,9 +7,18 @@
 #include <QString>
 
 #include <functional>
+#include <string>
+#include <utility>
 #include <vector>
 
 class olPreferencesEntry;
+struct olOfferedDefault;
+
+/// A setting of a module.
+struct olOffer {
+    olPreferencesEntry *entry;
+    const olOfferedDefault *offered;
+};
 
 /// The host's index of all modules, in the order of their registration, and the record that they share.
 class ORLO_SDK_EXPORT olPreferencesRegistry : public QObject, private olMessageObserver
@@ -29,6 +38,12 @@ public:
 
     /// The module that offered a default for the key; null where none did.
     [[nodiscard]] olPreferencesEntry *ownerOf(const std::string &key) const;
+
+    /// What all modules offered, in the order of the keys; of the same key in the order of the modules. Valid until a
+    /// module is asked for its defaults, or goes.
+    using Offers = std::vector<olOffer>;
+    [[nodiscard]] const Offers &offers() const;
+    [[nodiscard]] std::pair<Offers::const_iterator, Offers::const_iterator> offersOf(const std::string &key) const;
 
     /// Told the name of each module about to register. An exception from it leaves that module unregistered.
     void setRegistrationHook(std::function<void(const QString &name)> hook) { m_hook = std::move(hook); }
@@ -62,9 +77,11 @@ private:
     void remove(olPreferencesEntry &entry);
     void pageAdded(olPreferencesEntry &entry);
     void pageRemoved(olPreferencesEntry &entry);
+    void forgetOffers() { m_offers.clear(); }
 
     olMessage m_record;
     std::vector<olPreferencesEntry *> m_entries;
+    mutable Offers m_offers;
     olPreferencesEntry *m_recording = nullptr;
     std::function<void(const QString &name)> m_hook;
 };

@@ -11,8 +11,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
-#include <unordered_set>
 
 namespace
 {
@@ -57,21 +55,32 @@ private:
     olPreferencesService m_service;
 };
 
-bool isDefault(const olPreferencesStore::Key &key, const boost::any &value)
+bool isStorable(const boost::any &value) { return !olValue::typeName(value).empty(); }
+
+using Offer = olPreferencesRegistry::Offers::const_iterator;
+
+/// Several modules may have a setting, in one home or in both.
+bool isIn(olHome home, Offer first, Offer end)
 {
-    return std::any_of(entries().begin(), entries().end(), [&](const olPreferencesEntry *entry) {
-        const olOfferedDefault *offered = entry->home() == key.first ? entry->findDefault(key.second) : nullptr;
-        return offered && olValue::identical(offered->value, value);
+    return std::any_of(first, end, [home](const olOffer &offer) { return offer.entry->home() == home; });
+}
+
+bool isDefault(olHome home, const boost::any &value, Offer first, Offer end)
+{
+    return std::any_of(first, end, [&](const olOffer &offer) {
+        return offer.entry->home() == home && olValue::identical(offer.offered->value, value);
     });
 }
 
-bool isStorable(const boost::any &value) { return !olValue::typeName(value).empty(); }
-
 bool hasDefault(const olPreferencesStore::Key &key)
 {
-    return std::any_of(entries().begin(), entries().end(), [&](const olPreferencesEntry *entry) {
-        return entry->home() == key.first && entry->findDefault(key.second);
-    });
+    const auto [first, end] = olPreferencesRegistry::the().offersOf(key.second);
+    return isIn(key.first, first, end);
+}
+
+boost::any valueAt(const olPreferencesStore::Key &key)
+{
+    return key.first == olHome::Record ? record().get(key.second) : service().get(key.second);
 }
 
 void setDisplayLanguage()
@@ -83,10 +92,8 @@ void setDisplayLanguage()
 /// Calls with each module that has the setting.
 template <class Visit> void eachOwner(const std::string &key, Visit visit)
 {
-    for (olPreferencesEntry *entry : entries()) {
-        if (entry->findDefault(key))
-            visit(*entry);
-    }
+    const auto [first, end] = olPreferencesRegistry::the().offersOf(key);
+    std::for_each(first, end, [&visit](const olOffer &offer) { visit(*offer.entry); });
 }
 
 /// The modules with, behind them, those that have one of the settings.
@@ -199,32 +206,40 @@ void olPreferencesSession::newScene()
 Values olPreferencesSession::current() const
 {
     Values values;
-    std::unordered_set<std::string_view> offeredKeys;
-    for (const olPreferencesEntry *entry : entries()) {
-        for (const olOfferedDefault &offered : entry->defaults()) {
-            if (entry->home() == olHome::Record)
-                offeredKeys.insert(offered.key);
-            const boost::any value = entry->value(offered.key);
-            const olPreferencesStore::Key key{entry->home(), offered.key};
-            // Most have their module's default; only for the others all modules are asked, as several may offer a key.
-            const bool isAtDefault = olValue::identical(value, offered.value) || isDefault(key, value);
-            // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
-            if (isStorable(value) && (!isAtDefault || isStored(key, value)))
-                values[key] = value;
+    const auto keep = [&values](olHome home, const std::string &key, const boost::any &value) {
+        if (isStorable(value))
+            values[{home, key}] = value;
+    };
+    // Both are in the order of their keys, so that nothing has to be looked up.
+    const olMessage::Entries &rows = record().entries();
+    auto row = rows.begin();
+    const Offer end = olPreferencesRegistry::the().offers().end();
+    for (Offer first = olPreferencesRegistry::the().offers().begin(), next; first != end; first = next) {
+        const std::string &key = first->offered->key;
+        next = std::find_if(first, end, [&key](const olOffer &offer) { return offer.offered->key != key; });
+        // Some keys have no default; whatever the record holds beyond the defaults is kept.
+        for (; row != rows.end() && row->first < key; ++row)
+            keep(olHome::Record, row->first, row->second);
+        if (row != rows.end() && row->first == key) {
+            if (!isDefault(olHome::Record, row->second, first, next))
+                keep(olHome::Record, key, row->second);
+            ++row;
+        }
+        if (isIn(olHome::Service, first, next)) {
+            const boost::any value = service().get(key);
+            if (!isDefault(olHome::Service, value, first, next))
+                keep(olHome::Service, key, value);
         }
     }
-    // Some keys have no default; whatever the record holds beyond the defaults is kept.
-    for (const auto &[key, value] : record().entries()) {
-        if (offeredKeys.count(key) == 0 && isStorable(value))
-            values[{olHome::Record, key}] = value;
+    for (; row != rows.end(); ++row)
+        keep(olHome::Record, row->first, row->second);
+
+    // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
+    for (const auto &[key, stored] : m_stored) {
+        if (olValue::identical(valueAt(key), stored))
+            values[key] = stored;
     }
     return values;
-}
-
-bool olPreferencesSession::isStored(const olPreferencesStore::Key &key, const boost::any &value) const
-{
-    const auto stored = m_stored.find(key);
-    return stored != m_stored.end() && olValue::identical(stored->second, value);
 }
 
 bool olPreferencesSession::isLocked(const std::string &key) const { return lockReason(key).has_value(); }
@@ -269,9 +284,10 @@ QString olPreferencesSession::save()
     if (!error.isEmpty() && m_store.isBroken())
         error = saveIntoMended(error, kept);
     if (error.isEmpty() && !(changes.changed.empty() && changes.removed.empty())) {
-        m_stored.clear();
-        for (const auto &[key, value] : kept)
+        for (const auto &[key, value] : changes.changed)
             m_stored[key] = olValue::adopted(value);
+        for (const olPreferencesStore::Key &key : changes.removed)
+            m_stored.erase(key);
     }
     return error;
 }

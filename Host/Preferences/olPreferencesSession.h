@@ -98,7 +98,6 @@ private:
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
-    [[nodiscard]] bool isStored(const olPreferencesStore::Key &key, const boost::any &value) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
     void dropEarlyLanguage();

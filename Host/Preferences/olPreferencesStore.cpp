@@ -2,6 +2,7 @@
 
 #include "Embedded/olValue.h"
 #include "Preferences/olStoreFile.h"
+#include "Preferences/olStoreWriter.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -60,7 +61,12 @@ QString olPreferencesStore::userFile()
     return folder.filePath(QStringLiteral("orlo/preferences.db"));
 }
 
-olPreferencesStore::olPreferencesStore(QString file) : m_file(std::move(file)) {}
+olPreferencesStore::olPreferencesStore(QString file)
+    : m_file(std::move(file)), m_writer(std::make_unique<olStoreWriter>(m_file))
+{
+}
+
+olPreferencesStore::~olPreferencesStore() = default;
 
 olStoreFile olPreferencesStore::store() const { return olStoreFile(m_file); }
 
@@ -118,6 +124,8 @@ QString olPreferencesStore::load(Values &values)
 
 olStoreOpening olPreferencesStore::open(Values &values)
 {
+    // The file may have to be moved.
+    m_writer->close();
     const QString lost = lostSaves();
     try {
         const olStoreRows rows = store().read(wasStore());
@@ -212,6 +220,16 @@ void olPreferencesStore::keepCopy(const olStoreRows &rows) const
     }
 }
 
+/// For a store that may be none yet.
+void olPreferencesStore::makeWay() const
+{
+    if (!QDir().mkpath(QFileInfo(m_file).absolutePath()))
+        throw olStoreFault{Kind::Access, translated("its folder cannot be created")};
+    // Who took the file away wants to begin anew; a copy of the old one would come back at the next damage.
+    if (!store().exists())
+        QFile::remove(copy().name());
+}
+
 QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &removed)
 {
     m_isBroken = false;
@@ -226,12 +244,9 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
         gone.push_back(rowKey(key));
 
     try {
-        if (!QDir().mkpath(QFileInfo(m_file).absolutePath()))
-            throw olStoreFault{Kind::Access, translated("its folder cannot be created")};
-        // Who took the file away wants to begin anew; a copy of the old one would come back at the next damage.
-        if (!store().exists() && !m_hadRows)
-            QFile::remove(copy().name());
-        store().change(put, gone, m_hadRows);
+        if (!m_hadRows)
+            makeWay();
+        m_writer->change(put, gone, m_hadRows);
         m_hadRows = true;
         m_hasLog = true;
         return {};
@@ -245,6 +260,7 @@ QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &
 
 void olPreferencesStore::close()
 {
+    m_writer->close();
     if (!std::exchange(m_hasLog, false))
         return;
     try {

@@ -7,11 +7,13 @@
 #include <boost/any.hpp>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 class olStoreFile;
+class olStoreWriter;
 struct olStoreFault;
 struct olStoreRows;
 
@@ -37,6 +39,9 @@ public:
 
     /// Nothing is opened or created before it is needed.
     explicit olPreferencesStore(QString file);
+    ~olPreferencesStore();
+    olPreferencesStore(const olPreferencesStore &) = delete;
+    olPreferencesStore &operator=(const olPreferencesStore &) = delete;
 
     [[nodiscard]] const QString &file() const { return m_file; }
 
@@ -53,7 +58,8 @@ public:
     [[nodiscard]] QString load(Values &values);
 
     /// Makes the store hold `changed` and no longer hold `removed`; what neither names stays as it is. One transaction:
-    /// on failure the file keeps what it held. Returns as load() does. With nothing to do the file is not touched.
+    /// on failure the file keeps what it held. Returns as load() does. With nothing to do the file is not touched. It
+    /// stays open for the next save, which nobody has to wait for.
     [[nodiscard]] QString save(const Values &changed, const std::vector<Key> &removed);
 
     /// After the last save of a run: works the log of its saves into the file, which is then whole without it. What
@@ -74,11 +80,13 @@ private:
     [[nodiscard]] QString wayOut(const olStoreFault &fault) const;
     [[nodiscard]] QString lostSaves() const;
     [[nodiscard]] olStoreRows copiedRows(QString &remark) const;
+    void makeWay() const;
     void keepCopy(const olStoreRows &rows) const;
     [[nodiscard]] olStoreOpening repair(const QString &reason, Values &values);
     void hand(const olStoreRows &rows, Values &values);
 
     QString m_file;
+    std::unique_ptr<olStoreWriter> m_writer;
     bool m_hadRows = false;
     bool m_isBroken = false;
     bool m_hasLog = false;

@@ -124,6 +124,19 @@ bool olSqliteStatement::isText(int column) const
 
 void olSqliteStatement::reset() { sqlite3_reset(m_statement.get()); }
 
+void olSqliteStatement::run()
+{
+    step();
+    reset();
+}
+
+int olSqliteStatement::answer()
+{
+    const int result = step() ? number(0) : 0;
+    reset();
+    return result;
+}
+
 olSqlite::olSqlite(const QString &file, Access access) : m_handle(nullptr, sqlite3_close)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
@@ -173,5 +186,12 @@ std::string olSqlite::text(const char *sql)
 }
 
 bool olSqlite::isReadOnly() const { return sqlite3_db_readonly(m_handle.get(), "main") == 1; }
+
+bool olSqlite::wasMoved() const
+{
+    int wasMoved = 0;
+    sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &wasMoved);
+    return wasMoved != 0;
+}
 
 void olSqlite::releaseLog() { sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr); }

@@ -37,6 +37,12 @@ public:
     /// Ready to be bound and run again.
     void reset();
 
+    /// For a statement that answers nothing; ready to be run again afterwards.
+    void run();
+
+    /// The one number of its answer; ready to be run again afterwards.
+    [[nodiscard]] int answer();
+
 private:
     sqlite3 *m_database;
     std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt *)> m_statement;
@@ -59,6 +65,9 @@ public:
     [[nodiscard]] std::string text(const char *sql);
 
     [[nodiscard]] bool isReadOnly() const;
+
+    /// Whether another file, or none, now bears the name of the one that is open.
+    [[nodiscard]] bool wasMoved() const;
 
     /// Closing may work the log into the file. Before, the log of what may have to be set aside is left as it is.
     void releaseLog();

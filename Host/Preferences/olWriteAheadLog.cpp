@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstdint>
 
 namespace
@@ -15,6 +16,12 @@ constexpr int frameHeaderSize = 24;
 constexpr std::uint32_t magic = 0x377f0682;
 
 std::uint32_t number(const char *bytes) { return qFromBigEndian<std::uint32_t>(bytes); }
+
+/// So is the room for later saves behind the last one; a save that was never finished is zero from some byte on.
+bool isZero(const QByteArray &bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == 0; });
+}
 
 /// Runs on from the header through all frames.
 class Checksum
@@ -79,6 +86,6 @@ bool olWriteAheadLog::isDamaged(const QString &log)
         isSound = isSound && isFirstSame && isSecondSame && checksum.stands(bytes + 16);
         const bool endsASave = number(bytes + 4) != 0;
         if (!isSound && endsASave && (isFirstSame || isSecondSame))
-            return true;
+            return !(isZero(frame.right(8)) && isZero(file.readAll()));
     }
 }

@@ -17,7 +17,7 @@ public:
 
 protected:
     void Compute(const Handle(PrsMgr_PresentationManager) & manager, const Handle(Prs3d_Presentation) & presentation,
-                 const Standard_Integer mode) override;
+                 Standard_Integer mode) override;
     void ComputeSelection(const Handle(SelectMgr_Selection) &, const Standard_Integer) override {}
 
 private:

@@ -36,6 +36,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <new>
 #include <sstream>
 
@@ -91,11 +92,8 @@ private:
             return false;
         TDF_LabelSequence layers;
         m_layers->GetLayers(label, layers);
-        for (const TDF_Label &layer : layers) {
-            if (!m_layers->IsVisible(layer))
-                return false;
-        }
-        return true;
+        return std::all_of(layers.begin(), layers.end(),
+                           [this](const TDF_Label &layer) { return m_layers->IsVisible(layer); });
     }
 
     void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)

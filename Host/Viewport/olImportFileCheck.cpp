@@ -57,7 +57,7 @@ QString stlFault(QFile &file)
 {
     const QByteArray head = file.read(binaryStlHead);
     if (head.size() == binaryStlHead) {
-        const quint32 triangles = qFromLittleEndian<quint32>(head.constData() + 80);
+        const auto triangles = qFromLittleEndian<quint32>(head.constData() + 80);
         if (file.size() == binaryStlHead + qint64(triangles) * binaryStlTriangle)
             return {};
     }

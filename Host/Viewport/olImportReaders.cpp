@@ -184,7 +184,7 @@ olExchangeLock::olExchangeLock() { exchange().lock(); }
 
 olExchangeLock::~olExchangeLock() { exchange().unlock(); }
 
-QString olReadModel(const olImportJob &job, const olModelFormat &format, olScene::Document document,
+QString olReadModel(const olImportJob &job, const olModelFormat &format, const olScene::Document &document,
                     const Message_ProgressRange &progress)
 {
     switch (format.id) {

@@ -100,9 +100,9 @@ public:
     void applySelectionStyle();
     void applyParts();
     void showSelection();
-    olRenderQuality::Wishes wishes(bool isMoving) const;
-    Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
-    Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
+    [[nodiscard]] olRenderQuality::Wishes wishes(bool isMoving) const;
+    [[nodiscard]] Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
+    [[nodiscard]] Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
 
     Handle(V3d_Viewer) viewer;
     Handle(V3d_View) view;

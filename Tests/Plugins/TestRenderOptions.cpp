@@ -36,10 +36,6 @@ protected:
         module("Render Options").updateData();
         return boost::any_cast<T>(record().get(key));
     }
-    static std::vector<osg::Color3f> storedColors()
-    {
-        return stored<std::vector<osg::Color3f>>("RenderOptions background colors");
-    }
     static std::vector<float> storedPositions() { return stored<std::vector<float>>("RenderOptions background ints"); }
 
     static QOLColorDialog *dialog() { return page().findChild<QOLColorDialog *>(); }
@@ -51,10 +47,8 @@ TEST_F(RenderOptions, CellsThatHoldNoNumbersCountAsZero)
     table().item(0, 1)->setText("top");
     table().item(1, 0)->setText(QString());
     table().item(1, 1)->setText(" 0.25 ");
-    const std::vector<osg::Color3f> colors = storedColors();
-    ASSERT_EQ(2u, colors.size());
-    EXPECT_EQ(osg::Color3f(0.5f, 0.0f, 0.0f), colors[0]);
-    EXPECT_EQ(osg::Color3f(0.0f, 0.0f, 0.0f), colors[1]);
+    EXPECT_EQ((std::vector<osg::Color3f>{{0.5f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}}),
+              stored<std::vector<osg::Color3f>>("RenderOptions background colors"));
     EXPECT_EQ((std::vector<float>{0.0f, 0.25f}), storedPositions());
 }
 

@@ -134,16 +134,12 @@ TEST_F(Tesselation, AnEditedRowTakesItsPlaceOnceTheUserHasSorted)
 TEST_F(Tesselation, RemovesAllSelectedRowsThroughItsSlots)
 {
     QWidget *page = module("Tesselation").page();
-    tree().topLevelItem(0)->setSelected(true);
-    tree().topLevelItem(3)->setSelected(true);
-    EXPECT_TRUE(control<QPushButton>("Tesselation", "removeQuality").isEnabled());
+    for (const int row : {0, 3})
+        tree().topLevelItem(row)->setSelected(true);
     ASSERT_TRUE(QMetaObject::invokeMethod(page, "clickedRemove"));
     EXPECT_EQ(rows(), (Texts{"0.05", "0.1", "1"}));
-    tree().clearSelection();
-    EXPECT_FALSE(control<QPushButton>("Tesselation", "removeQuality").isEnabled());
     ASSERT_TRUE(QMetaObject::invokeMethod(page, "clickedAdd"));
     EXPECT_EQ(rows().size(), 4u);
-    EXPECT_TRUE(tree().topLevelItem(3)->isSelected());
 }
 
 } // namespace

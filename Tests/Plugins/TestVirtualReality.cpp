@@ -42,23 +42,14 @@ protected:
     olPreferencesService &service = *olKernelServiceFactory::the<olPreferencesService>();
 };
 
-TEST_F(VirtualReality, KeepsNothingInTheRecordAndLeavesItsValuesToTheService)
-{
-    vr().updateGUI();
-    vr().updateData();
-    for (const auto &entry : record().entries())
-        EXPECT_TRUE(entry.first.rfind("VR ", 0) != 0 && entry.first.rfind("StarVR ", 0) != 0) << entry.first;
-    service.setFloat("VR Teleport Range", 12.0f);
-    plugin.unload();
-    EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 12.0f);
-}
-
-TEST_F(VirtualReality, WithoutAnyValueThePageShowsTheDefaults)
+TEST_F(VirtualReality, WithoutAnyValueThePageShowsTheDefaultsAndTheServiceKeepsWhatItTook)
 {
     restart();
     vr().updateGUI();
     vr().updateData();
+    EXPECT_TRUE(record().entries().empty());
     EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 15000.0f);
+    plugin.unload();
     EXPECT_EQ(service.getFloat("StarVR Foveated FOV Factor", 0.0f), 0.35f) << "to the last bit";
 }
 
@@ -67,6 +58,7 @@ TEST_F(VirtualReality, TheRenderModeIsInvertedAndFillingItIsSilent)
     service.setBool(foveatedKey, true);
     renderMode().setCurrentIndex(1);
     const QSignalSpy changes(&renderMode(), QOverload<int>::of(&QComboBox::currentIndexChanged));
+    service.setFloat("StarVR Foveated Resolution Scale", 0.01f);
     vr().updateGUI();
     EXPECT_EQ(renderMode().currentText(), "Foveated Rendering");
     EXPECT_EQ(changes.size(), 0);
@@ -74,6 +66,8 @@ TEST_F(VirtualReality, TheRenderModeIsInvertedAndFillingItIsSilent)
     renderMode().setCurrentIndex(1);
     vr().updateData();
     EXPECT_FALSE(service.getBool(foveatedKey, true));
+    EXPECT_EQ(service.getFloat("StarVR Foveated Resolution Scale", 1.0f), 0.01f)
+        << "sliders take less than their handles reach";
 }
 
 TEST_F(VirtualReality, OnlyWhatTheRenderModeUsesCanBeEdited)
@@ -110,6 +104,9 @@ TEST_F(VirtualReality, OnlySixKeysRestartTheHeadset)
     }
     service.setFloat("StarVR Foveated FOV Factor", 0.5f);
     EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedFovFactor(0.5)"}));
+    host.displayType = 3;
+    service.setBool(foveatedKey, false);
+    EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedRendering(false)"})) << "it is on another display";
 }
 
 /// Moves the display while the headset takes its values.
@@ -137,14 +134,6 @@ TEST_F(VirtualReality, TheDisplayGoesBackToWhereItWasWhoeverMovedIt)
     service.setFloat("StarVR Foveated FOV Factor", 0.5f);
     const Meddler meddler(host, 4);
     EXPECT_EQ(applied(), (Calls{"olStarVRHandler::setFoveatedFovFactor(0.5)", "olOSGWidget::setDisplayType(2)"}));
-}
-
-TEST_F(VirtualReality, TheSlidersTakeLessThanTheirHandlesReach)
-{
-    service.setFloat("StarVR Foveated Resolution Scale", 0.01f);
-    vr().updateGUI();
-    vr().updateData();
-    EXPECT_EQ(service.getFloat("StarVR Foveated Resolution Scale", 1.0f), 0.01f);
 }
 
 } // namespace

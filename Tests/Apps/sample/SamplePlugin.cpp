@@ -4,7 +4,6 @@
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesCategory.h"
 #include "KernelServices/olPreferencesService.h"
-#include "Utilities/olLog.h"
 #include "Utilities/olMessage.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 #include "Widgets/QOLColorDialog.h"
@@ -114,32 +113,16 @@ private:
     {
         auto *frame = new QOLCollapsibleFrame(&tab);
         frame->setCaption(QStringLiteral("Rows"));
-        auto *table = new QTableWidget(0, 2, frame);
-        auto &addRow = addButton(tab, "Add");
-        connect(&addRow, &QPushButton::clicked, this, [table] {
-            const int row = table->currentRow() + 1;
-            table->insertRow(row);
-            table->setItem(row, 0, new QTableWidgetItem(QStringLiteral("row \"%1\"").arg(table->rowCount())));
-        });
-        auto &remove = addButton(tab, "Remove");
-        remove.setEnabled(false);
-        connect(table, &QTableWidget::itemSelectionChanged, this, [this, table, &remove] {
-            remove.setEnabled(!table->selectedItems().isEmpty());
-            hear(QString::number(table->selectionModel()->selectedIndexes().size()));
-        });
-        connect(&remove, &QPushButton::clicked, this, [table] { table->removeRow(table->currentRow()); });
+        new QTableWidget(0, 2, frame);
+        addButton(tab, "Add");
+        addButton(tab, "Remove").setEnabled(false);
     }
 
     void addPaths(QWidget &tab)
     {
         auto *tree = new QTreeWidget(&tab);
         tree->setAccessibleName(QStringLiteral("Path Tree"));
-        auto *first = new QTreeWidgetItem(tree, {"a"});
-        new QTreeWidgetItem(first, {"a/b"});
-        new QTreeWidgetItem(tree, {"c"});
-        connect(tree, &QTreeWidget::itemSelectionChanged, this, [this, tree] {
-            hear(tree->selectedItems().isEmpty() ? "nothing" : tree->selectedItems().first()->text(0));
-        });
+        new QTreeWidgetItem(tree, {"a"});
     }
 
     void addBoxes(QWidget &tab)
@@ -151,13 +134,9 @@ private:
             QMessageBox::critical(this, "Insist", "No way out", QMessageBox::Retry | QMessageBox::Save);
             hear("closed");
         });
-        connect(&addButton(tab, "Browse"), &QPushButton::clicked, this, [this] {
-            hear('<' + QFileDialog::getExistingDirectory(nullptr, "Pick \"it\"", m_tabs->tabText(9)) + '>');
-        });
+        connect(&addButton(tab, "Browse"), &QPushButton::clicked, this,
+                [] { QFileDialog::getExistingDirectory(nullptr, "Pick \"it\"", QString()); });
         connect(&addButton(tab, "Open Colours"), &QPushButton::clicked, m_colors, &QDialog::open);
-        connect(m_colors, &QDialog::rejected, this, [this] { hear("rejected"); });
-        connect(m_colors, &QDialog::accepted, this,
-                [this] { hear(QString::number(double(m_colors->getColor().red()))); });
     }
 
     void ask()
@@ -206,14 +185,9 @@ public:
         offer(flag, "Sample colors", std::vector<osg::Color3f>(2));
     }
 
-    void applyPreferences() override
-    {
-        QSettings().setValue("sample/applied", isChanged("Sample bool"));
-        QSettings().setValue("sample/text", "x");
-    }
+    void applyPreferences() override {}
     void updateGUI() override { QMessageBox::question(m_page.get(), "Filled", ""); }
-    void updateData() override { addUnchanged("Sample bool"); }
-    void preferencesNewScene(olMessage &) override { olLog::error("new scene"); }
+    void updateData() override {}
 
 private:
     std::unique_ptr<SamplePage> m_page = std::make_unique<SamplePage>();
@@ -225,7 +199,7 @@ public:
     SampleCategory() : olPreferencesCategory("Sample Service") { registerCategory(); }
 
     void setDefaults(olMessage &, bool) override { service().setDefaultFloat("Sample range", 1.5f); }
-    void applyPreferences() override { olLog::error(isChanged("Sample range") ? "range changed" : "range unchanged"); }
+    void applyPreferences() override {}
     void updateGUI() override {}
     void updateData() override {}
 

@@ -211,6 +211,53 @@ TEST_F(StoreDamage, ASaveOnADamagedFileIsRefusedAndPutsNoSealOnIt)
     EXPECT_NE(store.open(values).notice, QString());
 }
 
+TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
+{
+    olPreferencesStore store(file);
+    Values values;
+    const auto saveFov = [&](float fov) {
+        current[key("Camera fov")] = fov;
+        return store.save({{key("Camera fov"), fov}}, {});
+    };
+    ASSERT_EQ(store.open(values).notice, QString());
+    ASSERT_EQ(saveFov(61), QString());
+    EXPECT_TRUE(same(stored(), current));
+
+    write(file, sound.left(5000));
+    ASSERT_NE(olPreferencesStore(file).open(values).notice, QString()) << "another program mends it";
+    EXPECT_EQ(saveFov(62), QString());
+    EXPECT_TRUE(same(stored(), current)) << "saved into the new file";
+
+    save({{key("Row 7"), 7}});
+    current[key("Row 7")] = 7;
+    EXPECT_EQ(saveFov(63), QString());
+    EXPECT_TRUE(same(stored(), current)) << "another program's save stays";
+
+    store.close();
+    EXPECT_FALSE(QFile::exists(file + "-wal") || QFile::exists(file + "-shm"));
+    ASSERT_EQ(saveFov(64), QString());
+    ASSERT_EQ(saveFov(65), QString());
+    tamper("DELETE FROM setting WHERE key = 'Row 8'");
+    EXPECT_TRUE(saveFov(66).contains("rows are missing"));
+    EXPECT_TRUE(store.isBroken());
+    ASSERT_NE(store.open(values).notice, QString());
+    ASSERT_EQ(saveFov(67), QString());
+    store.close();
+
+    ASSERT_EQ(saveFov(68), QString());
+    QByteArray bytes = bytesOf(file);
+    bytes[bytes.indexOf("Row 9") + 4] = '0';
+    write(file, bytes);
+    EXPECT_TRUE(saveFov(69).contains(file)) << "damaged behind the database's back";
+    EXPECT_TRUE(store.isBroken());
+
+    ASSERT_NE(store.open(values).notice, QString());
+    ASSERT_EQ(saveFov(70), QString());
+    QFile::remove(file);
+    EXPECT_TRUE(saveFov(71).contains("gone"));
+    EXPECT_TRUE(store.isBroken());
+}
+
 TEST_F(StoreDamage, WhoDeletesTheStoreBeginsAnewForGood)
 {
     QFile::remove(file);

@@ -208,25 +208,16 @@ TEST_F(WebServer, BindsToTheLoopbackAddressWhenOnlyThisMachineMayAsk)
     EXPECT_EQ(listeningAt(port), "0100007F") << "what cannot be read restricts";
 }
 
-TEST_F(WebServer, AnswersNobodyWhenItCannotTellWhetherTheWhiteListIsInUse)
-{
-    record.set("WebInterface use white list", 0);
-    olController::enableWebInterface(true);
-    EXPECT_EQ(get("/").status, 403);
-}
-
 TEST_F(WebServer, OnlyThisMachineMeansUnderItsOwnName)
 {
     record.set("WebInterface localhost only", true);
     olController::enableWebInterface(true);
-    const auto askedAs = [this](const QByteArray &name) {
+    for (const auto &[name, status] :
+         {std::pair{"LOCALHOST:8888", 200}, {"rebound.example:8888", 403}, {"localhost.example", 403}}) {
         QNetworkRequest disguised = request(QStringLiteral("/settings.json"));
         disguised.setRawHeader("Host", name);
-        return wait(m_client.get(disguised)).status;
-    };
-    EXPECT_EQ(askedAs("LOCALHOST:8888"), 200);
-    EXPECT_EQ(askedAs("rebound.example:8888"), 403);
-    EXPECT_EQ(askedAs("localhost.example"), 403);
+        EXPECT_EQ(wait(m_client.get(disguised)).status, status) << name;
+    }
 }
 
 TEST_F(WebServer, AnswersOnlyListedHostsWhileTheWhiteListIsInUse)
@@ -249,6 +240,9 @@ TEST_F(WebServer, AnswersOnlyListedHostsWhileTheWhiteListIsInUse)
     record.set("WebInterface white list", std::string("10.0.0.1"));
     olController::enableWebInterface(true);
     EXPECT_EQ(get("/").status, 200) << "the list counts only while it is in use";
+    record.set("WebInterface use white list", 0);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(get("/").status, 403) << "what cannot be read restricts";
 }
 
 TEST_F(WebServer, AnswersTheAddressesThatListedNamesStandFor)
@@ -267,12 +261,17 @@ TEST_F(WebServer, AnswersTheAddressesThatListedNamesStandFor)
     EXPECT_TRUE(QTest::qWaitFor([&] { return wait(m_client.get(byAddress)).status == 200; }));
 }
 
-TEST_F(WebServer, TellsSettingsAndStateAsJson)
+TEST_F(WebServer, TellsSettingsAndStateButNoSecretsNorForeignValues)
 {
     host.fov = 60.5f;
+    host.webInterfacePipe = "secretpipe";
+    host.textureSearchPaths = {"/a&b/<i>\"x\"</i>"};
     record.set("Camera fov", 60.5f);
     record.set("Help path", QStringLiteral("C:\\Help \"new\""));
     record.set("Texture path", std::string("/latin/\xfc"));
+    record.set("WebInterface white list", std::string("secrethost"));
+    record.set("Proxy Password", std::string("secretword"));
+    record.set("Unknown", std::vector<double>{1.0});
     olController::enableWebInterface(true);
 
     const Reply settings = get("/settings.json");
@@ -282,23 +281,11 @@ TEST_F(WebServer, TellsSettingsAndStateAsJson)
     EXPECT_EQ(all["Help path"].toObject()["value"].toString(), "C:\\Help \"new\"");
     EXPECT_EQ(all["Texture path"].toObject()["value"].toString(), "/latin/" + QString(QChar(0xdcfc)))
         << "a byte that is no UTF-8 comes escaped";
-
     EXPECT_EQ(QJsonDocument::fromJson(get("/state.json").body).object()["fov"].toDouble(), 60.5);
-}
 
-TEST_F(WebServer, KeepsSecretsAndForeignValuesAndEscapesTheRest)
-{
-    record.set("WebInterface white list", std::string("secrethost"));
-    record.set("Proxy Password", std::string("secretword"));
-    record.set("Unknown", std::vector<double>{1.0});
-    host.webInterfacePipe = "secretpipe";
-    host.textureSearchPaths = {"/a&b/<i>\"x\"</i>"};
-    olController::enableWebInterface(true);
     for (const char *path : {"/", "/settings.json", "/state.json"}) {
         const QByteArray body = get(QLatin1String(path)).body;
-        EXPECT_FALSE(body.isEmpty());
-        EXPECT_FALSE(body.contains("secret")) << path;
-        EXPECT_FALSE(body.contains("Unknown")) << path;
+        EXPECT_FALSE(body.isEmpty() || body.contains("secret") || body.contains("Unknown")) << path;
     }
     const QByteArray page = get("/").body;
     EXPECT_TRUE(page.contains("/a&amp;b/&lt;i&gt;"));

@@ -1,0 +1,86 @@
+#include "Embedded/olHostState.h"
+#include "Embedded/olValue.h"
+#include "Support/PluginTest.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Another value of the same type.
+boost::any another(const boost::any &value)
+{
+    const std::string type = olValue::typeName(value);
+    if (type == "bool")
+        return !boost::any_cast<bool>(value);
+    if (type == "int")
+        return boost::any_cast<int>(value) + 1;
+    if (type == "uint")
+        return boost::any_cast<unsigned>(value) + 1;
+    if (type == "float")
+        return boost::any_cast<float>(value) + 0.5f;
+    if (type == "double")
+        return boost::any_cast<double>(value) + 0.5;
+    const bool isText = type == "string" || type == "qstring";
+    return olValue::fromJson(type, QByteArray(isText             ? "\"other\""
+                                              : type == "color"  ? "[0.25, 0.5, 0.75]"
+                                              : type == "colors" ? "[[0.25, 0.5, 0.75]]"
+                                              : type == "floats" ? "[0.5]"
+                                                                 : "[\"other\"]"));
+}
+
+class CallsOfSettings : public PluginTest
+{
+protected:
+    /// Everything at its default and all that can be switched on, on: else many a setting would count for nothing.
+    static void prepare(olPreferencesEntry &module)
+    {
+        module.setDefaults(true);
+        for (const olOfferedDefault &offered : module.defaults()) {
+            if (olValue::typeName(offered.value) == "bool")
+                module.setValue(offered.key, true);
+        }
+    }
+
+    std::vector<std::string> applied(olPreferencesEntry &module)
+    {
+        calls.take();
+        module.applyPreferences();
+        return calls.take();
+    }
+};
+
+/// To bring the transcript up to date, read what differs and copy the file that the failure names.
+TEST_F(CallsOfSettings, EachSettingReachesItsOwnCallsAndNoOther)
+{
+    olHostState::the().starVRHandler = true;
+    olHostState::the().webInterface = true;
+    QByteArray transcript;
+    for (olPreferencesEntry *module : modules()) {
+        transcript += module->name().toUtf8() + '\n';
+        prepare(*module);
+        const auto before = applied(*module);
+        for (const olOfferedDefault &offered : module->defaults()) {
+            const boost::any value = module->value(offered.key);
+            module->setValue(offered.key, another(value));
+            transcript += "  " + QByteArray::fromStdString(offered.key);
+            for (const std::string &call : applied(*module)) {
+                if (std::find(before.begin(), before.end(), call) == before.end())
+                    transcript += " > " + QByteArray::fromStdString(call);
+            }
+            transcript += '\n';
+            module->setValue(offered.key, value);
+            applied(*module);
+        }
+    }
+    QFile expected(QStringLiteral(ORLO_SOURCE_DIR "/Tests/Plugins/calls-of-settings.expected"));
+    QFile printed(QStringLiteral("/tmp/calls-of-settings.printed"));
+    ASSERT_TRUE(printed.open(QIODevice::WriteOnly) && printed.write(transcript) == transcript.size());
+    printed.close();
+    ASSERT_TRUE(expected.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(expected.readAll() == transcript) << "diff it with " << printed.fileName().toStdString();
+}
+
+} // namespace
