@@ -89,7 +89,7 @@ QString misuse(const QCommandLineParser &options)
     if (isRendering && !options.isSet(QStringLiteral("output")))
         return QStringLiteral("--render needs --output PICTURE");
     if (isRendering && !olBatch::sizeFrom(options.value(QStringLiteral("size"))))
-        return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 16384")
+        return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192")
             .arg(options.value(QStringLiteral("size")));
     if (options.isSet(QStringLiteral("save")) && !options.isSet(QStringLiteral("sample")))
         return QStringLiteral("--save needs --sample");

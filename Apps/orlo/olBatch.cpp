@@ -16,7 +16,8 @@
 namespace
 {
 
-constexpr int longestSide = 16384;
+/// As in the window: a larger picture does not fit into a graphics card together with all that it needs to draw it.
+constexpr int longestSide = 8192;
 
 int fail(const QString &error, int status)
 {

@@ -74,6 +74,8 @@ class Batch(tool_test.ToolTest):
                 (["--render", "m.step", *output, "n.step"], "n.step does not go with --render and --save"),
                 (["--sample", "--save", "m.step", "--tour", "t"],
                  "--tour needs a window, which --render and --save do without"),
+                (["--render", "m.step", *output, "--size", "8193x1"],
+                 "8193x1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192"),
                 (["--nonsense"], "Unknown option 'nonsense'.")):
             with self.subTest(arguments=arguments):
                 self.assert_refused(self.stored(*arguments), f"orlo: {message}")
