@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 namespace
@@ -90,8 +89,9 @@ double olNumberField::fitted(double value) const
 
 void olNumberField::setValue(double value)
 {
-    // Pages are filled over and over with what they show already. Zeros have signs, so the bytes are compared.
-    const bool isShown = !isModified() && std::memcmp(&value, &m_value, sizeof value) == 0 && !text().isEmpty();
+    // Pages are filled over and over with what they show already. Zeros have signs, and show them.
+    const bool isSame = value == m_value && std::signbit(value) == std::signbit(m_value);
+    const bool isShown = isSame && !isModified() && !text().isEmpty();
     m_value = value;
     if (!isShown)
         showValue();

@@ -13,7 +13,6 @@ SECONDS = 60
 
 class ToolTest(unittest.TestCase):
     program = ""
-    sample = ""
     foreign = ""
 
     def setUp(self):
@@ -49,10 +48,8 @@ class ToolTest(unittest.TestCase):
 def main():
     parser = argparse.ArgumentParser(add_help=False)
     parser.add_argument("--tool", required=True)
-    parser.add_argument("--sample", default="")
     parser.add_argument("--foreign", default="")
     arguments, rest = parser.parse_known_args()
     ToolTest.program = str(pathlib.Path(arguments.tool).resolve())
-    ToolTest.sample = arguments.sample
     ToolTest.foreign = arguments.foreign
     unittest.main(argv=[sys.argv[0], *rest])

@@ -31,7 +31,7 @@ protected:
 
     /// Writes the sample; the test fails where it cannot.
     QString exported(const QString &name);
-    QString written(const QString &name, const QByteArray &content) const;
+    [[nodiscard]] QString written(const QString &name, const QByteArray &content) const;
     [[nodiscard]] static QByteArray contentOf(const QString &file);
 
     /// Reads what must be readable.

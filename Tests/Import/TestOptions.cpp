@@ -319,7 +319,7 @@ TEST_F(ImportOption, FilesThatAFileRefersToAreReadOrLeftAlone)
     references.options.importReferencedFiles = false;
     EXPECT_NE(olImport(references).error, QString());
 
-    written(QStringLiteral("m.mtl"), "newmtl green\nKd 0 1 0\n");
+    (void)written(QStringLiteral("m.mtl"), "newmtl green\nKd 0 1 0\n");
     references = job("m.obj", QByteArray("mtllib m.mtl\nusemtl green\n") + twoTriangles);
     EXPECT_TRUE(Outline(imported(references)).colours.join(QString()).contains(QStringLiteral("0.00 1.00 0.00")));
     references.options.importReferencedFiles = false;
@@ -344,8 +344,6 @@ TEST_F(ImportOption, OptimizingRepairsWhatTheCheckFindsFaulty)
 {
     // A face whose border is left open.
     Model model;
-    TopoDS_Compound broken;
-    BRep_Builder().MakeCompound(broken);
     TopoDS_Shape open = box(0).EmptyCopied();
     TopExp_Explorer shell(box(0), TopAbs_SHELL);
     BRep_Builder().Add(open, shell.Current().Reversed());
@@ -401,7 +399,7 @@ TEST_F(ImportOption, TheTemporaryDirectoryIsUsedWhereOneIsGivenAndLeftClean)
 TEST_F(ImportOption, TexturesAreFoundBesideTheModelElseInTheSearchPathsElseNamed)
 {
     const QByteArray corners = "vt 0 0\nvt 1 0\nvt 1 1\nv 0 0 0\nv 1 0 0\nv 1 1 0\nusemtl m\nf 1/1 2/2 3/3\n";
-    written(QStringLiteral("t.mtl"), "newmtl m\nmap_Kd -s 2 2 1 C:\\elsewhere\\red.png\n");
+    (void)written(QStringLiteral("t.mtl"), "newmtl m\nmap_Kd -s 2 2 1 C:\\elsewhere\\red.png\n");
     const QByteArray vrml = "#VRML V2.0 utf8\nShape { appearance Appearance { texture ImageTexture { url \"x/red.png\" "
                             "} } geometry IndexedFaceSet { coord Coordinate { point [0 0 0, 1 0 0, 1 1 0] } texCoord "
                             "TextureCoordinate { point [0 0, 1 0, 1 1] } coordIndex [0 1 2 -1] } }\n";

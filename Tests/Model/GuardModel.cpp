@@ -86,12 +86,13 @@ GuardModel::Calls GuardModel::apply(const std::string &module, const olMessage &
 GuardModel::Calls GuardModel::camera(const olMessage &record) const
 {
     Caller to(record);
-    if (changed("Camera fov"))
-        to.ifHeld<float>("Camera fov", "olOSGWidget::setFov", "-1, ");
-    if (changed("Stereo eye separation"))
-        to.ifHeld<float>("Stereo eye separation", "olOSGWidget::setGlobalEyeSeparation");
-    if (changed("Stereo zero plane parallaxe"))
-        to.ifHeld<float>("Stereo zero plane parallaxe", "olOSGWidget::setGlobalZeroParallaxDistance");
+    const auto ifChanged = [&](const char *key, const char *function, const char *before = "") {
+        if (changed(key))
+            to.ifHeld<float>(key, function, before);
+    };
+    ifChanged("Camera fov", "olOSGWidget::setFov", "-1, ");
+    ifChanged("Stereo eye separation", "olOSGWidget::setGlobalEyeSeparation");
+    ifChanged("Stereo zero plane parallaxe", "olOSGWidget::setGlobalZeroParallaxDistance");
 
     const auto *width = held<float>(record, "Powerwall width");
     const auto *height = held<float>(record, "Powerwall height");

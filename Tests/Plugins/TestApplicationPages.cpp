@@ -45,9 +45,8 @@ TEST_F(ApplicationPages, TheSlotsOfTheHelpPageAreFoundByName)
     location.setCurrentIndex(-1);
     EXPECT_FALSE(path.isHidden());
 
-    const auto before = record().entries().size();
     EXPECT_TRUE(QMetaObject::invokeMethod(help.page(), "indexChangedPopup", Q_ARG(int, 1)));
-    EXPECT_EQ(record().entries().size(), before);
+    EXPECT_TRUE(record().entries().empty());
     EXPECT_GE(help.page()->metaObject()->indexOfSlot("clickedGetHelpPath()"), 0);
     EXPECT_TRUE(calls.take().empty());
 }

@@ -1,5 +1,4 @@
 #include "Embedded/olValue.h"
-#include "Kernel/olImportOptions.h"
 #include "Preferences/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 #include "Widgets/olTesselationSettings.h"
@@ -133,20 +132,6 @@ TEST_F(CadFormats, NeverLeakIntoEachOther)
     }
 }
 
-TEST_F(CadFormats, ImportersOfOtherTypesSeeNothingOfAnEdit)
-{
-    startAfresh();
-    editEverything(*module("JT").page());
-    forAll(&olPreferencesEntry::updateData);
-    forAll(&olPreferencesEntry::applyPreferences);
-    EXPECT_EQ(olImportOptions::written("JT")->maxChordLength, 333.0);
-    EXPECT_EQ(olImportOptions::written("JT")->loadBreps, 1);
-    EXPECT_EQ(olImportOptions::written("JT")->legacyLoader, "VWSH");
-    EXPECT_EQ(olImportOptions::written("Rhino")->maxChordLength, 200.0);
-    EXPECT_EQ(olImportOptions::written("Rhino")->legacyLoader, "");
-    EXPECT_EQ(olImportOptions::written("KBX"), nullptr);
-}
-
 TEST_F(CadFormats, SettingThatAllWriteStaysUntilItsOwnerIsGone)
 {
     startAfresh();
@@ -160,22 +145,6 @@ TEST_F(CadFormats, SettingThatAllWriteStaysUntilItsOwnerIsGone)
     });
     plugin.unload();
     EXPECT_GE(checks, int(formats.size()));
-}
-
-TEST_F(CadFormats, TabKeyVisitsTheTessellationBlockBetweenItsNeighbours)
-{
-    QStringList visited;
-    const auto *page = module("Rhino").page();
-    const QWidget *widget = page;
-    while ((widget = widget->nextInFocusChain()) != page) {
-        if (widget->focusPolicy() & Qt::TabFocus && isShownOn(*page, widget))
-            visited << (widget->objectName().isEmpty() ? widget->accessibleName() : widget->objectName());
-    }
-    const int meshes = visited.indexOf(QStringLiteral("meshes"));
-    EXPECT_EQ(visited.mid(meshes + 2, 4),
-              (QStringList{"Quality", "Chord Deviation", "Normal Tolerance", "Max Chord Length"}));
-    EXPECT_EQ(visited.mid(meshes + 8, 1), QStringList{"importVariants"});
-    EXPECT_EQ(visited.mid(visited.size() - 3), (QStringList{"useLegacyRhinoLoader", "mergeGeometries", "importNurbs"}));
 }
 
 } // namespace

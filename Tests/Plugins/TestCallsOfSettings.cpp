@@ -52,6 +52,18 @@ protected:
     }
 };
 
+/// Those of the calls that are not among the others.
+QByteArray marked(const char *mark, const std::vector<std::string> &calls, const std::vector<std::string> &others)
+{
+    QByteArray text;
+    for (const std::string &call : calls) {
+        if (std::find(others.begin(), others.end(), call) == others.end())
+            text += mark + QByteArray::fromStdString(call);
+    }
+    return text;
+}
+
+/// What is called when a setting has another value, and which calls go and come when it has none at all.
 /// To bring the transcript up to date, read what differs and copy the file that the failure names.
 TEST_F(CallsOfSettings, EachSettingReachesItsOwnCallsAndNoOther)
 {
@@ -66,9 +78,11 @@ TEST_F(CallsOfSettings, EachSettingReachesItsOwnCallsAndNoOther)
             const boost::any value = module->value(offered.key);
             module->setValue(offered.key, another(value));
             transcript += "  " + QByteArray::fromStdString(offered.key);
-            for (const std::string &call : applied(*module)) {
-                if (std::find(before.begin(), before.end(), call) == before.end())
-                    transcript += " > " + QByteArray::fromStdString(call);
+            transcript += marked(" > ", applied(*module), before);
+            if (module->home() == olHome::Record) {
+                module->removeValue(offered.key);
+                const auto absent = applied(*module);
+                transcript += marked(" | absent - ", before, absent) + marked(" | absent + ", absent, before);
             }
             transcript += '\n';
             module->setValue(offered.key, value);

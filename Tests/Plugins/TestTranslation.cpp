@@ -43,15 +43,13 @@ bool needsNoTranslation(const QString &text)
 /// The texts of a widget that a person can read.
 QStringList textsOf(const QWidget &widget)
 {
-    QStringList texts{widget.toolTip(), widget.accessibleName(), widget.property("caption").toString()};
-    if (const auto *label = qobject_cast<const QLabel *>(&widget))
-        texts << label->text();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
-        texts << button->text();
-    if (const auto *box = qobject_cast<const QGroupBox *>(&widget))
-        texts << box->title();
-    if (const auto *field = qobject_cast<const QLineEdit *>(&widget))
-        texts << field->placeholderText();
+    // What stands in a field is not the page's.
+    const bool isField = qobject_cast<const QLineEdit *>(&widget) != nullptr;
+    QStringList texts;
+    for (const char *name : {"toolTip", "accessibleName", "caption", "title", "placeholderText", "text"}) {
+        if (!isField || qstrcmp(name, "text") != 0)
+            texts << widget.property(name).toString();
+    }
     // What a person may also type is meant for a program, word by word.
     if (const auto *combo = qobject_cast<const QComboBox *>(&widget); combo && !combo->isEditable()) {
         for (int row = 0; row < combo->count(); ++row)

@@ -40,3 +40,12 @@ olPreferencesEntry &PluginTest::module(const char *name)
 }
 
 const std::vector<olPreferencesEntry *> &PluginTest::modules() { return olPreferencesRegistry::the().entries(); }
+
+void PluginTest::apply(const char *moduleName, const char *key, const boost::any &value)
+{
+    olPreferencesEntry &entry = module(moduleName);
+    entry.setValue(key, value);
+    entry.setChanged(key, true);
+    entry.applyPreferences();
+    entry.settle();
+}

@@ -47,6 +47,9 @@ protected:
     static olPreferencesEntry &module(const char *name);
     static const std::vector<olPreferencesEntry *> &modules();
 
+    /// Puts a value into the record, as if it had been edited, and applies its module.
+    static void apply(const char *moduleName, const char *key, const boost::any &value);
+
     /// The named control of a module's page, also of a page that was not handed over.
     template <class Control> static Control &control(const char *moduleName, const char *objectName)
     {

@@ -5,7 +5,6 @@
 #include "Viewport/olGradient.h"
 #include "Viewport/olMouseStyle.h"
 #include "Viewport/olNavigator.h"
-#include "Viewport/olPictureTarget.h"
 
 #include <Graphic3d_Camera.hxx>
 
@@ -32,7 +31,7 @@ protected:
     }
     ~Navigation() override { state.reset(); }
 
-    double distance() const { return camera->Eye().Distance(navigator.pivot()); }
+    [[nodiscard]] double distance() const { return camera->Eye().Distance(navigator.pivot()); }
 
     olHostState &state;
     opencascade::handle<Graphic3d_Camera> camera;
@@ -154,12 +153,6 @@ TEST(Gradient, ReadsItsStopsInAnyOrder)
     const olGradient step({{0, 0, 0}, {1, 1, 1}}, {0.5f, 0.5f});
     EXPECT_FLOAT_EQ(step.at(0.49f).red(), 0.0f);
     EXPECT_FLOAT_EQ(step.at(0.51f).red(), 1.0f);
-}
-
-TEST(PictureTarget, FitsItsPictureIntoTheMiddle)
-{
-    EXPECT_EQ(olPictureTarget::placeIn({100, 100}, {300, 200}), QRect(50, 0, 200, 200));
-    EXPECT_EQ(olPictureTarget::placeIn({400, 100}, {200, 200}), QRect(0, 75, 200, 50));
 }
 
 class MouseInTheView : public ViewTest

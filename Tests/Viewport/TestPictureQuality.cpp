@@ -33,7 +33,7 @@ olScene::Document redPaneBeforeGreenOne()
     for (const bool front : {true, false}) {
         const TopoDS_Shape pane =
             BRepPrimAPI_MakeBox(gp_Pnt(-50, front ? -20 : 20, -50), gp_Pnt(50, front ? -19 : 21, 50)).Shape();
-        BRepMesh_IncrementalMesh(pane, 1.0);
+        BRepMesh_IncrementalMesh mesher(pane, 1.0);
         const TDF_Label label = shapes->AddShape(pane, Standard_False);
         colors->SetColor(label, Quantity_ColorRGBA(front ? 1.0f : 0.0f, front ? 0.0f : 1.0f, 0.0f, 0.6f),
                          XCAFDoc_ColorSurf);

@@ -22,15 +22,6 @@ ViewTest::ViewTest()
         throw std::runtime_error(view.error().toStdString());
 }
 
-void ViewTest::apply(const char *moduleName, const char *key, const boost::any &value)
-{
-    olPreferencesEntry &entry = module(moduleName);
-    entry.setValue(key, value);
-    entry.setChanged(key, true);
-    entry.applyPreferences();
-    entry.settle();
-}
-
 void ViewTest::settle(int milliseconds) { QTest::qWait(milliseconds); }
 
 void ViewTest::hoverAt(const QPoint &point)

@@ -14,9 +14,6 @@ class ViewTest : public PluginTest
 protected:
     ViewTest();
 
-    /// Puts a value into the record, as if it had been edited, and applies its module.
-    static void apply(const char *moduleName, const char *key, const boost::any &value);
-
     /// Lets the view draw what is due.
     void settle(int milliseconds = 60);
 

@@ -50,9 +50,9 @@ def text(file, otherwise=""):
     return file.read_text(encoding="utf-8") if file.exists() else otherwise
 
 
-def run(tool, options, script):
+def run(tool, script):
     with tempfile.TemporaryDirectory() as home:
-        command = [tool, *options, *head(script, "options"), "script", script.name]
+        command = [tool, *head(script, "options"), "script", script.name]
         return subprocess.run(command, cwd=script.parent, env=environment(script, home), capture_output=True,
                               encoding="utf-8", errors="replace", timeout=SECONDS, check=False)
 
@@ -115,7 +115,6 @@ def scripts(paths):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--tool", required=True, help="the program orlo-prefs")
-    parser.add_argument("--options", default="", help="options of the tool for all scripts, as one text")
     parser.add_argument("--update", action="store_true", help="write the transcripts anew")
     parser.add_argument("paths", nargs="+", type=pathlib.Path, help="scripts, or folders of them")
     arguments = parser.parse_args()
@@ -124,7 +123,7 @@ def main():
     count = failed = 0
     for script in scripts(arguments.paths):
         count += 1
-        result = run(tool, shlex.split(arguments.options), script)
+        result = run(tool, script)
         if arguments.update:
             update(script, result)
             continue

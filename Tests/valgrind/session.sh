@@ -23,7 +23,7 @@ checked() {
 {
     printf '%s\n' defaults gui data apply newscene settled data apply
     for script in fileio/search-paths help/browse navigator/presets render-options/background \
-        render-options/background-lists tesselation/each-setting web-interface/confirmation; do
+        render-options/background-lists tesselation/qualities web-interface/confirmation; do
         echo
         cat "$source/Tests/scripts/$script.script"
     done

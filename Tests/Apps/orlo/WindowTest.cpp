@@ -33,15 +33,6 @@ WindowTest::WindowTest()
 
 WindowTest::~WindowTest() { window.closePreferences(); }
 
-void WindowTest::apply(const char *moduleName, const char *key, const boost::any &value)
-{
-    olPreferencesEntry &entry = module(moduleName);
-    entry.setValue(key, value);
-    entry.setChanged(key, true);
-    entry.applyPreferences();
-    entry.settle();
-}
-
 QAction &WindowTest::action(const char *text)
 {
     for (QAction *action : window.findChildren<QAction *>()) {

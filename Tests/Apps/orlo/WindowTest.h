@@ -15,9 +15,6 @@ protected:
     WindowTest();
     ~WindowTest() override;
 
-    /// Puts a value into the record, as if it had been edited, and applies its module.
-    static void apply(const char *moduleName, const char *key, const boost::any &value);
-
     /// The action of the menus with that text, without its mark for the keyboard.
     QAction &action(const char *text);
 

@@ -5,45 +5,31 @@
 namespace
 {
 
-TEST(ImportOptions, TwoRecordsOfATypeAddUp)
+void write(olImportOptions &&options, void (olImportOptions::*set)(bool), bool value)
 {
-    olImportOptions base("both", true, true);
-    base.setStitching(false);
-    base.write();
-    olImportOptions extra("both", true, true);
-    extra.setLoadBreps(3);
-    extra.write();
-    EXPECT_FALSE(olImportOptions::written("both")->stitching);
-    EXPECT_EQ(olImportOptions::written("both")->loadBreps, 3);
+    (options.*set)(value);
+    options.write();
 }
 
 TEST(ImportOptions, FlagsDecideWhereTheyBeginAndWhatTheyReplace)
 {
-    olImportOptions first("flags", true, true);
-    first.setImportLights(true);
-    first.write();
-
-    olImportOptions polite("flags", true, false);
-    polite.setImportCameras(true);
-    polite.write();
-    EXPECT_FALSE(olImportOptions::written("flags")->importCameras);
-
-    olImportOptions fresh("flags", false, true);
-    fresh.write();
-    EXPECT_FALSE(olImportOptions::written("flags")->importLights);
+    const auto written = [] { return olImportOptions::written("flags"); };
+    write({"flags", true, true}, &olImportOptions::setImportLights, true);
+    write({"flags", true, true}, &olImportOptions::setStitching, false);
+    EXPECT_TRUE(written()->importLights && !written()->stitching) << "two records of a type add up";
+    write({"flags", true, false}, &olImportOptions::setImportCameras, true);
+    EXPECT_FALSE(written()->importCameras);
+    write({"flags", false, true}, &olImportOptions::setImportCameras, true);
+    EXPECT_TRUE(written()->importCameras && !written()->importLights);
 }
 
 TEST(ImportOptions, LegacyLoaderIsForgottenWithThePlugin)
 {
     olImportOptions on("legacy", true, true);
-    on.setUsePlugin(true);
     on.setLegacyLoader("VWSH");
-    on.write();
+    write(std::move(on), &olImportOptions::setUsePlugin, true);
     EXPECT_EQ(olImportOptions::written("legacy")->legacyLoader, "VWSH");
-
-    olImportOptions off("legacy", true, true);
-    off.setUsePlugin(false);
-    off.write();
+    write({"legacy", true, true}, &olImportOptions::setUsePlugin, false);
     EXPECT_EQ(olImportOptions::written("legacy")->legacyLoader, "");
 }
 

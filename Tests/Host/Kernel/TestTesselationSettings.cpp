@@ -29,34 +29,30 @@ protected:
     olTesselationSettings settings;
 };
 
-TEST_F(TesselationSettings, SliderSetsTheThreeTolerancesFromLowestToHighest)
+TEST_F(TesselationSettings, SliderSetsTheThreeTolerancesAndTheDefaultsOfAnImportAreItsMiddle)
 {
     auto &slider = control<QSlider>(Control::Quality);
+    const auto tolerances = [this] {
+        return std::vector<double>{settings.chordDeviation(), settings.normalTolerance(), settings.maxChordLength()};
+    };
     const double stitching = settings.stitchingTolerance();
     slider.setValue(slider.minimum());
     for (int preset = slider.minimum() + 1; preset <= slider.maximum(); ++preset) {
-        const double before[] = {settings.chordDeviation(), settings.normalTolerance(), settings.maxChordLength()};
+        const std::vector<double> before = tolerances();
         slider.setValue(preset);
-        EXPECT_LT(settings.chordDeviation(), before[0]);
-        EXPECT_LT(settings.normalTolerance(), before[1]);
-        EXPECT_LT(settings.maxChordLength(), before[2]);
+        for (std::size_t index = 0; index < before.size(); ++index)
+            EXPECT_LT(tolerances()[index], before[index]);
     }
     EXPECT_EQ(settings.stitchingTolerance(), stitching);
-}
 
-TEST_F(TesselationSettings, DefaultsOfAnImportAreTheMiddlePreset)
-{
+    slider.setValue((slider.minimum() + slider.maximum()) / 2);
+    EXPECT_EQ(tolerances(), (std::vector<double>{0.075, 10.0, 200.0}));
+    slider.setValue(slider.maximum());
     settings.setChordDeviation(0.075);
     settings.setNormalTolerance(10.0);
     settings.setMaxChordLength(200.0);
     settings.updateQualityPreset();
-    auto &slider = control<QSlider>(Control::Quality);
     EXPECT_EQ(slider.value() * 2, slider.minimum() + slider.maximum());
-    slider.setValue(slider.maximum());
-    slider.setValue((slider.minimum() + slider.maximum()) / 2);
-    EXPECT_EQ(settings.chordDeviation(), 0.075);
-    EXPECT_EQ(settings.normalTolerance(), 10.0);
-    EXPECT_EQ(settings.maxChordLength(), 200.0);
 }
 
 TEST_F(TesselationSettings, SliderFollowsWhatIsTypedAndChangesNothingElse)

@@ -137,10 +137,11 @@ TEST_F(PreferencesDialogSearch, TheWholeDialogIsReachedByTabInAReadersOrder)
     start();
     module.page.samples->setValue(9);
     EXPECT_TRUE(canApply());
+    const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
     const std::vector<QWidget *> order{search(),
-                                       dialog->findChild<QCheckBox *>(QStringLiteral("changedOnly")),
+                                       named("changedOnly"),
                                        dialog->findChild<QTreeWidget *>(),
-                                       dialog->findChild<QPushButton *>(QStringLiteral("restorePage")),
+                                       named("restorePage"),
                                        module.page.shadows,
                                        module.page.samples,
                                        module.page.mode,
@@ -155,7 +156,6 @@ TEST_F(PreferencesDialogSearch, TheWholeDialogIsReachedByTabInAReadersOrder)
     auto next = reached.begin();
     for (QWidget *widget : order) {
         next = std::find(next, reached.end(), widget);
-        ASSERT_NE(next, reached.end()) << widget->metaObject()->className() << ' '
-                                       << widget->objectName().toStdString();
+        ASSERT_NE(next, reached.end()) << widget->objectName().toStdString();
     }
 }
