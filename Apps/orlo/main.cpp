@@ -13,7 +13,11 @@
 #include <QCommandLineParser>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -22,6 +26,13 @@ int fail(const QString &error)
 {
     std::fprintf(stderr, "orlo: %s\n", qPrintable(error));
     return 1;
+}
+
+/// For what the caller got wrong.
+int refuse(const QString &fault)
+{
+    fail(fault);
+    return 2;
 }
 
 /// In a box that keeps nobody from working; without a window, on the standard error stream.
@@ -46,17 +57,44 @@ bool isBatch(const QCommandLineParser &options)
     return options.isSet(QStringLiteral("render")) || options.isSet(QStringLiteral("save"));
 }
 
+/// An option that would do nothing without another, or beside it; empty where there is none.
+QString uselessOption(const QCommandLineParser &options)
+{
+    const bool isRendering = options.isSet(QStringLiteral("render"));
+    for (const char *option : {"output", "size"}) {
+        if (!isRendering && options.isSet(QLatin1String(option)))
+            return QStringLiteral("--%1 needs --render").arg(QLatin1String(option));
+    }
+    if (!isBatch(options) && options.isSet(QStringLiteral("set")))
+        return QStringLiteral("--set needs --render or --save");
+    for (const char *option : {"sample", "save"}) {
+        if (isRendering && options.isSet(QLatin1String(option)))
+            return QStringLiteral("--%1 does not go with --render").arg(QLatin1String(option));
+    }
+    for (const char *option : {"preferences", "tour"}) {
+        if (isBatch(options) && options.isSet(QLatin1String(option)))
+            return QStringLiteral("--%1 needs a window, which --render and --save do without")
+                .arg(QLatin1String(option));
+    }
+    return {};
+}
+
 /// What stands on the command line but makes no sense; empty where all does.
 QString misuse(const QCommandLineParser &options)
 {
+    const QString useless = uselessOption(options);
+    if (!useless.isEmpty())
+        return useless;
     const bool isRendering = options.isSet(QStringLiteral("render"));
     if (isRendering && !options.isSet(QStringLiteral("output")))
         return QStringLiteral("--render needs --output PICTURE");
     if (isRendering && !olBatch::sizeFrom(options.value(QStringLiteral("size"))))
-        return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 16384")
+        return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192")
             .arg(options.value(QStringLiteral("size")));
     if (options.isSet(QStringLiteral("save")) && !options.isSet(QStringLiteral("sample")))
         return QStringLiteral("--save needs --sample");
+    if (isBatch(options) && !options.positionalArguments().isEmpty())
+        return QStringLiteral("%1 does not go with --render and --save").arg(options.positionalArguments().first());
     if (options.positionalArguments().size() > 1)
         return QStringLiteral("only one model can be opened at a time");
     return {};
@@ -82,9 +120,8 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     session.fillDefaults();
     const QString fault = olSetGivenSettings(session, options.values(QStringLiteral("set")));
     if (!fault.isEmpty()) {
-        std::fprintf(stderr, "orlo: %s\n", qPrintable(fault));
         session.stop();
-        return 2;
+        return refuse(fault);
     }
     session.start();
     tell(session.takeNotices(), nullptr);
@@ -98,17 +135,13 @@ int run(const QCommandLineParser &options)
 {
     olHostState &host = olHostState::the();
     const auto edition = olEditionNamed(options.value(QStringLiteral("edition")));
-    if (!edition) {
-        std::fprintf(stderr,
-                     "orlo: there is no edition %s; there are essentials, design, professional and enterprise\n",
-                     qPrintable(options.value(QStringLiteral("edition"))));
-        return 2;
-    }
+    if (!edition)
+        return refuse(
+            QStringLiteral("there is no edition %1; there are essentials, design, professional and enterprise")
+                .arg(options.value(QStringLiteral("edition"))));
     const QString wrong = misuse(options);
-    if (!wrong.isEmpty()) {
-        std::fprintf(stderr, "orlo: %s\n", qPrintable(wrong));
-        return 2;
-    }
+    if (!wrong.isEmpty())
+        return refuse(wrong);
     host.edition = *edition;
     host.applicationName = options.value(QStringLiteral("app-name"));
 
@@ -148,6 +181,18 @@ int run(const QCommandLineParser &options)
     return saveError.isEmpty() ? result : fail(saveError);
 }
 
+/// The toolkit has an option of this name too and would take "--plugin FILE" for it, but not "--plugin=FILE".
+std::vector<std::string> withOwnPlugin(int count, char **values)
+{
+    std::vector<std::string> arguments(values, values + count);
+    const auto plugin = std::find(arguments.begin(), arguments.end(), "--plugin");
+    if (std::distance(plugin, arguments.end()) < 2)
+        return arguments;
+    *plugin += '=' + *std::next(plugin);
+    arguments.erase(std::next(plugin));
+    return arguments;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -155,7 +200,13 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();
-    QApplication application(argc, argv);
+    std::vector<std::string> arguments = withOwnPlugin(argc, argv);
+    std::vector<char *> argumentTexts;
+    for (std::string &argument : arguments)
+        argumentTexts.push_back(argument.data());
+    argumentTexts.push_back(nullptr);
+    int argumentCount = int(arguments.size());
+    QApplication application(argumentCount, argumentTexts.data());
     QApplication::setOrganizationName(QStringLiteral("ORLO"));
     QApplication::setApplicationName(QStringLiteral("orlo"));
     QApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
@@ -193,6 +244,8 @@ int main(int argc, char *argv[])
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});
+    if (!options.parse(QApplication::arguments()))
+        return refuse(options.errorText());
     options.process(application);
     return run(options);
 }

@@ -16,7 +16,8 @@
 namespace
 {
 
-constexpr int longestSide = 16384;
+/// As in the window: a larger picture does not fit into a graphics card together with all that it needs to draw it.
+constexpr int longestSide = 8192;
 
 int fail(const QString &error, int status)
 {
@@ -62,8 +63,10 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
 int olBatch::save(const olScene &scene, const QString &file)
 {
     const olExportResult result = olExportScene(scene.document(), file);
+    if (!result.error.isEmpty())
+        return fail(result.error, 1);
     remark(result.remarks);
-    return result.error.isEmpty() ? 0 : fail(result.error, 1);
+    return 0;
 }
 
 std::optional<QSize> olBatch::sizeFrom(const QString &text)

@@ -33,6 +33,8 @@ bool olIsRecordedOnly(const QString &name)
         QStringLiteral("autoCreateCollisionObjects"),
         QStringLiteral("showTooltipsOnStart"),
         QStringLiteral("spacemouseButtons"),
+        // The mesher knows no such limit.
+        QStringLiteral("maxChordLengths"),
         // There is no reader for what these steer.
         QStringLiteral("optimizeTransparencies"),
         QStringLiteral("legacyJtLoader"),

@@ -216,6 +216,8 @@ public:
     olHostValue<bool> importCenteredInOrigin{*this, "importCenteredInOrigin", false};
     olHostValue<bool> importPutOnGround{*this, "importPutOnGround", false};
     olHostValue<std::vector<std::string>> textureSearchPaths{*this, "textureSearchPaths", {}};
+    /// Each with its type, in millimetres: "STEP 200".
+    olHostValue<std::vector<std::string>> maxChordLengths{*this, "maxChordLengths", {}};
     olHostValue<bool> legacyJtLoader{*this, "legacyJtLoader", false};
     olHostValue<bool> legacyRhinoLoader{*this, "legacyRhinoLoader", false};
     olHostValue<int> stlExportFormat{*this, "stlExportFormat", 0};

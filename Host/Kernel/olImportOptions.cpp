@@ -1,6 +1,9 @@
 #include "Kernel/olImportOptions.h"
 
+#include "Embedded/olHostState.h"
 #include "Embedded/olJournal.h"
+
+#include <QString>
 
 #include <map>
 #include <utility>
@@ -14,6 +17,16 @@ std::map<std::string, olImportOptions::Record> &records()
 {
     static std::map<std::string, olImportOptions::Record> all;
     return all;
+}
+
+/// No importer here goes by them, and so they are to be seen at least.
+void tellMaxChordLengths()
+{
+    std::vector<std::string> lengths;
+    for (const auto &[type, record] : records())
+        lengths.push_back(type + ' ' + QString::number(record.maxChordLength).toStdString());
+    if (lengths != olHostState::the().maxChordLengths.get())
+        olHostState::the().maxChordLengths = lengths;
 }
 
 } // namespace
@@ -53,10 +66,13 @@ void olImportOptions::setLegacyLoader(const char *name)
 void olImportOptions::write()
 {
     olJournal::callOn(className, m_type, "write");
-    if (m_replacing)
-        records()[m_type] = m_record;
-    else
-        records().emplace(m_type, m_record);
+    const Record *before = written(m_type);
+    if (before && !m_replacing)
+        return;
+    const bool isSeen = before && before->maxChordLength == m_record.maxChordLength;
+    records()[m_type] = m_record;
+    if (!isSeen)
+        tellMaxChordLengths();
 }
 
 const olImportOptions::Record *olImportOptions::written(const std::string &type)

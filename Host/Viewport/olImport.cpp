@@ -34,6 +34,7 @@
 #include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <new>
@@ -279,7 +280,8 @@ olImportResult olImport(const olImportJob &job, const Message_ProgressRange &pro
     olImportResult result;
     const olModelFormat *format = olModelFormat::ofFile(job.file);
     if (!format) {
-        result.error = olModelFormat::noReader(job.file);
+        result.error = QFileInfo(job.file).isDir() ? translated("Cannot read %1: this is a folder.").arg(job.file)
+                                                   : olModelFormat::noReader(job.file);
         return result;
     }
     const QString fault = attempt(job, *format, result, progress);

@@ -62,6 +62,26 @@ class Batch(tool_test.ToolTest):
                             f"orlo: Cannot read {model}: there is no reader for .jt files. These can be read: "
                             "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb.")
         self.assertFalse((self.folder / "p.png").exists())
+        self.assert_refused(self.stored("--render", self.folder, "--output", "p.png"),
+                            f"orlo: Cannot read {self.folder}: this is a folder.")
+
+    def test_what_would_be_ignored_is_refused(self):
+        output = ["--output", "p.png"]
+        for arguments, message in (
+                (output, "--output needs --render"),
+                (["--set", "Camera fov=60"], "--set needs --render or --save"),
+                (["--render", "m.step", "--sample", *output], "--sample does not go with --render"),
+                (["--render", "m.step", *output, "n.step"], "n.step does not go with --render and --save"),
+                (["--sample", "--save", "m.step", "--tour", "t"],
+                 "--tour needs a window, which --render and --save do without"),
+                (["--render", "m.step", *output, "--size", "8193x1"],
+                 "8193x1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192"),
+                (["--nonsense"], "Unknown option 'nonsense'.")):
+            with self.subTest(arguments=arguments):
+                self.assert_refused(self.stored(*arguments), f"orlo: {message}")
+        missing = self.stored("--sample", "--save", "m.step", plugin="/missing.so")
+        self.assertIn("/missing.so", missing.stderr)
+        self.assertEqual(missing.returncode, 1)
 
 
 if __name__ == "__main__":

@@ -37,6 +37,7 @@ private:
     void writeDown(const QByteArray &line);
     void check(const QByteArray &line, const DrivenModule &module, const Values &before);
     void checkTypes(const DrivenModule &module) const;
+    void checkOrigins(const DrivenModule &module);
     [[nodiscard]] static Values valuesOf(const DrivenModule &module);
 
     RandomLines m_lines;
@@ -47,4 +48,6 @@ private:
     olPreferencesSession m_session;
     std::unique_ptr<olScriptRunner> m_runner;
     GuardModel::Calls m_calls;
+    std::set<std::string> m_liveBefore;
+    std::map<std::string, std::set<std::string>> m_readBefore;
 };

@@ -186,11 +186,17 @@ TEST_F(SettingsInTheView, AStillFrameComesAfterTheSecondsOfRest)
     for (int tries = 0; tries < 200 && !view.isStillFrameDone(); ++tries)
         settle(50);
     ASSERT_TRUE(view.isStillFrameDone());
-    const QImage still = view.shownPicture();
+    QImage still = view.shownPicture();
     const double smoothed = difference(moving, still);
     EXPECT_GT(smoothed, 0.002);
     EXPECT_LT(smoothed, 0.2) << "the same picture, only better";
     EXPECT_LT(difference(still, view.stillPicture()), 0.0005) << "for a file it comes at once";
+    for (const char *factor : {"RenderOptions antialiase distance", "RenderOptions antialiase scale"}) {
+        apply(rendering, factor, 8.0f);
+        const QImage blurred = view.stillPicture();
+        EXPECT_GT(difference(still, blurred), 0.005) << factor << ": the pictures of the mean lie farther apart";
+        still = blurred;
+    }
 
     apply("Camera", "Camera fov", 50.0f);
     EXPECT_FALSE(view.isStillFrameDone()) << "a change begins it anew";

@@ -1,5 +1,5 @@
 """Looks through the sources for what the rings forbid: the plug-in knows only the SDK, never the embedded host behind
-it, and every header guards itself."""
+it, and every header guards itself. What the documents say of each setting is held against the settings there are."""
 
 import re
 import sys
@@ -55,9 +55,18 @@ def recorded_faults(root):
                 yield f"{path.relative_to(root)}: reads {name}, which {marks.name} calls only recorded"
 
 
+def unexplained_settings(root):
+    """Every setting is named where it stands what it does here: by its place on the page, or without one by its key."""
+    explained = " ".join((root / "docs/settings-in-the-view.md").read_text().split())
+    for key, place in re.findall(r"^\| `([^`]+)` \|.*\| (.*) ?\|$", (root / "docs/settings.md").read_text(), re.M):
+        name = place.split(" › ")[-1].strip() or f"`{key}`"
+        if name not in explained:
+            yield f"settings-in-the-view.md: says nothing of {name} ({key})"
+
+
 def main():
     root = Path(sys.argv[1])
-    faults = list(recorded_faults(root))
+    faults = list(recorded_faults(root)) + list(unexplained_settings(root))
     for path in sorted((root / "Plugins").rglob("*")):
         if path.suffix in {".h", ".cpp"}:
             faults += [f"{path.relative_to(root)}: {fault}" for fault in plugin_faults(path, path.read_text())]

@@ -74,6 +74,10 @@ TEST_F(MainWindow, TheHostStateSaysWhatIsOnlyRecorded)
     apply("Camera", "Powerwall width", 99.0f);
     EXPECT_EQ(value(QStringLiteral("fov")), QStringLiteral("30"));
     EXPECT_EQ(value(QStringLiteral("powerwallWidth")), QStringLiteral("99 (only recorded)"));
+    apply("Step", "STEPOptions max chord length", 50.0);
+    const QString lengths = value(QStringLiteral("maxChordLengths"));
+    EXPECT_TRUE(lengths.contains(QStringLiteral("STEP 50")) && lengths.endsWith(QStringLiteral("(only recorded)")))
+        << lengths.toStdString();
 }
 
 TEST_F(MainWindow, OpacityNeverMakesTheWindowVanish)
