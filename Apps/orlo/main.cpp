@@ -202,6 +202,7 @@ int main(int argc, char *argv[])
     olViewport::prepareApplication();
     std::vector<std::string> arguments = withOwnPlugin(argc, argv);
     std::vector<char *> argumentTexts;
+    argumentTexts.reserve(arguments.size() + 1);
     for (std::string &argument : arguments)
         argumentTexts.push_back(argument.data());
     argumentTexts.push_back(nullptr);

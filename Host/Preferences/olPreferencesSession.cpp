@@ -213,7 +213,7 @@ Values olPreferencesSession::current() const
     // Both are in the order of their keys, so that nothing has to be looked up.
     const olMessage::Entries &rows = record().entries();
     auto row = rows.begin();
-    const Offer end = olPreferencesRegistry::the().offers().end();
+    const auto end = olPreferencesRegistry::the().offers().end();
     for (Offer first = olPreferencesRegistry::the().offers().begin(), next; first != end; first = next) {
         const std::string &key = first->offered->key;
         next = std::find_if(first, end, [&key](const olOffer &offer) { return offer.offered->key != key; });

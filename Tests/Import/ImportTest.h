@@ -32,7 +32,7 @@ protected:
     /// Writes the sample; the test fails where it cannot.
     QString exported(const QString &name);
     [[nodiscard]] QString written(const QString &name, const QByteArray &content) const;
-    [[nodiscard]] static QByteArray contentOf(const QString &file);
+    [[nodiscard]] static QByteArray contentOf(const QString &name);
 
     /// Reads what must be readable.
     static olScene::Document imported(const olImportJob &job);
