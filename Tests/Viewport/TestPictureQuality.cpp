@@ -16,7 +16,9 @@
 
 #include <QCursor>
 
+#include <array>
 #include <set>
+#include <string>
 
 namespace
 {
@@ -70,6 +72,22 @@ TEST_F(PictureQuality, MoreSamplesComeNearerToASmoothPicture)
         EXPECT_LT(two, 0.8 * rough);
         EXPECT_LT(eight, 0.6 * two);
         EXPECT_GT(eight, 0.0);
+    }
+}
+
+TEST_F(PictureQuality, EachQualityGoesByItsOwnPreset)
+{
+    const std::array<std::string, 4> presets{"low", "medium", "high", "ultra"};
+    for (std::size_t chosen = 0; chosen < presets.size(); ++chosen) {
+        apply(rendering, quality, int(chosen) + 1);
+        for (std::size_t changed = 0; changed < presets.size(); ++changed) {
+            SCOPED_TRACE(presets[chosen] + " is chosen, " + presets[changed] + " is changed");
+            const std::string samples = "RenderOptions multisample quality " + presets[changed];
+            apply(rendering, samples.c_str(), 1);
+            const QImage rough = view.picture();
+            apply(rendering, samples.c_str(), 4);
+            EXPECT_EQ(difference(rough, view.picture()) > 0.0, chosen == changed);
+        }
     }
 }
 
