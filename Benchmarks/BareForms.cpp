@@ -1,6 +1,6 @@
 #include "BareForms.h"
 
-#include "Preferences/olPreferencesEntry.h"
+#include "State/olPreferencesEntry.h"
 #include "Support/BenchHost.h"
 #include "ui_olCameraPreferencesGUI.h"
 #include "ui_olDevicesPreferencesGUI.h"

@@ -1,8 +1,8 @@
 #include "BareForms.h"
+#include "Dialog/olPreferencesDialog.h"
 #include "Groups.h"
-#include "Preferences/olPreferencesDialog.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
 #include "Support/BenchHost.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "Groups.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
 #include "Support/Allocations.h"
 #include "Support/BenchHost.h"
 

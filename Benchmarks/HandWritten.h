@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Preferences/olPreferencesEntry.h"
+#include "State/olPreferencesEntry.h"
 #include "Utilities/olMessage.h"
 
 #include <string>

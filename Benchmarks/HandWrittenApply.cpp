@@ -12,7 +12,7 @@
 #include "Kernel/olSpacemouse.h"
 #include "Kernel/olTexSearch.h"
 #include "KernelServices/olPreferencesCategory.h"
-#include "Preferences/olPreferencesEntry.h"
+#include "State/olPreferencesEntry.h"
 #include "Support/BenchHost.h"
 #include "Utilities/olMessage.h"
 

@@ -1,7 +1,7 @@
 #include "KConfigPages.h"
 
 #include "BareForms.h"
-#include "Preferences/olPreferencesEntry.h"
+#include "State/olPreferencesEntry.h"
 #include "Support/BenchHost.h"
 
 #include <KConfigDialogManager>

@@ -1,7 +1,7 @@
-#include "Embedded/olValue.h"
 #include "Groups.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 #include "Support/BenchHost.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // The commands that give one setting another value, or take them back.
 
-#include "Embedded/olValue.h"
-#include "Preferences/olControlBounds.h"
+#include "Editing/olControlBounds.h"
+#include "State/olValue.h"
 #include "olKnownSettings.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"

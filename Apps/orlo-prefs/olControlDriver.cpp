@@ -1,7 +1,7 @@
 #include "olControlDriver.h"
 
-#include "Embedded/olValue.h"
-#include "Preferences/olNumberText.h"
+#include "Editing/olNumberText.h"
+#include "State/olValue.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"

@@ -1,9 +1,9 @@
 // The commands that keep preferences in a file and take them from one.
 
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesFile.h"
-#include "Preferences/olPreferencesImport.h"
+#include "Session/olPreferencesFile.h"
+#include "Session/olPreferencesImport.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olValue.h"
 #include "olKnownSettings.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"

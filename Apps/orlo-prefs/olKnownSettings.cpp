@@ -1,10 +1,10 @@
 #include "olKnownSettings.h"
 
-#include "Embedded/olValue.h"
-#include "Preferences/olPageAccess.h"
-#include "Preferences/olPageIndex.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "Editing/olPageAccess.h"
+#include "Editing/olPageIndex.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 #include "olNearest.h"
 #include "olToolError.h"
 

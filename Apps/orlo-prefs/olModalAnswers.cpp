@@ -1,7 +1,7 @@
 #include "olModalAnswers.h"
 
-#include "Embedded/olValue.h"
-#include "Preferences/olPageIndex.h"
+#include "Editing/olPageIndex.h"
+#include "State/olValue.h"
 #include "Widgets/QOLColorDialog.h"
 #include "olDirectoryChooser.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Embedded/olEdition.h"
+#include "State/olEdition.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "olPrefsTool.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "olPrefsCommands.h"
 #include "olToolError.h"
 

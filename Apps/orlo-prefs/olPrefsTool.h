@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Preferences/olPreferencesSession.h"
+#include "Session/olPreferencesSession.h"
 #include "olModalAnswers.h"
 #include "olPrefsOptions.h"
 

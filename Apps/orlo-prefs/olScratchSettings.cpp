@@ -1,6 +1,6 @@
 #include "olScratchSettings.h"
 
-#include "Embedded/olValue.h"
+#include "State/olValue.h"
 #include "olToolError.h"
 
 #include <QSettings>

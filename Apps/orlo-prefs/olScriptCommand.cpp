@@ -1,4 +1,4 @@
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"
 #include "olScriptRunner.h"

@@ -1,9 +1,9 @@
 #include "olSettingsCatalogue.h"
 
-#include "Embedded/olValue.h"
-#include "Preferences/olPageIndex.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "Editing/olPageIndex.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 
 #include <map>
 

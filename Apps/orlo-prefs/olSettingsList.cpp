@@ -1,8 +1,8 @@
 #include "olSettingsList.h"
 
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 
 #include <algorithm>
 

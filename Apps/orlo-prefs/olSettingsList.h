@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Preferences/olPreferencesImport.h"
+#include "Session/olPreferencesImport.h"
 
 #include <string>
 #include <vector>

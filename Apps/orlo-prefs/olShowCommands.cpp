@@ -1,6 +1,6 @@
 // The commands that only show what there is.
 
-#include "Embedded/olValue.h"
+#include "State/olValue.h"
 #include "olKnownSettings.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"

@@ -1,6 +1,6 @@
 #include "olTranscript.h"
 
-#include "Embedded/olValue.h"
+#include "State/olValue.h"
 
 #include <QString>
 

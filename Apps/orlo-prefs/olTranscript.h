@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Embedded/olJournal.h"
+#include "State/olJournal.h"
 #include "Utilities/olLog.h"
 
 #include <cstdio>

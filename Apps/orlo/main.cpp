@@ -3,9 +3,9 @@
 #include "olMainWindow.h"
 #include "olTour.h"
 
-#include "Embedded/olEdition.h"
-#include "Embedded/olHostState.h"
-#include "Preferences/olPreferencesSession.h"
+#include "Session/olPreferencesSession.h"
+#include "State/olEdition.h"
+#include "State/olHostState.h"
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 

@@ -1,11 +1,11 @@
 #include "olGivenSettings.h"
 
-#include "Embedded/olValue.h"
-#include "Preferences/olControlBounds.h"
-#include "Preferences/olPageIndex.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
-#include "Preferences/olPreferencesSession.h"
+#include "Editing/olControlBounds.h"
+#include "Editing/olPageIndex.h"
+#include "Session/olPreferencesSession.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "olRecordedOnly.h"
 
-#include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
+#include "State/olHostState.h"
+#include "State/olValue.h"
 
 #include <QLineEdit>
 #include <QTreeWidget>

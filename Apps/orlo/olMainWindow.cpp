@@ -6,9 +6,9 @@
 #include "olModelFiles.h"
 #include "olSceneTree.h"
 
-#include "Embedded/olHostState.h"
-#include "Preferences/olPreferencesDialog.h"
-#include "Preferences/olPreferencesSession.h"
+#include "Dialog/olPreferencesDialog.h"
+#include "Session/olPreferencesSession.h"
+#include "State/olHostState.h"
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 

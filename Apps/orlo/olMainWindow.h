@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Embedded/olHostValue.h"
+#include "State/olHostValue.h"
 
 #include <QMainWindow>
 

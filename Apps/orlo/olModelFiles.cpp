@@ -2,7 +2,7 @@
 
 #include "olImportDialog.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olExportScene.h"
 #include "Viewport/olModelFormat.h"
 #include "Viewport/olScene.h"

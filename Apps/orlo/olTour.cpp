@@ -3,7 +3,7 @@
 #include "olJournalPanel.h"
 #include "olMainWindow.h"
 
-#include "Preferences/olPreferencesDialog.h"
+#include "Dialog/olPreferencesDialog.h"
 #include "Viewport/olViewport.h"
 #include "Widgets/QOLSlider.h"
 

@@ -1,10 +1,10 @@
 #include "Support/BenchHost.h"
 
-#include "Embedded/olHostState.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
 
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>

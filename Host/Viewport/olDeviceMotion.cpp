@@ -1,6 +1,6 @@
 #include "Viewport/olDeviceMotion.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olNavigator.h"
 
 #include <Graphic3d_Camera.hxx>

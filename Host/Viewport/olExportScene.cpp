@@ -10,7 +10,7 @@
 #include "Viewport/olPartChanges.h"
 #include "Viewport/olPlainLook.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 
 #include <BRep_Builder.hxx>
 #include <IFSelect_ReturnStatus.hxx>

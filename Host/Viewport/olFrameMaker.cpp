@@ -1,6 +1,6 @@
 #include "Viewport/olFrameMaker.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 
 namespace
 {

@@ -2,8 +2,8 @@
 
 #include "Viewport/olModelFormat.h"
 
-#include "Embedded/olHostState.h"
 #include "Kernel/olTexSearch.h"
+#include "State/olHostState.h"
 
 #include <QDir>
 #include <QFileInfo>

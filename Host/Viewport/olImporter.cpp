@@ -3,7 +3,7 @@
 #include "Viewport/olDocumentCopy.h"
 #include "Viewport/olScene.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 
 #include <Message_ProgressIndicator.hxx>
 #include <TDocStd_Document.hxx>

@@ -1,7 +1,7 @@
 #include "Viewport/olNavigator.h"
 
-#include "Embedded/olHostState.h"
 #include "Kernel/olOSGWidget.h"
+#include "State/olHostState.h"
 
 #include <Graphic3d_Camera.hxx>
 #include <gp_Ax1.hxx>

@@ -1,6 +1,6 @@
 #include "Viewport/olProgressWheel.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Widgets/exCursorProgress.h"
 
 #include <QCursor>

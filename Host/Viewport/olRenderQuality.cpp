@@ -1,6 +1,6 @@
 #include "Viewport/olRenderQuality.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 
 #include <Graphic3d_RenderingParams.hxx>
 

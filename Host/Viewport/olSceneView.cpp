@@ -1,6 +1,6 @@
 #include "Viewport/olSceneView.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olCornerMarks.h"
 #include "Viewport/olGlBinding.h"
 #include "Viewport/olGradient.h"

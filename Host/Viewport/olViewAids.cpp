@@ -1,6 +1,6 @@
 #include "Viewport/olViewAids.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olNavigator.h"
 
 #include <AIS_CameraFrustum.hxx>

@@ -1,6 +1,6 @@
 #include "Viewport/olViewLights.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olNavigator.h"
 
 #include <V3d_AmbientLight.hxx>

@@ -1,7 +1,7 @@
 #include "Viewport/olViewport.h"
 
-#include "Embedded/olHostState.h"
 #include "Kernel/olOSGWidget.h"
+#include "State/olHostState.h"
 #include "Utilities/olLog.h"
 #include "Viewport/olDeviceMotion.h"
 #include "Viewport/olFrameMaker.h"

@@ -1,9 +1,9 @@
 #include "WebServer/olWebPages.h"
 
-#include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 
 #include <QCoreApplication>
 #include <QString>

@@ -1,8 +1,8 @@
 #include "WebServer/olWebServer.h"
 
-#include "Embedded/olHostState.h"
-#include "Preferences/olPreferencesRegistry.h"
-#include "Preferences/olPreferencesStore.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesRegistry.h"
+#include "Store/olPreferencesStore.h"
 #include "Utilities/olLog.h"
 #include "WebServer/olWebPages.h"
 

@@ -1,6 +1,6 @@
 #include "Forms/FormFaults.h"
 
-#include "Preferences/olPageIndex.h"
+#include "Editing/olPageIndex.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

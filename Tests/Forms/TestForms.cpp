@@ -1,7 +1,7 @@
+#include "Dialog/olPreferencesDialog.h"
 #include "Forms/FormFaults.h"
 #include "Forms/Pictures.h"
-#include "Preferences/olPreferencesDialog.h"
-#include "Preferences/olPreferencesSession.h"
+#include "Session/olPreferencesSession.h"
 #include "Support/PluginTest.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 

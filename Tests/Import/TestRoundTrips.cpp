@@ -1,6 +1,6 @@
 #include "Import/ImportTest.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 
 #include <TDocStd_Document.hxx>
 

@@ -1,7 +1,7 @@
 #include "Model/GuardModel.h"
 
-#include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
+#include "State/olHostState.h"
+#include "State/olValue.h"
 
 #include <algorithm>
 #include <map>

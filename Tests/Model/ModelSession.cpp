@@ -1,11 +1,11 @@
 #include "Model/ModelSession.h"
 
-#include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
-#include "Preferences/olPreferencesEntry.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 #include "olToolError.h"
 
 #include <QBuffer>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Embedded/olEdition.h"
-#include "Embedded/olJournal.h"
 #include "Model/GuardModel.h"
 #include "Model/RandomLines.h"
-#include "Preferences/olPreferencesSession.h"
+#include "Session/olPreferencesSession.h"
+#include "State/olEdition.h"
+#include "State/olJournal.h"
 #include "olScriptRunner.h"
 
 #include <QFile>

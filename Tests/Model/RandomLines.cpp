@@ -1,8 +1,8 @@
 #include "Model/RandomLines.h"
 
-#include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesEntry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olValue.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Preferences/olPageIndex.h"
+#include "Editing/olPageIndex.h"
 
 #include <QByteArray>
 

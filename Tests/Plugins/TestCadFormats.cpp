@@ -1,5 +1,5 @@
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 #include "Support/PluginTest.h"
 #include "Widgets/olTesselationSettings.h"
 

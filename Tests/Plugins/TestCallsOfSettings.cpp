@@ -1,5 +1,5 @@
-#include "Embedded/olHostState.h"
-#include "Embedded/olValue.h"
+#include "State/olHostState.h"
+#include "State/olValue.h"
 #include "Support/PluginTest.h"
 
 #include <QFile>

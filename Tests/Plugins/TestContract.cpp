@@ -1,6 +1,6 @@
-#include "Embedded/olValue.h"
 #include "Kernel/olPreferences.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
 #include "Support/PluginTest.h"
 
 #include <QMetaObject>

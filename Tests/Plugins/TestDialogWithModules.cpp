@@ -1,12 +1,12 @@
 #include "Support/PluginTest.h"
 
-#include "Embedded/olValue.h"
+#include "Dialog/olChangesView.h"
+#include "Dialog/olPreferencesDialog.h"
+#include "Editing/olPageIndex.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
-#include "Preferences/olChangesView.h"
-#include "Preferences/olPageIndex.h"
-#include "Preferences/olPreferencesDialog.h"
-#include "Preferences/olPreferencesSession.h"
+#include "Session/olPreferencesSession.h"
+#include "State/olValue.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -1,5 +1,5 @@
-#include "Embedded/olHostState.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 
 #include <QAbstractButton>

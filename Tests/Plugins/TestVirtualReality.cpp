@@ -1,6 +1,6 @@
-#include "Embedded/olHostState.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
+#include "State/olHostState.h"
 #include "Support/PluginTest.h"
 
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Support/BoxWatch.h"
 #include "Support/PluginTest.h"
 

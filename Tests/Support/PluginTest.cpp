@@ -1,9 +1,9 @@
 #include "Support/PluginTest.h"
 
-#include "Embedded/olHostState.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesRegistry.h"
 
 #include <stdexcept>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Embedded/olEdition.h"
-#include "Embedded/olJournal.h"
-#include "Preferences/olPluginLoader.h"
-#include "Preferences/olPreferencesEntry.h"
+#include "Session/olPluginLoader.h"
+#include "State/olEdition.h"
+#include "State/olJournal.h"
+#include "State/olPreferencesEntry.h"
 #include "Utilities/olMessage.h"
 
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olDeviceMotion.h"
 #include "Viewport/olNavigator.h"
 

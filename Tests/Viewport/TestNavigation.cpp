@@ -1,7 +1,7 @@
 #include "Viewport/ViewTest.h"
 
-#include "Embedded/olHostState.h"
 #include "Kernel/olOSGWidget.h"
+#include "State/olHostState.h"
 #include "Viewport/olGradient.h"
 #include "Viewport/olMouseStyle.h"
 #include "Viewport/olNavigator.h"

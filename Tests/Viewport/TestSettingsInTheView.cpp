@@ -1,6 +1,6 @@
 #include "Viewport/ViewTest.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 
 #include <OpenSG/OSGColor.h>
 

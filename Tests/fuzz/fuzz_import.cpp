@@ -1,7 +1,7 @@
 // A file of exported preferences.
 
-#include "Embedded/olValue.h"
-#include "Preferences/olPreferencesFile.h"
+#include "Session/olPreferencesFile.h"
+#include "State/olValue.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // A script's lines, taken apart as the lines that put a value are.
 
-#include "Embedded/olValue.h"
+#include "State/olValue.h"
 #include "olScriptParser.h"
 #include "olToolError.h"
 

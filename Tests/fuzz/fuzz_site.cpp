@@ -1,7 +1,7 @@
 // A site's file of defaults and locks, held against modules whose keys begin with the name of their type.
 
-#include "Embedded/olValue.h"
-#include "Preferences/olSiteDefaults.h"
+#include "Session/olSiteDefaults.h"
+#include "State/olValue.h"
 
 #include <QFile>
 #include <QTemporaryDir>

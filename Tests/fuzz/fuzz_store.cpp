@@ -1,8 +1,8 @@
 // A store: the bytes of its file, or the log that a crash left beside a sound one, or else rows of a sound one, on each
 // line a type, a blank and a value.
 
-#include "Preferences/olPreferencesStore.h"
-#include "Preferences/olStoreFile.h"
+#include "Store/olPreferencesStore.h"
+#include "Store/olStoreFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -36,7 +36,7 @@ def sdk_faults(path, text):
     if path.suffix != ".h":
         return
     for quote, name in INCLUDE.findall(text):
-        if name.split("/")[0] in {"Embedded", "Preferences"}:
+        if name.split("/")[0] in {"State"}:
             yield f"an SDK header includes {name} of the embedded host"
 
 
@@ -44,7 +44,7 @@ def recorded_faults(root):
     """No value may be called only recorded that the view or the viewer reads, or that the state does not have."""
     marks = root / "Apps/orlo/olRecordedOnly.cpp"
     names = re.findall(r'QStringLiteral\("(\w+)"\)', marks.read_text())
-    state = (root / "Host/Embedded/olHostState.h").read_text()
+    state = (root / "Sdk/State/olHostState.h").read_text()
     readers = [path for folder in ("Host/Viewport", "Apps/orlo") for path in sorted((root / folder).glob("*.cpp"))]
     texts = {path: path.read_text() for path in readers if path != marks}
     for name in names:
@@ -71,12 +71,12 @@ def main():
         if path.suffix in {".h", ".cpp"}:
             faults += [f"{path.relative_to(root)}: {fault}" for fault in plugin_faults(path, path.read_text())]
     for folder in sorted(SDK_FOLDERS):
-        for path in sorted((root / "Host" / folder).rglob("*.h")):
+        for path in sorted((root / "Sdk" / folder).rglob("*.h")):
             faults += [f"{path.relative_to(root)}: {fault}" for fault in sdk_faults(path, path.read_text())]
-    for folder in ("Apps/orlo", "Host/Preferences", "Host/Widgets", "Plugins"):
+    for folder in ("Apps/orlo", "Host/Dialog", "Host/Editing", "Sdk/Widgets", "Plugins"):
         for path in sorted((root / folder).rglob("*.cpp")):
             faults += [f"{path.relative_to(root)}: {fault}" for fault in widget_faults(path.read_text())]
-    for top in ("Apps", "Benchmarks", "Host", "Plugins", "Tests"):
+    for top in ("Apps", "Benchmarks", "Host", "Plugins", "Sdk", "Tests"):
         for path in sorted((root / top).rglob("*.h")):
             if not path.read_text().startswith("#pragma once"):
                 faults.append(f"{path.relative_to(root)}: does not begin with #pragma once")

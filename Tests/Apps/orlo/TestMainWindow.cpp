@@ -3,8 +3,8 @@
 #include "olHostStatePanel.h"
 #include "olImportDialog.h"
 
-#include "Embedded/olHostState.h"
-#include "Preferences/olPreferencesDialog.h"
+#include "Dialog/olPreferencesDialog.h"
+#include "State/olHostState.h"
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 

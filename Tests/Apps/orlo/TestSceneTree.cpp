@@ -1,6 +1,6 @@
 #include "WindowTest.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 

@@ -2,7 +2,7 @@
 
 #include "Support/PictureDifference.h"
 
-#include "Embedded/olHostState.h"
+#include "State/olHostState.h"
 #include "Viewport/olScene.h"
 #include "Viewport/olViewport.h"
 

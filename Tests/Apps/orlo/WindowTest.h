@@ -3,7 +3,7 @@
 #include "Support/PluginTest.h"
 #include "olMainWindow.h"
 
-#include "Preferences/olPreferencesSession.h"
+#include "Session/olPreferencesSession.h"
 
 #include <QAction>
 #include <QTreeWidget>

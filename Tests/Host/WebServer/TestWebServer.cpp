@@ -1,7 +1,7 @@
-#include "Embedded/olHostState.h"
 #include "Kernel/olController.h"
 #include "Kernel/olWebInterface.h"
-#include "Preferences/olPreferencesRegistry.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesRegistry.h"
 #include "Utilities/olLog.h"
 #include "Utilities/olMessage.h"
 

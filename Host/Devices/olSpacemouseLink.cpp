@@ -1,0 +1,169 @@
+#include "Devices/olSpacemouseLink.h"
+
+#include "State/olHostState.h"
+#include "Utilities/olLog.h"
+
+#include <QString>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <system_error>
+#include <thread>
+
+#include <sys/socket.h>
+
+// Behind all others: it brings in the macros of X11.
+#include <spnav.h>
+
+namespace
+{
+
+/// How long the GUI thread waits for a daemon that is there and in good health, or for the news that there is none.
+constexpr std::chrono::milliseconds patience{50};
+constexpr std::chrono::milliseconds checkInterval{50};
+
+/// A device that is moved all the time must not keep everything else waiting.
+constexpr int eventsAtOnce = 64;
+
+constexpr int buttonCount = 32;
+
+/// To be run in a thread of its own: a daemon that is busy or old lets its caller wait for it.
+bool connectToDaemon()
+{
+    // A daemon that goes while it is greeted must not end the program.
+    sigset_t brokenPipe;
+    sigemptyset(&brokenPipe);
+    sigaddset(&brokenPipe, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
+    return spnav_open() == 0;
+}
+
+bool isHungUp(int socket)
+{
+    char byte;
+    const auto received = recv(socket, &byte, sizeof byte, MSG_PEEK | MSG_DONTWAIT);
+    return received == 0 || (received < 0 && errno != EAGAIN && errno != EINTR);
+}
+
+void showButton(int button, bool pressed)
+{
+    if (button < 0 || button >= buttonCount)
+        return;
+    olHostState &state = olHostState::the();
+    const unsigned bit = 1u << unsigned(button);
+    state.spacemouseButtons = pressed ? state.spacemouseButtons | bit : state.spacemouseButtons & ~bit;
+}
+
+void showEvent(const spnav_event &event)
+{
+    if (event.type == SPNAV_EVENT_MOTION) {
+        const spnav_event_motion &motion = event.motion;
+        olHostState::the().spacemouseMotion = {float(motion.x),  float(motion.y),  float(motion.z),
+                                               float(motion.rx), float(motion.ry), float(motion.rz)};
+    } else if (event.type == SPNAV_EVENT_BUTTON) {
+        showButton(event.button.bnum, event.button.press != 0);
+    }
+}
+
+} // namespace
+
+olSpacemouseLink &olSpacemouseLink::the()
+{
+    static olSpacemouseLink link;
+    return link;
+}
+
+olSpacemouseLink::olSpacemouseLink()
+{
+    m_openingCheck.setInterval(checkInterval);
+    QObject::connect(&m_openingCheck, &QTimer::timeout, [this] {
+        if (m_opening.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
+            finishOpening();
+    });
+}
+
+olSpacemouseLink::~olSpacemouseLink()
+{
+    if (m_notifier)
+        spnav_close();
+}
+
+void olSpacemouseLink::open()
+{
+    m_wanted = true;
+    if (m_notifier || m_opening.valid())
+        return;
+
+    std::packaged_task<bool()> task(&connectToDaemon);
+    m_opening = task.get_future();
+    try {
+        // Nobody waits for its end: the program can be left while a daemon hangs.
+        std::thread(std::move(task)).detach();
+    } catch (const std::system_error &error) {
+        m_opening = {};
+        olLog::error(QStringLiteral("Cannot look for a 3D mouse: %1").arg(QString::fromLocal8Bit(error.what())));
+        return;
+    }
+
+    // The usual cases are settled here. The wait has a second purpose: the thread starts by reading the environment,
+    // which this thread might change next.
+    if (m_opening.wait_for(patience) == std::future_status::ready)
+        finishOpening();
+    else
+        m_openingCheck.start();
+}
+
+void olSpacemouseLink::finishOpening()
+{
+    m_openingCheck.stop();
+    const bool opened = m_opening.get();
+    if (!m_wanted) {
+        if (opened)
+            spnav_close();
+        return;
+    }
+    if (!opened) {
+        olLog::info(QStringLiteral("There is no 3D mouse: its daemon, spacenavd, is not running."));
+        return;
+    }
+    olLog::info(QStringLiteral("Connected to the daemon of the 3D mouse."));
+    listen();
+}
+
+void olSpacemouseLink::listen()
+{
+    m_notifier = std::make_unique<QSocketNotifier>(spnav_fd(), QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readEvents(); });
+    olHostState::the().spacemouseConnected = true;
+}
+
+void olSpacemouseLink::readEvents()
+{
+    // Whoever observes the state may have the connection closed.
+    spnav_event event;
+    for (int count = 0; m_notifier && count < eventsAtOnce && spnav_poll_event(&event) != 0; ++count)
+        showEvent(event);
+
+    // No event and no daemon look the same to the library.
+    if (m_notifier && isHungUp(spnav_fd())) {
+        olLog::info(QStringLiteral("The daemon of the 3D mouse has gone."));
+        close();
+    }
+}
+
+void olSpacemouseLink::close()
+{
+    m_wanted = false;
+    if (!m_notifier)
+        return;
+    // May be at work just now.
+    m_notifier->setEnabled(false);
+    m_notifier.release()->deleteLater();
+    spnav_close();
+
+    olHostState &state = olHostState::the();
+    state.spacemouseMotion.reset();
+    state.spacemouseButtons.reset();
+    state.spacemouseConnected = false;
+}

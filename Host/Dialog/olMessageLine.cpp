@@ -1,0 +1,50 @@
+#include "Dialog/olMessageLine.h"
+
+#include "Widgets/olBlended.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+
+olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel)
+{
+    setAutoFillBackground(true);
+    setFrameShape(StyledPanel);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto *layout = new QHBoxLayout(this);
+    layout->addWidget(m_icon, 0, Qt::AlignTop);
+    layout->addWidget(m_text, 1);
+    setVisible(false);
+}
+
+void olMessageLine::showError(const QString &text) { show(text, true); }
+
+void olMessageLine::showNote(const QString &text) { show(text, false); }
+
+void olMessageLine::clear()
+{
+    m_text->clear();
+    setVisible(false);
+}
+
+QString olMessageLine::text() const { return m_text->text(); }
+
+void olMessageLine::show(const QString &text, bool isError)
+{
+    const auto icon = isError ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
+    m_text->setText(text);
+
+    QPalette shaded;
+    const QColor accent = isError ? QColor(Qt::red) : shaded.color(QPalette::Highlight);
+    shaded.setColor(QPalette::Window, olBlended(shaded.color(QPalette::Window), accent, isError ? 0.15 : 0.1));
+    setPalette(shaded);
+    setVisible(true);
+
+    QAccessibleEvent alert(m_text, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}

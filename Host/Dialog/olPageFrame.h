@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Dialog/olWheelGuard.h"
+#include "Session/olSettingLocks.h"
+
+#include <QPointer>
+#include <QScrollArea>
+
+#include <memory>
+
+class olSettingMarks;
+
+/// A module's page on loan to the dialog: it scrolls, bears marks, and its wheel turns and locks are seen to. When the
+/// frame goes the page is as it came.
+class olPageFrame : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit olPageFrame(QWidget &page);
+    ~olPageFrame() override;
+
+    [[nodiscard]] QWidget *page() const { return m_page; }
+    [[nodiscard]] olSettingMarks &marks() const { return *m_marks; }
+    [[nodiscard]] olSettingLocks &locks() { return m_locks; }
+
+    /// Brings the control into sight: its tab to the front, its frames unfolded, scrolled to.
+    void reveal(const olFoundControl &control);
+
+    /// A page never asks the dialog for more room than it can scroll in.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+private:
+    void showFromTheLeft(const olFoundControl &control);
+
+    QPointer<QWidget> m_page;
+    olSettingMarks *m_marks;
+    olWheelGuard m_wheelGuard;
+    olSettingLocks m_locks;
+};

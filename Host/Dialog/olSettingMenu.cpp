@@ -1,0 +1,150 @@
+#include "Dialog/olSettingMenu.h"
+
+#include "Editing/olPendingChanges.h"
+#include "Editing/olValueText.h"
+#include "Session/olPreferencesSession.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+#include <algorithm>
+
+namespace
+{
+
+/// A text field's own menu to cut, copy and paste with, else an empty one.
+QMenu *standardMenu(QWidget &widget)
+{
+    QWidget *field = widget.focusProxy() ? widget.focusProxy() : &widget;
+    if (!qobject_cast<QLineEdit *>(field) && field->findChild<QLineEdit *>())
+        field = field->findChild<QLineEdit *>();
+    QMenu *menu = nullptr;
+    if (auto *line = qobject_cast<QLineEdit *>(field))
+        menu = line->createStandardContextMenu();
+    else if (auto *plain = qobject_cast<QPlainTextEdit *>(field))
+        menu = plain->createStandardContextMenu();
+    else if (auto *rich = qobject_cast<QTextEdit *>(field))
+        menu = rich->createStandardContextMenu();
+    if (!menu)
+        return new QMenu(&widget);
+    menu->setParent(&widget, menu->windowFlags());
+    menu->addSeparator();
+    return menu;
+}
+
+} // namespace
+
+olSettingMenu::olSettingMenu(const olPreferencesSession &session, olPendingChanges &changes)
+    : m_session(session), m_changes(changes)
+{
+}
+
+void olSettingMenu::addTo(const std::vector<olFoundControl> &controls)
+{
+    const auto add = [this](QWidget *widget, const olFoundControl &control) {
+        if (!widget || m_controls.contains(widget))
+            return;
+        m_controls.insert(widget, control);
+        widget->installEventFilter(this);
+        connect(widget, &QObject::destroyed, this, [this](const QObject *gone) { m_controls.remove(gone); });
+    };
+    for (const olFoundControl &control : controls) {
+        if (control.keys.isEmpty() || !control.widget)
+            continue;
+        add(control.widget, control);
+        for (const auto &label : control.labels)
+            add(label, control);
+        // Text fields inside a control would open their own menu. What lies in a group box is a control itself.
+        if (control.widget->inherits("QGroupBox"))
+            continue;
+        const auto parts = control.widget->findChildren<QWidget *>();
+        for (QWidget *part : parts)
+            add(part, control);
+    }
+}
+
+bool olSettingMenu::openFor(QWidget *widget)
+{
+    if (!widget || !m_controls.contains(widget))
+        return false;
+    open(*widget, widget->mapToGlobal(widget->rect().bottomLeft()));
+    return true;
+}
+
+bool olSettingMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ContextMenu || !m_controls.contains(watched))
+        return false;
+    const auto &asked = static_cast<QContextMenuEvent &>(*event);
+    auto &widget = static_cast<QWidget &>(*watched);
+    if (asked.reason() == QContextMenuEvent::Keyboard)
+        openFor(&widget);
+    else
+        open(widget, asked.globalPos());
+    return true;
+}
+
+void olSettingMenu::open(QWidget &asked, const QPoint &globalPosition)
+{
+    const olFoundControl control = m_controls.value(&asked);
+    // Deletes itself when it closes.
+    QMenu *menu = standardMenu(asked);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("settingMenu"));
+    addResets(*menu, control);
+    menu->addSeparator();
+    addKeys(*menu, control);
+    addLocks(*menu, control);
+    menu->popup(globalPosition);
+}
+
+/// One control may edit several settings; they go back together.
+void olSettingMenu::addResets(QMenu &menu, const olFoundControl &control)
+{
+    olSettingValues defaults;
+    QStringList texts;
+    bool differs = false;
+    bool isLocked = false;
+    for (const QString &name : control.keys) {
+        const std::string key = name.toStdString();
+        defaults[key] = m_session.defaultValue(key);
+        texts << olValueText(defaults[key], control.widget, m_changes.value(key));
+        differs = differs || m_changes.differsFromDefault(key);
+        isLocked = isLocked || m_session.lockReason(key).has_value();
+    }
+    const QString shown = texts.join(QStringLiteral(", ")).replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction *reset = menu.addAction(tr("&Reset to Default: %1").arg(shown));
+    reset->setObjectName(QStringLiteral("reset"));
+    reset->setEnabled(differs && !isLocked);
+    connect(reset, &QAction::triggered, this, [this, defaults] { m_changes.put(defaults); });
+}
+
+void olSettingMenu::addKeys(QMenu &menu, const olFoundControl &control)
+{
+    for (const QString &key : control.keys) {
+        QString shown = key;
+        shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+        QAction *copy = menu.addAction(tr("Copy &Key \"%1\"").arg(shown));
+        copy->setObjectName(QStringLiteral("copyKey"));
+        connect(copy, &QAction::triggered, this, [key] { QApplication::clipboard()->setText(key); });
+    }
+}
+
+void olSettingMenu::addLocks(QMenu &menu, const olFoundControl &control)
+{
+    for (const QString &key : control.keys) {
+        const auto reason = m_session.lockReason(key.toStdString());
+        if (!reason)
+            continue;
+        QAction *why = menu.addAction(tr("&Why Is This Locked?"));
+        why->setObjectName(QStringLiteral("whyLocked"));
+        connect(why, &QAction::triggered, this,
+                [this, name = control.name, reason = *reason] { emit lockAsked(name, reason); });
+        return;
+    }
+}

@@ -1,0 +1,262 @@
+#include "Editing/olPendingChanges.h"
+
+#include "Editing/olEditedPage.h"
+#include "Editing/olPageIndex.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
+
+#include <algorithm>
+
+namespace
+{
+
+const std::vector<olPreferencesEntry *> &modules() { return olPreferencesRegistry::the().entries(); }
+
+} // namespace
+
+olPendingChanges::olPendingChanges(olPreferencesSession &session) : m_session(session)
+{
+    connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, this, &olPendingChanges::forgetTheGone);
+}
+
+olPendingChanges::~olPendingChanges() = default;
+
+olEditedPage &olPendingChanges::page(olPreferencesEntry &entry)
+{
+    std::unique_ptr<olEditedPage> &page = m_pages[&entry];
+    if (!page) {
+        page = std::make_unique<olEditedPage>(m_session, entry);
+        connect(page.get(), &olEditedPage::edited, this, &olPendingChanges::edited);
+    }
+    if (!findPage(entry)) {
+        page->fill();
+        m_filled.push_back(&entry);
+    }
+    return *page;
+}
+
+olEditedPage *olPendingChanges::findPage(const olPreferencesEntry &entry) const
+{
+    const bool isFilled = std::find(m_filled.begin(), m_filled.end(), &entry) != m_filled.end();
+    return isFilled ? m_pages.at(&entry).get() : nullptr;
+}
+
+void olPendingChanges::forget(const QWidget *page)
+{
+    m_owners.clear();
+    const auto found =
+        std::find_if(m_pages.begin(), m_pages.end(), [page](const auto &known) { return known.first->page() == page; });
+    if (found == m_pages.end())
+        return;
+    m_filled.erase(std::remove(m_filled.begin(), m_filled.end(), found->first), m_filled.end());
+    m_pages.erase(found);
+}
+
+/// Of modules that left without taking their page back first.
+void olPendingChanges::forgetTheGone()
+{
+    m_owners.clear();
+    const auto isGone = [](const olPreferencesEntry *entry) {
+        return std::find(modules().begin(), modules().end(), entry) == modules().end();
+    };
+    m_filled.erase(std::remove_if(m_filled.begin(), m_filled.end(), isGone), m_filled.end());
+    for (auto page = m_pages.begin(); page != m_pages.end();)
+        page = isGone(page->first) ? m_pages.erase(page) : std::next(page);
+}
+
+void olPendingChanges::drop()
+{
+    m_filled.clear();
+    m_withoutControl.clear();
+    emit edited();
+}
+
+bool olPendingChanges::isEmpty() const
+{
+    return m_withoutControl.empty() && std::none_of(m_filled.begin(), m_filled.end(), [this](const auto *entry) {
+               return findPage(*entry)->isChanged();
+           });
+}
+
+std::vector<olPendingChange> olPendingChanges::list() const
+{
+    std::vector<olPendingChange> changes;
+    for (olPreferencesEntry *entry : modules()) {
+        const olEditedPage *page = findPage(*entry);
+        if (!page || !page->isChanged())
+            continue;
+        const std::size_t before = changes.size();
+        for (const std::string &key : page->keys()) {
+            if (page->isChanged(key))
+                changes.push_back({entry, key, page->valueInForce(key), page->value(key), page->control(key)});
+        }
+        if (changes.size() == before)
+            changes.push_back({entry, {}, {}, {}, entry->page()});
+    }
+    for (const auto &[key, value] : m_withoutControl) {
+        if (olPreferencesEntry *owner = ownerOf(key))
+            changes.push_back({owner, key, olValue::adopted(owner->value(key)), value, nullptr});
+    }
+    return changes;
+}
+
+boost::any olPendingChanges::value(const std::string &key) const
+{
+    const auto pending = m_withoutControl.find(key);
+    if (pending != m_withoutControl.end())
+        return pending->second;
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    if (page && page->hasControl(key))
+        return page->value(key);
+    return owner ? owner->value(key) : boost::any();
+}
+
+bool olPendingChanges::differsFromDefault(const std::string &key) const
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    if (page && page->hasControl(key))
+        return page->differsFromDefault(key);
+    const boost::any now = value(key);
+    return !now.empty() && !olValue::equal(now, m_session.defaultValue(key));
+}
+
+bool olPendingChanges::differsFromDefault(const olPreferencesEntry &entry, const std::string &key) const
+{
+    const olEditedPage *page = findPage(entry);
+    return page && page->hasControl(key) ? page->differsFromDefault(key) : differsFromDefault(key);
+}
+
+olSettingValues olPendingChanges::inForce() const
+{
+    findOwners();
+    olSettingValues values;
+    for (const std::string &key : olPreferencesSession::keys())
+        values[key] = olPreferencesRegistry::the().ownerOf(key)->value(key);
+    for (const auto &[key, owner] : m_owners)
+        values[key] = owner->value(key);
+    return values;
+}
+
+void olPendingChanges::put(const olSettingValues &values)
+{
+    std::map<olPreferencesEntry *, olSettingValues> byOwner;
+    for (const auto &[key, value] : values) {
+        olPreferencesEntry *owner = ownerOf(key);
+        if (owner && !m_session.lockReason(key))
+            byOwner[owner][key] = value;
+    }
+    for (const auto &[owner, own] : byOwner)
+        putOwn(*owner, own);
+    emit edited();
+}
+
+void olPendingChanges::putOwn(olPreferencesEntry &entry, const olSettingValues &values)
+{
+    olEditedPage *editedPage = entry.page() ? &page(entry) : nullptr;
+    olSettingValues shown;
+    for (const auto &[key, value] : values) {
+        if (editedPage && editedPage->hasControl(key))
+            shown[key] = value;
+        else if (value.empty() || olValue::equal(entry.value(key), value))
+            m_withoutControl.erase(key);
+        else
+            m_withoutControl[key] = value;
+    }
+    if (!shown.empty())
+        editedPage->show(shown);
+}
+
+olSettingValues olPendingChanges::defaultsOf(const olPreferencesEntry &entry) const
+{
+    if (m_owners.empty())
+        findOwners();
+    olSettingValues defaults;
+    for (const olOfferedDefault &offered : entry.defaults()) {
+        if (ownerOf(offered.key) == &entry && !isShared(offered.key))
+            defaults[offered.key] = m_session.defaultValue(offered.key);
+    }
+    // What a page edits without a default is by default absent.
+    for (const auto &[key, owner] : m_owners) {
+        if (owner == &entry)
+            defaults.emplace(key, m_session.defaultValue(key));
+    }
+    return defaults;
+}
+
+/// Whether no page edits the setting and several modules have it: then it is none of any one page.
+bool olPendingChanges::isShared(const std::string &key) const
+{
+    return m_owners.count(key) == 0 && std::count_if(modules().begin(), modules().end(),
+                                                     [&key](const auto *entry) { return entry->findDefault(key); }) > 1;
+}
+
+void olPendingChanges::restore(olPreferencesEntry &entry)
+{
+    const olSettingValues defaults = defaultsOf(entry);
+    const bool isTagged =
+        std::any_of(m_owners.begin(), m_owners.end(), [&entry](const auto &owned) { return owned.second == &entry; });
+    if (entry.page() && !isTagged)
+        page(entry).show(defaults);
+    else
+        putWhatDiffers(defaults);
+}
+
+void olPendingChanges::restoreAll()
+{
+    for (olPreferencesEntry *entry : modules())
+        restore(*entry);
+    olSettingValues shared;
+    for (const std::string &key : olPreferencesSession::keys()) {
+        if (isShared(key))
+            shared[key] = m_session.defaultValue(key);
+    }
+    putWhatDiffers(shared);
+}
+
+/// Pages whose settings have their defaults already need not be filled for that.
+void olPendingChanges::putWhatDiffers(olSettingValues defaults)
+{
+    for (auto standard = defaults.begin(); standard != defaults.end();)
+        standard = differsFromDefault(standard->first) ? std::next(standard) : defaults.erase(standard);
+    put(defaults);
+}
+
+QString olPendingChanges::commit()
+{
+    olSettingValues besides = m_withoutControl;
+    for (const olPreferencesEntry *entry : m_filled)
+        besides.merge(findPage(*entry)->roundedOnPage());
+    QString error = m_session.confirm(m_filled, besides);
+    if (error.isEmpty()) {
+        m_withoutControl.clear();
+        for (const olPreferencesEntry *entry : m_filled)
+            findPage(*entry)->settle();
+    }
+    emit edited();
+    return error;
+}
+
+olPreferencesEntry *olPendingChanges::ownerOf(const std::string &key) const
+{
+    if (m_owners.empty())
+        findOwners();
+    const auto found = m_owners.find(key);
+    return found == m_owners.end() ? olPreferencesRegistry::the().ownerOf(key) : found->second;
+}
+
+/// Several modules may offer one key; it belongs to the page that edits it.
+void olPendingChanges::findOwners() const
+{
+    for (olPreferencesEntry *entry : modules()) {
+        if (!entry->page())
+            continue;
+        const olPageIndex index(*entry->page());
+        for (const olPageControl &control : index.controls()) {
+            for (const QString &key : control.settingKeys)
+                m_owners.emplace(key.toStdString(), entry);
+        }
+    }
+}

@@ -1,7 +1,0 @@
-#include "Embedded/olHostState.h"
-
-olHostState &olHostState::the()
-{
-    static olHostState state;
-    return state;
-}

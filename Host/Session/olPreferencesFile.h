@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Session/olPreferencesSession.h"
+#include "Utilities/olExport.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <string>
+#include <vector>
+
+/// A setting of a file that is passed over, and one phrase that says why.
+struct ORLO_SDK_EXPORT olSkippedSetting {
+    std::string key;
+    QString reason;
+};
+
+/// Preferences to keep or to pass on, as a JSON file with a type for every value:
+/// `{"format": 1, "settings": {"Camera fov": {"type": "float", "value": 60}}}`.
+/// Types are named and values written as olValue lays down, so that they read back exactly.
+class ORLO_SDK_EXPORT olPreferencesFile
+{
+public:
+    /// What a file holds. With an error, one sentence that names the reason, it holds nothing.
+    struct Contents {
+        olSettingValues settings;
+        std::vector<olSkippedSetting> skipped;
+        QString error;
+    };
+
+    /// One setting a line, in the order of the keys. Values of types that settings do not have are left out.
+    [[nodiscard]] static QByteArray toJson(const olSettingValues &settings);
+    [[nodiscard]] static Contents fromJson(const QByteArray &text);
+
+    /// Writes the file whole or leaves it as it was. Returns an empty text, else one sentence that names the file and
+    /// the reason.
+    [[nodiscard]] static QString write(const QString &file, const olSettingValues &settings);
+    [[nodiscard]] static Contents read(const QString &file);
+};

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "Session/olPluginLoader.h"
+#include "Session/olSiteDefaults.h"
+#include "Store/olPreferencesStore.h"
+#include "Utilities/olExport.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+class olPreferencesEntry;
+
+/// Values of settings by their keys, wherever they are kept.
+using olSettingValues = std::map<std::string, boost::any>;
+
+/// What a run does to the store that it loads: a run of its own keeps it in order, one that only looks leaves the disk
+/// as it is.
+enum class olStoreUse { Own, LookAt };
+
+/// What a check found, one sentence for each.
+struct olPreferencesFindings {
+    QStringList faults;
+    QStringList remarks; ///< what may be meant so: keys of a site's files that no module of this edition has
+};
+
+/// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
+/// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
+class ORLO_SDK_EXPORT olPreferencesSession
+{
+public:
+    /// `siteFiles` are the site's files of defaults and locks; see olSiteDefaults.
+    explicit olPreferencesSession(const QString &storeFile,
+                                  const QStringList &siteFiles = olSiteDefaults::systemFiles());
+    ~olPreferencesSession();
+    olPreferencesSession(const olPreferencesSession &) = delete;
+    olPreferencesSession &operator=(const olPreferencesSession &) = delete;
+
+    /// Puts what is stored into the record and the preferences service. The first thing of a run. Damage is no
+    /// failure: the last good copy is loaded and takeNotices() tells of it.
+    [[nodiscard]] QString loadStore(olStoreUse use = olStoreUse::Own);
+
+    /// What the person at the screen is to be told, each once: a damaged store and where it is now, faults in a site
+    /// file. To be asked after the start and after each save.
+    [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
+
+    /// Loads the plug-in and enters it; see olPluginLoader.
+    [[nodiscard]] QString loadPlugin(const QString &file);
+    [[nodiscard]] olPluginLoader &plugin() { return m_plugin; }
+
+    /// Fills the gaps in what was stored with the defaults of the site and of all modules, and sets what is locked.
+    void fillDefaults();
+
+    /// The whole start after loading: defaults, hooks, pages, first apply.
+    void start();
+
+    /// A new scene, to every module.
+    void newScene();
+
+    /// Stores what differs from what the store holds; values equal to their default are not kept. A locked setting
+    /// first gets its locked value back; what a person once stored for it stays in the store for a time without the
+    /// lock.
+    [[nodiscard]] QString save();
+
+    /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing
+    /// fails, every value is as it was before and nothing is applied. `besides` are values that count whatever the
+    /// pages hold: of settings that no page shows, or that their control shows only rounded.
+    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
+
+    /// Unloads the plug-in and closes the store. Values are not stored by this.
+    void stop();
+
+    /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
+    [[nodiscard]] boost::any defaultValue(const std::string &key) const;
+
+    /// Why a setting cannot be changed; nothing where it can.
+    [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
+
+    /// Looks the store and the site's files through; changes nothing. Types and keys of the site's files are checked
+    /// only when the modules' defaults are there.
+    [[nodiscard]] olPreferencesFindings check() const;
+
+    /// Of all modules in order, each key once.
+    [[nodiscard]] static std::vector<std::string> keys();
+
+private:
+    struct Changes {
+        olPreferencesStore::Values changed;
+        std::vector<olPreferencesStore::Key> removed;
+    };
+
+    [[nodiscard]] olPreferencesStore::Values current() const;
+    [[nodiscard]] olPreferencesStore::Values toBeKept() const;
+    [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
+                                    const olPreferencesStore::Values &kept) const;
+    [[nodiscard]] bool isLocked(const std::string &key) const;
+    [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
+    void dropEarlyLanguage();
+    void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
+    void restoreLocked() const;
+
+    olPreferencesStore m_store;
+    olPreferencesStore::Values m_stored;
+    olSiteDefaults m_site;
+    QStringList m_siteFiles;
+    QStringList m_notices;
+    boost::any m_earlyLanguage;
+    olPluginLoader m_plugin;
+};

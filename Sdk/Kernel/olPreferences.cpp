@@ -1,0 +1,132 @@
+#include "Kernel/olPreferences.h"
+
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+
+#include <QObject>
+#include <boost/core/demangle.hpp>
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+#include <vector>
+
+namespace
+{
+
+/// The keys that a module reported unchanged. Every confirmation reports them all, in the same order, and every apply
+/// forgets them; so the texts stay, the next one is expected to be the one that followed before, and only the meaning
+/// is forgotten.
+class UnchangedKeys
+{
+public:
+    void insert(std::string_view key)
+    {
+        if (m_next < m_order.size() && m_order[m_next]->first == key) {
+            m_order[m_next++]->second = m_round;
+            return;
+        }
+        const auto known = m_reported.find(key);
+        if (known != m_reported.end())
+            known->second = m_round;
+        else
+            m_order.push_back(&*m_reported.emplace(key, m_round).first);
+    }
+    void erase(std::string_view key)
+    {
+        const auto known = m_reported.find(key);
+        if (known != m_reported.end())
+            known->second = 0;
+    }
+    [[nodiscard]] bool contains(std::string_view key) const
+    {
+        const auto known = m_reported.find(key);
+        return known != m_reported.end() && known->second == m_round;
+    }
+    void clear()
+    {
+        ++m_round;
+        m_next = 0;
+    }
+
+private:
+    /// Each key with the round in which it was reported last.
+    using Reported = std::map<std::string, std::size_t, std::less<>>;
+
+    Reported m_reported;
+    std::vector<Reported::value_type *> m_order;
+    std::size_t m_next = 0;
+    std::size_t m_round = 1;
+};
+
+/// A module whose values live in the shared record.
+class RecordEntry : public olPreferencesEntry
+{
+public:
+    RecordEntry(olPreferences &module, const QString &name, const QString &category)
+        : olPreferencesEntry(name, category), m_module(module)
+    {
+    }
+
+    [[nodiscard]] std::string className() const override { return boost::core::demangle(typeid(m_module).name()); }
+    [[nodiscard]] QObject *object() const override { return dynamic_cast<QObject *>(&m_module); }
+
+    void applyPreferences() override { m_module.applyPreferences(); }
+    void updateGUI() override { m_module.updateGUI(); }
+    void updateData() override { m_module.updateData(); }
+    void preferencesNewScene() override { m_module.preferencesNewScene(record()); }
+    void preferencesLoaded() override { m_module.preferencesLoaded(record()); }
+    void preferencesInitialApply() override { m_module.preferencesInitialApply(record()); }
+    void settle() override { unchanged.clear(); }
+
+    [[nodiscard]] olHome home() const override { return olHome::Record; }
+    [[nodiscard]] boost::any value(const std::string &key) const override { return record().get(key); }
+    void setValue(const std::string &key, const boost::any &value) override { record().set(key, value, true); }
+    void removeValue(const std::string &key) override { record().remove(key); }
+
+    void setChanged(const std::string &key, bool changed) override
+    {
+        if (changed)
+            unchanged.erase(key);
+        else
+            unchanged.insert(key);
+    }
+
+    UnchangedKeys unchanged;
+
+protected:
+    void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
+
+private:
+    static olMessage &record() { return olPreferencesRegistry::the().record(); }
+
+    olPreferences &m_module;
+};
+
+UnchangedKeys &unchangedOf(olPreferencesEntry &entry) { return static_cast<RecordEntry &>(entry).unchanged; }
+
+} // namespace
+
+olPreferences::olPreferences(const QString &name, const QString &category)
+    : m_entry(std::make_unique<RecordEntry>(*this, name, category))
+{
+}
+
+olPreferences::~olPreferences() = default;
+
+void olPreferences::preferencesNewScene(olMessage &) {}
+
+void olPreferences::preferencesLoaded(olMessage &) {}
+
+void olPreferences::preferencesInitialApply(olMessage &) { applyPreferences(); }
+
+void olPreferences::addPreferencesGUI(QWidget *page) { m_entry->addPage(page); }
+
+void olPreferences::subPreferencesGUI(QWidget *page) { m_entry->subPage(page); }
+
+void olPreferences::addUnchanged(const char *key) { unchangedOf(*m_entry).insert(key); }
+
+bool olPreferences::isChanged(const char *key) const { return !unchangedOf(*m_entry).contains(key); }
+
+olMessage &olPreferences::getData() { return olPreferencesRegistry::the().record(); }

@@ -1,0 +1,7 @@
+#include "State/olHostState.h"
+
+olHostState &olHostState::the()
+{
+    static olHostState state;
+    return state;
+}

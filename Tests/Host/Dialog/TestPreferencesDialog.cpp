@@ -1,0 +1,212 @@
+#include "Dialog/olChangesView.h"
+#include "Dialog/olDialogMemory.h"
+#include "DialogTest.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFile>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTest>
+#include <QTreeWidget>
+#include <QWheelEvent>
+
+using PreferencesDialog = DialogTest;
+
+TEST_F(PreferencesDialog, ApplyIsOfferedOnlyWhileThePageDiffersFromItsFilling)
+{
+    start();
+    EXPECT_FALSE(canApply());
+    EXPECT_FALSE(changes()->isEnabled());
+
+    module.page.samples->setFocus();
+    QTest::keyClick(module.page.samples, Qt::Key_Up);
+    EXPECT_TRUE(canApply());
+    EXPECT_EQ(changes()->text(), "1 Change...");
+    QTest::keyClick(module.page.samples, Qt::Key_Down);
+    EXPECT_FALSE(canApply()) << "edited back is not changed";
+
+    module.page.mode->setCurrentIndex(1);
+    module.page.title->setText(QStringLiteral("Front"));
+    EXPECT_TRUE(canApply());
+    EXPECT_EQ(changes()->text(), "2 Changes...");
+    QTest::mouseClick(button(QDialogButtonBox::Apply), Qt::LeftButton);
+    EXPECT_FALSE(canApply());
+    EXPECT_EQ(module.changed, (std::vector<std::string>{"Studio mode", "Studio title"}));
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(PreferencesDialog, TheListOfChangesNamesSettingOldAndNewValue)
+{
+    start();
+    module.page.tabs->setCurrentIndex(1);
+    module.page.shadows->setChecked(false);
+    module.page.mode->setCurrentIndex(1);
+    EXPECT_TRUE(canApply());
+    QTest::mouseClick(changes(), Qt::LeftButton);
+    auto *view = opened<olChangesView>();
+    ASSERT_NE(view, nullptr);
+    auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    ASSERT_EQ(list->topLevelItemCount(), 2);
+    const auto row = [list](int index) {
+        const QTreeWidgetItem *item = list->topLevelItem(index);
+        return QStringList{item->text(0), item->text(1), item->text(2)};
+    };
+    EXPECT_EQ(row(0), (QStringList{"Studio: Cast Shadows", "on", "off"}));
+    EXPECT_EQ(row(1), (QStringList{"Studio: Mode", "Hasty", "Accurate"}));
+
+    list->setCurrentItem(list->topLevelItem(1));
+    emit list->itemActivated(list->topLevelItem(1), 0);
+    EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "a change chosen is shown on its page";
+    EXPECT_EQ(dialog->focusWidget(), module.page.mode);
+}
+
+TEST_F(PreferencesDialog, LeavingWithEditsAloneAsksToApplyDiscardOrStay)
+{
+    start();
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    dialog->open(QString());
+    module.page.samples->setValue(9);
+    answer(QStringLiteral("Stay"));
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(module.page.samples->value(), 9);
+
+    answer(QStringLiteral("Stay"));
+    EXPECT_FALSE(dialog->close());
+    EXPECT_TRUE(dialog->isVisible());
+
+    answer(QStringLiteral("Discard"));
+    QTest::mouseClick(button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(module.value<int>("Studio samples"), 4);
+    dialog->open(QString());
+    EXPECT_EQ(module.page.samples->value(), 4) << "the next opening fills the page again";
+
+    module.page.samples->setValue(9);
+    answer(QStringLiteral("Apply"));
+    dialog->close();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(module.value<int>("Studio samples"), 9);
+    EXPECT_EQ(module.applied, 1);
+}
+
+TEST_F(PreferencesDialog, WhenStoringFailsTheEditsStayAndOkCanBePressedAgain)
+{
+    start();
+    QFile inTheWay(folder.filePath(QStringLiteral("store")));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    module.page.samples->setValue(9);
+    QTest::mouseClick(button(QDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(module.page.samples->value(), 9);
+    EXPECT_EQ(module.value<int>("Studio samples"), 4);
+    EXPECT_EQ(module.applied, 0);
+    EXPECT_TRUE(canApply());
+    bool isTold = false;
+    for (const QLabel *label : dialog->findChildren<QLabel *>())
+        isTold = isTold || (label->isVisible() && label->text().contains(store));
+    EXPECT_TRUE(isTold);
+
+    answer(QStringLiteral("Apply"));
+    dialog->reject();
+    EXPECT_TRUE(dialog->isVisible()) << "what could not be applied is not lost by leaving";
+
+    inTheWay.remove();
+    QTest::mouseClick(button(QDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(module.value<int>("Studio samples"), 9);
+    EXPECT_EQ(module.applied, 1);
+}
+
+TEST_F(PreferencesDialog, AModuleThatGoesTakesItsPageAndItsEditsWithIt)
+{
+    auto other = std::make_unique<StudioModule>(QStringLiteral("Other"));
+    start();
+    dialog->open(QStringLiteral("Other"));
+    EXPECT_EQ(listed(), (QStringList{"Studio", "Other"}));
+    other->page.samples->setValue(9);
+    EXPECT_TRUE(canApply());
+    other.reset();
+    EXPECT_FALSE(canApply());
+    EXPECT_EQ(listed(), QStringList{"Studio"});
+    EXPECT_TRUE(dialog->apply());
+}
+
+TEST_F(PreferencesDialog, TheWheelScrollsThePageUntilAControlIsFocused)
+{
+    start();
+    search()->setFocus();
+    auto *frame = dialog->findChild<QScrollArea *>();
+    const auto turn = [](QWidget &control) {
+        const QPointF middle = control.rect().center();
+        QWheelEvent event(middle, control.mapToGlobal(middle.toPoint()), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        // Only what comes from outside goes on to the parents, and gives the focus.
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(&control, &event);
+    };
+    for (QWidget *control : std::initializer_list<QWidget *>{module.page.samples, module.page.mode}) {
+        frame->verticalScrollBar()->setValue(0);
+        turn(*control);
+        EXPECT_GT(frame->verticalScrollBar()->value(), 0);
+    }
+    EXPECT_EQ(module.page.samples->value(), 4);
+    EXPECT_EQ(module.page.mode->currentIndex(), 0);
+
+    module.page.samples->setFocus();
+    turn(*module.page.samples);
+    EXPECT_EQ(module.page.samples->value(), 3);
+}
+
+TEST_F(PreferencesDialog, RemembersItsSizeAndPageAndNeverOutgrowsTheScreen)
+{
+    StudioModule other(QStringLiteral("Other"));
+    start();
+    dialog->open(QStringLiteral("Other"));
+    dialog->resize(611, 433);
+    dialog->reject();
+    dialog = std::make_unique<olPreferencesDialog>(*session);
+    dialog->open(QString());
+    EXPECT_EQ(dialog->size(), QSize(611, 433));
+    EXPECT_TRUE(other.page.isVisible());
+    EXPECT_LE(dialog->minimumSizeHint().width(), 400);
+    EXPECT_LE(dialog->minimumSizeHint().height(), 300);
+
+    dialog->reject();
+    olDialogMemory memory = olDialogMemory::recall();
+    memory.size = QSize(5000, 4000);
+    memory.keep();
+    dialog.reset();
+    memory.keep();
+    dialog = std::make_unique<olPreferencesDialog>(*session);
+    dialog->open(QString());
+    const QSize room = dialog->screen()->availableSize();
+    EXPECT_LE(dialog->width(), room.width());
+    EXPECT_LE(dialog->height(), room.height());
+    EXPECT_FALSE(dialog->isModal());
+}
+
+TEST_F(PreferencesDialog, WhatTheHostSaysAboutASaveIsReadBeforeTheDialogCloses)
+{
+    start();
+    const auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
+    module.page.samples->setValue(8);
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_FALSE(message->isVisible());
+    QFile file(store);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(file.size() / 2));
+    file.close();
+
+    module.page.samples->setValue(16);
+    dialog->accept();
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_FALSE(canApply()) << "it was saved all the same";
+    dialog->accept();
+    EXPECT_FALSE(dialog->isVisible());
+}

@@ -1,0 +1,167 @@
+#include "Dialog/olSettingMarks.h"
+#include "DialogTest.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QTest>
+
+namespace
+{
+
+class PreferencesDialogSettings : public DialogTest
+{
+protected:
+    /// Names of the controls marked as differing from their default.
+    [[nodiscard]] QStringList marked() const
+    {
+        QCoreApplication::processEvents();
+        QStringList names;
+        for (const olFoundControl &control : module.page.findChild<olSettingMarks *>()->changed())
+            names << control.name;
+        return names;
+    }
+};
+
+constexpr auto lockingSite = R"({"Studio samples": {"value": 16, "locked": true, "reason": "The farm needs it."},
+                                  "Studio title": {"value": "Ours"}})";
+
+} // namespace
+
+TEST_F(PreferencesDialogSettings, MarksWhatDiffersFromItsDefaultAsItIsEdited)
+{
+    start();
+    EXPECT_EQ(marked(), QStringList());
+    module.page.mode->setCurrentIndex(1);
+    EXPECT_EQ(marked(), QStringList{"Mode"});
+    EXPECT_FALSE(module.page.mode->accessibleDescription().isEmpty());
+    EXPECT_TRUE(dialog->apply());
+    EXPECT_EQ(marked(), QStringList{"Mode"}) << "applied, it still differs";
+    module.page.mode->setCurrentIndex(0);
+    EXPECT_EQ(marked(), QStringList());
+    EXPECT_TRUE(module.page.mode->accessibleDescription().isEmpty());
+}
+
+TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
+{
+    start();
+    module.page.samples->setValue(9);
+    module.page.mode->setCurrentIndex(1);
+    module.page.shadows->setChecked(false);
+    QAction *reset = menuAction(*module.page.samplesLabel, QStringLiteral("reset"));
+    ASSERT_NE(reset, nullptr) << "the label has the menu too";
+    EXPECT_EQ(reset->text(), "&Reset to Default: 4");
+    reset->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(module.page.samples->value(), 4);
+    EXPECT_EQ(module.page.mode->currentIndex(), 1);
+
+    reset = menuAction(*module.page.shadows, QStringLiteral("reset"));
+    ASSERT_NE(reset, nullptr);
+    EXPECT_EQ(reset->text(), "&Reset to Default: on");
+    reset->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_TRUE(module.page.shadows->isChecked());
+    EXPECT_EQ(module.page.questions, 0) << "showing a value is no click of the user's";
+
+    reset = menuAction(*module.page.samples, QStringLiteral("reset"));
+    ASSERT_NE(reset, nullptr);
+    EXPECT_FALSE(reset->isEnabled()) << "there is nothing to reset";
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(module.value<int>("Studio samples"), 4);
+    answer(QStringLiteral("Discard"));
+    dialog->reject();
+}
+
+TEST_F(PreferencesDialogSettings, TheMenuOpensByKeyboardAndCopiesTheKey)
+{
+    start();
+    for (const auto &[key, modifier] :
+         {std::pair{Qt::Key_Menu, Qt::NoModifier}, std::pair{Qt::Key_F10, Qt::ShiftModifier}}) {
+        QApplication::clipboard()->clear();
+        module.page.samples->setFocus();
+        QTest::keyClick(module.page.samples, key, modifier);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        menu->findChild<QAction *>(QStringLiteral("copyKey"))->trigger();
+        menu->close();
+        EXPECT_EQ(QApplication::clipboard()->text(), "Studio samples");
+    }
+    const QAction *copyKey = menuAction(*module.page.title, QStringLiteral("copyKey"));
+    ASSERT_NE(copyKey, nullptr);
+    EXPECT_GT(QApplication::activePopupWidget()->actions().size(), 4) << "a field keeps its own menu besides";
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(PreferencesDialogSettings, RestoringIsPendingUntilItIsApplied)
+{
+    StudioModule::getData().set("Studio samples", 9, true);
+    StudioModule::getData().set("Studio scale", 2.125f, true);
+    StudioModule::getData().set("Studio seed", 8, true);
+    start();
+    QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("restorePage")), Qt::LeftButton);
+    EXPECT_EQ(module.page.samples->value(), 4);
+    EXPECT_EQ(module.page.scale->text(), "1.5");
+    EXPECT_TRUE(canApply());
+    EXPECT_EQ(changes()->text(), "3 Changes...") << "the one without a control counts";
+    EXPECT_EQ(module.value<int>("Studio seed"), 8);
+
+    answer(QStringLiteral("Discard"));
+    dialog->reject();
+    dialog->open(QString());
+    EXPECT_EQ(module.page.samples->value(), 9) << "Cancel takes it back";
+    EXPECT_FALSE(canApply());
+
+    dialog->restoreAll();
+    EXPECT_EQ(module.value<int>("Studio samples"), 9);
+    dialog->accept();
+    EXPECT_EQ(module.value<int>("Studio samples"), 4);
+    EXPECT_EQ(module.value<int>("Studio seed"), 7);
+    EXPECT_EQ(module.value<float>("Studio scale"), 1.5f);
+    EXPECT_EQ(module.page.questions, 0);
+}
+
+TEST_F(PreferencesDialogSettings, ADefaultThatAFieldRoundsIsRestoredExactly)
+{
+    start(R"({"Studio scale": {"value": 2.1234567}})");
+    module.page.scale->setText(QStringLiteral("9"));
+    ASSERT_TRUE(dialog->apply());
+    dialog->restorePage();
+    EXPECT_EQ(module.page.scale->text(), "2.12346");
+    EXPECT_EQ(marked(), QStringList());
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(module.value<float>("Studio scale"), 2.1234567f);
+    EXPECT_EQ(module.changed, std::vector<std::string>{"Studio scale"});
+}
+
+TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy)
+{
+    start(lockingSite);
+    EXPECT_EQ(module.page.samples->value(), 16);
+    for (const QWidget *widget :
+         std::initializer_list<const QWidget *>{module.page.samples, module.page.samplesLabel}) {
+        EXPECT_FALSE(widget->isEnabled());
+        EXPECT_TRUE(widget->toolTip().contains(QStringLiteral("The farm needs it.")));
+    }
+    module.page.shadows->setChecked(false);
+    EXPECT_FALSE(module.page.samples->isEnabled()) << "no rule of the page opens the lock";
+    EXPECT_TRUE(module.page.title->isEnabled()) << "a site's default is no lock";
+    EXPECT_EQ(marked(), QStringList{"Cast Shadows"}) << "the site's values are the defaults here";
+
+    QAction *why = menuAction(*module.page.samples, QStringLiteral("whyLocked"));
+    ASSERT_NE(why, nullptr);
+    EXPECT_FALSE(menuAction(*module.page.samples, QStringLiteral("reset"))->isEnabled());
+    why->trigger();
+    QApplication::activePopupWidget()->close();
+    auto *locked = dialog->findChild<QPushButton *>(QStringLiteral("locked"));
+    EXPECT_TRUE(locked->isVisible()) << "by keyboard, which cannot reach what is disabled";
+    ASSERT_EQ(locked->menu()->actions().size(), 1);
+    EXPECT_TRUE(locked->menu()->actions().first()->text().contains(QStringLiteral("The farm needs it.")));
+
+    module.page.samples->setValue(3);
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(module.value<int>("Studio samples"), 16);
+    dialog.reset();
+    EXPECT_TRUE(module.page.samples->isEnabled()) << "the page goes back as it came";
+    EXPECT_EQ(module.page.samples->toolTip(), "How often each <b>pixel</b> is computed");
+}

@@ -1,0 +1,176 @@
+#include "Dialog/olChangesView.h"
+#include "Host/Dialog/DialogTest.h"
+#include "Session/olPreferencesFile.h"
+#include "State/olValue.h"
+
+#include <OpenSG/OSGColor.h>
+#include <QFile>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+class PreferencesImport : public DialogTest
+{
+protected:
+    [[nodiscard]] QString file(const QByteArray &text) const
+    {
+        QFile out(folder.filePath(QStringLiteral("import.json")));
+        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(text);
+        return out.fileName();
+    }
+
+    static QByteArray settings(const QByteArray &lines) { return R"({"format": 1, "settings": {)" + lines + "}}"; }
+
+    [[nodiscard]] static QStringList rows(const olChangesView &view, const char *list)
+    {
+        QStringList rows;
+        const auto *tree = view.findChild<QTreeWidget *>(QString::fromLatin1(list));
+        for (int row = 0; row < tree->topLevelItemCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < tree->columnCount(); ++column)
+                cells << tree->topLevelItem(row)->text(column);
+            rows << cells.join(QStringLiteral(" | "));
+        }
+        return rows;
+    }
+
+    [[nodiscard]] bool says(const QString &text) const
+    {
+        const auto labels = dialog->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&text](const QLabel *label) { return label->isVisible() && label->text().contains(text); });
+    }
+};
+
+} // namespace
+
+TEST(PreferencesFile, ReadsBackEveryTypeExactly)
+{
+    const olSettingValues values{
+        {"b", true},
+        {"i", std::numeric_limits<int>::min()},
+        {"u", std::numeric_limits<unsigned>::max()},
+        {"f", 0.1f},
+        {"nan", std::numeric_limits<float>::quiet_NaN()},
+        {"d", -std::numeric_limits<double>::infinity()},
+        {"q", QStringLiteral("a \"quoted\"\nüñ€")},
+        {"bytes", std::string("\xff\x80 and \xc3\xa4", 9)},
+        {"ss", std::vector<std::string>{"", "two"}},
+        {"fs", std::vector<float>{1.0f, 0.333333343f}},
+        {"c", osg::Color3f(0.25f, 0.1f, 1.0f)},
+        {"cs", std::vector<osg::Color3f>{osg::Color3f(0.0f, 0.5f, 1.0f)}},
+        {"key \"with\" quotes", 1},
+    };
+    const olPreferencesFile::Contents read = olPreferencesFile::fromJson(olPreferencesFile::toJson(values));
+    EXPECT_EQ(read.error, QString());
+    EXPECT_TRUE(read.skipped.empty());
+    ASSERT_EQ(read.settings.size(), values.size());
+    for (const auto &[key, value] : values)
+        EXPECT_TRUE(olValue::identical(read.settings.at(key), value)) << key;
+}
+
+TEST(PreferencesFile, RefusesWhatIsNoFileOfPreferencesAsAWhole)
+{
+    const auto error = [](const char *text) { return olPreferencesFile::fromJson(text).error; };
+    EXPECT_TRUE(error("{\n\"format\": 1,\n}").contains(QStringLiteral("line 3")));
+    EXPECT_FALSE(error("").isEmpty());
+    EXPECT_FALSE(error("[]").isEmpty());
+    EXPECT_FALSE(error(R"({"settings": {}})").isEmpty());
+    EXPECT_TRUE(error(R"({"format": 2, "settings": {}})").contains(QStringLiteral("newer")));
+    EXPECT_FALSE(error(R"({"format": 1})").isEmpty());
+    EXPECT_TRUE(
+        olPreferencesFile::read(QStringLiteral("/nowhere/file.json")).error.contains(QStringLiteral("nowhere")));
+    EXPECT_TRUE(olPreferencesFile::write(QStringLiteral("/nowhere/file.json"), {}).contains(QStringLiteral("nowhere")));
+}
+
+TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
+{
+    start(R"({"Studio title": {"value": "Ours", "locked": true, "reason": "House style."}})");
+    dialog->importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 9},
+        "Studio mode": {"type": "int", "value": 1}, "Studio scale": {"type": "float", "value": 1.5},
+        "Studio seed": {"type": "int", "value": 8}, "Studio shadows": {"type": "int", "value": 1},
+        "Studio title": {"type": "qstring", "value": "Theirs"}, "Unknown": {"type": "int", "value": 1},
+        "Studio hidden": {"type": "bool", "value": "yes"}, "Odd": {"type": "matrix", "value": 1}, "Bare": 3)")));
+    auto *view = opened<olChangesView>();
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(rows(*view, "changes"), (QStringList{"Studio: Mode | Hasty | Accurate", "Studio: Samples | 4 | 9",
+                                                   "Studio: Studio seed | 7 | 8"}));
+    const QStringList skipped = rows(*view, "skipped");
+    EXPECT_EQ(skipped.size(), 6) << skipped.join('\n').toStdString();
+    EXPECT_TRUE(skipped.contains(QStringLiteral("Unknown | is not known")));
+    EXPECT_TRUE(skipped.contains(QStringLiteral("Studio shadows | is of the type int, not bool")));
+    EXPECT_TRUE(skipped.contains(QStringLiteral("Studio title | is locked: House style.")));
+    EXPECT_EQ(module.page.samples->value(), 4);
+
+    view->reject();
+    EXPECT_FALSE(canApply()) << "a preview that is cancelled did nothing";
+}
+
+TEST_F(PreferencesImport, StaysPendingUntilItIsApplied)
+{
+    start();
+    const QString values = file(settings(R"("Studio samples": {"type": "int", "value": 9},
+        "Studio scale": {"type": "float", "value": 1.2345678}, "Studio shadows": {"type": "bool", "value": false},
+        "Studio seed": {"type": "int", "value": 8})"));
+    const auto import = [&] {
+        dialog->importFrom(values);
+        opened<olChangesView>()->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    module.page.mode->setCurrentIndex(1);
+    import();
+    EXPECT_EQ(module.page.samples->value(), 9);
+    EXPECT_EQ(module.page.mode->currentIndex(), 1) << "other edits stay";
+    EXPECT_EQ(module.value<int>("Studio samples"), 4);
+    EXPECT_EQ(module.value<int>("Studio seed"), 7);
+    answer(QStringLiteral("Discard"));
+    dialog->reject();
+    dialog->open(QString());
+    EXPECT_EQ(module.page.samples->value(), 4);
+
+    import();
+    dialog->accept();
+    EXPECT_EQ(module.value<int>("Studio samples"), 9);
+    EXPECT_EQ(module.value<int>("Studio seed"), 8);
+    EXPECT_EQ(module.value<float>("Studio scale"), 1.2345678f) << "every digit, though the field shows six";
+    EXPECT_FALSE(module.value<bool>("Studio shadows"));
+    EXPECT_EQ(module.page.questions, 0);
+}
+
+TEST_F(PreferencesImport, SkipsWhatTheControlCannotHold)
+{
+    start();
+    dialog->importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 100},
+        "Studio mode": {"type": "int", "value": 7})")));
+    EXPECT_EQ(rows(*opened<olChangesView>(), "skipped"),
+              (QStringList{"Studio mode | cannot be 7: expected one of 0, 1",
+                           "Studio samples | cannot be 100: expected a whole number from 0 to 99"}));
+    EXPECT_FALSE(canApply()) << "asking what a control could hold is no edit";
+    const auto *ok = opened<olChangesView>()->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+    EXPECT_FALSE(ok->isEnabled()) << "there is nothing to import";
+}
+
+TEST_F(PreferencesImport, WritesWhatIsInForceAndTellsOfWhatIsPending)
+{
+    start();
+    module.page.samples->setValue(9);
+    const QString exported = folder.filePath(QStringLiteral("out.json"));
+    dialog->exportTo(exported);
+    EXPECT_TRUE(says(QStringLiteral("without the pending changes")));
+    const olPreferencesFile::Contents contents = olPreferencesFile::read(exported);
+    EXPECT_EQ(contents.settings.size(), 7u);
+    EXPECT_TRUE(olValue::equal(contents.settings.at("Studio samples"), 4));
+
+    dialog->exportTo(QStringLiteral("/nowhere/out.json"));
+    EXPECT_TRUE(says(QStringLiteral("/nowhere/out.json")));
+    dialog->importFrom(QStringLiteral("/nowhere/in.json"));
+    EXPECT_TRUE(says(QStringLiteral("/nowhere/in.json")));
+    EXPECT_EQ(opened<olChangesView>(), nullptr);
+}

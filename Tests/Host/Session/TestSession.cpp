@@ -1,0 +1,289 @@
+#include "Dialog/olPreferencesDialog.h"
+#include "Kernel/olPreferences.h"
+#include "KernelServices/olKernelServiceFactory.h"
+#include "KernelServices/olPreferencesService.h"
+#include "Session/olPreferencesSession.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
+#include "Utilities/olMessage.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+
+/// A module with one number, that tells what the host asks of it.
+class CountingModule : public olPreferences
+{
+public:
+    explicit CountingModule(const char *name = "Counter", const char *category = "")
+        : olPreferences(QString::fromLatin1(name), QString::fromLatin1(category)), m_key(name)
+    {
+        page.setObjectName(QStringLiteral("counterPage"));
+        addPreferencesGUI(&page);
+    }
+    ~CountingModule() override { subPreferencesGUI(&page); }
+
+    void setDefaults(olMessage &, bool flag) override
+    {
+        told.emplace_back("defaults");
+        getData().set(m_key, defaultValue, flag);
+    }
+    void updateGUI() override
+    {
+        told.emplace_back("gui");
+        const int *value = boost::any_cast<int>(&getData().get(m_key));
+        page.setValue(value ? *value : -1);
+    }
+    void updateData() override
+    {
+        told.emplace_back("data");
+        const int *before = boost::any_cast<int>(&getData().get(m_key));
+        if (before && *before == page.value())
+            addUnchanged(m_key.c_str());
+        getData().set(m_key, page.value(), true);
+    }
+    void applyPreferences() override
+    {
+        told.emplace_back("apply");
+        appliedChange = isChanged(m_key.c_str());
+    }
+    void preferencesLoaded(olMessage &) override { told.emplace_back("loaded"); }
+    void preferencesInitialApply(olMessage &message) override
+    {
+        told.emplace_back("initial");
+        olPreferences::preferencesInitialApply(message);
+    }
+
+    [[nodiscard]] int value() const { return boost::any_cast<int>(getData().get(m_key)); }
+
+    QSpinBox page;
+    std::vector<std::string> told;
+    bool appliedChange = false;
+    int defaultValue = 3;
+
+private:
+    std::string m_key;
+};
+
+using Told = std::vector<std::string>;
+
+class Session : public testing::Test
+{
+protected:
+    Session() { clear(); }
+    ~Session() override { clear(); }
+
+    static void clear()
+    {
+        const olMessage::Entries left = olPreferences::getData().entries();
+        for (const auto &entry : left)
+            olPreferences::getData().remove(entry.first);
+        olKernelServiceFactory::the<olPreferencesService>()->clear();
+    }
+
+    /// A later run of the host with the same store.
+    void nextRun()
+    {
+        clear();
+        session = std::make_unique<olPreferencesSession>(file);
+        ASSERT_EQ(session->loadStore(), QString());
+    }
+
+    QTemporaryDir folder;
+    QString file = folder.filePath(QStringLiteral("deep/preferences.db"));
+    std::unique_ptr<olPreferencesSession> session = std::make_unique<olPreferencesSession>(file);
+    CountingModule module;
+    std::vector<olPreferencesEntry *> shown{olPreferencesRegistry::the().find(QStringLiteral("Counter"))};
+};
+
+TEST_F(Session, StartsInTheHostsOrder)
+{
+    session->start();
+    EXPECT_EQ(module.told, (Told{"defaults", "loaded", "gui", "initial", "apply"}));
+    EXPECT_TRUE(module.appliedChange) << "at the first apply everything counts as changed";
+}
+
+TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
+{
+    CountingModule other("Other");
+    session->start();
+    module.page.setValue(7);
+    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_TRUE(module.appliedChange);
+
+    nextRun();
+    session->start();
+    EXPECT_EQ(module.value(), 7);
+    EXPECT_EQ(module.page.value(), 7);
+    EXPECT_EQ(other.value(), 3);
+
+    // Back at its default, a value is not kept any longer.
+    module.page.setValue(3);
+    EXPECT_EQ(session->confirm(shown), QString());
+    nextRun();
+    EXPECT_TRUE(olPreferences::getData().get("Counter").empty());
+}
+
+TEST_F(Session, KeepsAChoiceThatIsADefaultInTheEditionOfThisRun)
+{
+    session->start();
+    module.page.setValue(7);
+    EXPECT_EQ(session->confirm(shown), QString());
+
+    CountingModule other("Other");
+    module.defaultValue = 7;
+    nextRun();
+    session->start();
+    other.page.setValue(8);
+    EXPECT_EQ(session->confirm({olPreferencesRegistry::the().find(QStringLiteral("Other"))}), QString());
+
+    module.defaultValue = 3;
+    nextRun();
+    session->start();
+    EXPECT_EQ(module.value(), 7);
+}
+
+TEST_F(Session, AConfirmationWithoutAnEditChangesNothing)
+{
+    session->start();
+    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_FALSE(module.appliedChange);
+    EXPECT_FALSE(QFile::exists(file)) << "there was nothing to store";
+}
+
+TEST_F(Session, WhenStoringFailsEverythingIsAsItWasAndNothingIsApplied)
+{
+    session->start();
+    QFile inTheWay(folder.filePath(QStringLiteral("deep")));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    module.told.clear();
+    module.page.setValue(7);
+
+    const QString error = session->confirm(shown);
+    EXPECT_TRUE(error.contains(file)) << error.toStdString();
+    EXPECT_EQ(module.told, Told{"data"});
+    EXPECT_EQ(module.value(), 3);
+    EXPECT_EQ(module.page.value(), 7) << "the edit is still there to be confirmed again";
+
+    inTheWay.remove();
+    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_TRUE(module.appliedChange);
+    EXPECT_EQ(module.value(), 7);
+}
+
+TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)
+{
+    olPreferencesStore store(file);
+    const olPreferencesStore::Key foreign{olHome::Record, "Someone else's"};
+    const olPreferencesStore::Key foreignService{olHome::Service, "Someone else's"};
+    ASSERT_EQ(store.save({{foreign, 0.1f}, {foreignService, true}}, {}), QString());
+
+    nextRun();
+    session->start();
+    module.page.setValue(7);
+    ASSERT_EQ(session->confirm(shown), QString());
+
+    olPreferencesStore::Values values;
+    ASSERT_EQ(store.load(values), QString());
+    EXPECT_EQ(values.size(), 3u);
+    EXPECT_TRUE(olValue::equal(values[foreign], 0.1f));
+    EXPECT_TRUE(olValue::equal(values[foreignService], true));
+}
+
+TEST_F(Session, AFileThatIsNoStoreIsReportedAndLeftAlone)
+{
+    const QString other = folder.filePath(QStringLiteral("letter.txt"));
+    const QByteArray text("Dear reader, this is no database, and it is long enough to look like something else.");
+    QFile letter(other);
+    ASSERT_TRUE(letter.open(QIODevice::WriteOnly));
+    letter.write(text);
+    letter.close();
+
+    olPreferencesStore store(other);
+    olPreferencesStore::Values values;
+    EXPECT_TRUE(store.load(values).contains(other));
+    EXPECT_TRUE(store.save({{{olHome::Record, "key"}, 1}}, {}).contains(other));
+    ASSERT_TRUE(letter.open(QIODevice::ReadOnly));
+    EXPECT_EQ(letter.readAll(), text);
+}
+
+TEST_F(Session, TheDialogFillsAPageOnceAnOpeningAndDropsEditsOnCancel)
+{
+    session->start();
+    module.told.clear();
+    olPreferencesDialog dialog(*session);
+    dialog.open(QStringLiteral("Counter"));
+    dialog.open(QStringLiteral("Counter"));
+    EXPECT_EQ(module.told, Told{"gui"});
+
+    module.page.setValue(9);
+    QTimer::singleShot(0, &dialog, [] {
+        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(question, nullptr) << "a page that tells nothing of its settings is watched all the same";
+        question->button(QMessageBox::Discard)->click();
+    });
+    dialog.reject();
+    EXPECT_EQ(module.value(), 3);
+    dialog.open(QStringLiteral("Counter"));
+    EXPECT_EQ(module.page.value(), 3);
+
+    module.told.clear();
+    module.page.setValue(9);
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(module.told, (Told{"data", "apply"}));
+    EXPECT_EQ(module.value(), 9);
+}
+
+TEST_F(Session, TheDialogStaysOpenWithTheEditsWhenStoringFails)
+{
+    session->start();
+    olPreferencesDialog dialog(*session);
+    dialog.open(QStringLiteral("Counter"));
+    QFile inTheWay(folder.filePath(QStringLiteral("deep")));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    module.page.setValue(9);
+    dialog.accept();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(module.page.value(), 9);
+    EXPECT_EQ(module.value(), 3);
+}
+
+TEST_F(Session, TheDialogListsModulesUnderTheirCategoriesAndGivesPagesBack)
+{
+    auto child = std::make_unique<CountingModule>("Child", "Family");
+    const CountingModule family("Family", "Family");
+    session->start();
+    {
+        olPreferencesDialog dialog(*session);
+        const auto *tree = dialog.findChild<QTreeWidget *>();
+        ASSERT_EQ(tree->topLevelItemCount(), 2) << "a module named as its category is the category's own entry";
+        EXPECT_EQ(tree->topLevelItem(1)->text(0), QStringLiteral("Family"));
+        EXPECT_EQ(tree->topLevelItem(1)->child(0)->text(0), QStringLiteral("Child"));
+        dialog.open(QStringLiteral("Child"));
+        dialog.open(QStringLiteral("Family"));
+        // A module may go while the dialog shows its page.
+        child.reset();
+        dialog.open(QStringLiteral("Counter"));
+        EXPECT_TRUE(dialog.apply());
+    }
+    EXPECT_EQ(family.page.parent(), nullptr);
+    EXPECT_EQ(module.page.parent(), nullptr);
+}
+
+} // namespace

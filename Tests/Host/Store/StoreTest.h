@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Store/olPreferencesStore.h"
+
+#include <QByteArray>
+#include <QFileInfo>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <string>
+
+/// A store in a folder of its own. In memory where there is such a folder: these tests save thousands of times.
+class StoreTest : public testing::Test
+{
+protected:
+    using Key = olPreferencesStore::Key;
+    using Values = olPreferencesStore::Values;
+
+    static Key key(const std::string &name) { return {olHome::Record, name}; }
+
+    static QByteArray bytesOf(const QString &name);
+    static void write(const QString &name, const QByteArray &bytes);
+
+    /// Whether both hold the same keys with exactly the same values.
+    static bool same(const Values &left, const Values &right);
+
+    /// What the file itself holds; the test fails where it cannot be read.
+    [[nodiscard]] Values stored() const;
+
+    void save(const Values &changed) const;
+
+    /// Runs SQL on the store's file, as no program of ours would.
+    void tamper(const char *sql) const;
+
+    /// Sets of files that were set aside, without their logs.
+    [[nodiscard]] QStringList setAside() const;
+
+    QTemporaryDir folder{QFileInfo(QStringLiteral("/dev/shm")).isWritable() ? QStringLiteral("/dev/shm/store-XXXXXX")
+                                                                            : QString()};
+    QString file = folder.filePath(QStringLiteral("preferences.db"));
+};

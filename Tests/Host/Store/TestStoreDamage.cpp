@@ -1,0 +1,308 @@
+#include "State/olValue.h"
+#include "StoreTest.h"
+
+#include <QFile>
+#include <sqlite3.h>
+
+#include <chrono>
+#include <random>
+#include <thread>
+
+namespace
+{
+
+/// A store of the second run, and beside it the copy that was made at that run's start.
+class StoreDamage : public StoreTest
+{
+protected:
+    StoreDamage()
+    {
+        old = {{key("Camera fov"), 60.0f}, {key("Path"), std::string("/tmp")}, {{olHome::Service, "Scale"}, 0.5f}};
+        for (int row = 0; row < 40; ++row)
+            old[key("Row " + std::to_string(row))] = std::string(std::size_t(row) * 5, 'v');
+        save(old);
+        Values values;
+        EXPECT_EQ(olPreferencesStore(file).open(values).error, QString());
+        save({{key("Camera fov"), 75.0f}});
+        current = stored();
+        sound = bytesOf(file);
+        copy = bytesOf(file + ".last-good");
+    }
+
+    /// Opens the store with these bytes in it. Nothing may ever come out of it but its values, its copy's or an error.
+    void open(const QByteArray &bytes, const std::string &what)
+    {
+        write(file, bytes);
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        if (!opening.error.isEmpty()) {
+            ++refused;
+            ASSERT_EQ(bytesOf(file), bytes) << what;
+            ASSERT_TRUE(values.empty()) << what;
+        } else if (opening.notice.isEmpty()) {
+            ++harmless;
+            ASSERT_TRUE(same(values, current)) << what;
+        } else {
+            ++mended;
+            ASSERT_TRUE(same(values, old)) << what;
+            const QStringList kept = setAside();
+            ASSERT_EQ(kept.size(), 1) << what;
+            ASSERT_TRUE(opening.notice.contains(kept.first()) && opening.notice.contains(file)) << what;
+            ASSERT_EQ(bytesOf(folder.filePath(kept.first())), bytes) << what;
+            QFile::remove(folder.filePath(kept.first()));
+        }
+        // Where the file went on being used, it can be.
+        if (opening.error.isEmpty() && (harmless + mended) % 50 == 0) {
+            ASSERT_EQ(olPreferencesStore(file).save({{key("Camera fov"), 80.0f}}, {}), QString()) << what;
+            ASSERT_TRUE(olValue::identical(stored()[key("Camera fov")], 80.0f)) << what;
+        }
+        write(file + ".last-good", copy);
+    }
+
+    Values old;
+    Values current;
+    QByteArray sound;
+    QByteArray copy;
+    int refused = 0;
+    int harmless = 0;
+    int mended = 0;
+};
+
+TEST_F(StoreDamage, EachBitIsNoticedOrHarmlessAndTheBadFileIsKept)
+{
+    constexpr int header = 100 * 8;
+    std::mt19937 random(1);
+    for (int round = 0; round < 10000 && !HasFatalFailure(); ++round) {
+        const int bit = round < header ? round : int(random() % unsigned(sound.size() * 8));
+        QByteArray bytes = sound;
+        bytes[bit / 8] = char(bytes.at(bit / 8) ^ (1 << bit % 8));
+        open(bytes, "bit " + std::to_string(bit));
+    }
+    EXPECT_GT(mended, 100);
+    EXPECT_LE(refused, 40) << "only what claims to be of a newer version is left alone";
+}
+
+TEST_F(StoreDamage, EveryTruncationIsNoticed)
+{
+    for (int size = 0; size < sound.size() && !HasFatalFailure(); ++size) {
+        const QByteArray bytes = sound.left(size);
+        if (size % 64 == 0) {
+            open(bytes, "cut to " + std::to_string(size));
+            continue;
+        }
+        write(file, bytes);
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).lookAt(values);
+        ASSERT_EQ(opening.error, QString()) << size;
+        ASSERT_FALSE(opening.notice.isEmpty()) << size;
+        ASSERT_TRUE(same(values, old)) << size;
+        ASSERT_EQ(bytesOf(file), bytes) << "looking changes nothing";
+    }
+    EXPECT_EQ(harmless + refused, 0);
+}
+
+TEST_F(StoreDamage, RowsThatWereChangedOrTakenAwayOutsideAreNoticed)
+{
+    for (const char *sql :
+         {"UPDATE setting SET value = '61' WHERE key = 'Camera fov'", "DELETE FROM setting WHERE key = 'Row 7'",
+          "UPDATE setting SET key = 'Camera for' WHERE key = 'Camera fov'",
+          "UPDATE setting SET value = CAST(value AS BLOB) WHERE key = 'Path'", "DELETE FROM seal",
+          "DELETE FROM setting", "DROP TABLE setting",
+          "CREATE TRIGGER t AFTER INSERT ON setting BEGIN SELECT 1; END"}) {
+        write(file, sound);
+        tamper(sql);
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        EXPECT_NE(opening.notice, QString()) << sql;
+        EXPECT_TRUE(same(values, old)) << sql;
+    }
+}
+
+TEST_F(StoreDamage, EachIsToldOnceAndKeptInAFileOfItsOwn)
+{
+    for (int round = 0; round < 3; ++round) {
+        write(file, sound.left(5000 + round));
+        Values values;
+        EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+        EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+        EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
+    }
+    EXPECT_EQ(setAside().size(), 3);
+}
+
+TEST_F(StoreDamage, WithoutASoundCopyAllIsAtItsDefault)
+{
+    for (const bool isThere : {true, false}) {
+        write(file, sound.left(5000));
+        write(file + ".last-good", copy.left(5000));
+        if (!isThere)
+            QFile::remove(file + ".last-good");
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        EXPECT_TRUE(values.empty());
+        EXPECT_TRUE(opening.notice.contains("default")) << opening.notice.toStdString();
+        save({{key("again"), 1}});
+        EXPECT_EQ(stored().size(), 1u);
+        QFile::remove(file);
+    }
+    EXPECT_EQ(setAside().size(), 2);
+}
+
+TEST_F(StoreDamage, ALogGoesWithTheFileItBelongsTo)
+{
+    write(file, sound.left(5000));
+    write(file + "-wal", "not a log");
+    Values values;
+    const olStoreOpening opening = olPreferencesStore(file).open(values);
+    EXPECT_TRUE(same(values, old));
+    ASSERT_EQ(setAside().size(), 1);
+    EXPECT_EQ(bytesOf(folder.filePath(setAside().first() + "-wal")), "not a log");
+    EXPECT_TRUE(same(stored(), old));
+}
+
+TEST_F(StoreDamage, SavesThatADamagedLogLosesAreTold)
+{
+    // A second connection keeps the log from being worked in, as a crash would.
+    tamper("PRAGMA journal_mode = WAL");
+    const QByteArray before = bytesOf(file);
+    sqlite3 *other = nullptr;
+    ASSERT_EQ(sqlite3_open(QFile::encodeName(file).constData(), &other), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(other, "SELECT count(*) FROM setting", nullptr, nullptr, nullptr), SQLITE_OK);
+    save({{key("Camera fov"), 80.0f}});
+    save({{key("Camera fov"), 85.0f}});
+    const QByteArray log = bytesOf(file + "-wal");
+    sqlite3_close(other);
+    constexpr int header = 32;
+    ASSERT_GT(log.size(), header);
+    const auto notice = [&](const QByteArray &left) {
+        write(file, before);
+        write(file + "-wal", left);
+        QFile::remove(file + "-shm");
+        Values values;
+        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        EXPECT_EQ(opening.error, QString());
+        return opening.notice;
+    };
+    EXPECT_EQ(notice(log), QString());
+    EXPECT_TRUE(olValue::identical(stored()[key("Camera fov")], 85.0f));
+    EXPECT_EQ(notice(log.left(log.size() - 10)), QString()) << "a save that was never finished is no loss";
+    for (const int place : {4, 20, header + 2, header + 9, header + 30, log.size() - 100}) {
+        QByteArray damaged = log;
+        damaged[place] = char(damaged.at(place) ^ 16);
+        EXPECT_TRUE(notice(damaged).contains(file)) << "byte " << place;
+    }
+}
+
+TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
+{
+    write(file + ".last-good", copy.left(5000));
+    EXPECT_EQ(olPreferencesStore(file).check().size(), 1);
+    Values values;
+    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(same(values, current));
+    EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
+}
+
+TEST_F(StoreDamage, ASaveOnADamagedFileIsRefusedAndPutsNoSealOnIt)
+{
+    tamper("DELETE FROM setting WHERE key = 'Row 7'");
+    olPreferencesStore store(file);
+    EXPECT_TRUE(store.save({{key("new"), 1}}, {}).contains(file));
+    EXPECT_TRUE(store.isBroken());
+    Values values;
+    EXPECT_NE(store.open(values).notice, QString());
+}
+
+TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
+{
+    olPreferencesStore store(file);
+    Values values;
+    const auto saveFov = [&](float fov) {
+        current[key("Camera fov")] = fov;
+        return store.save({{key("Camera fov"), fov}}, {});
+    };
+    ASSERT_EQ(store.open(values).notice, QString());
+    ASSERT_EQ(saveFov(61), QString());
+    EXPECT_TRUE(same(stored(), current));
+
+    write(file, sound.left(5000));
+    ASSERT_NE(olPreferencesStore(file).open(values).notice, QString()) << "another program mends it";
+    EXPECT_EQ(saveFov(62), QString());
+    EXPECT_TRUE(same(stored(), current)) << "saved into the new file";
+
+    save({{key("Row 7"), 7}});
+    current[key("Row 7")] = 7;
+    EXPECT_EQ(saveFov(63), QString());
+    EXPECT_TRUE(same(stored(), current)) << "another program's save stays";
+
+    store.close();
+    EXPECT_FALSE(QFile::exists(file + "-wal") || QFile::exists(file + "-shm"));
+    ASSERT_EQ(saveFov(64), QString());
+    ASSERT_EQ(saveFov(65), QString());
+    tamper("DELETE FROM setting WHERE key = 'Row 8'");
+    EXPECT_TRUE(saveFov(66).contains("rows are missing"));
+    EXPECT_TRUE(store.isBroken());
+    ASSERT_NE(store.open(values).notice, QString());
+    ASSERT_EQ(saveFov(67), QString());
+    store.close();
+
+    ASSERT_EQ(saveFov(68), QString());
+    QByteArray bytes = bytesOf(file);
+    bytes[bytes.indexOf("Row 9") + 4] = '0';
+    // The clock of files goes in steps of some milliseconds, and a change within one is no change of its time.
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    write(file, bytes);
+    EXPECT_TRUE(saveFov(69).contains(file)) << "damaged behind the database's back";
+    EXPECT_TRUE(store.isBroken());
+
+    ASSERT_NE(store.open(values).notice, QString());
+    ASSERT_EQ(saveFov(70), QString());
+    QFile::remove(file);
+    EXPECT_TRUE(saveFov(71).contains("gone"));
+    EXPECT_TRUE(store.isBroken());
+}
+
+TEST_F(StoreDamage, WhoDeletesTheStoreBeginsAnewForGood)
+{
+    QFile::remove(file);
+    Values values;
+    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(values.empty());
+    save({{key("new"), 1}});
+    write(file, bytesOf(file).left(4000));
+    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(values.empty()) << "the old copy does not come back";
+}
+
+TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
+{
+    tamper("PRAGMA user_version = 2; ALTER TABLE setting ADD COLUMN unit TEXT");
+    const QByteArray newer = bytesOf(file);
+    olPreferencesStore store(file);
+    Values values;
+    const QString error = store.open(values).error;
+    EXPECT_TRUE(error.contains("newer") && error.contains("move it away") && error.contains(".last-good"));
+    EXPECT_TRUE(store.save({{key("a"), 1}}, {}).contains("newer"));
+    EXPECT_FALSE(store.isBroken());
+    EXPECT_TRUE(values.empty());
+    EXPECT_EQ(bytesOf(file), newer);
+    EXPECT_TRUE(setAside().isEmpty());
+}
+
+TEST_F(StoreDamage, FilesThatNeverWereStoresAreLeftWhereTheyAre)
+{
+    const QString other = folder.filePath(QStringLiteral("other"));
+    QFile::copy(file, other);
+    file = other;
+    tamper("PRAGMA application_id = 7; PRAGMA user_version = 0");
+    const QByteArray database = bytesOf(other);
+    for (const QByteArray &bytes : {database, QByteArray("Dear reader, "), QByteArray(20000, '\0')}) {
+        write(other, bytes);
+        Values values;
+        EXPECT_TRUE(olPreferencesStore(other).open(values).error.contains(other));
+        EXPECT_TRUE(olPreferencesStore(other).save({{key("a"), 1}}, {}).contains(other));
+        EXPECT_EQ(bytesOf(other), bytes);
+    }
+}
+
+} // namespace
