@@ -36,6 +36,8 @@ if [ ! -e "$root/made" ]; then
     rm -rf --one-file-system "$root"
     mkdir -p "$root"
     debootstrap --variant=minbase "$suite" "$root" >"$root.log" || { tail -n 20 "$root.log" >&2; exit 1; }
+    # Nothing of it needs to outlive a crash of the machine.
+    echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/unsafe-io"
     touch "$root/made"
 fi
 cp /etc/resolv.conf "$root/etc/resolv.conf"
