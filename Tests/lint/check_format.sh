@@ -9,4 +9,4 @@ if ! "$formatter" --version | grep -q "version $version\."; then
     echo "Not checked: clang-format $version decides, and here is $("$formatter" --version)"
     exit 77
 fi
-find Apps Benchmarks Host Plugins Sdk Tests -name '*.cpp' -o -name '*.h' | xargs "$formatter" --dry-run --Werror
+find Apps Benchmarks Host Plugins Scene Sdk Tests -name '*.cpp' -o -name '*.h' | xargs "$formatter" --dry-run --Werror
