@@ -7,7 +7,6 @@
 import json
 import pathlib
 import re
-import shutil
 import subprocess
 import unittest
 
@@ -245,22 +244,6 @@ class Completion(ToolTest):
                                 ("get", "no such"): [""]}.items():
             with self.subTest(words):
                 self.assertEqual(self.completed(*words), expected)
-
-
-class Manual(ToolTest):
-    page = pathlib.Path(__file__).resolve().parents[2] / "docs/orlo-prefs.1"
-
-    def test_it_tells_of_every_command_and_option(self):
-        text = self.page.read_text().replace("\\-", "-")
-        words = re.findall(r"(?m)^  ([a-z]+|--[a-z-]+) ", self.tool("--help").stdout)
-        for word in [*words, "--dry-run", "--all", "--json", "--markdown"]:
-            self.assertRegex(text, rf"(?<![\w-]){word}(?![\w-])")
-
-    @unittest.skipUnless(shutil.which("groff"), "needs groff")
-    def test_it_is_typeset_without_a_warning(self):
-        result = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", self.page], capture_output=True,
-                                encoding="utf-8", check=False)
-        self.assertEqual((result.stderr, result.returncode), ("", 0))
 
 
 class Script(ToolTest):
