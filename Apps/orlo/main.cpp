@@ -3,11 +3,11 @@
 #include "olMainWindow.h"
 #include "olTour.h"
 
+#include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
