@@ -5,11 +5,11 @@
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 #include "WebServer/olWebServer.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "olImportSummary.h"
 
-#include "Viewport/olModelFormat.h"
+#include "Exchange/olModelFormat.h"
 
 #include <QCoreApplication>
 #include <QDir>

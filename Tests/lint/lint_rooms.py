@@ -30,15 +30,17 @@ ROOMS = {
     "Host/WebServer": "Host Host/Store Sdk/Utilities Sdk/State",
     "Host/Devices": "Host Sdk/Utilities Sdk/State",
     # the scene
-    "Host/Viewport": "Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Kernel Sdk/Widgets",
+    "Scene/Model": "Sdk/Utilities Sdk/OpenSG Sdk/State",
+    "Scene/Exchange": "Scene/Model Sdk/Utilities Sdk/State Sdk/Kernel",
+    "Scene/View": "Scene/Model Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Kernel Sdk/Widgets",
     # the programs
     "Apps/orlo-prefs": "Host Host/Editing Host/Session Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices"
                        " Sdk/Widgets",
-    "Apps/orlo": "Host Host/Devices Host/Dialog Host/Editing Host/Session Host/Store Host/Viewport Host/WebServer"
+    "Apps/orlo": "Host Host/Devices Host/Dialog Host/Editing Host/Session Host/Store Scene/Model Scene/Exchange Scene/View Host/WebServer"
                  " Sdk/Utilities Sdk/State Sdk/Kernel Sdk/Widgets",
 }
 # Where includes begin to be looked up, besides the folder of the file itself.
-ROOTS = ["Sdk", "Sdk/OpenSG", "Host", "Plugins/KernelPreferences"]
+ROOTS = ["Sdk", "Sdk/OpenSG", "Host", "Scene", "Plugins/KernelPreferences"]
 # Written with angle brackets as the real OpenSG's headers are.
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<(OpenSG/[^>]+)>)', re.MULTILINE)
 
