@@ -4,7 +4,9 @@
 #include "State/olPreferencesRegistry.h"
 #include "Store/olPreferencesStore.h"
 #include "Utilities/olLog.h"
+#include "WebServer/olWebAccess.h"
 #include "WebServer/olWebPages.h"
+#include "WebServer/olWebPort.h"
 
 #include <QCoreApplication>
 #include <QDir>

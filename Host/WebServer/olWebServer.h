@@ -1,14 +1,16 @@
 #pragma once
 
 #include "State/olHostValue.h"
-#include "WebServer/olWebAccess.h"
-#include "WebServer/olWebPort.h"
 #include "olHostExport.h"
-
-#include <QString>
 
 #include <memory>
 #include <optional>
+
+class olWebAccess;
+class olWebPort;
+struct olWebAnswer;
+struct olWebCertificate;
+struct olWebRequest;
 
 /// The host's built-in web server: a status page and the settings and state as JSON, all of it read-only. It runs in
 /// the GUI thread's event loop and has no threads. While it lives it starts and stops whenever the host is told to,
