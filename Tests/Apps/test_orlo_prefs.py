@@ -8,6 +8,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import stat
 import subprocess
 import unittest
