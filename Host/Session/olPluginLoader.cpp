@@ -54,7 +54,7 @@ QString olPluginLoader::load(const QString &given)
         return failure(fault);
     if (!m_library.load())
         return failure(m_library.errorString());
-    olRegisterSceneLoaders();
+    olStartOpenSG();
     const QString error = enter();
     if (!error.isEmpty())
         unload();
