@@ -38,9 +38,10 @@ const olPrefsCommand commands[] = {
      "another type or out of range, and locked settings are named on the standard error stream and skipped.\n"
      "  --dry-run   prints what would change, KEY  VALUE -> NEW VALUE, and stores nothing\n",
      &olPrefsCommands::importFrom},
-    {"check", "check", "looks for damage in the store and faults in the site's files",
+    {"check", "check [--site FILE]", "looks for damage in the store and faults in the site's files",
      "Prints a line for each thing that is wrong with the store, its copy or the site's files, also for keys that no\n"
-     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n",
+     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n"
+     "  --site FILE  judges such a file of the site's before it is installed, and nothing else\n",
      &olPrefsCommands::check},
     {"script", "script FILE|-", "runs a script from a file or the standard input",
      "Drives the modules operation by operation and prints every host call. A script begins with empty preferences,\n"

@@ -17,10 +17,12 @@ void requireSuccess(const QString &error)
         throw olToolError(error);
 }
 
-/// A script shows the modules as they are, at whatever site it runs.
+/// A script shows the modules as they are, at whatever site it runs; another site's file is judged by itself.
 QStringList siteFiles(const olPrefsOptions &options)
 {
-    return options.command == QLatin1String("script") ? QStringList() : olSiteDefaults::systemFiles();
+    const bool isAnywhere = options.command == QLatin1String("script") ||
+                            (options.command == QLatin1String("check") && !options.arguments.isEmpty());
+    return isAnywhere ? QStringList() : olSiteDefaults::systemFiles();
 }
 
 } // namespace

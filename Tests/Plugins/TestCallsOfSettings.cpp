@@ -90,7 +90,7 @@ TEST_F(CallsOfSettings, EachSettingReachesItsOwnCallsAndNoOther)
             applied(*module);
         }
     }
-    QFile expected(QStringLiteral(ORLO_SOURCE_DIR "/Tests/Plugins/calls-of-settings.expected"));
+    QFile expected(sourceOfTest(QStringLiteral("Tests/Plugins/calls-of-settings.expected")));
     ASSERT_TRUE(expected.open(QIODevice::ReadOnly));
     if (expected.readAll() == transcript)
         return;

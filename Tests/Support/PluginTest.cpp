@@ -7,6 +7,13 @@
 
 #include <stdexcept>
 
+QString pluginUnderTest() { return qEnvironmentVariable("ORLO_TEST_PLUGIN", QStringLiteral(ORLO_PLUGIN_FILE)); }
+
+QString sourceOfTest(const QString &file)
+{
+    return qEnvironmentVariable("ORLO_TEST_SOURCE", QStringLiteral(ORLO_SOURCE_DIR)) + QLatin1Char('/') + file;
+}
+
 PluginTest::PluginTest(olEdition edition) { restart(edition); }
 
 PluginTest::~PluginTest() { plugin.unload(); }
@@ -22,7 +29,7 @@ void PluginTest::restart(olEdition edition)
     host.reset();
     host.edition = edition;
 
-    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
+    const QString error = plugin.load(pluginUnderTest());
     if (!error.isEmpty())
         throw std::runtime_error(error.toStdString());
     calls.take();

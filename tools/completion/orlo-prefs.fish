@@ -57,4 +57,5 @@ complete -c orlo-prefs -n '__orlo_prefs_after list' -l json -d 'For programs'
 complete -c orlo-prefs -n '__orlo_prefs_after list' -l markdown -d 'The catalogue'
 complete -c orlo-prefs -n '__orlo_prefs_after reset' -l all -d 'Every setting'
 complete -c orlo-prefs -n '__orlo_prefs_after import' -l dry-run -d 'Only tell what would change'
+complete -c orlo-prefs -n '__orlo_prefs_after check' -l site -r -F -d 'Judge a file before it is installed'
 complete -c orlo-prefs -n '__orlo_prefs_after export import script' -F
