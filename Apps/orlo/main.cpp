@@ -1,4 +1,5 @@
 #include "olBatch.h"
+#include "olFormerSettings.h"
 #include "olGivenSettings.h"
 #include "olMainWindow.h"
 #include "olTour.h"
@@ -15,6 +16,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -162,6 +164,7 @@ int run(const QCommandLineParser &options)
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
+    olTakeFormerSettingsOver();
     olMainWindow window(session);
     const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
     if (!pluginError.isEmpty())
@@ -216,9 +219,11 @@ int main(int argc, char *argv[])
     argumentTexts.push_back(nullptr);
     int argumentCount = int(arguments.size());
     QApplication application(argumentCount, argumentTexts.data());
-    QApplication::setOrganizationName(QStringLiteral("ORLO"));
+    QApplication::setOrganizationName(QStringLiteral("orlo"));
     QApplication::setApplicationName(QStringLiteral("orlo"));
     QApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
 
     QCommandLineParser options;
     options.setApplicationDescription(QStringLiteral("Shows the host with its preferences."));

@@ -5,6 +5,7 @@
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
 #include "olSceneTree.h"
+#include "olToolIcons.h"
 
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
@@ -20,7 +21,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
@@ -65,8 +65,10 @@ olMainWindow::~olMainWindow() { olHostState::the().removeObserver(*this); }
 void olMainWindow::addCentre()
 {
     if (!olViewport::isSupported()) {
-        auto *reason = new QLabel(tr("The 3D view needs an X display with OpenGL."));
+        auto *reason = new QLabel(
+            tr("The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it."));
         reason->setAlignment(Qt::AlignCenter);
+        reason->setWordWrap(true);
         setCentralWidget(reason);
         return;
     }
@@ -128,10 +130,9 @@ void olMainWindow::addViewActions()
     QMenu *view = menuBar()->addMenu(tr("&View"));
     m_tools = addToolBar(tr("View"));
     m_tools->setObjectName(QStringLiteral("viewTools"));
-    const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
-    QAction *all = m_tools->addAction(icon(QStyle::SP_TitleBarMaxButton), tr("Show &All"));
+    QAction *all = m_tools->addAction(olToolIcons::showAll(palette()), tr("Show &All"));
     all->setShortcut(QKeySequence(Qt::Key_Home));
-    QAction *zoom = m_tools->addAction(icon(QStyle::SP_FileDialogContentsView), tr("&Zoom To"));
+    QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(palette()), tr("&Zoom To"));
     zoom->setShortcut(QKeySequence(Qt::Key_End));
     zoom->setToolTip(tr("Brings what is selected near"));
     view->addActions({all, zoom});
