@@ -30,7 +30,14 @@ NAMED_BY_US = """
     olImmersiveInteractionService::setAutoCreateCollisionObjects
     olImmersiveInteractionService::setShowTooltipsOnStart olImmersiveInteractionService::setTeleportGroundMode
     olImmersiveInteractionService::setTeleportRange olImmersiveInteractionService::setVisualiseHands
-    olImportOptions::setLegacyLoader olImportOptions::setUsePlugin
+    olImportOptions::setActiveLayerFilter olImportOptions::setCreateGroupsForLayers
+    olImportOptions::setFlushTransformations olImportOptions::setImportCurves olImportOptions::setImportEmptyLayers
+    olImportOptions::setImportInvisibleCurves olImportOptions::setImportInvisibleSurfaces
+    olImportOptions::setImportMeshLODs olImportOptions::setImportNurbs olImportOptions::setImportSurfaces
+    olImportOptions::setKeepSurfaceData olImportOptions::setLegacyLoader olImportOptions::setLoadBreps
+    olImportOptions::setMergeGeometries olImportOptions::setRemoveEmptyGroups olImportOptions::setStitching
+    olImportOptions::setTessellation olImportOptions::setUnifySurfaceNormals olImportOptions::setUnshareNodes
+    olImportOptions::setUsePlugin
     olPlatform::getIcon
     olPreferencesService::getBool olPreferencesService::getFloat olPreferencesService::getInt
     olPreferencesService::setBool olPreferencesService::setFloat olPreferencesService::setInt
