@@ -14,9 +14,9 @@ import sys
 from pathlib import Path
 
 PLUGIN = "Plugins/KernelPreferences"
-CALLS = "Tests/Plugins/calls-of-settings.expected"
-COPIED = ("Tests/Plugins/cad-formats.txt", CALLS, "docs/settings-in-the-view.md")
-CHECKS = "Contract*:CadFormats*:CallsOfSettings*:Descriptions*"
+FORMATS = "Tests/Plugins/cad-formats.txt"
+TRANSCRIPTS = "--gtest_filter=CallsOfSettings*:Pages*"
+CHECKS = "--gtest_filter=Contract*:CadFormats*:CallsOfSettings*:Pages*:Descriptions*"
 
 
 def insert(file, line, behind):
@@ -29,7 +29,8 @@ def insert(file, line, behind):
 def apply(source, copy):
     shutil.rmtree(copy, ignore_errors=True)
     shutil.copytree(source / PLUGIN, copy / PLUGIN)
-    for name in COPIED:
+    transcripts = [file.relative_to(source) for file in source.glob("Tests/Plugins/*.expected")]
+    for name in [*transcripts, FORMATS, "docs/settings-in-the-view.md"]:
         (copy / name).parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(source / name, copy / name)
 
@@ -42,7 +43,7 @@ def apply(source, copy):
         document).groups()
     insert(copy / PLUGIN / "olKernelPreferences.cpp", include, '#include "FileIO/')
     insert(copy / PLUGIN / "olKernelPreferences.cpp", creation, "    create<olPLMXML")
-    insert(copy / "Tests/Plugins/cad-formats.txt", row, "PLM XML")
+    insert(copy / FORMATS, row, "PLM XML")
 
 
 def check(source, copy, options):
@@ -52,21 +53,24 @@ def check(source, copy, options):
     def run(*command):
         return subprocess.run(command, env=environment, capture_output=True, encoding="utf-8", check=False)
 
-    # The transcript of calls comes with its new lines from the test itself, and with nothing else.
-    stale = run(options.tests, "--gtest_filter=CallsOfSettings*")
-    printed = Path(re.search(r"with (\S+)", stale.stdout).group(1))
-    before, now = (file.read_text().splitlines() for file in (copy / CALLS, printed))
-    changes = [line for line in difflib.ndiff(before, now) if line[0] in "+-"]
-    if not changes or not all(re.match(r"\+ (Parasolid$|  ParasolidOptions )", line) for line in changes):
-        sys.exit("other calls than those of the new format differ:\n" + "\n".join(changes))
-    shutil.move(printed, copy / CALLS)
+    # The tests bring the transcripts as they are with the format, which has its lines in them and changes none.
+    stale = run(options.tests, TRANSCRIPTS)
+    printed = re.findall(r"diff (\S+) with (\S+)", stale.stdout)
+    if not printed:
+        sys.exit(f"no transcript speaks of the new format:\n{stale.stdout}{stale.stderr}")
+    for expected, now in printed:
+        before, after = (Path(file).read_text().splitlines() for file in (expected, now))
+        changed = [line for line in difflib.ndiff(before, after) if line.startswith("- ")]
+        if changed:
+            sys.exit(f"{expected} changes for other modules:\n" + "\n".join(changed))
+        shutil.move(now, expected)
 
     listed = run(options.tool, "--store", str(copy / "store.db"), "--plugin", options.plugin, "list", "--markdown")
     (copy / "docs/settings.md").write_text(listed.stdout)
     sys.path.insert(0, str(source / "Tests/lint"))
     from lint_sources import unexplained_settings
     faults = list(unexplained_settings(copy))
-    judged = run(options.tests, f"--gtest_filter={CHECKS}")
+    judged = run(options.tests, CHECKS)
     if faults or judged.returncode != 0 or "ParasolidOptions" not in listed.stdout:
         sys.exit("\n".join([*faults, listed.stderr, judged.stdout, judged.stderr]))
 
