@@ -15,8 +15,8 @@ from pathlib import Path
 
 PLUGIN = "Plugins/KernelPreferences"
 FORMATS = "Tests/Plugins/cad-formats.txt"
-TRANSCRIPTS = "--gtest_filter=CallsOfSettings*:Pages*"
-CHECKS = "--gtest_filter=Contract*:CadFormats*:CallsOfSettings*:Pages*:Descriptions*"
+TRANSCRIPTS = "--gtest_filter=CallsOfSettings*:Pages*:Reactions*:ShownValues*"
+CHECKS = "--gtest_filter=Contract*:CadFormats*:CallsOfSettings*:Pages*:Reactions*:ShownValues*:Descriptions*"
 
 
 def insert(file, line, behind):
