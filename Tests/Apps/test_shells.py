@@ -31,7 +31,7 @@ class Shells(tool_test.ToolTest):
                                     capture_output=True, encoding="utf-8").stdout
             words = set(re.findall(r"(?m)^ .*?(--[a-z-]+)|^  ([a-z]+) ", listed))
             words = {option or command for option, command in words} - {"--help-all", "model"}
-            words |= {"--json", "--markdown", "--all", "--dry-run", "--site"} if program == "orlo-prefs" else set()
+            words |= {"--json", "--markdown", "--all", "--dry-run", "--site", "--changed", "--module"} if program == "orlo-prefs" else set()
             self.assertIn("--edition", words)
             for file, dashes in ((SOURCE / f"docs/{program}.1", "--"), (COMPLETIONS / program, "--"),
                                  (COMPLETIONS / f"_{program}", "--"), (COMPLETIONS / f"{program}.fish", "-l ")):

@@ -49,13 +49,18 @@ complete -c orlo-prefs -n __orlo_prefs_needs_command -l version -d 'Print the ve
 complete -c orlo-prefs -l help -d 'Tell more'
 for command in 'list	Show all settings' 'get	Print a value' 'set	Store a value' 'reset	Back to the default' \
     'diff	What differs from the defaults' 'export	Write all settings' 'import	Store settings of a file' \
+    'profile	Keep settings under a name' 'log	What was changed when' 'undo	Take saves back' \
     'check	Find faults' 'script	Run a script'
     complete -c orlo-prefs -n __orlo_prefs_needs_command -a "$(string escape -- $command)"
 end
-complete -c orlo-prefs -n '__orlo_prefs_after get set reset' -a '(__orlo_prefs_keys)'
-complete -c orlo-prefs -n '__orlo_prefs_after list' -l json -d 'For programs'
+complete -c orlo-prefs -n '__orlo_prefs_after get set reset log' -a '(__orlo_prefs_keys)'
+complete -c orlo-prefs -n '__orlo_prefs_after list log' -l json -d 'For programs'
 complete -c orlo-prefs -n '__orlo_prefs_after list' -l markdown -d 'The catalogue'
 complete -c orlo-prefs -n '__orlo_prefs_after reset' -l all -d 'Every setting'
-complete -c orlo-prefs -n '__orlo_prefs_after import' -l dry-run -d 'Only tell what would change'
+complete -c orlo-prefs -n '__orlo_prefs_after import undo' -l dry-run -d 'Only tell what would change'
 complete -c orlo-prefs -n '__orlo_prefs_after check' -l site -r -F -d 'Judge a file before it is installed'
+complete -c orlo-prefs -n '__orlo_prefs_after profile' -a 'list save apply delete'
+complete -c orlo-prefs -n '__fish_seen_subcommand_from profile' -l changed -d 'What differs from the defaults'
+complete -c orlo-prefs -n '__fish_seen_subcommand_from profile' -l module -x -d 'Those of a module'
+complete -c orlo-prefs -n '__fish_seen_subcommand_from profile' -l dry-run -d 'Only tell what would change'
 complete -c orlo-prefs -n '__orlo_prefs_after export import script' -F
