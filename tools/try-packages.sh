@@ -7,7 +7,7 @@ packages=$(realpath "${1:?try-packages.sh: say where the packages are}")
 cd "$(dirname "$0")/.."
 HOME=$(mktemp -d)
 trap 'rm -rf "$HOME"' EXIT
-export HOME DEBIAN_FRONTEND=noninteractive QT_QPA_PLATFORM=offscreen
+export HOME DEBIAN_FRONTEND=noninteractive QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$HOME
 
 install() {
     apt-get install -y -qq --no-install-recommends "$@" >/dev/null
@@ -29,14 +29,14 @@ tools/with-display.sh orlo --render "$HOME/sample.step" --output "$HOME/picture.
 [ "$(stat -c %s "$HOME/picture.png")" -gt 10000 ] || fail "the picture shows nothing"
 
 echo "try-packages.sh: the tool"
-orlo-prefs list | grep -q '^  Camera fov ' || fail "no setting is listed"
+orlo-prefs list | grep '^  Camera fov ' >/dev/null || fail "no setting is listed"
 orlo-prefs set "Camera fov" 60
 [ "$(orlo-prefs get "Camera fov")" = 60 ] || fail "a setting did not stay"
 
 echo "try-packages.sh: the SDK"
 cmake -S Plugins/KernelPreferences -B "$HOME/plugin" -G Ninja >/dev/null
 cmake --build "$HOME/plugin" >/dev/null
-orlo-prefs --plugin "$HOME/plugin/bin/libKernelPreferences.so" list | grep -q '^  Camera fov .*60' ||
+orlo-prefs --plugin "$HOME/plugin/bin/libKernelPreferences.so" list | grep '^  Camera fov .*60' >/dev/null ||
     fail "the plug-in that was built alone does not serve"
 
 echo "try-packages.sh: removal"
