@@ -15,8 +15,9 @@ struct Kinds {
 /// Takes the kinds out that are not wanted; the shape becomes null where nothing is left.
 void keepOnly(olChangedPart &part, const Kinds &wanted);
 
-/// Joins faces whose borders lie within the tolerance of each other, in millimetres. Solids are joined already.
-void stitch(olChangedPart &part, double tolerance);
+/// Joins faces whose borders lie within the tolerance of each other, in millimetres. Solids are joined already. False
+/// where the tolerance was held back, or nothing joined, so that no face is lost.
+bool stitch(olChangedPart &part, double tolerance);
 
 /// Repairs what the check finds broken in surfaces.
 void repair(olChangedPart &part);

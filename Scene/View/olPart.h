@@ -1,9 +1,11 @@
 #pragma once
 
+#include <TopoDS_Face.hxx>
 #include <XCAFPrs_AISObject.hxx>
 #include <XCAFPrs_Style.hxx>
 
 #include <optional>
+#include <vector>
 
 struct XCAFPrs_DocumentNode;
 
@@ -49,9 +51,13 @@ protected:
 
 private:
     [[nodiscard]] static int levelOf(int displayMode);
+    void addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face) const;
 
     TCollection_AsciiString m_id;
     XCAFPrs_Style m_style;
     TopoDS_Shape m_source;
+
+    /// Faces whose nodes have colours of their own, which the library does not draw.
+    std::vector<TopoDS_Face> m_colored;
     int m_levels;
 };

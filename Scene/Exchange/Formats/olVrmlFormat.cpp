@@ -1,0 +1,834 @@
+#include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/olMeshDocument.h"
+#include "Exchange/olModelFormat.h"
+#include "Exchange/olTextures.h"
+#include "Model/olColoredMesh.h"
+#include "Model/olLibraryMessages.h"
+#include "Model/olPlainLook.h"
+
+#include <BRep_Tool.hxx>
+#include <Image_Texture.hxx>
+#include <Message_ProgressRange.hxx>
+#include <NCollection_DataMap.hxx>
+#include <Poly_Triangulation.hxx>
+#include <Quantity_ColorRGBA.hxx>
+#include <TDF_Label.hxx>
+#include <TDF_LabelMapHasher.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDocStd_Document.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopLoc_Location.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Face.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
+#include <gp_GTrsf.hxx>
+#include <gp_Mat.hxx>
+#include <gp_Quaternion.hxx>
+
+#include <Inventor/SbColor.h>
+#include <Inventor/SbMatrix.h>
+#include <Inventor/SoDB.h>
+#include <Inventor/SoInput.h>
+#include <Inventor/SoPrimitiveVertex.h>
+#include <Inventor/VRMLnodes/SoVRMLAppearance.h>
+#include <Inventor/VRMLnodes/SoVRMLCoordinate.h>
+#include <Inventor/VRMLnodes/SoVRMLGroup.h>
+#include <Inventor/VRMLnodes/SoVRMLImageTexture.h>
+#include <Inventor/VRMLnodes/SoVRMLIndexedFaceSet.h>
+#include <Inventor/VRMLnodes/SoVRMLIndexedLineSet.h>
+#include <Inventor/VRMLnodes/SoVRMLInline.h>
+#include <Inventor/VRMLnodes/SoVRMLLOD.h>
+#include <Inventor/VRMLnodes/SoVRMLParent.h>
+#include <Inventor/VRMLnodes/SoVRMLPixelTexture.h>
+#include <Inventor/VRMLnodes/SoVRMLShape.h>
+#include <Inventor/VRMLnodes/SoVRMLSwitch.h>
+#include <Inventor/VRMLnodes/SoVRMLTransform.h>
+#include <Inventor/actions/SoCallbackAction.h>
+#include <Inventor/errors/SoDebugError.h>
+#include <Inventor/errors/SoReadError.h>
+#include <Inventor/fields/SoMFInt32.h>
+#include <Inventor/fields/SoMFNode.h>
+#include <Inventor/fields/SoMFString.h>
+#include <Inventor/fields/SoSFImage.h>
+#include <Inventor/nodes/SoGroup.h>
+#include <Inventor/nodes/SoIndexedShape.h>
+#include <Inventor/nodes/SoSeparator.h>
+#include <Inventor/nodes/SoTexture2.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+using namespace olFormatTools;
+
+olModelFormat olVrmlFormat();
+
+namespace
+{
+
+QString check(QFile &file, QStringList &)
+{
+    const QByteArray head = file.read(64);
+    return head.startsWith("#VRML V2") || head.startsWith("#VRML V1") ? QString() : reason("this is no VRML file");
+}
+
+/// The first fault that Coin finds in a file; it goes on reading all the same, or not.
+QString &firstFault()
+{
+    static QString fault;
+    return fault;
+}
+
+void noteFault(const SoError *error, void *)
+{
+    if (firstFault().isEmpty())
+        firstFault() = QString::fromUtf8(error->getDebugString().getString());
+}
+
+void keepQuiet(const SoError *, void *) {}
+
+void fetchNothing(const SbString &, void *, SoVRMLInline *) {}
+
+/// Coin, whose complaints belong to us and which fetches nothing by itself: what a file names may have no end.
+void prepareCoin()
+{
+    static const bool isPrepared = [] {
+        SoDB::init();
+        SoReadError::setHandlerCallback(noteFault, nullptr);
+        SoDebugError::setHandlerCallback(keepQuiet, nullptr);
+        SoVRMLInline::setFetchURLCallBack(fetchNothing, nullptr);
+        return true;
+    }();
+    Q_UNUSED(isPrepared)
+}
+
+/// A node of Coin's, which counts its users.
+template <class Node> class Held
+{
+public:
+    explicit Held(Node *node) : m_node(node)
+    {
+        if (m_node)
+            m_node->ref();
+    }
+    ~Held()
+    {
+        if (m_node)
+            m_node->unref();
+    }
+    Held(const Held &) = delete;
+    Held &operator=(const Held &) = delete;
+
+    [[nodiscard]] Node *get() const { return m_node; }
+
+private:
+    Node *m_node;
+};
+
+/// What a shape looks like when it is taken apart into triangles.
+struct Triangles {
+    std::vector<gp_XYZ> points;
+    std::vector<gp_XYZ> normals;
+    std::vector<gp_XY> places;
+    std::vector<std::uint32_t> colors;
+    SbColor diffuse;
+    SbColor specular;
+    SbColor emissive;
+    float shininess = 0;
+    float transparency = 0;
+    int others = 0;
+};
+
+std::uint32_t packed(const SbColor &color, float transparency)
+{
+    std::uint32_t all = 0;
+    for (int part = 0; part < 4; ++part) {
+        const float value = part < 3 ? color[part] : 1.0f - transparency;
+        all |= std::uint32_t(value > 0 ? std::min(value, 1.0f) * 255.0f + 0.5f : 0.0f) << (8 * part);
+    }
+    return all;
+}
+
+void addCorner(Triangles &to, SoCallbackAction *action, const SoPrimitiveVertex &corner)
+{
+    const SbVec3f &point = corner.getPoint();
+    const SbVec3f &normal = corner.getNormal();
+    SbVec3f place;
+    action->getTextureMatrix().multVecMatrix(SbVec3f(corner.getTextureCoords()[0], corner.getTextureCoords()[1], 0),
+                                             place);
+    SbColor ambient;
+    action->getMaterial(ambient, to.diffuse, to.specular, to.emissive, to.shininess, to.transparency,
+                        corner.getMaterialIndex());
+    to.points.emplace_back(point[0], point[1], point[2]);
+    to.normals.emplace_back(normal[0], normal[1], normal[2]);
+    to.places.emplace_back(place[0], place[1]);
+    to.colors.push_back(packed(to.diffuse, to.transparency));
+}
+
+void addTriangle(void *data, SoCallbackAction *action, const SoPrimitiveVertex *one, const SoPrimitiveVertex *two,
+                 const SoPrimitiveVertex *three)
+{
+    auto &to = *static_cast<Triangles *>(data);
+    const SbVec3f across = (two->getPoint() - one->getPoint()).cross(three->getPoint() - one->getPoint());
+    // Corners come in the order of the file, which may be the wrong way round.
+    const bool isTurned = across.dot(one->getNormal() + two->getNormal() + three->getNormal()) < 0;
+    addCorner(to, action, *one);
+    addCorner(to, action, isTurned ? *three : *two);
+    addCorner(to, action, isTurned ? *two : *three);
+}
+
+void addLine(void *data, SoCallbackAction *, const SoPrimitiveVertex *, const SoPrimitiveVertex *)
+{
+    static_cast<Triangles *>(data)->others = 1;
+}
+
+void addPoint(void *data, SoCallbackAction *, const SoPrimitiveVertex *) { static_cast<Triangles *>(data)->others = 1; }
+
+Handle(Poly_Triangulation) meshOf(const Triangles &from, const gp_Mat &matrix, bool hasTexture)
+{
+    const int nodes = int(from.points.size());
+    const bool isColored = std::any_of(from.colors.begin(), from.colors.end(),
+                                       [&](std::uint32_t color) { return color != from.colors[0]; });
+    Handle(olColoredMesh) colored;
+    if (isColored) {
+        colored = new olColoredMesh(nodes, nodes / 3, hasTexture, Standard_True);
+        colored->colors = from.colors;
+    }
+    const Handle(Poly_Triangulation) mesh = isColored
+                                                ? Handle(Poly_Triangulation)(colored)
+                                                : new Poly_Triangulation(nodes, nodes / 3, hasTexture, Standard_True);
+    const gp_Mat forNormals = olMeshDocument::forNormals(matrix);
+    const bool isMirrored = matrix.Determinant() < 0;
+    for (int node = 1; node <= nodes; ++node) {
+        const auto index = std::size_t(node - 1);
+        mesh->SetNode(node, matrix * from.points[index]);
+        const gp_XYZ normal = forNormals * from.normals[index];
+        const double length = normal.Modulus();
+        mesh->SetNormal(node, length > 0 ? gp_Vec3f(float(normal.X() / length), float(normal.Y() / length),
+                                                    float(normal.Z() / length))
+                                         : gp_Vec3f(0, 0, 1));
+        if (hasTexture)
+            mesh->SetUVNode(node, from.places[index]);
+    }
+    for (int first = 1; first <= nodes - 2; first += 3)
+        mesh->SetTriangle(first / 3 + 1, isMirrored ? Poly_Triangle(first, first + 2, first + 1)
+                                                    : Poly_Triangle(first, first + 1, first + 2));
+    return mesh;
+}
+
+Quantity_Color colorOf(const SbColor &color)
+{
+    const auto part = [&color](int index) { return double(std::clamp(color[index], 0.0f, 1.0f)); };
+    return {part(0), part(1), part(2), Quantity_TOC_sRGB};
+}
+
+Handle(XCAFDoc_VisMaterial) lookOf(const Triangles &from, const Handle(Image_Texture) & texture)
+{
+    XCAFDoc_VisMaterialCommon common = olPlainLook::bareLook(
+        Quantity_ColorRGBA(colorOf(from.diffuse), 1.0f - std::clamp(from.transparency, 0.0f, 1.0f)));
+    common.SpecularColor = colorOf(from.specular);
+    common.EmissiveColor = colorOf(from.emissive);
+    common.Shininess = std::clamp(from.shininess, 0.0f, 1.0f);
+    common.DiffuseTexture = texture;
+    const Handle(XCAFDoc_VisMaterial) look = new XCAFDoc_VisMaterial;
+    look->SetCommonMaterial(common);
+    return look;
+}
+
+/// Whether all indices of a shape are of points that are there; -1 ends a polygon.
+bool refersToPoints(const SoMFInt32 &indices, int points)
+{
+    const int32_t *values = indices.getValues(0);
+    return std::all_of(values, values + indices.getNum(),
+                       [points](int32_t index) { return index >= -1 && index < points; });
+}
+
+bool hasItsPoints(SoNode *geometry)
+{
+    const auto count = [](SoNode *coordinates) {
+        return coordinates && coordinates->isOfType(SoVRMLCoordinate::getClassTypeId())
+                   ? static_cast<SoVRMLCoordinate *>(coordinates)->point.getNum()
+                   : 0;
+    };
+    if (geometry->isOfType(SoVRMLIndexedFaceSet::getClassTypeId())) {
+        auto *set = static_cast<SoVRMLIndexedFaceSet *>(geometry);
+        return refersToPoints(set->coordIndex, count(set->coord.getValue()));
+    }
+    if (geometry->isOfType(SoVRMLIndexedLineSet::getClassTypeId())) {
+        auto *set = static_cast<SoVRMLIndexedLineSet *>(geometry);
+        return refersToPoints(set->coordIndex, count(set->coord.getValue()));
+    }
+    return true;
+}
+
+/// A texture that stands in the file pixel by pixel.
+Handle(Image_Texture) pixelsOf(const SoSFImage &image)
+{
+    SbVec2s size;
+    int parts = 0;
+    const unsigned char *pixels = image.getValue(size, parts);
+    if (!pixels || size[0] <= 0 || size[1] <= 0 || parts < 1 || parts > 4)
+        return {};
+    QImage picture(size[0], size[1], QImage::Format_RGBA8888);
+    for (int row = 0; row < size[1]; ++row) {
+        for (int column = 0; column < size[0]; ++column, pixels += parts) {
+            const bool isGrey = parts < 3;
+            const int alpha = parts % 2 == 0 ? pixels[parts - 1] : 255;
+            picture.setPixel(column, size[1] - 1 - row,
+                             qRgba(pixels[0], pixels[isGrey ? 0 : 1], pixels[isGrey ? 0 : 2], alpha));
+        }
+    }
+    return olTextureOf(picture);
+}
+
+/// Builds a document from Coin's scene.
+class Walk
+{
+public:
+    Walk(const olImportJob &job, const olScene::Document &document, QStringList &remarks)
+        : m_folder(QFileInfo(job.fileToRead()).absoluteDir()),
+          m_name(QFileInfo(job.file).completeBaseName()),
+          m_target(document),
+          m_remarks(remarks)
+    {
+        m_files << QFileInfo(job.fileToRead()).canonicalFilePath();
+    }
+
+    /// What is wrong with it, in half a sentence.
+    QString run(SoSeparator *root, bool isOld)
+    {
+        std::vector<olMeshDocument::Member> members;
+        const gp_Mat one(1, 0, 0, 0, 1, 0, 0, 0, 1);
+        if (isOld) {
+            addFlat(root, members);
+        } else {
+            for (int index = 0; index < root->getNumChildren(); ++index)
+                add(root->getChild(index), one, 0, members);
+        }
+        m_target.addGroup(m_name, members);
+        m_target.finish();
+        if (m_lineSets > 0)
+            m_remarks << reason("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
+        return m_fault;
+    }
+
+private:
+    using Members = std::vector<olMeshDocument::Member>;
+
+    static constexpr int deepest = 200;
+
+    static QString nameOf(SoNode *node) { return QString::fromUtf8(node->getName().getString()); }
+
+    static gp_GTrsf transformationOf(SoNode *node)
+    {
+        if (!node->isOfType(SoVRMLTransform::getClassTypeId()))
+            return {};
+        auto *from = static_cast<SoVRMLTransform *>(node);
+        SbMatrix matrix;
+        matrix.setTransform(from->translation.getValue(), from->rotation.getValue(), from->scale.getValue(),
+                            from->scaleOrientation.getValue(), from->center.getValue());
+        return transformationOf(matrix);
+    }
+
+    /// Coin multiplies from the other side.
+    static gp_GTrsf transformationOf(const SbMatrix &m)
+    {
+        return {gp_Mat(m[0][0], m[1][0], m[2][0], m[0][1], m[1][1], m[2][1], m[0][2], m[1][2], m[2][2]),
+                gp_XYZ(m[3][0], m[3][1], m[3][2])};
+    }
+
+    /// What is seen below a node; a switch shows one of its nodes, and of levels of detail the finest counts.
+    std::vector<SoNode *> childrenOf(SoNode *node)
+    {
+        std::vector<SoNode *> children;
+        const auto addAll = [&children](const SoMFNode &from) {
+            for (int index = 0; index < from.getNum(); ++index)
+                children.push_back(from[index]);
+        };
+        if (node->isOfType(SoVRMLSwitch::getClassTypeId())) {
+            auto *choice = static_cast<SoVRMLSwitch *>(node);
+            const int which = choice->whichChoice.getValue();
+            if (which >= 0 && which < choice->choice.getNum())
+                children.push_back(choice->choice[which]);
+        } else if (node->isOfType(SoVRMLLOD::getClassTypeId())) {
+            auto *levels = static_cast<SoVRMLLOD *>(node);
+            if (levels->level.getNum() > 0)
+                children.push_back(levels->level[0]);
+        } else if (node->isOfType(SoVRMLInline::getClassTypeId())) {
+            if (SoNode *content = contentOf(*static_cast<SoVRMLInline *>(node)))
+                children.push_back(content);
+        } else if (node->isOfType(SoVRMLParent::getClassTypeId())) {
+            addAll(static_cast<SoVRMLParent *>(node)->children);
+        } else if (node->isOfType(SoGroup::getClassTypeId())) {
+            auto *group = static_cast<SoGroup *>(node);
+            for (int index = 0; index < group->getNumChildren(); ++index)
+                children.push_back(group->getChild(index));
+        }
+        return children;
+    }
+
+    static bool isGroup(SoNode *node)
+    {
+        return node->isOfType(SoVRMLParent::getClassTypeId()) || node->isOfType(SoVRMLSwitch::getClassTypeId()) ||
+               node->isOfType(SoVRMLLOD::getClassTypeId()) || node->isOfType(SoVRMLInline::getClassTypeId()) ||
+               node->isOfType(SoGroup::getClassTypeId());
+    }
+
+    void add(SoNode *node, const gp_Mat &rest, int depth, Members &members)
+    {
+        if (!node || !m_fault.isEmpty())
+            return;
+        if (depth > deepest || m_open.count(node) > 0) {
+            m_fault =
+                depth > deepest ? reason("its groups are nested too deeply") : reason("a group in it holds itself");
+            return;
+        }
+        const olMeshDocument::Placement placement =
+            olMeshDocument::placementOf(gp_GTrsf(rest, gp_XYZ()) * transformationOf(node));
+        // A transformation of a single node only says where this node stands; it makes no group.
+        SoNode *placed = onlyChild(node);
+        m_open.insert(node);
+        const TDF_Label label = labelOf(placed ? placed : node, placement.rest, depth);
+        m_open.erase(node);
+        if (label.IsNull())
+            return;
+        const QString own = nameOf(node);
+        members.push_back({label, placement.where, own.isEmpty() && placed ? nameOf(placed) : own});
+    }
+
+    SoNode *onlyChild(SoNode *node)
+    {
+        if (!node->isOfType(SoVRMLTransform::getClassTypeId()))
+            return nullptr;
+        const std::vector<SoNode *> children = childrenOf(node);
+        return children.size() == 1 && !children[0]->isOfType(SoVRMLTransform::getClassTypeId()) ? children[0]
+                                                                                                 : nullptr;
+    }
+
+    /// A node that is used in several places is one part or group in all of them.
+    TDF_Label labelOf(SoNode *node, const gp_Mat &rest, int depth)
+    {
+        const auto key = std::make_pair(node, olMeshDocument::proportionsOf(rest));
+        const auto known = m_done.find(key);
+        if (known != m_done.end())
+            return known->second;
+        TDF_Label label;
+        if (node->isOfType(SoVRMLShape::getClassTypeId())) {
+            label = partOf(static_cast<SoVRMLShape *>(node), rest);
+        } else if (isGroup(node)) {
+            Members members;
+            m_open.insert(node);
+            for (SoNode *child : childrenOf(node))
+                add(child, rest, depth + 1, members);
+            m_open.erase(node);
+            label = m_target.addGroup(nameOf(node), members);
+        }
+        m_done.emplace(key, label);
+        return label;
+    }
+
+    TDF_Label partOf(SoVRMLShape *shape, const gp_Mat &rest)
+    {
+        SoNode *geometry = shape->geometry.getValue();
+        if (!geometry)
+            return {};
+        if (!hasItsPoints(geometry)) {
+            m_fault = reason("the file is damaged: a face refers to a point that is not there");
+            return {};
+        }
+        Triangles triangles;
+        SoCallbackAction action;
+        listen(action, triangles);
+        action.apply(shape);
+        SoNode *appearance = shape->appearance.getValue();
+        SoNode *texture = appearance && appearance->isOfType(SoVRMLAppearance::getClassTypeId())
+                              ? static_cast<SoVRMLAppearance *>(appearance)->texture.getValue()
+                              : nullptr;
+        return partOf(triangles, rest, nameOf(shape), textureOf(texture));
+    }
+
+    static void listen(SoCallbackAction &action, Triangles &triangles)
+    {
+        action.addTriangleCallback(SoShape::getClassTypeId(), addTriangle, &triangles);
+        action.addLineSegmentCallback(SoShape::getClassTypeId(), addLine, &triangles);
+        action.addPointCallback(SoShape::getClassTypeId(), addPoint, &triangles);
+    }
+
+    TDF_Label partOf(const Triangles &triangles, const gp_Mat &rest, const QString &name,
+                     const Handle(Image_Texture) & texture)
+    {
+        m_lineSets += triangles.others;
+        if (triangles.points.empty())
+            return {};
+        const TDF_Label look = m_target.addLook(lookOf(triangles, texture), QString());
+        return m_target.addPart(name, {{meshOf(triangles, rest, !texture.IsNull()), look}});
+    }
+
+    Handle(Image_Texture) textureOf(const SoNode *texture) const
+    {
+        if (!texture)
+            return {};
+        if (texture->isOfType(SoVRMLPixelTexture::getClassTypeId()))
+            return pixelsOf(static_cast<const SoVRMLPixelTexture *>(texture)->image);
+        if (texture->isOfType(SoTexture2::getClassTypeId())) {
+            const auto *old = static_cast<const SoTexture2 *>(texture);
+            if (old->filename.getValue().getLength() == 0)
+                return pixelsOf(old->image);
+            return new Image_Texture(old->filename.getValue().getString());
+        }
+        if (!texture->isOfType(SoVRMLImageTexture::getClassTypeId()))
+            return {};
+        const QString file = firstThere(static_cast<const SoVRMLImageTexture *>(texture)->url);
+        return file.isEmpty() ? Handle(Image_Texture)() : new Image_Texture(QFile::encodeName(file).constData());
+    }
+
+    /// Of several places, the first where there is a file; else simply the first.
+    [[nodiscard]] QString firstThere(const SoMFString &urls) const
+    {
+        QString first;
+        for (int index = 0; index < urls.getNum(); ++index) {
+            const QString url = QString::fromUtf8(urls[index].getString());
+            if (QFileInfo(m_folder.filePath(url)).isFile())
+                return url;
+            if (first.isEmpty())
+                first = url;
+        }
+        return first;
+    }
+
+    SoNode *contentOf(SoVRMLInline &link)
+    {
+        if (link.getChildData())
+            return link.getChildData();
+        const QString url = firstThere(link.url);
+        const QFileInfo file(m_folder.filePath(url));
+        if (!file.isFile()) {
+            m_remarks << reason("The file %1 that it refers to was not found.").arg(url);
+            return nullptr;
+        }
+        constexpr int mostFiles = 1000;
+        if (m_files.contains(file.canonicalFilePath()) || m_files.size() > mostFiles) {
+            m_fault = reason("it refers to itself through %1").arg(url);
+            return nullptr;
+        }
+        m_files << file.canonicalFilePath();
+        SoInput input;
+        SoVRMLGroup *content =
+            input.openFile(QFile::encodeName(file.filePath()).constData()) ? SoDB::readAllVRML(&input) : nullptr;
+        if (!content) {
+            m_fault = reason("the file %1 that it refers to cannot be read").arg(url);
+            return nullptr;
+        }
+        link.setChildData(content);
+        return content;
+    }
+
+    /// Version 1 has no places for shapes of their own: what stands before a shape says how it looks and where it is.
+    void addFlat(SoSeparator *root, Members &members)
+    {
+        m_flat = &members;
+        Triangles triangles;
+        m_triangles = &triangles;
+        SoCallbackAction action;
+        listen(action, triangles);
+        m_textures = {nullptr};
+        action.addPreCallback(
+            SoSeparator::getClassTypeId(),
+            [](void *walk, SoCallbackAction *, const SoNode *) {
+                auto &textures = static_cast<Walk *>(walk)->m_textures;
+                textures.push_back(textures.back());
+                return SoCallbackAction::CONTINUE;
+            },
+            this);
+        action.addPostCallback(
+            SoSeparator::getClassTypeId(),
+            [](void *walk, SoCallbackAction *, const SoNode *) {
+                static_cast<Walk *>(walk)->m_textures.pop_back();
+                return SoCallbackAction::CONTINUE;
+            },
+            this);
+        action.addPreCallback(
+            SoTexture2::getClassTypeId(),
+            [](void *walk, SoCallbackAction *, const SoNode *texture) {
+                static_cast<Walk *>(walk)->m_textures.back() = static_cast<const SoTexture2 *>(texture);
+                return SoCallbackAction::CONTINUE;
+            },
+            this);
+        action.addPreCallback(
+            SoShape::getClassTypeId(),
+            [](void *walk, SoCallbackAction *at, const SoNode *shape) {
+                return static_cast<Walk *>(walk)->beginFlat(*at, *shape);
+            },
+            this);
+        action.addPostCallback(
+            SoShape::getClassTypeId(),
+            [](void *walk, SoCallbackAction *at, const SoNode *shape) {
+                static_cast<Walk *>(walk)->endFlat(*at, *shape);
+                return SoCallbackAction::CONTINUE;
+            },
+            this);
+        action.apply(root);
+    }
+
+    SoCallbackAction::Response beginFlat(SoCallbackAction &at, const SoNode &shape)
+    {
+        *m_triangles = Triangles();
+        if (!shape.isOfType(SoIndexedShape::getClassTypeId()))
+            return SoCallbackAction::CONTINUE;
+        if (refersToPoints(static_cast<const SoIndexedShape &>(shape).coordIndex, at.getNumCoordinates()))
+            return SoCallbackAction::CONTINUE;
+        m_fault = reason("the file is damaged: a face refers to a point that is not there");
+        return SoCallbackAction::ABORT;
+    }
+
+    void endFlat(SoCallbackAction &at, const SoNode &shape)
+    {
+        const olMeshDocument::Placement placement = olMeshDocument::placementOf(transformationOf(at.getModelMatrix()));
+        QString name = QString::fromUtf8(shape.getName().getString());
+        for (int up = at.getCurPath()->getLength() - 1; name.isEmpty() && up >= 0; --up)
+            name = nameOf(at.getCurPath()->getNode(up));
+        const TDF_Label part = partOf(*m_triangles, placement.rest, name, textureOf(m_textures.back()));
+        if (!part.IsNull())
+            m_flat->push_back({part, placement.where, name});
+    }
+
+    QDir m_folder;
+    QString m_name;
+    olMeshDocument m_target;
+    QStringList &m_remarks;
+    QString m_fault;
+    QStringList m_files;
+    int m_lineSets = 0;
+    std::set<SoNode *> m_open;
+    std::map<std::pair<SoNode *, olMeshDocument::Proportions>, TDF_Label> m_done;
+    Members *m_flat = nullptr;
+    Triangles *m_triangles = nullptr;
+    std::vector<const SoTexture2 *> m_textures;
+};
+
+QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &,
+             QStringList &remarks)
+{
+    prepareCoin();
+    firstFault().clear();
+    SoInput input;
+    if (!input.openFile(QFile::encodeName(job.fileToRead()).constData()))
+        return damaged();
+    const bool isOld = !input.isFileVRML2();
+    const Held<SoSeparator> root(SoDB::readAll(&input));
+    if (!root.get() || !firstFault().isEmpty()) {
+        static const QRegularExpression place(QStringLiteral("line (\\d+)"));
+        const QString line = place.match(firstFault()).captured(1);
+        const QString what = firstFault().section(QLatin1Char('\n'), 0, 0).section(QStringLiteral(": "), 1).trimmed();
+        return line.isEmpty() ? damaged()
+                              : reason("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
+    }
+    return Walk(job, document, remarks).run(root.get(), isOld);
+}
+
+class Writer
+{
+public:
+    Writer(const olScene::Document &document, QTextStream &out)
+        : m_shapes(XCAFDoc_DocumentTool::ShapeTool(document->Main())),
+          m_colors(XCAFDoc_DocumentTool::ColorTool(document->Main())),
+          m_materials(XCAFDoc_DocumentTool::VisMaterialTool(document->Main())),
+          m_out(out)
+    {
+        m_out.setCodec("UTF-8");
+        m_out.setRealNumberPrecision(9);
+    }
+
+    void write()
+    {
+        m_out << "#VRML V2.0 utf8\n";
+        TDF_LabelSequence labels;
+        m_shapes->GetFreeShapes(labels);
+        for (const TDF_Label &label : labels)
+            writePlaced(label);
+    }
+
+private:
+    /// A name that VRML takes, and that nothing else in the file has.
+    QString uniqueName(const TDF_Label &label)
+    {
+        QString name = olNameOf(label);
+        for (QChar &letter : name) {
+            if (!letter.isLetterOrNumber() || letter.unicode() > 127)
+                letter = QLatin1Char('_');
+        }
+        if (name.isEmpty() || name.at(0).isDigit())
+            name.prepend(QLatin1Char('_'));
+        QString unique = name;
+        for (int number = 2; m_names.contains(unique); ++number)
+            unique = name + QLatin1Char('_') + QString::number(number);
+        m_names.insert(unique);
+        return unique;
+    }
+
+    void writePlaced(const TDF_Label &label)
+    {
+        TDF_Label referred;
+        if (!XCAFDoc_ShapeTool::GetReferredShape(label, referred))
+            return writeShared(label);
+        const gp_Trsf where = XCAFDoc_ShapeTool::GetLocation(label).Transformation();
+        gp_Vec axis(0, 0, 1);
+        double angle = 0;
+        where.GetRotation().GetVectorAndAngle(axis, angle);
+        const gp_XYZ &move = where.TranslationPart();
+        // An instance that is called like its part needs no name of its own.
+        if (olNameOf(label) != olNameOf(referred))
+            m_out << "DEF " << uniqueName(label) << ' ';
+        m_out << "Transform { translation " << move.X() << ' ' << move.Y() << ' ' << move.Z() << " rotation "
+              << axis.X() << ' ' << axis.Y() << ' ' << axis.Z() << ' ' << angle << " children [\n";
+        writeShared(referred);
+        m_out << "] }\n";
+    }
+
+    void writeShared(const TDF_Label &label)
+    {
+        if (const QString *known = m_written.Seek(label)) {
+            m_out << "USE " << *known << '\n';
+            return;
+        }
+        const QString name = uniqueName(label);
+        if (XCAFDoc_ShapeTool::IsAssembly(label))
+            writeGroup(label, name);
+        else
+            writePart(label, name);
+        m_written.Bind(label, name);
+    }
+
+    void writeGroup(const TDF_Label &label, const QString &name)
+    {
+        m_out << "DEF " << name << " Group { children [\n";
+        TDF_LabelSequence components;
+        XCAFDoc_ShapeTool::GetComponents(label, components);
+        for (const TDF_Label &component : components)
+            writePlaced(component);
+        m_out << "] }\n";
+    }
+
+    void writePart(const TDF_Label &label, const QString &name)
+    {
+        // Faces of one colour make one shape; a part of one colour needs no group.
+        QMap<QString, QVector<TopoDS_Face>> looks;
+        const QString own = lookOf(label);
+        for (TopExp_Explorer faces(XCAFDoc_ShapeTool::GetShape(label), TopAbs_FACE); faces.More(); faces.Next()) {
+            TDF_Label piece;
+            const bool hasOwn = m_shapes->FindSubShape(label, faces.Current(), piece);
+            const QString look = hasOwn ? lookOf(piece) : QString();
+            looks[look.isEmpty() ? own : look] << TopoDS::Face(faces.Current());
+        }
+        if (looks.size() == 1) {
+            m_out << "DEF " << name << ' ';
+            writeFaces(looks.firstKey(), looks.first());
+            return;
+        }
+        m_out << "DEF " << name << " Group { children [\n";
+        for (auto look = looks.cbegin(); look != looks.cend(); ++look)
+            writeFaces(look.key(), look.value());
+        m_out << "] }\n";
+    }
+
+    [[nodiscard]] QString lookOf(const TDF_Label &label) const
+    {
+        Quantity_ColorRGBA color;
+        const Handle(XCAFDoc_VisMaterial) material = m_materials->GetShapeMaterial(label);
+        if (!material.IsNull())
+            color = material->BaseColor();
+        else if (!m_colors->GetColor(label, XCAFDoc_ColorSurf, color) &&
+                 !m_colors->GetColor(label, XCAFDoc_ColorGen, color))
+            return {};
+        double red = 0;
+        double green = 0;
+        double blue = 0;
+        color.GetRGB().Values(red, green, blue, Quantity_TOC_sRGB);
+        return QStringLiteral("diffuseColor %1 %2 %3 transparency %4")
+            .arg(red)
+            .arg(green)
+            .arg(blue)
+            .arg(1.0 - double(color.Alpha()));
+    }
+
+    void writeFaces(const QString &look, const QVector<TopoDS_Face> &faces)
+    {
+        m_out << "Shape { appearance Appearance { material Material { " << look
+              << " } }\n geometry IndexedFaceSet { solid FALSE coord Coordinate { point [\n";
+        TopLoc_Location location;
+        for (const TopoDS_Face &face : faces) {
+            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+            for (int node = 1; !mesh.IsNull() && node <= mesh->NbNodes(); ++node) {
+                const gp_Pnt point = mesh->Node(node).Transformed(location.Transformation());
+                m_out << point.X() << ' ' << point.Y() << ' ' << point.Z() << ",\n";
+            }
+        }
+        m_out << "] } coordIndex [\n";
+        int first = -1;
+        for (const TopoDS_Face &face : faces) {
+            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+            if (mesh.IsNull())
+                continue;
+            writeTriangles(*mesh, first, face.Orientation() == TopAbs_REVERSED);
+            first += mesh->NbNodes();
+        }
+        m_out << "] } }\n";
+    }
+
+    void writeTriangles(const Poly_Triangulation &mesh, int first, bool isReversed)
+    {
+        for (int index = 1; index <= mesh.NbTriangles(); ++index) {
+            int n[3];
+            mesh.Triangle(index).Get(n[0], n[1], n[2]);
+            if (isReversed)
+                qSwap(n[1], n[2]);
+            m_out << first + n[0] << ',' << first + n[1] << ',' << first + n[2] << ",-1,\n";
+        }
+    }
+
+    Handle(XCAFDoc_ShapeTool) m_shapes;
+    Handle(XCAFDoc_ColorTool) m_colors;
+    Handle(XCAFDoc_VisMaterialTool) m_materials;
+    QTextStream &m_out;
+    QSet<QString> m_names;
+    NCollection_DataMap<TDF_Label, QString, TDF_LabelMapHasher> m_written;
+};
+
+bool write(const olScene::Document &document, const QString &name, QStringList &)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QTextStream out(&file);
+    Writer(document, out).write();
+    out.flush();
+    return out.status() == QTextStream::Ok && file.flush();
+}
+
+} // namespace
+
+olModelFormat olVrmlFormat()
+{
+    return {"VRML",
+            "WRL",
+            {QStringLiteral("wrl"), QStringLiteral("vrml")},
+            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure,
+            check,
+            read,
+            write};
+}
