@@ -8,13 +8,12 @@
 #include <BinTools.hxx>
 #include <Image_Texture.hxx>
 #include <NCollection_Buffer.hxx>
-#include <NCollection_DataMap.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <Standard_ArrayStreamBuffer.hxx>
 #include <Standard_Failure.hxx>
 #include <TCollection_HAsciiString.hxx>
 #include <TDF_Label.hxx>
-#include <TDF_LabelMapHasher.hxx>
+#include <TDF_LabelIndexedMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TDataStd_TreeNode.hxx>
@@ -217,13 +216,13 @@ public:
             collect(label, 0);
         writeLooks();
         writeMaterials();
-        for (const TDF_Label &label : m_order)
-            note(label);
+        for (int index = 1; index <= m_numbers.Extent(); ++index)
+            note(m_numbers(index));
         writeMeshes();
         writeExact();
-        m_out.put(std::uint32_t(m_order.size()));
-        for (const TDF_Label &label : m_order)
-            writeLabel(label);
+        m_out.put(std::uint32_t(m_numbers.Extent()));
+        for (int index = 1; index <= m_numbers.Extent(); ++index)
+            writeLabel(m_numbers(index));
         m_out.flush();
     }
 
@@ -231,7 +230,7 @@ private:
     /// What stands in a group comes before the group.
     void collect(const TDF_Label &label, int depth)
     {
-        if (m_numbers.IsBound(label))
+        if (m_numbers.Contains(label))
             return;
         if (depth > deepest)
             throw std::length_error("the structure is too deep");
@@ -245,8 +244,7 @@ private:
             if (XCAFDoc_ShapeTool::GetReferredShape(component, referred))
                 collect(referred, depth + 1);
         }
-        m_numbers.Bind(label, int(m_order.size()));
-        m_order.push_back(label);
+        m_numbers.Add(label);
     }
 
     static LabelKind kindOf(const TDF_Label &label)
@@ -387,7 +385,7 @@ private:
     {
         TDF_Label referred;
         XCAFDoc_ShapeTool::GetReferredShape(label, referred);
-        m_out.put(std::uint32_t(m_numbers.Find(referred)));
+        m_out.put(std::uint32_t(m_numbers.FindIndex(referred) - 1));
         writeLocation(XCAFDoc_ShapeTool::GetLocation(label));
         writeLook(label);
     }
@@ -441,10 +439,9 @@ private:
         }
         TDF_Label look;
         XCAFDoc_VisMaterialTool::GetShapeMaterial(label, look);
-        m_out.put(std::int32_t(m_lookNumbers.IsBound(look) ? m_lookNumbers.Find(look) : -1));
+        m_out.put(std::int32_t(look.IsNull() ? -1 : m_lookNumbers.FindIndex(look) - 1));
         TDF_Label material;
-        const int number = materialOf(label, material) ? m_materialNumbers.Find(material) : -1;
-        m_out.put(std::int32_t(number));
+        m_out.put(std::int32_t(materialOf(label, material) ? m_materialNumbers.FindIndex(material) - 1 : -1));
     }
 
     bool materialOf(const TDF_Label &label, TDF_Label &material) const
@@ -453,7 +450,7 @@ private:
         if (!label.FindAttribute(XCAFDoc::MaterialRefGUID(), node) || !node->HasFather())
             return false;
         material = node->Father()->Label();
-        return m_materialNumbers.IsBound(material);
+        return m_materialNumbers.Contains(material);
     }
 
     void writeColor(const Quantity_ColorRGBA &color)
@@ -485,7 +482,7 @@ private:
         m_from.looks->GetMaterials(labels);
         m_out.put(std::uint32_t(labels.Length()));
         for (const TDF_Label &label : labels) {
-            m_lookNumbers.Bind(label, m_lookNumbers.Extent());
+            m_lookNumbers.Add(label);
             writeName(label);
             const Handle(XCAFDoc_VisMaterial) look = m_from.looks->GetMaterial(label);
             m_out.put(std::uint8_t(look->HasCommonMaterial()));
@@ -521,7 +518,7 @@ private:
         m_from.materials->GetMaterialLabels(labels);
         m_out.put(std::uint32_t(labels.Length()));
         for (const TDF_Label &label : labels) {
-            m_materialNumbers.Bind(label, m_materialNumbers.Extent());
+            m_materialNumbers.Add(label);
             Handle(TCollection_HAsciiString) texts[4];
             double density = 0;
             m_from.materials->GetMaterial(label, texts[0], texts[1], density, texts[2], texts[3]);
@@ -533,14 +530,13 @@ private:
 
     Tools m_from;
     Output &m_out;
-    std::vector<TDF_Label> m_order;
     std::vector<Mesh> m_meshes;
     std::vector<TopoDS_Shape> m_exact;
     std::uint32_t m_nextExact = 0;
     std::map<const Poly_Triangulation *, std::size_t> m_meshNumbers;
-    NCollection_DataMap<TDF_Label, int, TDF_LabelMapHasher> m_numbers;
-    NCollection_DataMap<TDF_Label, int, TDF_LabelMapHasher> m_lookNumbers;
-    NCollection_DataMap<TDF_Label, int, TDF_LabelMapHasher> m_materialNumbers;
+    TDF_LabelIndexedMap m_numbers;
+    TDF_LabelIndexedMap m_lookNumbers;
+    TDF_LabelIndexedMap m_materialNumbers;
 };
 
 class Reader

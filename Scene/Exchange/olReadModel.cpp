@@ -17,11 +17,10 @@
 #include <BRep_Tool.hxx>
 #include <Bnd_Box.hxx>
 #include <Message_ProgressScope.hxx>
-#include <NCollection_DataMap.hxx>
 #include <Poly_Triangulation.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <Standard_Failure.hxx>
-#include <TDF_LabelMapHasher.hxx>
+#include <TDF_LabelIndexedMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopExp.hxx>
@@ -42,6 +41,7 @@
 #include <limits>
 #include <new>
 #include <sstream>
+#include <vector>
 
 namespace
 {
@@ -270,20 +270,22 @@ private:
             return countOf(referred);
         if (!XCAFDoc_ShapeTool::IsAssembly(label))
             return 1;
-        if (const double *known = m_known.Seek(label))
-            return *known;
+        if (const int known = m_known.FindIndex(label))
+            return m_counts[std::size_t(known - 1)];
         // What stands in itself would be counted for ever.
-        m_known.Bind(label, std::numeric_limits<double>::infinity());
+        const int index = m_known.Add(label);
+        m_counts.push_back(std::numeric_limits<double>::infinity());
         TDF_LabelSequence components;
         XCAFDoc_ShapeTool::GetComponents(label, components);
         double count = 0;
         for (const TDF_Label &component : components)
             count += countOf(component);
-        m_known.ChangeFind(label) = count;
+        m_counts[std::size_t(index - 1)] = count;
         return count;
     }
 
-    NCollection_DataMap<TDF_Label, double, TDF_LabelMapHasher> m_known;
+    TDF_LabelIndexedMap m_known;
+    std::vector<double> m_counts;
     double m_count = 0;
 };
 

@@ -9,11 +9,10 @@
 #include <BRep_Tool.hxx>
 #include <Image_Texture.hxx>
 #include <Message_ProgressRange.hxx>
-#include <NCollection_DataMap.hxx>
 #include <Poly_Triangulation.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TDF_Label.hxx>
-#include <TDF_LabelMapHasher.hxx>
+#include <TDF_LabelIndexedMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopExp_Explorer.hxx>
@@ -65,6 +64,7 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStringList>
 #include <QTextStream>
 
 #include <algorithm>
@@ -702,8 +702,8 @@ private:
 
     void writeShared(const TDF_Label &label)
     {
-        if (const QString *known = m_written.Seek(label)) {
-            m_out << "USE " << *known << '\n';
+        if (const int known = m_written.FindIndex(label)) {
+            m_out << "USE " << m_writtenNames.at(known - 1) << '\n';
             return;
         }
         const QString name = uniqueName(label);
@@ -711,7 +711,8 @@ private:
             writeGroup(label, name);
         else
             writePart(label, name);
-        m_written.Bind(label, name);
+        m_written.Add(label);
+        m_writtenNames.append(name);
     }
 
     void writeGroup(const TDF_Label &label, const QString &name)
@@ -806,7 +807,8 @@ private:
     Handle(XCAFDoc_VisMaterialTool) m_materials;
     QTextStream &m_out;
     QSet<QString> m_names;
-    NCollection_DataMap<TDF_Label, QString, TDF_LabelMapHasher> m_written;
+    TDF_LabelIndexedMap m_written;
+    QStringList m_writtenNames;
 };
 
 bool write(const olScene::Document &document, const QString &name, QStringList &)
