@@ -10,6 +10,7 @@
 #include <Graphic3d_ArrayOfTriangles.hxx>
 #include <Graphic3d_AspectFillArea3d.hxx>
 #include <Graphic3d_Group.hxx>
+#include <Prs3d_LineAspect.hxx>
 #include <Prs3d_ShadingAspect.hxx>
 #include <PrsMgr_Presentation.hxx>
 #include <TopExp_Explorer.hxx>
@@ -128,6 +129,13 @@ void olPart::addColored(const Handle(Prs3d_Presentation) & presentation, const T
     const Handle(Graphic3d_Group) group = presentation->NewGroup();
     group->SetGroupPrimitivesAspect(aspect);
     group->AddPrimitiveArray(array);
+}
+
+void olPart::setEdges(bool on)
+{
+    Attributes()->SetFaceBoundaryDraw(on);
+    if (on)
+        Attributes()->SetFaceBoundaryAspect(new Prs3d_LineAspect(Quantity_NOC_BLACK, Aspect_TOL_SOLID, 1.0));
 }
 
 bool olPart::isTransparent() const

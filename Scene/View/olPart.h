@@ -37,6 +37,9 @@ public:
     /// Which level is selected where it is not the whole part.
     std::optional<int> selectedLevel;
 
+    /// Whether the borders of its surfaces are drawn; takes effect when it is displayed anew.
+    void setEdges(bool on);
+
     /// Whether one sees through any of what is displayed of it.
     [[nodiscard]] bool isTransparent() const;
 

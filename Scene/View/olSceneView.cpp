@@ -118,6 +118,7 @@ public:
     int shownRows = 0;
     bool isZUp = true;
     bool isRaytraced = false;
+    bool hasEdges = false;
     bool hasTransparency = false;
 };
 
@@ -211,6 +212,7 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
          explorer.Next()) {
         const XCAFPrs_DocumentNode &node = explorer.Current();
         const Handle(olPart) part = new olPart(node);
+        part->setEdges(hasEdges);
         const bool shown = !hidden.contains(QString::fromLatin1(node.Id.ToCString()));
         showPart(part, shown);
         parts.push_back(part);
@@ -393,6 +395,17 @@ void olSceneView::setRaytracing(bool on)
     applyState();
 }
 
+void olSceneView::setEdges(bool on)
+{
+    if (d->hasEdges == on)
+        return;
+    d->hasEdges = on;
+    for (const Handle(olPart) & part : d->parts) {
+        part->setEdges(on);
+        d->context->Redisplay(part, Standard_False);
+    }
+}
+
 olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
 {
     olRenderQuality::Wishes wishes;
@@ -456,6 +469,31 @@ Handle(Graphic3d_Camera) olSceneView::Private::fitted(const Bnd_Box &what) const
 }
 
 Handle(Graphic3d_Camera) olSceneView::cameraForAll() const { return d->fitted(d->box); }
+
+Handle(Graphic3d_Camera) olSceneView::cameraFilling(double aspect) const
+{
+    const Handle(Graphic3d_Camera) result = d->fitted(d->box);
+    if (d->box.IsVoid())
+        return result;
+    const gp_Vec ahead(result->Direction());
+    const gp_Vec up(result->Up());
+    const gp_Vec right = ahead.Crossed(up);
+    const gp_Pnt middle = result->Center();
+    // The angle is that of the shorter side.
+    const double half = std::tan(result->FOVy() * M_PI / 360.0);
+    const double halfWidth = half * std::max(aspect, 1.0);
+    const double halfHeight = half * std::max(1.0 / aspect, 1.0);
+    double distance = 0;
+    const gp_Pnt corners[] = {d->box.CornerMin(), d->box.CornerMax()};
+    for (int corner = 0; corner < 8; ++corner) {
+        const gp_Vec place(middle,
+                           gp_Pnt(corners[corner & 1].X(), corners[corner >> 1 & 1].Y(), corners[corner >> 2 & 1].Z()));
+        distance = std::max({distance, std::abs(place * right) / halfWidth - place * ahead,
+                             std::abs(place * up) / halfHeight - place * ahead});
+    }
+    result->SetEyeAndCenter(middle.Translated(ahead * (-distance * (1.0 + fitMargin / 2))), middle);
+    return result;
+}
 
 Handle(Graphic3d_Camera) olSceneView::cameraForSelection() const
 {
