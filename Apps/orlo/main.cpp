@@ -3,11 +3,15 @@
 #include "olMainWindow.h"
 #include "olTour.h"
 
+#include "Devices/olJoystickLink.h"
+#include "Devices/olSpacemouseLink.h"
 #include "Model/olScene.h"
+#include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
 #include "View/olViewport.h"
+#include "WebServer/olWebServer.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -120,7 +124,7 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.fillDefaults();
@@ -158,7 +162,11 @@ int run(const QCommandLineParser &options)
     host.edition = *edition;
     host.applicationName = options.value(QStringLiteral("app-name"));
 
-    const QString given = options.value(QStringLiteral("store"));
+    const olWebServer webServer;
+    const olSpacemouseLink spacemouse;
+    const olJoystickLink joystick;
+
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
     olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
     const QString storeError = session.loadStore();
     if (!storeError.isEmpty())
@@ -168,7 +176,7 @@ int run(const QCommandLineParser &options)
         return startAndRunBatch(session, options);
 
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.start();

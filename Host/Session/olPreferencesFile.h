@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QByteArray>
 #include <QString>
@@ -10,7 +10,7 @@
 #include <vector>
 
 /// A setting of a file that is passed over, and one phrase that says why.
-struct ORLO_SDK_EXPORT olSkippedSetting {
+struct ORLO_HOST_EXPORT olSkippedSetting {
     std::string key;
     QString reason;
 };
@@ -18,7 +18,7 @@ struct ORLO_SDK_EXPORT olSkippedSetting {
 /// Preferences to keep or to pass on, as a JSON file with a type for every value:
 /// `{"format": 1, "settings": {"Camera fov": {"type": "float", "value": 60}}}`.
 /// Types are named and values written as olValue lays down, so that they read back exactly.
-class ORLO_SDK_EXPORT olPreferencesFile
+class ORLO_HOST_EXPORT olPreferencesFile
 {
 public:
     /// What a file holds. With an error, one sentence that names the reason, it holds nothing.
@@ -32,7 +32,8 @@ public:
     [[nodiscard]] static QByteArray toJson(const olSettingValues &settings);
     [[nodiscard]] static Contents fromJson(const QByteArray &text);
 
-    /// Writes the file whole or leaves it as it was. Returns an empty text, else one sentence that names the file and
+    /// Writes the file whole or leaves it as it was; a new one is for its owner alone. What is no regular file, as a
+    /// pipe, is written into. Returns an empty text, else one sentence that names the file and
     /// the reason.
     [[nodiscard]] static QString write(const QString &file, const olSettingValues &settings);
     [[nodiscard]] static Contents read(const QString &file);

@@ -3,7 +3,7 @@
 #include "Session/olPluginLoader.h"
 #include "Session/olSiteDefaults.h"
 #include "Store/olPreferencesStore.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QString>
 #include <QStringList>
@@ -23,15 +23,9 @@ using olSettingValues = std::map<std::string, boost::any>;
 /// as it is.
 enum class olStoreUse { Own, LookAt };
 
-/// What a check found, one sentence for each.
-struct olPreferencesFindings {
-    QStringList faults;
-    QStringList remarks; ///< what may be meant so: keys of a site's files that no module of this edition has
-};
-
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
-class ORLO_SDK_EXPORT olPreferencesSession
+class ORLO_HOST_EXPORT olPreferencesSession
 {
 public:
     /// `siteFiles` are the site's files of defaults and locks; see olSiteDefaults.
@@ -50,7 +44,7 @@ public:
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
-    [[nodiscard]] QString loadPlugin(const QString &file);
+    [[nodiscard]] QString loadPlugin(const QString &given);
     [[nodiscard]] olPluginLoader &plugin() { return m_plugin; }
 
     /// Fills the gaps in what was stored with the defaults of the site and of all modules, and sets what is locked.
@@ -81,9 +75,9 @@ public:
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
-    /// Looks the store and the site's files through; changes nothing. Types and keys of the site's files are checked
-    /// only when the modules' defaults are there.
-    [[nodiscard]] olPreferencesFindings check() const;
+    /// Looks the store and the site's files through; changes nothing. Returns a sentence for each finding. Types and
+    /// keys of the site's files are checked only when the modules' defaults are there.
+    [[nodiscard]] QStringList check() const;
 
     /// Of all modules in order, each key once.
     [[nodiscard]] static std::vector<std::string> keys();
@@ -100,7 +94,6 @@ private:
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
-    void dropEarlyLanguage();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
 
@@ -109,6 +102,5 @@ private:
     olSiteDefaults m_site;
     QStringList m_siteFiles;
     QStringList m_notices;
-    boost::any m_earlyLanguage;
     olPluginLoader m_plugin;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Kernel/olImportOptions.h"
+#include "State/olImportRecord.h"
 
 #include <QString>
 
@@ -23,7 +23,7 @@ struct olImportJob {
     /// For so long reading may make no progress before it is given up; milliseconds.
     int patience = 60000;
 
-    olImportOptions::Record options;
+    olImportRecord options;
     bool verify = true;
     bool optimize = false;
     bool centerInOrigin = false;
