@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -105,11 +106,16 @@ QString writeThroughTemporary(const olScene::Document &document, const olModelFo
     const QFileInfo target(file);
     if (!format.write(document, folder.filePath(target.fileName()), remarks))
         return translated("the writer failed");
-    const QStringList written = QDir(folder.path()).entryList(QDir::Files);
-    if (!written.contains(target.fileName()))
+    if (!QFileInfo(folder.filePath(target.fileName())).isFile())
         return translated("the writer failed");
-    for (const QString &each : written) {
-        const QString fault = putInPlace(folder.filePath(each), target.absoluteDir().filePath(each));
+    // Textures stand in a folder of their own.
+    const QDir from(folder.path());
+    for (QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
+        const QString written = each.next();
+        const QString place = target.absoluteDir().filePath(from.relativeFilePath(written));
+        if (!QDir().mkpath(QFileInfo(place).path()))
+            return translated("the folder %1 cannot be made").arg(QFileInfo(place).path());
+        const QString fault = putInPlace(written, place);
         if (!fault.isEmpty())
             return fault;
     }

@@ -301,12 +301,12 @@ class Walk
 {
 public:
     Walk(const olImportJob &job, const olScene::Document &document, QStringList &remarks)
-        : m_folder(QFileInfo(job.fileToRead()).absoluteDir()),
+        : m_folder(QFileInfo(job.file).absoluteDir()),
           m_name(QFileInfo(job.file).completeBaseName()),
           m_target(document),
           m_remarks(remarks)
     {
-        m_files << QFileInfo(job.fileToRead()).canonicalFilePath();
+        m_files << QFileInfo(job.file).canonicalFilePath();
     }
 
     /// What is wrong with it, in half a sentence.
@@ -627,7 +627,7 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     prepareCoin();
     firstFault().clear();
     SoInput input;
-    if (!input.openFile(QFile::encodeName(job.fileToRead()).constData()))
+    if (!input.openFile(QFile::encodeName(job.file).constData()))
         return damaged();
     const bool isOld = !input.isFileVRML2();
     const Held<SoSeparator> root(SoDB::readAll(&input));
