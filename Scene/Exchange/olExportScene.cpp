@@ -10,8 +10,11 @@
 #include <TDF_LabelSequence.hxx>
 #include <TDF_Tool.hxx>
 #include <TDocStd_Document.hxx>
+#include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -21,6 +24,7 @@
 #include <QSaveFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -78,6 +82,41 @@ bool isEmpty(const olScene::Document &document)
     return labels.IsEmpty();
 }
 
+bool hasTextures(const olScene::Document &document)
+{
+    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
+    TDF_LabelSequence labels;
+    tool->GetMaterials(labels);
+    return std::any_of(labels.begin(), labels.end(), [&tool](const TDF_Label &label) {
+        const Handle(XCAFDoc_VisMaterial) look = tool->GetMaterial(label);
+        return !look.IsNull() && ((look->HasCommonMaterial() && !look->CommonMaterial().DiffuseTexture.IsNull()) ||
+                                  (look->HasPbrMaterial() && !look->PbrMaterial().BaseColorTexture.IsNull()));
+    });
+}
+
+/// What of the document a file of the format will not have, in one sentence; empty where it has all.
+QString lossOf(const olScene::Document &document, const olModelFormat &format)
+{
+    TDF_LabelSequence colors;
+    TDF_LabelSequence looks;
+    TDF_LabelSequence shapes;
+    XCAFDoc_DocumentTool::ColorTool(document->Main())->GetColors(colors);
+    XCAFDoc_DocumentTool::VisMaterialTool(document->Main())->GetMaterials(looks);
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(shapes);
+    const bool hasGroups = std::any_of(shapes.begin(), shapes.end(),
+                                       [](const TDF_Label &label) { return XCAFDoc_ShapeTool::IsAssembly(label); });
+    QStringList lost;
+    if (!format.holds(olModelFormat::Colors) && !(colors.IsEmpty() && looks.IsEmpty()))
+        lost << translated("colours");
+    if (!format.holds(olModelFormat::Textures) && hasTextures(document))
+        lost << translated("textures");
+    if (!format.holds(olModelFormat::Structure) && hasGroups)
+        lost << translated("groups of parts");
+    return lost.isEmpty() ? QString()
+                          : translated("%1 knows no %2; they are not written.")
+                                .arg(QLatin1String(format.name), lost.join(translated(" and no ")));
+}
+
 /// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
 QString putInPlace(const QString &finished, const QString &target)
 {
@@ -130,6 +169,9 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
             format.holds(olModelFormat::Meshes) ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
             return translated("there is nothing that this format can hold");
+        const QString loss = lossOf(content, format);
+        if (!loss.isEmpty())
+            remarks << loss;
         return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
         return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));

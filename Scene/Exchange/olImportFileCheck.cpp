@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <limits>
+
 #include <unistd.h>
 
 namespace
@@ -35,5 +37,7 @@ QString olImportFileCheck(const QString &name, const olModelFormat &format, QStr
     if (file.size() > memory() / memoryPerFile)
         return reason("the file is too large for this machine: %1 GB with %2 GB of memory")
             .arg(gigabytes(file.size()), gigabytes(memory()));
+    if (file.size() > std::numeric_limits<int>::max())
+        return reason("the file is too large: %1 GB, of which 2 can be read").arg(gigabytes(file.size()));
     return format.check(file, remarks);
 }

@@ -10,6 +10,7 @@
 #include <QFile>
 
 #include <chrono>
+#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -42,6 +43,8 @@ private:
 
 int run()
 {
+    // Files have a point where some languages have a comma.
+    std::setlocale(LC_NUMERIC, "C");
     // Nobody waits for a result when the viewer is gone.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     olImportResult result;

@@ -43,7 +43,9 @@ class Batch(tool_test.ToolTest):
     def test_a_model_becomes_one_of_another_format(self):
         step = self.sample_as("step")
         converted = self.folder / "converted.obj"
-        self.assert_printed(self.stored(step, "--save", converted), "")
+        written = self.stored(step, "--save", converted)
+        self.assertEqual((written.stdout, written.stderr, written.returncode),
+                         ("", "orlo: OBJ knows no groups of parts; they are not written.\n", 0))
         self.assertEqual(self.triangles(converted), self.triangles(step))
         self.assert_refused(self.stored(self.folder / "none.step", "--save", converted),
                             f"orlo: Cannot read {self.folder}/none.step: there is no such file.")
