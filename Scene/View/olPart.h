@@ -5,6 +5,7 @@
 #include <XCAFPrs_Style.hxx>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 struct XCAFPrs_DocumentNode;
@@ -33,6 +34,9 @@ public:
 
     /// Which level is drawn now.
     int shownLevel = 0;
+
+    /// With which of the host's values, for depth and for selection, it is shown; nothing where that is to be done.
+    std::optional<std::pair<bool, bool>> applied;
 
     /// Which level is selected where it is not the whole part.
     std::optional<int> selectedLevel;

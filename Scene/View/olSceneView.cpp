@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <utility>
 
 namespace
 {
@@ -112,6 +113,7 @@ public:
     Handle(olCornerMarks) marks;
     std::vector<Handle(olPart)> parts;
     std::vector<Handle(olPart)> selected;
+    std::vector<Handle(olPart)> highlighted;
     Bnd_Box box;
     std::vector<osg::Color3f> shownColors;
     std::vector<float> shownPositions;
@@ -182,6 +184,7 @@ void olSceneView::Private::showPart(const Handle(olPart) & part, bool shown)
 {
     if (shown == bool(context->IsDisplayed(part)))
         return;
+    part->applied.reset();
     if (shown)
         context->Display(part, olPart::displayModeOf(part->shownLevel), 0, Standard_False);
     else
@@ -206,6 +209,7 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
         context->Remove(part, Standard_False);
     parts.clear();
     selected.clear();
+    highlighted.clear();
 
     std::vector<TopLoc_Location> joints;
     for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
@@ -319,9 +323,11 @@ void olSceneView::Private::applySelectionStyle()
 void olSceneView::Private::applyParts()
 {
     const olHostState &state = olHostState::the();
+    const auto wanted = std::make_pair(state.zWriteTransparency.get(), state.transparentObjectSelection.get());
     for (const Handle(olPart) & part : parts) {
-        if (!context->IsDisplayed(part))
+        if (part->applied == wanted || !context->IsDisplayed(part))
             continue;
+        part->applied = wanted;
         part->setWritesDepth(state.zWriteTransparency);
         if (part->isFullyTransparent() && !state.transparentObjectSelection)
             context->Deactivate(part);
@@ -337,14 +343,17 @@ void olSceneView::Private::showSelection()
     const Graphic3d_ZLayerId layer = inFront ? Graphic3d_ZLayerId_Topmost : Graphic3d_ZLayerId_Default;
     const Handle(Prs3d_Drawer) style = wireStyle(state.selectionColor, layer);
     std::vector<Bnd_Box> boxes;
-    for (const Handle(olPart) & part : parts)
+    for (const Handle(olPart) & part : highlighted)
         context->Unhilight(part, Standard_False);
+    highlighted.clear();
     for (const Handle(olPart) & part : selected) {
         const bool isDrawn = part->selectedLevel.value_or(part->shownLevel) == part->shownLevel;
         if (!isDrawn || !context->IsDisplayed(part))
             continue;
-        if (state.wireframeSelection)
+        if (state.wireframeSelection) {
             context->HilightWithColor(part, style, Standard_False);
+            highlighted.push_back(part);
+        }
         boxes.push_back(boxOf({part}));
     }
     if (boxes.empty()) {
@@ -402,8 +411,10 @@ void olSceneView::setEdges(bool on)
     d->hasEdges = on;
     for (const Handle(olPart) & part : d->parts) {
         part->setEdges(on);
+        part->applied.reset();
         d->context->Redisplay(part, Standard_False);
     }
+    d->applyParts();
 }
 
 olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
