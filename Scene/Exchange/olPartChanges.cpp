@@ -161,18 +161,26 @@ void olPartChanges::keepOnly(olChangedPart &part, const Kinds &wanted)
         apply(part, change);
 }
 
-bool olPartChanges::stitch(olChangedPart &part, double tolerance)
+double olPartChanges::stitch(olChangedPart &part, double tolerance,
+                             const std::function<unsigned(const TopoDS_Shape &)> &trianglesOf)
 {
     const std::vector<TopoDS_Face> faces = facesOf(part.shape);
     const bool hasSolids = TopExp_Explorer(part.shape, TopAbs_SOLID).More();
     if (faces.size() < 2 || hasSolids || hasMeshes(faces) || !(tolerance > 0))
-        return true;
+        return tolerance;
     // What is smaller than the gaps that are closed would vanish with them.
     constexpr double share = 0.1;
-    const double held = std::min(tolerance, share * smallestOf(faces));
-    if (held > 0 && sew(part, faces, held))
-        return held == tolerance;
-    return false;
+    constexpr double distorted = 1.5;
+    double held = std::min(tolerance, share * smallestOf(faces));
+    const double most = distorted * trianglesOf(part.shape);
+    for (int attempt = 0; attempt < 3; ++attempt, held *= share) {
+        olChangedPart sewn = part;
+        if (held > 0 && sew(sewn, faces, held) && trianglesOf(sewn.shape) <= most) {
+            part = sewn;
+            return held;
+        }
+    }
+    return 0;
 }
 
 void olPartChanges::repair(olChangedPart &part)

@@ -133,10 +133,18 @@ private:
     void stitch(const TDF_Label &label, olChangedPart &part) const
     {
         olChangedPart stitched = part;
-        if (!olPartChanges::stitch(stitched, m_job.options.stitchingTolerance))
-            m_remarks << translated("%1 is too small for gaps of %2 mm to be closed; smaller ones were, or none.")
-                             .arg(olShownNameOf(label))
-                             .arg(m_job.options.stitchingTolerance);
+        const double wanted = m_job.options.stitchingTolerance;
+        const double used = olPartChanges::stitch(stitched, wanted, [this](const TopoDS_Shape &shape) {
+            olTriangles::mesh(shape, fineness());
+            return olTriangles::count(shape);
+        });
+        if (used < wanted)
+            m_remarks << (used > 0 ? translated("Gaps of %1 up to %2 mm are closed; %3 would distort it.")
+                                         .arg(olShownNameOf(label))
+                                         .arg(used)
+                                         .arg(wanted)
+                                   : translated("The faces of %1 are not joined; that would distort it.")
+                                         .arg(olShownNameOf(label)));
         TopTools_IndexedMapOfShape pieces;
         TopExp::MapShapes(stitched.shape, pieces);
         TDF_LabelSequence labels;

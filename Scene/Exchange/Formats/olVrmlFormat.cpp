@@ -39,7 +39,6 @@
 #include <Inventor/VRMLnodes/SoVRMLImageTexture.h>
 #include <Inventor/VRMLnodes/SoVRMLIndexedFaceSet.h>
 #include <Inventor/VRMLnodes/SoVRMLIndexedLineSet.h>
-#include <Inventor/VRMLnodes/SoVRMLInline.h>
 #include <Inventor/VRMLnodes/SoVRMLLOD.h>
 #include <Inventor/VRMLnodes/SoVRMLParent.h>
 #include <Inventor/VRMLnodes/SoVRMLPixelTexture.h>
@@ -61,6 +60,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImage>
 #include <QRegularExpression>
 #include <QSet>
@@ -68,7 +68,9 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdint>
+#include <cstring>
 #include <map>
 #include <set>
 #include <utility>
@@ -96,22 +98,106 @@ QString &firstFault()
 
 void noteFault(const SoError *error, void *)
 {
-    if (firstFault().isEmpty())
-        firstFault() = QString::fromUtf8(error->getDebugString().getString());
+    const QString text = QString::fromUtf8(error->getDebugString().getString());
+    // Pictures are our own business.
+    if (firstFault().isEmpty() && !text.contains(QLatin1String("texture file")))
+        firstFault() = text;
 }
 
 void keepQuiet(const SoError *, void *) {}
 
-void fetchNothing(const SbString &, void *, SoVRMLInline *) {}
+/// A text of which Coin reads no further file: what a text names may be itself, or a pipe that has no end. Where it
+/// wants one, a group bears a number that says which.
+class Text
+{
+public:
+    Text(const QByteArray &text, int firstNumber) : m_first(firstNumber)
+    {
+        for (int at = 0; at < text.size();) {
+            const int start = at;
+            at = skipped(text, at);
+            if (at == start)
+                at = word(text, at);
+            else
+                m_content += text.mid(start, at - start);
+        }
+    }
 
-/// Coin, whose complaints belong to us and which fetches nothing by itself: what a file names may have no end.
+    [[nodiscard]] const QByteArray &content() const { return m_content; }
+
+    /// The places of the files in the order of their numbers, each with several to choose from.
+    [[nodiscard]] const std::vector<QStringList> &links() const { return m_links; }
+
+    /// The number of a group; -1 for all others.
+    static int numberOf(const SoVRMLGroup &group)
+    {
+        const SbVec3f &center = group.bboxCenter.getValue();
+        return center[1] == marker && center[2] == -marker ? int(center[0]) : -1;
+    }
+
+private:
+    static constexpr float marker = 7654321;
+
+    static bool isName(char letter)
+    {
+        return !isspace(static_cast<unsigned char>(letter)) && !strchr("{}[],#\"", letter);
+    }
+
+    /// Behind what is no word: blanks, brackets, comments and texts.
+    static int skipped(const QByteArray &text, int at)
+    {
+        if (text.at(at) == '#') {
+            const int end = text.indexOf('\n', at);
+            return end < 0 ? text.size() : end;
+        }
+        if (text.at(at) != '"')
+            return isName(text.at(at)) ? at : at + 1;
+        for (++at; at < text.size() && text.at(at) != '"'; ++at)
+            at += int(text.at(at) == '\\');
+        return qMin(at + 1, text.size());
+    }
+
+    int word(const QByteArray &text, int at)
+    {
+        const int start = at;
+        while (at < text.size() && isName(text.at(at)))
+            ++at;
+        const QByteArray name = text.mid(start, at - start);
+        int open = at;
+        while (open < text.size() && isspace(static_cast<unsigned char>(text.at(open))))
+            ++open;
+        const bool isLink = name == "Inline" && open < text.size() && text.at(open) == '{';
+        m_content += isLink ? QByteArray() : name;
+        return isLink ? link(text, open + 1) : at;
+    }
+
+    int link(const QByteArray &text, int at)
+    {
+        QStringList urls;
+        while (at < text.size() && text.at(at) != '}') {
+            const int end = qMax(at + 1, skipped(text, at));
+            if (text.at(at) == '"')
+                urls << QString::fromUtf8(text.mid(at + 1, end - at - 2));
+            at = end;
+        }
+        m_content += "Group { bboxCenter " + QByteArray::number(m_first + int(m_links.size())) + ' ' +
+                     QByteArray::number(int(marker)) + ' ' + QByteArray::number(int(-marker)) + " }";
+        m_links.push_back(urls);
+        return at + 1;
+    }
+
+    int m_first;
+    QByteArray m_content;
+    std::vector<QStringList> m_links;
+};
+
+/// Coin, whose complaints belong to us.
 void prepareCoin()
 {
     static const bool isPrepared = [] {
         SoDB::init();
         SoReadError::setHandlerCallback(noteFault, nullptr);
         SoDebugError::setHandlerCallback(keepQuiet, nullptr);
-        SoVRMLInline::setFetchURLCallBack(fetchNothing, nullptr);
         return true;
     }();
     Q_UNUSED(isPrepared)
@@ -296,6 +382,40 @@ Handle(Image_Texture) pixelsOf(const SoSFImage &image)
     return olTextureOf(picture);
 }
 
+/// The content of a file, and behind `links` what it refers to; null where it cannot be understood.
+SoSeparator *readRoot(const QString &name, std::vector<QStringList> &links, bool &isOld)
+{
+    prepareCoin();
+    firstFault().clear();
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    const QByteArray whole = file.readAll();
+    isOld = whole.startsWith("#VRML V1");
+    // Numbers of links go on from those of the file that refers to this one.
+    Text text(whole, int(links.size()));
+    links.insert(links.end(), text.links().begin(), text.links().end());
+    SoInput input;
+    input.setBuffer(text.content().constData(), std::size_t(text.content().size()));
+    SoSeparator *root = SoDB::readAll(&input);
+    if (!root || firstFault().isEmpty())
+        return root;
+    root->ref();
+    root->unref();
+    return nullptr;
+}
+
+QString faultOfText()
+{
+    static const QRegularExpression place(QStringLiteral("line (\\d+)"));
+    const QString line = place.match(firstFault()).captured(1);
+    const QString what = firstFault().section(QLatin1Char('\n'), 0, 0).section(QStringLiteral(": "), 1).trimmed();
+    if (what.isEmpty())
+        return damaged();
+    return line.isEmpty() ? reason("the file is damaged (%1)").arg(what)
+                          : reason("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
+}
+
 /// Builds a document from Coin's scene.
 class Walk
 {
@@ -306,12 +426,17 @@ public:
           m_target(document),
           m_remarks(remarks)
     {
-        m_files << QFileInfo(job.file).canonicalFilePath();
+        m_openFiles << QFileInfo(job.file).canonicalFilePath();
     }
 
     /// What is wrong with it, in half a sentence.
-    QString run(SoSeparator *root, bool isOld)
+    QString run(const QString &file)
     {
+        bool isOld = false;
+        const Held<SoSeparator> held(readRoot(file, m_links, isOld));
+        SoSeparator *root = held.get();
+        if (!root)
+            return faultOfText();
         std::vector<olMeshDocument::Member> members;
         const gp_Mat one(1, 0, 0, 0, 1, 0, 0, 0, 1);
         if (isOld) {
@@ -369,9 +494,9 @@ private:
             auto *levels = static_cast<SoVRMLLOD *>(node);
             if (levels->level.getNum() > 0)
                 children.push_back(levels->level[0]);
-        } else if (node->isOfType(SoVRMLInline::getClassTypeId())) {
-            if (SoNode *content = contentOf(*static_cast<SoVRMLInline *>(node)))
-                children.push_back(content);
+        } else if (SoSeparator *content = contentOf(node)) {
+            for (int index = 0; index < content->getNumChildren(); ++index)
+                children.push_back(content->getChild(index));
         } else if (node->isOfType(SoVRMLParent::getClassTypeId())) {
             addAll(static_cast<SoVRMLParent *>(node)->children);
         } else if (node->isOfType(SoGroup::getClassTypeId())) {
@@ -385,8 +510,7 @@ private:
     static bool isGroup(SoNode *node)
     {
         return node->isOfType(SoVRMLParent::getClassTypeId()) || node->isOfType(SoVRMLSwitch::getClassTypeId()) ||
-               node->isOfType(SoVRMLLOD::getClassTypeId()) || node->isOfType(SoVRMLInline::getClassTypeId()) ||
-               node->isOfType(SoGroup::getClassTypeId());
+               node->isOfType(SoVRMLLOD::getClassTypeId()) || node->isOfType(SoGroup::getClassTypeId());
     }
 
     void add(SoNode *node, const gp_Mat &rest, int depth, Members &members)
@@ -433,8 +557,12 @@ private:
         } else if (isGroup(node)) {
             Members members;
             m_open.insert(node);
-            for (SoNode *child : childrenOf(node))
+            const QString file = fileOf(node);
+            const std::vector<SoNode *> children = childrenOf(node);
+            m_openFiles << file;
+            for (SoNode *child : children)
                 add(child, rest, depth + 1, members);
+            m_openFiles.removeLast();
             m_open.erase(node);
             label = m_target.addGroup(nameOf(node), members);
         }
@@ -451,15 +579,23 @@ private:
             m_fault = reason("the file is damaged: a face refers to a point that is not there");
             return {};
         }
+        SoNode *node = shape->appearance.getValue();
+        auto *appearance = node && node->isOfType(SoVRMLAppearance::getClassTypeId())
+                               ? static_cast<SoVRMLAppearance *>(node)
+                               : nullptr;
+        const Handle(Image_Texture) texture = textureOf(appearance ? appearance->texture.getValue() : nullptr);
+        // Coin would open what may be no picture.
+        if (appearance && !texture.IsNull() && texture->DataBuffer().IsNull() &&
+            !QFileInfo(m_folder.filePath(QFile::decodeName(texture->FilePath().ToCString()))).isFile())
+            m_bare.insert(appearance, texture);
+        const bool isBare = appearance && m_bare.contains(appearance);
+        if (isBare)
+            appearance->texture.setValue(nullptr);
         Triangles triangles;
         SoCallbackAction action;
         listen(action, triangles);
         action.apply(shape);
-        SoNode *appearance = shape->appearance.getValue();
-        SoNode *texture = appearance && appearance->isOfType(SoVRMLAppearance::getClassTypeId())
-                              ? static_cast<SoVRMLAppearance *>(appearance)->texture.getValue()
-                              : nullptr;
-        return partOf(triangles, rest, nameOf(shape), textureOf(texture));
+        return partOf(triangles, rest, nameOf(shape), isBare ? m_bare.value(appearance) : texture);
     }
 
     static void listen(SoCallbackAction &action, Triangles &triangles)
@@ -493,48 +629,64 @@ private:
         }
         if (!texture->isOfType(SoVRMLImageTexture::getClassTypeId()))
             return {};
-        const QString file = firstThere(static_cast<const SoVRMLImageTexture *>(texture)->url);
+        const SoMFString &urls = static_cast<const SoVRMLImageTexture *>(texture)->url;
+        QStringList places;
+        for (int index = 0; index < urls.getNum(); ++index)
+            places << QString::fromUtf8(urls[index].getString());
+        const QString file = firstThere(places);
         return file.isEmpty() ? Handle(Image_Texture)() : new Image_Texture(QFile::encodeName(file).constData());
     }
 
     /// Of several places, the first where there is a file; else simply the first.
-    [[nodiscard]] QString firstThere(const SoMFString &urls) const
+    [[nodiscard]] QString firstThere(const QStringList &urls) const
     {
-        QString first;
-        for (int index = 0; index < urls.getNum(); ++index) {
-            const QString url = QString::fromUtf8(urls[index].getString());
+        for (const QString &url : urls) {
             if (QFileInfo(m_folder.filePath(url)).isFile())
                 return url;
-            if (first.isEmpty())
-                first = url;
         }
-        return first;
+        return urls.value(0);
     }
 
-    SoNode *contentOf(SoVRMLInline &link)
+    /// The file whose content stands in the place of the node; empty for all others.
+    QString fileOf(SoNode *node) const
     {
-        if (link.getChildData())
-            return link.getChildData();
-        const QString url = firstThere(link.url);
+        const int number =
+            node->isOfType(SoVRMLGroup::getClassTypeId()) ? Text::numberOf(*static_cast<SoVRMLGroup *>(node)) : -1;
+        return number < 0 || number >= int(m_links.size())
+                   ? QString()
+                   : QFileInfo(m_folder.filePath(firstThere(m_links[std::size_t(number)]))).canonicalFilePath();
+    }
+
+    /// What another file has in the place of the group; null where it stands for none.
+    SoSeparator *contentOf(SoNode *node)
+    {
+        if (!node->isOfType(SoVRMLGroup::getClassTypeId()))
+            return nullptr;
+        const int number = Text::numberOf(*static_cast<SoVRMLGroup *>(node));
+        if (number < 0 || number >= int(m_links.size()))
+            return nullptr;
+        const QString url = firstThere(m_links[std::size_t(number)]);
         const QFileInfo file(m_folder.filePath(url));
         if (!file.isFile()) {
-            m_remarks << reason("The file %1 that it refers to was not found.").arg(url);
+            const QString remark = reason("The file %1 that it refers to was not found.").arg(url);
+            if (!m_remarks.contains(remark))
+                m_remarks << remark;
             return nullptr;
         }
-        constexpr int mostFiles = 1000;
-        if (m_files.contains(file.canonicalFilePath()) || m_files.size() > mostFiles) {
+        const QString name = file.canonicalFilePath();
+        if (m_openFiles.contains(name)) {
             m_fault = reason("it refers to itself through %1").arg(url);
             return nullptr;
         }
-        m_files << file.canonicalFilePath();
-        SoInput input;
-        SoVRMLGroup *content =
-            input.openFile(QFile::encodeName(file.filePath()).constData()) ? SoDB::readAllVRML(&input) : nullptr;
+        if (SoSeparator *known = m_roots.value(name))
+            return known;
+        bool isOld = false;
+        SoSeparator *content = readRoot(name, m_links, isOld);
         if (!content) {
             m_fault = reason("the file %1 that it refers to cannot be read").arg(url);
             return nullptr;
         }
-        link.setChildData(content);
+        m_roots.insert(name, content);
         return content;
     }
 
@@ -612,7 +764,10 @@ private:
     olMeshDocument m_target;
     QStringList &m_remarks;
     QString m_fault;
-    QStringList m_files;
+    QStringList m_openFiles;
+    QHash<QString, SoSeparator *> m_roots;
+    QHash<SoVRMLAppearance *, Handle(Image_Texture)> m_bare;
+    std::vector<QStringList> m_links;
     int m_lineSets = 0;
     std::set<SoNode *> m_open;
     std::map<std::pair<SoNode *, olMeshDocument::Proportions>, TDF_Label> m_done;
@@ -624,21 +779,7 @@ private:
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &,
              QStringList &remarks)
 {
-    prepareCoin();
-    firstFault().clear();
-    SoInput input;
-    if (!input.openFile(QFile::encodeName(job.file).constData()))
-        return damaged();
-    const bool isOld = !input.isFileVRML2();
-    const Held<SoSeparator> root(SoDB::readAll(&input));
-    if (!root.get() || !firstFault().isEmpty()) {
-        static const QRegularExpression place(QStringLiteral("line (\\d+)"));
-        const QString line = place.match(firstFault()).captured(1);
-        const QString what = firstFault().section(QLatin1Char('\n'), 0, 0).section(QStringLiteral(": "), 1).trimmed();
-        return line.isEmpty() ? damaged()
-                              : reason("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
-    }
-    return Walk(job, document, remarks).run(root.get(), isOld);
+    return Walk(job, document, remarks).run(job.file);
 }
 
 class Writer

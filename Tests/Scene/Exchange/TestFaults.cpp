@@ -78,7 +78,7 @@ const QVector<Broken> &brokenFiles()
         {"number.stl", "solid\nfacet normal 0 0 1\nouter loop\nvertex a b c\nendsolid\n", "Cannot read"},
         {"index.wrl", triangle("0,1,7,-1"), "refers to a point that is not there"},
         {"below.wrl", triangle("0,1,-9,-1"), "Cannot read"},
-        {"open.wrl", vrml("Group { children [\n"), "line"},
+        {"open.wrl", vrml("Group { children [\n"), "damaged"},
         {"inline.wrl", vrml("Inline { url \"none.wrl\" }\n"), "no geometry"},
         {"old.wrl",
          "#VRML V1.0 ascii\nSeparator { Coordinate3 { point [0 0 0, 1 0 0, 1 1 0] } IndexedFaceSet { coordIndex [0, 1, "
