@@ -99,19 +99,27 @@ void olPart::Compute(const Handle(PrsMgr_PresentationManager) & manager,
     }
 }
 
-void olPart::addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face) const
+void olPart::addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face)
 {
     TopLoc_Location location;
     const Handle(olColoredMesh) mesh = coloredMeshOf(face, location);
     if (!mesh->HasNormals())
         mesh->ComputeNormals();
-    const Handle(Graphic3d_ArrayOfTriangles) array = new Graphic3d_ArrayOfTriangles(
-        mesh->NbNodes(), 3 * mesh->NbTriangles(), Graphic3d_ArrayFlags_VertexNormal | Graphic3d_ArrayFlags_VertexColor);
+    const Handle(Graphic3d_AspectFillArea3d) aspect =
+        new Graphic3d_AspectFillArea3d(*CustomAspects(face)->ShadingAspect()->Aspect());
+    aspect->SetInteriorColor(Quantity_NOC_WHITE);
+    const bool isTextured = mesh->HasUVNodes() && aspect->ToMapTexture();
+    int content = Graphic3d_ArrayFlags_VertexNormal | Graphic3d_ArrayFlags_VertexColor;
+    if (isTextured)
+        content |= Graphic3d_ArrayFlags_VertexTexel;
+    const Handle(Graphic3d_ArrayOfTriangles) array =
+        new Graphic3d_ArrayOfTriangles(mesh->NbNodes(), 3 * mesh->NbTriangles(), content);
     const gp_Trsf where = location.Transformation();
     const bool isReversed = face.Orientation() == TopAbs_REVERSED;
     for (int node = 1; node <= mesh->NbNodes(); ++node) {
         const gp_Dir normal = mesh->Normal(node).Transformed(where);
-        array->AddVertex(mesh->Node(node).Transformed(where), isReversed ? normal.Reversed() : normal);
+        array->AddVertex(mesh->Node(node).Transformed(where), isReversed ? normal.Reversed() : normal,
+                         isTextured ? mesh->UVNode(node) : gp_Pnt2d());
         array->SetVertexColor(node, lightOf(mesh->colors[std::size_t(node - 1)]));
     }
     for (int triangle = 1; triangle <= mesh->NbTriangles(); ++triangle) {
@@ -119,9 +127,6 @@ void olPart::addColored(const Handle(Prs3d_Presentation) & presentation, const T
         mesh->Triangle(triangle).Get(corner[0], corner[1], corner[2]);
         array->AddEdges(corner[0], corner[isReversed ? 2 : 1], corner[isReversed ? 1 : 2]);
     }
-    const Handle(Graphic3d_AspectFillArea3d) aspect =
-        new Graphic3d_AspectFillArea3d(*Attributes()->ShadingAspect()->Aspect());
-    aspect->SetInteriorColor(Quantity_NOC_WHITE);
     const bool isOpaque =
         std::all_of(mesh->colors.begin(), mesh->colors.end(), [](std::uint32_t color) { return color >> 24 == 0xff; });
     if (!isOpaque)

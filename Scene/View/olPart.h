@@ -58,7 +58,7 @@ protected:
 
 private:
     [[nodiscard]] static int levelOf(int displayMode);
-    void addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face) const;
+    void addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face);
 
     TCollection_AsciiString m_id;
     XCAFPrs_Style m_style;
