@@ -67,7 +67,7 @@ bool isBatch(const QCommandLineParser &options)
 QString uselessOption(const QCommandLineParser &options)
 {
     const bool isRendering = options.isSet(QStringLiteral("render"));
-    for (const char *option : {"output", "size"}) {
+    for (const char *option : {"output", "size", "aids", "edges"}) {
         if (!isRendering && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 needs --render").arg(QLatin1String(option));
     }
@@ -97,11 +97,13 @@ QString misuse(const QCommandLineParser &options)
     if (isRendering && !olBatch::sizeFrom(options.value(QStringLiteral("size"))))
         return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192")
             .arg(options.value(QStringLiteral("size")));
-    if (options.isSet(QStringLiteral("save")) && !options.isSet(QStringLiteral("sample")))
-        return QStringLiteral("--save needs --sample");
-    if (isBatch(options) && !options.positionalArguments().isEmpty())
-        return QStringLiteral("%1 does not go with --render and --save").arg(options.positionalArguments().first());
-    if (options.positionalArguments().size() > 1)
+    const QStringList models = options.positionalArguments();
+    const bool isSample = options.isSet(QStringLiteral("sample"));
+    if (options.isSet(QStringLiteral("save")) && isSample == !models.isEmpty())
+        return QStringLiteral("--save needs either a model or --sample");
+    if (isRendering && !models.isEmpty())
+        return QStringLiteral("%1 does not go with --render").arg(models.first());
+    if (models.size() > 1)
         return QStringLiteral("only one model can be opened at a time");
     return {};
 }
@@ -111,10 +113,14 @@ int runBatch(const QCommandLineParser &options)
 {
     if (options.isSet(QStringLiteral("render")))
         return olBatch::render(options.value(QStringLiteral("render")), options.value(QStringLiteral("output")),
-                               *olBatch::sizeFrom(options.value(QStringLiteral("size"))));
+                               *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
+                               options.isSet(QStringLiteral("edges")));
+    const QString target = options.value(QStringLiteral("save"));
+    if (!options.positionalArguments().isEmpty())
+        return olBatch::convert(options.positionalArguments().first(), target);
     olScene scene;
     scene.loadSample();
-    return olBatch::save(scene, options.value(QStringLiteral("save")));
+    return olBatch::save(scene, target);
 }
 
 /// The preferences come up, with those given for this run, and then the work is done.
@@ -124,6 +130,13 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.fillDefaults();
+    // A picture is of the model alone and as good as can be, where nobody says otherwise; what a site locks stays.
+    const bool isClean = options.isSet(QStringLiteral("render")) && !options.isSet(QStringLiteral("aids"));
+    for (const char *setting : {"viewcube=false", "show cameras=false", "show lights=false", "show joints=false",
+                                "coordinate system=false", "enable antialiase=true"}) {
+        if (isClean)
+            (void)olSetGivenSettings(session, {QStringLiteral("RenderOptions %1").arg(QLatin1String(setting))});
+    }
     const QString fault = olSetGivenSettings(session, options.values(QStringLiteral("set")));
     if (!fault.isEmpty()) {
         session.stop();
@@ -207,28 +220,9 @@ std::vector<std::string> withOwnPlugin(int count, char **values)
     return arguments;
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+/// What the command line takes.
+void describe(QCommandLineParser &options)
 {
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    olViewport::prepareApplication();
-    std::vector<std::string> arguments = withOwnPlugin(argc, argv);
-    std::vector<char *> argumentTexts;
-    argumentTexts.reserve(arguments.size() + 1);
-    for (std::string &argument : arguments)
-        argumentTexts.push_back(argument.data());
-    argumentTexts.push_back(nullptr);
-    int argumentCount = int(arguments.size());
-    QApplication application(argumentCount, argumentTexts.data());
-    QApplication::setOrganizationName(QStringLiteral("orlo"));
-    QApplication::setApplicationName(QStringLiteral("orlo"));
-    QApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
-
-    QCommandLineParser options;
     options.setApplicationDescription(QStringLiteral("Shows the host with its preferences."));
     options.addHelpOption();
     options.addVersionOption();
@@ -243,13 +237,16 @@ int main(int argc, char *argv[])
     options.addOption(
         {QStringLiteral("sample"), QStringLiteral("Open a small assembly that the program builds itself.")});
     options.addOption({QStringLiteral("save"),
-                       QStringLiteral("With --sample: write it in the format of the suffix, and end."),
+                       QStringLiteral("Write the model, or the sample, in the format of the suffix, and end."),
                        QStringLiteral("file")});
     options.addOption({QStringLiteral("render"),
                        QStringLiteral("Import a model, write one picture of it to --output, and end."),
                        QStringLiteral("model")});
     options.addOption(
         {QStringLiteral("output"), QStringLiteral("Where --render puts its picture."), QStringLiteral("picture")});
+    options.addOption({QStringLiteral("aids"),
+                       QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
+    options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
     options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
                        QStringLiteral("WxH"), QStringLiteral("1280x720")});
     options.addOption({QStringLiteral("set"),
@@ -261,6 +258,42 @@ int main(int argc, char *argv[])
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});
+}
+
+/// Questions that are answered without a display.
+bool asksOnly(const std::vector<std::string> &arguments)
+{
+    static const std::vector<std::string> questions{"-h", "--help", "--help-all", "-v", "--version"};
+    return std::find_first_of(arguments.begin(), arguments.end(), questions.begin(), questions.end()) !=
+           arguments.end();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    olViewport::prepareApplication();
+    std::vector<std::string> arguments = withOwnPlugin(argc, argv);
+    std::vector<char *> argumentTexts;
+    argumentTexts.reserve(arguments.size() + 1);
+    for (std::string &argument : arguments)
+        argumentTexts.push_back(argument.data());
+    argumentTexts.push_back(nullptr);
+    int argumentCount = int(arguments.size());
+    QCoreApplication::setOrganizationName(QStringLiteral("orlo"));
+    QCoreApplication::setApplicationName(QStringLiteral("orlo"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
+    QCommandLineParser options;
+    describe(options);
+    if (asksOnly(arguments)) {
+        const QCoreApplication application(argumentCount, argumentTexts.data());
+        options.process(application);
+    }
+    QApplication application(argumentCount, argumentTexts.data());
+    QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
     if (!options.parse(QApplication::arguments()))
         return refuse(options.errorText());
     options.process(application);

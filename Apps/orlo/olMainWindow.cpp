@@ -139,19 +139,22 @@ void olMainWindow::addViewActions()
     view->addSeparator();
     QAction *stereo = view->addAction(tr("Stereo for &Red and Cyan Glasses"));
     QAction *rays = view->addAction(tr("Trace Ra&ys"));
+    QAction *edges = view->addAction(tr("&Edges"));
     view->addSeparator();
     for (QDockWidget *dock : m_docks)
         view->addAction(dock->toggleViewAction());
-    for (QAction *action : {all, zoom, stereo, rays})
+    for (QAction *action : {all, zoom, stereo, rays, edges})
         action->setEnabled(m_viewport != nullptr);
     stereo->setCheckable(true);
     rays->setCheckable(true);
+    edges->setCheckable(true);
     if (!m_viewport)
         return;
     connect(all, &QAction::triggered, m_viewport, &olViewport::showAll);
     connect(zoom, &QAction::triggered, m_viewport, &olViewport::zoomToSelection);
     connect(stereo, &QAction::toggled, m_viewport, &olViewport::setAnaglyph);
     connect(rays, &QAction::toggled, m_viewport, &olViewport::setRaytracing);
+    connect(edges, &QAction::toggled, m_viewport, &olViewport::setEdges);
 }
 
 olPreferencesDialog &olMainWindow::openPreferences(const QString &module)

@@ -36,6 +36,7 @@ ROOMS = {
     # the programs
     "Apps/orlo-prefs": "Host Host/Editing Host/Session Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices"
                        " Sdk/Widgets",
+    "Apps/orlo-reader": "Scene/Exchange",
     "Apps/orlo": "Host Host/Devices Host/Dialog Host/Editing Host/Session Host/Store Scene/Model Scene/Exchange Scene/View Host/WebServer"
                  " Sdk/Utilities Sdk/State Sdk/Kernel Sdk/Widgets",
 }

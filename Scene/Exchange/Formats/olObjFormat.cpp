@@ -1,16 +1,26 @@
-#include "Exchange/Formats/olObjFileCheck.h"
+#include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/olAssimpReader.h"
+#include "Exchange/olModelFormat.h"
+#include "Model/olPlainLook.h"
 
-#include <QCoreApplication>
+#include <Message_ProgressRange.hxx>
+#include <RWObj_CafWriter.hxx>
+#include <TColStd_IndexedDataMapOfStringString.hxx>
+#include <TDocStd_Document.hxx>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdlib>
+
+using namespace olFormatTools;
+
+olModelFormat olObjFormat();
 
 namespace
 {
-
-QString reason(const char *text) { return QCoreApplication::translate("olImport", text); }
 
 bool isNumber(const QByteArray &text)
 {
@@ -88,9 +98,7 @@ private:
     QString m_materials;
 };
 
-} // namespace
-
-QString olObjFault(QFile &file, QStringList &remarks)
+QString check(QFile &file, QStringList &remarks)
 {
     Lines lines;
     bool endsWithLine = true;
@@ -110,7 +118,39 @@ QString olObjFault(QFile &file, QStringList &remarks)
     if (lines.endsWithPoints())
         remarks << reason("The model ends with points that no face uses; the file may be cut off.");
     const QString materials = lines.materials();
-    if (!materials.isEmpty() && !QFileInfo::exists(QFileInfo(file).absoluteDir().filePath(materials)))
+    const QDir folder = QFileInfo(file).absoluteDir();
+    const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const bool isThere = QFileInfo::exists(folder.filePath(materials)) ||
+                         std::any_of(words.begin(), words.end(), [&folder](const QString &word) {
+                             return QFileInfo::exists(folder.filePath(word));
+                         });
+    if (!materials.isEmpty() && !isThere)
         remarks << reason("The materials file %1 is not there; the model has no colours.").arg(materials);
     return {};
+}
+
+QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+             QStringList &remarks)
+{
+    return olAssimpReader::read(job, {}, document, progress, remarks);
+}
+
+bool write(const olScene::Document &document, const QString &file, QStringList &)
+{
+    RWObj_CafWriter writer(path(file));
+    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
+                          Message_ProgressRange());
+}
+
+} // namespace
+
+olModelFormat olObjFormat()
+{
+    return {"OBJ",
+            "OBJ",
+            {QStringLiteral("obj")},
+            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures,
+            check,
+            read,
+            write};
 }
