@@ -117,9 +117,9 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    const olResult<> loaded = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    if (!loaded.isOk())
+        return fail(loaded.error());
     session.fillDefaults();
     const QString fault = olSetGivenSettings(session, options.values(QStringLiteral("set")));
     if (!fault.isEmpty()) {
@@ -154,17 +154,17 @@ int run(const QCommandLineParser &options)
 
     const QString given = options.value(QStringLiteral("store"));
     olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const QString storeError = session.loadStore();
-    if (!storeError.isEmpty())
-        return fail(storeError);
+    const olResult<> stored = session.loadStore();
+    if (!stored.isOk())
+        return fail(stored.error());
 
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    const olResult<> loaded = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    if (!loaded.isOk())
+        return fail(loaded.error());
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();
@@ -182,10 +182,10 @@ int run(const QCommandLineParser &options)
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
     window.closePreferences();
-    const QString saveError = session.save();
+    const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
-    return saveError.isEmpty() ? result : fail(saveError);
+    return saved.isOk() ? result : fail(saved.error());
 }
 
 /// The toolkit has an option of this name too and would take "--plugin FILE" for it, but not "--plugin=FILE".

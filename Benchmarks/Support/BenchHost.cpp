@@ -76,4 +76,4 @@ void require(bool condition, const char *what)
     std::exit(2);
 }
 
-void require(const QString &error) { require(error.isEmpty(), qPrintable(error)); }
+void require(const olResult<> &result) { require(result.isOk(), qPrintable(result.error())); }

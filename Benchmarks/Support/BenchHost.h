@@ -53,4 +53,4 @@ void measure(benchmark::State &state, const std::function<void()> &work, const s
 
 /// Ends the program: without what it was to measure its figures would mean nothing.
 void require(bool condition, const char *what);
-void require(const QString &error);
+void require(const olResult<> &result);

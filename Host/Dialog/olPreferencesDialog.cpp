@@ -323,12 +323,12 @@ bool olPreferencesDialog::apply()
 
 bool olPreferencesDialog::store()
 {
-    const QString error = m_pending->commit();
-    if (error.isEmpty())
+    const olResult<> committed = m_pending->commit();
+    if (committed.isOk())
         m_message->clear();
     else
-        m_message->showError(error);
-    return error.isEmpty();
+        m_message->showError(committed.error());
+    return committed.isOk();
 }
 
 /// False where there are none.

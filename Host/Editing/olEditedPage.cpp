@@ -4,7 +4,6 @@
 #include "Session/olValueOverlay.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
-#include "State/olValueVariant.h"
 #include "Widgets/QOLColorManipulator.h"
 
 #include <QAbstractItemModel>

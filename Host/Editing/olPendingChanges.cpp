@@ -224,19 +224,19 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
     put(defaults);
 }
 
-QString olPendingChanges::commit()
+olResult<> olPendingChanges::commit()
 {
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
-    QString error = m_session.confirm(m_filled, besides);
-    if (error.isEmpty()) {
+    olResult<> confirmed = m_session.confirm(m_filled, besides);
+    if (confirmed.isOk()) {
         m_withoutControl.clear();
         for (const olPreferencesEntry *entry : m_filled)
             findPage(*entry)->settle();
     }
     emit edited();
-    return error;
+    return confirmed;
 }
 
 olPreferencesEntry *olPendingChanges::ownerOf(const std::string &key) const

@@ -31,7 +31,7 @@ QString olPluginLoader::locate(const QString &given)
     return QFileInfo::exists(beside) || !QFileInfo::exists(installed) ? beside : installed;
 }
 
-QString olPluginLoader::load(const QString &file)
+olResult<> olPluginLoader::load(const QString &file)
 {
     unload();
     // A bare name would be searched for in the system's folders.
@@ -46,13 +46,13 @@ QString olPluginLoader::load(const QString &file)
     if (!m_library.load())
         return failure(m_library.errorString());
     olRegisterSceneLoaders();
-    const QString error = enter();
-    if (!error.isEmpty())
+    olResult<> entered = enter();
+    if (!entered.isOk())
         unload();
-    return error;
+    return entered;
 }
 
-QString olPluginLoader::enter()
+olResult<> olPluginLoader::enter()
 {
     const auto entry = reinterpret_cast<void (*)()>(m_library.resolve(entryName));
     if (!entry)
@@ -75,8 +75,8 @@ void olPluginLoader::unload()
     m_library.unload();
 }
 
-QString olPluginLoader::failure(const QString &reason) const
+olFailure olPluginLoader::failure(const QString &reason) const
 {
-    return QCoreApplication::translate("olPluginLoader", "Cannot load the preferences plug-in %1: %2.")
-        .arg(m_library.fileName(), reason);
+    return {QCoreApplication::translate("olPluginLoader", "Cannot load the preferences plug-in %1: %2.")
+                .arg(m_library.fileName(), reason)};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "State/olResult.h"
 #include "olHostExport.h"
 
 #include <QLibrary>
@@ -19,12 +20,12 @@ public:
     /// Where none exists the answer names the place beside the program.
     [[nodiscard]] static QString locate(const QString &given);
 
-    /// Loads the file and calls its entry function. Returns an empty text, else one sentence that names the file and
-    /// the reason; then nothing of the library stays loaded.
-    [[nodiscard]] QString load(const QString &file);
+    /// Loads the file and calls its entry function. Where that fails the sentence names the file and the reason, and
+    /// nothing of the library stays loaded.
+    olResult<> load(const QString &file);
 
-    /// Calls the entry function once more. The library must be loaded. Returns what load() would.
-    [[nodiscard]] QString enter();
+    /// Calls the entry function once more. The library must be loaded. Fails as load() does.
+    olResult<> enter();
 
     [[nodiscard]] bool isLoaded() const { return m_library.isLoaded(); }
 
@@ -32,7 +33,7 @@ public:
     void unload();
 
 private:
-    [[nodiscard]] QString failure(const QString &reason) const;
+    [[nodiscard]] olFailure failure(const QString &reason) const;
 
     QLibrary m_library;
 };

@@ -83,6 +83,9 @@ boost::any valueAt(const olPreferencesStore::Key &key)
     return key.first == olHome::Record ? record().get(key.second) : service().get(key.second);
 }
 
+/// From a sentence that is empty where all went well.
+olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
+
 void setDisplayLanguage()
 {
     const int *language = boost::any_cast<int>(&record().get(languageKey));
@@ -117,7 +120,7 @@ olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStri
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
 
-QString olPreferencesSession::loadStore(olStoreUse use)
+olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
     const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
     if (!opening.notice.isEmpty())
@@ -137,7 +140,7 @@ QString olPreferencesSession::loadStore(olStoreUse use)
         record().set(languageKey, language.value, true);
     }
     setDisplayLanguage();
-    return opening.error;
+    return resultOf(opening.error);
 }
 
 void olPreferencesSession::stop()
@@ -146,7 +149,7 @@ void olPreferencesSession::stop()
     m_store.close();
 }
 
-QString olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
+olResult<> olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
 
 void olPreferencesSession::fillDefaults()
 {
@@ -275,7 +278,7 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
     return changes;
 }
 
-QString olPreferencesSession::save()
+olResult<> olPreferencesSession::save()
 {
     restoreLocked();
     const Values kept = toBeKept();
@@ -289,7 +292,7 @@ QString olPreferencesSession::save()
         for (const olPreferencesStore::Key &key : changes.removed)
             m_stored.erase(key);
     }
-    return error;
+    return resultOf(error);
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the mended file.
@@ -307,19 +310,19 @@ QString olPreferencesSession::saveIntoMended(const QString &error, const Values 
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
+olResult<> olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
 {
     const Snapshot before;
     takeBack(shown, besides);
-    QString error = save();
-    if (!error.isEmpty()) {
+    olResult<> saved = save();
+    if (!saved.isOk()) {
         before.restore();
         // What the take-back reported is void; the service has its own reports back with its values.
         for (olPreferencesEntry *entry : shown) {
             if (entry->home() == olHome::Record)
                 entry->settle();
         }
-        return error;
+        return saved;
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
@@ -329,7 +332,7 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
         entry->applyPreferences();
         entry->settle();
     }
-    return {};
+    return saved;
 }
 
 boost::any olPreferencesSession::defaultValue(const std::string &key) const

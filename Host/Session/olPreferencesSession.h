@@ -2,6 +2,7 @@
 
 #include "Session/olPluginLoader.h"
 #include "Session/olSiteDefaults.h"
+#include "State/olResult.h"
 #include "Store/olPreferencesStore.h"
 #include "olHostExport.h"
 
@@ -30,7 +31,7 @@ struct olPreferencesFindings {
 };
 
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
-/// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
+/// takes them down again. What can fail says why in full sentences.
 class ORLO_HOST_EXPORT olPreferencesSession
 {
 public:
@@ -43,14 +44,14 @@ public:
 
     /// Puts what is stored into the record and the preferences service. The first thing of a run. Damage is no
     /// failure: the last good copy is loaded and takeNotices() tells of it.
-    [[nodiscard]] QString loadStore(olStoreUse use = olStoreUse::Own);
+    olResult<> loadStore(olStoreUse use = olStoreUse::Own);
 
     /// What the person at the screen is to be told, each once: a damaged store and where it is now, faults in a site
     /// file. To be asked after the start and after each save.
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
-    [[nodiscard]] QString loadPlugin(const QString &file);
+    olResult<> loadPlugin(const QString &file);
     [[nodiscard]] olPluginLoader &plugin() { return m_plugin; }
 
     /// Fills the gaps in what was stored with the defaults of the site and of all modules, and sets what is locked.
@@ -65,12 +66,12 @@ public:
     /// Stores what differs from what the store holds; values equal to their default are not kept. A locked setting
     /// first gets its locked value back; what a person once stored for it stays in the store for a time without the
     /// lock.
-    [[nodiscard]] QString save();
+    olResult<> save();
 
     /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing
     /// fails, every value is as it was before and nothing is applied. `besides` are values that count whatever the
     /// pages hold: of settings that no page shows, or that their control shows only rounded.
-    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
+    olResult<> confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
 
     /// Unloads the plug-in and closes the store. Values are not stored by this.
     void stop();

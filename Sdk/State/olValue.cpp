@@ -6,7 +6,9 @@
 
 #include <QJsonArray>
 #include <QJsonValue>
+#include <QMetaType>
 #include <QString>
+#include <QVariant>
 
 #include <algorithm>
 #include <charconv>
@@ -177,6 +179,54 @@ template <> std::optional<Color> parse(olJsonReader &json)
 }
 template <> std::optional<std::vector<Color>> parse(olJsonReader &json) { return parseList<Color>(json); }
 
+/// Nothing is converted: a variant of another type gives nothing.
+template <class T> std::optional<T> fromVariant(const QVariant &variant)
+{
+    return variant.userType() == qMetaTypeId<T>() ? std::optional<T>(variant.value<T>()) : std::nullopt;
+}
+
+template <> std::optional<std::string> fromVariant(const QVariant &variant)
+{
+    const auto bytes = fromVariant<QByteArray>(variant);
+    return bytes ? std::optional<std::string>(bytes->toStdString()) : std::nullopt;
+}
+
+template <class Element> std::optional<std::vector<Element>> listFromVariant(const QVariant &variant)
+{
+    if (variant.userType() != QMetaType::QVariantList)
+        return std::nullopt;
+    std::vector<Element> list;
+    const QVariantList items = variant.toList();
+    for (const QVariant &item : items) {
+        const auto element = fromVariant<Element>(item);
+        if (!element)
+            return std::nullopt;
+        list.push_back(*element);
+    }
+    return list;
+}
+
+template <> std::optional<Color> fromVariant(const QVariant &variant)
+{
+    const auto channels = listFromVariant<float>(variant);
+    if (!channels || channels->size() != 3)
+        return std::nullopt;
+    return Color((*channels)[0], (*channels)[1], (*channels)[2]);
+}
+
+template <> std::optional<std::vector<std::string>> fromVariant(const QVariant &variant)
+{
+    return listFromVariant<std::string>(variant);
+}
+template <> std::optional<std::vector<float>> fromVariant(const QVariant &variant)
+{
+    return listFromVariant<float>(variant);
+}
+template <> std::optional<std::vector<Color>> fromVariant(const QVariant &variant)
+{
+    return listFromVariant<Color>(variant);
+}
+
 template <class T> bool same(const T &left, const T &right) { return left == right; }
 bool same(const Color &left, const Color &right)
 {
@@ -214,6 +264,7 @@ struct Type {
     const std::type_info *id;
     std::string (*toJson)(const boost::any &);
     boost::any (*fromJson)(olJsonReader &);
+    boost::any (*fromVariant)(const QVariant &);
     bool (*equal)(const boost::any &, const boost::any &);
     bool (*identical)(const boost::any &, const boost::any &);
     boost::any (*adopted)(const boost::any &);
@@ -227,6 +278,10 @@ template <class T> Type type(const char *name, const char *expectation)
                 const auto value = parse<T>(json);
                 return value && json.atEnd() ? boost::any(*value) : boost::any();
             },
+            [](const QVariant &variant) {
+                const auto value = fromVariant<T>(variant);
+                return value ? boost::any(*value) : boost::any();
+            },
             [](const boost::any &left, const boost::any &right) {
                 return same(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
             },
@@ -237,6 +292,7 @@ template <class T> Type type(const char *name, const char *expectation)
             [](const boost::any &value) { return boost::any(T(boost::any_cast<const T &>(value))); }};
 }
 
+/// In this order, a list of three numbers of which nothing says that it is a colour counts as the list.
 const std::vector<Type> &types()
 {
     static const std::vector<Type> all{
@@ -285,6 +341,14 @@ std::string typeName(const boost::any &value)
     return type ? type->name : "";
 }
 
+std::vector<std::string> typeNames()
+{
+    std::vector<std::string> names;
+    for (const Type &type : types())
+        names.emplace_back(type.name);
+    return names;
+}
+
 bool isTypeName(const std::string &type) { return typeNamed(type) != nullptr; }
 
 std::string expectation(const std::string &name)
@@ -310,6 +374,22 @@ boost::any fromJson(const std::string &name, const QByteArray &text)
     const Type *type = typeNamed(name);
     olJsonReader json({text.constData(), std::size_t(text.size())});
     return type ? type->fromJson(json) : boost::any();
+}
+
+boost::any fromVariant(const std::string &name, const QVariant &variant)
+{
+    if (!name.empty()) {
+        const Type *type = typeNamed(name);
+        return type ? type->fromVariant(variant) : boost::any();
+    }
+    if (variant.userType() == QMetaType::QVariantList && variant.toList().isEmpty())
+        return {};
+    for (const Type &type : types()) {
+        boost::any value = type.fromVariant(variant);
+        if (!value.empty())
+            return value;
+    }
+    return {};
 }
 
 boost::any fromTyped(const std::string &type, const QString &typed)

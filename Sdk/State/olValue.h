@@ -10,6 +10,8 @@
 #include <vector>
 
 class QJsonValue;
+class QString;
+class QVariant;
 
 /// The eleven types that settings may have, with their names, texts and comparison. The texts are exact: what is
 /// written reads back as the same value.
@@ -18,6 +20,9 @@ namespace olValue
 
 /// `bool int uint float double qstring string strings floats color colors`; empty for a value of any other type.
 ORLO_SDK_EXPORT std::string typeName(const boost::any &value);
+
+/// All of them, in the order above.
+ORLO_SDK_EXPORT std::vector<std::string> typeNames();
 
 /// Whether a type of that name exists.
 ORLO_SDK_EXPORT bool isTypeName(const std::string &type);
@@ -34,6 +39,12 @@ ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QJsonValue &j
 
 /// As above from JSON text, with every digit as it stands; empty also where the text is no JSON.
 ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &text);
+
+/// The value of a setting from the variant in which a page hands it over: byte texts are byte arrays, a colour is a
+/// list of three floats, and lists are lists of these. Empty where the variant is not of that type; nothing is
+/// converted. Without a type's name the variant tells the type itself; an empty list tells none and gives an empty
+/// value.
+ORLO_SDK_EXPORT boost::any fromVariant(const std::string &type, const QVariant &variant);
 
 /// From what somebody typed: JSON, or for a text setting the text as it is, so that nobody has to quote within quotes.
 ORLO_SDK_EXPORT boost::any fromTyped(const std::string &type, const QString &typed);

@@ -22,9 +22,9 @@ void PluginTest::restart(olEdition edition)
     host.reset();
     host.edition = edition;
 
-    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
-    if (!error.isEmpty())
-        throw std::runtime_error(error.toStdString());
+    const olResult<> loaded = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
+    if (!loaded.isOk())
+        throw std::runtime_error(loaded.error().toStdString());
     calls.take();
 }
 
