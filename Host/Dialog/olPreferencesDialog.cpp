@@ -203,10 +203,10 @@ void olPreferencesDialog::connectParts()
     connect(m_pending.get(), &olPendingChanges::edited, &m_refresh, QOverload<>::of(&QTimer::start));
     connect(&m_refresh, &QTimer::timeout, this, &olPreferencesDialog::refresh);
 
-    const auto *registry = &olPreferencesRegistry::the();
-    connect(registry, &olPreferencesRegistry::pageAboutToGo, this, &olPreferencesDialog::giveBack);
+    const auto *news = &olPreferencesRegistry::the().news();
+    connect(news, &olRegistryNews::pageAboutToGo, this, &olPreferencesDialog::giveBack);
     // Queued, as a module is not whole yet when it registers, nor any more when it leaves.
-    connect(registry, &olPreferencesRegistry::changed, this, &olPreferencesDialog::listModules, Qt::QueuedConnection);
+    connect(news, &olRegistryNews::changed, this, &olPreferencesDialog::listModules, Qt::QueuedConnection);
 }
 
 void olPreferencesDialog::recall()

@@ -17,7 +17,7 @@ const std::vector<olPreferencesEntry *> &modules() { return olPreferencesRegistr
 
 olPendingChanges::olPendingChanges(olPreferencesSession &session) : m_session(session)
 {
-    connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, this, &olPendingChanges::forgetTheGone);
+    connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, this, &olPendingChanges::forgetTheGone);
 }
 
 olPendingChanges::~olPendingChanges() = default;

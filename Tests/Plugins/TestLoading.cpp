@@ -81,7 +81,7 @@ TEST_F(Loading, APageIsHandedOverWithAllOfItsSettings)
 {
     plugin.unload();
     std::map<const olPreferencesEntry *, int> atHandOver;
-    const auto watch = QObject::connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, [&atHandOver] {
+    const auto watch = QObject::connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, [&atHandOver] {
         for (const olPreferencesEntry *entry : modules()) {
             if (entry->page())
                 atHandOver.emplace(entry, taggedControls(*entry->page()));
@@ -131,7 +131,7 @@ TEST_F(Loading, UnloadingDestroysTheModulesLastFirst)
 
     // Each departure must take the last of those still there.
     auto expected = registered();
-    const auto watch = QObject::connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, [&expected] {
+    const auto watch = QObject::connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, [&expected] {
         expected.pop_back();
         EXPECT_EQ(registered(), expected);
     });
