@@ -198,7 +198,7 @@ void olScriptRunner::newScene(olScriptParser &line)
 
 void olScriptRunner::settled(olScriptParser &line)
 {
-    forModules(line, [](olPreferencesEntry &entry) { entry.settle(); });
+    forModules(line, [](olPreferencesEntry &entry) { entry.markClean(); });
 }
 
 void olScriptRunner::put(olScriptParser &line)

@@ -25,10 +25,10 @@ olMessage &BenchHost::record() { return olPreferencesRegistry::the().record(); }
 
 const std::vector<olPreferencesEntry *> &BenchHost::modules() { return olPreferencesRegistry::the().entries(); }
 
-void BenchHost::settle()
+void BenchHost::markClean()
 {
     for (olPreferencesEntry *module : modules())
-        module->settle();
+        module->markClean();
 }
 
 void makeHostNew()

@@ -27,7 +27,7 @@ public:
     static const std::vector<olPreferencesEntry *> &modules();
 
     /// Makes every module's values count as applied.
-    static void settle();
+    static void markClean();
 
 private:
     QTemporaryDir m_folder;

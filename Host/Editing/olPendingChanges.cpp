@@ -229,14 +229,14 @@ olResult<> olPendingChanges::commit()
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
-    olResult<> confirmed = m_session.confirm(m_filled, besides);
-    if (confirmed.isOk()) {
+    olResult<> committed = m_session.commit(m_filled, besides);
+    if (committed.isOk()) {
         m_withoutControl.clear();
         for (const olPreferencesEntry *entry : m_filled)
-            findPage(*entry)->settle();
+            findPage(*entry)->markClean();
     }
     emit edited();
-    return confirmed;
+    return committed;
 }
 
 olPreferencesEntry *olPendingChanges::ownerOf(const std::string &key) const

@@ -196,7 +196,7 @@ void olPreferencesSession::start()
         entry->updateGUI();
     for (olPreferencesEntry *entry : entries()) {
         entry->preferencesInitialApply();
-        entry->settle();
+        entry->markClean();
     }
 }
 
@@ -310,7 +310,7 @@ QString olPreferencesSession::saveIntoMended(const QString &error, const Values 
     return newError;
 }
 
-olResult<> olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
+olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
 {
     const Snapshot before;
     takeBack(shown, besides);
@@ -320,7 +320,7 @@ olResult<> olPreferencesSession::confirm(const std::vector<olPreferencesEntry *>
         // What the take-back reported is void; the service has its own reports back with its values.
         for (olPreferencesEntry *entry : shown) {
             if (entry->home() == olHome::Record)
-                entry->settle();
+                entry->markClean();
         }
         return saved;
     }
@@ -330,7 +330,7 @@ olResult<> olPreferencesSession::confirm(const std::vector<olPreferencesEntry *>
                   [](auto *entry) { entry->updateGUI(); });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
-        entry->settle();
+        entry->markClean();
     }
     return saved;
 }

@@ -71,7 +71,7 @@ public:
     /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing
     /// fails, every value is as it was before and nothing is applied. `besides` are values that count whatever the
     /// pages hold: of settings that no page shows, or that their control shows only rounded.
-    olResult<> confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
+    olResult<> commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
 
     /// Unloads the plug-in and closes the store. Values are not stored by this.
     void stop();

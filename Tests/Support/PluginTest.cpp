@@ -46,5 +46,5 @@ void PluginTest::apply(const char *moduleName, const char *key, const boost::any
     entry.setValue(key, value);
     entry.setChanged(key, true);
     entry.applyPreferences();
-    entry.settle();
+    entry.markClean();
 }

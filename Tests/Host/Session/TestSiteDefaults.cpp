@@ -115,7 +115,7 @@ protected:
         notices = session->takeNotices();
     }
 
-    void confirm() { ASSERT_EQ(session->confirm(olPreferencesRegistry::the().entries()).error(), QString()); }
+    void confirm() { ASSERT_EQ(session->commit(olPreferencesRegistry::the().entries()).error(), QString()); }
 
     template <class T> static T inRecord(const char *key)
     {
