@@ -1,6 +1,7 @@
 // The commands that keep preferences in a file and take them from one.
 
 #include "Editing/olPreferencesImport.h"
+#include "Session/olFileArgument.h"
 #include "Session/olPreferencesFile.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
@@ -21,15 +22,18 @@ bool isStandardStream(const QString &name) { return name == QLatin1String("-"); 
 
 olPreferencesFile::Contents read(const QString &name)
 {
-    if (!isStandardStream(name))
-        return olPreferencesFile::read(name);
+    if (!isStandardStream(name)) {
+        const auto contents = olPreferencesFile::read(name);
+        olPrefsTool::requireSuccess(contents);
+        return *contents;
+    }
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         throw olToolError(QStringLiteral("Cannot read the standard input: %1.").arg(input.errorString()));
-    olPreferencesFile::Contents contents = olPreferencesFile::fromJson(input.readAll());
-    if (!contents.error.isEmpty())
-        contents.error.prepend(QStringLiteral("Cannot import the standard input. "));
-    return contents;
+    const auto contents = olPreferencesFile::fromJson(input.readAll());
+    if (!contents.isOk())
+        throw olToolError(QStringLiteral("Cannot import the standard input. ") + contents.error());
+    return *contents;
 }
 
 /// What the file changes, without the values that a control could not hold.
@@ -58,22 +62,17 @@ void olPrefsCommands::exportTo(olPrefsTool &tool)
     const olKnownSettings settings;
     for (const olKnownSetting &setting : settings.all())
         values[setting.key] = setting.entry->value(setting.key);
-    const QString file = tool.arguments().value(0, QStringLiteral("-"));
+    const QString file = olFileArgument(tool.arguments().value(0, QStringLiteral("-")));
     if (isStandardStream(file))
         return tool.print(olPreferencesFile::toJson(values).toStdString());
-    const QString error = olPreferencesFile::write(file, values);
-    if (!error.isEmpty())
-        throw olToolError(error);
+    olPrefsTool::requireSuccess(olPreferencesFile::write(file, values));
 }
 
 void olPrefsCommands::importFrom(olPrefsTool &tool)
 {
     const bool isDryRun = tool.arguments().value(0) == QLatin1String("--dry-run");
     tool.requireArguments(isDryRun ? 2 : 1);
-    const olPreferencesFile::Contents contents = read(tool.arguments().last());
-    if (!contents.error.isEmpty())
-        throw olToolError(contents.error);
-
+    const olPreferencesFile::Contents contents = read(olFileArgument(tool.arguments().last()));
     tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
     const olKnownSettings settings;
     const olPreferencesImport import = importOf(tool.session(), settings, contents);

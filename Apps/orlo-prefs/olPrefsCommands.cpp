@@ -39,8 +39,8 @@ const olPrefsCommand commands[] = {
      "  --dry-run   prints what would change, KEY  VALUE -> NEW VALUE, and stores nothing\n",
      &olPrefsCommands::importFrom},
     {"check", "check", "looks for damage in the store and faults in the site's files",
-     "Prints a line for each thing that is wrong with the store, its copy or the site's files, and changes nothing.\n"
-     "The exit status is 0 when nothing is wrong, else 2.\n",
+     "Prints a line for each thing that is wrong with the store, its copy or the site's files, also for keys that no\n"
+     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n",
      &olPrefsCommands::check},
     {"script", "script FILE|-", "runs a script from a file or the standard input",
      "Drives the modules operation by operation and prints every host call. A script begins with empty preferences,\n"
@@ -86,7 +86,8 @@ std::string olPrefsCommands::help()
     }
     return text + '\n' + olPrefsOptions::optionsHelp() +
            "\n"
-           "The exit status is 0, or 2 with a message on the standard error stream.\n";
+           "The exit status is 0, or 2 with a message on the standard error stream; of check 1 when it finds "
+           "something.\n";
 }
 
 std::string olPrefsCommands::help(const olPrefsCommand &command)

@@ -585,9 +585,9 @@ void olPreferencesDialog::chooseImport()
 
 void olPreferencesDialog::importFrom(const QString &file)
 {
-    const olPreferencesFile::Contents contents = olPreferencesFile::read(file);
-    if (!contents.error.isEmpty()) {
-        m_message->showError(contents.error);
+    const auto contents = olPreferencesFile::read(file);
+    if (!contents.isOk()) {
+        m_message->showError(contents.error());
         return;
     }
     const auto controlOf = [this](const std::string &key) -> QWidget * {
@@ -595,7 +595,7 @@ void olPreferencesDialog::importFrom(const QString &file)
         return control ? control->widget.data() : nullptr;
     };
     const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
-    const olPreferencesImport import(m_session, contents, valueOf, controlOf);
+    const olPreferencesImport import(m_session, *contents, valueOf, controlOf);
 
     auto *view = new olChangesView(tr("Import Preferences"), this);
     view->setAttribute(Qt::WA_DeleteOnClose);
@@ -626,9 +626,9 @@ void olPreferencesDialog::chooseExport()
 
 void olPreferencesDialog::exportTo(const QString &file)
 {
-    const QString error = olPreferencesFile::write(file, m_pending->inForce());
-    if (!error.isEmpty())
-        m_message->showError(error);
+    const olResult<> written = olPreferencesFile::write(file, m_pending->inForce());
+    if (!written.isOk())
+        m_message->showError(written.error());
     else if (m_pending->isEmpty())
         m_message->showNote(tr("The preferences were written to %1.").arg(file));
     else

@@ -16,13 +16,10 @@ public:
     olPluginLoader(const olPluginLoader &) = delete;
     olPluginLoader &operator=(const olPluginLoader &) = delete;
 
-    /// The file to load: `given` if it is not empty, else beside the program, else in the installed plug-in folder.
-    /// Where none exists the answer names the place beside the program.
-    [[nodiscard]] static QString locate(const QString &given);
-
-    /// Loads the file and calls its entry function. Where that fails the sentence names the file and the reason, and
+    /// Loads `given`, where it is not empty, else the plug-in beside the program, else the installed one, and calls its
+    /// entry function. Where that fails the sentence names the file, or all places looked at, and the reason, and
     /// nothing of the library stays loaded.
-    olResult<> load(const QString &file);
+    olResult<> load(const QString &given);
 
     /// Calls the entry function once more. The library must be loaded. Fails as load() does.
     olResult<> enter();

@@ -1,12 +1,16 @@
 #include "Session/olPreferencesFile.h"
 
+#include "Session/olJsonObject.h"
 #include "State/olValue.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QFileInfo>
 #include <QSaveFile>
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
 
 namespace
 {
@@ -15,38 +19,58 @@ constexpr int currentFormat = 1;
 
 QString translated(const char *text) { return QCoreApplication::translate("olPreferencesFile", text); }
 
-olPreferencesFile::Contents failed(const QString &error) { return {{}, {}, error}; }
-
-QString formatError(const QJsonValue &format)
+const olJsonMember *find(const std::vector<olJsonMember> &members, const char *key)
 {
-    if (format.isUndefined())
+    const auto found = std::find_if(members.begin(), members.end(),
+                                    [key](const olJsonMember &member) { return member.key == QLatin1String(key); });
+    return found == members.end() ? nullptr : &*found;
+}
+
+QString formatError(const olJsonMember *format)
+{
+    if (!format)
         return translated("It is no file of preferences: it names no format.");
-    if (!format.isDouble() || format.toDouble() < currentFormat)
+    const boost::any number = olValue::fromJson("double", format->text());
+    if (number.empty() || !(boost::any_cast<double>(number) >= currentFormat))
         return translated("It is no file of preferences: its format is not known.");
-    if (format.toDouble() > currentFormat)
+    if (boost::any_cast<double>(number) > currentFormat)
         return translated("It was written by a newer version.");
     return {};
 }
 
-/// The value of one setting; empty, with the reason, where the file does not tell it clearly.
-boost::any valueOf(const QJsonValue &json, QString &reason)
+/// The value of one setting, or the reason why the file does not tell it clearly.
+olResult<boost::any> valueOf(const std::vector<olJsonMember> &parts)
 {
-    const QJsonObject setting = json.toObject();
-    const std::string type = setting.value(QLatin1String("type")).toString().toStdString();
-    if (type.empty() || !setting.contains(QLatin1String("value"))) {
-        reason = translated("has no type or no value");
-        return {};
-    }
-    if (!olValue::isTypeName(type)) {
-        reason = translated("is of the unknown type \"%1\"").arg(QString::fromStdString(type));
-        return {};
-    }
-    boost::any value = olValue::fromJson(type, setting.value(QLatin1String("value")));
-    if (value.empty()) {
-        reason = translated("is not %1, as its type %2 asks for")
-                     .arg(QString::fromStdString(olValue::expectation(type)), QString::fromStdString(type));
-    }
+    const olJsonMember *named = find(parts, "type");
+    const olJsonMember *written = find(parts, "value");
+    const boost::any type = named && written ? olValue::fromJson("string", named->text()) : boost::any();
+    if (type.empty())
+        return olFailure{translated("has no type or no value")};
+    const auto &name = boost::any_cast<const std::string &>(type);
+    if (!olValue::isTypeName(name))
+        return olFailure{translated("is of the unknown type \"%1\"").arg(QString::fromStdString(name))};
+    boost::any value = olValue::fromJson(name, written->text());
+    if (value.empty())
+        return olFailure{translated("is not %1, as its type %2 asks for")
+                             .arg(QString::fromStdString(olValue::expectation(name)), QString::fromStdString(name))};
     return value;
+}
+
+/// A private file, unless there was one with a mode of its own.
+bool writeWhole(QSaveFile &out, const QByteArray &text)
+{
+    const bool isNew = !QFileInfo::exists(out.fileName());
+    if (!out.open(QIODevice::WriteOnly))
+        return false;
+    if (isNew)
+        out.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return out.write(text) == text.size() && out.commit();
+}
+
+/// Into a pipe or a device, which must not be replaced.
+bool writeInto(QFile &out, const QByteArray &text)
+{
+    return out.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && out.write(text) == text.size();
 }
 
 } // namespace
@@ -65,54 +89,66 @@ QByteArray olPreferencesFile::toJson(const olSettingValues &settings)
                                      lines + "\n  }\n}\n");
 }
 
-olPreferencesFile::Contents olPreferencesFile::fromJson(const QByteArray &text)
+olResult<olPreferencesFile::Contents> olPreferencesFile::fromJson(const QByteArray &text)
 {
-    QJsonParseError fault;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &fault);
-    if (fault.error != QJsonParseError::NoError) {
-        const int line = text.left(fault.offset).count('\n') + 1;
-        return failed(translated("It is no JSON, line %1: %2.").arg(line).arg(fault.errorString()));
-    }
-    const QString wrongFormat = formatError(document.object().value(QLatin1String("format")));
+    const auto faultIn = [](const std::optional<olJsonFault> &fault) {
+        return olFailure{translated("Line %1: %2.").arg(fault->line).arg(fault->what)};
+    };
+    std::vector<olJsonMember> members;
+    if (const auto fault = olReadObject({text.constData(), std::size_t(text.size())}, 1, members))
+        return faultIn(fault);
+    const QString wrongFormat = formatError(find(members, "format"));
     if (!wrongFormat.isEmpty())
-        return failed(wrongFormat);
-    const QJsonValue listed = document.object().value(QLatin1String("settings"));
-    if (!listed.isObject())
-        return failed(translated("It lists no settings."));
+        return olFailure{wrongFormat};
+    const olJsonMember *listed = find(members, "settings");
+    if (!listed)
+        return olFailure{translated("It lists no settings.")};
+    std::vector<olJsonMember> settings;
+    if (const auto fault = olReadObject(listed->value, listed->line, settings))
+        return faultIn(fault);
 
     Contents contents;
-    const QJsonObject settings = listed.toObject();
-    for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
-        const std::string key = setting.key().toStdString();
-        QString reason;
-        const boost::any value = valueOf(setting.value(), reason);
-        if (value.empty())
-            contents.skipped.push_back({key, reason});
+    for (const olJsonMember &setting : settings) {
+        std::vector<olJsonMember> parts;
+        if (setting.value.front() == '{') {
+            if (const auto fault = olReadObject(setting.value, setting.line, parts))
+                return faultIn(fault);
+        }
+        const std::string key = setting.key.toStdString();
+        const olResult<boost::any> value = valueOf(parts);
+        if (value.isOk())
+            contents.settings[key] = *value;
         else
-            contents.settings[key] = value;
+            contents.skipped.push_back({key, value.error()});
     }
     return contents;
 }
 
-QString olPreferencesFile::write(const QString &file, const olSettingValues &settings)
+olResult<> olPreferencesFile::write(const QString &file, const olSettingValues &settings)
 {
-    QSaveFile out(file);
     const QByteArray text = toJson(settings);
-    if (out.open(QIODevice::WriteOnly) && out.write(text) == text.size() && out.commit())
-        return {};
-    return translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString());
+    const QFileInfo place(file);
+    const auto result = [&file](const QFileDevice &out, bool isWritten) -> olResult<> {
+        if (isWritten)
+            return {};
+        return olFailure{translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString())};
+    };
+    if (place.exists() && !place.isFile()) {
+        QFile out(file);
+        return result(out, writeInto(out, text));
+    }
+    QSaveFile out(file);
+    return result(out, writeWhole(out, text));
 }
 
-olPreferencesFile::Contents olPreferencesFile::read(const QString &file)
+olResult<olPreferencesFile::Contents> olPreferencesFile::read(const QString &file)
 {
     QFile in(file);
-    if (!in.open(QIODevice::ReadOnly))
-        return failed(translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString()));
-    const QByteArray text = in.readAll();
+    const QByteArray text = in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     if (in.error() != QFile::NoError)
-        return failed(translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString()));
-    Contents contents = fromJson(text);
-    if (!contents.error.isEmpty())
-        contents.error = translated("Cannot import %1. %2").arg(file, contents.error);
+        return olFailure{translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString())};
+    auto contents = fromJson(text);
+    if (!contents.isOk())
+        return olFailure{translated("Cannot import %1. %2").arg(file, contents.error())};
     return contents;
 }

@@ -2,6 +2,7 @@
 
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
+#include "Session/olSettingsLock.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
@@ -135,10 +136,8 @@ olResult<> olPreferencesSession::loadStore(olStoreUse use)
     // The language must stand before any text of a module is translated.
     const olSiteSetting language = m_site.early(languageKey, "int");
     const bool isStored = m_stored.count({olHome::Record, languageKey}) != 0;
-    if (!language.value.empty() && (language.locked || !isStored)) {
-        m_earlyLanguage = language.value;
+    if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
-    }
     setDisplayLanguage();
     return resultOf(opening.error);
 }
@@ -149,7 +148,13 @@ void olPreferencesSession::stop()
     m_store.close();
 }
 
-olResult<> olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
+olResult<> olPreferencesSession::loadPlugin(const QString &given)
+{
+    const QString notice = olRemoveAbandonedLock();
+    if (!notice.isEmpty())
+        m_notices << notice;
+    return m_plugin.load(given);
+}
 
 void olPreferencesSession::fillDefaults()
 {
@@ -167,23 +172,7 @@ void olPreferencesSession::fillDefaults()
                 owner.setValue(key, value);
         });
     }
-    dropEarlyLanguage();
     restoreLocked();
-}
-
-/// The language of a site file that turned out to have a fault goes with the file.
-void olPreferencesSession::dropEarlyLanguage()
-{
-    const bool isStored = m_stored.count({olHome::Record, languageKey}) != 0;
-    const boost::any early = std::exchange(m_earlyLanguage, {});
-    if (early.empty() || m_site.settings().count(languageKey) != 0)
-        return;
-    const boost::any own = isStored ? m_stored.at({olHome::Record, languageKey}) : defaultValue(languageKey);
-    if (own.empty())
-        record().remove(languageKey);
-    else
-        record().set(languageKey, own, true);
-    setDisplayLanguage();
 }
 
 void olPreferencesSession::start()
@@ -385,13 +374,13 @@ void olPreferencesSession::restoreLocked() const
     }
 }
 
-olPreferencesFindings olPreferencesSession::check() const
+QStringList olPreferencesSession::check() const
 {
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
         site.settle([this](const std::string &key) { return defaultValue(key); });
-    return {m_store.check() << site.takeFaults(), site.unknown()};
+    return m_store.check() << site.takeFaults() << site.unknown();
 }
 
 std::vector<std::string> olPreferencesSession::keys()

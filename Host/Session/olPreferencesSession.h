@@ -24,12 +24,6 @@ using olSettingValues = std::map<std::string, boost::any>;
 /// as it is.
 enum class olStoreUse { Own, LookAt };
 
-/// What a check found, one sentence for each.
-struct olPreferencesFindings {
-    QStringList faults;
-    QStringList remarks; ///< what may be meant so: keys of a site's files that no module of this edition has
-};
-
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. What can fail says why in full sentences.
 class ORLO_HOST_EXPORT olPreferencesSession
@@ -51,7 +45,7 @@ public:
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
-    olResult<> loadPlugin(const QString &file);
+    olResult<> loadPlugin(const QString &given);
     [[nodiscard]] olPluginLoader &plugin() { return m_plugin; }
 
     /// Fills the gaps in what was stored with the defaults of the site and of all modules, and sets what is locked.
@@ -82,9 +76,9 @@ public:
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
-    /// Looks the store and the site's files through; changes nothing. Types and keys of the site's files are checked
-    /// only when the modules' defaults are there.
-    [[nodiscard]] olPreferencesFindings check() const;
+    /// Looks the store and the site's files through; changes nothing. Returns a sentence for each finding. Types and
+    /// keys of the site's files are checked only when the modules' defaults are there.
+    [[nodiscard]] QStringList check() const;
 
     /// Of all modules in order, each key once.
     [[nodiscard]] static std::vector<std::string> keys();
@@ -101,7 +95,6 @@ private:
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
-    void dropEarlyLanguage();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
 
@@ -110,6 +103,5 @@ private:
     olSiteDefaults m_site;
     QStringList m_siteFiles;
     QStringList m_notices;
-    boost::any m_earlyLanguage;
     olPluginLoader m_plugin;
 };

@@ -4,8 +4,7 @@
 
 #include <OpenSG/OSGColor.h>
 
-#include <QJsonArray>
-#include <QJsonValue>
+#include <QByteArray>
 #include <QMetaType>
 #include <QString>
 #include <QVariant>
@@ -70,24 +69,6 @@ template <class Element> std::string json(const std::vector<Element> &list)
     std::string text = "[";
     for (const Element &element : list)
         text += (text.size() > 1 ? ", " : "") + json(element);
-    return text + ']';
-}
-
-/// A JSON value as text, for which there is only one reader.
-std::string textOf(const QJsonValue &json)
-{
-    if (json.isBool())
-        return json.toBool() ? "true" : "false";
-    if (json.isDouble())
-        return shortest(json.toDouble());
-    if (json.isString())
-        return olJsonText::quoted(json.toString());
-    if (!json.isArray())
-        return "null";
-    std::string text = "[";
-    const QJsonArray array = json.toArray();
-    for (const QJsonValue &item : array)
-        text += (text.size() > 1 ? "," : "") + textOf(item);
     return text + ']';
 }
 
@@ -361,12 +342,6 @@ std::string toJson(const boost::any &value)
 {
     const Type *type = typeOf(value);
     return type ? type->toJson(value) : "null";
-}
-
-boost::any fromJson(const std::string &type, const QJsonValue &json)
-{
-    const std::string text = textOf(json);
-    return fromJson(type, QByteArray::fromRawData(text.data(), int(text.size())));
 }
 
 boost::any fromJson(const std::string &name, const QByteArray &text)

@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-class QJsonValue;
 class QString;
 class QVariant;
 
@@ -34,10 +33,8 @@ ORLO_SDK_EXPORT std::string expectation(const std::string &type);
 /// Bytes of a text that are no UTF-8 are escaped as quoted() does, and read back as the same bytes.
 ORLO_SDK_EXPORT std::string toJson(const boost::any &value);
 
-/// A value of exactly that type; empty when the JSON does not fit it: nothing is converted or cut.
-ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QJsonValue &json);
-
-/// As above from JSON text, with every digit as it stands; empty also where the text is no JSON.
+/// A value of exactly that type from JSON text, with every digit as it stands. Empty where the text is no JSON or does
+/// not fit the type: nothing is converted or cut.
 ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &text);
 
 /// The value of a setting from the variant in which a page hands it over: byte texts are byte arrays, a colour is a

@@ -87,7 +87,7 @@ TEST_F(Loading, APageIsHandedOverWithAllOfItsSettings)
                 atHandOver.emplace(entry, taggedControls(*entry->page()));
         }
     });
-    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)), QString());
+    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
     QObject::disconnect(watch);
     ASSERT_EQ(atHandOver.size(), modules().size());
     for (const auto &[entry, count] : atHandOver)
