@@ -2,7 +2,6 @@
 
 #include "State/olHostState.h"
 #include "olPrefsCommands.h"
-#include "olToolError.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -10,12 +9,6 @@
 
 namespace
 {
-
-void requireSuccess(const QString &error)
-{
-    if (!error.isEmpty())
-        throw olToolError(error);
-}
 
 /// A script shows the modules as they are, at whatever site it runs; another site's file is judged by itself.
 QStringList siteFiles(const olPrefsOptions &options)

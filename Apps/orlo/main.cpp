@@ -126,9 +126,9 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    if (!loaded.isOk())
+        return fail(loaded.error());
     session.fillDefaults();
     // A picture is of the model alone and as good as can be, where nobody says otherwise; what a site locks stays.
     const bool isClean = options.isSet(QStringLiteral("render")) && !options.isSet(QStringLiteral("aids"));
@@ -170,18 +170,18 @@ int run(const QCommandLineParser &options)
 
     const QString given = olFileArgument(options.value(QStringLiteral("store")));
     olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const QString storeError = session.loadStore();
-    if (!storeError.isEmpty())
-        return fail(storeError);
+    const olResult<> stored = session.loadStore();
+    if (!stored.isOk())
+        return fail(stored.error());
 
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
     olTakeFormerSettingsOver();
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    if (!loaded.isOk())
+        return fail(loaded.error());
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();
@@ -202,10 +202,10 @@ int run(const QCommandLineParser &options)
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
     window.closePreferences();
-    const QString saveError = session.save();
+    const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
-    return saveError.isEmpty() ? result : fail(saveError);
+    return saved.isOk() ? result : fail(saved.error());
 }
 
 /// The toolkit has an option of this name too and would take "--plugin FILE" for it, but not "--plugin=FILE".

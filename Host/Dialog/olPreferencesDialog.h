@@ -106,7 +106,7 @@ private:
     [[nodiscard]] bool store();
     bool tellNotices();
     [[nodiscard]] bool mayLeave();
-    void preview(const QString &title, const QString &action, const olPreferencesFile::Contents &contents);
+    void preview(const QString &title, const QString &action, const olResult<olPreferencesFile::Contents> &contents);
     void goBack(std::size_t saves);
     void chooseImport();
     void chooseExport();

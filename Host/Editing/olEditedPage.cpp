@@ -4,7 +4,6 @@
 #include "Session/olValueOverlay.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
-#include "State/olValueVariant.h"
 #include "Widgets/QOLColorManipulator.h"
 
 #include <QAbstractItemModel>
@@ -84,10 +83,10 @@ QWidget *olEditedPage::control(const std::string &key) const
 void olEditedPage::fill()
 {
     m_entry.updateGUI();
-    settle();
+    markClean();
 }
 
-void olEditedPage::settle()
+void olEditedPage::markClean()
 {
     m_filled.clear();
     m_put.clear();

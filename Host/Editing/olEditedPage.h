@@ -30,7 +30,7 @@ public:
     void fill();
 
     /// Takes what the page shows for what it was filled with: after the values were applied.
-    void settle();
+    void markClean();
 
     /// Settings that have a control on the page, in the order of its form.
     [[nodiscard]] const std::vector<std::string> &keys() const { return m_keys; }

@@ -1,6 +1,6 @@
 #include "Editing/olPageAccess.h"
 
-#include "State/olValueVariant.h"
+#include "State/olValue.h"
 
 #include <QMetaObject>
 #include <QVariant>

@@ -132,6 +132,9 @@ QStringList stampsOf(const QStringList &files)
     return stamps;
 }
 
+/// From a sentence that is empty where all went well.
+olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
+
 void setDisplayLanguage()
 {
     const int *language = boost::any_cast<int>(&record().get(languageKey));
@@ -168,7 +171,7 @@ olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStri
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
 
-QString olPreferencesSession::loadStore(olStoreUse use)
+olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
     const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
     if (!opening.notice.isEmpty())
@@ -186,7 +189,7 @@ QString olPreferencesSession::loadStore(olStoreUse use)
     if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
     setDisplayLanguage();
-    return opening.error;
+    return resultOf(opening.error);
 }
 
 void olPreferencesSession::stop()
@@ -195,7 +198,7 @@ void olPreferencesSession::stop()
     m_plugin.unload();
 }
 
-QString olPreferencesSession::loadPlugin(const QString &given)
+olResult<> olPreferencesSession::loadPlugin(const QString &given)
 {
     const QString notice = olRemoveAbandonedLock();
     if (!notice.isEmpty())
@@ -232,7 +235,7 @@ void olPreferencesSession::start()
         entry->updateGUI();
     for (olPreferencesEntry *entry : entries()) {
         entry->preferencesInitialApply();
-        entry->settle();
+        entry->markClean();
     }
 }
 
@@ -312,7 +315,7 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
     return changes;
 }
 
-QString olPreferencesSession::save()
+olResult<> olPreferencesSession::save()
 {
     const QScopedValueRollback<bool> changing(m_isChanging, true);
     restoreLocked();
@@ -331,7 +334,7 @@ QString olPreferencesSession::save()
         m_chosen.clear();
         m_restored.clear();
     }
-    return error;
+    return resultOf(error);
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
@@ -351,8 +354,8 @@ QString olPreferencesSession::saveIntoMended(const QString &error, const Values 
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
-                                      const std::set<std::string> &restored)
+olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
+                                        const std::set<std::string> &restored)
 {
     // A module may open a box on the way.
     const QScopedValueRollback<bool> changing(m_isChanging, true);
@@ -360,16 +363,16 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
     takeBack(shown, besides);
     for (const std::string &key : restored)
         restore(key);
-    QString error = save();
+    olResult<> saved = save();
     m_restored.clear();
-    if (!error.isEmpty()) {
+    if (!saved.isOk()) {
         before.restore();
         // What the take-back reported is void; the service has its own reports back with its values.
         for (olPreferencesEntry *entry : shown) {
             if (entry->home() == olHome::Record)
-                entry->settle();
+                entry->markClean();
         }
-        return error;
+        return saved;
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
@@ -377,9 +380,9 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
                   [](auto *entry) { entry->updateGUI(); });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
-        entry->settle();
+        entry->markClean();
     }
-    return {};
+    return saved;
 }
 
 void olPreferencesSession::follow()
@@ -471,7 +474,7 @@ void olPreferencesSession::applyIn(olPreferencesEntry &entry, const std::set<std
     for (const std::string &key : keysOf(entry))
         entry.setChanged(key, changed.count(key) != 0);
     entry.applyPreferences();
-    entry.settle();
+    entry.markClean();
     emit tookOver(entry);
 }
 

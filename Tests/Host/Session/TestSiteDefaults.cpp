@@ -125,12 +125,12 @@ protected:
         if (!site.isEmpty())
             write(siteFile, site);
         session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile, lesserFile});
-        ASSERT_EQ(session->loadStore(), QString());
+        ASSERT_EQ(session->loadStore().error(), QString());
         session->start();
         notices = session->takeNotices();
     }
 
-    void confirm() { ASSERT_EQ(session->confirm(olPreferencesRegistry::the().entries()), QString()); }
+    void confirm() { ASSERT_EQ(session->commit(olPreferencesRegistry::the().entries()).error(), QString()); }
 
     template <class T> static T inRecord(const char *key)
     {
@@ -193,7 +193,7 @@ TEST_F(Site, ALockedSettingKeepsItsValueWhateverPageAndStoreSay)
 
     // As a tool would.
     olPreferences::getData().set("Camera fov", 10.0f, true);
-    EXPECT_EQ(session->save(), QString());
+    EXPECT_EQ(session->save().error(), QString());
     EXPECT_EQ(inRecord<float>("Camera fov"), 60);
 
     // What the person had chosen was only covered.
@@ -356,7 +356,7 @@ TEST_F(Site, TheLanguageStandsBeforeTheModulesUnlessThePersonChoseOne)
 {
     write(siteFile, R"({"MainWindow user language": {"value": 2}})");
     session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
-    ASSERT_EQ(session->loadStore(), QString());
+    ASSERT_EQ(session->loadStore().error(), QString());
     EXPECT_EQ(int(olHostState::the().displayLanguage), 2);
     save({{key("MainWindow user language"), 1}});
     run(R"({"MainWindow user language": {"value": 2}})");
