@@ -1,4 +1,4 @@
-#include "Session/olPreferencesImport.h"
+#include "Editing/olPreferencesImport.h"
 
 #include "Editing/olControlBounds.h"
 #include "State/olValue.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesFile.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <functional>
 #include <vector>
@@ -10,7 +10,7 @@ class QWidget;
 
 /// What importing a file would do, before anything is done: which settings get another value, and which are passed over
 /// and why. A setting that has the file's value already is in neither list.
-struct ORLO_SDK_EXPORT olPreferencesImport {
+struct ORLO_HOST_EXPORT olPreferencesImport {
     struct Change {
         std::string key;
         boost::any before;
