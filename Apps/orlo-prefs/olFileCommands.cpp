@@ -1,7 +1,7 @@
 // The commands that keep preferences in a file and take them from one.
 
+#include "Editing/olPreferencesImport.h"
 #include "Session/olPreferencesFile.h"
-#include "Session/olPreferencesImport.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
 #include "olKnownSettings.h"

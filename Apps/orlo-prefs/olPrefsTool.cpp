@@ -31,8 +31,6 @@ olPrefsTool::olPrefsTool(const olPrefsOptions &options)
 {
     olHostState::the().edition = options.edition;
     olHostState::the().applicationName = options.applicationName;
-    // A tool opens no device and no server, whatever it applies.
-    olHostState::the().isPassive = true;
 }
 
 void olPrefsTool::run()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Session/olPreferencesImport.h"
+#include "Editing/olPreferencesImport.h"
 
 #include <string>
 #include <vector>

@@ -3,11 +3,14 @@
 #include "olMainWindow.h"
 #include "olTour.h"
 
+#include "Devices/olJoystickLink.h"
+#include "Devices/olSpacemouseLink.h"
+#include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
+#include "WebServer/olWebServer.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -144,6 +147,10 @@ int run(const QCommandLineParser &options)
         return refuse(wrong);
     host.edition = *edition;
     host.applicationName = options.value(QStringLiteral("app-name"));
+
+    const olWebServer webServer;
+    const olSpacemouseLink spacemouse;
+    const olJoystickLink joystick;
 
     const QString given = options.value(QStringLiteral("store"));
     olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);

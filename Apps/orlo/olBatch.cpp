@@ -1,9 +1,9 @@
 #include "olBatch.h"
 
-#include "Viewport/olExportScene.h"
-#include "Viewport/olImport.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "Exchange/olExportScene.h"
+#include "Exchange/olImport.h"
+#include "Model/olScene.h"
+#include "View/olViewport.h"
 
 #include <TDocStd_Document.hxx>
 

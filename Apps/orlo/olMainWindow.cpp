@@ -7,10 +7,10 @@
 #include "olSceneTree.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 
 #include <QAction>
 #include <QApplication>

@@ -2,10 +2,10 @@
 
 #include "olImportDialog.h"
 
+#include "Exchange/olExportScene.h"
+#include "Exchange/olModelFormat.h"
+#include "Model/olScene.h"
 #include "State/olHostState.h"
-#include "Viewport/olExportScene.h"
-#include "Viewport/olModelFormat.h"
-#include "Viewport/olScene.h"
 
 #include <TDocStd_Document.hxx>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Viewport/olImporter.h"
+#include "Exchange/olImporter.h"
 
 #include <QHash>
 #include <QPointer>

@@ -1,8 +1,8 @@
 #include "olSceneTree.h"
 
+#include "Model/olScene.h"
+#include "Model/olSceneStructure.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olSceneStructure.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

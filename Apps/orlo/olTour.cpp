@@ -4,7 +4,7 @@
 #include "olMainWindow.h"
 
 #include "Dialog/olPreferencesDialog.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 #include "Widgets/QOLSlider.h"
 
 #include <QApplication>

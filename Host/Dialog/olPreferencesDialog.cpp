@@ -8,9 +8,9 @@
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
 #include "Editing/olPendingChanges.h"
+#include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
-#include "Session/olPreferencesImport.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 

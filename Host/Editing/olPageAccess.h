@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <boost/any.hpp>
 
@@ -13,9 +13,9 @@ namespace olPageAccess
 {
 
 /// What the control holds, as a value of that type; empty where the page does not tell.
-[[nodiscard]] ORLO_SDK_EXPORT boost::any value(const QWidget &page, const std::string &key, const std::string &type);
+[[nodiscard]] ORLO_HOST_EXPORT boost::any value(const QWidget &page, const std::string &key, const std::string &type);
 
 /// The type that the control takes; empty where the page does not tell. The control shows what it showed before.
-[[nodiscard]] ORLO_SDK_EXPORT std::string typeOf(const QWidget &page, const std::string &key);
+[[nodiscard]] ORLO_HOST_EXPORT std::string typeOf(const QWidget &page, const std::string &key);
 
 } // namespace olPageAccess

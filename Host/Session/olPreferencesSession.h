@@ -3,7 +3,7 @@
 #include "Session/olPluginLoader.h"
 #include "Session/olSiteDefaults.h"
 #include "Store/olPreferencesStore.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QString>
 #include <QStringList>
@@ -31,7 +31,7 @@ struct olPreferencesFindings {
 
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
-class ORLO_SDK_EXPORT olPreferencesSession
+class ORLO_HOST_EXPORT olPreferencesSession
 {
 public:
     /// `siteFiles` are the site's files of defaults and locks; see olSiteDefaults.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QByteArray>
 #include <QString>
@@ -23,7 +23,7 @@ struct olSiteSetting {
 /// Other defaults, and locks, that a site gives to all its people in JSON files:
 /// `{"Camera fov": {"value": 60, "locked": true, "reason": "..."}}`. A file with any fault counts as a whole as not
 /// there. The types are the modules', so all this is settled only when they have offered their defaults.
-class ORLO_SDK_EXPORT olSiteDefaults
+class ORLO_HOST_EXPORT olSiteDefaults
 {
 public:
     /// The default that a module offered for a key; empty where none did.

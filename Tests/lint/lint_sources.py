@@ -45,7 +45,7 @@ def recorded_faults(root):
     marks = root / "Apps/orlo/olRecordedOnly.cpp"
     names = re.findall(r'QStringLiteral\("(\w+)"\)', marks.read_text())
     state = (root / "Sdk/State/olHostState.h").read_text()
-    readers = [path for folder in ("Host/Viewport", "Apps/orlo") for path in sorted((root / folder).glob("*.cpp"))]
+    readers = [path for folder in ("Scene", "Apps/orlo") for path in sorted((root / folder).rglob("*.cpp"))]
     texts = {path: path.read_text() for path in readers if path != marks}
     for name in names:
         if f'"{name}"' not in state:

@@ -4,9 +4,9 @@
 #include "olImportDialog.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Model/olScene.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 
 #include <TDocStd_Document.hxx>
 

@@ -1,8 +1,8 @@
 #include "WindowTest.h"
 
+#include "Model/olScene.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 
 #include <QTest>
 

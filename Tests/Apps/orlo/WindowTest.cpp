@@ -2,9 +2,9 @@
 
 #include "Support/PictureDifference.h"
 
+#include "Model/olScene.h"
 #include "State/olHostState.h"
-#include "Viewport/olScene.h"
-#include "Viewport/olViewport.h"
+#include "View/olViewport.h"
 
 #include <QDropEvent>
 #include <QMenuBar>

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "State/olImportRecord.h"
+
+#include <QString>
+
+#include <vector>
+
+/// What one import goes by: the file and everything that was set for its format when the import began, so that it can
+/// be read in any thread while the preferences change.
+struct olImportJob {
+    /// As the preferences are now; to be called in the GUI thread.
+    static olImportJob of(const QString &file);
+
+    QString file;
+    olImportRecord options;
+    bool verify = true;
+    bool optimize = false;
+    bool centerInOrigin = false;
+    bool putOnGround = false;
+
+    /// Where files may be left while reading; the system's own place where none is set.
+    QString temporaryDirectory;
+
+    /// Where textures are searched that do not lie where the model says.
+    std::vector<std::string> textureDirectories;
+};

@@ -1,0 +1,208 @@
+#include "Exchange/olPartChanges.h"
+
+#include "Model/olMeshTools.h"
+
+#include <BRepBuilderAPI_Sewing.hxx>
+#include <BRepCheck_Analyzer.hxx>
+#include <BRepLib.hxx>
+#include <BRepTools_ReShape.hxx>
+#include <BRep_Builder.hxx>
+#include <BRep_Tool.hxx>
+#include <Geom_Surface.hxx>
+#include <Poly_Triangulation.hxx>
+#include <ShapeBuild_ReShape.hxx>
+#include <ShapeFix_Shape.hxx>
+#include <ShapeFix_Shell.hxx>
+#include <TopExp.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopLoc_Location.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Compound.hxx>
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+namespace
+{
+
+bool isMesh(const TopoDS_Face &face)
+{
+    TopLoc_Location location;
+    return BRep_Tool::Surface(face, location).IsNull();
+}
+
+std::vector<TopoDS_Face> facesOf(const TopoDS_Shape &shape)
+{
+    TopTools_IndexedMapOfShape map;
+    TopExp::MapShapes(shape, TopAbs_FACE, map);
+    std::vector<TopoDS_Face> faces;
+    for (int index = 1; index <= map.Extent(); ++index)
+        faces.push_back(TopoDS::Face(map(index)));
+    return faces;
+}
+
+std::vector<TopoDS_Shape> freeEdgesOf(const TopoDS_Shape &shape)
+{
+    std::vector<TopoDS_Shape> edges;
+    for (TopExp_Explorer each(shape, TopAbs_EDGE, TopAbs_FACE); each.More(); each.Next())
+        edges.push_back(each.Current());
+    return edges;
+}
+
+bool hasMeshes(const std::vector<TopoDS_Face> &faces) { return std::any_of(faces.begin(), faces.end(), isMesh); }
+
+TopoDS_Compound compoundOf(const std::vector<TopoDS_Shape> &shapes)
+{
+    TopoDS_Compound compound;
+    BRep_Builder builder;
+    builder.MakeCompound(compound);
+    for (const TopoDS_Shape &shape : shapes)
+        builder.Add(compound, shape);
+    return compound;
+}
+
+void apply(olChangedPart &part, const Handle(BRepTools_ReShape) & change)
+{
+    part.shape = change->Apply(part.shape);
+    part.changes.push_back(change);
+}
+
+} // namespace
+
+void olPartChanges::keepOnly(olChangedPart &part, const Kinds &wanted)
+{
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    bool isAnythingKept = false;
+    bool isAnythingRemoved = false;
+    const auto decide = [&](const TopoDS_Shape &piece, bool keep) {
+        (keep ? isAnythingKept : isAnythingRemoved) = true;
+        if (!keep)
+            change->Remove(piece);
+    };
+    for (const TopoDS_Face &face : facesOf(part.shape))
+        decide(face, isMesh(face) ? wanted.meshes : wanted.surfaces);
+    for (const TopoDS_Shape &edge : freeEdgesOf(part.shape))
+        decide(edge, wanted.curves);
+
+    // Where nothing stays, what would be left are empty shells around nothing.
+    if (!isAnythingKept)
+        part.shape.Nullify();
+    else if (isAnythingRemoved)
+        apply(part, change);
+}
+
+void olPartChanges::stitch(olChangedPart &part, double tolerance)
+{
+    const std::vector<TopoDS_Face> faces = facesOf(part.shape);
+    const bool hasSolids = TopExp_Explorer(part.shape, TopAbs_SOLID).More();
+    if (faces.size() < 2 || hasSolids || hasMeshes(faces) || !(tolerance > 0))
+        return;
+    BRepBuilderAPI_Sewing sewing(tolerance);
+    for (const TopoDS_Face &face : faces)
+        sewing.Add(face);
+    sewing.Perform();
+    // Small faces vanish between borders that are joined; a gap is better than a hole.
+    if (sewing.SewedShape().IsNull() || facesOf(sewing.SewedShape()).size() < faces.size())
+        return;
+    std::vector<TopoDS_Shape> pieces = freeEdgesOf(part.shape);
+    pieces.push_back(sewing.SewedShape());
+    part.shape = pieces.size() == 1 ? pieces.front() : compoundOf(pieces);
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    for (const TopoDS_Face &face : faces) {
+        const TopoDS_Shape now = sewing.Modified(face);
+        if (!now.IsNull() && !now.IsSame(face))
+            change->Replace(face, now);
+    }
+    part.changes.push_back(change);
+}
+
+void olPartChanges::repair(olChangedPart &part)
+{
+    if (isSound(part.shape))
+        return;
+    ShapeFix_Shape fix(part.shape);
+    if (!fix.Perform() || fix.Shape().IsNull())
+        return;
+    part.shape = fix.Shape();
+    part.changes.emplace_back(fix.Context());
+}
+
+bool olPartChanges::isSound(const TopoDS_Shape &shape)
+{
+    return hasMeshes(facesOf(shape)) || BRepCheck_Analyzer(shape).IsValid();
+}
+
+void olPartChanges::unifyNormals(olChangedPart &part)
+{
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    bool isChanged = false;
+    for (TopExp_Explorer each(part.shape, TopAbs_SOLID); each.More(); each.Next()) {
+        TopoDS_Solid solid = TopoDS::Solid(each.Current());
+        if (!hasMeshes(facesOf(solid)))
+            BRepLib::OrientClosedSolid(solid);
+        if (solid.IsEqual(each.Current()))
+            continue;
+        change->Replace(each.Current(), solid);
+        isChanged = true;
+    }
+    for (TopExp_Explorer each(part.shape, TopAbs_SHELL, TopAbs_SOLID); each.More(); each.Next()) {
+        ShapeFix_Shell fix;
+        if (hasMeshes(facesOf(each.Current())) || !fix.FixFaceOrientation(TopoDS::Shell(each.Current())))
+            continue;
+        change->Replace(each.Current(), fix.Shape());
+        isChanged = true;
+    }
+    for (const TopoDS_Face &face : facesOf(part.shape)) {
+        TopLoc_Location location;
+        if (isMesh(face))
+            olMeshTools::orientAlike(BRep_Tool::Triangulation(face, location));
+    }
+    if (isChanged)
+        apply(part, change);
+}
+
+void olPartChanges::mergeMeshes(olChangedPart &part, const std::function<std::string(const TopoDS_Shape &)> &lookOf)
+{
+    std::map<std::string, std::vector<TopoDS_Face>> groups;
+    std::vector<TopoDS_Shape> pieces;
+    const std::vector<TopoDS_Face> faces = facesOf(part.shape);
+    // A part that also has surfaces keeps its shells and solids as they are.
+    if (faces.size() < 2 || !std::all_of(faces.begin(), faces.end(), isMesh))
+        return;
+    for (const TopoDS_Face &face : faces)
+        groups[lookOf(face)].push_back(face);
+
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    for (const auto &[look, alike] : groups) {
+        const TopoDS_Face merged = alike.size() == 1 ? alike.front() : olMeshTools::merged(alike);
+        pieces.push_back(merged);
+        for (const TopoDS_Face &face : alike) {
+            if (!face.IsSame(merged))
+                change->Replace(face, merged);
+        }
+    }
+    for (const TopoDS_Shape &edge : freeEdgesOf(part.shape))
+        pieces.push_back(edge);
+    part.shape = compoundOf(pieces);
+    part.changes.push_back(change);
+}
+
+void olPartChanges::dropSurfaces(olChangedPart &part)
+{
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    std::vector<TopoDS_Shape> pieces;
+    for (const TopoDS_Face &face : facesOf(part.shape)) {
+        const TopoDS_Face mesh = isMesh(face) ? face : olMeshTools::withoutSurface(face);
+        if (mesh.IsNull())
+            continue;
+        pieces.push_back(mesh);
+        if (!mesh.IsSame(face))
+            change->Replace(face, mesh);
+    }
+    for (const TopoDS_Shape &edge : freeEdgesOf(part.shape))
+        pieces.push_back(edge);
+    part.shape = compoundOf(pieces);
+    part.changes.push_back(change);
+}

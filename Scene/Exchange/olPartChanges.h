@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Model/olDocumentCopy.h"
+
+/// What the import options do to one part.
+namespace olPartChanges
+{
+
+struct Kinds {
+    bool surfaces = true;
+    bool meshes = true;
+    bool curves = true;
+};
+
+/// Takes the kinds out that are not wanted; the shape becomes null where nothing is left.
+void keepOnly(olChangedPart &part, const Kinds &wanted);
+
+/// Joins faces whose borders lie within the tolerance of each other, in millimetres. Solids are joined already.
+void stitch(olChangedPart &part, double tolerance);
+
+/// Repairs what the check finds broken in surfaces.
+void repair(olChangedPart &part);
+
+/// Whether the check finds the surfaces sound.
+[[nodiscard]] bool isSound(const TopoDS_Shape &shape);
+
+/// Turns faces, and the triangles of meshes, so that neighbours face the same way and solids face outward.
+void unifyNormals(olChangedPart &part);
+
+/// Makes one mesh of all meshes of the part that look the same: `lookOf` gives equal texts for equal looks.
+void mergeMeshes(olChangedPart &part, const std::function<std::string(const TopoDS_Shape &)> &lookOf);
+
+/// Leaves the triangles only.
+void dropSurfaces(olChangedPart &part);
+
+} // namespace olPartChanges

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "View/olPictureMean.h"
+#include "View/olPictureTarget.h"
+#include "View/olSceneView.h"
+#include "View/olStillFrame.h"
+
+/// Makes frames of a view: from one picture, or from the mean of as many as antialiasing, stereo and a still frame
+/// need. The context must be current in every call.
+class olFrameMaker
+{
+public:
+    /// How the view is looked at, beyond what the host's state says.
+    struct Manner {
+        bool isMoving = false;   ///< The camera is on its way, and speed counts.
+        bool isAnaglyph = false; ///< For glasses with a red and a cyan side.
+    };
+
+    /// Each is false where nothing could be drawn.
+    [[nodiscard]] bool draw(olSceneView &view, olPictureTarget &target, const QSize &size, const Manner &manner);
+
+    /// A still frame takes shape from call to call, while nothing else may be drawn.
+    [[nodiscard]] bool drawStill(olSceneView &view, olPictureTarget &target, const Manner &manner, olStillFrame &still);
+
+    /// Gives everything back to the context.
+    void release();
+
+private:
+    [[nodiscard]] bool addPicture(olSceneView &view, const QSize &size, const Manner &manner,
+                                  const olSceneView::Frame &frame);
+
+    olPictureTarget m_picture;
+    olPictureMean m_mean;
+};

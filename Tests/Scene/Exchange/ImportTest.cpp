@@ -1,0 +1,120 @@
+#include "Scene/Exchange/ImportTest.h"
+
+#include "Exchange/olExportScene.h"
+#include "Model/olLibraryMessages.h"
+#include "Model/olTriangles.h"
+#include "State/olHostState.h"
+
+#include <BRepBndLib.hxx>
+#include <Bnd_Box.hxx>
+#include <Quantity_ColorRGBA.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDocStd_Document.hxx>
+#include <TopLoc_Location.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
+
+#include <QFile>
+
+namespace
+{
+
+QString colourText(const olScene::Document &document, const TDF_Label &label)
+{
+    Quantity_ColorRGBA color;
+    const Handle(XCAFDoc_ColorTool) colors = XCAFDoc_DocumentTool::ColorTool(document->Main());
+    const Handle(XCAFDoc_VisMaterialTool) materials = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
+    const Handle(XCAFDoc_VisMaterial) material = materials->GetShapeMaterial(label);
+    if (!material.IsNull())
+        color = material->BaseColor();
+    else if (!colors->GetColor(label, XCAFDoc_ColorSurf, color) && !colors->GetColor(label, XCAFDoc_ColorGen, color))
+        return {};
+    return QString::asprintf(" %.2f %.2f %.2f %.2f", color.GetRGB().Red(), color.GetRGB().Green(),
+                             color.GetRGB().Blue(), double(color.Alpha()));
+}
+
+} // namespace
+
+Outline::Outline(const olScene::Document &document) : triangles(olTriangles::count(document))
+{
+    const Handle(XCAFDoc_ShapeTool) shapes = XCAFDoc_DocumentTool::ShapeTool(document->Main());
+    TDF_LabelSequence labels;
+    shapes->GetShapes(labels);
+    for (const TDF_Label &label : labels) {
+        names << olNameOf(label);
+        TDF_LabelSequence components;
+        XCAFDoc_ShapeTool::GetComponents(label, components);
+        for (const TDF_Label &component : components)
+            names << olNameOf(component);
+        if (!XCAFDoc_ShapeTool::IsSimpleShape(label))
+            continue;
+        ++parts;
+        TDF_LabelSequence pieces;
+        XCAFDoc_ShapeTool::GetSubShapes(label, pieces);
+        pieces.Prepend(label);
+        for (const TDF_Label &piece : pieces) {
+            const QString colour = colourText(document, piece);
+            if (!colour.isEmpty())
+                colours << olNameOf(label) + colour;
+        }
+    }
+    names.sort();
+    names.removeDuplicates();
+    colours.sort();
+    colours.removeDuplicates();
+
+    Bnd_Box box;
+    labels.Clear();
+    shapes->GetFreeShapes(labels);
+    for (const TDF_Label &label : labels)
+        BRepBndLib::Add(XCAFDoc_ShapeTool::GetShape(label), box);
+    if (!box.IsVoid())
+        box.Get(low[0], low[1], low[2], high[0], high[1], high[2]);
+}
+
+ImportTest::ImportTest()
+{
+    olHostState::the().reset();
+    m_scene.loadSample();
+}
+
+QString ImportTest::exported(const QString &name)
+{
+    const QString file = path(name);
+    EXPECT_EQ(olExportScene(m_scene.document(), file).error.toStdString(), "");
+    return file;
+}
+
+QString ImportTest::written(const QString &name, const QByteArray &content) const
+{
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(file.write(content), content.size());
+    return file.fileName();
+}
+
+QByteArray ImportTest::contentOf(const QString &name)
+{
+    QFile file(name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+olScene::Document ImportTest::imported(const olImportJob &job)
+{
+    const olImportResult result = olImport(job);
+    EXPECT_EQ(result.error.toStdString(), "");
+    EXPECT_FALSE(result.document.IsNull());
+    return result.document.IsNull() ? olScene::newDocument() : result.document;
+}
+
+QString ImportTest::faultOf(const QString &file)
+{
+    const olImportResult result = olImport(olImportJob::of(file));
+    EXPECT_TRUE(result.document.IsNull());
+    EXPECT_TRUE(result.error.contains(file)) << qPrintable(result.error);
+    return result.error;
+}

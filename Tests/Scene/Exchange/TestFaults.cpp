@@ -1,0 +1,115 @@
+#include "Scene/Exchange/ImportTest.h"
+
+#include <QFile>
+
+#include <unistd.h>
+
+namespace
+{
+
+using Fault = ImportTest;
+
+/// A file that is none, or not whole, and what the one message says of it.
+struct Broken {
+    const char *name;
+    QByteArray content;
+    const char *reason;
+};
+
+QByteArray vrml(const char *body) { return QByteArray("#VRML V2.0 utf8\n") + body; }
+
+QByteArray triangle(const char *indices)
+{
+    return vrml("Shape { geometry IndexedFaceSet { coord Coordinate { point [0 0 0, 1 0 0, 1 1 0] } coordIndex [") +
+           indices + "] } }\n";
+}
+
+/// One triangle; what of it is announced wrongly is up to the row.
+QByteArray gltf(const char *buffer, const char *points)
+{
+    return QByteArray(R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],"nodes":[{"mesh":0}],)"
+                      R"("meshes":[{"primitives":[{"attributes":{"POSITION":0}}]}],"buffers":[{)") +
+           buffer + R"(}],"bufferViews":[{"buffer":0,"byteLength":36}],"accessors":[{"bufferView":0,"count":)" +
+           points + R"(,"componentType":5126,"type":"VEC3","min":[0,0,0],"max":[1,1,0]}]})";
+}
+
+const char points[] = "v 0 0 0\nv 1 0 0\nv 1 1 0\n";
+
+const QVector<Broken> &brokenFiles()
+{
+    static const QVector<Broken> files{
+        {"index.obj", QByteArray(points) + "f 1 2 4\n", "in line 4 a face refers to a point that is not there"},
+        {"back.obj", QByteArray(points) + "f -1 -2 -4\n", "refers to a point"},
+        {"corner.obj", QByteArray(points) + "f 1 2 3\nf 1 2", "in line 5 a face has fewer than three corners"},
+        {"coordinate.obj", QByteArray(points) + "f 1 2 3\nv 0.5 1", "in line 5 a point lacks a coordinate"},
+        {"end.obj", QByteArray(points) + "f 1 2 3\nv 0.5 1 2", "it ends within its points"},
+        {"faceless.obj", points, "no geometry"},
+        {"count.stl", QByteArray(80, ' ') + "\xff\xff\xff\xff" + QByteArray(50, '\0'), "cut off"},
+        {"number.stl", "solid\nfacet normal 0 0 1\nouter loop\nvertex a b c\nendsolid\n", "Cannot read"},
+        {"index.wrl", triangle("0,1,7,-1"), "refers to a point that is not there"},
+        {"below.wrl", triangle("0,1,-9,-1"), "Cannot read"},
+        {"open.wrl", vrml("Group { children [\n"), "line"},
+        {"inline.wrl", vrml("Inline { url \"none.wrl\" }\n"), "a file that it refers to cannot be opened"},
+        {"old.wrl", "#VRML V1.0 ascii\n", "version 1"},
+        {"part.gltf", gltf(R"("uri":"none.bin","byteLength":36)", "3"), "the file none.bin"},
+        {"short.gltf", gltf(R"("uri":"part.gltf","byteLength":1e9)", "3"),
+         "the file part.gltf that it refers to is cut"},
+        {"count.gltf", gltf(R"("uri":"data:;base64,AAAA","byteLength":36)", "4000000000"), "announces more"},
+        {"view.gltf", gltf(R"("uri":"data:;base64,AAAA","byteLength":3)", "3"), "beyond its end"},
+        {"data.gltf", gltf(R"("uri":"data:application/octet-stream;base64,AAAA","byteLength":36)", "3"), "damaged"},
+        {"bare.step", "ISO-10303-21;\nHEADER;\nENDSEC;\nDATA;\nENDSEC;\nEND-ISO-10303-21;\n", "Cannot read"},
+        {"link.step",
+         "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('X'));\nENDSEC;\nDATA;\n#1=SHAPE(#9,#8);\nENDSEC;\nEND-ISO-10303-21;\n",
+         "Cannot read"},
+        {"bare.igs", QByteArray(72, ' ') + "S      1\n" + QByteArray(72, ' ') + "T      1\n", "Cannot read"},
+    };
+    return files;
+}
+
+} // namespace
+
+TEST_F(Fault, OneMessageNamesTheFileAndTheReason)
+{
+    for (const Broken &broken : brokenFiles()) {
+        SCOPED_TRACE(broken.name);
+        const QString fault = faultOf(written(QLatin1String(broken.name), broken.content));
+        EXPECT_TRUE(fault.contains(QLatin1String(broken.reason))) << qPrintable(fault);
+        EXPECT_EQ(fault.count(QLatin1Char('\n')), 0);
+    }
+}
+
+TEST_F(Fault, NoFormatIsReadFromEmptyForeignCutHugeOrLockedFiles)
+{
+    for (const char *suffix : {"step", "stp", "igs", "iges", "stl", "wrl", "vrml", "obj", "gltf", "glb"}) {
+        SCOPED_TRACE(suffix);
+        const QString end = QLatin1Char('.') + QLatin1String(suffix);
+        EXPECT_TRUE(faultOf(path(QStringLiteral("none") + end)).contains(QStringLiteral("no such file")));
+        EXPECT_TRUE(faultOf(written(QStringLiteral("empty") + end, {})).contains(QStringLiteral("empty")));
+        EXPECT_FALSE(faultOf(written(QStringLiteral("noise") + end, QByteArray(5000, '\x7f'))).isEmpty());
+        const QByteArray whole = contentOf(exported(QStringLiteral("whole") + end));
+        EXPECT_FALSE(faultOf(written(QStringLiteral("cut") + end, whole.left(whole.size() * 2 / 3))).isEmpty());
+
+        QFile file(path(QStringLiteral("whole") + end));
+        file.setPermissions({});
+        // Nothing is locked for the administrator.
+        if (geteuid() != 0) {
+            EXPECT_TRUE(faultOf(file.fileName()).contains(QStringLiteral("ermission")));
+        }
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        // A file with a hole takes no place on the disk.
+        if (file.resize(qint64(1) << 42)) {
+            EXPECT_TRUE(faultOf(file.fileName()).contains(QStringLiteral("too large")));
+        }
+    }
+}
+
+TEST_F(Fault, OtherSuffixesHaveNoReaderAndTheMessageSaysWhichHave)
+{
+    for (const char *suffix : {"mrb", "kbx", "osb", "opb", "jt", "CATPart", "3dm", "prt", "dgn", "plmxml"}) {
+        const QString file = written(QStringLiteral("m.") + QLatin1String(suffix), "content");
+        EXPECT_EQ(faultOf(file), QStringLiteral("Cannot read %1: there is no reader for .%2 files. These can be read: "
+                                                "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb.")
+                                     .arg(file, QLatin1String(suffix)));
+    }
+    EXPECT_TRUE(faultOf(written(QStringLiteral("none"), "content")).contains(QStringLiteral("without a suffix")));
+}

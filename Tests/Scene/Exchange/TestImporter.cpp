@@ -1,0 +1,141 @@
+#include "Scene/Exchange/ImportTest.h"
+
+#include "Exchange/olImportReaders.h"
+#include "Exchange/olImporter.h"
+#include "State/olHostState.h"
+
+#include <TDocStd_Document.hxx>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QMap>
+#include <QTimer>
+
+#include <algorithm>
+#include <future>
+
+namespace
+{
+
+constexpr int patience = 120000;
+
+class Importer : public ImportTest
+{
+protected:
+    Importer()
+    {
+        QObject::connect(&m_importer, &olImporter::finished,
+                         [this](int import, const QVector<olImportReport> &reports) { m_ended[import] = reports; });
+    }
+
+    /// Until all that was started is through.
+    void wait()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (m_importer.isRunning() && timer.elapsed() < patience)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        ASSERT_FALSE(m_importer.isRunning());
+    }
+
+    std::vector<olImportJob> jobs(std::initializer_list<const char *> names)
+    {
+        std::vector<olImportJob> all;
+        for (const char *name : names)
+            all.push_back(olImportJob::of(exported(QLatin1String(name))));
+        return all;
+    }
+
+    olImporter m_importer{m_scene};
+    QMap<int, QVector<olImportReport>> m_ended;
+};
+
+} // namespace
+
+TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
+{
+    const olScene::Document before = m_scene.document();
+    const std::vector<olImportJob> good = jobs({"good.step"});
+    const int bad = m_importer.start(written(QStringLiteral("bad.step"), "no"));
+    wait();
+    EXPECT_FALSE(m_ended.value(bad).first().error.isEmpty());
+    EXPECT_EQ(m_scene.document(), before);
+
+    const int given = m_importer.start(good);
+    m_importer.cancel(given);
+    wait();
+    EXPECT_TRUE(m_ended.value(given).first().isCancelled);
+    EXPECT_EQ(m_scene.document(), before);
+
+    std::vector<olImportJob> mixed = jobs({"a.stl"});
+    mixed.push_back(olImportJob::of(written(QStringLiteral("bad.obj"), "f 1 2 3\n")));
+    const int partly = m_importer.start(mixed);
+    wait();
+    EXPECT_TRUE(m_ended.value(partly).first().error.isEmpty());
+    EXPECT_TRUE(m_ended.value(partly).last().error.contains(QStringLiteral("bad.obj")));
+    EXPECT_EQ(Outline(m_scene.document()).names, QStringList{QStringLiteral("a")}) << "the good one is not lost";
+}
+
+TEST_F(Importer, FilesOfOneImportMakeOneSceneInTheirOrderHoweverManyAreReadAtOnce)
+{
+    const std::vector<olImportJob> files = jobs({"a.glb", "b.stl", "c.step", "d.igs", "e.obj", "f.wrl"});
+    QVector<unsigned> triangles;
+    for (const int tasks : {1, 4, 0, -1}) {
+        olHostState::the().maxParallelImportTasks = tasks;
+        const int import = m_importer.start(files);
+        wait();
+        ASSERT_EQ(m_ended.value(import).size(), int(files.size()));
+        for (std::size_t index = 0; index < files.size(); ++index)
+            EXPECT_EQ(m_ended.value(import).at(int(index)).file, files[index].file);
+        triangles << m_scene.triangleCount();
+    }
+    unsigned alone = 0;
+    for (const olImportJob &job : files)
+        alone += Outline(imported(job)).triangles;
+    EXPECT_EQ(triangles, QVector<unsigned>(4, alone));
+}
+
+TEST_F(Importer, TheGuiThreadGoesOnWhileFilesAreRead)
+{
+    olHostState::the().maxParallelImportTasks = 1;
+    std::vector<olImportJob> files = jobs({"a.step"});
+    files.front().options.chordDeviation = 0.02;
+    files.front().options.normalTolerance = 5;
+    qint64 longest = 0;
+    QElapsedTimer since;
+    QTimer tick;
+    QObject::connect(&tick, &QTimer::timeout, [&] { longest = qMax(longest, since.restart()); });
+    QVector<int> percents;
+    QObject::connect(&m_importer, &olImporter::progressed, [&](int, int percent) { percents << percent; });
+    tick.start(5);
+    since.start();
+    m_importer.start(files);
+    wait();
+    EXPECT_LT(longest, 1000);
+    EXPECT_GT(percents.size(), 2);
+    EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
+}
+
+TEST_F(Importer, OnlyOneStepOrIgesFileIsReadAtATime)
+{
+    const std::vector<olImportJob> files = jobs({"a.step", "b.igs", "c.stl"});
+    const auto read = [](const olImportJob &job) {
+        return std::async(std::launch::async, [job] { return olImport(job).isGood(); });
+    };
+    std::vector<std::future<bool>> all;
+    {
+        const olExchangeLock lock;
+        all.push_back(read(files[0]));
+        all.push_back(read(files[1]));
+        EXPECT_TRUE(read(files[2]).get());
+        for (const std::future<bool> &each : all)
+            EXPECT_EQ(each.wait_for(std::chrono::seconds(1)), std::future_status::timeout);
+    }
+    // At once and over and over: without the lock this crashes.
+    for (int round = 0; round < 4; ++round) {
+        all.push_back(read(files[0]));
+        all.push_back(read(files[1]));
+    }
+    for (std::future<bool> &each : all)
+        EXPECT_TRUE(each.get());
+}
