@@ -1,3 +1,4 @@
+#include "Host/Store/StoreTest.h"
 #include "Kernel/olPreferences.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesCategory.h"
@@ -8,7 +9,6 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
-#include "Host/Store/StoreTest.h"
 #include "Utilities/olMessage.h"
 
 #include <QFile>
