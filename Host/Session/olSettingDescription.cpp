@@ -156,7 +156,7 @@ QString olSettingDescription::whyNot(const boost::any &value) const
 boost::any olSettingDescription::fromTyped(const QString &typed) const
 {
     boost::any value = olValue::fromTyped(type, typed);
-    for (const char *other : {"bool", "int", "double"}) {
+    for (const char *other : {"bool", "int", "double", "floats", "colors"}) {
         if (value.empty())
             value = olValue::fromJson(other, typed.toUtf8());
     }

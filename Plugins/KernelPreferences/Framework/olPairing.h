@@ -46,9 +46,8 @@ public:
     [[nodiscard]] virtual bool takeIfChanged() const { return true; }
     virtual void take() const {}
 
-    /// The control alone.
+    /// What the control holds.
     [[nodiscard]] virtual QVariant value() const { return {}; }
-    [[nodiscard]] virtual bool setValue(const QVariant &) const { return false; }
 
     /// What the setting is; see olSettingAccess. Empty for one that is no more than a key.
     [[nodiscard]] virtual QVariantMap describe() const { return {}; }
@@ -143,15 +142,6 @@ public:
     void take() const override { Store::write(this->setting(), taken()); }
 
     [[nodiscard]] QVariant value() const override { return toVariant(taken()); }
-    [[nodiscard]] bool setValue(const QVariant &variant) const override
-    {
-        T value{};
-        if (!fromVariant(variant, value))
-            return false;
-        showOn(m_control, value);
-        return true;
-    }
-
     [[nodiscard]] QVariantMap describe() const override
     {
         QVariantMap description = olUnshownSetting<T, Store>::describe();

@@ -23,12 +23,6 @@ QVariant olSettingAccess::value(const QString &key) const
     return setting && setting->widget() ? setting->value() : QVariant();
 }
 
-bool olSettingAccess::setValue(const QString &key, const QVariant &value) const
-{
-    const olListedSetting *setting = m_settings.find(key.toStdString());
-    return setting && setting->widget() && setting->setValue(value);
-}
-
 QVariantMap olSettingAccess::describe(const QString &key) const
 {
     const olListedSetting *setting = m_settings.find(key.toStdString());

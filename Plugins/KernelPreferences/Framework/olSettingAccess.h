@@ -25,9 +25,6 @@ public:
     /// What the setting's control holds; invalid for a key that no control of the page edits.
     Q_INVOKABLE QVariant value(const QString &key) const;
 
-    /// Shows a value in the control. False, with nothing shown, for a key without one and for a value of another type.
-    Q_INVOKABLE bool setValue(const QString &key, const QVariant &value) const;
-
     /// What the setting is: "type" (as the host names it), "default" (not there for a list that is absent by default),
     /// "minimum", "maximum", "decimals", "unit", "maximumLength" (where it has such), "choices" (a list of maps with
     /// "value" and "text"; with "editable" other values can be typed too), "effect" ("now", "next import", "next
