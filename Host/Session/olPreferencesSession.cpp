@@ -367,6 +367,16 @@ olSettingDescription olPreferencesSession::description(const std::string &key)
     return module ? olSettingDescription::of(*module, key) : olSettingDescription();
 }
 
+QString olPreferencesSession::origin(const std::string &key) const
+{
+    const auto site = m_site.settings().find(key);
+    const bool isGiven = site != m_site.settings().end();
+    const bool isStored = m_stored.count({olHome::Record, key}) != 0 || m_stored.count({olHome::Service, key}) != 0;
+    if (isStored && !(isGiven && site->second.locked))
+        return QStringLiteral("stored");
+    return isGiven ? QStringLiteral("site") : QStringLiteral("default");
+}
+
 QString olPreferencesSession::whyNot(const std::string &key, const boost::any &value) const
 {
     if (const auto reason = lockReason(key))

@@ -88,6 +88,9 @@ public:
     /// What a setting is; without a type where no module has it.
     [[nodiscard]] static olSettingDescription description(const std::string &key);
 
+    /// Where the value in force comes from: "stored" by a person, from the "site", or the module's "default".
+    [[nodiscard]] QString origin(const std::string &key) const;
+
     /// Why a setting may not be given the value, as what follows its key in a sentence: it is not known or locked, or
     /// the value is of another type, out of its range, none of its choices or too long. Empty where it may. What is
     /// by default, of the site or the module, always may.
