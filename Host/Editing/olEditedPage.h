@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Editing/olFieldGuard.h"
 #include "Session/olModuleAccess.h"
 #include "Session/olPreferencesSession.h"
 
@@ -29,6 +30,9 @@ public:
 
     /// Fills the page with the values in force.
     void fill();
+
+    /// Gives fields that do not read as a number their last one back: before the page is taken back.
+    void finishTyping() { m_guard.restoreUnfinished(); }
 
     /// Takes what the page shows for what it was filled with: after the values were applied.
     void settle();
@@ -73,6 +77,7 @@ private:
     const olPreferencesSession &m_session;
     olPreferencesEntry &m_entry;
     olModuleAccess m_access;
+    olFieldGuard m_guard;
     std::vector<std::string> m_keys;
     std::map<std::string, QPointer<QWidget>> m_controls;
     std::map<std::string, std::string> m_types;

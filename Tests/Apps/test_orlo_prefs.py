@@ -11,6 +11,8 @@ import shutil
 import subprocess
 import unittest
 
+import jsonschema
+
 from tool_test import SECONDS, ToolTest, main
 
 CAMERA_KEYS = ["Camera fov", "Stereo eye separation", "Stereo zero plane parallaxe", "Powerwall width",
@@ -29,7 +31,36 @@ class List(ToolTest):
         self.assertEqual(list(camera), ["name", "category", "class", "page", "settings"])
         self.assertEqual((camera["category"], camera["class"], camera["page"]), ("", "olCameraPreferencesGUII", True))
         self.assertEqual([setting["key"] for setting in camera["settings"]], CAMERA_KEYS)
-        self.assertEqual(camera["settings"][0], {"key": "Camera fov", "type": "float", "default": 45, "value": 45})
+        self.assertEqual(camera["settings"][0], {
+            "key": "Camera fov", "type": "float", "default": 45, "value": 45, "minimum": 1, "maximum": 100, "unit": "°",
+            "effect": "now", "label": "Field of View", "tooltip": "Vertical opening angle of the camera, in degrees",
+            "path": ["Base"], "recorded": False, "locked": False, "origin": "default"})
+
+    def test_json_tells_all_that_a_setting_knows_of_itself(self):
+        settings = {setting["key"]: setting for module in self.modules().values() for setting in module["settings"]}
+        self.assertEqual(settings["Interaction mode"]["choices"],
+                         [{"value": 0, "text": "ORLO"}, {"value": 1, "text": "Contura"}, {"value": 2, "text": "Mirra"}])
+        self.assertEqual(settings["Navigator dolly speed"]["decimals"], 2)
+        self.assertEqual(settings["MainWindow user language"]["effect"], "next start")
+        self.assertEqual(settings["STEPOptions chord deviation"]["effect"], "next import")
+        for key, recorded in {"Powerwall width": True, "STEPOptions max chord length": True, "JTOptions LOADBREPS": True,
+                              "STEPOptions chord deviation": False, "BCADOptions max parallel tasks": False}.items():
+            self.assertEqual(settings[key]["recorded"], recorded, key)
+        # Without a default it stands last in its module.
+        paths = self.modules()["FileIO"]["settings"][-1]
+        self.assertEqual((paths["key"], paths["type"], paths["default"], paths["value"]), (PATHS, "strings", None, None))
+
+    def test_json_tells_where_a_value_comes_from(self):
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        site.write_text(json.dumps({"Powerwall width": {"value": 7}, "Camera fov": {"value": 60, "locked": True,
+                                                                                   "reason": "One camera."}}))
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        self.stored("set", "Powerwall height", "5")
+        settings = {setting["key"]: setting for setting in self.modules()["Camera"]["settings"]}
+        self.assertEqual([settings[key]["origin"] for key in ("Powerwall width", "Powerwall height", "Powerwall distance",
+                                                              "Camera fov")], ["site", "stored", "default", "site"])
+        self.assertEqual((settings["Camera fov"]["locked"], settings["Camera fov"]["reason"]), (True, "One camera."))
 
     def test_the_smallest_edition_has_the_module_but_not_the_page(self):
         self.assertFalse(self.modules("--edition", "essentials")["Camera"]["page"])
@@ -164,7 +195,6 @@ class Differences(ToolTest):
         self.assert_printed(self.stored("export", file), "")
         exported = file.read_text("utf-8")
         self.assertEqual(self.stored("export").stdout, exported)
-        self.assertNotIn(PATHS, self.stored("list", "--json").stdout)
         self.assert_printed(self.stored("set", PATHS, "[]"), "")
         self.assertNotIn(PATHS, self.stored("export").stdout)
         self.assert_printed(self.stored("import", "-", input=exported), "")
@@ -264,6 +294,34 @@ class Completion(ToolTest):
                                 ("get", "no such"): [""]}.items():
             with self.subTest(words):
                 self.assertEqual(self.completed(*words), expected)
+
+
+class Schema(ToolTest):
+    def test_it_tells_good_files_from_bad_ones(self):
+        validator = jsonschema.Draft7Validator(json.loads(self.stored("schema").stdout))
+        jsonschema.Draft7Validator.check_schema(validator.schema)
+        self.stored("set", PATHS, '["/a"]')
+        self.stored("set", "MainWindow user language", "2")
+        exported = json.loads(self.stored("export").stdout)
+        self.assertEqual(list(validator.iter_errors(exported)), [])
+
+        def settings(key, **members):
+            return {"format": 1, "settings": {key: members}}
+
+        for good in ({}, {"Camera fov": {"value": 60, "locked": True, "reason": "Ours."}},
+                     {"WebInterface enable web server2": {"locked": True}},
+                     settings("MainWindow user language", type="int", value=-1),
+                     settings("MirraFileIO units", type="string", value="furlong")):
+            self.assertTrue(validator.is_valid(good), good)
+        for bad in ({"Camera foz": {"value": 60}}, {"Camera fov": {"value": 500}}, {"Camera fov": {"locked": False}},
+                    {"Camera fov": {"value": 60, "why": "x"}}, {"format": 2, "settings": {}}, {"format": 1},
+                    settings("Camera fov", type="int", value=60), settings("Camera fov", type="float"),
+                    settings("Camera fov", type="float", value="60"), settings("Camera foz", type="float", value=60),
+                    settings("Interaction mode", type="int", value=9),
+                    settings("MainWindow user language", type="int", value=9),
+                    settings("Selection preselection color", type="color", value=[0, 0, 1.5]),
+                    settings("BCADOptions max parallel tasks", type="int", value=1.5)):
+            self.assertFalse(validator.is_valid(bad), bad)
 
 
 class Manual(ToolTest):
