@@ -154,6 +154,27 @@ class Bounds(ToolTest):
         self.assert_refused(self.tool("set", "Camera fov", "500", options=edition),
                             '"Camera fov" cannot be 500: expected a number from 1 to 100')
 
+    def test_every_door_refuses_with_the_same_words(self):
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        for key, type, value, words in (
+                ("Camera fov", "float", 500, "cannot be 500: expected a number from 1 to 100"),
+                ("Navigator dolly axis", "int", 3, "cannot be 3: expected one of 0, 1, 2"),
+                ("Devices joystick id", "int", 100, "cannot be 100: expected a whole number from 0 to 99"),
+                ("FileIO tmp path", "qstring", "x" * 40000,
+                 'cannot be "' + 78 * "x" + "…: expected at most 32767 characters")):
+            with self.subTest(key):
+                site.write_text("{}")
+                self.assert_refused(self.stored("set", key, value), f'"{key}" {words}')
+                result = self.stored("import", "-", input=json.dumps(
+                    {"format": 1, "settings": {key: {"type": type, "value": value}}}))
+                self.assertEqual(result.stderr, f'skipped: "{key}" {words}\n')
+                site.write_text(json.dumps({key: {"value": value}}))
+                self.assertIn(f'line 1: "{key}" {words}.', self.stored("list").stderr)
+        site.write_text("{}")
+        self.assert_printed(self.stored("diff"), "")
+
     def test_what_the_page_asks_about_takes_a_yes(self):
         server = "WebInterface enable web server2"
         refusal = (f'"{server}" is only set with --yes: Do you really want to enable the Web Server? '
