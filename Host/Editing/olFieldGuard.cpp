@@ -37,6 +37,19 @@ bool isSeparator(QChar letter)
     return !letter.isLetterOrNumber() && letter != QLatin1Char('-') && letter != QLatin1Char('+');
 }
 
+/// Whether the field could not go on with what it shows once this is typed. A spin box of whole numbers would pass over
+/// the sign that groups digits and read 1,5 as 15.
+bool isRefused(const QLineEdit &field, const QString &typed)
+{
+    if (spinBoxOf(field))
+        return true;
+    QString text = field.text();
+    int position = field.hasSelectedText() ? field.selectionStart() : field.cursorPosition();
+    text.replace(position, field.selectedText().size(), typed);
+    position += typed.size();
+    return field.validator()->validate(text, position) == QValidator::Invalid;
+}
+
 bool isLeaving(const QFocusEvent &event)
 {
     // The context menu and another window only interrupt the typing.
@@ -60,7 +73,7 @@ void olFieldGuard::watch(QLineEdit &field)
 {
     m_fields[&field].before = field.text();
     connect(&field, &QObject::destroyed, this, [this, gone = &field] { m_fields.remove(gone); });
-    connect(&field, &QLineEdit::inputRejected, this, [this, &field] { rejected(field); });
+    connect(&field, &QLineEdit::inputRejected, this, [this, &field] { mark(field); });
     connect(&field, &QLineEdit::textEdited, this, [this, &field](const QString &text) { edited(field, text); });
     connect(&field, &QLineEdit::textChanged, this, [this, &field](const QString &text) {
         if (!field.isModified())
@@ -79,7 +92,7 @@ bool olFieldGuard::eventFilter(QObject *watched, QEvent *event)
     if (!field || !m_fields.contains(field))
         return false;
     if (event->type() == QEvent::KeyPress)
-        return swallows(*field, static_cast<QKeyEvent *>(event)->text());
+        return takesKey(*field, static_cast<QKeyEvent *>(event)->text());
     if (event->type() == QEvent::FocusIn && !field->isModified())
         m_fields[field].before = field->text();
     if (event->type() == QEvent::FocusOut && isLeaving(*static_cast<QFocusEvent *>(event)))
@@ -87,32 +100,25 @@ bool olFieldGuard::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-/// The rest of a number whose beginning was refused must not become a number of its own.
-bool olFieldGuard::swallows(QLineEdit &field, const QString &typed)
+/// Whether the key goes no further. The rest of a number whose beginning was refused must not become a number of its
+/// own.
+bool olFieldGuard::takesKey(QLineEdit &field, const QString &typed)
 {
     Field &known = m_fields[&field];
-    known.lastKey = typed;
     const bool isPrinted = !typed.isEmpty() && typed.at(0).isPrint();
-    if (!isPrinted || !known.refused.isValid() || known.refused.elapsed() > sameNumber) {
-        known.refused.invalidate();
-        return false;
+    if (isPrinted && known.refused.isValid() && known.refused.elapsed() <= sameNumber) {
+        known.refused.start();
+        return true;
     }
-    known.refused.start();
+    known.refused.invalidate();
+    if (!isPrinted || !isSeparator(typed.at(0)) || !isRefused(field, typed))
+        return false;
+    refuse(field);
     return true;
-}
-
-void olFieldGuard::rejected(QLineEdit &field)
-{
-    const QString key = m_fields[&field].lastKey;
-    if (!key.isEmpty() && isSeparator(key.at(0)) && key.at(0).isPrint())
-        refuse(field);
-    else
-        mark(field);
 }
 
 void olFieldGuard::edited(QLineEdit &field, const QString &text)
 {
-    // A spin box of whole numbers would pass over the sign that groups digits and read 1,5 as 15.
     if (spinBoxOf(field) && std::any_of(text.begin(), text.end(), isSeparator))
         refuse(field);
     else

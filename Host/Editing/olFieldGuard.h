@@ -30,19 +30,17 @@ public:
 private:
     struct Field {
         QString before;         ///< what it showed before the typing began
-        QString lastKey;        ///< what the last key would have typed
         QElapsedTimer refused;  ///< runs while what follows on a refused key is refused too
         QPointer<QAction> mark; ///< while it is marked
     };
 
     void watch(QLineEdit &field);
     void edited(QLineEdit &field, const QString &text);
-    void rejected(QLineEdit &field);
     void refuse(QLineEdit &field);
     void restore(QLineEdit &field);
     void mark(QLineEdit &field);
     void clearMark(QLineEdit &field);
-    [[nodiscard]] bool swallows(QLineEdit &field, const QString &typed);
+    [[nodiscard]] bool takesKey(QLineEdit &field, const QString &typed);
     [[nodiscard]] QString expectation(const QLineEdit &field) const;
 
     const olPreferencesEntry &m_entry;
