@@ -6,6 +6,7 @@
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
 #include "Model/olScene.h"
+#include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
@@ -117,7 +118,7 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.fillDefaults();
@@ -152,7 +153,7 @@ int run(const QCommandLineParser &options)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
-    const QString given = options.value(QStringLiteral("store"));
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
     olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
     const QString storeError = session.loadStore();
     if (!storeError.isEmpty())
@@ -162,7 +163,7 @@ int run(const QCommandLineParser &options)
         return startAndRunBatch(session, options);
 
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.start();

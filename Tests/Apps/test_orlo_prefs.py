@@ -5,9 +5,11 @@
 """
 
 import json
+import os
 import pathlib
 import re
 import shutil
+import stat
 import subprocess
 import unittest
 
@@ -106,6 +108,16 @@ class GetAndSet(ToolTest):
                 with self.subTest((key, given)):
                     self.assert_printed(self.stored("set", key, given), "")
                     self.assertEqual(json.loads(self.stored("get", key).stdout), text)
+
+    def test_an_argument_is_taken_exactly_or_refused(self):
+        key = "WebInterface white list"
+        self.environment["LC_ALL"] = "C"
+        self.assert_printed(self.stored("set", key, "M\u00fcller \u65e5"), "")
+        self.assert_printed(self.stored("get", key), '"M\u00fcller \u65e5"\n')
+        command = [*self.command("set", key, options=["--store", str(self.store)]), b"M\xfcller"]
+        result = subprocess.run(command, env=self.environment, capture_output=True, timeout=SECONDS, check=False)
+        self.assertEqual((result.stderr.decode(), result.returncode), ('"M\ufffdller" is no UTF-8\n', 2))
+        self.assert_printed(self.stored("get", key), '"M\u00fcller \u65e5"\n')
 
     def test_an_unknown_key_is_named_with_the_nearest(self):
         message = 'there is no setting "camera foz"; did you mean "Camera fov"?'
@@ -254,9 +266,41 @@ class Files(ToolTest):
         self.assertTrue(result.stderr.startswith(f"Cannot write the preferences to {missing}: "), result.stderr)
         result = self.stored("import", "-", input='{"format": 1,\n "settings": ')
         self.assertEqual(result.returncode, 2)
-        self.assertTrue(result.stderr.startswith("Cannot import the standard input. It is no JSON, line 2: "))
+        self.assertTrue(result.stderr.startswith("Cannot import the standard input. Line 2: "), result.stderr)
+
+    def test_a_new_file_is_private_and_an_old_one_keeps_its_mode(self):
+        file = self.folder / "kept.json"
+        for mode in (0o600, 0o640, 0o666):
+            self.assert_printed(self.stored("export", file), "")
+            self.assertEqual(stat.S_IMODE(file.stat().st_mode), mode)
+            file.chmod({0o600: 0o640, 0o640: 0o666}.get(mode, mode))
+
+    def test_a_pipe_is_written_into(self):
+        pipe = self.folder / "pipe"
+        os.mkfifo(pipe)
+        with subprocess.Popen(["cat", pipe], stdout=subprocess.PIPE, encoding="utf-8") as reader:
+            self.addCleanup(reader.kill)
+            self.assert_printed(self.stored("export", pipe), "")
+            self.assertTrue(stat.S_ISFIFO(pipe.stat().st_mode))
+            self.assertEqual(reader.communicate(timeout=SECONDS)[0], self.stored("export").stdout)
+
+    def test_names_that_begin_with_a_colon_are_names_of_files(self):
+        self.environment["PWD"] = str(self.folder)
+        for arguments in (["set", "Camera fov", "60"], ["export", ":kept"], ["import", ":kept"]):
+            result = subprocess.run(self.command(*arguments, options=["--store", ":store"]), cwd=self.folder,
+                                    env=self.environment, capture_output=True, encoding="utf-8", timeout=SECONDS,
+                                    check=False)
+            self.assert_printed(result, "")
+        self.assertIn('"Camera fov": {"type": "float", "value": 60}', (self.folder / ":kept").read_text())
+        self.assertTrue((self.folder / ":store").exists())
+
+    def test_the_sign_of_a_zero_counts(self):
+        self.assert_printed(self.stored("set", "Powerwall width", "0"), "")
+        self.assert_printed(self.imported({"Powerwall width": {"type": "float", "value": -0.0}}), "")
+        self.assert_printed(self.stored("get", "Powerwall width"), "-0\n")
 
 
+@unittest.skipUnless(os.geteuid() == 0, "a site's file counts only where it is root's")
 class Site(ToolTest):
     def setUp(self):
         super().setUp()
@@ -281,17 +325,38 @@ class Site(ToolTest):
     def test_check_tells_of_the_store_and_of_the_site(self):
         self.stored("set", "Powerwall height", "1")
         self.assert_printed(self.stored("check"), "")
-        self.write({"Camera foz": {"value": 60}})
-        remark = self.stored("check")
-        self.assertIn("Camera foz", remark.stdout)
-        self.assertEqual((remark.stderr, remark.returncode), ("", 0))
+        self.write({"Camera foz": {"value": 60}, "Optimizer Topology Method": {"value": 1}})
+        result = self.tool("check", options=["--edition", "essentials", "--store", str(self.store)])
+        self.assertEqual((result.stdout, result.stderr, result.returncode),
+                         (f'{self.file}, line 1: no module has a setting "Camera foz".\n', "", 1))
         self.store.write_bytes(self.store.read_bytes()[:1000])
         damaged = self.store.read_bytes()
         result = self.stored("check")
-        self.assertEqual((result.stderr, result.returncode), ("1 fault was found\n", 2))
+        self.assertEqual((result.stderr, result.returncode), ("", 1))
         self.assertIn(str(self.store), result.stdout)
         self.assertIn("Camera foz", result.stdout)
         self.assertEqual(self.store.read_bytes(), damaged)
+        self.store.unlink()
+        self.file.unlink()
+        self.file.symlink_to("missing")
+        reason = f"The site's preferences {self.file} are ignored: it cannot be read: No such file or directory.\n"
+        result = self.stored("check")
+        self.assertEqual((result.stdout, result.stderr, result.returncode), (reason, "", 1))
+        self.assertEqual(self.stored("get", "Camera fov").stderr, reason)
+
+    def test_the_examples_of_the_document_are_taken(self):
+        text = (pathlib.Path(__file__).resolve().parents[2] / "docs/site-defaults.md").read_text()
+        examples = re.findall(r"(?m)(?:^    .*\n)+", text)
+        self.assertTrue(examples)
+        for example in examples:
+            with self.subTest(example):
+                self.file.write_text(example)
+                self.assert_printed(self.stored("check"), "")
+                for key, entry in json.loads(example).items():
+                    if "value" in entry:
+                        self.assertEqual(json.loads(self.stored("get", key).stdout), entry["value"])
+                    result = self.stored("reset", key)
+                    self.assertEqual(result.returncode, 2 if entry.get("locked") else 0, result.stderr)
 
 
 class Completion(ToolTest):
@@ -440,6 +505,16 @@ class CommandLine(ToolTest):
                     self.assertEqual((result.stdout, result.returncode, result.stderr.count("\n")), ("", 2, 1))
                     path = pathlib.Path(library).resolve()
                     self.assertIn(f"Cannot load the preferences plug-in {path}: {reason}", result.stderr)
+
+    def test_where_there_is_none_all_places_are_named(self):
+        beside = self.folder / "bin"
+        beside.mkdir()
+        program = shutil.copy(self.program, beside)
+        result = subprocess.run([program, "list"], env=self.environment, capture_output=True, encoding="utf-8",
+                                timeout=SECONDS, check=False)
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(f"Cannot load the preferences plug-in: there is neither {beside}/libKernelPreferences.so nor "
+                      f"{self.folder}/lib", result.stderr)
 
 
 if __name__ == "__main__":
