@@ -3,6 +3,7 @@
 #include "Editing/olFieldGuard.h"
 #include "Session/olModuleAccess.h"
 #include "Session/olPreferencesSession.h"
+#include "olHostExport.h"
 
 #include <QHash>
 #include <QObject>
@@ -18,7 +19,7 @@ class olPreferencesEntry;
 
 /// The page of one module under edit: what it showed when it was filled, what it shows now, and what that means for the
 /// settings behind it. Nothing here changes a value in force.
-class olEditedPage : public QObject
+class ORLO_HOST_EXPORT olEditedPage : public QObject
 {
     Q_OBJECT
 

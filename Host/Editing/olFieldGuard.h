@@ -1,5 +1,7 @@
 #pragma once
 
+#include "olHostExport.h"
+
 #include <QElapsedTimer>
 #include <QMap>
 #include <QObject>
@@ -13,7 +15,7 @@ class olPreferencesEntry;
 
 /// Looks after the number fields of a page while a person types into them. What cannot be taken is marked at the field
 /// with a sentence that says what can, and a field that is left empty or unfinished gets its last number back.
-class olFieldGuard : public QObject
+class ORLO_HOST_EXPORT olFieldGuard : public QObject
 {
     Q_OBJECT
 
