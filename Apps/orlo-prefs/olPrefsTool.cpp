@@ -74,6 +74,14 @@ void olPrefsTool::open(olStoreUse use)
     fillDefaults();
 }
 
+void olPrefsTool::requireConsent(const std::string &key, const olSettingWarning &warning) const
+{
+    if (!m_options.isAgreed)
+        throw olToolError(
+            QStringLiteral("\"%1\" is only set with --yes: %2")
+                .arg(QString::fromStdString(key), QString(warning.text).replace(QLatin1Char('\n'), QLatin1Char(' '))));
+}
+
 void olPrefsTool::save()
 {
     requireSuccess(m_session.save());

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Editing/olFieldGuard.h"
+#include "Session/olModuleAccess.h"
 #include "Session/olPreferencesSession.h"
+#include "olHostExport.h"
 
 #include <QHash>
 #include <QObject>
@@ -16,7 +19,7 @@ class olPreferencesEntry;
 
 /// The page of one module under edit: what it showed when it was filled, what it shows now, and what that means for the
 /// settings behind it. Nothing here changes a value in force.
-class olEditedPage : public QObject
+class ORLO_HOST_EXPORT olEditedPage : public QObject
 {
     Q_OBJECT
 
@@ -28,6 +31,9 @@ public:
 
     /// Fills the page with the values in force.
     void fill();
+
+    /// Gives fields that do not read as a number their last one back: before the page is taken back.
+    void finishTyping() { m_guard.restoreUnfinished(); }
 
     /// Takes what the page shows for what it was filled with: after the values were applied.
     void markClean();
@@ -58,21 +64,21 @@ signals:
     void edited();
 
 private:
-    /// A value and the text of what its control showed for it.
+    /// A value and what its control held for it.
     struct Shown {
         boost::any value;
-        std::string onPage;
+        boost::any onPage;
     };
 
     void collectControls();
     void watch();
     [[nodiscard]] boost::any valueOnPage(const std::string &key) const;
-    [[nodiscard]] std::string textOnPage(const std::string &key) const;
     [[nodiscard]] QVariantList untaggedState() const;
 
     const olPreferencesSession &m_session;
     olPreferencesEntry &m_entry;
-    QPointer<QObject> m_access;
+    olModuleAccess m_access;
+    olFieldGuard m_guard;
     std::vector<std::string> m_keys;
     std::map<std::string, QPointer<QWidget>> m_controls;
     std::map<std::string, std::string> m_types;

@@ -260,6 +260,8 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
 
 olResult<> olPendingChanges::commit()
 {
+    for (const olPreferencesEntry *entry : m_filled)
+        findPage(*entry)->finishTyping();
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());

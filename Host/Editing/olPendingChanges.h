@@ -2,6 +2,7 @@
 
 #include "Session/olPreferencesSession.h"
 #include "State/olResult.h"
+#include "olHostExport.h"
 
 #include <QObject>
 #include <QPointer>
@@ -28,7 +29,7 @@ struct olPendingChange {
 
 /// All edits since the dialog was opened, over all pages and for settings that no page shows. They are pending: the
 /// values in force are as they were until commit().
-class olPendingChanges : public QObject
+class ORLO_HOST_EXPORT olPendingChanges : public QObject
 {
     Q_OBJECT
 

@@ -208,6 +208,17 @@ template <> std::optional<std::vector<Color>> fromVariant(const QVariant &varian
     return listFromVariant<Color>(variant);
 }
 
+template <class T> QVariant variantOf(const T &value) { return value; }
+QVariant variantOf(const std::string &value) { return QByteArray::fromStdString(value); }
+QVariant variantOf(const Color &value) { return QVariantList{value.red(), value.green(), value.blue()}; }
+template <class Element> QVariant variantOf(const std::vector<Element> &list)
+{
+    QVariantList items;
+    for (const Element &element : list)
+        items.append(variantOf(element));
+    return items;
+}
+
 template <class T> bool same(const T &left, const T &right) { return left == right; }
 bool same(const Color &left, const Color &right)
 {
@@ -246,6 +257,7 @@ struct Type {
     std::string (*toJson)(const boost::any &);
     boost::any (*fromJson)(olJsonReader &);
     boost::any (*fromVariant)(const QVariant &);
+    QVariant (*toVariant)(const boost::any &);
     bool (*equal)(const boost::any &, const boost::any &);
     bool (*identical)(const boost::any &, const boost::any &);
     boost::any (*adopted)(const boost::any &);
@@ -263,6 +275,7 @@ template <class T> Type type(const char *name, const char *expectation)
                 const auto value = fromVariant<T>(variant);
                 return value ? boost::any(*value) : boost::any();
             },
+            [](const boost::any &value) { return variantOf(boost::any_cast<const T &>(value)); },
             [](const boost::any &left, const boost::any &right) {
                 return same(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
             },
@@ -365,6 +378,12 @@ boost::any fromVariant(const std::string &name, const QVariant &variant)
             return value;
     }
     return {};
+}
+
+QVariant toVariant(const boost::any &value)
+{
+    const Type *type = typeOf(value);
+    return type ? type->toVariant(value) : QVariant();
 }
 
 boost::any fromTyped(const std::string &type, const QString &typed)

@@ -43,6 +43,9 @@ ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &t
 /// value.
 ORLO_SDK_EXPORT boost::any fromVariant(const std::string &type, const QVariant &variant);
 
+/// The way back: the variant of a value of a setting; invalid for a value of any other type.
+ORLO_SDK_EXPORT QVariant toVariant(const boost::any &value);
+
 /// From what somebody typed: JSON, or for a text setting the text as it is, so that nobody has to quote within quotes.
 ORLO_SDK_EXPORT boost::any fromTyped(const std::string &type, const QString &typed);
 

@@ -63,7 +63,7 @@ class Batch(tool_test.ToolTest):
         self.assertLess(self.triangles(model, *COARSE), fine / 3)
         self.assertEqual(self.triangles(model), fine)
         self.assert_refused(self.stored("--render", model, "--output", "p.png", "--set", "Camera fov=500"),
-                            'orlo: 500 is no value for "Camera fov": expected a number from 1 to 100')
+                            'orlo: "Camera fov" cannot be 500: expected a number from 1 to 100')
 
     @unittest.skipUnless(os.geteuid() == 0, "a site's file counts only where it is root's")
     def test_locks_hold_always(self):
