@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace
 {
@@ -105,8 +106,10 @@ void olFieldGuard::watch(QLineEdit &field)
     connect(&field, &QLineEdit::inputRejected, this, [this, &field] { markExpectation(field); });
     connect(&field, &QLineEdit::textEdited, this, [this, &field](const QString &text) { edited(field, text); });
     connect(&field, &QLineEdit::textChanged, this, [this, &field](const QString &text) {
-        if (!field.isModified())
-            m_fields[&field].before = text;
+        Field &known = m_fields[&field];
+        known.isTyped = std::exchange(known.isTold, false);
+        if (!known.isTyped)
+            known.before = text;
     });
     // A spin box takes the keys and hands them on.
     QWidget *receiver = spinBoxOf(field);
@@ -122,8 +125,6 @@ bool olFieldGuard::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (event->type() == QEvent::KeyPress)
         return takesKey(*field, static_cast<QKeyEvent *>(event)->text());
-    if (event->type() == QEvent::FocusIn && !field->isModified())
-        m_fields[field].before = field->text();
     if (event->type() == QEvent::FocusOut && isLeaving(*static_cast<QFocusEvent *>(event)))
         restore(*field);
     return false;
@@ -148,6 +149,7 @@ bool olFieldGuard::takesKey(QLineEdit &field, const QString &typed)
 
 void olFieldGuard::edited(QLineEdit &field, const QString &text)
 {
+    m_fields[&field].isTold = true;
     if (spinBoxOf(field) && std::any_of(text.begin(), text.end(), isSeparator))
         refuse(field);
     else
@@ -166,7 +168,9 @@ void olFieldGuard::refuse(QLineEdit &field)
 void olFieldGuard::restore(QLineEdit &field)
 {
     m_fields[&field].refused.invalidate();
-    if (!field.isModified() || field.hasAcceptableInput())
+    if (m_fields[&field].isTyped && field.hasAcceptableInput())
+        m_fields[&field].before = field.text();
+    if (!m_fields[&field].isTyped || field.hasAcceptableInput())
         return;
     markExpectation(field);
     if (!restoresItself(field))

@@ -480,7 +480,7 @@ class CommandLine(ToolTest):
 
     def test_each_command_has_a_help_of_its_own(self):
         listed = re.findall(r"(?m)^  ([a-z]+) ", self.tool("--help").stdout)
-        self.assertEqual(listed, "list get set reset diff export import check script".split())
+        self.assertEqual(listed, "list get set reset diff export import check schema script".split())
         for command in listed:
             help_text = self.tool(command, "--help").stdout
             self.assertTrue(help_text.startswith(f"Usage: orlo-prefs [OPTIONS] {command}"), help_text)
