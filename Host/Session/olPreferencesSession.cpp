@@ -149,6 +149,31 @@ template <class Visit> void eachOwner(const std::string &key, Visit visit)
     std::for_each(first, end, [&visit](const olOffer &offer) { visit(*offer.entry); });
 }
 
+/// Of that type; empty for a type that is no list.
+boost::any emptyList(const std::string &type) { return olValue::fromJson(type, QByteArrayLiteral("[]")); }
+
+/// A list that is absent until somebody fills it, and has no default.
+struct OptionalList {
+    olPreferencesEntry *module;
+    boost::any none;
+};
+
+std::map<std::string, OptionalList> optionalLists()
+{
+    std::map<std::string, OptionalList> found;
+    for (olPreferencesEntry *entry : entries()) {
+        const std::vector<std::string> keys = olModuleAccess(*entry).keys();
+        for (const std::string &key : keys) {
+            if (olPreferencesRegistry::the().ownerOf(key))
+                continue;
+            const boost::any none = emptyList(olSettingDescription::of(*entry, key).type);
+            if (!none.empty())
+                found.emplace(key, OptionalList{entry, none});
+        }
+    }
+    return found;
+}
+
 /// The modules with, behind them, those that have one of the settings.
 std::vector<olPreferencesEntry *> withOwners(std::vector<olPreferencesEntry *> modules, const olSettingValues &values)
 {
@@ -215,6 +240,11 @@ void olPreferencesSession::fillDefaults()
 
     settleSite(m_site);
     m_notices << m_site.takeFaults();
+    for (const auto &[key, list] : optionalLists()) {
+        // At this site it has a default like any other.
+        if (m_site.settings().count(key) != 0)
+            list.module->offered(key, list.none);
+    }
     for (const auto &site : m_site.settings()) {
         const auto &[key, setting] = site;
         eachOwner(key, [&, key = key, value = setting.value](olPreferencesEntry &owner) {
@@ -228,7 +258,12 @@ void olPreferencesSession::fillDefaults()
 
 void olPreferencesSession::settleSite(olSiteDefaults &site) const
 {
-    site.settle([this](const std::string &key) { return defaultValue(key); },
+    const auto optional = optionalLists();
+    const auto defaultOf = [this, &optional](const std::string &key) {
+        const auto list = optional.find(key);
+        return list == optional.end() ? defaultValue(key) : list->second.none;
+    };
+    site.settle(defaultOf,
                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
@@ -326,6 +361,7 @@ olResult<> olPreferencesSession::save()
 {
     const QScopedValueRollback<bool> changing(m_isChanging, true);
     restoreLocked();
+    keepEmptied();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
     QString error = m_store.save(changes.changed, changes.removed);
@@ -576,6 +612,18 @@ void olPreferencesSession::restoreLocked() const
         eachOwner(key, [key = key, value = setting.value](olPreferencesEntry &owner) {
             if (!olValue::identical(owner.value(key), value))
                 owner.setValue(key, value);
+        });
+    }
+}
+
+/// A page takes a list without rows out of the record; where the site has a default for it, that must not come back.
+void olPreferencesSession::keepEmptied() const
+{
+    for (const auto &site : m_site.settings()) {
+        const auto &[key, setting] = site;
+        eachOwner(key, [key = key, none = emptyList(olValue::typeName(setting.value))](olPreferencesEntry &owner) {
+            if (owner.value(key).empty() && !none.empty())
+                owner.setValue(key, none);
         });
     }
 }

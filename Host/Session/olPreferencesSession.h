@@ -159,6 +159,7 @@ private:
     void settleSite(olSiteDefaults &site) const;
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
+    void keepEmptied() const;
 
     olPreferencesStore m_store;
     olPreferencesStore::Values m_stored;

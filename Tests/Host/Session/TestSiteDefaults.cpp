@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTableWidget>
 
 #include <functional>
 #include <limits>
@@ -410,6 +411,43 @@ TEST_F(Site, ValuesThatEqualOnlyThemselvesAreNotStoredAgainAndAgain)
     const QByteArray before = bytesOf(file);
     confirm();
     EXPECT_EQ(bytesOf(file), before);
+}
+
+TEST_F(Site, AListWithoutADefaultIsASettingLikeAnyOther)
+{
+    constexpr auto name = "texture search paths";
+    using Paths = std::vector<std::string>;
+    write(siteFile, R"({"texture search paths": {"value": ["/site"]}})");
+    const auto start = [&] {
+        session.reset();
+        clear();
+        session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
+        EXPECT_EQ(session->loadStore(), QString());
+        EXPECT_EQ(session->loadPlugin(QStringLiteral(ORLO_PLUGIN_FILE)), QString());
+        session->start();
+        EXPECT_EQ(session->takeNotices(), QStringList());
+        EXPECT_EQ(session->check(), QStringList());
+    };
+    const auto paths = [] { return olPreferencesRegistry::the().find(QStringLiteral("FileIO")); };
+    const auto rows = [&] { return paths()->page()->findChild<QTableWidget *>(QStringLiteral("searchPaths")); };
+    start();
+    EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
+    ASSERT_EQ(rows()->rowCount(), 1);
+    EXPECT_EQ(session->confirm({paths()}), QString());
+    EXPECT_EQ(stored().count(key(name)), 0u) << "the site's own is not stored";
+
+    rows()->removeRow(0);
+    EXPECT_EQ(session->confirm({paths()}), QString());
+    start();
+    EXPECT_EQ(rows()->rowCount(), 0) << "what a person took out does not come back";
+
+    write(siteFile, R"({"texture search paths": {"value": ["/site"], "locked": true}})");
+    start();
+    EXPECT_TRUE(session->lockReason(name));
+    rows()->removeRow(0);
+    EXPECT_EQ(session->confirm({paths()}), QString());
+    EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
+    session.reset();
 }
 
 } // namespace
