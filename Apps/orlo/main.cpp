@@ -1,6 +1,7 @@
 #include "olBatch.h"
 #include "olGivenSettings.h"
 #include "olMainWindow.h"
+#include "olStartFault.h"
 #include "olTour.h"
 
 #include "Model/olScene.h"
@@ -12,10 +13,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -130,6 +133,46 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     return result;
 }
 
+/// Whether there is somebody at a window to ask.
+bool canAsk(const QCommandLineParser &options)
+{
+    return !isBatch(options) && !options.isSet(QStringLiteral("tour"));
+}
+
+/// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
+std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
+{
+    const QString given = options.value(QStringLiteral("store"));
+    QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
+    while (true) {
+        auto session = std::make_unique<olPreferencesSession>(file);
+        const QString fault = session->loadStore();
+        if (fault.isEmpty())
+            return session;
+        fail(fault);
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutStore(fault) : olStartRemedy();
+        if (remedy.kind == olStartRemedy::Quit)
+            return nullptr;
+        file = remedy.kind == olStartRemedy::OtherFile ? remedy.file
+                                                       : passing.filePath(QStringLiteral("preferences.db"));
+    }
+}
+
+bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
+{
+    QString file = olPluginLoader::locate(options.value(QStringLiteral("plugin")));
+    while (true) {
+        const QString fault = session.loadPlugin(file);
+        if (fault.isEmpty())
+            return true;
+        fail(fault);
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutPlugin(fault) : olStartRemedy();
+        if (remedy.kind != olStartRemedy::OtherFile)
+            return false;
+        file = remedy.file;
+    }
+}
+
 /// From the options of the command line to the end of the run.
 int run(const QCommandLineParser &options)
 {
@@ -145,19 +188,17 @@ int run(const QCommandLineParser &options)
     host.edition = *edition;
     host.applicationName = options.value(QStringLiteral("app-name"));
 
-    const QString given = options.value(QStringLiteral("store"));
-    olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const QString storeError = session.loadStore();
-    if (!storeError.isEmpty())
-        return fail(storeError);
-
+    const QTemporaryDir passing;
+    const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
+    if (!loaded)
+        return 1;
+    olPreferencesSession &session = *loaded;
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    if (!loadPlugin(session, options))
+        return 1;
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();

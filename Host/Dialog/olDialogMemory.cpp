@@ -5,7 +5,7 @@
 namespace
 {
 
-constexpr auto sizeKey = "preferencesDialog/size";
+constexpr auto placeKey = "preferencesDialog/place";
 constexpr auto splitterKey = "preferencesDialog/splitter";
 constexpr auto pageKey = "preferencesDialog/page";
 
@@ -14,14 +14,14 @@ constexpr auto pageKey = "preferencesDialog/page";
 olDialogMemory olDialogMemory::recall()
 {
     const QSettings settings;
-    return {settings.value(QLatin1String(sizeKey)).toSize(), settings.value(QLatin1String(splitterKey)).toByteArray(),
+    return {settings.value(QLatin1String(placeKey)).toRect(), settings.value(QLatin1String(splitterKey)).toByteArray(),
             settings.value(QLatin1String(pageKey)).toString()};
 }
 
 void olDialogMemory::keep() const
 {
     QSettings settings;
-    settings.setValue(QLatin1String(sizeKey), size);
+    settings.setValue(QLatin1String(placeKey), place);
     settings.setValue(QLatin1String(splitterKey), splitter);
     settings.setValue(QLatin1String(pageKey), page);
 }

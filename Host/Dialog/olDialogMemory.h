@@ -3,13 +3,13 @@
 #include "Utilities/olExport.h"
 
 #include <QByteArray>
-#include <QSize>
+#include <QRect>
 #include <QString>
 
 /// What the preferences dialog remembers from one run to the next, in the settings of the application.
 struct ORLO_SDK_EXPORT olDialogMemory {
     /// Empty where nothing is remembered.
-    QSize size;
+    QRect place; ///< without the window's frame
     QByteArray splitter;
     QString page;
 

@@ -3,6 +3,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
 
@@ -21,6 +22,17 @@ olModuleTree::olModuleTree()
     setRootIsDecorated(true);
     setUniformRowHeights(true);
     setAccessibleName(tr("Modules"));
+}
+
+/// Most styles let the current row look the same whether the keys go to the tree or not.
+void olModuleTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QTreeWidget::drawRow(painter, option, index);
+    if (index != currentIndex() || !hasFocus())
+        return;
+    painter->setPen(QPen(palette().color(QPalette::Text), 1.0, Qt::DotLine));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 QSize olModuleTree::minimumSizeHint() const

@@ -31,6 +31,9 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+protected:
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
 private:
     void add(const olPreferencesEntry &entry);
     [[nodiscard]] QTreeWidgetItem *categoryItem(const QString &category);

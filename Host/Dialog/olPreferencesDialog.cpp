@@ -7,6 +7,7 @@
 #include "Dialog/olPageFrame.h"
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
+#include "Dialog/olWindowPlace.h"
 #include "Editing/olPendingChanges.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
@@ -14,6 +15,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -34,9 +36,6 @@
 namespace
 {
 
-// What a window manager adds to a window, at its most.
-constexpr QSize windowFrame(16, 48);
-
 /// What the dialog would like to be, in characters of its font, so that it grows with the text.
 QSize comfortableSize(const QWidget &widget)
 {
@@ -48,7 +47,7 @@ QString changesText(std::size_t count)
 {
     if (count == 0)
         return olPreferencesDialog::tr("No Changes");
-    return count == 1 ? olPreferencesDialog::tr("1 Change...") : olPreferencesDialog::tr("%1 Changes...").arg(count);
+    return count == 1 ? olPreferencesDialog::tr("1 Chan&ge...") : olPreferencesDialog::tr("%1 Chan&ges...").arg(count);
 }
 
 } // namespace
@@ -60,8 +59,8 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_search(std::make_unique<olSettingsSearch>()),
       m_menu(std::make_unique<olSettingMenu>(session, *m_pending)),
       m_searchField(new QLineEdit),
-      m_changedOnly(new QCheckBox(tr("Changed &only"))),
-      m_more(new QPushButton(tr("&More"))),
+      m_changedOnly(new QCheckBox(tr("Changed only"))),
+      m_more(new QPushButton(tr("More"))),
       m_tree(new olModuleTree),
       m_splitter(new QSplitter),
       m_title(new QLabel),
@@ -118,6 +117,7 @@ QWidget *olPreferencesDialog::buildLeft()
     menu->addAction(tr("&Export..."), this, &olPreferencesDialog::chooseExport);
     menu->addSeparator();
     menu->addAction(tr("&Restore All Defaults"), this, &olPreferencesDialog::restoreAll);
+    m_more->setObjectName(QStringLiteral("more"));
     m_more->setMenu(menu);
     m_more->setAutoDefault(false);
 
@@ -172,6 +172,11 @@ QWidget *olPreferencesDialog::buildBottom()
     m_changes->setObjectName(QStringLiteral("changes"));
     m_changes->setAutoDefault(false);
     m_changes->setToolTip(tr("Lists what OK and Apply will change."));
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("&OK"));
+    m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("&Cancel"));
+    m_buttons->button(QDialogButtonBox::Apply)->setText(tr("&Apply"));
+    // A click on it leaves the focus where one works.
+    m_buttons->button(QDialogButtonBox::Apply)->setFocusPolicy(Qt::TabFocus);
     auto *bottom = new QWidget;
     auto *layout = new QHBoxLayout(bottom);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -199,6 +204,11 @@ void olPreferencesDialog::connectParts()
         m_message->showNote(tr("%1 is locked: %2").arg(name, reason));
     });
 
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && m_splitter->isAncestorOf(now))
+            m_workedAt = now;
+    });
+
     // A filling changes many controls at once, and one look at the end tells it all.
     connect(m_pending.get(), &olPendingChanges::edited, &m_refresh, QOverload<>::of(&QTimer::start));
     connect(&m_refresh, &QTimer::timeout, this, &olPreferencesDialog::refresh);
@@ -212,8 +222,7 @@ void olPreferencesDialog::connectParts()
 void olPreferencesDialog::recall()
 {
     const olDialogMemory memory = olDialogMemory::recall();
-    const QSize size = memory.size.isValid() ? memory.size : comfortableSize(*this);
-    resize(size.boundedTo(screen()->availableSize() - windowFrame));
+    m_place = memory.place;
     const int character = fontMetrics().averageCharWidth();
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
         m_splitter->setSizes({character * 26, character * 104});
@@ -224,7 +233,7 @@ void olPreferencesDialog::recall()
 void olPreferencesDialog::remember() const
 {
     const olPreferencesEntry *entry = m_tree->chosen();
-    olDialogMemory{size(), m_splitter->saveState(), entry ? entry->name() : QString()}.keep();
+    olDialogMemory{m_place, m_splitter->saveState(), entry ? entry->name() : QString()}.keep();
 }
 
 void olPreferencesDialog::open(const QString &name)
@@ -232,11 +241,29 @@ void olPreferencesDialog::open(const QString &name)
     if (!name.isEmpty() && !m_tree->chosen())
         m_searchField->clear();
     m_tree->choose(name);
-    if (!isVisible())
+    if (!isVisible()) {
+        place();
         m_searchField->setFocus();
+    }
     show();
     raise();
     activateWindow();
+}
+
+/// Where it was, else beside the window that it belongs to, so that what changes there can be seen.
+void olPreferencesDialog::place()
+{
+    const QWidget *neighbour = parentWidget() ? parentWidget()->window() : nullptr;
+    const QScreen *known = m_place.isValid() ? QGuiApplication::screenAt(m_place.center()) : nullptr;
+    const QRect room = (known ? known : neighbour ? neighbour->screen() : screen())->availableGeometry();
+    if (known) {
+        setGeometry(olWindowPlace::onScreen(m_place, room));
+        return;
+    }
+    const QSize size = m_place.isValid() ? m_place.size() : comfortableSize(*this);
+    const QRect alone(room.center() - QPoint(size.width(), size.height()) / 2, size);
+    setGeometry(neighbour ? olWindowPlace::beside(neighbour->frameGeometry(), size, room)
+                          : olWindowPlace::onScreen(alone, room));
 }
 
 void olPreferencesDialog::showEvent(QShowEvent *event)
@@ -255,8 +282,10 @@ void olPreferencesDialog::showEvent(QShowEvent *event)
 void olPreferencesDialog::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        remember();
+    if (event->spontaneous())
+        return;
+    m_place = geometry();
+    remember();
 }
 
 void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
@@ -294,23 +323,38 @@ void olPreferencesDialog::reject()
 
 bool olPreferencesDialog::mayLeave()
 {
-    const std::size_t count = m_pending->list().size();
-    if (count == 0)
+    const std::vector<olPendingChange> changes = m_pending->list();
+    if (changes.empty())
         return true;
-    QMessageBox box(QMessageBox::Question, windowTitle(),
-                    count == 1 ? tr("There is 1 change that is not applied yet.")
-                               : tr("There are %1 changes that are not applied yet.").arg(count),
-                    QMessageBox::NoButton, this);
+    QMessageBox box(QMessageBox::Question, windowTitle(), lossText(changes), QMessageBox::NoButton, this);
+    box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::WindowModal);
     const QPushButton *applied = box.addButton(QMessageBox::Apply);
     const QPushButton *discarded = box.addButton(QMessageBox::Discard);
     QPushButton *stay = box.addButton(tr("&Stay"), QMessageBox::RejectRole);
-    box.setDefaultButton(QMessageBox::Apply);
+    // Nothing is applied and nothing lost by a key that was meant for something else.
+    box.setDefaultButton(stay);
     box.setEscapeButton(stay);
     box.exec();
     if (box.clickedButton() == applied)
         return apply();
     return box.clickedButton() == discarded;
+}
+
+QString olPreferencesDialog::lossText(const std::vector<olPendingChange> &changes) const
+{
+    constexpr std::size_t mostNamed = 5;
+    QStringList lines{changes.size() == 1
+                          ? tr("This change is not applied yet and would be lost:")
+                          : tr("These %1 changes are not applied yet and would be lost:").arg(changes.size())};
+    const std::size_t named = changes.size() > mostNamed ? mostNamed - 1 : changes.size();
+    for (std::size_t index = 0; index < named; ++index) {
+        const olPendingChange &change = changes[index];
+        lines << QStringLiteral("    ") + (change.key.empty() ? change.entry->name() : placeOf(change.key));
+    }
+    if (named < changes.size())
+        lines << QStringLiteral("    ") + tr("and %1 more").arg(changes.size() - named);
+    return lines.join(QLatin1Char('\n'));
 }
 
 bool olPreferencesDialog::apply()
@@ -390,7 +434,6 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
         m_menu->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
         frame->marks().setHits(m_hits.value(&entry));
-        endTabOrderWithButtons();
     }
     return frame;
 }
@@ -424,17 +467,39 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
     m_locked->setVisible(!menu->isEmpty());
 }
 
-/// The page came last into the order of Tab; the buttons belong behind it.
-void olPreferencesDialog::endTabOrderWithButtons()
+/// The page stands between its header and the buttons, whichever pages came into the dialog before it.
+std::vector<QWidget *> olPreferencesDialog::tabStops() const
 {
-    QWidget *last = previousInFocusChain();
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
-                                                            m_buttons->button(QDialogButtonBox::Apply),
-                                                            m_buttons->button(QDialogButtonBox::Cancel)}) {
-        if (last != widget)
-            setTabOrder(last, widget);
-        last = widget;
+    std::vector<QWidget *> stops{m_searchField, m_changedOnly, m_more, m_tree, m_restorePage, m_locked};
+    const auto *frame = qobject_cast<olPageFrame *>(m_pages->currentWidget());
+    if (QWidget *page = frame ? frame->page() : nullptr) {
+        for (QWidget *widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
+            if (page->isAncestorOf(widget))
+                stops.push_back(widget);
+        }
     }
+    for (QWidget *button : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
+                                                            m_buttons->button(QDialogButtonBox::Cancel),
+                                                            m_buttons->button(QDialogButtonBox::Apply)})
+        stops.push_back(button);
+    const auto takesNoTab = [this](const QWidget *widget) {
+        return !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() || !widget->isVisible() ||
+               !widget->isEnabled() || widget->window() != this;
+    };
+    stops.erase(std::remove_if(stops.begin(), stops.end(), takesNoTab), stops.end());
+    return stops;
+}
+
+bool olPreferencesDialog::focusNextPrevChild(bool next)
+{
+    const std::vector<QWidget *> stops = tabStops();
+    const auto now = std::find(stops.begin(), stops.end(), focusWidget());
+    if (now == stops.end())
+        return QDialog::focusNextPrevChild(next);
+    const std::size_t step = next ? 1 : stops.size() - 1;
+    const auto index = (std::size_t(now - stops.begin()) + step) % stops.size();
+    stops[index]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void olPreferencesDialog::giveBack(QWidget *page)
@@ -539,7 +604,11 @@ void olPreferencesDialog::refresh()
     const std::size_t count = m_pending->list().size();
     m_changes->setText(changesText(count));
     m_changes->setEnabled(count > 0);
-    m_buttons->button(QDialogButtonBox::Apply)->setEnabled(count > 0);
+    QPushButton *apply = m_buttons->button(QDialogButtonBox::Apply);
+    // What is disabled would hand the focus on to whatever comes next.
+    if (count == 0 && (apply->hasFocus() || m_changes->hasFocus()))
+        (m_workedAt && m_workedAt->isVisible() && m_workedAt->isEnabled() ? m_workedAt.data() : m_tree)->setFocus();
+    apply->setEnabled(count > 0);
     const olPreferencesEntry *entry = m_tree->chosen();
     if (olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr)
         frame->marks().setChanged(changedOn(*entry));

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QHash>
 #include <QPointer>
+#include <QRect>
 #include <QTimer>
 
 #include <memory>
@@ -27,6 +28,7 @@ class olPreferencesSession;
 class olSettingMenu;
 class olSettingsSearch;
 struct olFoundControl;
+struct olPendingChange;
 
 /// Shows the modules as entries under their categories, with their pages. Everything done in it is pending until OK or
 /// Apply, and Cancel drops it. Not modal: the view stays usable beside it.
@@ -72,6 +74,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     [[nodiscard]] QWidget *buildLeft();
@@ -79,6 +82,7 @@ private:
     [[nodiscard]] QWidget *buildBottom();
     void connectParts();
     void recall();
+    void place();
     void remember() const;
 
     void listModules();
@@ -86,7 +90,7 @@ private:
     [[nodiscard]] olPageFrame *frameOf(olPreferencesEntry &entry);
     void lockSettings(olPreferencesEntry &entry, olPageFrame &frame);
     void listLocked(olPreferencesEntry &entry);
-    void endTabOrderWithButtons();
+    [[nodiscard]] std::vector<QWidget *> tabStops() const;
     void giveBack(QWidget *page);
 
     void filter();
@@ -100,6 +104,7 @@ private:
     [[nodiscard]] bool store();
     bool tellNotices();
     [[nodiscard]] bool mayLeave();
+    [[nodiscard]] QString lossText(const std::vector<olPendingChange> &changes) const;
     void chooseImport();
     void chooseExport();
 
@@ -123,4 +128,8 @@ private:
     QHash<QWidget *, olPageFrame *> m_frames;
     QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
     QTimer m_refresh;
+    QRect m_place; ///< where it was last; not valid before
+
+    /// What on the left or on the page had the focus last.
+    QPointer<QWidget> m_workedAt;
 };

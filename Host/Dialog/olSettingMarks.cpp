@@ -1,5 +1,7 @@
 #include "Dialog/olSettingMarks.h"
 
+#include "Editing/olPlainText.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QTabBar>
@@ -32,11 +34,12 @@ olSettingMarks::olSettingMarks(QWidget &page) : QWidget(&page)
     show();
 }
 
+olSettingMarks::~olSettingMarks() { describe({}); }
+
 void olSettingMarks::setChanged(std::vector<olFoundControl> controls)
 {
-    describe(m_changed, tr("Differs from its default"), QString());
     m_changed = std::move(controls);
-    describe(m_changed, QString(), tr("Differs from its default"));
+    describe(m_changed);
     watch(m_changed);
     update();
 }
@@ -48,13 +51,23 @@ void olSettingMarks::setHits(std::vector<olFoundControl> controls)
     update();
 }
 
-/// Who cannot see the mark is told; what a page says of its control itself stays.
-void olSettingMarks::describe(const std::vector<olFoundControl> &controls, const QString &before,
-                              const QString &after) const
+/// Who cannot see the mark is told, before what the control tells of itself anyway: its tooltip, while nothing else is
+/// set.
+void olSettingMarks::describe(const std::vector<olFoundControl> &controls)
 {
+    for (auto described = m_described.begin(); described != m_described.end();
+         described = m_described.erase(described)) {
+        if (described->first)
+            described->first->setAccessibleDescription(described->second);
+    }
     for (const olFoundControl &control : controls) {
-        if (control.widget && control.widget->accessibleDescription() == before)
-            control.widget->setAccessibleDescription(after);
+        if (!control.widget)
+            continue;
+        const QString own = control.widget->accessibleDescription();
+        const QString told = own.isEmpty() ? olPlainText(control.widget->toolTip()) : own;
+        m_described.emplace_back(control.widget, own);
+        control.widget->setAccessibleDescription(told.isEmpty() ? tr("Differs from its default.")
+                                                                : tr("Differs from its default. %1").arg(told));
     }
 }
 

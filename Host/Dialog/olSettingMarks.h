@@ -3,8 +3,11 @@
 #include "Editing/olSettingsSearch.h"
 #include "Utilities/olExport.h"
 
+#include <QPointer>
+#include <QString>
 #include <QWidget>
 
+#include <utility>
 #include <vector>
 
 /// Lies over a page, out of the way of mouse and keys, and marks controls: a small bar before those whose value differs
@@ -16,6 +19,7 @@ class ORLO_SDK_EXPORT olSettingMarks : public QWidget
 public:
     /// Becomes a child of the page.
     explicit olSettingMarks(QWidget &page);
+    ~olSettingMarks() override;
 
     void setChanged(std::vector<olFoundControl> controls);
     void setHits(std::vector<olFoundControl> controls);
@@ -30,7 +34,7 @@ protected:
 
 private:
     void watch(const std::vector<olFoundControl> &controls);
-    void describe(const std::vector<olFoundControl> &controls, const QString &before, const QString &after) const;
+    void describe(const std::vector<olFoundControl> &controls);
     [[nodiscard]] QRect placeOf(const olFoundControl &control) const;
     void paintHit(QPainter &painter, const olFoundControl &control) const;
     void paintTabs(QPainter &painter, const olFoundControl &control) const;
@@ -38,4 +42,5 @@ private:
 
     std::vector<olFoundControl> m_changed;
     std::vector<olFoundControl> m_hits;
+    std::vector<std::pair<QPointer<QWidget>, QString>> m_described;
 };

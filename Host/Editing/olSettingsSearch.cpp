@@ -1,10 +1,8 @@
 #include "Editing/olSettingsSearch.h"
 
+#include "Editing/olPlainText.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
-
-#include <QTextDocument>
-#include <QTextDocumentFragment>
 
 #include <algorithm>
 
@@ -13,11 +11,6 @@ namespace
 
 // Stands between the texts of a control, so that no word is found across two of them.
 constexpr QChar border(0x1f);
-
-QString withoutMarkup(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
-}
 
 olFoundControl indexed(const olPageControl &control)
 {
@@ -28,7 +21,7 @@ olFoundControl indexed(const olPageControl &control)
     found.name = control.names.value(0);
     found.keys = control.settingKeys;
     const QStringList texts =
-        control.names + control.choices + control.settingKeys + QStringList{withoutMarkup(control.toolTip)};
+        control.names + control.choices + control.settingKeys + QStringList{olPlainText(control.toolTip)};
     found.searched = texts.join(border).toCaseFolded();
     return found;
 }

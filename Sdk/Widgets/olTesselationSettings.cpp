@@ -50,15 +50,15 @@ olTesselationSettings::olTesselationSettings(QWidget *parent) : QWidget(parent)
     rows->setContentsMargins(0, 0, 0, 0);
 
     // Made from the top down, which is also the order of the Tab key.
-    m_tessellation = new QCheckBox(tr("Tessellation"), this);
+    m_tessellation = new QCheckBox(tr("T&essellation"), this);
     rows->addRow(m_tessellation);
     addQuality(*rows);
-    m_chordDeviation = addField(*rows, tr("Chord Deviation"), tr("mm"));
-    m_normalTolerance = addField(*rows, tr("Normal Tolerance"), tr("\302\260"));
-    m_maxChordLength = addField(*rows, tr("Max Chord Length"), tr("mm"));
-    m_stitching = new QCheckBox(tr("Stitching"), this);
+    m_chordDeviation = addField(*rows, tr("Chord &Deviation"), tr("mm"));
+    m_normalTolerance = addField(*rows, tr("&Normal Tolerance"), tr("\302\260"));
+    m_maxChordLength = addField(*rows, tr("Ma&x Chord Length"), tr("mm"));
+    m_stitching = new QCheckBox(tr("&Stitching"), this);
     rows->addRow(m_stitching);
-    m_stitchingTolerance = addField(*rows, tr("Stitching Tolerance"), tr("mm"));
+    m_stitchingTolerance = addField(*rows, tr("St&itching Tolerance"), tr("mm"));
 
     m_chordDeviation.number->setRange(smallestLength, 1000.0);
     m_chordDeviation.number->setSteps(0.005, 0.05);
@@ -167,14 +167,14 @@ void olTesselationSettings::Field::setEnabled(bool enabled) const
 
 void olTesselationSettings::addQuality(QFormLayout &rows)
 {
-    m_qualityLabel = new QLabel(tr("Quality"), this);
+    m_qualityLabel = new QLabel(tr("&Quality"), this);
     m_qualityRow = new QWidget(this);
     m_quality = new QSlider(Qt::Horizontal, m_qualityRow);
     m_quality->setRange(0, int(presets.size()) - 1);
     m_quality->setPageStep(1);
     m_quality->setTickPosition(QSlider::TicksBothSides);
     m_quality->setToolTip(tr("Sets chord deviation, normal tolerance and max chord length together."));
-    m_quality->setAccessibleName(m_qualityLabel->text());
+    m_quality->setAccessibleName(tr("Quality"));
     m_qualityLabel->setBuddy(m_quality);
 
     auto *row = new QHBoxLayout(m_qualityRow);
@@ -190,7 +190,7 @@ olTesselationSettings::Field olTesselationSettings::addField(QFormLayout &rows, 
 {
     const Field field{new QLabel(name, this), new olNumberField(this), new QLabel(unit, this)};
     field.label->setBuddy(field.number);
-    field.number->setAccessibleName(name);
+    field.number->setAccessibleName(QString(name).remove(QLatin1Char('&')));
 
     auto *row = new QHBoxLayout;
     row->addWidget(field.number);

@@ -7,16 +7,24 @@
 #include "KernelServices/olPreferencesService.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olValue.h"
+#include "Widgets/QOLCollapsibleFrame.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <map>
+#include <vector>
 
 namespace
 {
@@ -78,6 +86,82 @@ TEST_F(DialogWithModules, LookingAtEveryPageLeavesNothingPending)
     EXPECT_EQ(calls.take(), std::vector<std::string>());
 }
 
+TEST_F(DialogWithModules, TabGoesFromTheHeaderThroughThePageToTheButtons)
+{
+    const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
+    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+    QWidget *search = named("search");
+    const std::vector<QWidget *> before{search, named("changedOnly"), named("more"), dialog->findChild<QTreeWidget *>(),
+                                        named("restorePage")};
+    const std::vector<QWidget *> after{buttons->button(QDialogButtonBox::Ok),
+                                       buttons->button(QDialogButtonBox::Cancel)};
+    QApplication::setActiveWindow(dialog.get());
+    for (olPreferencesEntry *entry : modules()) {
+        dialog->open(entry->name());
+        search->setFocus();
+        for (int round = 0; round < 2; ++round) {
+            std::vector<QWidget *> reached;
+            do {
+                QWidget *stop = dialog->focusWidget();
+                // Whatever stops on the page are, they stand together.
+                if (!entry->page()->isAncestorOf(stop))
+                    reached.push_back(stop);
+                else if (reached.empty() || reached.back() != entry->page())
+                    reached.push_back(entry->page());
+                QTest::keyClick(stop, Qt::Key_Tab);
+            } while (dialog->focusWidget() != search && reached.size() < 100);
+            std::vector<QWidget *> expected = before;
+            if (!olPageIndex(*entry->page()).controls().empty())
+                expected.push_back(entry->page());
+            expected.insert(expected.end(), after.begin(), after.end());
+            EXPECT_EQ(reached, expected) << entry->name().toStdString();
+        }
+    }
+}
+
+TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
+{
+    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel, QDialogButtonBox::Apply})
+        EXPECT_FALSE(QKeySequence::mnemonic(buttons->button(button)->text()).isEmpty());
+    for (olPreferencesEntry *entry : modules()) {
+        dialog->open(entry->name());
+        for (QOLCollapsibleFrame *frame : entry->page()->findChildren<QOLCollapsibleFrame *>())
+            frame->setFolded(false);
+        // With something pending the dialog offers the most.
+        auto *box = entry->page()->findChild<QCheckBox *>();
+        if (box && box->isEnabled() && entry->name() != QLatin1String("WebInterface"))
+            box->toggle();
+        auto *tabs = entry->page()->findChild<QTabWidget *>();
+        for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+            if (tabs)
+                tabs->setCurrentIndex(tab);
+            QCoreApplication::processEvents();
+            std::map<QString, QString> owners;
+            int onPage = 0;
+            for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
+                QStringList texts{widget->property("text").toString(), widget->property("title").toString()};
+                const auto *bar = qobject_cast<const QTabBar *>(widget);
+                for (int index = 0; bar && index < bar->count(); ++index)
+                    texts << bar->tabText(index);
+                if (!widget->isVisible() || widget->inherits("QLineEdit"))
+                    continue;
+                for (const QString &text : texts) {
+                    const QString key = QKeySequence::mnemonic(text).toString();
+                    if (key.isEmpty())
+                        continue;
+                    onPage += entry->page()->isAncestorOf(widget) ? 1 : 0;
+                    const auto [known, isNew] = owners.emplace(key, text);
+                    EXPECT_TRUE(isNew) << entry->name().toStdString() << ", " << key.toStdString() << ": "
+                                       << known->second.toStdString() << " and " << text.toStdString();
+                }
+            }
+            EXPECT_EQ(onPage > 0, !olPageIndex(*entry->page()).controls().empty()) << entry->name().toStdString() << ", tab " << tab << " has none";
+        }
+    }
+    dialog->restoreAll();
+}
+
 TEST_F(DialogWithModules, EverySettingWithAControlIsFoundByItsKey)
 {
     auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
@@ -121,7 +205,7 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
     dialog->reject();
     dialog->open(QStringLiteral("FileIO"));
     dialog->restoreAll();
-    EXPECT_EQ(pending(), "6 Changes...");
+    EXPECT_EQ(pending(), "6 Chan&ges...");
     EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.5f);
     EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 5.0f);
     EXPECT_EQ(calls.take(), std::vector<std::string>());
@@ -144,7 +228,7 @@ TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
         "texture search paths": {"type": "strings", "value": ["/textures"]},
         "VR Teleport Range": {"type": "float", "value": 12.5}, "Camera fov": {"type": "float", "value": 60.123457})");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_EQ(pending(), "6 Changes...") << "a preset would have changed more";
+    EXPECT_EQ(pending(), "6 Chan&ges...") << "a preset would have changed more";
     EXPECT_TRUE(control<QWidget>("Navigator", "orbitDetectionArea").isEnabled()) << "the page's rules did run";
     EXPECT_EQ(calls.take(), std::vector<std::string>());
 
@@ -164,7 +248,7 @@ TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllA
     dialog->restorePage();
     EXPECT_EQ(pending(), "No Changes") << "it is none of any one page";
     dialog->restoreAll();
-    EXPECT_EQ(pending(), "1 Change...");
+    EXPECT_EQ(pending(), "1 Chan&ge...");
     ASSERT_TRUE(dialog->apply());
     EXPECT_FALSE(boost::any_cast<bool>(record().get("BCADOptions use ATF")));
 }

@@ -132,30 +132,50 @@ TEST_F(PreferencesDialogSearch, FindsModulesThatComeWhileTheDialogIsOpen)
     EXPECT_EQ(listed(), (QStringList{"Family", "Plain"}));
 }
 
-TEST_F(PreferencesDialogSearch, TheWholeDialogIsReachedByTabInAReadersOrder)
+TEST_F(PreferencesDialogSearch, TheTreeShowsWhetherItHasTheKeys)
 {
     start();
+    auto *tree = dialog->findChild<QTreeWidget *>();
+    const QRect row = tree->visualItemRect(tree->currentItem());
+    const QImage without = tree->viewport()->grab(row).toImage();
+    QTest::keyClick(search(), Qt::Key_Down);
+    ASSERT_TRUE(tree->hasFocus());
+    EXPECT_NE(tree->viewport()->grab(row).toImage(), without);
+}
+
+TEST_F(PreferencesDialogSearch, TabGoesRoundTheWholeDialogInAReadersOrder)
+{
+    StudioModule other(QStringLiteral("Other"));
+    start(R"({"Studio title": {"locked": true}})");
+    // The order must not depend on which pages were looked at before.
+    dialog->open(QStringLiteral("Other"));
+    dialog->open(QStringLiteral("Studio"));
     module.page.samples->setValue(9);
-    EXPECT_TRUE(canApply());
+    ASSERT_TRUE(canApply());
     const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
-    const std::vector<QWidget *> order{search(),
+    const std::vector<QWidget *> round{search(),
                                        named("changedOnly"),
+                                       named("more"),
                                        dialog->findChild<QTreeWidget *>(),
                                        named("restorePage"),
+                                       named("locked"),
+                                       module.page.tabs->findChild<QTabBar *>(),
                                        module.page.shadows,
                                        module.page.samples,
                                        module.page.mode,
                                        changes(),
-                                       button(QDialogButtonBox::Ok)};
+                                       button(QDialogButtonBox::Ok),
+                                       button(QDialogButtonBox::Cancel),
+                                       button(QDialogButtonBox::Apply)};
     search()->setFocus();
-    std::vector<QWidget *> reached;
-    for (int step = 0; step < 30; ++step) {
-        reached.push_back(dialog->focusWidget());
+    for (int step = 0; step < int(2 * round.size()); ++step) {
+        ASSERT_EQ(dialog->focusWidget(), round[step % round.size()])
+            << "step " << step << " came to " << dialog->focusWidget()->metaObject()->className() << " "
+            << dialog->focusWidget()->objectName().toStdString();
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
     }
-    auto next = reached.begin();
-    for (QWidget *widget : order) {
-        next = std::find(next, reached.end(), widget);
-        ASSERT_NE(next, reached.end()) << widget->objectName().toStdString();
+    for (int step = int(2 * round.size()); step > 0; --step) {
+        ASSERT_EQ(dialog->focusWidget(), round[step % round.size()]) << "back, step " << step;
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Backtab);
     }
 }

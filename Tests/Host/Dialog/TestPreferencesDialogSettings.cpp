@@ -34,6 +34,13 @@ TEST_F(PreferencesDialogSettings, MarksWhatDiffersFromItsDefaultAsItIsEdited)
     EXPECT_EQ(marked(), QStringList());
     module.page.mode->setCurrentIndex(1);
     EXPECT_EQ(marked(), QStringList{"Mode"});
+    module.page.samples->setValue(9);
+    EXPECT_EQ(marked(), (QStringList{"Samples", "Mode"}));
+    EXPECT_EQ(module.page.samples->accessibleDescription(),
+              "Differs from its default. How often each pixel is computed");
+    module.page.samples->setValue(4);
+    EXPECT_EQ(marked(), QStringList{"Mode"});
+    EXPECT_EQ(module.page.samples->accessibleDescription(), QString());
     EXPECT_FALSE(module.page.mode->accessibleDescription().isEmpty());
     EXPECT_TRUE(dialog->apply());
     EXPECT_EQ(marked(), QStringList{"Mode"}) << "applied, it still differs";
@@ -103,7 +110,7 @@ TEST_F(PreferencesDialogSettings, RestoringIsPendingUntilItIsApplied)
     EXPECT_EQ(module.page.samples->value(), 4);
     EXPECT_EQ(module.page.scale->text(), "1.5");
     EXPECT_TRUE(canApply());
-    EXPECT_EQ(changes()->text(), "3 Changes...") << "the one without a control counts";
+    EXPECT_EQ(changes()->text(), "3 Chan&ges...") << "the one without a control counts";
     EXPECT_EQ(module.value<int>("Studio seed"), 8);
 
     answer(QStringLiteral("Discard"));
