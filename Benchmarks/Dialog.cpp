@@ -77,18 +77,6 @@ void openDialog(benchmark::State &state, const QString &name)
         });
 }
 
-void openBareDialog(benchmark::State &state, const std::string &moduleClass)
-{
-    std::unique_ptr<QDialog> dialog;
-    const auto open = [&] {
-        dialog = std::make_unique<QDialog>();
-        BareForms::setUp(moduleClass, *dialog);
-        dialog->show();
-        Painting().of(*dialog);
-    };
-    measure(state, open, {}, [&] { dialog.reset(); });
-}
-
 /// What a list of all pages, a search field and the buttons cost whoever writes them, before they do anything.
 void openFurnishedDialog(benchmark::State &state, const std::string &moduleClass)
 {
@@ -169,11 +157,9 @@ std::shared_ptr<void> registerDialog()
         benchmark::RegisterBenchmark((std::string("open/") + name).c_str(), openDialog, qtName)
             ->UseManualTime()
             ->Iterations(repeats);
-        for (const auto &[kind, open] :
-             {std::pair("open bare/", openBareDialog), {"open furnished/", openFurnishedDialog}})
-            benchmark::RegisterBenchmark((kind + std::string(name)).c_str(), open, moduleClass)
-                ->UseManualTime()
-                ->Iterations(repeats);
+        benchmark::RegisterBenchmark((std::string("open furnished/") + name).c_str(), openFurnishedDialog, moduleClass)
+            ->UseManualTime()
+            ->Iterations(repeats);
     }
     return {};
 }

@@ -86,9 +86,3 @@ void KConfigPages::fill() const
     for (const Page &page : m_pages)
         page.manager->updateWidgets();
 }
-
-void KConfigPages::takeBack() const
-{
-    for (const Page &page : m_pages)
-        page.manager->updateSettings();
-}

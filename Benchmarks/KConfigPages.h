@@ -18,7 +18,6 @@ public:
     ~KConfigPages();
 
     void fill() const;
-    void takeBack() const;
 
     [[nodiscard]] int settings() const { return m_settings; }
 

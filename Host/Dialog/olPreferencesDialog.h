@@ -45,6 +45,7 @@ public:
     /// Opens the dialog, or brings it to the front, on the module of that name; an empty or unknown name keeps the
     /// page that was shown last.
     void open(const QString &name);
+    void open() override { open(QString()); }
 
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);

@@ -1,11 +1,10 @@
 #include "Model/olDocumentCopy.h"
 
 #include <BRepTools_ReShape.hxx>
-#include <NCollection_DataMap.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TColStd_HSequenceOfExtendedString.hxx>
 #include <TDF_Label.hxx>
-#include <TDF_LabelMapHasher.hxx>
+#include <TDF_LabelDataMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TDocStd_Document.hxx>
@@ -232,7 +231,7 @@ private:
     const olDocumentCopy &m_how;
     Tools m_from;
     Tools m_to;
-    NCollection_DataMap<TDF_Label, TDF_Label, TDF_LabelMapHasher> m_done;
+    TDF_LabelDataMap m_done;
 };
 
 olScene::Document olDocumentCopy::copy(const olScene::Document &source) const

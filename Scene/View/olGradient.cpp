@@ -1,6 +1,6 @@
 #include "View/olGradient.h"
 
-#include <Graphic3d_Texture2Dmanual.hxx>
+#include <Graphic3d_Texture2D.hxx>
 #include <Graphic3d_TextureParams.hxx>
 #include <Graphic3d_Vec3.hxx>
 #include <Image_PixMap.hxx>
@@ -14,6 +14,13 @@ namespace
 
 // What graphics cards align rows to.
 constexpr int columns = 4;
+
+/// A texture of pixels that were made here; the library's own class for it goes by another name in each version.
+class Pixels : public Graphic3d_Texture2D
+{
+public:
+    explicit Pixels(const Handle(Image_PixMap) & pixels) : Graphic3d_Texture2D(pixels, Graphic3d_TOT_2D_MIPMAP) {}
+};
 
 /// The renderer mixes light; the numbers of the screen are not in proportion to it.
 Graphic3d_Vec3 toLight(const osg::Color3f &color)
@@ -65,8 +72,8 @@ Handle(Graphic3d_Texture2D) olGradient::texture(int rows) const
         for (int column = 0; column < columns; ++column)
             pixels->ChangeValue<Graphic3d_Vec3>(row, column) = light;
     }
-    const Handle(Graphic3d_Texture2Dmanual) texture = new Graphic3d_Texture2Dmanual(pixels);
+    const Handle(Graphic3d_Texture2D) texture = new Pixels(pixels);
     texture->DisableModulate();
     texture->GetParams()->SetRepeat(Standard_True);
-    return Handle(Graphic3d_Texture2D)(texture);
+    return texture;
 }

@@ -6,59 +6,12 @@
 #include <QObject>
 #include <boost/core/demangle.hpp>
 
-#include <map>
+#include <set>
 #include <string>
-#include <string_view>
 #include <typeinfo>
-#include <vector>
 
 namespace
 {
-
-/// The keys that a module reported unchanged. Every confirmation reports them all, in the same order, and every apply
-/// forgets them; so the texts stay, the next one is expected to be the one that followed before, and only the meaning
-/// is forgotten.
-class UnchangedKeys
-{
-public:
-    void insert(std::string_view key)
-    {
-        if (m_next < m_order.size() && m_order[m_next]->first == key) {
-            m_order[m_next++]->second = m_round;
-            return;
-        }
-        const auto known = m_reported.find(key);
-        if (known != m_reported.end())
-            known->second = m_round;
-        else
-            m_order.push_back(&*m_reported.emplace(key, m_round).first);
-    }
-    void erase(std::string_view key)
-    {
-        const auto known = m_reported.find(key);
-        if (known != m_reported.end())
-            known->second = 0;
-    }
-    [[nodiscard]] bool contains(std::string_view key) const
-    {
-        const auto known = m_reported.find(key);
-        return known != m_reported.end() && known->second == m_round;
-    }
-    void clear()
-    {
-        ++m_round;
-        m_next = 0;
-    }
-
-private:
-    /// Each key with the round in which it was reported last.
-    using Reported = std::map<std::string, std::size_t, std::less<>>;
-
-    Reported m_reported;
-    std::vector<Reported::value_type *> m_order;
-    std::size_t m_next = 0;
-    std::size_t m_round = 1;
-};
 
 /// A module whose values live in the shared record.
 class RecordEntry : public olPreferencesEntry
@@ -93,7 +46,8 @@ public:
             unchanged.insert(key);
     }
 
-    UnchangedKeys unchanged;
+    /// What the module reported since the last settle().
+    std::set<std::string> unchanged;
 
 protected:
     void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
@@ -104,7 +58,7 @@ private:
     olPreferences &m_module;
 };
 
-UnchangedKeys &unchangedOf(olPreferencesEntry &entry) { return static_cast<RecordEntry &>(entry).unchanged; }
+std::set<std::string> &unchangedOf(olPreferencesEntry &entry) { return static_cast<RecordEntry &>(entry).unchanged; }
 
 } // namespace
 
@@ -127,6 +81,6 @@ void olPreferences::subPreferencesGUI(QWidget *page) { m_entry->subPage(page); }
 
 void olPreferences::addUnchanged(const char *key) { unchangedOf(*m_entry).insert(key); }
 
-bool olPreferences::isChanged(const char *key) const { return !unchangedOf(*m_entry).contains(key); }
+bool olPreferences::isChanged(const char *key) const { return unchangedOf(*m_entry).count(key) == 0; }
 
 olMessage &olPreferences::getData() { return olPreferencesRegistry::the().record(); }

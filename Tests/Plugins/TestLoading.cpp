@@ -1,10 +1,13 @@
+#include "Framework/olSettingList.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
 
+#include <QCheckBox>
 #include <QFile>
 
 #include <algorithm>
+#include <map>
 #include <stdexcept>
 
 namespace
@@ -65,6 +68,61 @@ TEST_F(Loading, EveryModuleHasItsPageButEssentialsLacksTheTessellationAndTheCame
     EXPECT_EQ(plugin.enter(), QString());
     expected.push_back(tessellation);
     EXPECT_EQ(registrations(), expected);
+}
+
+int taggedControls(const QWidget &page)
+{
+    const auto widgets = page.findChildren<QWidget *>();
+    return int(std::count_if(widgets.begin(), widgets.end(),
+                             [](const QWidget *widget) { return widget->property("olSettingKeys").isValid(); }));
+}
+
+TEST_F(Loading, APageIsHandedOverWithAllOfItsSettings)
+{
+    plugin.unload();
+    std::map<const olPreferencesEntry *, int> atHandOver;
+    const auto watch = QObject::connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, [&atHandOver] {
+        for (const olPreferencesEntry *entry : modules()) {
+            if (entry->page())
+                atHandOver.emplace(entry, taggedControls(*entry->page()));
+        }
+    });
+    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)), QString());
+    QObject::disconnect(watch);
+    ASSERT_EQ(atHandOver.size(), modules().size());
+    for (const auto &[entry, count] : atHandOver)
+        EXPECT_EQ(count, taggedControls(*entry->page())) << entry->className();
+}
+
+TEST_F(Loading, APageCanBeAskedForItsSettingsNoMoreWhenItsControlsGo)
+{
+    int asked = 0;
+    for (const olPreferencesEntry *entry : modules()) {
+        QWidget *page = entry->page();
+        auto *access = page->findChild<QObject *>("olSettingAccess");
+        ASSERT_TRUE(access) << entry->className();
+        const int controls = taggedControls(*page);
+        QObject::connect(access, &QObject::destroyed, [page, controls, &asked] {
+            EXPECT_EQ(taggedControls(*page), controls);
+            ++asked;
+        });
+    }
+    const int pages = int(modules().size());
+    plugin.unload();
+    EXPECT_EQ(asked, pages);
+}
+
+TEST(SettingOrder, ThatNamesWhatIsNotListedEndsTheProcessInEveryBuild)
+{
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    QObject module;
+    const olSetting<bool> listed{"Listed", true};
+    const olSetting<bool> forgotten{"Forgotten", true};
+    QCheckBox box;
+    olSettingList list(module);
+    list.add(listed, &box);
+    list.showOnPage({&listed});
+    EXPECT_DEATH(list.showOnPage({&listed, &forgotten}), "\"Forgotten\" stands in an order");
 }
 
 TEST_F(Loading, UnloadingDestroysTheModulesLastFirst)

@@ -1,5 +1,6 @@
 # Installs the SDK, builds the plug-in alone against it, as an integrator would, and loads the result.
-#   cmake -DBUILD=<the build> -DSOURCE=<the repository> -DWORK=<a scratch folder> -P build_plugin_alone.cmake
+#   cmake -DBUILD=<the build> -DSOURCE=<the repository> -DWORK=<a scratch folder> -DCOMPILER=<the C++ compiler>
+#         -P build_plugin_alone.cmake
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -11,7 +12,8 @@ endfunction()
 file(REMOVE_RECURSE ${WORK})
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/sdk)
 run(${CMAKE_COMMAND} -S ${SOURCE}/Plugins/KernelPreferences -B ${WORK}/plugin -G Ninja
-    -DCMAKE_PREFIX_PATH=${WORK}/sdk -DCMAKE_BUILD_TYPE=Debug -DORLO_SANITIZE=${SANITIZE}
+    -DCMAKE_PREFIX_PATH=${WORK}/sdk -DCMAKE_BUILD_TYPE=Debug
+    -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_CXX_FLAGS=-Werror -DORLO_SANITIZE=${SANITIZE}
     -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER})
 run(${CMAKE_COMMAND} --build ${WORK}/plugin)
 

@@ -2,4 +2,6 @@
 
 #include "FileIO/olFileType.h"
 
-olCatiaV4FilePreferencesGUII::olCatiaV4FilePreferencesGUII() : olFileTypePreferences(olFileType::CatiaV4, "Catia V4") {}
+olCatiaV4FilePreferencesGUII::olCatiaV4FilePreferencesGUII() : olCadImportPreferences(olFileType::CatiaV4, "Catia V4")
+{
+}

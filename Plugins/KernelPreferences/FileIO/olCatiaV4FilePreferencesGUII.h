@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Catia V4 files.
-class olCatiaV4FilePreferencesGUII : public olFileTypePreferences
+class olCatiaV4FilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -2,4 +2,6 @@
 
 #include "FileIO/olFileType.h"
 
-olCatiaV5FilePreferencesGUII::olCatiaV5FilePreferencesGUII() : olFileTypePreferences(olFileType::CatiaV5, "Catia V5") {}
+olCatiaV5FilePreferencesGUII::olCatiaV5FilePreferencesGUII() : olCadImportPreferences(olFileType::CatiaV5, "Catia V5")
+{
+}

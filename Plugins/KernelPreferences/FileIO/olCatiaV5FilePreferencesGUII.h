@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Catia V5 files.
-class olCatiaV5FilePreferencesGUII : public olFileTypePreferences
+class olCatiaV5FilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -2,4 +2,4 @@
 
 #include "FileIO/olFileType.h"
 
-olDGNFilePreferencesGUII::olDGNFilePreferencesGUII() : olFileTypePreferences(olFileType::Dgn, "DGN") {}
+olDGNFilePreferencesGUII::olDGNFilePreferencesGUII() : olCadImportPreferences(olFileType::Dgn, "DGN") {}

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of DGN files.
-class olDGNFilePreferencesGUII : public olFileTypePreferences
+class olDGNFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -2,4 +2,4 @@
 
 #include "FileIO/olFileType.h"
 
-olDraftixFilePreferencesGUII::olDraftixFilePreferencesGUII() : olFileTypePreferences(olFileType::Draftix, "Draftix") {}
+olDraftixFilePreferencesGUII::olDraftixFilePreferencesGUII() : olCadImportPreferences(olFileType::Draftix, "Draftix") {}

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Draftix files.
-class olDraftixFilePreferencesGUII : public olFileTypePreferences
+class olDraftixFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -42,35 +42,25 @@ void takeFrom(const SearchPathRows &rows, Paths &paths) { paths = rows.page->sea
 
 olFileIOPreferencesGUII::olFileIOPreferencesGUII()
     : olModule(QCoreApplication::translate("olPreferences", "FileIO"),
-               QCoreApplication::translate("olPreferences", "FileIO")),
-      m_page(std::make_unique<olFileIOPreferencesGUIW>()),
-      m_settings(*m_page)
+               QCoreApplication::translate("olPreferences", "FileIO"))
 {
-    const auto &form = m_page->form();
-    m_settings.addOptionalList(searchPaths, SearchPathRows{m_page.get(), form.searchPaths});
-    m_settings.add(verifyGeometry, form.verifyGeometry);
-    m_settings.add(compressionMode, form.compressionMode);
-    m_settings.add(compressionSize, byNumber(form.compressionSize));
-    m_settings.add(optimizeGeometry, form.optimizeGeometry);
-    m_settings.addWithoutControl(parallelLoading);
-    m_settings.add(tmpPath, form.tmpPath);
-    m_settings.addRetired("FileIO create uber materials");
-    m_settings.add(showDialog, form.showDialog);
-    m_settings.add(closeDialog, form.closeDialog);
-    m_settings.add(centerToOrigin, form.centerToOrigin);
-    m_settings.add(placeOnGround, form.placeOnGround);
-    m_settings.add(maxParallelTasks, form.maxParallelTasks);
+    const auto &form = page().form();
+    settings().addOptionalList(searchPaths, SearchPathRows{&page(), form.searchPaths});
+    settings().add(verifyGeometry, form.verifyGeometry);
+    settings().add(compressionMode, form.compressionMode);
+    settings().add(compressionSize, byNumber(form.compressionSize));
+    settings().add(optimizeGeometry, form.optimizeGeometry);
+    settings().addWithoutControl(parallelLoading);
+    settings().add(tmpPath, form.tmpPath);
+    settings().addRetired("FileIO create uber materials");
+    settings().add(showDialog, form.showDialog);
+    settings().add(closeDialog, form.closeDialog);
+    settings().add(centerToOrigin, form.centerToOrigin);
+    settings().add(placeOnGround, form.placeOnGround);
+    settings().add(maxParallelTasks, form.maxParallelTasks);
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olFileIOPreferencesGUII::~olFileIOPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olFileIOPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olFileIOPreferencesGUII::applyPreferences()
 {
@@ -92,14 +82,14 @@ void olFileIOPreferencesGUII::applyPreferences()
 
 void olFileIOPreferencesGUII::updateGUI()
 {
-    m_settings.showOnPage({&searchPaths, &verifyGeometry, &optimizeGeometry, &compressionMode, &compressionSize,
+    settings().showOnPage({&searchPaths, &verifyGeometry, &optimizeGeometry, &compressionMode, &compressionSize,
                            &tmpPath, &showDialog, &closeDialog, &centerToOrigin, &placeOnGround, &maxParallelTasks});
 }
 
 // Stored plainly: no key of this module is ever reported unchanged.
 void olFileIOPreferencesGUII::updateData()
 {
-    m_settings.storeFromPage({&searchPaths, &verifyGeometry, &optimizeGeometry, &compressionMode, &compressionSize,
+    settings().storeFromPage({&searchPaths, &verifyGeometry, &optimizeGeometry, &compressionMode, &compressionSize,
                               &maxParallelTasks, &tmpPath, &showDialog, &closeDialog, &centerToOrigin, &placeOnGround});
 }
 
@@ -107,7 +97,7 @@ void olFileIOPreferencesGUII::updateData()
 /// empty path is set, not unset, so that it also clears what the process was started with.
 void olFileIOPreferencesGUII::applyTmpPath() const
 {
-    const QString path = m_page->form().tmpPath->text();
+    const QString path = page().form().tmpPath->text();
     if (!path.isEmpty() && !olFile::exists(path.toStdString(), false, false)) {
         olLog::error("FileIO preferences: tmp path doesn't exist!");
         return;

@@ -3,7 +3,7 @@
 #include "FileIO/olFileType.h"
 
 olGenericCADFilePreferencesGUII::olGenericCADFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::GenericCAD, "Base CAD")
+    : olCadImportPreferences(olFileType::GenericCAD, "Base CAD")
 {
     settings().own(useAtf);
 }

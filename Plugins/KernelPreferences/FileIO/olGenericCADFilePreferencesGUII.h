@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of files by the base CAD reader, which knows many formats.
-class olGenericCADFilePreferencesGUII : public olFileTypePreferences
+class olGenericCADFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -2,4 +2,4 @@
 
 #include "FileIO/olFileType.h"
 
-olIgesFilePreferencesGUII::olIgesFilePreferencesGUII() : olFileTypePreferences(olFileType::Iges, "Iges") {}
+olIgesFilePreferencesGUII::olIgesFilePreferencesGUII() : olCadImportPreferences(olFileType::Iges, "Iges") {}

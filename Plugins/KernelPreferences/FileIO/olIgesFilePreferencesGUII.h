@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Iges files.
-class olIgesFilePreferencesGUII : public olFileTypePreferences
+class olIgesFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

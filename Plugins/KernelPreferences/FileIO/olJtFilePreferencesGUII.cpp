@@ -14,20 +14,22 @@ const olSetting<bool> useLegacyLoader{"JTOptions USEPLUGIN", false};
 const olSetting<bool> useActiveLayerFilter{"JTOptions ACTIVELAYERFILTER", true};
 const olSetting<int> loadBreps{"JTOptions LOADBREPS", 0};
 
+void extend(olSettingList &settings, olFileTypePreferencesGUIW &page)
+{
+    const auto &form = page.form();
+    settings.add(useLegacyLoader, form.useLegacyJtLoader);
+    settings.add(useActiveLayerFilter, form.useActiveLayerFilter);
+    settings.add(loadBreps, form.loadBreps);
+    page.showJtGroups();
+}
+
 } // namespace
 
-olJtFilePreferencesGUII::olJtFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::Jt, "JT", &olFileTypePreferencesGUIW::showJtGroups)
-{
-    const auto &form = page().form();
-    settings().add(useLegacyLoader, form.useLegacyJtLoader);
-    settings().add(useActiveLayerFilter, form.useActiveLayerFilter);
-    settings().add(loadBreps, form.loadBreps);
-}
+olJtFilePreferencesGUII::olJtFilePreferencesGUII() : olCadImportPreferences(olFileType::Jt, "JT", &extend) {}
 
 void olJtFilePreferencesGUII::applyPreferences()
 {
-    olFileTypePreferences::applyPreferences();
+    olCadImportPreferences::applyPreferences();
 
     const bool legacy = readOr(useLegacyLoader, false);
     const bool layerFilter = readOr(useActiveLayerFilter, true);

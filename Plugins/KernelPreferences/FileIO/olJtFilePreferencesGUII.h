@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of JT files, by one of two loaders.
-class olJtFilePreferencesGUII : public olFileTypePreferences
+class olJtFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -47,16 +47,17 @@ std::string versionToken(int year)
 
 } // namespace
 
-olKBXFilePreferencesGUII::olKBXFilePreferencesGUII()
-    : olFileTypePreferences("KBX", &olFileTypePreferencesGUIW::showKbxGroup)
+olKBXFilePreferencesGUII::olKBXFilePreferencesGUII() : olFileTypePreferences("KBX")
 {
+    page().showKbxGroup();
+
     const auto &form = page().form();
     settings().add(version, KnownData{form.kbxVersion});
     settings().add(format, form.kbxFormat);
     settings().add(exportVertexColors, form.kbxExportVertexColors);
-}
 
-void olKBXFilePreferencesGUII::setDefaults(olMessage &, bool flag) { settings().writeDefaults(flag); }
+    handOverPage();
+}
 
 void olKBXFilePreferencesGUII::applyPreferences()
 {
@@ -68,7 +69,5 @@ void olKBXFilePreferencesGUII::applyPreferences()
                                 ",kbx_export_vertex_colors=" + (withColors ? "true" : "false");
     osg::SceneFileHandler::the().setOptions("kbx", options.c_str());
 }
-
-void olKBXFilePreferencesGUII::updateGUI() { settings().showOnPage(); }
 
 void olKBXFilePreferencesGUII::updateData() { settings().storeFromPage(); }

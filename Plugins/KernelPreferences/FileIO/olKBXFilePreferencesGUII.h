@@ -10,8 +10,6 @@ class olKBXFilePreferencesGUII : public olFileTypePreferences
 public:
     olKBXFilePreferencesGUII();
 
-    void setDefaults(olMessage &, bool flag) override;
     void applyPreferences() override;
-    void updateGUI() override;
     void updateData() override;
 };

@@ -38,32 +38,22 @@ std::string locationOption(const QString &path)
 } // namespace
 
 olMirraPreferencesGUII::olMirraPreferencesGUII()
-    : olModule(QLatin1String("Mirra"), QCoreApplication::translate("olPreferences", "FileIO")),
-      m_page(std::make_unique<olMirraPreferencesGUIW>()),
-      m_settings(*m_page)
+    : olModule(QLatin1String("Mirra"), QCoreApplication::translate("olPreferences", "FileIO"))
 {
     // The four without a control are kept for stored preferences; the loader's options never follow them.
-    const auto &form = m_page->form();
-    m_settings.addWithoutControl(multitextureEnvCombiner);
-    m_settings.add(forceGrayscaleShadows, form.forceGrayscaleShadows);
-    m_settings.add(location, form.location);
-    m_settings.addWithoutControl(autoloadShadowGeometry);
-    m_settings.addWithoutControl(shadowGeometry);
-    m_settings.addWithoutControl(shadowMerge);
-    m_settings.add(localMaterialLibrary, form.localMaterialLibrary);
-    m_settings.add(units, byText(form.units));
-    m_settings.add(importUnits, byText(form.importUnits));
+    const auto &form = page().form();
+    settings().addWithoutControl(multitextureEnvCombiner);
+    settings().add(forceGrayscaleShadows, form.forceGrayscaleShadows);
+    settings().add(location, form.location);
+    settings().addWithoutControl(autoloadShadowGeometry);
+    settings().addWithoutControl(shadowGeometry);
+    settings().addWithoutControl(shadowMerge);
+    settings().add(localMaterialLibrary, form.localMaterialLibrary);
+    settings().add(units, byText(form.units));
+    settings().add(importUnits, byText(form.importUnits));
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olMirraPreferencesGUII::~olMirraPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olMirraPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olMirraPreferencesGUII::applyPreferences()
 {
@@ -86,7 +76,3 @@ void olMirraPreferencesGUII::applyPreferences()
     options += "importunits=" + fileUnits;
     osg::SceneFileHandler::the().setOptions("mrb", options.c_str());
 }
-
-void olMirraPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
-void olMirraPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

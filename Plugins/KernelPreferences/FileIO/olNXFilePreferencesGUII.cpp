@@ -2,4 +2,4 @@
 
 #include "FileIO/olFileType.h"
 
-olNXFilePreferencesGUII::olNXFilePreferencesGUII() : olFileTypePreferences(olFileType::NX, "NX") {}
+olNXFilePreferencesGUII::olNXFilePreferencesGUII() : olCadImportPreferences(olFileType::NX, "NX") {}

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of NX files.
-class olNXFilePreferencesGUII : public olFileTypePreferences
+class olNXFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -5,10 +5,7 @@
 #include <QCoreApplication>
 
 olOsbPreferencesGUII::olOsbPreferencesGUII()
-    : olModule(QLatin1String("OSB / OPB"), QCoreApplication::translate("olPreferences", "FileIO")),
-      m_page(std::make_unique<olOsbPreferencesGUIW>())
+    : olModule(QLatin1String("OSB / OPB"), QCoreApplication::translate("olPreferences", "FileIO"))
 {
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olOsbPreferencesGUII::~olOsbPreferencesGUII() { subPreferencesGUI(m_page.get()); }

@@ -2,7 +2,7 @@
 
 #include "FileIO/olFileType.h"
 
-olPLMXMLPreferencesGUII::olPLMXMLPreferencesGUII() : olFileTypePreferences(olFileType::PlmXml, "PLM XML")
+olPLMXMLPreferencesGUII::olPLMXMLPreferencesGUII() : olCadImportPreferences(olFileType::PlmXml, "PLM XML")
 {
     settings().own(loadReferencedFiles);
 }

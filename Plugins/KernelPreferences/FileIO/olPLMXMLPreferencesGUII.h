@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of PLM XML files.
-class olPLMXMLPreferencesGUII : public olFileTypePreferences
+class olPLMXMLPreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

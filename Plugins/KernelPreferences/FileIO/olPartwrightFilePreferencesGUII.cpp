@@ -3,6 +3,6 @@
 #include "FileIO/olFileType.h"
 
 olPartwrightFilePreferencesGUII::olPartwrightFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::Partwright, "Partwright")
+    : olCadImportPreferences(olFileType::Partwright, "Partwright")
 {
 }

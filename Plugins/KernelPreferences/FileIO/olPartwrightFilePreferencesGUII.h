@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Partwright files.
-class olPartwrightFilePreferencesGUII : public olFileTypePreferences
+class olPartwrightFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

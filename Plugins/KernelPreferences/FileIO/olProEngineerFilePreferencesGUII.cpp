@@ -3,6 +3,6 @@
 #include "FileIO/olFileType.h"
 
 olProEngineerFilePreferencesGUII::olProEngineerFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::ProEngineer, "ProE / Creo")
+    : olCadImportPreferences(olFileType::ProEngineer, "ProE / Creo")
 {
 }

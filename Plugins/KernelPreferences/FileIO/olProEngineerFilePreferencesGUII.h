@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of ProE / Creo files.
-class olProEngineerFilePreferencesGUII : public olFileTypePreferences
+class olProEngineerFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

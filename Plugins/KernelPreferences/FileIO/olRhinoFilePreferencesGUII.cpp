@@ -14,19 +14,23 @@ namespace
 const olSetting<bool> useLegacyLoader{"RhinoOptions USEPLUGIN", false};
 const olSetting<bool> importNurbs{"RhinoOptions import nurbs", true};
 
+void extend(olSettingList &settings, olFileTypePreferencesGUIW &page)
+{
+    const auto &form = page.form();
+    settings.add(useLegacyLoader, form.useLegacyRhinoLoader);
+    settings.add(importNurbs, form.importNurbs);
+    page.showRhinoGroup();
+}
+
 } // namespace
 
-olRhinoFilePreferencesGUII::olRhinoFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::Rhino, "Rhino", &olFileTypePreferencesGUIW::showRhinoGroup)
+olRhinoFilePreferencesGUII::olRhinoFilePreferencesGUII() : olCadImportPreferences(olFileType::Rhino, "Rhino", &extend)
 {
-    const auto &form = page().form();
-    settings().add(useLegacyLoader, form.useLegacyRhinoLoader);
-    settings().add(importNurbs, form.importNurbs);
 }
 
 void olRhinoFilePreferencesGUII::applyPreferences()
 {
-    olFileTypePreferences::applyPreferences();
+    olCadImportPreferences::applyPreferences();
 
     const bool legacy = readOr(useLegacyLoader, false);
     const bool nurbs = readOr(importNurbs, true);

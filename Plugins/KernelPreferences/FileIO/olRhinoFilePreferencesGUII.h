@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Rhino files, by one of two loaders.
-class olRhinoFilePreferencesGUII : public olFileTypePreferences
+class olRhinoFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

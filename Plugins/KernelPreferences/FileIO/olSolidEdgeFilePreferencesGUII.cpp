@@ -3,6 +3,6 @@
 #include "FileIO/olFileType.h"
 
 olSolidEdgeFilePreferencesGUII::olSolidEdgeFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::SolidEdge, "SolidEdge")
+    : olCadImportPreferences(olFileType::SolidEdge, "SolidEdge")
 {
 }

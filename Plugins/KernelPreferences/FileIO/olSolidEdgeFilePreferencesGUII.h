@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of SolidEdge files.
-class olSolidEdgeFilePreferencesGUII : public olFileTypePreferences
+class olSolidEdgeFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -3,6 +3,6 @@
 #include "FileIO/olFileType.h"
 
 olSolidWorksFilePreferencesGUII::olSolidWorksFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::SolidWorks, "SolidWorks")
+    : olCadImportPreferences(olFileType::SolidWorks, "SolidWorks")
 {
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of SolidWorks files.
-class olSolidWorksFilePreferencesGUII : public olFileTypePreferences
+class olSolidWorksFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -2,4 +2,4 @@
 
 #include "FileIO/olFileType.h"
 
-olStepFilePreferencesGUII::olStepFilePreferencesGUII() : olFileTypePreferences(olFileType::Step, "Step") {}
+olStepFilePreferencesGUII::olStepFilePreferencesGUII() : olCadImportPreferences(olFileType::Step, "Step") {}

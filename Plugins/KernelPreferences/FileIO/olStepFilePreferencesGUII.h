@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of Step files.
-class olStepFilePreferencesGUII : public olFileTypePreferences
+class olStepFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

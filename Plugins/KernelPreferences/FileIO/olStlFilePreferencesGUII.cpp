@@ -11,16 +11,18 @@ namespace
 
 const olSetting<int> exportFormat{"STLOptions export", 0};
 
+void extend(olSettingList &settings, olFileTypePreferencesGUIW &page)
+{
+    settings.add(exportFormat, page.form().stlExportFormat);
+    page.showStlGroup();
+}
+
 } // namespace
 
-olStlFilePreferencesGUII::olStlFilePreferencesGUII()
-    : olFileTypePreferences(olFileType::Stl, "STL", &olFileTypePreferencesGUIW::showStlGroup)
-{
-    settings().add(exportFormat, page().form().stlExportFormat);
-}
+olStlFilePreferencesGUII::olStlFilePreferencesGUII() : olCadImportPreferences(olFileType::Stl, "STL", &extend) {}
 
 void olStlFilePreferencesGUII::applyPreferences()
 {
-    olFileTypePreferences::applyPreferences();
+    olCadImportPreferences::applyPreferences();
     olFileIO::setStlExportFormat(readOr(exportFormat, 0));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of STL files and the format in which they are written.
-class olStlFilePreferencesGUII : public olFileTypePreferences
+class olStlFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

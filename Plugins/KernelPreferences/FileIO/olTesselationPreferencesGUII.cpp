@@ -31,27 +31,17 @@ void takeFrom(const QualityRows &rows, Tolerances &tolerances) { tolerances = ro
 
 olTesselationPreferencesGUII::olTesselationPreferencesGUII()
     : olModule(QCoreApplication::translate("olPreferences", "Tesselation"),
-               QCoreApplication::translate("olPreferences", "Import")),
-      m_page(std::make_unique<olTesselationPreferencesGUIW>()),
-      m_settings(*m_page)
+               QCoreApplication::translate("olPreferences", "Import"))
 {
-    const auto &form = m_page->form();
-    m_settings.add(topologyTolerance, form.topologyTolerance);
-    m_settings.add(topologyMethod, form.topologyMethod);
-    m_settings.add(offsetFactor, form.offsetFactor);
-    m_settings.add(qualities, QualityRows{m_page.get(), form.qualities});
-    m_settings.add(checkOrientation, form.checkOrientation);
+    const auto &form = page().form();
+    settings().add(topologyTolerance, form.topologyTolerance);
+    settings().add(topologyMethod, form.topologyMethod);
+    settings().add(offsetFactor, form.offsetFactor);
+    settings().add(qualities, QualityRows{&page(), form.qualities});
+    settings().add(checkOrientation, form.checkOrientation);
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olTesselationPreferencesGUII::~olTesselationPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olTesselationPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olTesselationPreferencesGUII::applyPreferences()
 {
@@ -62,7 +52,3 @@ void olTesselationPreferencesGUII::applyPreferences()
     applyIfRead(qualities, &olGeometryOptimizer::setTessellationQuality);
     applyIfRead(checkOrientation, &olGeometryOptimizer::setCheckOrientation);
 }
-
-void olTesselationPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
-void olTesselationPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

@@ -2,4 +2,4 @@
 
 #include "FileIO/olFileType.h"
 
-olWireFilePreferencesGUII::olWireFilePreferencesGUII() : olFileTypePreferences(olFileType::Wire, "Contura") {}
+olWireFilePreferencesGUII::olWireFilePreferencesGUII() : olCadImportPreferences(olFileType::Wire, "Contura") {}

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileIO/olFileTypePreferences.h"
+#include "FileIO/olCadImportPreferences.h"
 
 /// The import of the wire files of Contura.
-class olWireFilePreferencesGUII : public olFileTypePreferences
+class olWireFilePreferencesGUII : public olCadImportPreferences
 {
     Q_OBJECT
 

@@ -34,24 +34,14 @@ std::string readerOptions()
 } // namespace
 
 olWrlPreferencesGUII::olWrlPreferencesGUII()
-    : olModule(QLatin1String("WRL"), QCoreApplication::translate("olPreferences", "FileIO")),
-      m_page(std::make_unique<olWrlPreferencesGUIW>()),
-      m_settings(*m_page)
+    : olModule(QLatin1String("WRL"), QCoreApplication::translate("olPreferences", "FileIO"))
 {
-    const auto &form = m_page->form();
-    m_settings.add(inlineTextures, form.inlineTextures);
-    m_settings.add(readerOptimization, form.readerOptimization);
+    const auto &form = page().form();
+    settings().add(inlineTextures, form.inlineTextures);
+    settings().add(readerOptimization, form.readerOptimization);
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olWrlPreferencesGUII::~olWrlPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olWrlPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olWrlPreferencesGUII::applyPreferences()
 {
@@ -63,7 +53,5 @@ void olWrlPreferencesGUII::applyPreferences()
     osg::SceneFileHandler::the().setOptions("vrml", options.c_str());
 }
 
-void olWrlPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
 // Stored plainly: no key of this module is ever reported unchanged.
-void olWrlPreferencesGUII::updateData() { m_settings.storeFromPage(); }
+void olWrlPreferencesGUII::updateData() { settings().storeFromPage(); }

@@ -1,27 +1,17 @@
 #pragma once
 
 #include "Framework/olModule.h"
-#include "Framework/olSettingList.h"
-
-#include <memory>
 
 class olWrlPreferencesGUIW;
 
 /// The options of the VRML reader and writer.
-class olWrlPreferencesGUII : public olModule
+class olWrlPreferencesGUII : public olModule<olWrlPreferencesGUIW>
 {
     Q_OBJECT
 
 public:
     olWrlPreferencesGUII();
-    ~olWrlPreferencesGUII() override;
 
-    void setDefaults(olMessage &, bool flag) override;
     void applyPreferences() override;
-    void updateGUI() override;
     void updateData() override;
-
-private:
-    std::unique_ptr<olWrlPreferencesGUIW> m_page;
-    olSettingList m_settings;
 };

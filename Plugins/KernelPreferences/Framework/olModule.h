@@ -1,33 +1,65 @@
 #pragma once
 
+#include "Framework/olPageWidget.h"
+#include "Framework/olSettingList.h"
 #include "Kernel/olPreferences.h"
 
 #include <QObject>
 
-/// What every module is: one of the host's preferences, with the signals and the translations of a QObject.
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+class olMessage;
+
+/// What every module is: one of the host's preferences, with the signals and translations of a QObject, that owns a
+/// page and the list of its settings. The operations are walks over that list, so what a module adds is the list itself
+/// and what applying does.
 ///
-/// The functions below do what the bases do. A module's table of virtual functions names each one that it inherits,
-/// and every name from another library is looked up when the plug-in is loaded: here that is done once, not once for
-/// each module.
-class olModule : public QObject, public olPreferences
+/// `Host` is the kind of preferences that the host knows it as: olPreferences or olPreferencesCategory.
+template <class Page, class Host = olPreferences> class olModule : public QObject, public Host
 {
-    Q_OBJECT
-
 public:
-    using olPreferences::olPreferences;
-    ~olModule() override;
+    /// The values go first, then the host loses the page, and then nobody can ask any more.
+    ~olModule() override
+    {
+        m_settings.removeKeys();
+        this->subPreferencesGUI(m_page.get());
+    }
 
-    void preferencesNewScene(olMessage &message) override { olPreferences::preferencesNewScene(message); }
-    void preferencesLoaded(olMessage &message) override { olPreferences::preferencesLoaded(message); }
-    void preferencesInitialApply(olMessage &message) override { olPreferences::preferencesInitialApply(message); }
-
-    bool event(QEvent *event) override { return QObject::event(event); }
-    bool eventFilter(QObject *watched, QEvent *event) override { return QObject::eventFilter(watched, event); }
+    void setDefaults(olMessage &, bool flag) override { m_settings.writeDefaults(flag); }
+    void updateGUI() override { m_settings.showOnPage(); }
+    void updateData() override
+    {
+        m_settings.takeFromPage([this](const std::string &key) {
+            // A category sees for itself what changed.
+            if constexpr (std::is_base_of_v<olPreferences, Host>)
+                this->addUnchanged(key.c_str());
+        });
+    }
 
 protected:
-    void timerEvent(QTimerEvent *event) override { QObject::timerEvent(event); }
-    void childEvent(QChildEvent *event) override { QObject::childEvent(event); }
-    void customEvent(QEvent *event) override { QObject::customEvent(event); }
-    void connectNotify(const QMetaMethod &signal) override { QObject::connectNotify(signal); }
-    void disconnectNotify(const QMetaMethod &signal) override { QObject::disconnectNotify(signal); }
+    /// Registers under that name, and below the category where the host has some, and makes the page. The module still
+    /// has to list its settings and to hand the page over.
+    template <class... Texts>
+    explicit olModule(Texts &&...texts)
+        : Host(std::forward<Texts>(texts)...), m_page(std::make_unique<Page>()), m_settings(*this)
+    {
+    }
+
+    /// Gives the page to the host: the last thing of a constructor, so that whoever looks through a page that comes
+    /// finds all of its settings.
+    void handOverPage()
+    {
+        m_settings.tellOn(*m_page);
+        this->addPreferencesGUI(m_page.get());
+    }
+
+    [[nodiscard]] Page &page() const { return static_cast<Page &>(*m_page); }
+    [[nodiscard]] olSettingList &settings() { return m_settings; }
+
+private:
+    // In this order: the list refers to the page's controls, so it goes before them.
+    std::unique_ptr<olPageWidget> m_page;
+    olSettingList m_settings;
 };

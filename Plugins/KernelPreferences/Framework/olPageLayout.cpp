@@ -64,7 +64,8 @@ void hideRow(QWidget &field)
 {
     field.hide();
     auto *form = qobject_cast<QFormLayout *>(field.parentWidget()->layout());
-    Q_ASSERT_X(form && form->indexOf(&field) >= 0, "hideRow", "the field has no row of a form");
+    if (!form || form->indexOf(&field) < 0)
+        qFatal("The field \"%s\" has no row of a form to be hidden with.", qPrintable(field.objectName()));
     int row = -1;
     QFormLayout::ItemRole role = QFormLayout::SpanningRole;
     form->getWidgetPosition(&field, &row, &role);

@@ -6,8 +6,6 @@
 
 #include <utility>
 
-olPageWidget::~olPageWidget() = default;
-
 bool olPageWidget::event(QEvent *event)
 {
     // Not at construction: measuring texts costs a quarter of it, and most pages of a run are never looked at. The host

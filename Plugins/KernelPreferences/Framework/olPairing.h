@@ -7,19 +7,23 @@
 
 #include <QVariant>
 
-/// A setting in a module's list, whatever its type and control.
+/// A setting in a module's list, whatever its type and control. It has the declaration for its own, as some are members
+/// of a module and gone before its list.
 class olListedSetting
 {
 public:
-    explicit olListedSetting(const olSettingBase &setting) : m_setting(setting) {}
+    olListedSetting() = default;
     virtual ~olListedSetting() = default;
     olListedSetting(const olListedSetting &) = delete;
     olListedSetting &operator=(const olListedSetting &) = delete;
 
-    [[nodiscard]] const olSettingBase &setting() const { return m_setting; }
-    [[nodiscard]] const std::string &key() const { return m_setting.key(); }
+    [[nodiscard]] virtual const olSettingBase &setting() const = 0;
+    [[nodiscard]] const std::string &key() const { return setting().key(); }
 
     virtual void writeDefault(bool flag) const = 0;
+
+    /// Takes the value out of the store, at the end of the module.
+    virtual void forget() const = 0;
 
     /// The control; null for a setting without one. The rest is not to be called without one.
     [[nodiscard]] virtual QWidget *widget() const { return nullptr; }
@@ -34,30 +38,31 @@ public:
     /// The control alone.
     [[nodiscard]] virtual QVariant value() const { return {}; }
     [[nodiscard]] virtual bool setValue(const QVariant &) const { return false; }
-
-private:
-    const olSettingBase &m_setting;
 };
 
 /// A setting that no control shows: defaulted and removed, never shown or taken.
 template <class T, class Store = olRecordStore> class olUnshownSetting : public olListedSetting
 {
 public:
-    explicit olUnshownSetting(const olSetting<T> &setting) : olListedSetting(setting) {}
+    explicit olUnshownSetting(const olSetting<T> &setting) : m_setting(setting) {}
 
-    void writeDefault(bool flag) const override { Store::writeDefault(typed(), flag); }
+    [[nodiscard]] const olSetting<T> &setting() const override { return m_setting; }
+    void writeDefault(bool flag) const override { Store::writeDefault(m_setting, flag); }
+    void forget() const override { Store::forget(m_setting); }
 
-protected:
-    [[nodiscard]] const olSetting<T> &typed() const { return static_cast<const olSetting<T> &>(setting()); }
+private:
+    const olSetting<T> m_setting;
 };
 
 /// A key of former times, which the module still sweeps from the record.
 class olRetiredSetting : public olListedSetting
 {
 public:
-    explicit olRetiredSetting(std::string key) : olListedSetting(m_retired), m_retired(std::move(key)) {}
+    explicit olRetiredSetting(std::string key) : m_retired(std::move(key)) {}
 
+    [[nodiscard]] const olSettingBase &setting() const override { return m_retired; }
     void writeDefault(bool) const override {}
+    void forget() const override { olRecordStore::forget(m_retired); }
 
 private:
     olSettingBase m_retired;
@@ -82,13 +87,13 @@ public:
     void show() const override
     {
         T value{};
-        if (Store::read(this->typed(), value))
+        if (Store::read(this->setting(), value))
             showOn(m_control, value);
         else
             showLive();
     }
-    [[nodiscard]] bool takeIfChanged() const override { return Store::writeIfChanged(this->typed(), taken()); }
-    void take() const override { Store::write(this->typed(), taken()); }
+    [[nodiscard]] bool takeIfChanged() const override { return Store::writeIfChanged(this->setting(), taken()); }
+    void take() const override { Store::write(this->setting(), taken()); }
 
     [[nodiscard]] QVariant value() const override { return toVariant(taken()); }
     [[nodiscard]] bool setValue(const QVariant &variant) const override
@@ -135,7 +140,7 @@ public:
     {
         const List list = this->taken();
         return list.empty() ? olRecordStore::remove(this->setting())
-                            : olRecordStore::writeIfChanged(this->typed(), list);
+                            : olRecordStore::writeIfChanged(this->setting(), list);
     }
     void take() const override { (void)takeIfChanged(); }
 };

@@ -35,6 +35,9 @@ struct olRecordStore {
         return wasThere;
     }
 
+    /// At the end of the module.
+    static void forget(const olSettingBase &setting) { record().remove(setting.key()); }
+
 private:
     static olMessage &record() { return olPreferences::getData(); }
 };

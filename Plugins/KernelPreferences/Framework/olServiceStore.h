@@ -47,6 +47,9 @@ struct olServiceStore {
         return true;
     }
 
+    /// The values stay: they are the service's.
+    static void forget(const olSettingBase &) {}
+
 private:
     static olPreferencesService &service() { return *olKernelServiceFactory::the<olPreferencesService>(); }
 };

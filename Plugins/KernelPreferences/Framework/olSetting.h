@@ -34,3 +34,10 @@ private:
     T m_value{};
     T (*m_ask)() = nullptr;
 };
+
+/// A setting whose values live in the host's preferences service instead of the record.
+template <class T> class olServiceSetting : public olSetting<T>
+{
+public:
+    using olSetting<T>::olSetting;
+};

@@ -2,9 +2,7 @@
 
 #include "Framework/olSettingList.h"
 
-#include <QWidget>
-
-olSettingAccess::olSettingAccess(const olSettingList &settings, QWidget &page) : QObject(&page), m_settings(settings)
+olSettingAccess::olSettingAccess(const olSettingList &settings, QObject &owner) : QObject(&owner), m_settings(settings)
 {
     setObjectName(QLatin1String("olSettingAccess"));
 }

@@ -4,18 +4,17 @@
 #include <QString>
 #include <QVariant>
 
-class QWidget;
 class olSettingList;
 
 /// Through this a host that finds it on a page reads one setting from its control and shows one in it, without the
-/// record being touched. Values are variants as olVariant.h lays them down.
+/// record being touched. Values are variants as olVariant.h lays them down. The list that it speaks for owns it.
 class olSettingAccess : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Becomes a child of the page, under the object name "olSettingAccess".
-    olSettingAccess(const olSettingList &settings, QWidget &page);
+    /// A child of the owner, under the object name "olSettingAccess".
+    olSettingAccess(const olSettingList &settings, QObject &owner);
 
     /// What the setting's control holds; invalid for a key that no control of the page edits.
     Q_INVOKABLE QVariant value(const QString &key) const;

@@ -1,10 +1,10 @@
 #include "Framework/olSettingList.h"
 
 #include "Framework/olSettingAccess.h"
-#include "Kernel/olPreferences.h"
 
 #include <QStringList>
 #include <QWidget>
+#include <QtGlobal>
 
 #include <algorithm>
 
@@ -21,23 +21,13 @@ void tag(QWidget &control, const std::string &key)
     control.setProperty(keysProperty, keys);
 }
 
-olMessage &record() { return olPreferences::getData(); }
-
-void takeOne(const olListedSetting &setting, olPreferences &module)
-{
-    if (setting.widget() && !setting.takeIfChanged())
-        module.addUnchanged(setting.key().c_str());
-}
-
 } // namespace
 
-olSettingList::olSettingList(QWidget &page)
-{
-    // Owned by the page.
-    new olSettingAccess(*this, page);
-}
+olSettingList::olSettingList(QObject &module) : m_access(std::make_unique<olSettingAccess>(*this, module)) {}
 
 olSettingList::~olSettingList() = default;
+
+void olSettingList::tellOn(QObject &page) { m_access->setParent(&page); }
 
 void olSettingList::append(std::unique_ptr<olListedSetting> setting)
 {
@@ -46,15 +36,7 @@ void olSettingList::append(std::unique_ptr<olListedSetting> setting)
     m_settings.push_back(std::move(setting));
 }
 
-void olSettingList::own(const olSettingBase &shared)
-{
-    m_foreign.erase(std::remove(m_foreign.begin(), m_foreign.end(), &shared), m_foreign.end());
-}
-
-bool olSettingList::isForeign(const olSettingBase &setting) const
-{
-    return std::find(m_foreign.begin(), m_foreign.end(), &setting) != m_foreign.end();
-}
+void olSettingList::own(const olSettingBase &shared) { m_foreign.erase(shared.key()); }
 
 const olListedSetting *olSettingList::find(const std::string &key) const
 {
@@ -65,22 +47,16 @@ const olListedSetting *olSettingList::find(const std::string &key) const
 
 const olListedSetting &olSettingList::listed(const olSettingBase &setting) const
 {
-    const auto found = std::find_if(m_settings.begin(), m_settings.end(),
-                                    [&setting](const auto &listed) { return &listed->setting() == &setting; });
-    Q_ASSERT_X(found != m_settings.end(), "olSettingList", setting.key().c_str());
-    return **found;
+    const olListedSetting *found = find(setting.key());
+    if (!found)
+        qFatal("The setting \"%s\" stands in an order of its module, but not in its list.", setting.key().c_str());
+    return *found;
 }
 
 void olSettingList::writeDefaults(bool flag) const
 {
     for (const auto &setting : m_settings)
         setting->writeDefault(flag);
-}
-
-void olSettingList::writeDefaults(Order order, bool flag) const
-{
-    for (const olSettingBase *setting : order)
-        listed(*setting).writeDefault(flag);
 }
 
 void olSettingList::showOnPage() const
@@ -95,16 +71,12 @@ void olSettingList::showOnPage(Order order) const
         listed(*setting).show();
 }
 
-void olSettingList::takeFromPage(olPreferences &module) const
+void olSettingList::takeFromPage(const Unchanged &unchanged) const
 {
-    for (const auto &setting : m_settings)
-        takeOne(*setting, module);
-}
-
-void olSettingList::takeFromPage(Order order, olPreferences &module) const
-{
-    for (const olSettingBase *setting : order)
-        takeOne(listed(*setting), module);
+    for (const auto &setting : m_settings) {
+        if (setting->widget() && !setting->takeIfChanged())
+            unchanged(setting->key());
+    }
 }
 
 void olSettingList::storeFromPage() const
@@ -122,7 +94,7 @@ void olSettingList::storeFromPage(Order order) const
 void olSettingList::removeKeys() const
 {
     for (const auto &setting : m_settings) {
-        if (!isForeign(setting->setting()))
-            record().remove(setting->key());
+        if (m_foreign.count(setting->key()) == 0)
+            setting->forget();
     }
 }

@@ -1,36 +1,49 @@
 #pragma once
 
 #include "Framework/olPairing.h"
+#include "Framework/olServiceStore.h"
 
-#include <QString>
-#include <QVariant>
-
+#include <functional>
 #include <initializer_list>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
-class QWidget;
-class olPreferences;
+class QObject;
+class olSettingAccess;
 
 /// The settings of one module paired with the controls of its page, in the order in which the module writes its
 /// defaults. The operations of a module are walks over this list; where one must keep another order, it names it.
 class olSettingList
 {
 public:
-    /// Settings in another order than the list's, or some of them.
+    /// Settings in another order than the list's, or some of them. One that the list has not is a mistake of the
+    /// module's and ends the process.
     using Order = std::initializer_list<const olSettingBase *>;
 
-    /// Lets the host reach single settings through the page (see olSettingAccess). The page and the settings must
-    /// outlive the use of the list.
-    explicit olSettingList(QWidget &page);
+    /// Told the key of a setting that did not change.
+    using Unchanged = std::function<void(const std::string &key)>;
+
+    /// Lets the host reach single settings through the module (see olSettingAccess). The controls must outlive
+    /// the list.
+    explicit olSettingList(QObject &module);
     ~olSettingList();
     olSettingList(const olSettingList &) = delete;
     olSettingList &operator=(const olSettingList &) = delete;
 
+    /// From here on the host reaches the settings through the page.
+    void tellOn(QObject &page);
+
     template <class T, class Control> void add(const olSetting<T> &setting, Control control)
     {
         add(setting, control, olNoLiveValue{});
+    }
+
+    template <class T, class Control> void add(const olServiceSetting<T> &setting, Control control)
+    {
+        append(
+            std::make_unique<olPairing<T, Control, olNoLiveValue, olServiceStore>>(setting, control, olNoLiveValue{}));
     }
 
     /// With the host's live value, asked and shown while the record has none.
@@ -56,7 +69,7 @@ public:
     template <class T> void addShared(const olSetting<T> &setting)
     {
         addWithoutControl(setting);
-        m_foreign.push_back(&setting);
+        m_foreign.insert(setting.key());
     }
 
     /// Makes this module the one that removes a shared setting.
@@ -66,14 +79,12 @@ public:
     void addRetired(std::string key) { append(std::make_unique<olRetiredSetting>(std::move(key))); }
 
     void writeDefaults(bool flag) const;
-    void writeDefaults(Order order, bool flag) const;
 
     void showOnPage() const;
     void showOnPage(Order order) const;
 
-    /// Stores what the controls hold and reports to the module what did not change.
-    void takeFromPage(olPreferences &module) const;
-    void takeFromPage(Order order, olPreferences &module) const;
+    /// Stores what the controls hold and reports what did not change.
+    void takeFromPage(const Unchanged &unchanged) const;
 
     /// Stores what the controls hold whether it changed or not, and reports nothing.
     void storeFromPage() const;
@@ -81,18 +92,14 @@ public:
 
     void removeKeys() const;
 
-    [[nodiscard]] const std::vector<std::unique_ptr<olListedSetting>> &settings() const { return m_settings; }
-
     /// Null where no setting of the list bears the key.
     [[nodiscard]] const olListedSetting *find(const std::string &key) const;
 
-protected:
-    void append(std::unique_ptr<olListedSetting> setting);
-
 private:
-    [[nodiscard]] bool isForeign(const olSettingBase &setting) const;
+    void append(std::unique_ptr<olListedSetting> setting);
     [[nodiscard]] const olListedSetting &listed(const olSettingBase &setting) const;
 
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
-    std::vector<const olSettingBase *> m_foreign;
+    std::set<std::string> m_foreign;
+    std::unique_ptr<olSettingAccess> m_access;
 };

@@ -20,29 +20,20 @@ constexpr int allViews = -1;
 
 } // namespace
 
-olCameraPreferencesGUII::olCameraPreferencesGUII()
-    : olModule(tr("Camera"), QString()), m_page(std::make_unique<olCameraPreferencesGUIW>()), m_settings(*m_page)
+olCameraPreferencesGUII::olCameraPreferencesGUII() : olModule(tr("Camera"), QString())
 {
-    const auto &form = m_page->form();
-    m_settings.add(fov, form.fieldOfView);
-    m_settings.add(eyeSeparation, form.eyeSeparation);
-    m_settings.add(zeroParallaxDistance, form.zeroParallaxDistance);
-    m_settings.add(powerwallWidth, form.projectionWidth);
-    m_settings.add(powerwallHeight, form.projectionHeight);
-    m_settings.add(powerwallDistance, form.projectionDistance);
+    const auto &form = page().form();
+    settings().add(fov, form.fieldOfView);
+    settings().add(eyeSeparation, form.eyeSeparation);
+    settings().add(zeroParallaxDistance, form.zeroParallaxDistance);
+    settings().add(powerwallWidth, form.projectionWidth);
+    settings().add(powerwallHeight, form.projectionHeight);
+    settings().add(powerwallDistance, form.projectionDistance);
 
     // Essentials applies the stored camera but has no page to change it on.
     if (!olController::isOrloEssentials())
-        addPreferencesGUI(m_page.get());
+        handOverPage();
 }
-
-olCameraPreferencesGUII::~olCameraPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olCameraPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olCameraPreferencesGUII::applyPreferences()
 {
@@ -61,7 +52,3 @@ void olCameraPreferencesGUII::applyPreferences()
             olOSGWidget::setPowerwallWindow(allViews, *width, *height, *distance);
     }
 }
-
-void olCameraPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
-void olCameraPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

@@ -56,30 +56,21 @@ QString name() { return QCoreApplication::translate("olPreferences", "Devices");
 
 } // namespace
 
-olDevicesPreferencesGUII::olDevicesPreferencesGUII()
-    : olModule(name(), name()), m_page(std::make_unique<olDevicesPreferencesGUIW>()), m_settings(*m_page)
+olDevicesPreferencesGUII::olDevicesPreferencesGUII() : olModule(name(), name())
 {
-    const auto &form = m_page->form();
-    m_settings.add(searchSpacemouse, olTrueInEssentials{form.searchSpacemouse});
-    m_settings.add(view, form.viewMode);
-    m_settings.add(rotationPivot, form.rotationPivot);
-    m_settings.add(twoAxis, olTrueInEssentials{form.twoAxis});
-    m_settings.add(helicopter, olTrueInEssentials{form.helicopter});
-    m_settings.add(fixedHeight, form.useFixedHeight);
-    m_settings.add(height, form.height);
-    m_settings.add(joystick, form.useJoystick);
-    m_settings.add(joystickId, form.joystickId);
+    const auto &form = page().form();
+    settings().add(searchSpacemouse, olTrueInEssentials{form.searchSpacemouse});
+    settings().add(view, form.viewMode);
+    settings().add(rotationPivot, form.rotationPivot);
+    settings().add(twoAxis, olTrueInEssentials{form.twoAxis});
+    settings().add(helicopter, olTrueInEssentials{form.helicopter});
+    settings().add(fixedHeight, form.useFixedHeight);
+    settings().add(height, form.height);
+    settings().add(joystick, form.useJoystick);
+    settings().add(joystickId, form.joystickId);
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olDevicesPreferencesGUII::~olDevicesPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olDevicesPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 // Deliberately without asking what changed: a device that was plugged in meanwhile is found by applying once more. The
 // search alone can be off in Essentials.
@@ -100,8 +91,6 @@ void olDevicesPreferencesGUII::applyPreferences()
 
 void olDevicesPreferencesGUII::updateGUI()
 {
-    m_settings.showOnPage({&searchSpacemouse, &twoAxis, &helicopter, &fixedHeight, &height, &view, &rotationPivot,
+    settings().showOnPage({&searchSpacemouse, &twoAxis, &helicopter, &fixedHeight, &height, &view, &rotationPivot,
                            &joystick, &joystickId});
 }
-
-void olDevicesPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

@@ -29,24 +29,15 @@ void updateToolclips(int popupHelp)
 
 } // namespace
 
-olHelpPreferencesGUII::olHelpPreferencesGUII()
-    : olModule(tr("Help"), QString()), m_page(std::make_unique<olHelpPreferencesGUIW>()), m_settings(*m_page)
+olHelpPreferencesGUII::olHelpPreferencesGUII() : olModule(tr("Help"), QString())
 {
-    const auto &form = m_page->form();
-    m_settings.add(location, form.location);
-    m_settings.add(path, form.path);
-    m_settings.add(popup, form.popup);
+    const auto &form = page().form();
+    settings().add(location, form.location);
+    settings().add(path, form.path);
+    settings().add(popup, form.popup);
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olHelpPreferencesGUII::~olHelpPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olHelpPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olHelpPreferencesGUII::applyPreferences()
 {
@@ -62,9 +53,7 @@ void olHelpPreferencesGUII::applyPreferences()
 
 void olHelpPreferencesGUII::updateGUI()
 {
-    m_settings.showOnPage();
+    settings().showOnPage();
     // Also where the index stayed as it was, so that no signal told it.
-    m_page->indexChangedLocation(m_page->form().location->currentIndex());
+    page().indexChangedLocation(page().form().location->currentIndex());
 }
-
-void olHelpPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

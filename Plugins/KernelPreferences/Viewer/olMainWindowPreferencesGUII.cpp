@@ -27,32 +27,23 @@ int displayLanguage(int stored) { return stored >= 1 && stored <= 3 ? stored : e
 
 } // namespace
 
-olMainWindowPreferencesGUII::olMainWindowPreferencesGUII()
-    : olModule(tr("MainWindow"), QString()),
-      m_page(std::make_unique<olMainWindowPreferencesGUIW>()),
-      m_settings(*m_page)
+olMainWindowPreferencesGUII::olMainWindowPreferencesGUII() : olModule(tr("MainWindow"), QString())
 {
-    const auto &form = m_page->form();
-    m_settings.addWithoutControl(showToolButtonsText);
-    m_settings.add(showButtonText, form.showButtonText);
-    m_settings.add(showFps, form.showFps);
-    m_settings.add(redirectOsgLog, form.redirectOsgLog);
-    m_settings.add(windowOpacity, form.windowOpacity);
-    m_settings.add(disableDocking, form.disableDocking);
-    m_settings.add(userLanguage, form.userLanguage);
+    const auto &form = page().form();
+    settings().addWithoutControl(showToolButtonsText);
+    settings().add(showButtonText, form.showButtonText);
+    settings().add(showFps, form.showFps);
+    settings().add(redirectOsgLog, form.redirectOsgLog);
+    settings().add(windowOpacity, form.windowOpacity);
+    settings().add(disableDocking, form.disableDocking);
+    settings().add(userLanguage, form.userLanguage);
 
-    addPreferencesGUI(m_page.get());
-}
-
-olMainWindowPreferencesGUII::~olMainWindowPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
+    handOverPage();
 }
 
 void olMainWindowPreferencesGUII::setDefaults(olMessage &, bool flag)
 {
-    m_settings.writeDefaults(flag);
+    settings().writeDefaults(flag);
 
     // Read back, as a language that was stored before may have stayed.
     const auto language = read(userLanguage);
@@ -70,25 +61,23 @@ void olMainWindowPreferencesGUII::applyPreferences()
     olController::showButtonText(readOr(showButtonText, false));
 }
 
-void olMainWindowPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
 void olMainWindowPreferencesGUII::updateData()
 {
     // Stored plainly, and nothing is reported unchanged: apply does not ask.
-    m_settings.storeFromPage({&showFps, &redirectOsgLog, &showButtonText});
+    settings().storeFromPage({&showFps, &redirectOsgLog, &showButtonText});
 
     // The indices themselves count here: from a language never chosen to English is a change as well. Opacity and
     // docking are stored once the box is closed.
     const int before = readOr(userLanguage, english);
-    m_settings.storeFromPage({&userLanguage});
+    settings().storeFromPage({&userLanguage});
     if (readOr(userLanguage, before) != before)
         askForRestart();
 
-    m_settings.storeFromPage({&windowOpacity, &disableDocking});
+    settings().storeFromPage({&windowOpacity, &disableDocking});
 }
 
 void olMainWindowPreferencesGUII::askForRestart()
 {
-    QMessageBox::information(m_page.get(), tr("Language Preferences Change"),
+    QMessageBox::information(&page(), tr("Language Preferences Change"),
                              tr("Please restart ORLO so that your language changes can take effect."), QMessageBox::Ok);
 }

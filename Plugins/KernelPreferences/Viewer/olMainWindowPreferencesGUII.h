@@ -1,29 +1,21 @@
 #pragma once
 
 #include "Framework/olModule.h"
-#include "Framework/olSettingList.h"
-
-#include <memory>
 
 class olMainWindowPreferencesGUIW;
 
 /// The main window: frame rate, opacity, docking, texts of tool buttons, and the language of the user interface.
-class olMainWindowPreferencesGUII : public olModule
+class olMainWindowPreferencesGUII : public olModule<olMainWindowPreferencesGUIW>
 {
     Q_OBJECT
 
 public:
     olMainWindowPreferencesGUII();
-    ~olMainWindowPreferencesGUII() override;
 
     void setDefaults(olMessage &, bool flag) override;
     void applyPreferences() override;
-    void updateGUI() override;
     void updateData() override;
 
 private:
     void askForRestart();
-
-    std::unique_ptr<olMainWindowPreferencesGUIW> m_page;
-    olSettingList m_settings;
 };

@@ -26,30 +26,21 @@ const olSetting<bool> selectionInFront{"RenderOptions selection in front", false
 
 } // namespace
 
-olMarkerPreferencesGUII::olMarkerPreferencesGUII()
-    : olModule(tr("Selection"), QString()), m_page(std::make_unique<olMarkerPreferencesGUIW>()), m_settings(*m_page)
+olMarkerPreferencesGUII::olMarkerPreferencesGUII() : olModule(tr("Selection"), QString())
 {
-    const auto &form = m_page->form();
-    m_settings.add(markerSize, form.markerSize);
-    m_settings.add(lodSelection, form.lodSelection);
-    m_settings.add(autoScroll, form.autoScroll);
-    m_settings.add(transparentSelection, form.transparentSelection);
-    m_settings.add(preselection, form.preselection);
-    m_settings.add(preselectionColor, form.preselectionColor);
-    m_settings.add(wireframeSelection, form.wireframeSelection);
-    m_settings.add(selectionColor, form.wireframeColor);
-    m_settings.add(selectionInFront, form.alwaysInFront);
+    const auto &form = page().form();
+    settings().add(markerSize, form.markerSize);
+    settings().add(lodSelection, form.lodSelection);
+    settings().add(autoScroll, form.autoScroll);
+    settings().add(transparentSelection, form.transparentSelection);
+    settings().add(preselection, form.preselection);
+    settings().add(preselectionColor, form.preselectionColor);
+    settings().add(wireframeSelection, form.wireframeSelection);
+    settings().add(selectionColor, form.wireframeColor);
+    settings().add(selectionInFront, form.alwaysInFront);
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olMarkerPreferencesGUII::~olMarkerPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olMarkerPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olMarkerPreferencesGUII::applyPreferences()
 {
@@ -71,7 +62,3 @@ void olMarkerPreferencesGUII::applyPreferences()
     });
     apply.ifChangedOrDefault(selectionColor, &olScenegraph::setSelectionColor);
 }
-
-void olMarkerPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
-void olMarkerPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

@@ -41,39 +41,30 @@ void applyInversion(const olSetting<bool> &setting, void (*invert)(bool))
 
 } // namespace
 
-olNavigatorPreferencesGUII::olNavigatorPreferencesGUII()
-    : olModule(tr("Navigator"), QString()), m_page(std::make_unique<olNavigatorPreferencesGUIW>()), m_settings(*m_page)
+olNavigatorPreferencesGUII::olNavigatorPreferencesGUII() : olModule(tr("Navigator"), QString())
 {
-    const auto &form = m_page->form();
-    m_settings.add(navigationMode, byData(form.navigationMode));
-    m_settings.add(autoCenter, form.autoCenter);
-    m_settings.add(invertZoom, form.invertDollyAxis);
-    m_settings.add(invertWheelZoom, form.invertWheelDolly);
-    m_settings.add(animateCamera, form.animateCamera);
-    m_settings.add(animationDuration, form.duration);
-    m_settings.add(pivotBasedPanning, form.pivotBasedPanning, &olOSGWidget::getNavUsePivotBasedPanning);
-    m_settings.add(panningSpeed, form.panningSpeed, &olOSGWidget::getNavPanningSpeed);
-    m_settings.add(speedMode, form.speedMode, &olOSGWidget::getNavSpeedMode);
-    m_settings.add(dollySpeed, form.dollySpeed, &olOSGWidget::getNavDollySpeed);
-    m_settings.add(dollyAxis, form.dollyAxis, &olOSGWidget::getNavDollyAxis);
-    m_settings.add(dollyToPivot, form.dollyToPivot, &olOSGWidget::getNavDollyToPivot);
-    m_settings.add(orbitMode, form.orbitMode, &olOSGWidget::getNavOrbitMode);
-    m_settings.add(orbitDetectionArea, form.orbitDetectionArea, &olOSGWidget::getNavOrbitDetectionArea);
-    m_settings.add(orbitDetectionTime, form.orbitDetectionTime, &olOSGWidget::getNavOrbitDetectionTime);
+    const auto &form = page().form();
+    settings().add(navigationMode, byData(form.navigationMode));
+    settings().add(autoCenter, form.autoCenter);
+    settings().add(invertZoom, form.invertDollyAxis);
+    settings().add(invertWheelZoom, form.invertWheelDolly);
+    settings().add(animateCamera, form.animateCamera);
+    settings().add(animationDuration, form.duration);
+    settings().add(pivotBasedPanning, form.pivotBasedPanning, &olOSGWidget::getNavUsePivotBasedPanning);
+    settings().add(panningSpeed, form.panningSpeed, &olOSGWidget::getNavPanningSpeed);
+    settings().add(speedMode, form.speedMode, &olOSGWidget::getNavSpeedMode);
+    settings().add(dollySpeed, form.dollySpeed, &olOSGWidget::getNavDollySpeed);
+    settings().add(dollyAxis, form.dollyAxis, &olOSGWidget::getNavDollyAxis);
+    settings().add(dollyToPivot, form.dollyToPivot, &olOSGWidget::getNavDollyToPivot);
+    settings().add(orbitMode, form.orbitMode, &olOSGWidget::getNavOrbitMode);
+    settings().add(orbitDetectionArea, form.orbitDetectionArea, &olOSGWidget::getNavOrbitDetectionArea);
+    settings().add(orbitDetectionTime, form.orbitDetectionTime, &olOSGWidget::getNavOrbitDetectionTime);
 
     // Only the user's choice sets off a preset; filling the page must keep what is stored.
-    m_settings.add(interactionMode, quiet(byData(form.interactionMode)));
+    settings().add(interactionMode, quiet(byData(form.interactionMode)));
 
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olNavigatorPreferencesGUII::~olNavigatorPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olNavigatorPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olNavigatorPreferencesGUII::applyPreferences()
 {
@@ -106,8 +97,6 @@ void olNavigatorPreferencesGUII::applyPreferences()
 
 void olNavigatorPreferencesGUII::updateGUI()
 {
-    m_settings.showOnPage();
-    m_page->updateEnabling();
+    settings().showOnPage();
+    page().updateEnabling();
 }
-
-void olNavigatorPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

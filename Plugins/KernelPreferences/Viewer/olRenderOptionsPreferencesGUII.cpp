@@ -145,22 +145,11 @@ constexpr bool zWriteFallback = true;
 
 } // namespace
 
-olRenderOptionsPreferencesGUII::olRenderOptionsPreferencesGUII()
-    : olModule(tr("Render Options"), QString()),
-      m_page(std::make_unique<olRenderOptionsPreferencesGUIW>()),
-      m_settings(*m_page)
+olRenderOptionsPreferencesGUII::olRenderOptionsPreferencesGUII() : olModule(tr("Render Options"), QString())
 {
     listSettings();
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-olRenderOptionsPreferencesGUII::~olRenderOptionsPreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olRenderOptionsPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olRenderOptionsPreferencesGUII::applyPreferences()
 {
@@ -186,10 +175,6 @@ void olRenderOptionsPreferencesGUII::applyPreferences()
     olOSGWidget::updateAllMGLW();
 }
 
-void olRenderOptionsPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
-void olRenderOptionsPreferencesGUII::updateData() { m_settings.takeFromPage(*this); }
-
 // A new scene comes with settings of its own for these, so they are set whether or not anything changed.
 void olRenderOptionsPreferencesGUII::preferencesNewScene(olMessage &)
 {
@@ -200,72 +185,72 @@ void olRenderOptionsPreferencesGUII::preferencesNewScene(olMessage &)
 
 void olRenderOptionsPreferencesGUII::listSettings()
 {
-    const auto &form = m_page->form();
-    m_settings.add(stillframeAntialiasing, form.stillframeAntialiasing);
-    m_settings.add(postprocessAntialiasing, zeroOrOne(form.postprocessAntialiasing));
-    m_settings.add(antialiaseDistance, form.antialiaseDistance);
-    m_settings.add(antialiaseScale, form.antialiaseScale);
-    m_settings.add(antialiaseTime, form.antialiaseTime);
-    m_settings.add(highQualityAntialiasing, form.highQualityAntialiasing);
-    m_settings.add(backgroundColors, olBackgroundColors{form.backgroundTable});
-    m_settings.add(backgroundPositions, olBackgroundPositions{form.backgroundTable});
-    m_settings.add(sortTransparency, form.sortTransparency);
-    m_settings.add(zWriteTransparency, form.zWriteTransparency);
-    m_settings.addWithoutControl(fastFullscreen);
-    m_settings.add(headlightMode, form.headlightMode);
-    m_settings.add(coordinateSystem, form.coordinateSystem);
-    m_settings.add(auxiliaryNodes, form.auxiliaryNodes);
-    m_settings.add(navigationCube, form.navigationCube);
-    m_settings.addWithoutControl(glContextSharing);
-    m_settings.add(cacheGeometry, form.cacheGeometry);
-    m_settings.add(rgb10, form.rgb10);
-    m_settings.add(rgb16Float, form.rgb16Float);
-    m_settings.addWithoutControl(twoSidedLighting);
-    m_settings.add(singlePassStereo, form.singlePassStereo);
-    m_settings.add(occlusionCulling, form.occlusionCulling);
-    m_settings.add(pointHeadlight, form.pointHeadlight);
-    m_settings.add(zUp, form.zUp);
-    m_settings.addWithoutControl(clippingPlaneAdaption);
-    m_settings.add(forceGLFinish, form.forceGLFinish);
-    m_settings.addWithoutControl(hardwareSamples);
-    m_settings.add(disableOnCameraMovement, form.disableOnCameraMovement);
-    m_settings.add(antialiasingQuality, form.antialiasingQuality);
-    m_settings.add(low.multisamples, byData(form.multisamplingLow));
-    m_settings.add(medium.multisamples, byData(form.multisamplingMedium));
-    m_settings.add(high.multisamples, byData(form.multisamplingHigh));
-    m_settings.add(ultra.multisamples, byData(form.multisamplingUltra));
-    m_settings.add(low.pixelfilter, form.pixelfilterLow);
-    m_settings.add(medium.pixelfilter, form.pixelfilterMedium);
-    m_settings.add(high.pixelfilter, form.pixelfilterHigh);
-    m_settings.add(ultra.pixelfilter, form.pixelfilterUltra);
-    m_settings.add(low.supersampling, form.supersamplingLow);
-    m_settings.add(medium.supersampling, form.supersamplingMedium);
-    m_settings.add(high.supersampling, form.supersamplingHigh);
-    m_settings.add(ultra.supersampling, form.supersamplingUltra);
-    m_settings.add(low.raytracingSamples, byData(form.raytracingLow));
-    m_settings.add(medium.raytracingSamples, byData(form.raytracingMedium));
-    m_settings.add(high.raytracingSamples, byData(form.raytracingHigh));
-    m_settings.add(ultra.raytracingSamples, byData(form.raytracingUltra));
-    m_settings.add(enableSli, form.enableSli);
-    m_settings.add(sliMode, form.sliMode);
-    m_settings.add(disableSleep, form.disableSleep);
-    m_settings.add(limitNearFarPlane, form.limitNearFarPlane);
-    m_settings.add(nearPlane, form.nearPlane);
-    m_settings.add(farPlane, form.farPlane);
-    m_settings.add(downscale, form.downscale);
-    m_settings.add(downscaleQuality, form.downscaleQuality);
-    m_settings.add(fixedResolution, form.fixedResolution);
-    m_settings.add(fixedWidth, form.fixedWidth, &widthOnPage);
-    m_settings.add(fixedHeight, form.fixedHeight, &heightOnPage);
-    m_settings.add(materialPreview, form.materialPreview);
-    m_settings.add(progressSize, form.progressSize, &exCursorProgress::getBaseSize);
-    m_settings.add(progressStatic, form.progressStatic, &isProgressInCorner);
-    m_settings.add(progressVisible, form.progressVisible, &exCursorProgress::getPreferredVisibility);
-    m_settings.add(showCameras, form.showCameras, &olOSGWidget::getCamerasVisible);
-    m_settings.add(showLights, form.showLights, &olOSGWidget::getLightsVisible);
-    m_settings.add(showJoints, form.showJoints, &olOSGWidget::getJointsVisible);
-    m_settings.addRetired("RenderOptions local lights");
-    m_settings.addRetired("RenderOptions use back buffer");
+    const auto &form = page().form();
+    settings().add(stillframeAntialiasing, form.stillframeAntialiasing);
+    settings().add(postprocessAntialiasing, zeroOrOne(form.postprocessAntialiasing));
+    settings().add(antialiaseDistance, form.antialiaseDistance);
+    settings().add(antialiaseScale, form.antialiaseScale);
+    settings().add(antialiaseTime, form.antialiaseTime);
+    settings().add(highQualityAntialiasing, form.highQualityAntialiasing);
+    settings().add(backgroundColors, olBackgroundColors{form.backgroundTable});
+    settings().add(backgroundPositions, olBackgroundPositions{form.backgroundTable});
+    settings().add(sortTransparency, form.sortTransparency);
+    settings().add(zWriteTransparency, form.zWriteTransparency);
+    settings().addWithoutControl(fastFullscreen);
+    settings().add(headlightMode, form.headlightMode);
+    settings().add(coordinateSystem, form.coordinateSystem);
+    settings().add(auxiliaryNodes, form.auxiliaryNodes);
+    settings().add(navigationCube, form.navigationCube);
+    settings().addWithoutControl(glContextSharing);
+    settings().add(cacheGeometry, form.cacheGeometry);
+    settings().add(rgb10, form.rgb10);
+    settings().add(rgb16Float, form.rgb16Float);
+    settings().addWithoutControl(twoSidedLighting);
+    settings().add(singlePassStereo, form.singlePassStereo);
+    settings().add(occlusionCulling, form.occlusionCulling);
+    settings().add(pointHeadlight, form.pointHeadlight);
+    settings().add(zUp, form.zUp);
+    settings().addWithoutControl(clippingPlaneAdaption);
+    settings().add(forceGLFinish, form.forceGLFinish);
+    settings().addWithoutControl(hardwareSamples);
+    settings().add(disableOnCameraMovement, form.disableOnCameraMovement);
+    settings().add(antialiasingQuality, form.antialiasingQuality);
+    settings().add(low.multisamples, byData(form.multisamplingLow));
+    settings().add(medium.multisamples, byData(form.multisamplingMedium));
+    settings().add(high.multisamples, byData(form.multisamplingHigh));
+    settings().add(ultra.multisamples, byData(form.multisamplingUltra));
+    settings().add(low.pixelfilter, form.pixelfilterLow);
+    settings().add(medium.pixelfilter, form.pixelfilterMedium);
+    settings().add(high.pixelfilter, form.pixelfilterHigh);
+    settings().add(ultra.pixelfilter, form.pixelfilterUltra);
+    settings().add(low.supersampling, form.supersamplingLow);
+    settings().add(medium.supersampling, form.supersamplingMedium);
+    settings().add(high.supersampling, form.supersamplingHigh);
+    settings().add(ultra.supersampling, form.supersamplingUltra);
+    settings().add(low.raytracingSamples, byData(form.raytracingLow));
+    settings().add(medium.raytracingSamples, byData(form.raytracingMedium));
+    settings().add(high.raytracingSamples, byData(form.raytracingHigh));
+    settings().add(ultra.raytracingSamples, byData(form.raytracingUltra));
+    settings().add(enableSli, form.enableSli);
+    settings().add(sliMode, form.sliMode);
+    settings().add(disableSleep, form.disableSleep);
+    settings().add(limitNearFarPlane, form.limitNearFarPlane);
+    settings().add(nearPlane, form.nearPlane);
+    settings().add(farPlane, form.farPlane);
+    settings().add(downscale, form.downscale);
+    settings().add(downscaleQuality, form.downscaleQuality);
+    settings().add(fixedResolution, form.fixedResolution);
+    settings().add(fixedWidth, form.fixedWidth, &widthOnPage);
+    settings().add(fixedHeight, form.fixedHeight, &heightOnPage);
+    settings().add(materialPreview, form.materialPreview);
+    settings().add(progressSize, form.progressSize, &exCursorProgress::getBaseSize);
+    settings().add(progressStatic, form.progressStatic, &isProgressInCorner);
+    settings().add(progressVisible, form.progressVisible, &exCursorProgress::getPreferredVisibility);
+    settings().add(showCameras, form.showCameras, &olOSGWidget::getCamerasVisible);
+    settings().add(showLights, form.showLights, &olOSGWidget::getLightsVisible);
+    settings().add(showJoints, form.showJoints, &olOSGWidget::getJointsVisible);
+    settings().addRetired("RenderOptions local lights");
+    settings().addRetired("RenderOptions use back buffer");
 }
 
 void olRenderOptionsPreferencesGUII::applyStillframe(const olApply &apply) const
@@ -333,7 +318,7 @@ void olRenderOptionsPreferencesGUII::applyPresets(const olApply &apply) const
 void olRenderOptionsPreferencesGUII::applyQuality(const olApply &apply) const
 {
     apply.ifChangedOrDefault(antialiasingQuality, [this](int index) {
-        const int last = m_page->form().antialiasingQuality->count() - 1;
+        const int last = page().form().antialiasingQuality->count() - 1;
         const int step = std::clamp(index, 0, last);
         olOSGWidget::setSuperSampling(step > 0);
         olOSGWidget::setSuperSamplingQuality(step > 0 ? 1u << step : 0u);

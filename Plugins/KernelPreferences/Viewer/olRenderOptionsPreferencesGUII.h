@@ -1,27 +1,20 @@
 #pragma once
 
 #include "Framework/olModule.h"
-#include "Framework/olSettingList.h"
-
-#include <memory>
 
 class olApply;
 class olRenderOptionsPreferencesGUIW;
 
 /// How the real-time view draws: antialiasing and its presets, background, transparency, lighting, buffers, clipping,
 /// raytracing, size of the picture, and what is shown beside the scene.
-class olRenderOptionsPreferencesGUII : public olModule
+class olRenderOptionsPreferencesGUII : public olModule<olRenderOptionsPreferencesGUIW>
 {
     Q_OBJECT
 
 public:
     olRenderOptionsPreferencesGUII();
-    ~olRenderOptionsPreferencesGUII() override;
 
-    void setDefaults(olMessage &, bool flag) override;
     void applyPreferences() override;
-    void updateGUI() override;
-    void updateData() override;
     void preferencesNewScene(olMessage &) override;
 
 private:
@@ -36,7 +29,4 @@ private:
     void applyGraphicsCards(const olApply &apply) const;
     void applyPicture(const olApply &apply) const;
     void applyVisibility(const olApply &apply) const;
-
-    std::unique_ptr<olRenderOptionsPreferencesGUIW> m_page;
-    olSettingList m_settings;
 };

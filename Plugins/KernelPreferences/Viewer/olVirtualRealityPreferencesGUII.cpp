@@ -1,8 +1,10 @@
 #include "Viewer/olVirtualRealityPreferencesGUII.h"
 
 #include "Display/olStarVRHandler.h"
+#include "Framework/olServiceStore.h"
 #include "Kernel/olOSGWidget.h"
 #include "KernelServices/olImmersiveInteractionService.h"
+#include "KernelServices/olKernelServiceFactory.h"
 #include "Viewer/olVirtualRealityPreferencesGUIW.h"
 #include "ui_olVirtualRealityPreferencesGUI.h"
 
@@ -11,18 +13,18 @@
 namespace
 {
 
-const olSetting<int> groundMode{"VR Teleport Ground Mode", 1};
-const olSetting<float> teleportRange{"VR Teleport Range", 15000.0f};
-const olSetting<int> visualiseHands{"VR Visualise Hands", 1};
-const olSetting<bool> createCollisionObjects{"VR Auto Create Collision Objects", true};
-const olSetting<bool> showTooltips{"VR Show Tooltips on start", true};
-const olSetting<bool> foveatedRendering{"StarVR Foveated Rendering Enabled", false};
-const olSetting<float> foveatedFovFactor{"StarVR Foveated FOV Factor", 0.35f};
-const olSetting<float> foveatedScale{"StarVR Foveated Resolution Scale", 0.6f};
-const olSetting<float> nonFoveatedScale{"StarVR Non-Foveated Resolution Scale", 0.4f};
-const olSetting<float> frontViewScale{"StarVR Front View Resolution Scale", 1.0f};
-const olSetting<float> sideViewScale{"StarVR Side View Resolution Scale", 1.0f};
-const olSetting<bool> singleTexture{"StarVR Single Texture Per Eye", false};
+const olServiceSetting<int> groundMode{"VR Teleport Ground Mode", 1};
+const olServiceSetting<float> teleportRange{"VR Teleport Range", 15000.0f};
+const olServiceSetting<int> visualiseHands{"VR Visualise Hands", 1};
+const olServiceSetting<bool> createCollisionObjects{"VR Auto Create Collision Objects", true};
+const olServiceSetting<bool> showTooltips{"VR Show Tooltips on start", true};
+const olServiceSetting<bool> foveatedRendering{"StarVR Foveated Rendering Enabled", false};
+const olServiceSetting<float> foveatedFovFactor{"StarVR Foveated FOV Factor", 0.35f};
+const olServiceSetting<float> foveatedScale{"StarVR Foveated Resolution Scale", 0.6f};
+const olServiceSetting<float> nonFoveatedScale{"StarVR Non-Foveated Resolution Scale", 0.4f};
+const olServiceSetting<float> frontViewScale{"StarVR Front View Resolution Scale", 1.0f};
+const olServiceSetting<float> sideViewScale{"StarVR Side View Resolution Scale", 1.0f};
+const olServiceSetting<bool> singleTexture{"StarVR Single Texture Per Eye", false};
 
 /// What the headset takes over only when it starts. The field-of-view factor is not among them: it changes on a
 /// running display.
@@ -51,43 +53,31 @@ void takeFrom(const RenderMode &mode, bool &foveated) { foveated = mode.widget->
 
 } // namespace
 
-olVirtualRealityPreferencesGUII::olVirtualRealityPreferencesGUII()
-    : olPreferencesCategory(tr("Virtual Reality")),
-      m_page(std::make_unique<olVirtualRealityPreferencesGUIW>()),
-      m_settings(*m_page)
+olVirtualRealityPreferencesGUII::olVirtualRealityPreferencesGUII() : olModule(tr("Virtual Reality"))
 {
-    const auto &form = m_page->form();
-    m_settings.add(groundMode, form.groundMode);
-    m_settings.add(teleportRange, form.range);
-    m_settings.add(visualiseHands, form.defaultVisualization);
-    m_settings.add(createCollisionObjects, form.createCollisionObjects);
-    m_settings.add(showTooltips, form.showTooltips);
-    m_settings.add(foveatedRendering, RenderMode{form.renderMode, m_page.get()});
-    m_settings.add(foveatedFovFactor, form.foveatedFovFactor);
-    m_settings.add(foveatedScale, form.foveatedResolutionScale);
-    m_settings.add(nonFoveatedScale, form.nonFoveatedResolutionScale);
-    m_settings.add(frontViewScale, form.frontViewResolutionScale);
-    m_settings.add(sideViewScale, form.sideViewResolutionScale);
-    m_settings.add(singleTexture, form.singleTexturePerEye);
+    const auto &form = page().form();
+    settings().add(groundMode, form.groundMode);
+    settings().add(teleportRange, form.range);
+    settings().add(visualiseHands, form.defaultVisualization);
+    settings().add(createCollisionObjects, form.createCollisionObjects);
+    settings().add(showTooltips, form.showTooltips);
+    settings().add(foveatedRendering, RenderMode{form.renderMode, &page()});
+    settings().add(foveatedFovFactor, form.foveatedFovFactor);
+    settings().add(foveatedScale, form.foveatedResolutionScale);
+    settings().add(nonFoveatedScale, form.nonFoveatedResolutionScale);
+    settings().add(frontViewScale, form.frontViewResolutionScale);
+    settings().add(sideViewScale, form.sideViewResolutionScale);
+    settings().add(singleTexture, form.singleTexturePerEye);
 
     registerCategory();
-    addPreferencesGUI(m_page.get());
+    handOverPage();
 }
-
-// The values stay: they are the service's.
-olVirtualRealityPreferencesGUII::~olVirtualRealityPreferencesGUII() { subPreferencesGUI(m_page.get()); }
-
-void olVirtualRealityPreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olVirtualRealityPreferencesGUII::applyPreferences()
 {
     applyToSessions();
     applyToHeadset();
 }
-
-void olVirtualRealityPreferencesGUII::updateGUI() { m_settings.showOnPage(); }
-
-void olVirtualRealityPreferencesGUII::updateData() { m_settings.storeFromPage(); }
 
 template <class T, class Call>
 void olVirtualRealityPreferencesGUII::applyIfChanged(const olSetting<T> &setting, Call &&call) const

@@ -45,39 +45,28 @@ void startServer()
 } // namespace
 
 olWebInterfacePreferencesGUII::olWebInterfacePreferencesGUII()
-    : olModule(tr("WebInterface"), QString()),
-      m_page(std::make_unique<olWebInterfacePreferencesGUIW>()),
-      m_settings(*m_page),
-      m_disabledByEnvironment(isDisabledByEnvironment())
+    : olModule(tr("WebInterface"), QString()), m_disabledByEnvironment(isDisabledByEnvironment())
 {
-    const auto &form = m_page->form();
-    m_settings.add(enableWebServer, form.enableWebServer);
-    m_settings.add(port, form.port);
-    m_settings.add(sslPort, form.sslPort);
-    m_settings.add(localhostOnly, form.localhostOnly);
-    m_settings.add(debugMode, form.debugMode);
-    m_settings.add(useWhiteList, form.allowedHosts);
-    m_settings.add(whiteList, form.whiteList);
-    m_settings.add(securePython, form.securePython);
+    const auto &form = page().form();
+    settings().add(enableWebServer, form.enableWebServer);
+    settings().add(port, form.port);
+    settings().add(sslPort, form.sslPort);
+    settings().add(localhostOnly, form.localhostOnly);
+    settings().add(debugMode, form.debugMode);
+    settings().add(useWhiteList, form.allowedHosts);
+    settings().add(whiteList, form.whiteList);
+    settings().add(securePython, form.securePython);
 
     // What the environment forbids is not offered: the page exists, but stays away from the dialog.
     if (m_disabledByEnvironment) {
-        m_page->neverAsk();
+        page().neverAsk();
         return;
     }
-    addPreferencesGUI(m_page.get());
+    handOverPage();
     // On a render server node the server runs in any case: there is nothing to confirm.
     if (!olController::isOServerNode())
-        m_page->connectSlots();
+        page().connectSlots();
 }
-
-olWebInterfacePreferencesGUII::~olWebInterfacePreferencesGUII()
-{
-    m_settings.removeKeys();
-    subPreferencesGUI(m_page.get());
-}
-
-void olWebInterfacePreferencesGUII::setDefaults(olMessage &, bool flag) { m_settings.writeDefaults(flag); }
 
 void olWebInterfacePreferencesGUII::applyPreferences()
 {
@@ -100,10 +89,8 @@ void olWebInterfacePreferencesGUII::applyPreferences()
 
 void olWebInterfacePreferencesGUII::updateGUI()
 {
-    const olWebInterfacePreferencesGUIW::Filling filling(*m_page);
+    const olWebInterfacePreferencesGUIW::Filling filling(page());
     // A list that cannot be read shows as none, never as the one before.
-    m_page->form().whiteList->clear();
-    m_settings.showOnPage();
+    page().form().whiteList->clear();
+    settings().showOnPage();
 }
-
-void olWebInterfacePreferencesGUII::updateData() { m_settings.takeFromPage(*this); }

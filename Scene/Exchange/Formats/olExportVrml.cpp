@@ -3,11 +3,10 @@
 #include "Model/olLibraryMessages.h"
 
 #include <BRep_Tool.hxx>
-#include <NCollection_DataMap.hxx>
 #include <Poly_Triangulation.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TDF_Label.hxx>
-#include <TDF_LabelMapHasher.hxx>
+#include <TDF_LabelIndexedMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopExp_Explorer.hxx>
@@ -23,6 +22,7 @@
 
 #include <QFile>
 #include <QSet>
+#include <QStringList>
 #include <QTextStream>
 
 namespace
@@ -89,8 +89,8 @@ private:
 
     void writeShared(const TDF_Label &label)
     {
-        if (const QString *known = m_written.Seek(label)) {
-            m_out << "USE " << *known << '\n';
+        if (const int known = m_written.FindIndex(label)) {
+            m_out << "USE " << m_writtenNames.at(known - 1) << '\n';
             return;
         }
         const QString name = uniqueName(label);
@@ -98,7 +98,8 @@ private:
             writeGroup(label, name);
         else
             writePart(label, name);
-        m_written.Bind(label, name);
+        m_written.Add(label);
+        m_writtenNames.append(name);
     }
 
     void writeGroup(const TDF_Label &label, const QString &name)
@@ -193,7 +194,8 @@ private:
     Handle(XCAFDoc_VisMaterialTool) m_materials;
     QTextStream &m_out;
     QSet<QString> m_names;
-    NCollection_DataMap<TDF_Label, QString, TDF_LabelMapHasher> m_written;
+    TDF_LabelIndexedMap m_written;
+    QStringList m_writtenNames;
 };
 
 } // namespace

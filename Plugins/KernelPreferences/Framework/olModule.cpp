@@ -1,3 +1,0 @@
-#include "Framework/olModule.h"
-
-olModule::~olModule() = default;
