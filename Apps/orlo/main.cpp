@@ -134,10 +134,7 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
 }
 
 /// Whether there is somebody at a window to ask.
-bool canAsk(const QCommandLineParser &options)
-{
-    return !isBatch(options) && !options.isSet(QStringLiteral("tour"));
-}
+bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !options.isSet(QStringLiteral("tour")); }
 
 /// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
 std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
@@ -153,8 +150,8 @@ std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &op
         const olStartRemedy remedy = canAsk(options) ? olAskAboutStore(fault) : olStartRemedy();
         if (remedy.kind == olStartRemedy::Quit)
             return nullptr;
-        file = remedy.kind == olStartRemedy::OtherFile ? remedy.file
-                                                       : passing.filePath(QStringLiteral("preferences.db"));
+        file =
+            remedy.kind == olStartRemedy::OtherFile ? remedy.file : passing.filePath(QStringLiteral("preferences.db"));
     }
 }
 

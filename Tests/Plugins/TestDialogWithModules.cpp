@@ -156,7 +156,8 @@ TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
                                        << known->second.toStdString() << " and " << text.toStdString();
                 }
             }
-            EXPECT_EQ(onPage > 0, !olPageIndex(*entry->page()).controls().empty()) << entry->name().toStdString() << ", tab " << tab << " has none";
+            EXPECT_EQ(onPage > 0, !olPageIndex(*entry->page()).controls().empty())
+                << entry->name().toStdString() << ", tab " << tab << " has none";
         }
     }
     dialog->restoreAll();
