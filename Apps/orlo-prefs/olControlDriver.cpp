@@ -1,6 +1,6 @@
 #include "olControlDriver.h"
 
-#include "Editing/olNumberText.h"
+#include "Session/olNumberText.h"
 #include "State/olValue.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"

@@ -1,7 +1,7 @@
 // The commands that keep preferences in a file and take them from one.
 
+#include "Editing/olPreferencesImport.h"
 #include "Session/olPreferencesFile.h"
-#include "Session/olPreferencesImport.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
 #include "olKnownSettings.h"
@@ -30,21 +30,6 @@ olPreferencesFile::Contents read(const QString &name)
     if (!contents.error.isEmpty())
         contents.error.prepend(QStringLiteral("Cannot import the standard input. "));
     return contents;
-}
-
-/// What the file changes, without the values that a control could not hold.
-olPreferencesImport importOf(const olPreferencesSession &session, const olKnownSettings &settings,
-                             const olPreferencesFile::Contents &contents)
-{
-    const auto valueOf = [&settings](const std::string &key) {
-        const olKnownSetting *setting = settings.find(key);
-        return setting ? setting->value() : boost::any();
-    };
-    const auto controlOf = [&settings](const std::string &key) {
-        const olKnownSetting *setting = settings.find(key);
-        return setting ? setting->control : nullptr;
-    };
-    return olPreferencesImport(session, contents, valueOf, controlOf);
 }
 
 } // namespace
@@ -76,11 +61,16 @@ void olPrefsCommands::importFrom(olPrefsTool &tool)
 
     tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
     const olKnownSettings settings;
-    const olPreferencesImport import = importOf(tool.session(), settings, contents);
+    const olPreferencesImport import(tool.session(), contents, [&settings](const std::string &key) {
+        const olKnownSetting *setting = settings.find(key);
+        return setting ? setting->value() : boost::any();
+    });
     for (const olSkippedSetting &skipped : import.skipped)
         std::fprintf(stderr, "skipped: \"%s\" %s\n", skipped.key.c_str(), qPrintable(skipped.reason));
     if (isDryRun)
         return tool.print(olSettingsList::changes(import.changes));
+    for (const olPreferencesImport::Warning &warning : import.warnings)
+        tool.requireConsent(warning.key, warning.question);
     for (const olPreferencesImport::Change &change : import.changes)
         settings.find(change.key)->setValue(change.after);
     tool.save();

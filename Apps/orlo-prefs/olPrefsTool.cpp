@@ -31,8 +31,6 @@ olPrefsTool::olPrefsTool(const olPrefsOptions &options)
 {
     olHostState::the().edition = options.edition;
     olHostState::the().applicationName = options.applicationName;
-    // A tool opens no device and no server, whatever it applies.
-    olHostState::the().isPassive = true;
 }
 
 void olPrefsTool::run()
@@ -78,6 +76,14 @@ void olPrefsTool::open(olStoreUse use)
     loadStore(use);
     loadPlugin();
     fillDefaults();
+}
+
+void olPrefsTool::requireConsent(const std::string &key, const olSettingWarning &warning) const
+{
+    if (!m_options.isAgreed)
+        throw olToolError(
+            QStringLiteral("\"%1\" is only set with --yes: %2")
+                .arg(QString::fromStdString(key), QString(warning.text).replace(QLatin1Char('\n'), QLatin1Char(' '))));
 }
 
 void olPrefsTool::save()

@@ -40,6 +40,9 @@ public:
     /// All three: what nearly every command begins with.
     void open(olStoreUse use);
 
+    /// Fails with the question that goes with a setting's new value, unless the user agreed to such beforehand.
+    void requireConsent(const std::string &key, const olSettingWarning &warning) const;
+
     /// Stores what changed, and tells what there is to tell.
     void save();
 

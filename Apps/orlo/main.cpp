@@ -4,11 +4,14 @@
 #include "olStartFault.h"
 #include "olTour.h"
 
+#include "Devices/olJoystickLink.h"
+#include "Devices/olSpacemouseLink.h"
 #include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
 #include "View/olViewport.h"
+#include "WebServer/olWebServer.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -184,6 +187,10 @@ int run(const QCommandLineParser &options)
         return refuse(wrong);
     host.edition = *edition;
     host.applicationName = options.value(QStringLiteral("app-name"));
+
+    const olWebServer webServer;
+    const olSpacemouseLink spacemouse;
+    const olJoystickLink joystick;
 
     const QTemporaryDir passing;
     const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);

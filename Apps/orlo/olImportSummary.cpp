@@ -31,7 +31,7 @@ QString list(const QVector<QPair<bool, const char *>> &items)
     return texts.isEmpty() ? translated("nothing") : texts.join(QStringLiteral(", "));
 }
 
-QString fineness(const olImportOptions::Record &options)
+QString fineness(const olImportRecord &options)
 {
     if (!options.tessellation)
         return translated("the usual one");
@@ -53,7 +53,7 @@ QString olImportSummary(const olImportJob &job)
     const olModelFormat *format = olModelFormat::ofFile(job.file);
     if (!format)
         return olModelFormat::noReader(job.file).toHtmlEscaped();
-    const olImportOptions::Record &options = job.options;
+    const olImportRecord &options = job.options;
     QString rows = row(translated("Format"), QLatin1String(format->name));
     if (hasSurfaces(*format)) {
         rows += row(translated("Fineness"), fineness(options));

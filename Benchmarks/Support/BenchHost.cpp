@@ -40,7 +40,6 @@ void makeHostNew()
     olKernelServiceFactory::the<olPreferencesService>()->clear();
     olHostState &host = olHostState::the();
     host.reset();
-    host.isPassive = true;
 }
 
 QString folderOnDisk() { return QCoreApplication::applicationDirPath() + QStringLiteral("/bench-XXXXXX"); }

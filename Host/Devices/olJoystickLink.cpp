@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 #include <fcntl.h>
 #include <linux/joystick.h>
@@ -27,16 +28,24 @@ constexpr int eventsAtOnce = 64;
 
 } // namespace
 
-olJoystickLink &olJoystickLink::the()
-{
-    static olJoystickLink link;
-    return link;
-}
+olJoystickLink::olJoystickLink(QString folder) : m_folder(std::move(folder)) { olHostState::the().addObserver(*this); }
 
 olJoystickLink::~olJoystickLink()
 {
-    if (m_device >= 0)
-        ::close(m_device);
+    olHostState::the().removeObserver(*this);
+    close();
+}
+
+void olJoystickLink::stateChanged(const olHostValueBase &value)
+{
+    const olHostState &host = olHostState::the();
+    // Its number is set before it.
+    if (&value != &host.joystickNavigation)
+        return;
+    if (host.joystickNavigation)
+        open(host.joystickId);
+    else
+        close();
 }
 
 void olJoystickLink::open(int id)

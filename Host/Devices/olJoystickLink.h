@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "State/olHostValue.h"
+#include "olHostExport.h"
 
 #include <QSocketNotifier>
 #include <QString>
@@ -8,14 +9,19 @@
 #include <memory>
 #include <vector>
 
-/// A joystick or gamepad that the kernel offers as a device file. Its sticks go into the host's state.
-class ORLO_SDK_EXPORT olJoystickLink
+/// A joystick or gamepad that the kernel offers as a device file, in use while the host is told to use one. Its sticks
+/// go into the host's state. Must go before the application object does.
+class ORLO_HOST_EXPORT olJoystickLink : private olHostObserver
 {
 public:
-    static olJoystickLink &the();
+    /// The device files js0, js1 and so on are in the folder.
+    explicit olJoystickLink(QString folder = QStringLiteral("/dev/input"));
+    ~olJoystickLink() override;
+    olJoystickLink(const olJoystickLink &) = delete;
+    olJoystickLink &operator=(const olJoystickLink &) = delete;
 
-    /// Where the device files js0, js1 and so on are; at first /dev/input.
-    void lookIn(const QString &folder) { m_folder = folder; }
+private:
+    void stateChanged(const olHostValueBase &value) override;
 
     /// Uses the device of that number in place of any other; the log tells what came of it. Nothing happens while it
     /// is in use already.
@@ -24,14 +30,10 @@ public:
     /// Lets go of the device; the sticks then rest.
     void close();
 
-private:
-    olJoystickLink() = default;
-    ~olJoystickLink();
-
     void readEvents();
     void takeAxis(unsigned number, float value, bool isFirst);
 
-    QString m_folder = QStringLiteral("/dev/input");
+    QString m_folder;
     int m_id = -1;
     int m_device = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;

@@ -68,12 +68,6 @@ void showEvent(const spnav_event &event)
 
 } // namespace
 
-olSpacemouseLink &olSpacemouseLink::the()
-{
-    static olSpacemouseLink link;
-    return link;
-}
-
 olSpacemouseLink::olSpacemouseLink()
 {
     m_openingCheck.setInterval(checkInterval);
@@ -81,12 +75,24 @@ olSpacemouseLink::olSpacemouseLink()
         if (m_opening.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
             finishOpening();
     });
+    olHostState::the().addObserver(*this);
 }
 
 olSpacemouseLink::~olSpacemouseLink()
 {
-    if (m_notifier)
-        spnav_close();
+    olHostState::the().removeObserver(*this);
+    close();
+}
+
+void olSpacemouseLink::stateChanged(const olHostValueBase &value)
+{
+    const olHostValue<bool> &wanted = olHostState::the().spacemouseWanted;
+    if (&value != &wanted)
+        return;
+    if (wanted)
+        open();
+    else
+        close();
 }
 
 void olSpacemouseLink::open()

@@ -1,16 +1,26 @@
 #pragma once
 
+#include "State/olHostValue.h"
+#include "olHostExport.h"
+
 #include <QSocketNotifier>
 #include <QTimer>
 
 #include <future>
 #include <memory>
 
-/// The connection to the daemon that serves 3D mice. What the device does goes into the host's state.
-class olSpacemouseLink
+/// The connection to the daemon that serves 3D mice, held while the host is told to use one. What the device does goes
+/// into the host's state. Must go before the application object does, and there can be only one.
+class ORLO_HOST_EXPORT olSpacemouseLink : private olHostObserver
 {
 public:
-    static olSpacemouseLink &the();
+    olSpacemouseLink();
+    ~olSpacemouseLink() override;
+    olSpacemouseLink(const olSpacemouseLink &) = delete;
+    olSpacemouseLink &operator=(const olSpacemouseLink &) = delete;
+
+private:
+    void stateChanged(const olHostValueBase &value) override;
 
     /// Looks for the daemon, in the background where it takes its time to answer; the log tells what came of it.
     /// Nothing happens while there is a connection.
@@ -18,10 +28,6 @@ public:
 
     /// Also gives up looking.
     void close();
-
-private:
-    olSpacemouseLink();
-    ~olSpacemouseLink();
 
     void finishOpening();
     void listen();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QDialog>
 #include <QString>
@@ -10,7 +10,7 @@ class QLabel;
 class QTreeWidget;
 
 /// Lists settings with their old and new values, and beneath them those that are passed over and why.
-class ORLO_SDK_EXPORT olChangesView : public QDialog
+class ORLO_HOST_EXPORT olChangesView : public QDialog
 {
     Q_OBJECT
 

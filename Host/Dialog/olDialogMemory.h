@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QByteArray>
 #include <QRect>
 #include <QString>
 
 /// What the preferences dialog remembers from one run to the next, in the settings of the application.
-struct ORLO_SDK_EXPORT olDialogMemory {
+struct ORLO_HOST_EXPORT olDialogMemory {
     /// Empty where nothing is remembered.
     QRect place; ///< without the window's frame
     QByteArray splitter;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Dialog/olWheelGuard.h"
-#include "Session/olSettingLocks.h"
+#include "Editing/olSettingLocks.h"
 
 #include <QPointer>
 #include <QScrollArea>

@@ -9,9 +9,9 @@
 #include "Dialog/olSettingMenu.h"
 #include "Dialog/olWindowPlace.h"
 #include "Editing/olPendingChanges.h"
+#include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
-#include "Session/olPreferencesImport.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
@@ -632,8 +632,8 @@ void olPreferencesDialog::showChanges()
     auto *view = new olChangesView(tr("Changes"), this);
     view->setAttribute(Qt::WA_DeleteOnClose);
     for (const olPendingChange &change : m_pending->list()) {
-        const QString before = olValueText(change.before, change.control, change.after);
-        const QString after = olValueText(change.after, change.control, change.after);
+        const QString before = olShortValueText(change.key, change.before);
+        const QString after = olShortValueText(change.key, change.after);
         if (change.key.empty())
             view->addChange(change.entry->name(), {}, {}, tr("edited"));
         else
@@ -659,12 +659,8 @@ void olPreferencesDialog::importFrom(const QString &file)
         m_message->showError(contents.error);
         return;
     }
-    const auto controlOf = [this](const std::string &key) -> QWidget * {
-        const olFoundControl *control = m_search->control(key);
-        return control ? control->widget.data() : nullptr;
-    };
     const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
-    const olPreferencesImport import(m_session, contents, valueOf, controlOf);
+    const olPreferencesImport import(m_session, contents, valueOf);
 
     auto *view = new olChangesView(tr("Import Preferences"), this);
     view->setAttribute(Qt::WA_DeleteOnClose);
@@ -672,10 +668,8 @@ void olPreferencesDialog::importFrom(const QString &file)
                               ? tr("Nothing in this file would change a setting.")
                               : tr("These settings get the values of the file. They stay pending until OK or Apply."));
     for (const olPreferencesImport::Change &change : import.changes) {
-        const QWidget *control = controlOf(change.key);
         view->addChange(placeOf(change.key), QString::fromStdString(change.key),
-                        olValueText(change.before, control, change.before),
-                        olValueText(change.after, control, change.before));
+                        olShortValueText(change.key, change.before), olShortValueText(change.key, change.after));
     }
     for (const olSkippedSetting &skipped : import.skipped)
         view->addSkipped(QString::fromStdString(skipped.key), skipped.reason);

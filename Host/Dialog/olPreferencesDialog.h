@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QDialog>
 #include <QHash>
@@ -32,7 +32,7 @@ struct olPendingChange;
 
 /// Shows the modules as entries under their categories, with their pages. Everything done in it is pending until OK or
 /// Apply, and Cancel drops it. Not modal: the view stays usable beside it.
-class ORLO_SDK_EXPORT olPreferencesDialog : public QDialog
+class ORLO_HOST_EXPORT olPreferencesDialog : public QDialog
 {
     Q_OBJECT
 

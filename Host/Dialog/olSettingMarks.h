@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Editing/olSettingsSearch.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QPointer>
 #include <QString>
@@ -12,7 +12,7 @@
 
 /// Lies over a page, out of the way of mouse and keys, and marks controls: a small bar before those whose value differs
 /// from the default, a tint behind those that were searched for, and a dot on tabs that hold such.
-class ORLO_SDK_EXPORT olSettingMarks : public QWidget
+class ORLO_HOST_EXPORT olSettingMarks : public QWidget
 {
     Q_OBJECT
 

@@ -113,7 +113,7 @@ void olSettingMenu::addResets(QMenu &menu, const olFoundControl &control)
     for (const QString &name : control.keys) {
         const std::string key = name.toStdString();
         defaults[key] = m_session.defaultValue(key);
-        texts << olValueText(defaults[key], control.widget, m_changes.value(key));
+        texts << olShortValueText(key, defaults[key]);
         differs = differs || m_changes.differsFromDefault(key);
         isLocked = isLocked || m_session.lockReason(key).has_value();
     }

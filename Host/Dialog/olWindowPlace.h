@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QRect>
 #include <QSize>
@@ -12,9 +12,9 @@ namespace olWindowPlace
 
 /// Beside the neighbour where there is room for the size. Else at the right edge of the screen, and no wider than
 /// leaves the rest of the screen to the neighbour.
-[[nodiscard]] ORLO_SDK_EXPORT QRect beside(const QRect &neighbour, const QSize &size, const QRect &screen);
+[[nodiscard]] ORLO_HOST_EXPORT QRect beside(const QRect &neighbour, const QSize &size, const QRect &screen);
 
 /// The place moved, and made smaller, as far as it takes to be on the screen as a whole.
-[[nodiscard]] ORLO_SDK_EXPORT QRect onScreen(const QRect &place, const QRect &screen);
+[[nodiscard]] ORLO_HOST_EXPORT QRect onScreen(const QRect &place, const QRect &screen);
 
 } // namespace olWindowPlace

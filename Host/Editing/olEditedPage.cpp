@@ -4,9 +4,9 @@
 #include "Session/olValueOverlay.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
-#include "State/olValueVariant.h"
 #include "Widgets/QOLColorManipulator.h"
 
+#include <OpenSG/OSGColor.h>
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QMetaMethod>
@@ -16,18 +16,21 @@
 namespace
 {
 
-constexpr auto accessName = "olSettingAccess";
-
 /// Whether it says nothing: a key that is absent, or a list of nothing.
-bool isNothing(const boost::any &value) { return value.empty() || olValue::toJson(value) == "[]"; }
+bool isNothing(const boost::any &value)
+{
+    const auto *strings = boost::any_cast<std::vector<std::string>>(&value);
+    const auto *floats = boost::any_cast<std::vector<float>>(&value);
+    const auto *colors = boost::any_cast<std::vector<osg::Color3f>>(&value);
+    return value.empty() || (strings && strings->empty()) || (floats && floats->empty()) || (colors && colors->empty());
+}
 
-/// Whether the two are one value to a person: what is no number is always itself.
+/// Whether the two are one value to a person: zeros have no signs, and what is no number is always itself.
 bool isSame(const boost::any &left, const boost::any &right)
 {
     if (isNothing(left) || isNothing(right))
         return isNothing(left) && isNothing(right);
-    return olValue::equal(left, right) ||
-           (olValue::typeName(left) == olValue::typeName(right) && olValue::toJson(left) == olValue::toJson(right));
+    return olValue::equal(left, right) || olValue::identical(left, right);
 }
 
 QList<QWidget *> withDescendants(QWidget &page) { return QList<QWidget *>{&page} + page.findChildren<QWidget *>(); }
@@ -35,7 +38,7 @@ QList<QWidget *> withDescendants(QWidget &page) { return QList<QWidget *>{&page}
 } // namespace
 
 olEditedPage::olEditedPage(const olPreferencesSession &session, olPreferencesEntry &entry)
-    : m_session(session), m_entry(entry), m_access(entry.page()->findChild<QObject *>(QLatin1String(accessName)))
+    : m_session(session), m_entry(entry), m_access(entry)
 {
     collectControls();
     watch();
@@ -47,7 +50,7 @@ void olEditedPage::collectControls()
     for (const olPageControl &control : index.controls()) {
         for (const QString &key : control.settingKeys) {
             const std::string name = key.toStdString();
-            if (m_access && m_controls.emplace(name, control.widget).second)
+            if (m_access.isThere() && m_controls.emplace(name, control.widget).second)
                 m_keys.push_back(name);
         }
     }
@@ -94,9 +97,9 @@ void olEditedPage::settle()
     for (const std::string &key : m_keys) {
         // Made the host's own, as the library that holds it may go first.
         const boost::any value = olValue::adopted(m_entry.value(key));
-        const boost::any standard = m_session.defaultValue(key);
-        m_types[key] = olValue::typeName(standard.empty() ? value : standard);
-        m_filled[key] = {value, textOnPage(key)};
+        const std::string told = olSettingDescription::of(m_entry, key).type;
+        m_types[key] = told.empty() ? olValue::typeName(value) : told;
+        m_filled[key] = {value, valueOnPage(key)};
     }
     m_untagged = untaggedState();
     emit edited();
@@ -104,26 +107,15 @@ void olEditedPage::settle()
 
 boost::any olEditedPage::valueOnPage(const std::string &key) const
 {
-    QVariant shown;
-    if (m_access) {
-        QMetaObject::invokeMethod(m_access, "value", Q_RETURN_ARG(QVariant, shown),
-                                  Q_ARG(QString, QString::fromStdString(key)));
-    }
     const auto type = m_types.find(key);
-    return olValue::fromVariant(type == m_types.end() ? std::string() : type->second, shown);
-}
-
-std::string olEditedPage::textOnPage(const std::string &key) const
-{
-    const boost::any value = valueOnPage(key);
-    return isNothing(value) ? std::string() : olValue::toJson(value);
+    return m_access.value(key, type == m_types.end() ? std::string() : type->second);
 }
 
 /// A page that lets nobody read its settings is judged by all that its controls show.
 QVariantList olEditedPage::untaggedState() const
 {
     QVariantList state;
-    if (m_access)
+    if (m_access.isThere())
         return state;
     const QList<QWidget *> widgets = withDescendants(*m_entry.page());
     for (const QWidget *widget : widgets) {
@@ -136,14 +128,14 @@ QVariantList olEditedPage::untaggedState() const
 
 boost::any olEditedPage::value(const std::string &key) const
 {
-    const std::string onPage = textOnPage(key);
+    const boost::any onPage = valueOnPage(key);
     const auto put = m_put.find(key);
-    if (put != m_put.end() && put->second.onPage == onPage)
+    if (put != m_put.end() && olValue::identical(put->second.onPage, onPage))
         return put->second.value;
     const auto filled = m_filled.find(key);
-    if (filled != m_filled.end() && filled->second.onPage == onPage)
+    if (filled != m_filled.end() && olValue::identical(filled->second.onPage, onPage))
         return filled->second.value;
-    return valueOnPage(key);
+    return onPage;
 }
 
 boost::any olEditedPage::valueInForce(const std::string &key) const
@@ -166,7 +158,7 @@ bool olEditedPage::isChanged(const std::string &key) const
     const auto filled = m_filled.find(key);
     if (filled == m_filled.end())
         return false;
-    return filled->second.onPage != textOnPage(key) || !isSame(filled->second.value, value(key));
+    return !olValue::identical(filled->second.onPage, valueOnPage(key)) || !isSame(filled->second.value, value(key));
 }
 
 bool olEditedPage::differsFromDefault(const std::string &key) const
@@ -189,7 +181,7 @@ void olEditedPage::show(const olSettingValues &values)
     for (const auto &[key, value] : values) {
         // A list that its control shows nothing of was not for it.
         if (hasControl(key) && (isNothing(value) || !isNothing(valueOnPage(key))))
-            m_put[key] = {olValue::adopted(value), textOnPage(key)};
+            m_put[key] = {olValue::adopted(value), valueOnPage(key)};
     }
     emit edited();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Session/olModuleAccess.h"
 #include "Session/olPreferencesSession.h"
 
 #include <QHash>
@@ -58,21 +59,20 @@ signals:
     void edited();
 
 private:
-    /// A value and the text of what its control showed for it.
+    /// A value and what its control held for it.
     struct Shown {
         boost::any value;
-        std::string onPage;
+        boost::any onPage;
     };
 
     void collectControls();
     void watch();
     [[nodiscard]] boost::any valueOnPage(const std::string &key) const;
-    [[nodiscard]] std::string textOnPage(const std::string &key) const;
     [[nodiscard]] QVariantList untaggedState() const;
 
     const olPreferencesSession &m_session;
     olPreferencesEntry &m_entry;
-    QPointer<QObject> m_access;
+    olModuleAccess m_access;
     std::vector<std::string> m_keys;
     std::map<std::string, QPointer<QWidget>> m_controls;
     std::map<std::string, std::string> m_types;

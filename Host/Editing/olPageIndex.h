@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QList>
 #include <QString>
@@ -11,7 +11,7 @@
 class QWidget;
 
 /// One control of a page as a person sees it.
-struct ORLO_SDK_EXPORT olPageControl {
+struct ORLO_HOST_EXPORT olPageControl {
     QWidget *widget = nullptr;
 
     /// The labels that belong to it, in the order of the form.
@@ -44,7 +44,7 @@ struct olPageControlFound {
 
 /// The controls of one page in the order of its form. A snapshot: it knows nothing of later changes, and is of use only
 /// while the page lives.
-class ORLO_SDK_EXPORT olPageIndex
+class ORLO_HOST_EXPORT olPageIndex
 {
 public:
     explicit olPageIndex(const QWidget &page);

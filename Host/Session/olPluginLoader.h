@@ -1,13 +1,13 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QLibrary>
 #include <QString>
 
 /// Loads the preferences plug-in, enters it and unloads it again. To be unloaded before the application object goes,
 /// because the pages of the modules are destroyed with the library.
-class ORLO_SDK_EXPORT olPluginLoader
+class ORLO_HOST_EXPORT olPluginLoader
 {
 public:
     olPluginLoader() = default;

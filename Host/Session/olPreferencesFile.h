@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QByteArray>
 #include <QString>
@@ -10,7 +10,7 @@
 #include <vector>
 
 /// A setting of a file that is passed over, and one phrase that says why.
-struct ORLO_SDK_EXPORT olSkippedSetting {
+struct ORLO_HOST_EXPORT olSkippedSetting {
     std::string key;
     QString reason;
 };
@@ -18,7 +18,7 @@ struct ORLO_SDK_EXPORT olSkippedSetting {
 /// Preferences to keep or to pass on, as a JSON file with a type for every value:
 /// `{"format": 1, "settings": {"Camera fov": {"type": "float", "value": 60}}}`.
 /// Types are named and values written as olValue lays down, so that they read back exactly.
-class ORLO_SDK_EXPORT olPreferencesFile
+class ORLO_HOST_EXPORT olPreferencesFile
 {
 public:
     /// What a file holds. With an error, one sentence that names the reason, it holds nothing.

@@ -2,6 +2,7 @@
 
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
+#include "Session/olModuleAccess.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
@@ -154,7 +155,7 @@ void olPreferencesSession::fillDefaults()
     for (olPreferencesEntry *entry : entries())
         entry->setDefaults(false);
 
-    m_site.settle([this](const std::string &key) { return defaultValue(key); });
+    settleSite(m_site);
     m_notices << m_site.takeFaults();
     for (const auto &site : m_site.settings()) {
         const auto &[key, setting] = site;
@@ -166,6 +167,12 @@ void olPreferencesSession::fillDefaults()
     }
     dropEarlyLanguage();
     restoreLocked();
+}
+
+void olPreferencesSession::settleSite(olSiteDefaults &site) const
+{
+    site.settle([this](const std::string &key) { return defaultValue(key); },
+                [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
 /// The language of a site file that turned out to have a fault goes with the file.
@@ -344,6 +351,51 @@ std::optional<QString> olPreferencesSession::lockReason(const std::string &key) 
     return found == m_site.settings().end() ? std::nullopt : found->second.locked;
 }
 
+olPreferencesEntry *olPreferencesSession::moduleOf(const std::string &key)
+{
+    if (olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key))
+        return owner;
+    const auto found = std::find_if(entries().begin(), entries().end(), [&key](const olPreferencesEntry *entry) {
+        return !olModuleAccess(*entry).describe(key).isEmpty();
+    });
+    return found == entries().end() ? nullptr : *found;
+}
+
+olSettingDescription olPreferencesSession::description(const std::string &key)
+{
+    const olPreferencesEntry *module = moduleOf(key);
+    return module ? olSettingDescription::of(*module, key) : olSettingDescription();
+}
+
+QString olPreferencesSession::origin(const std::string &key) const
+{
+    const auto site = m_site.settings().find(key);
+    const bool isGiven = site != m_site.settings().end();
+    const bool isStored = m_stored.count({olHome::Record, key}) != 0 || m_stored.count({olHome::Service, key}) != 0;
+    if (isStored && !(isGiven && site->second.locked))
+        return QStringLiteral("stored");
+    return isGiven ? QStringLiteral("site") : QStringLiteral("default");
+}
+
+QString olPreferencesSession::whyNot(const std::string &key, const boost::any &value) const
+{
+    if (const auto reason = lockReason(key))
+        return QCoreApplication::translate("olPreferencesSession", "is locked: %1").arg(*reason);
+    const olSettingDescription setting = description(key);
+    if (setting.type.empty())
+        return QCoreApplication::translate("olPreferencesSession", "is not known");
+    return olValue::identical(value, defaultValue(key)) ? QString() : setting.whyNot(value);
+}
+
+std::optional<olSettingWarning> olPreferencesSession::warning(const std::string &key, const boost::any &value) const
+{
+    const olPreferencesEntry *module = moduleOf(key);
+    if (!module || olValue::identical(module->value(key), value))
+        return std::nullopt;
+    std::optional<olSettingWarning> warning = olSettingDescription::of(*module, key).warning;
+    return warning && olValue::equal(warning->value, value) ? warning : std::nullopt;
+}
+
 /// The pages into their values, but for what is locked: that has its value again and counts as if nobody had touched
 /// it.
 void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown,
@@ -387,7 +439,7 @@ olPreferencesFindings olPreferencesSession::check() const
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
-        site.settle([this](const std::string &key) { return defaultValue(key); });
+        settleSite(site);
     return {m_store.check() << site.takeFaults(), site.unknown()};
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "Session/olPluginLoader.h"
+#include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
 #include "Store/olPreferencesStore.h"
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QString>
 #include <QStringList>
@@ -31,7 +32,7 @@ struct olPreferencesFindings {
 
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
-class ORLO_SDK_EXPORT olPreferencesSession
+class ORLO_HOST_EXPORT olPreferencesSession
 {
 public:
     /// `siteFiles` are the site's files of defaults and locks; see olSiteDefaults.
@@ -81,6 +82,24 @@ public:
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
+    /// The module that has a setting, be it without a default; null for an unknown key.
+    [[nodiscard]] static olPreferencesEntry *moduleOf(const std::string &key);
+
+    /// What a setting is; without a type where no module has it.
+    [[nodiscard]] static olSettingDescription description(const std::string &key);
+
+    /// Where the value in force comes from: "stored" by a person, from the "site", or the module's "default".
+    [[nodiscard]] QString origin(const std::string &key) const;
+
+    /// Why a setting may not be given the value, as what follows its key in a sentence: it is not known or locked, or
+    /// the value is of another type, out of its range, none of its choices or too long. Empty where it may. What is
+    /// by default, of the site or the module, always may.
+    [[nodiscard]] QString whyNot(const std::string &key, const boost::any &value) const;
+
+    /// The question that must be agreed to before the setting is given the value; nothing where there is none, or
+    /// where the setting has the value already.
+    [[nodiscard]] std::optional<olSettingWarning> warning(const std::string &key, const boost::any &value) const;
+
     /// Looks the store and the site's files through; changes nothing. Types and keys of the site's files are checked
     /// only when the modules' defaults are there.
     [[nodiscard]] olPreferencesFindings check() const;
@@ -100,6 +119,7 @@ private:
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
+    void settleSite(olSiteDefaults &site) const;
     void dropEarlyLanguage();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;

@@ -63,6 +63,18 @@ std::optional<Fault> readMembers(std::string_view text, int firstLine, std::vect
     return json.atEnd() ? std::nullopt : std::optional<Fault>(noJson());
 }
 
+/// Of that type, else of the type that the text itself is of, so that somebody can say what is wrong with it.
+boost::any valueOf(const QByteArray &json, const std::string &type)
+{
+    boost::any value;
+    for (const std::string &candidate : {type, std::string("bool"), std::string("int"), std::string("double"),
+                                         std::string("qstring"), std::string("floats")}) {
+        if (value.empty())
+            value = olValue::fromJson(candidate, json);
+    }
+    return value;
+}
+
 QByteArray bytesOf(std::string_view text) { return {text.data(), int(text.size())}; }
 
 } // namespace
@@ -161,14 +173,14 @@ olSiteSetting olSiteDefaults::settingOf(const Line &line, const boost::any &valu
     return {value, line.reason.isEmpty() ? translated("This setting is fixed for your site.") : line.reason};
 }
 
-void olSiteDefaults::settle(const DefaultOf &defaultOf)
+void olSiteDefaults::settle(const DefaultOf &defaultOf, const WhyNot &whyNot)
 {
     m_settings.clear();
     m_unknown.clear();
     std::vector<File> sound;
     for (File &file : m_read) {
         std::map<std::string, olSiteSetting> settings;
-        if (!settleFile(file, defaultOf, settings))
+        if (!settleFile(file, defaultOf, whyNot, settings))
             continue;
         // What a more important file said before stays.
         m_settings.merge(settings);
@@ -177,7 +189,7 @@ void olSiteDefaults::settle(const DefaultOf &defaultOf)
     m_read = std::move(sound);
 }
 
-bool olSiteDefaults::settleFile(const File &file, const DefaultOf &defaultOf,
+bool olSiteDefaults::settleFile(const File &file, const DefaultOf &defaultOf, const WhyNot &whyNot,
                                 std::map<std::string, olSiteSetting> &settings)
 {
     QStringList unknown;
@@ -189,11 +201,10 @@ bool olSiteDefaults::settleFile(const File &file, const DefaultOf &defaultOf,
                 << translated("%1, line %2: no module has a setting \"%3\".").arg(file.name).arg(line.number).arg(key);
             continue;
         }
-        const std::string type = olValue::typeName(offered);
-        const boost::any value = line.value.isNull() ? offered : olValue::fromJson(type, line.value);
-        if (value.empty()) {
-            fault(file.name, line.number,
-                  translated("\"%1\" takes %2").arg(key, QString::fromStdString(olValue::expectation(type))));
+        const boost::any value = line.value.isNull() ? offered : valueOf(line.value, olValue::typeName(offered));
+        const QString reason = whyNot(line.key, value);
+        if (!reason.isEmpty()) {
+            fault(file.name, line.number, QStringLiteral("\"%1\" %2").arg(key, reason));
             return false;
         }
         settings[line.key] = settingOf(line, value);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "olHostExport.h"
 
 #include <QByteArray>
 #include <QString>
@@ -23,11 +23,14 @@ struct olSiteSetting {
 /// Other defaults, and locks, that a site gives to all its people in JSON files:
 /// `{"Camera fov": {"value": 60, "locked": true, "reason": "..."}}`. A file with any fault counts as a whole as not
 /// there. The types are the modules', so all this is settled only when they have offered their defaults.
-class ORLO_SDK_EXPORT olSiteDefaults
+class ORLO_HOST_EXPORT olSiteDefaults
 {
 public:
     /// The default that a module offered for a key; empty where none did.
     using DefaultOf = std::function<boost::any(const std::string &key)>;
+
+    /// Why a setting cannot have a value, as what follows its key in a sentence; empty where it can.
+    using WhyNot = std::function<QString(const std::string &key, const boost::any &value)>;
 
     /// `orlo/site.json` in each of the system's configuration folders, the most important first, existing or not.
     [[nodiscard]] static QStringList systemFiles();
@@ -41,8 +44,8 @@ public:
     /// A setting that is needed before there are modules; its value is empty where no file gives one of that type.
     [[nodiscard]] olSiteSetting early(const std::string &key, const std::string &type) const;
 
-    /// Holds the files against the modules' types and drops those with faults.
-    void settle(const DefaultOf &defaultOf);
+    /// Holds the files against the modules' settings and drops those with faults.
+    void settle(const DefaultOf &defaultOf, const WhyNot &whyNot);
 
     /// After settle(): only keys that a module has.
     [[nodiscard]] const std::map<std::string, olSiteSetting> &settings() const { return m_settings; }
@@ -67,7 +70,7 @@ private:
     };
 
     void readFile(const QString &name);
-    [[nodiscard]] bool settleFile(const File &file, const DefaultOf &defaultOf,
+    [[nodiscard]] bool settleFile(const File &file, const DefaultOf &defaultOf, const WhyNot &whyNot,
                                   std::map<std::string, olSiteSetting> &settings);
     [[nodiscard]] static olSiteSetting settingOf(const Line &line, const boost::any &value);
     [[nodiscard]] static QString takePart(const QString &name, const QByteArray &value, Line &line);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Utilities/olExport.h"
+#include "State/olHome.h"
+#include "olHostExport.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,9 +18,6 @@ class olStoreWriter;
 struct olStoreFault;
 struct olStoreRows;
 
-/// Where the values of a module live while the host runs.
-enum class olHome { Record, Service };
-
 /// How opening a store went. Both texts are empty when all is well.
 struct olStoreOpening {
     QString error;  ///< nothing was read, and why: one sentence that names the file
@@ -28,7 +26,7 @@ struct olStoreOpening {
 
 /// Where the values of settings are kept between runs: one database file, written whole or not at all, that finds out
 /// when it is damaged, and a copy beside it to go back to.
-class ORLO_SDK_EXPORT olPreferencesStore
+class ORLO_HOST_EXPORT olPreferencesStore
 {
 public:
     using Key = std::pair<olHome, std::string>;

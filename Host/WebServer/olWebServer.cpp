@@ -4,7 +4,9 @@
 #include "State/olPreferencesRegistry.h"
 #include "Store/olPreferencesStore.h"
 #include "Utilities/olLog.h"
+#include "WebServer/olWebAccess.h"
 #include "WebServer/olWebPages.h"
+#include "WebServer/olWebPort.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -58,16 +60,23 @@ void log(const olWebRequest &request, unsigned status)
 
 } // namespace
 
-olWebServer &olWebServer::the()
+olWebServer::olWebServer() { olHostState::the().addObserver(*this); }
+
+olWebServer::~olWebServer()
 {
-    static olWebServer server;
-    return server;
+    olHostState::the().removeObserver(*this);
+    stop();
 }
 
-olWebServer::olWebServer()
+void olWebServer::stateChanged(const olHostValueBase &value)
 {
-    // No port outlives the event loop that serves it.
-    qAddPostRoutine([] { olWebServer::the().stop(); });
+    const olHostValue<bool> &wanted = olHostState::the().webInterfaceWanted;
+    if (&value != &wanted)
+        return;
+    if (wanted)
+        start();
+    else
+        stop();
 }
 
 void olWebServer::start()
@@ -84,7 +93,7 @@ void olWebServer::start()
     m_plain = open(setting("WebInterface port", 8888), localhostOnly, std::nullopt);
     if (const auto certificate = installedCertificate())
         m_secure = open(setting("WebInterface ssl port", 8444), localhostOnly, certificate);
-    olHostState::the().webInterfaceRunning = isRunning();
+    olHostState::the().webInterfaceRunning = m_plain || m_secure;
 }
 
 void olWebServer::stop()

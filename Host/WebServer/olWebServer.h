@@ -1,19 +1,30 @@
 #pragma once
 
-#include "WebServer/olWebAccess.h"
-#include "WebServer/olWebPort.h"
-
-#include <QString>
+#include "State/olHostValue.h"
+#include "olHostExport.h"
 
 #include <memory>
 #include <optional>
 
+class olWebAccess;
+class olWebPort;
+struct olWebAnswer;
+struct olWebCertificate;
+struct olWebRequest;
+
 /// The host's built-in web server: a status page and the settings and state as JSON, all of it read-only. It runs in
-/// the GUI thread's event loop and has no threads.
-class olWebServer
+/// the GUI thread's event loop and has no threads. While it lives it starts and stops whenever the host is told to,
+/// before that call returns; it must go before the application object does.
+class ORLO_HOST_EXPORT olWebServer : private olHostObserver
 {
 public:
-    static olWebServer &the();
+    olWebServer();
+    ~olWebServer() override;
+    olWebServer(const olWebServer &) = delete;
+    olWebServer &operator=(const olWebServer &) = delete;
+
+private:
+    void stateChanged(const olHostValueBase &value) override;
 
     /// Starts, anew where it runs already, with what the settings record says now. Where "localhost only" or "use white
     /// list" cannot be read it counts as set. A port of 0 stays closed. The SSL port opens only where the folder of the
@@ -23,11 +34,6 @@ public:
 
     /// Closes the ports and every connection before it returns.
     void stop();
-
-    [[nodiscard]] bool isRunning() const { return m_plain || m_secure; }
-
-private:
-    olWebServer();
 
     std::unique_ptr<olWebPort> open(int port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate);
     [[nodiscard]] olWebAnswer answer(const olWebRequest &request) const;

@@ -98,7 +98,7 @@ private:
 
     void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
     {
-        const olImportOptions::Record &options = m_job.options;
+        const olImportRecord &options = m_job.options;
         const bool visible = isVisible(label);
         olPartChanges::keepOnly(part, {options.importSurfaces && (visible || options.importInvisibleSurfaces),
                                        options.importMeshes && (visible || options.importInvisibleMeshes),

@@ -15,7 +15,7 @@ olImportJob olImportJob::of(const QString &file)
     job.file = QFileInfo(file).absoluteFilePath();
     if (const olModelFormat *format = olModelFormat::ofFile(file)) {
         // Formats without a module of their own are read as nobody had set anything.
-        const olImportOptions::Record *written = olImportOptions::written(format->optionsType);
+        const olImportRecord *written = host.importRecord(format->optionsType);
         if (written)
             job.options = *written;
     }

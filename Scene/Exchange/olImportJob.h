@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Kernel/olImportOptions.h"
+#include "State/olImportRecord.h"
 
 #include <QString>
 
@@ -13,7 +13,7 @@ struct olImportJob {
     static olImportJob of(const QString &file);
 
     QString file;
-    olImportOptions::Record options;
+    olImportRecord options;
     bool verify = true;
     bool optimize = false;
     bool centerInOrigin = false;

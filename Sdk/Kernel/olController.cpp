@@ -1,11 +1,9 @@
 #include "Kernel/olController.h"
 
-#include "Devices/olJoystickLink.h"
 #include "Kernel/olWebInterface.h"
 #include "State/olHostState.h"
 #include "State/olJournal.h"
 #include "Utilities/olMessage.h"
-#include "WebServer/olWebServer.h"
 
 bool olController::isOrloEssentials() { return olHostState::the().edition == olEdition::Essentials; }
 
@@ -59,12 +57,6 @@ void olController::setJoystickNavigation(int id, bool enable)
     olHostState &state = olHostState::the();
     state.joystickId = id;
     state.joystickNavigation = enable;
-    if (state.isPassive)
-        return;
-    if (enable)
-        olJoystickLink::the().open(id);
-    else
-        olJoystickLink::the().close();
 }
 
 void olController::setShowImportOptions(bool show)
@@ -99,14 +91,7 @@ olWebInterface *olController::getWebInterface()
 void olController::enableWebInterface(bool enable)
 {
     olJournal::call("olController::enableWebInterface", enable);
-    olHostState &host = olHostState::the();
-    host.webInterfaceWanted = enable;
-    if (host.isPassive)
-        return;
-    if (enable)
-        olWebServer::the().start();
-    else
-        olWebServer::the().stop();
+    olHostState::the().webInterfaceWanted = enable;
 }
 
 void olController::call(const std::string &command, const olMessage &arguments, int receiver)

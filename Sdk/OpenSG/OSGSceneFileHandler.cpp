@@ -1,12 +1,15 @@
 #include <OpenSG/OSGSceneFileHandler.h>
 #include <OpenSG/OSGStandIn.h>
 
-#include "State/olJournal.h"
-
 namespace osg
 {
 inline namespace standin
 {
+
+namespace
+{
+SceneOptionsObserver currentObserver = nullptr;
+}
 
 SceneFileHandler &SceneFileHandler::the()
 {
@@ -16,7 +19,8 @@ SceneFileHandler &SceneFileHandler::the()
 
 bool SceneFileHandler::setOptions(const char *suffix, const char *options)
 {
-    olJournal::call("osg::SceneFileHandler::setOptions", suffix, options);
+    if (currentObserver)
+        currentObserver(suffix, options);
     SceneFileType *type = find(suffix);
     if (!type)
         return false;
@@ -36,6 +40,14 @@ void registerSceneLoader(const char *suffix)
     if (!handler.find(suffix))
         handler.m_types.push_back(std::make_unique<SceneFileType>(SceneFileType{suffix, {}}));
 }
+
+void resetSceneOptions()
+{
+    for (const auto &type : SceneFileHandler::the().m_types)
+        type->options.clear();
+}
+
+void observeSceneOptions(SceneOptionsObserver observer) { currentObserver = observer; }
 
 SceneFileType *SceneFileHandler::find(const char *suffix) const
 {

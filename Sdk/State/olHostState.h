@@ -2,11 +2,13 @@
 
 #include "State/olEdition.h"
 #include "State/olHostValue.h"
+#include "State/olImportRecord.h"
 
 #include <OpenSG/OSGColor.h>
 
 #include <QString>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,12 +19,12 @@ class ORLO_SDK_EXPORT olHostState : public olHostValues
 public:
     static olHostState &the();
 
+    /// Back to what everything that calls can change was at first, the options of importers and scene loaders included.
+    void reset();
+
     /// Chosen at start and not changed by any call.
     olEdition edition = olEdition::Professional;
     QString applicationName = QStringLiteral("orlo");
-
-    /// Calls that would open a socket, a device or a server are only recorded.
-    bool isPassive = false;
 
     static constexpr auto Fact = olHostValueBase::Origin::Fact;
 
@@ -216,6 +218,10 @@ public:
     olHostValue<bool> importCenteredInOrigin{*this, "importCenteredInOrigin", false};
     olHostValue<bool> importPutOnGround{*this, "importPutOnGround", false};
     olHostValue<std::vector<std::string>> textureSearchPaths{*this, "textureSearchPaths", {}};
+    /// By file type, as last written.
+    std::map<std::string, olImportRecord> importRecords;
+    /// What the importers of the type go by; null before anything was written.
+    [[nodiscard]] const olImportRecord *importRecord(const std::string &type) const;
     /// Each with its type, in millimetres: "STEP 200".
     olHostValue<std::vector<std::string>> maxChordLengths{*this, "maxChordLengths", {}};
     olHostValue<bool> legacyJtLoader{*this, "legacyJtLoader", false};

@@ -13,11 +13,7 @@ olHostValueBase::olHostValueBase(olHostValues &owner, const char *name, Origin o
 
 olHostValueBase::~olHostValueBase() = default;
 
-void olHostValueBase::changed()
-{
-    for (olHostObserver *observer : m_owner.m_observers)
-        observer->stateChanged(*this);
-}
+void olHostValueBase::changed() { m_owner.tell(*this); }
 
 olHostValueBase *olHostValues::find(const char *name) const
 {
@@ -37,5 +33,17 @@ void olHostValues::addObserver(olHostObserver &observer) { m_observers.push_back
 
 void olHostValues::removeObserver(olHostObserver &observer)
 {
-    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), &observer), m_observers.end());
+    std::replace(m_observers.begin(), m_observers.end(), &observer, static_cast<olHostObserver *>(nullptr));
+}
+
+void olHostValues::tell(const olHostValueBase &value)
+{
+    ++m_telling;
+    // By number: an observer may bring another one in.
+    for (std::size_t index = 0; index < m_observers.size(); ++index) {
+        if (m_observers[index])
+            m_observers[index]->stateChanged(value);
+    }
+    if (--m_telling == 0)
+        m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), nullptr), m_observers.end());
 }

@@ -40,7 +40,8 @@ private:
     Origin m_origin;
 };
 
-/// Told whenever a value of the host's state is set.
+/// Told whenever a value of the host's state is set, also to what it was: a call made twice is told twice. Every call
+/// is told before it returns, to all observers in the order in which they were added.
 class ORLO_SDK_EXPORT olHostObserver
 {
 public:
@@ -60,14 +61,17 @@ public:
     /// Back to what every value was at first.
     void reset();
 
-    /// The observer is not owned and must be removed before it goes.
+    /// The observer is not owned and must be removed before it goes. Both may happen while observers are being told.
     void addObserver(olHostObserver &observer);
     void removeObserver(olHostObserver &observer);
 
 private:
     friend class olHostValueBase;
+    void tell(const olHostValueBase &value);
+
     std::vector<olHostValueBase *> m_values;
-    std::vector<olHostObserver *> m_observers;
+    std::vector<olHostObserver *> m_observers; ///< null where one left while they were being told
+    int m_telling = 0;
 };
 
 /// A value of the host's state: reads like a plain variable, and tells its observers when it is set.

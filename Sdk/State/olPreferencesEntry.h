@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Store/olPreferencesStore.h"
+#include "State/olHome.h"
 #include "Utilities/olExport.h"
 
 #include <QPointer>

@@ -54,16 +54,33 @@ template <> std::optional<std::vector<osg::Color3f>> read(const QVariant &varian
     return readList<osg::Color3f>(variant);
 }
 
+template <class T> QVariant written(const T &value) { return value; }
+QVariant written(const std::string &value) { return QByteArray::fromStdString(value); }
+QVariant written(const osg::Color3f &value) { return QVariantList{value.red(), value.green(), value.blue()}; }
+template <class Element> QVariant written(const std::vector<Element> &list)
+{
+    QVariantList items;
+    for (const Element &element : list)
+        items.append(written(element));
+    return items;
+}
+
 struct Reader {
     const char *type;
     boost::any (*read)(const QVariant &);
+    QVariant (*write)(const boost::any &);
 };
 
 template <class T> Reader reader(const char *type)
 {
-    return {type, [](const QVariant &variant) {
+    return {type,
+            [](const QVariant &variant) {
                 const auto value = read<T>(variant);
                 return value ? boost::any(*value) : boost::any();
+            },
+            [](const boost::any &value) {
+                const auto *held = boost::any_cast<T>(&value);
+                return held ? written(*held) : QVariant();
             }};
 }
 
@@ -99,6 +116,16 @@ boost::any olValue::fromVariant(const std::string &type, const QVariant &variant
         boost::any value = reader.read(variant);
         if (!value.empty())
             return value;
+    }
+    return {};
+}
+
+QVariant olValue::toVariant(const boost::any &value)
+{
+    for (const Reader &reader : readers) {
+        const QVariant variant = reader.write(value);
+        if (variant.isValid())
+            return variant;
     }
     return {};
 }

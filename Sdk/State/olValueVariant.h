@@ -16,4 +16,7 @@ namespace olValue
 /// value.
 ORLO_SDK_EXPORT boost::any fromVariant(const std::string &type, const QVariant &variant);
 
+/// The way back: the variant of a value of a setting; invalid for a value of any other type.
+ORLO_SDK_EXPORT QVariant toVariant(const boost::any &value);
+
 } // namespace olValue

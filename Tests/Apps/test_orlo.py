@@ -47,7 +47,7 @@ class Batch(tool_test.ToolTest):
         self.assertLess(self.triangles(model, *coarse), fine / 3)
         self.assertEqual(self.triangles(model), fine)
         self.assert_refused(self.stored("--render", model, "--output", "p.png", "--set", "Camera fov=500"),
-                            'orlo: 500 is no value for "Camera fov": expected a number from 1 to 100')
+                            'orlo: "Camera fov" cannot be 500: expected a number from 1 to 100')
 
         site = self.folder / "site/orlo/site.json"
         site.parent.mkdir(parents=True)

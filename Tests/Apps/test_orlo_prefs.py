@@ -83,9 +83,9 @@ class GetAndSet(ToolTest):
         self.assert_refused(self.stored("get", "something else"), 'there is no setting "something else"')
 
     def test_a_value_of_the_wrong_type_is_not_stored(self):
-        for value in ("wide", "true"):
+        for value, shown in (("wide", '"wide"'), ("true", "true")):
             self.assert_refused(self.stored("set", "Camera fov", value),
-                                f'{value} is no value for "Camera fov": expected a number')
+                                f'"Camera fov" cannot be {shown}: expected a number from 1 to 100')
         self.assertFalse(self.store.exists())
 
     def test_a_store_that_cannot_be_used_is_named(self):
@@ -109,7 +109,7 @@ class Bounds(ToolTest):
                 ("BCADOptions max parallel tasks", "32769", "a whole number from -1 to 32768")):
             with self.subTest(key):
                 self.assert_refused(self.stored("set", key, value),
-                                    f'{value} is no value for "{key}": expected {expected}')
+                                    f'"{key}" cannot be {value}: expected {expected}')
         self.assert_printed(self.stored("diff"), "")
 
     def test_what_it_could_is_stored_as_it_was_given(self):
@@ -118,9 +118,28 @@ class Bounds(ToolTest):
             self.assert_printed(self.stored("set", key, value), "")
             self.assert_printed(self.stored("get", key), value + "\n")
 
-        # Where the edition has no page only the type counts.
+        # A setting knows its range where the edition has no page for it, too.
         edition = ["--store", str(self.store), "--edition", "essentials"]
-        self.assert_printed(self.tool("set", "Camera fov", "500", options=edition), "")
+        self.assert_refused(self.tool("set", "Camera fov", "500", options=edition),
+                            '"Camera fov" cannot be 500: expected a number from 1 to 100')
+
+    def test_what_the_page_asks_about_takes_a_yes(self):
+        server = "WebInterface enable web server2"
+        refusal = (f'"{server}" is only set with --yes: Do you really want to enable the Web Server? '
+                   'The Web Server allows the execution of Python commands from remote locations!')
+        self.assert_refused(self.stored("set", server, "true"), refusal)
+        file = self.folder / "open.json"
+        file.write_text(json.dumps({"format": 1, "settings": {server: {"type": "bool", "value": True},
+                                                              "Powerwall width": {"type": "float", "value": 7}}}))
+        self.assert_refused(self.stored("import", file), refusal)
+        self.assert_printed(self.stored("diff"), "")
+        self.assert_printed(self.stored("import", "--dry-run", file),
+                            f"Powerwall width                  1600 -> 7\n{server}  false -> true\n")
+        agreed = ["--store", str(self.store), "--yes"]
+        self.assert_printed(self.tool("import", file, options=agreed), "")
+        self.assert_printed(self.stored("set", server, "true"), "")
+        self.assert_printed(self.stored("set", server, "false"), "")
+        self.assert_printed(self.tool("set", server, "true", options=agreed), "")
 
 
 class Differences(ToolTest):
@@ -138,7 +157,7 @@ class Differences(ToolTest):
     def test_a_list_that_no_module_has_a_default_for_is_a_setting_like_any(self):
         self.assert_printed(self.stored("get", PATHS), "[]\n")
         self.assert_refused(self.stored("set", PATHS, "[1]"),
-                            f'[1] is no value for "{PATHS}": expected a list of texts, as ["a", "b"]')
+                            f'"{PATHS}" cannot be [1]: expected a list of texts, as ["a", "b"]')
         self.assert_printed(self.stored("set", PATHS, '["/a", "b c"]'), "")
         self.assert_printed(self.stored("diff"), f'{PATHS}  [] -> ["/a", "b c"]\n')
         file = self.folder / "kept.json"

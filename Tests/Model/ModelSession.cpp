@@ -37,7 +37,6 @@ void renewHost(olEdition edition)
     olKernelServiceFactory::the<olPreferencesService>()->clear();
     olHostState::the().reset();
     olHostState::the().edition = edition;
-    olHostState::the().isPassive = true;
 }
 
 /// Every module offers all of its keys, whatever became of them later. A list without a default is offered by none.

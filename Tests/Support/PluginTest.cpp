@@ -21,7 +21,6 @@ void PluginTest::restart(olEdition edition)
     olHostState &host = olHostState::the();
     host.reset();
     host.edition = edition;
-    host.isPassive = true;
 
     const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
     if (!error.isEmpty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Framework/olControls.h"
 #include "Widgets/olTesselationSettings.h"
 
 #include <QCheckBox>
@@ -71,3 +72,7 @@ struct olMeshLevels {
 inline olMeshLevels meshLevels(QCheckBox *box) { return {box}; }
 inline void showOn(const olMeshLevels &box, int levels) { box.widget->setChecked(levels != 0); }
 inline void takeFrom(const olMeshLevels &box, int &levels) { levels = box.widget->isChecked() ? 2 : 0; }
+inline void tellChoices(const olMeshLevels &, olChoices<int> &choices)
+{
+    choices = {{0, olPlainText::of(false)}, {2, olPlainText::of(true)}};
+}

@@ -26,6 +26,7 @@ public:
 
 private:
     friend ORLO_SDK_EXPORT void registerSceneLoader(const char *suffix);
+    friend ORLO_SDK_EXPORT void resetSceneOptions();
 
     SceneFileHandler() = default;
     [[nodiscard]] SceneFileType *find(const char *suffix) const;

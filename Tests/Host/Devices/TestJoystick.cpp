@@ -9,6 +9,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include <fcntl.h>
 #include <linux/joystick.h>
 #include <sys/stat.h>
@@ -24,15 +26,12 @@ protected:
     Joystick() : file(QFile::encodeName(folder.filePath(QStringLiteral("js2"))))
     {
         host.reset();
-        host.isPassive = false;
-        olJoystickLink::the().lookIn(folder.path());
         before = olLog::observe(this);
         mkfifo(file.constData(), 0600);
         kernel = open(file.constData(), O_RDWR | O_CLOEXEC);
     }
     ~Joystick() override
     {
-        olController::setJoystickNavigation(2, false);
         unplug();
         olLog::observe(before);
         host.reset();
@@ -64,6 +63,7 @@ protected:
     int kernel = -1;
     QStringList log;
     olLogObserver *before = nullptr;
+    std::optional<olJoystickLink> link{folder.path()};
 };
 
 TEST_F(Joystick, ItsSticksAreInTheStateAndItsTriggersAndButtonsAreNot)
@@ -82,6 +82,12 @@ TEST_F(Joystick, ItsSticksAreInTheStateAndItsTriggersAndButtonsAreNot)
     olController::setJoystickNavigation(2, false);
     EXPECT_FALSE(host.joystickConnected);
     EXPECT_EQ(host.joystickAxes.get(), std::vector<float>(4)) << "let go, it rests";
+
+    olController::setJoystickNavigation(2, true);
+    link.reset();
+    EXPECT_FALSE(host.joystickConnected) << "nobody is left to use it";
+    olController::setJoystickNavigation(2, true);
+    EXPECT_TRUE(host.joystickNavigation && !host.joystickConnected) << "only recorded";
 }
 
 TEST_F(Joystick, OneThatGoesRestsAndIsFoundAgain)
@@ -106,9 +112,6 @@ TEST_F(Joystick, WhereThereIsNoneTheLogSaysSo)
     EXPECT_FALSE(host.joystickConnected);
     ASSERT_EQ(log.size(), 1);
     EXPECT_TRUE(log.first().contains(QStringLiteral("no joystick 7")));
-    host.isPassive = true;
-    olController::setJoystickNavigation(2, true);
-    EXPECT_FALSE(host.joystickConnected) << "only recorded";
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "Devices/olSpacemouseLink.h"
 #include "Kernel/olSpacemouse.h"
 #include "State/olHostState.h"
 #include "Utilities/olLog.h"
@@ -126,6 +127,7 @@ protected:
 
 private:
     olLogObserver *m_before;
+    olSpacemouseLink m_link;
 };
 
 TEST_F(Spacemouse, MotionAndButtonsAreSeenInTheHostsState)

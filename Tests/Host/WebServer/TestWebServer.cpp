@@ -4,6 +4,7 @@
 #include "State/olPreferencesRegistry.h"
 #include "Utilities/olLog.h"
 #include "Utilities/olMessage.h"
+#include "WebServer/olWebServer.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -40,7 +41,6 @@ protected:
     {
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_configuration.path()));
         host.reset();
-        host.isPassive = false;
         port = freePort();
         record.set("WebInterface port", port);
         record.set("WebInterface ssl port", freePort());
@@ -51,7 +51,6 @@ protected:
 
     ~WebServer() override
     {
-        olController::enableWebInterface(false);
         host.reset();
         olLog::observe(m_log);
         const olMessage::Entries left = record.entries();
@@ -107,6 +106,7 @@ protected:
 
 private:
     olLogObserver *m_log;
+    olWebServer m_server;
 };
 
 int threads() { return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); }

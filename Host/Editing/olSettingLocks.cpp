@@ -1,4 +1,4 @@
-#include "Session/olSettingLocks.h"
+#include "Editing/olSettingLocks.h"
 
 #include <QEvent>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "Editing/olNumberText.h"
+#include "Session/olNumberText.h"
 
 #include "State/olValue.h"
 

@@ -105,7 +105,7 @@ TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
     const QStringList skipped = rows(*view, "skipped");
     EXPECT_EQ(skipped.size(), 6) << skipped.join('\n').toStdString();
     EXPECT_TRUE(skipped.contains(QStringLiteral("Unknown | is not known")));
-    EXPECT_TRUE(skipped.contains(QStringLiteral("Studio shadows | is of the type int, not bool")));
+    EXPECT_TRUE(skipped.contains(QStringLiteral("Studio shadows | cannot be 1: expected true or false")));
     EXPECT_TRUE(skipped.contains(QStringLiteral("Studio title | is locked: House style.")));
     EXPECT_EQ(module.page.samples->value(), 4);
 
