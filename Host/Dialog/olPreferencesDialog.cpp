@@ -209,6 +209,8 @@ void olPreferencesDialog::connectParts()
             m_workedAt = now;
     });
 
+    m_pending->askWith([this](const olSettingWarning &question) { return isAgreed(question); });
+
     // A filling changes many controls at once, and one look at the end tells it all.
     connect(m_pending.get(), &olPendingChanges::edited, &m_refresh, QOverload<>::of(&QTimer::start));
     connect(&m_refresh, &QTimer::timeout, this, &olPreferencesDialog::refresh);
@@ -443,7 +445,7 @@ void olPreferencesDialog::lockSettings(olPreferencesEntry &entry, olPageFrame &f
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
             if (const auto reason = m_session.lockReason(key.toStdString()))
-                frame.locks().lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
+                frame.lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
         }
     }
 }
@@ -627,19 +629,44 @@ QString olPreferencesDialog::placeOf(const std::string &key) const
     return tr("%1: %2", "module and setting").arg(owner->name(), isTold ? control->name : name);
 }
 
+std::vector<olListedChange> olPreferencesDialog::listedChanges() const
+{
+    std::vector<olListedChange> listed;
+    for (const olPendingChange &change : m_pending->list()) {
+        if (change.key.empty())
+            listed.push_back({change.entry->name(), {}, {}, tr("edited"), {}, {}});
+        else
+            listed.push_back(listedChange(change.key, change.before, change.after));
+    }
+    return listed;
+}
+
+olListedChange olPreferencesDialog::listedChange(const std::string &key, const boost::any &before,
+                                                 const boost::any &after) const
+{
+    return {placeOf(key), QString::fromStdString(key), olValueText(key, before), olValueText(key, after), before,
+            after};
+}
+
 void olPreferencesDialog::showChanges()
 {
     auto *view = new olChangesView(tr("Changes"), this);
     view->setAttribute(Qt::WA_DeleteOnClose);
-    for (const olPendingChange &change : m_pending->list()) {
-        const QString before = olShortValueText(change.key, change.before);
-        const QString after = olShortValueText(change.key, change.after);
-        if (change.key.empty())
-            view->addChange(change.entry->name(), {}, {}, tr("edited"));
-        else
-            view->addChange(placeOf(change.key), QString::fromStdString(change.key), before, after);
-    }
+    view->offerWork();
+    view->setChanges(listedChanges());
     connect(view, &olChangesView::chosen, this, &olPreferencesDialog::goTo);
+    connect(view, &olChangesView::takeBackAsked, this,
+            [this, view](const QStringList &keys, const QStringList &places) {
+                for (int index = 0; index < keys.size(); ++index) {
+                    if (!keys[index].isEmpty())
+                        m_pending->takeBack(keys[index].toStdString());
+                    else if (const olPreferencesEntry *entry = olPreferencesRegistry::the().find(places[index]))
+                        m_pending->takeBack(*entry);
+                }
+                view->setChanges(listedChanges());
+                if (m_pending->isEmpty())
+                    view->accept();
+            });
     view->fit();
     view->open();
 }
@@ -667,16 +694,36 @@ void olPreferencesDialog::importFrom(const QString &file)
     view->setIntroduction(import.changes.empty()
                               ? tr("Nothing in this file would change a setting.")
                               : tr("These settings get the values of the file. They stay pending until OK or Apply."));
-    for (const olPreferencesImport::Change &change : import.changes) {
-        view->addChange(placeOf(change.key), QString::fromStdString(change.key),
-                        olShortValueText(change.key, change.before), olShortValueText(change.key, change.after));
-    }
+    std::vector<olListedChange> listed;
+    for (const olPreferencesImport::Change &change : import.changes)
+        listed.push_back(listedChange(change.key, change.before, change.after));
+    view->setChanges(listed);
     for (const olSkippedSetting &skipped : import.skipped)
         view->addSkipped(QString::fromStdString(skipped.key), skipped.reason);
     view->askFor(tr("&Import"));
-    connect(view, &QDialog::accepted, this, [this, values = import.values()] { m_pending->put(values); });
+    connect(view, &QDialog::accepted, this, [this, view, import] {
+        const QStringList ticked = view->ticked();
+        olSettingValues values = import.values();
+        for (auto value = values.begin(); value != values.end();)
+            value = ticked.contains(QString::fromStdString(value->first)) ? std::next(value) : values.erase(value);
+        m_pending->put(values);
+    });
     view->fit();
     view->open();
+}
+
+/// A setting whose own box asks before it is set is asked about here, too.
+bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
+{
+    QMessageBox box(QMessageBox::Warning, question.title, question.text, QMessageBox::NoButton, this);
+    box.setInformativeText(question.informative);
+    box.setWindowModality(Qt::WindowModal);
+    const QPushButton *accepted = box.addButton(question.accept, QMessageBox::AcceptRole);
+    QPushButton *rejected = box.addButton(question.reject, QMessageBox::RejectRole);
+    box.setDefaultButton(rejected);
+    box.setEscapeButton(rejected);
+    box.exec();
+    return box.clickedButton() == accepted;
 }
 
 void olPreferencesDialog::chooseExport()

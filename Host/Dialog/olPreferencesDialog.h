@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QTimer>
+#include <boost/any.hpp>
 
 #include <memory>
 #include <string>
@@ -28,6 +29,8 @@ class olPreferencesSession;
 class olSettingMenu;
 class olSettingsSearch;
 struct olFoundControl;
+struct olListedChange;
+struct olSettingWarning;
 struct olPendingChange;
 
 /// Shows the modules as entries under their categories, with their pages. Everything done in it is pending until OK or
@@ -106,6 +109,10 @@ private:
     bool tellNotices();
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] QString lossText(const std::vector<olPendingChange> &changes) const;
+    [[nodiscard]] std::vector<olListedChange> listedChanges() const;
+    [[nodiscard]] olListedChange listedChange(const std::string &key, const boost::any &before,
+                                              const boost::any &after) const;
+    [[nodiscard]] bool isAgreed(const olSettingWarning &question);
     void chooseImport();
     void chooseExport();
 

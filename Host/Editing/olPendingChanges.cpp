@@ -145,12 +145,34 @@ void olPendingChanges::put(const olSettingValues &values)
     std::map<olPreferencesEntry *, olSettingValues> byOwner;
     for (const auto &[key, value] : values) {
         olPreferencesEntry *owner = ownerOf(key);
-        if (owner && !m_session.lockReason(key))
+        if (owner && !m_session.lockReason(key) && isAgreed(key, value))
             byOwner[owner][key] = value;
     }
     for (const auto &[owner, own] : byOwner)
         putOwn(*owner, own);
     emit edited();
+}
+
+bool olPendingChanges::isAgreed(const std::string &key, const boost::any &value) const
+{
+    const std::optional<olSettingWarning> question = m_session.warning(key, value);
+    return !question || olValue::equal(this->value(key), value) || (m_ask && m_ask(*question));
+}
+
+void olPendingChanges::takeBack(const std::string &key)
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    if (page && page->hasControl(key))
+        put({{key, page->valueInForce(key)}});
+    else if (m_withoutControl.erase(key) != 0)
+        emit edited();
+}
+
+void olPendingChanges::takeBack(const olPreferencesEntry &entry)
+{
+    if (olEditedPage *page = findPage(entry))
+        page->fill();
 }
 
 void olPendingChanges::putOwn(olPreferencesEntry &entry, const olSettingValues &values)
@@ -227,6 +249,8 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
 QString olPendingChanges::commit()
 {
     olSettingValues besides = m_withoutControl;
+    for (const olPreferencesEntry *entry : m_filled)
+        findPage(*entry)->putBackHeld();
     for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
     QString error = m_session.confirm(m_filled, besides);

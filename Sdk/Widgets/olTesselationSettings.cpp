@@ -53,12 +53,12 @@ olTesselationSettings::olTesselationSettings(QWidget *parent) : QWidget(parent)
     m_tessellation = new QCheckBox(tr("T&essellation"), this);
     rows->addRow(m_tessellation);
     addQuality(*rows);
-    m_chordDeviation = addField(*rows, tr("Chord &Deviation"), tr("mm"));
-    m_normalTolerance = addField(*rows, tr("&Normal Tolerance"), tr("\302\260"));
-    m_maxChordLength = addField(*rows, tr("Ma&x Chord Length"), tr("mm"));
+    m_chordDeviation = addField(*rows, "chordDeviation", tr("Chord &Deviation"), tr("mm"));
+    m_normalTolerance = addField(*rows, "normalTolerance", tr("&Normal Tolerance"), tr("\302\260"));
+    m_maxChordLength = addField(*rows, "maxChordLength", tr("Ma&x Chord Length"), tr("mm"));
     m_stitching = new QCheckBox(tr("&Stitching"), this);
     rows->addRow(m_stitching);
-    m_stitchingTolerance = addField(*rows, tr("St&itching Tolerance"), tr("mm"));
+    m_stitchingTolerance = addField(*rows, "stitchingTolerance", tr("St&itching Tolerance"), tr("mm"));
 
     m_chordDeviation.number->setRange(smallestLength, 1000.0);
     m_chordDeviation.number->setSteps(0.005, 0.05);
@@ -176,6 +176,10 @@ void olTesselationSettings::addQuality(QFormLayout &rows)
     m_quality->setToolTip(tr("Sets chord deviation, normal tolerance and max chord length together."));
     m_quality->setAccessibleName(tr("Quality"));
     m_qualityLabel->setBuddy(m_quality);
+    // Where one of them may not be changed, this may not be used.
+    m_quality->setProperty("olCompanionOf",
+                           QStringList{QStringLiteral("chordDeviation"), QStringLiteral("normalTolerance"),
+                                       QStringLiteral("maxChordLength")});
 
     auto *row = new QHBoxLayout(m_qualityRow);
     row->setContentsMargins(0, 0, 0, 0);
@@ -185,11 +189,12 @@ void olTesselationSettings::addQuality(QFormLayout &rows)
     rows.addRow(m_qualityLabel, m_qualityRow);
 }
 
-olTesselationSettings::Field olTesselationSettings::addField(QFormLayout &rows, const QString &name,
-                                                             const QString &unit)
+olTesselationSettings::Field olTesselationSettings::addField(QFormLayout &rows, const char *objectName,
+                                                             const QString &name, const QString &unit)
 {
     const Field field{new QLabel(name, this), new olNumberField(this), new QLabel(unit, this)};
     field.label->setBuddy(field.number);
+    field.number->setObjectName(QLatin1String(objectName));
     field.number->setAccessibleName(QString(name).remove(QLatin1Char('&')));
 
     auto *row = new QHBoxLayout;

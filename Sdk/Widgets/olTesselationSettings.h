@@ -78,7 +78,7 @@ private:
     };
 
     void addQuality(QFormLayout &rows);
-    [[nodiscard]] Field addField(QFormLayout &rows, const QString &name, const QString &unit);
+    [[nodiscard]] Field addField(QFormLayout &rows, const char *objectName, const QString &name, const QString &unit);
 
     void applyQualityPreset(int preset);
     void updateEnabled();

@@ -8,6 +8,7 @@
 #include "Session/olPreferencesSession.h"
 #include "State/olValue.h"
 #include "Widgets/QOLCollapsibleFrame.h"
+#include "Widgets/olTesselationSettings.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -16,10 +17,14 @@
 #include <QFile>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -63,10 +68,15 @@ protected:
         auto *view = dialog->findChild<olChangesView *>();
         ASSERT_NE(view, nullptr);
         EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItemCount(), 0);
+        const auto untick =
+            view->findChild<QTreeWidget *>(QStringLiteral("changes"))->findItems(unticked, Qt::MatchExactly);
+        for (QTreeWidgetItem *item : untick)
+            item->setCheckState(0, Qt::Unchecked);
         view->accept();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    QString unticked;
     QTemporaryDir folder;
     olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
     std::unique_ptr<olPreferencesDialog> dialog;
@@ -163,6 +173,48 @@ TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
     dialog->restoreAll();
 }
 
+TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsThroughIsPutBack)
+{
+    dialog.reset();
+    QFile site(folder.filePath(QStringLiteral("site.json")));
+    ASSERT_TRUE(site.open(QIODevice::WriteOnly));
+    site.write(R"({"STEPOptions chord deviation": {"locked": true},
+                   "RenderOptions background colors": {"locked": true}, "texture search paths": {"locked": true}})");
+    site.close();
+    olPreferencesSession locking(folder.filePath(QStringLiteral("other.db")), {site.fileName()});
+    ASSERT_EQ(locking.loadStore(), QString());
+    locking.start();
+    olPreferencesDialog locked(locking);
+
+    locked.open(QStringLiteral("Step"));
+    auto &block = control<olTesselationSettings>("Step", "tesselation");
+    auto *quality = qobject_cast<QSlider *>(block.control(olTesselationSettings::Control::Quality));
+    EXPECT_FALSE(quality->isEnabled());
+    const double kept = block.chordDeviation();
+    quality->setValue(quality->maximum());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(block.chordDeviation(), kept);
+    auto *changes = locked.findChild<QPushButton *>(QStringLiteral("changes"));
+    EXPECT_EQ(changes->text(), "2 Chan&ges...") << "the two tolerances that are free, not the one that is locked";
+    ASSERT_TRUE(locked.apply());
+    EXPECT_EQ(block.chordDeviation(), kept);
+    EXPECT_EQ(boost::any_cast<double>(record().get("STEPOptions chord deviation")), kept);
+
+    locked.open(QStringLiteral("Render Options"));
+    for (const char *button : {"addColor", "deleteColor", "chooseColor"})
+        EXPECT_FALSE(control<QWidget>("Render Options", button).isEnabled()) << button;
+    auto &table = control<QTableWidget>("Render Options", "backgroundTable");
+    const int rows = table.rowCount();
+    control<QAbstractButton>("Render Options", "addColor").setEnabled(true);
+    table.insertRow(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(table.rowCount(), rows);
+    EXPECT_EQ(changes->text(), "No Changes");
+    locked.open(QStringLiteral("FileIO"));
+    EXPECT_FALSE(control<QWidget>("FileIO", "addPath").isEnabled());
+    EXPECT_TRUE(control<QWidget>("FileIO", "browseTmpPath").isEnabled());
+}
+
 TEST_F(DialogWithModules, EverySettingWithAControlIsFoundByItsKey)
 {
     auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
@@ -225,11 +277,10 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
 TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
 {
     import(R"("Interaction mode": {"type": "int", "value": 1}, "Navigator orbit mode": {"type": "bool", "value": true},
-        "WebInterface enable web server2": {"type": "bool", "value": true},
         "texture search paths": {"type": "strings", "value": ["/textures"]},
         "VR Teleport Range": {"type": "float", "value": 12.5}, "Camera fov": {"type": "float", "value": 60.123457})");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_EQ(pending(), "6 Chan&ges...") << "a preset would have changed more";
+    EXPECT_EQ(pending(), "5 Chan&ges...") << "a preset would have changed more";
     EXPECT_TRUE(control<QWidget>("Navigator", "orbitDetectionArea").isEnabled()) << "the page's rules did run";
     EXPECT_EQ(calls.take(), std::vector<std::string>());
 
@@ -237,9 +288,33 @@ TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
     EXPECT_EQ(pending(), "No Changes");
     EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.123457f);
     EXPECT_EQ(boost::any_cast<int>(record().get("Interaction mode")), 1);
-    EXPECT_TRUE(boost::any_cast<bool>(record().get("WebInterface enable web server2")));
     EXPECT_TRUE(olValue::equal(record().get("texture search paths"), std::vector<std::string>{"/textures"}));
     EXPECT_EQ(olKernelServiceFactory::the<olPreferencesService>()->getFloat("VR Teleport Range", 0.0f), 12.5f);
+}
+
+TEST_F(DialogWithModules, AnImportBringsWhatIsTickedAndAsksWhatThePageWouldAsk)
+{
+    const auto answer = [](QMessageBox::ButtonRole role) {
+        QTimer::singleShot(0, [role] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            for (QAbstractButton *button : box->buttons()) {
+                if (box->buttonRole(button) == role)
+                    return button->click();
+            }
+        });
+    };
+    const QByteArray settings = R"("WebInterface enable web server2": {"type": "bool", "value": true},
+        "Camera fov": {"type": "float", "value": 60}, "Powerwall width": {"type": "float", "value": 1})";
+    unticked = QStringLiteral("Camera: Field of View");
+    answer(QMessageBox::RejectRole);
+    import(settings);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(pending(), "1 Chan&ge...") << "neither what is not ticked nor what is not agreed to";
+    answer(QMessageBox::AcceptRole);
+    import(settings);
+    EXPECT_EQ(pending(), "2 Chan&ges...");
+    dialog->restoreAll();
 }
 
 TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllAndCountsOnce)

@@ -4,8 +4,10 @@
 #include "DialogTest.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFile>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
@@ -60,10 +62,46 @@ TEST_F(PreferencesDialog, TheListOfChangesNamesSettingOldAndNewValue)
     EXPECT_EQ(row(0), (QStringList{"Studio: Cast Shadows", "on", "off"}));
     EXPECT_EQ(row(1), (QStringList{"Studio: Mode", "Hasty", "Accurate"}));
 
-    list->setCurrentItem(list->topLevelItem(1));
-    emit list->itemActivated(list->topLevelItem(1), 0);
+    EXPECT_EQ(list->header()->length(), list->viewport()->width()) << "old and new are both in sight";
+
+    QTest::mouseClick(view->findChild<QPushButton *>(QStringLiteral("copyAsText")), Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text(), "Studio: Cast Shadows (Studio shadows): on -> off\n"
+                                                 "Studio: Mode (Studio mode): Hasty -> Accurate\n");
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_FALSE(view->isVisible());
     EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "a change chosen is shown on its page";
     EXPECT_EQ(dialog->focusWidget(), module.page.mode);
+}
+
+TEST_F(PreferencesDialog, ChangesAreTakenBackOneByOneOrAllTogether)
+{
+    start();
+    module.page.samples->setValue(9);
+    module.page.mode->setCurrentIndex(1);
+    module.page.title->setText(QStringLiteral("Front"));
+    ASSERT_TRUE(canApply());
+    QTest::mouseClick(changes(), Qt::LeftButton);
+    auto *view = opened<olChangesView>();
+    ASSERT_NE(view, nullptr);
+    auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    const auto press = [view](const char *name) {
+        QTest::mouseClick(view->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+    };
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    press("takeBack");
+    EXPECT_EQ(module.page.mode->currentIndex(), 0);
+    EXPECT_EQ(module.page.samples->value(), 9);
+    ASSERT_EQ(list->topLevelItemCount(), 2);
+    EXPECT_EQ(list->currentItem()->text(0), "Studio: Title") << "the next one is at hand";
+    press("takeAllBack");
+    EXPECT_EQ(module.page.samples->value(), 4);
+    EXPECT_EQ(module.page.title->text(), "");
+    EXPECT_FALSE(view->isVisible()) << "nothing is left to work on";
+    EXPECT_FALSE(canApply());
+    EXPECT_EQ(module.page.questions, 0);
 }
 
 TEST_F(PreferencesDialog, LeavingWithEditsAloneAsksToApplyDiscardOrStay)

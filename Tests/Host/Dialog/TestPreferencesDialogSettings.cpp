@@ -166,7 +166,11 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     EXPECT_TRUE(locked->menu()->actions().first()->text().contains(QStringLiteral("The farm needs it.")));
 
     module.page.samples->setValue(3);
+    EXPECT_FALSE(canApply()) << "it is put back at once";
+    EXPECT_EQ(module.page.samples->value(), 16);
+    module.page.samples->setValue(3);
     ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(module.page.samples->value(), 16);
     EXPECT_EQ(module.value<int>("Studio samples"), 16);
     dialog.reset();
     EXPECT_TRUE(module.page.samples->isEnabled()) << "the page goes back as it came";
