@@ -11,6 +11,8 @@
 
 #include <TDocStd_Document.hxx>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFile>
