@@ -3,6 +3,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QHeaderView>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
@@ -12,13 +13,20 @@
 namespace
 {
 
+enum Column { NameColumn, CountColumn };
+
 constexpr int nameRole = Qt::UserRole;
+constexpr int pendingRole = Qt::UserRole + 1;
 
 } // namespace
 
 olModuleTree::olModuleTree()
 {
+    setColumnCount(2);
     setHeaderHidden(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    header()->setSectionResizeMode(CountColumn, QHeaderView::ResizeToContents);
     setRootIsDecorated(true);
     setUniformRowHeights(true);
     setAccessibleName(tr("Modules"));
@@ -28,6 +36,17 @@ olModuleTree::olModuleTree()
 void olModuleTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QTreeWidget::drawRow(painter, option, index);
+    if (index.sibling(index.row(), NameColumn).data(pendingRole).toBool()) {
+        const QRect name = visualRect(index.sibling(index.row(), NameColumn));
+        const bool isCurrent = selectionModel()->isSelected(index);
+        const qreal radius = option.fontMetrics.ascent() / 5.0;
+        const qreal x = isRightToLeft() ? name.left() + 2.0 * radius : name.right() - 2.0 * radius;
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(palette().color(isCurrent ? QPalette::HighlightedText : QPalette::Highlight));
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->drawEllipse(QPointF(x, name.center().y()), radius, radius);
+        painter->setRenderHint(QPainter::Antialiasing, false);
+    }
     if (index != currentIndex() || !hasFocus())
         return;
     painter->setPen(QPen(palette().color(QPalette::Text), 1.0, Qt::DotLine));
@@ -121,17 +140,20 @@ bool olModuleTree::choose(const QString &name)
     return found;
 }
 
-void olModuleTree::showOnly(const std::vector<const olPreferencesEntry *> &entries)
+void olModuleTree::showOnly(const std::map<const olPreferencesEntry *, int> &entries)
 {
     const auto isAsked = [&](const QTreeWidgetItem &item) {
         const olPreferencesEntry *entry = entryOf(&item);
-        return entry && std::find(entries.begin(), entries.end(), entry) != entries.end();
+        return entry && entries.count(entry) != 0;
     };
     QTreeWidgetItem *first = nullptr;
     eachItem([&](QTreeWidgetItem &item) {
         bool isShown = isAsked(item);
         if (isShown && !first)
             first = &item;
+        const int count = isShown ? entries.at(entryOf(&item)) : 0;
+        item.setText(CountColumn, count > 0 ? QString::number(count) : QString());
+        item.setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
         for (int row = 0; row < item.childCount(); ++row)
             isShown = isShown || isAsked(*item.child(row));
         item.setHidden(!isShown);
@@ -144,7 +166,24 @@ void olModuleTree::showOnly(const std::vector<const olPreferencesEntry *> &entri
 
 void olModuleTree::showAll()
 {
-    eachItem([](QTreeWidgetItem &item) { item.setHidden(false); });
+    eachItem([](QTreeWidgetItem &item) {
+        item.setHidden(false);
+        item.setText(CountColumn, QString());
+    });
     if (currentItem())
         scrollToItem(currentItem());
+}
+
+void olModuleTree::markPending(const std::vector<const olPreferencesEntry *> &entries)
+{
+    eachItem([&](QTreeWidgetItem &item) {
+        const olPreferencesEntry *entry = entryOf(&item);
+        const bool isPending = entry && std::find(entries.begin(), entries.end(), entry) != entries.end();
+        if (item.data(NameColumn, pendingRole).toBool() == isPending)
+            return;
+        item.setData(NameColumn, pendingRole, isPending);
+        const QString told = isPending ? tr("Has changes that are not applied yet") : QString();
+        item.setToolTip(NameColumn, told);
+        item.setData(NameColumn, Qt::AccessibleDescriptionRole, told);
+    });
 }

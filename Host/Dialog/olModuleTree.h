@@ -2,6 +2,7 @@
 
 #include <QTreeWidget>
 
+#include <map>
 #include <vector>
 
 class olPreferencesEntry;
@@ -25,9 +26,13 @@ public:
     /// False, with nothing changed, for a name that is not listed.
     bool choose(const QString &name);
 
-    /// Hides the modules that are not among these, and moves to the first that is if the current one is not.
-    void showOnly(const std::vector<const olPreferencesEntry *> &entries);
+    /// Hides the modules that are not among these, and moves to the first that is if the current one is not. The number
+    /// beside each says how much was found there.
+    void showOnly(const std::map<const olPreferencesEntry *, int> &entries);
     void showAll();
+
+    /// Marks the modules with changes that are not applied yet, and no others.
+    void markPending(const std::vector<const olPreferencesEntry *> &entries);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 

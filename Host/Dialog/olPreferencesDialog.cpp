@@ -15,6 +15,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -27,6 +28,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -68,6 +70,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_restorePage(new QPushButton(tr("Restore &Page"))),
       m_pages(new QStackedWidget),
       m_nothing(new QLabel),
+      m_foundList(new olFoundSettings),
       m_message(new olMessageLine),
       m_changes(new QPushButton),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel))
@@ -106,11 +109,10 @@ QWidget *olPreferencesDialog::buildLeft()
     m_searchField->setObjectName(QStringLiteral("search"));
     m_searchField->setPlaceholderText(tr("Search"));
     m_searchField->setAccessibleName(tr("Search all settings"));
-    m_searchField->setToolTip(tr("Finds settings by label, tooltip, choice and key (Ctrl+F)."));
+    m_searchField->setToolTip(tr("Finds settings by label, group, tooltip, choice and key (Ctrl+F)."));
     m_searchField->setClearButtonEnabled(true);
     m_changedOnly->setObjectName(QStringLiteral("changedOnly"));
-    m_changedOnly->setToolTip(
-        tr("Shows only the pages with settings that differ from their defaults, and marks them."));
+    m_changedOnly->setToolTip(tr("Lists the settings that differ from their defaults."));
 
     auto *menu = new QMenu(m_more);
     menu->addAction(tr("&Import..."), this, &olPreferencesDialog::chooseImport);
@@ -151,6 +153,7 @@ QWidget *olPreferencesDialog::buildRight()
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
     m_pages->addWidget(m_nothing);
+    m_pages->addWidget(m_foundList);
 
     auto *right = new QWidget;
     auto *layout = new QVBoxLayout(right);
@@ -191,6 +194,11 @@ void olPreferencesDialog::connectParts()
     connect(m_searchField, &QLineEdit::textChanged, this, &olPreferencesDialog::filter);
     connect(m_changedOnly, &QCheckBox::toggled, this, &olPreferencesDialog::filter);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &olPreferencesDialog::showCurrent);
+    // The current one, too, is asked for again from the list of what was found.
+    connect(m_tree, &QTreeWidget::itemClicked, this, &olPreferencesDialog::showCurrent);
+    connect(m_tree, &QTreeWidget::itemActivated, this, &olPreferencesDialog::showCurrent);
+    connect(m_foundList, &olFoundSettings::chosen, this, &olPreferencesDialog::goToFound);
+    connect(m_foundList, &olFoundSettings::menuAsked, this, &olPreferencesDialog::openMenuOfFound);
     connect(m_restorePage, &QPushButton::clicked, this, &olPreferencesDialog::restorePage);
     connect(m_changes, &QPushButton::clicked, this, &olPreferencesDialog::showChanges);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &olPreferencesDialog::accept);
@@ -298,9 +306,9 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape && !m_searchField->text().isEmpty())
         m_searchField->clear();
     else if (isEnter && m_searchField->hasFocus())
-        focusFirstHit();
+        goToFound(m_foundList->currentRow());
     else if (event->key() == Qt::Key_Down && m_searchField->hasFocus())
-        m_tree->setFocus(Qt::TabFocusReason);
+        (m_foundList->isVisible() ? static_cast<QWidget *>(m_foundList) : m_tree)->setFocus(Qt::TabFocusReason);
     else if (!asksForMenu || !m_menu->openFor(focusWidget()))
         QDialog::keyPressEvent(event);
 }
@@ -473,6 +481,7 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
 std::vector<QWidget *> olPreferencesDialog::tabStops() const
 {
     std::vector<QWidget *> stops{m_searchField, m_changedOnly, m_more, m_tree, m_restorePage, m_locked};
+    stops.push_back(m_foundList);
     const auto *frame = qobject_cast<olPageFrame *>(m_pages->currentWidget());
     if (QWidget *page = frame ? frame->page() : nullptr) {
         for (QWidget *widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
@@ -513,10 +522,37 @@ void olPreferencesDialog::giveBack(QWidget *page)
 
 void olPreferencesDialog::filter()
 {
+    const bool isFiltered = collectFound();
+    for (olPageFrame *frame : qAsConst(m_frames))
+        frame->marks().setHits({});
+    for (auto hits = m_hits.cbegin(); hits != m_hits.cend(); ++hits) {
+        if (olPageFrame *frame = m_frames.value(hits.key()->page()))
+            frame->marks().setHits(hits.value());
+    }
+    if (!isFiltered) {
+        m_tree->showAll();
+        showCurrent();
+        return;
+    }
+    std::map<const olPreferencesEntry *, int> counts;
+    for (const Found &found : m_found)
+        counts[found.entry] += found.control.widget ? 1 : 0;
+    {
+        // The list is what is looked at now; the page of the current module is not filled for that.
+        const QSignalBlocker quiet(m_tree);
+        m_tree->showOnly(counts);
+    }
+    showFound();
+}
+
+/// Settings that match the search and differ from their default where only those are wanted. False where nothing is
+/// searched for.
+bool olPreferencesDialog::collectFound()
+{
     const QString text = m_searchField->text().simplified();
     const bool isFiltered = !text.isEmpty() || m_changedOnly->isChecked();
     m_hits.clear();
-    std::vector<const olPreferencesEntry *> found;
+    m_found.clear();
     for (const olSearchResult &result : isFiltered ? m_search->find(text) : std::vector<olSearchResult>()) {
         std::vector<olFoundControl> hits;
         for (const olFoundControl *hit : result.hits) {
@@ -526,24 +562,102 @@ void olPreferencesDialog::filter()
             if (isChanged || !m_changedOnly->isChecked())
                 hits.push_back(*hit);
         }
-        if (hits.empty() && m_changedOnly->isChecked())
-            continue;
-        found.push_back(result.entry);
-        m_hits.insert(result.entry, hits);
+        for (const olFoundControl &hit : hits)
+            m_found.push_back({result.entry, hit});
+        if (hits.empty() && !m_changedOnly->isChecked())
+            m_found.push_back({result.entry, {}});
+        if (!hits.empty())
+            m_hits.insert(result.entry, hits);
     }
-    for (olPageFrame *frame : qAsConst(m_frames))
-        frame->marks().setHits({});
-    for (auto hits = m_hits.cbegin(); hits != m_hits.cend(); ++hits) {
-        if (olPageFrame *frame = m_frames.value(hits.key()->page()))
-            frame->marks().setHits(hits.value());
+    // Who types a name means what is called so before what only mentions it.
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    std::stable_partition(m_found.begin(), m_found.end(), [&words](const Found &found) {
+        return std::all_of(words.begin(), words.end(), [&found](const QString &word) {
+            return found.control.name.contains(word, Qt::CaseInsensitive);
+        });
+    });
+    m_foundList->list(
+        int(m_found.size()),
+        [this](int row, olFoundSettings::Column column) { return foundText(m_found[std::size_t(row)], column); },
+        words);
+    return isFiltered;
+}
+
+QString olPreferencesDialog::foundText(const Found &found, olFoundSettings::Column column) const
+{
+    const olFoundControl &control = found.control;
+    switch (column) {
+    case olFoundSettings::Label:
+        return control.widget ? control.name : found.entry->name();
+    case olFoundSettings::Where:
+        return control.widget ? (QStringList(found.entry->name()) + control.captions).join(QStringLiteral(" \u203a "))
+                              : tr("Page");
+    case olFoundSettings::Value: {
+        QStringList values;
+        for (const QString &key : control.keys)
+            values << olShortValueText(key.toStdString(), m_pending->value(key.toStdString()));
+        return values.join(QStringLiteral("; "));
     }
-    m_nothing->setText(text.isEmpty() ? tr("Every setting has its default.")
-                                      : tr("Nothing matches \"%1\".").arg(m_searchField->text()));
-    if (isFiltered)
-        m_tree->showOnly(found);
-    else
-        m_tree->showAll();
+    default:
+        return control.keys.isEmpty() ? QString() : originText(control.keys.first().toStdString());
+    }
+}
+
+QString olPreferencesDialog::originText(const std::string &key) const
+{
+    if (m_session.lockReason(key))
+        return tr("locked");
+    if (m_pending->isPending(key))
+        return tr("pending");
+    const QString origin = m_session.origin(key);
+    return origin == QLatin1String("stored") ? tr("yours")
+           : origin == QLatin1String("site") ? tr("the site's")
+                                             : tr("default");
+}
+
+/// In place of the pages, until one of them is asked for.
+void olPreferencesDialog::showFound()
+{
+    const QString text = m_searchField->text().simplified();
+    m_restorePage->setVisible(false);
+    m_locked->setVisible(false);
+    if (m_found.empty())
+        m_nothing->setText(text.isEmpty() ? tr("Every setting has its default.")
+                                          : tr("Nothing matches \"%1\".").arg(m_searchField->text()));
+    m_pages->setCurrentWidget(m_found.empty() ? static_cast<QWidget *>(m_nothing) : m_foundList);
+    const QString told = m_found.empty()       ? m_nothing->text()
+                         : m_found.size() == 1 ? tr("1 Setting")
+                                               : tr("%1 Settings").arg(m_found.size());
+    if (m_title->text() == told)
+        return;
+    m_title->setText(m_found.empty() ? QString() : told);
+    m_title->setAccessibleName(told);
+    QAccessibleEvent alert(m_title, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void olPreferencesDialog::goToFound(int row)
+{
+    if (row < 0 || std::size_t(row) >= m_found.size())
+        return;
+    const Found found = m_found[std::size_t(row)];
+    m_tree->choose(found.entry->name());
     showCurrent();
+    if (!found.control.widget) {
+        m_tree->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    if (olPageFrame *frame = m_frames.value(found.entry->page()))
+        frame->reveal(found.control);
+    found.control.widget->setFocus(Qt::TabFocusReason);
+}
+
+void olPreferencesDialog::openMenuOfFound(int row, const QPoint &globalPosition)
+{
+    const Found found = m_found[std::size_t(row)];
+    m_menu->addTo(m_search->controls(*found.entry));
+    if (found.control.widget)
+        m_menu->openFor(found.control.widget, globalPosition);
 }
 
 void olPreferencesDialog::revealFirstHit()
@@ -557,17 +671,6 @@ void olPreferencesDialog::revealFirstHit()
     // The tab in front stays there while it has a hit.
     const auto first = std::find_if(hits.begin(), hits.end(), inSight);
     frame->reveal(first == hits.end() ? hits.front() : *first);
-}
-
-void olPreferencesDialog::focusFirstHit()
-{
-    const olPreferencesEntry *entry = m_tree->chosen();
-    for (const olFoundControl &hit : m_hits.value(entry)) {
-        if (hit.widget && hit.widget->isVisible() && hit.widget->isEnabled() && hit.widget->focusPolicy()) {
-            hit.widget->setFocus(Qt::TabFocusReason);
-            return;
-        }
-    }
 }
 
 void olPreferencesDialog::goTo(const QString &key)
@@ -603,7 +706,8 @@ std::vector<olFoundControl> olPreferencesDialog::changedOn(const olPreferencesEn
 void olPreferencesDialog::refresh()
 {
     m_refresh.stop();
-    const std::size_t count = m_pending->list().size();
+    const std::vector<olPendingChange> changes = m_pending->list();
+    const std::size_t count = changes.size();
     m_changes->setText(changesText(count));
     m_changes->setEnabled(count > 0);
     QPushButton *apply = m_buttons->button(QDialogButtonBox::Apply);
@@ -611,6 +715,15 @@ void olPreferencesDialog::refresh()
     if (count == 0 && (apply->hasFocus() || m_changes->hasFocus()))
         (m_workedAt && m_workedAt->isVisible() && m_workedAt->isEnabled() ? m_workedAt.data() : m_tree)->setFocus();
     apply->setEnabled(count > 0);
+    std::vector<const olPreferencesEntry *> pending;
+    for (const olPendingChange &change : changes)
+        pending.push_back(change.entry);
+    m_tree->markPending(pending);
+    // What differs from its default may be another thing now.
+    if (m_changedOnly->isChecked() && m_pages->currentWidget() != m_nothing && m_pages->currentWidget() != m_foundList)
+        collectFound();
+    else if (m_changedOnly->isChecked())
+        filter();
     const olPreferencesEntry *entry = m_tree->chosen();
     if (olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr)
         frame->marks().setChanged(changedOn(*entry));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Dialog/olFoundSettings.h"
+#include "Editing/olSettingsSearch.h"
 #include "olHostExport.h"
 
 #include <QDialog>
@@ -27,8 +29,6 @@ class olPendingChanges;
 class olPreferencesEntry;
 class olPreferencesSession;
 class olSettingMenu;
-class olSettingsSearch;
-struct olFoundControl;
 struct olListedChange;
 struct olSettingWarning;
 struct olPendingChange;
@@ -81,6 +81,12 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    /// A setting that was found; a page as such has no control.
+    struct Found {
+        const olPreferencesEntry *entry = nullptr;
+        olFoundControl control;
+    };
+
     [[nodiscard]] QWidget *buildLeft();
     [[nodiscard]] QWidget *buildRight();
     [[nodiscard]] QWidget *buildBottom();
@@ -99,7 +105,12 @@ private:
 
     void filter();
     void revealFirstHit();
-    void focusFirstHit();
+    bool collectFound();
+    [[nodiscard]] QString foundText(const Found &found, olFoundSettings::Column column) const;
+    [[nodiscard]] QString originText(const std::string &key) const;
+    void showFound();
+    void goToFound(int row);
+    void openMenuOfFound(int row, const QPoint &globalPosition);
     void goTo(const QString &key);
     [[nodiscard]] std::vector<olFoundControl> changedOn(const olPreferencesEntry &entry) const;
     [[nodiscard]] QString placeOf(const std::string &key) const;
@@ -130,11 +141,13 @@ private:
     QPushButton *m_restorePage;
     QStackedWidget *m_pages;
     QLabel *m_nothing;
+    olFoundSettings *m_foundList;
     olMessageLine *m_message;
     QPushButton *m_changes;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;
     QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
+    std::vector<Found> m_found;
     QTimer m_refresh;
     QRect m_place; ///< where it was last; not valid before
 

@@ -113,6 +113,13 @@ boost::any olPendingChanges::value(const std::string &key) const
     return owner ? owner->value(key) : boost::any();
 }
 
+bool olPendingChanges::isPending(const std::string &key) const
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    return m_withoutControl.count(key) != 0 || (page && page->hasControl(key) && page->isChanged(key));
+}
+
 bool olPendingChanges::differsFromDefault(const std::string &key) const
 {
     const olPreferencesEntry *owner = ownerOf(key);

@@ -56,6 +56,7 @@ public:
     /// Pending where it is edited, else in force.
     [[nodiscard]] boost::any value(const std::string &key) const;
     [[nodiscard]] bool differsFromDefault(const std::string &key) const;
+    [[nodiscard]] bool isPending(const std::string &key) const;
 
     /// The same for a setting with a control on that module's page, without a look at all other pages for its owner.
     [[nodiscard]] bool differsFromDefault(const olPreferencesEntry &entry, const std::string &key) const;

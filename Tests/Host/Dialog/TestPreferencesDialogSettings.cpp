@@ -80,6 +80,37 @@ TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
     dialog->reject();
 }
 
+TEST_F(PreferencesDialogSettings, TheMenuIsACardThatTellsOriginAndTakesBack)
+{
+    StudioModule::getData().set("Studio mode", 1, true);
+    start(R"({"Studio title": {"value": "Ours"}})");
+    const auto origin = [this](QWidget &control) {
+        const QAction *fact = menuAction(control, QStringLiteral("origin"));
+        const QString text = fact ? fact->text() : QString();
+        QApplication::activePopupWidget()->close();
+        return text;
+    };
+    EXPECT_EQ(origin(*module.page.shadows), "The default");
+    EXPECT_EQ(origin(*module.page.mode), "Set by you");
+    module.page.tabs->setCurrentIndex(1);
+    EXPECT_EQ(origin(*module.page.title), "Set by the site");
+    module.page.title->setText(QStringLiteral("Mine"));
+    EXPECT_EQ(origin(*module.page.title), "Changed, not applied yet");
+
+    menuAction(*module.page.title, QStringLiteral("copyJson"))->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_TRUE(QApplication::clipboard()->text().contains(
+        QStringLiteral(R"("Studio title": {"type": "qstring", "value": "Mine"})")));
+    QAction *takeBack = menuAction(*module.page.title, QStringLiteral("takeBack"));
+    ASSERT_NE(takeBack, nullptr);
+    takeBack->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(module.page.title->text(), "Ours");
+    EXPECT_FALSE(canApply());
+    EXPECT_FALSE(menuAction(*module.page.title, QStringLiteral("takeBack"))->isEnabled());
+    QApplication::activePopupWidget()->close();
+}
+
 TEST_F(PreferencesDialogSettings, TheMenuOpensByKeyboardAndCopiesTheKey)
 {
     start();
