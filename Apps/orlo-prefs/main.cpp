@@ -4,6 +4,7 @@
 #include "olToolError.h"
 
 #include <QApplication>
+#include <QTextCodec>
 
 #include <cstdio>
 
@@ -28,6 +29,7 @@ void passOn(QtMsgType, const QMessageLogContext &, const QString &message)
 void prepareApplication()
 {
     qInstallMessageHandler(passOn);
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // A desktop's theme or style would look for that desktop.
     qunsetenv("QT_QPA_PLATFORMTHEME");
@@ -37,15 +39,24 @@ void prepareApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
 }
 
+/// UTF-8 in every locale, so that a value is never another than the one that was given.
+QString text(const char *argument)
+{
+    QString text = QString::fromUtf8(argument);
+    if (text.toUtf8() != argument)
+        throw olToolError(QStringLiteral("\"%1\" is no UTF-8").arg(text));
+    return text;
+}
+
 QStringList arguments(int count, char **values)
 {
     QStringList list;
     for (int index = 1; index < count; ++index)
-        list << QString::fromLocal8Bit(values[index]);
+        list << text(values[index]);
     return list;
 }
 
-void run(const QStringList &arguments)
+int run(const QStringList &arguments)
 {
     const olPrefsOptions options = olPrefsOptions::parsed(arguments);
     if (options.help && options.command.isEmpty())
@@ -55,7 +66,8 @@ void run(const QStringList &arguments)
     else if (options.version)
         olPrefsTool::print("orlo-prefs " ORLO_VERSION "\n");
     else
-        olPrefsTool(options).run();
+        return olPrefsTool(options).run();
+    return 0;
 }
 
 } // namespace
@@ -67,8 +79,7 @@ int main(int argumentCount, char **argumentValues)
     int ownCount = 1;
     const QApplication application(ownCount, argumentValues);
     try {
-        run(arguments(argumentCount, argumentValues));
-        return 0;
+        return run(arguments(argumentCount, argumentValues));
     } catch (const olToolError &error) {
         std::fflush(stdout);
         std::fprintf(stderr, "%s\n", error.what());

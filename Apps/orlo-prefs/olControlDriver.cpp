@@ -89,7 +89,8 @@ void enter(QLineEdit &field)
     QApplication::sendEvent(&field, &press);
 }
 
-QValidator::State judged(const QLineEdit &field, QString text)
+/// What the field makes of the text while it is typed is in it afterwards.
+QValidator::State judged(const QLineEdit &field, QString &text)
 {
     int cursor = text.size();
     return field.validator() ? field.validator()->validate(text, cursor) : QValidator::Acceptable;
@@ -157,7 +158,7 @@ std::string read(const QLineEdit &field) { return json(field.text()); }
 
 void write(QLineEdit &field, const Value &value)
 {
-    const QString text = asTyped(value);
+    QString text = asTyped(value);
     if (field.isReadOnly())
         throw olToolError(QStringLiteral("the field is only to be read"));
     if (judged(field, text) == QValidator::Invalid)
@@ -205,9 +206,10 @@ template <class Widget> void typeIntoFieldOf(Widget &widget, const Value &value)
     QString expected = olNumbersBetween(widget.minimum(), widget.maximum());
     if (widget.decimals() >= 0)
         expected += QStringLiteral(" with at most %1 decimals").arg(widget.decimals());
-    asNumber(value, widget.minimum(), widget.maximum(), expected);
+    if (!value.json.isDouble() && !value.json.isString())
+        refuse(value, expected);
+    QString text = asTyped(value);
     auto *field = widget.template findChild<QLineEdit *>();
-    const QString text = QString::fromUtf8(value.written);
     if (!field || judged(*field, text) != QValidator::Acceptable)
         refuse(value, expected);
     type(*field, text);

@@ -1,6 +1,7 @@
 // The commands that keep preferences in a file and take them from one.
 
 #include "Editing/olPreferencesImport.h"
+#include "Session/olFileArgument.h"
 #include "Session/olPreferencesFile.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
@@ -43,7 +44,7 @@ void olPrefsCommands::exportTo(olPrefsTool &tool)
     const olKnownSettings settings;
     for (const olKnownSetting &setting : settings.all())
         values[setting.key] = setting.entry->value(setting.key);
-    const QString file = tool.arguments().value(0, QStringLiteral("-"));
+    const QString file = olFileArgument(tool.arguments().value(0, QStringLiteral("-")));
     if (isStandardStream(file))
         return tool.print(olPreferencesFile::toJson(values).toStdString());
     const QString error = olPreferencesFile::write(file, values);
@@ -55,7 +56,7 @@ void olPrefsCommands::importFrom(olPrefsTool &tool)
 {
     const bool isDryRun = tool.arguments().value(0) == QLatin1String("--dry-run");
     tool.requireArguments(isDryRun ? 2 : 1);
-    const olPreferencesFile::Contents contents = read(tool.arguments().last());
+    const olPreferencesFile::Contents contents = read(olFileArgument(tool.arguments().last()));
     if (!contents.error.isEmpty())
         throw olToolError(contents.error);
 

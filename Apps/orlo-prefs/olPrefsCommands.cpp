@@ -40,8 +40,8 @@ const olPrefsCommand commands[] = {
      "  --dry-run   prints what would change, KEY  VALUE -> NEW VALUE, and stores nothing\n",
      &olPrefsCommands::importFrom},
     {"check", "check", "looks for damage in the store and faults in the site's files",
-     "Prints a line for each thing that is wrong with the store, its copy or the site's files, and changes nothing.\n"
-     "The exit status is 0 when nothing is wrong, else 2.\n",
+     "Prints a line for each thing that is wrong with the store, its copy or the site's files, also for keys that no\n"
+     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n",
      &olPrefsCommands::check},
     {"schema", "schema", "prints a JSON Schema of the files that name settings",
      "Prints a JSON Schema of the file that export writes and import reads, and of a site's site.json, for editors to\n"
@@ -91,7 +91,8 @@ std::string olPrefsCommands::help()
     }
     return text + '\n' + olPrefsOptions::optionsHelp() +
            "\n"
-           "The exit status is 0, or 2 with a message on the standard error stream.\n";
+           "The exit status is 0, or 2 with a message on the standard error stream; of check 1 when it finds "
+           "something.\n";
 }
 
 std::string olPrefsCommands::help(const olPrefsCommand &command)

@@ -33,7 +33,7 @@ olPrefsTool::olPrefsTool(const olPrefsOptions &options)
     olHostState::the().applicationName = options.applicationName;
 }
 
-void olPrefsTool::run()
+int olPrefsTool::run()
 {
     m_command = &olPrefsCommands::named(m_options.command);
     // Only in the first place: later it may be a value.
@@ -42,6 +42,7 @@ void olPrefsTool::run()
         print(olPrefsCommands::help(*m_command));
     else
         m_command->run(*this);
+    return m_status;
 }
 
 void olPrefsTool::requireArguments(int count) const
@@ -61,7 +62,7 @@ void olPrefsTool::loadStore(olStoreUse use)
     printNotices();
 }
 
-void olPrefsTool::loadPlugin() { requireSuccess(m_session.loadPlugin(olPluginLoader::locate(m_options.plugin))); }
+void olPrefsTool::loadPlugin() { requireSuccess(m_session.loadPlugin(m_options.plugin)); }
 
 void olPrefsTool::fillDefaults()
 {

@@ -18,7 +18,11 @@ class olPrefsTool
 public:
     explicit olPrefsTool(const olPrefsOptions &options);
 
-    void run();
+    /// Returns the program's exit status.
+    [[nodiscard]] int run();
+
+    /// Of a command that did what it was asked for.
+    void setStatus(int status) { m_status = status; }
 
     [[nodiscard]] const olPrefsOptions &options() const { return m_options; }
     [[nodiscard]] olPreferencesSession &session() { return m_session; }
@@ -54,6 +58,7 @@ private:
 
     olPrefsOptions m_options;
     const olPrefsCommand *m_command = nullptr;
+    int m_status = 0;
     olPreferencesSession m_session;
     std::optional<olModalAnswers> m_silent;
 };

@@ -1,3 +1,4 @@
+#include "Session/olFileArgument.h"
 #include "State/olHostState.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"
@@ -11,7 +12,7 @@
 void olPrefsCommands::script(olPrefsTool &tool)
 {
     tool.requireArguments(1);
-    const QString &name = tool.arguments().first();
+    const QString name = olFileArgument(tool.arguments().first());
     QFile file(name);
     const bool isOpen =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);

@@ -7,6 +7,7 @@
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
 #include "Model/olScene.h"
+#include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
@@ -120,7 +121,7 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(olPluginLoader::locate(options.value(QStringLiteral("plugin"))));
+    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
     if (!pluginError.isEmpty())
         return fail(pluginError);
     session.fillDefaults();
@@ -192,17 +193,32 @@ int run(const QCommandLineParser &options)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
+<<<<<<< HEAD
     const QTemporaryDir passing;
     const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
     if (!loaded)
         return 1;
     olPreferencesSession &session = *loaded;
+=======
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
+    const QString storeError = session.loadStore();
+    if (!storeError.isEmpty())
+        return fail(storeError);
+
+>>>>>>> settings
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
     olMainWindow window(session);
+<<<<<<< HEAD
     if (!loadPlugin(session, options))
         return 1;
+=======
+    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    if (!pluginError.isEmpty())
+        return fail(pluginError);
+>>>>>>> settings
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();

@@ -40,7 +40,7 @@ QList<QWidget *> withDescendants(QWidget &page) { return QList<QWidget *>{&page}
 } // namespace
 
 olEditedPage::olEditedPage(const olPreferencesSession &session, olPreferencesEntry &entry)
-    : m_session(session), m_entry(entry), m_access(entry)
+    : m_session(session), m_entry(entry), m_access(entry), m_guard(entry)
 {
     collectControls();
     watch();

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "Editing/olFieldGuard.h"
 #include "Session/olModuleAccess.h"
 #include "Session/olPreferencesSession.h"
+#include "olHostExport.h"
 
 #include <QHash>
 #include <QObject>
@@ -19,7 +21,7 @@ class olPreferencesEntry;
 
 /// The page of one module under edit: what it showed when it was filled, what it shows now, and what that means for the
 /// settings behind it. Nothing here changes a value in force.
-class olEditedPage : public QObject
+class ORLO_HOST_EXPORT olEditedPage : public QObject
 {
     Q_OBJECT
 
@@ -31,6 +33,9 @@ public:
 
     /// Fills the page with the values in force.
     void fill();
+
+    /// Gives fields that do not read as a number their last one back: before the page is taken back.
+    void finishTyping() { m_guard.restoreUnfinished(); }
 
     /// Takes what the page shows for what it was filled with: after the values were applied.
     void settle();
@@ -80,6 +85,7 @@ private:
     const olPreferencesSession &m_session;
     olPreferencesEntry &m_entry;
     olModuleAccess m_access;
+    olFieldGuard m_guard;
     std::vector<std::string> m_keys;
     std::map<std::string, QPointer<QWidget>> m_controls;
     std::set<std::string> m_held;

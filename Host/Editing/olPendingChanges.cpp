@@ -255,6 +255,8 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
 
 QString olPendingChanges::commit()
 {
+    for (const olPreferencesEntry *entry : m_filled)
+        findPage(*entry)->finishTyping();
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
         findPage(*entry)->putBackHeld();

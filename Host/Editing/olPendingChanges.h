@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
+#include "olHostExport.h"
 
 #include <QObject>
 #include <QPointer>
@@ -27,7 +28,7 @@ struct olPendingChange {
 
 /// All edits since the dialog was opened, over all pages and for settings that no page shows. They are pending: the
 /// values in force are as they were until commit().
-class olPendingChanges : public QObject
+class ORLO_HOST_EXPORT olPendingChanges : public QObject
 {
     Q_OBJECT
 

@@ -8,7 +8,7 @@ olPreferencesImport::olPreferencesImport(const olPreferencesSession &session,
 {
     for (const auto &[key, value] : contents.settings) {
         const boost::any before = valueOf(key);
-        if (olValue::equal(before, value))
+        if (olValue::identical(before, value))
             continue;
         const QString reason = session.whyNot(key, value);
         if (!reason.isEmpty()) {

@@ -1,5 +1,6 @@
 #include "Session/olPluginLoader.h"
 
+#include "Session/olLibraryFault.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olSceneLoaders.h"
 
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <algorithm>
 #include <exception>
 
 namespace
@@ -16,33 +18,40 @@ namespace
 constexpr auto entryName = "initPreferencesPlugin";
 constexpr auto fileName = "libKernelPreferences.so";
 
+QString translated(const char *text) { return QCoreApplication::translate("olPluginLoader", text); }
+
+/// Beside the program, and installed.
+QStringList standardPlaces()
+{
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    return {programFolder.filePath(fileName),
+            QDir::cleanPath(programFolder.filePath(QStringLiteral(ORLO_PLUGIN_FROM_BIN "/")) + fileName)};
+}
+
 } // namespace
 
 olPluginLoader::~olPluginLoader() { unload(); }
 
-QString olPluginLoader::locate(const QString &given)
-{
-    if (!given.isEmpty())
-        return given;
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    const QString beside = programFolder.filePath(fileName);
-    const QString installed =
-        QDir::cleanPath(programFolder.filePath(QStringLiteral(ORLO_PLUGIN_FROM_BIN "/")) + fileName);
-    return QFileInfo::exists(beside) || !QFileInfo::exists(installed) ? beside : installed;
-}
-
-QString olPluginLoader::load(const QString &file)
+QString olPluginLoader::load(const QString &given)
 {
     unload();
+    const QStringList places = given.isEmpty() ? standardPlaces() : QStringList(given);
+    const auto found =
+        std::find_if(places.begin(), places.end(), [](const QString &place) { return QFileInfo::exists(place); });
+    if (found == places.end() && given.isEmpty())
+        return translated("Cannot load the preferences plug-in: there is neither %1 nor %2.").arg(places[0], places[1]);
     // A bare name would be searched for in the system's folders.
-    m_library.setFileName(QFileInfo(file).absoluteFilePath());
+    m_library.setFileName(QFileInfo(found == places.end() ? given : *found).absoluteFilePath());
     m_library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
 
     const QFileInfo info(m_library.fileName());
     if (!info.exists())
-        return failure(QCoreApplication::translate("olPluginLoader", "there is no such file"));
+        return failure(translated("there is no such file"));
     if (!info.isFile())
-        return failure(QCoreApplication::translate("olPluginLoader", "it is not a file"));
+        return failure(translated("it is not a file"));
+    const QString fault = olLibraryFault(m_library.fileName());
+    if (!fault.isEmpty())
+        return failure(fault);
     if (!m_library.load())
         return failure(m_library.errorString());
     olRegisterSceneLoaders();
@@ -56,12 +65,13 @@ QString olPluginLoader::enter()
 {
     const auto entry = reinterpret_cast<void (*)()>(m_library.resolve(entryName));
     if (!entry)
-        return failure(QCoreApplication::translate("olPluginLoader", "it has no entry function %1").arg(entryName));
+        return failure(translated("it has no entry function %1").arg(entryName));
     try {
         entry();
     } catch (const std::exception &exception) {
-        return failure(QCoreApplication::translate("olPluginLoader", "a module could not be built: %1")
-                           .arg(QString::fromLocal8Bit(exception.what())));
+        return failure(translated("a module could not be built: %1").arg(QString::fromLocal8Bit(exception.what())));
+    } catch (...) {
+        return failure(translated("a module could not be built, and does not say why"));
     }
     return {};
 }
@@ -77,6 +87,5 @@ void olPluginLoader::unload()
 
 QString olPluginLoader::failure(const QString &reason) const
 {
-    return QCoreApplication::translate("olPluginLoader", "Cannot load the preferences plug-in %1: %2.")
-        .arg(m_library.fileName(), reason);
+    return translated("Cannot load the preferences plug-in %1: %2.").arg(m_library.fileName(), reason);
 }

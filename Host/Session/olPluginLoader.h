@@ -15,13 +15,10 @@ public:
     olPluginLoader(const olPluginLoader &) = delete;
     olPluginLoader &operator=(const olPluginLoader &) = delete;
 
-    /// The file to load: `given` if it is not empty, else beside the program, else in the installed plug-in folder.
-    /// Where none exists the answer names the place beside the program.
-    [[nodiscard]] static QString locate(const QString &given);
-
-    /// Loads the file and calls its entry function. Returns an empty text, else one sentence that names the file and
-    /// the reason; then nothing of the library stays loaded.
-    [[nodiscard]] QString load(const QString &file);
+    /// Loads `given`, where it is not empty, else the plug-in beside the program, else the installed one, and calls its
+    /// entry function. Returns an empty text, else one sentence that names the file, or all places looked at, and the
+    /// reason; then nothing of the library stays loaded.
+    [[nodiscard]] QString load(const QString &given);
 
     /// Calls the entry function once more. The library must be loaded. Returns what load() would.
     [[nodiscard]] QString enter();

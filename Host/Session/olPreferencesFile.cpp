@@ -1,12 +1,16 @@
 #include "Session/olPreferencesFile.h"
 
+#include "Session/olJsonObject.h"
 #include "State/olValue.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QFileInfo>
 #include <QSaveFile>
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
 
 namespace
 {
@@ -17,36 +21,65 @@ QString translated(const char *text) { return QCoreApplication::translate("olPre
 
 olPreferencesFile::Contents failed(const QString &error) { return {{}, {}, error}; }
 
-QString formatError(const QJsonValue &format)
+const olJsonMember *find(const std::vector<olJsonMember> &members, const char *key)
 {
-    if (format.isUndefined())
+    const auto found = std::find_if(members.begin(), members.end(),
+                                    [key](const olJsonMember &member) { return member.key == QLatin1String(key); });
+    return found == members.end() ? nullptr : &*found;
+}
+
+QString formatError(const olJsonMember *format)
+{
+    if (!format)
         return translated("It is no file of preferences: it names no format.");
-    if (!format.isDouble() || format.toDouble() < currentFormat)
+    const boost::any number = olValue::fromJson("double", format->text());
+    if (number.empty() || !(boost::any_cast<double>(number) >= currentFormat))
         return translated("It is no file of preferences: its format is not known.");
-    if (format.toDouble() > currentFormat)
+    if (boost::any_cast<double>(number) > currentFormat)
         return translated("It was written by a newer version.");
     return {};
 }
 
 /// The value of one setting; empty, with the reason, where the file does not tell it clearly.
-boost::any valueOf(const QJsonValue &json, QString &reason)
+boost::any valueOf(const olJsonMember &setting, QString &reason)
 {
-    const QJsonObject setting = json.toObject();
-    const std::string type = setting.value(QLatin1String("type")).toString().toStdString();
-    if (type.empty() || !setting.contains(QLatin1String("value"))) {
+    std::vector<olJsonMember> parts;
+    const bool isRead = !olReadObject(setting.value, setting.line, parts);
+    const olJsonMember *named = find(parts, "type");
+    const olJsonMember *value = find(parts, "value");
+    const boost::any type = isRead && named && value ? olValue::fromJson("string", named->text()) : boost::any();
+    if (type.empty()) {
         reason = translated("has no type or no value");
         return {};
     }
-    if (!olValue::isTypeName(type)) {
-        reason = translated("is of the unknown type \"%1\"").arg(QString::fromStdString(type));
+    const auto &name = boost::any_cast<const std::string &>(type);
+    if (!olValue::isTypeName(name)) {
+        reason = translated("is of the unknown type \"%1\"").arg(QString::fromStdString(name));
         return {};
     }
-    boost::any value = olValue::fromJson(type, setting.value(QLatin1String("value")));
-    if (value.empty()) {
+    boost::any read = olValue::fromJson(name, value->text());
+    if (read.empty()) {
         reason = translated("is not %1, as its type %2 asks for")
-                     .arg(QString::fromStdString(olValue::expectation(type)), QString::fromStdString(type));
+                     .arg(QString::fromStdString(olValue::expectation(name)), QString::fromStdString(name));
     }
-    return value;
+    return read;
+}
+
+/// A private file, unless there was one with a mode of its own.
+bool writeWhole(QSaveFile &out, const QByteArray &text)
+{
+    const bool isNew = !QFileInfo::exists(out.fileName());
+    if (!out.open(QIODevice::WriteOnly))
+        return false;
+    if (isNew)
+        out.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return out.write(text) == text.size() && out.commit();
+}
+
+/// Into a pipe or a device, which must not be replaced.
+bool writeInto(QFile &out, const QByteArray &text)
+{
+    return out.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && out.write(text) == text.size();
 }
 
 } // namespace
@@ -67,25 +100,27 @@ QByteArray olPreferencesFile::toJson(const olSettingValues &settings)
 
 olPreferencesFile::Contents olPreferencesFile::fromJson(const QByteArray &text)
 {
-    QJsonParseError fault;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &fault);
-    if (fault.error != QJsonParseError::NoError) {
-        const int line = text.left(fault.offset).count('\n') + 1;
-        return failed(translated("It is no JSON, line %1: %2.").arg(line).arg(fault.errorString()));
-    }
-    const QString wrongFormat = formatError(document.object().value(QLatin1String("format")));
+    const auto faultIn = [](const std::optional<olJsonFault> &fault) {
+        return failed(translated("Line %1: %2.").arg(fault->line).arg(fault->what));
+    };
+    std::vector<olJsonMember> members;
+    if (const auto fault = olReadObject({text.constData(), std::size_t(text.size())}, 1, members))
+        return faultIn(fault);
+    const QString wrongFormat = formatError(find(members, "format"));
     if (!wrongFormat.isEmpty())
         return failed(wrongFormat);
-    const QJsonValue listed = document.object().value(QLatin1String("settings"));
-    if (!listed.isObject())
+    const olJsonMember *listed = find(members, "settings");
+    if (!listed)
         return failed(translated("It lists no settings."));
+    std::vector<olJsonMember> settings;
+    if (const auto fault = olReadObject(listed->value, listed->line, settings))
+        return faultIn(fault);
 
     Contents contents;
-    const QJsonObject settings = listed.toObject();
-    for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
-        const std::string key = setting.key().toStdString();
+    for (const olJsonMember &setting : settings) {
+        const std::string key = setting.key.toStdString();
         QString reason;
-        const boost::any value = valueOf(setting.value(), reason);
+        const boost::any value = valueOf(setting, reason);
         if (value.empty())
             contents.skipped.push_back({key, reason});
         else
@@ -96,11 +131,17 @@ olPreferencesFile::Contents olPreferencesFile::fromJson(const QByteArray &text)
 
 QString olPreferencesFile::write(const QString &file, const olSettingValues &settings)
 {
-    QSaveFile out(file);
     const QByteArray text = toJson(settings);
-    if (out.open(QIODevice::WriteOnly) && out.write(text) == text.size() && out.commit())
-        return {};
-    return translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString());
+    const QFileInfo place(file);
+    const auto failure = [&file](const QFileDevice &out) {
+        return translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString());
+    };
+    if (place.exists() && !place.isFile()) {
+        QFile out(file);
+        return writeInto(out, text) ? QString() : failure(out);
+    }
+    QSaveFile out(file);
+    return writeWhole(out, text) ? QString() : failure(out);
 }
 
 olPreferencesFile::Contents olPreferencesFile::read(const QString &file)

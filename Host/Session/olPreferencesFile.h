@@ -32,7 +32,8 @@ public:
     [[nodiscard]] static QByteArray toJson(const olSettingValues &settings);
     [[nodiscard]] static Contents fromJson(const QByteArray &text);
 
-    /// Writes the file whole or leaves it as it was. Returns an empty text, else one sentence that names the file and
+    /// Writes the file whole or leaves it as it was; a new one is for its owner alone. What is no regular file, as a
+    /// pipe, is written into. Returns an empty text, else one sentence that names the file and
     /// the reason.
     [[nodiscard]] static QString write(const QString &file, const olSettingValues &settings);
     [[nodiscard]] static Contents read(const QString &file);

@@ -3,6 +3,7 @@
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
 #include "Session/olModuleAccess.h"
+#include "Session/olSettingsLock.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
@@ -133,10 +134,8 @@ QString olPreferencesSession::loadStore(olStoreUse use)
     // The language must stand before any text of a module is translated.
     const olSiteSetting language = m_site.early(languageKey, "int");
     const bool isStored = m_stored.count({olHome::Record, languageKey}) != 0;
-    if (!language.value.empty() && (language.locked || !isStored)) {
-        m_earlyLanguage = language.value;
+    if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
-    }
     setDisplayLanguage();
     return opening.error;
 }
@@ -147,7 +146,13 @@ void olPreferencesSession::stop()
     m_store.close();
 }
 
-QString olPreferencesSession::loadPlugin(const QString &file) { return m_plugin.load(file); }
+QString olPreferencesSession::loadPlugin(const QString &given)
+{
+    const QString notice = olRemoveAbandonedLock();
+    if (!notice.isEmpty())
+        m_notices << notice;
+    return m_plugin.load(given);
+}
 
 void olPreferencesSession::fillDefaults()
 {
@@ -165,7 +170,6 @@ void olPreferencesSession::fillDefaults()
                 owner.setValue(key, value);
         });
     }
-    dropEarlyLanguage();
     restoreLocked();
 }
 
@@ -173,21 +177,6 @@ void olPreferencesSession::settleSite(olSiteDefaults &site) const
 {
     site.settle([this](const std::string &key) { return defaultValue(key); },
                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
-}
-
-/// The language of a site file that turned out to have a fault goes with the file.
-void olPreferencesSession::dropEarlyLanguage()
-{
-    const bool isStored = m_stored.count({olHome::Record, languageKey}) != 0;
-    const boost::any early = std::exchange(m_earlyLanguage, {});
-    if (early.empty() || m_site.settings().count(languageKey) != 0)
-        return;
-    const boost::any own = isStored ? m_stored.at({olHome::Record, languageKey}) : defaultValue(languageKey);
-    if (own.empty())
-        record().remove(languageKey);
-    else
-        record().set(languageKey, own, true);
-    setDisplayLanguage();
 }
 
 void olPreferencesSession::start()
@@ -434,13 +423,13 @@ void olPreferencesSession::restoreLocked() const
     }
 }
 
-olPreferencesFindings olPreferencesSession::check() const
+QStringList olPreferencesSession::check() const
 {
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
         settleSite(site);
-    return {m_store.check() << site.takeFaults(), site.unknown()};
+    return m_store.check() << site.takeFaults() << site.unknown();
 }
 
 std::vector<std::string> olPreferencesSession::keys()

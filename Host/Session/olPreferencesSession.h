@@ -24,12 +24,6 @@ using olSettingValues = std::map<std::string, boost::any>;
 /// as it is.
 enum class olStoreUse { Own, LookAt };
 
-/// What a check found, one sentence for each.
-struct olPreferencesFindings {
-    QStringList faults;
-    QStringList remarks; ///< what may be meant so: keys of a site's files that no module of this edition has
-};
-
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
 class ORLO_HOST_EXPORT olPreferencesSession
@@ -51,7 +45,7 @@ public:
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
-    [[nodiscard]] QString loadPlugin(const QString &file);
+    [[nodiscard]] QString loadPlugin(const QString &given);
     [[nodiscard]] olPluginLoader &plugin() { return m_plugin; }
 
     /// Fills the gaps in what was stored with the defaults of the site and of all modules, and sets what is locked.
@@ -100,9 +94,9 @@ public:
     /// where the setting has the value already.
     [[nodiscard]] std::optional<olSettingWarning> warning(const std::string &key, const boost::any &value) const;
 
-    /// Looks the store and the site's files through; changes nothing. Types and keys of the site's files are checked
-    /// only when the modules' defaults are there.
-    [[nodiscard]] olPreferencesFindings check() const;
+    /// Looks the store and the site's files through; changes nothing. Returns a sentence for each finding. Types and
+    /// keys of the site's files are checked only when the modules' defaults are there.
+    [[nodiscard]] QStringList check() const;
 
     /// Of all modules in order, each key once.
     [[nodiscard]] static std::vector<std::string> keys();
@@ -120,7 +114,6 @@ private:
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
     void settleSite(olSiteDefaults &site) const;
-    void dropEarlyLanguage();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
 
@@ -129,6 +122,5 @@ private:
     olSiteDefaults m_site;
     QStringList m_siteFiles;
     QStringList m_notices;
-    boost::any m_earlyLanguage;
     olPluginLoader m_plugin;
 };

@@ -1,6 +1,6 @@
 #include "Session/olSiteDefaults.h"
 
-#include "State/olJsonText.h"
+#include "Session/olJsonObject.h"
 #include "State/olValue.h"
 
 #include <QCoreApplication>
@@ -8,59 +8,26 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <algorithm>
-#include <string_view>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace
 {
 
 QString translated(const char *text) { return QCoreApplication::translate("olSiteDefaults", text); }
 
-/// A key and its value in an object, as they stand in the file.
-struct Member {
-    QString key;
-    int line;
-    std::string_view value;
-};
-
-/// What is wrong, and where.
-struct Fault {
-    int line;
-    QString what;
-};
-
-int lineOf(std::string_view text, std::size_t position)
+/// Whether nobody but root can change it.
+bool isRootsAlone(const struct stat &status)
 {
-    return 1 + int(std::count(text.begin(), text.begin() + std::ptrdiff_t(position), '\n'));
+    return status.st_uid == 0 && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-/// An object's members in their order, each as often as it stands there: a key that stands twice is a slip that must
-/// not go unnoticed. The first line is that of the object's beginning.
-std::optional<Fault> readMembers(std::string_view text, int firstLine, std::vector<Member> &members)
+bool isInFolderOfRoots(const QString &file)
 {
-    olJsonReader json(text);
-    const auto here = [&] { return firstLine - 1 + lineOf(text, json.position()); };
-    const auto noJson = [&] { return Fault{here(), translated("here or just before, this is no JSON")}; };
-    if (!json.take("{"))
-        return Fault{here(), translated("an object is expected, as {\"key\": {\"value\": 1}}")};
-    bool isDone = json.take("}");
-    while (!isDone) {
-        const auto key = json.text();
-        const int line = here();
-        if (!key || !json.take(":"))
-            return noJson();
-        const auto value = json.value();
-        if (!value)
-            return noJson();
-        const auto isSame = [&key](const Member &member) { return member.key == *key; };
-        if (std::any_of(members.begin(), members.end(), isSame))
-            return Fault{line, translated("\"%1\" stands here a second time").arg(*key)};
-        members.push_back({*key, line, *value});
-        isDone = !json.take(",");
-        if (isDone && !json.take("}"))
-            return noJson();
-    }
-    return json.atEnd() ? std::nullopt : std::optional<Fault>(noJson());
+    struct stat status = {};
+    return ::stat(QFile::encodeName(QFileInfo(file).path()).constData(), &status) == 0 && isRootsAlone(status);
 }
 
 /// Of that type, else of the type that the text itself is of, so that somebody can say what is wrong with it.
@@ -75,14 +42,37 @@ boost::any valueOf(const QByteArray &json, const std::string &type)
     return value;
 }
 
-QByteArray bytesOf(std::string_view text) { return {text.data(), int(text.size())}; }
+/// Opens a site's file. Returns why it does not count, an empty text where it does; nothing where there is none.
+std::optional<QString> open(QFile &file, olSiteOwner owner)
+{
+    const QString fileName = file.fileName(); // the file forgets it when it is given a descriptor
+    const QByteArray name = QFile::encodeName(fileName);
+    struct stat status = {};
+    if (::lstat(name.constData(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR))
+        return std::nullopt;
+    // Whatever it is, nobody waits for it.
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return translated("it cannot be read: %1").arg(qt_error_string(errno));
+    const bool isKnown = ::fstat(descriptor, &status) == 0;
+    file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+    if (!isKnown || !S_ISREG(status.st_mode))
+        return translated("it is no regular file");
+    // What it is a link to must not lie where others can replace it either.
+    const bool isSafe = owner == olSiteOwner::Anyone || (isRootsAlone(status) && isInFolderOfRoots(fileName) &&
+                                                         isInFolderOfRoots(QFileInfo(fileName).canonicalFilePath()));
+    return isSafe ? QString() : translated("only root may own and write the file and its folder");
+}
 
 } // namespace
 
 QStringList olSiteDefaults::systemFiles()
 {
+    const QString first = QStringLiteral("/etc/xdg");
     QStringList folders = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
     folders.removeAll(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    folders.removeAll(first);
+    folders.prepend(first);
     QStringList files;
     for (const QString &folder : qAsConst(folders))
         files << folder + QStringLiteral("/orlo/site.json");
@@ -93,44 +83,50 @@ void olSiteDefaults::read()
 {
     m_read.clear();
     m_faults.clear();
-    for (const QString &name : qAsConst(m_files)) {
-        if (QFileInfo::exists(name))
-            readFile(name);
-    }
+    for (const QString &name : qAsConst(m_files))
+        readFile(name);
 }
 
 void olSiteDefaults::readFile(const QString &name)
 {
     QFile file(name);
-    if (!file.open(QIODevice::ReadOnly)) {
-        m_faults << translated("The site's preferences %1 cannot be read (%2) and are ignored.")
-                        .arg(name, file.errorString());
+    const std::optional<QString> reason = open(file, m_owner);
+    if (!reason)
         return;
-    }
+    if (!reason->isEmpty())
+        return reject(name, *reason);
     QByteArray json = file.readAll();
+    if (file.error() != QFile::NoError)
+        return reject(name, translated("it cannot be read: %1").arg(file.errorString()));
     // Some editors put a mark before the text.
     if (json.startsWith("\xef\xbb\xbf"))
         json.remove(0, 3);
-    std::vector<Member> members;
-    if (const auto found = readMembers({json.constData(), std::size_t(json.size())}, 1, members))
-        return fault(name, found->line, found->what);
 
+    const auto rejectFor = [&](const olJsonFault &found) {
+        reject(name, translated("line %1: %2").arg(found.line).arg(found.what));
+    };
+    std::vector<olJsonMember> members;
+    if (const auto found = olReadObject({json.constData(), std::size_t(json.size())}, 1, members))
+        return rejectFor(*found);
     File read{name, {}};
-    for (const Member &member : members) {
+    for (const olJsonMember &member : members) {
+        std::vector<olJsonMember> parts;
+        if (member.value.front() == '{') {
+            if (const auto found = olReadObject(member.value, member.line, parts))
+                return rejectFor(*found);
+        }
         Line line;
         line.key = member.key.toStdString();
         line.number = member.line;
-        std::vector<Member> parts;
-        if (const auto found = readMembers(member.value, member.line, parts))
-            return fault(name, found->line, found->what);
-        for (const Member &part : parts) {
-            const QString what = takePart(part.key, bytesOf(part.value), line);
+        for (const olJsonMember &part : parts) {
+            const QString what = takePart(part.key, part.text(), line);
             if (!what.isEmpty())
-                return fault(name, part.line, QStringLiteral("\"%1\" %2").arg(member.key, what));
+                fault(name, part.line, QStringLiteral("\"%1\" %2").arg(member.key, what));
         }
         if (line.value.isNull() && !line.isLocked)
-            return fault(name, line.number, translated("\"%1\" has neither a \"value\" nor a lock").arg(member.key));
-        read.lines.push_back(std::move(line));
+            fault(name, line.number, translated("\"%1\" has neither a \"value\" nor a lock").arg(member.key));
+        else
+            read.lines.push_back(std::move(line));
     }
     m_read.push_back(std::move(read));
 }
@@ -144,7 +140,8 @@ QString olSiteDefaults::takePart(const QString &name, const QByteArray &value, L
     }
     if (name == QLatin1String("locked")) {
         const boost::any locked = olValue::fromJson("bool", value);
-        line.isLocked = !locked.empty() && boost::any_cast<bool>(locked);
+        // What cannot be read restricts.
+        line.isLocked = locked.empty() || boost::any_cast<bool>(locked);
         return locked.empty() ? translated("takes true or false for \"locked\"") : QString();
     }
     if (name == QLatin1String("reason")) {
@@ -177,43 +174,35 @@ void olSiteDefaults::settle(const DefaultOf &defaultOf, const WhyNot &whyNot)
 {
     m_settings.clear();
     m_unknown.clear();
-    std::vector<File> sound;
-    for (File &file : m_read) {
-        std::map<std::string, olSiteSetting> settings;
-        if (!settleFile(file, defaultOf, whyNot, settings))
-            continue;
-        // What a more important file said before stays.
-        m_settings.merge(settings);
-        sound.push_back(std::move(file));
+    for (const File &file : m_read) {
+        for (const Line &line : file.lines)
+            settleLine(file.name, line, defaultOf(line.key), whyNot);
     }
-    m_read = std::move(sound);
 }
 
-bool olSiteDefaults::settleFile(const File &file, const DefaultOf &defaultOf, const WhyNot &whyNot,
-                                std::map<std::string, olSiteSetting> &settings)
+void olSiteDefaults::settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot)
 {
-    QStringList unknown;
-    for (const Line &line : file.lines) {
-        const QString key = QString::fromStdString(line.key);
-        const boost::any offered = defaultOf(line.key);
-        if (offered.empty()) {
-            unknown
-                << translated("%1, line %2: no module has a setting \"%3\".").arg(file.name).arg(line.number).arg(key);
-            continue;
-        }
-        const boost::any value = line.value.isNull() ? offered : valueOf(line.value, olValue::typeName(offered));
-        const QString reason = whyNot(line.key, value);
-        if (!reason.isEmpty()) {
-            fault(file.name, line.number, QStringLiteral("\"%1\" %2").arg(key, reason));
-            return false;
-        }
-        settings[line.key] = settingOf(line, value);
+    const QString key = QString::fromStdString(line.key);
+    if (offered.empty()) {
+        m_unknown << translated("%1, line %2: no module has a setting \"%3\".").arg(file).arg(line.number).arg(key);
+        return;
     }
-    m_unknown << unknown;
-    return true;
+    boost::any value = line.value.isNull() ? offered : valueOf(line.value, olValue::typeName(offered));
+    const QString reason = whyNot(line.key, value);
+    if (!reason.isEmpty()) {
+        fault(file, line.number, QStringLiteral("\"%1\" %2").arg(key, reason));
+        value = offered;
+    }
+    // What a more important file said before stays.
+    m_settings.emplace(line.key, settingOf(line, value));
+}
+
+void olSiteDefaults::reject(const QString &file, const QString &why)
+{
+    m_faults << translated("The site's preferences %1 are ignored: %2.").arg(file, why);
 }
 
 void olSiteDefaults::fault(const QString &file, int line, const QString &what)
 {
-    m_faults << translated("The site's preferences %1 are ignored: line %2: %3.").arg(file).arg(line).arg(what);
+    m_faults << translated("The site's preferences %1, line %2: %3.").arg(file).arg(line).arg(what);
 }

@@ -20,9 +20,13 @@ struct olSiteSetting {
     std::optional<QString> locked; ///< why nobody may choose another value; nothing where they may
 };
 
+/// Whose files count: root's alone, or anyone's, to judge a file before it is rolled out.
+enum class olSiteOwner { Root, Anyone };
+
 /// Other defaults, and locks, that a site gives to all its people in JSON files:
-/// `{"Camera fov": {"value": 60, "locked": true, "reason": "..."}}`. A file with any fault counts as a whole as not
-/// there. The types are the modules', so all this is settled only when they have offered their defaults.
+/// `{"Camera fov": {"value": 60, "locked": true, "reason": "..."}}`. A file counts only while root alone can change it
+/// and its folder. One that cannot be read or is no such JSON is ignored as a whole; an entry with another fault keeps
+/// its lock. The types are the modules', so all this is settled only when they have offered their defaults.
 class ORLO_HOST_EXPORT olSiteDefaults
 {
 public:
@@ -32,11 +36,15 @@ public:
     /// Why a setting cannot have a value, as what follows its key in a sentence; empty where it can.
     using WhyNot = std::function<QString(const std::string &key, const boost::any &value)>;
 
-    /// `orlo/site.json` in each of the system's configuration folders, the most important first, existing or not.
+    /// `orlo/site.json` in /etc/xdg, whatever the environment says, and then in each of the configuration folders that
+    /// it names beside the user's own; existing or not.
     [[nodiscard]] static QStringList systemFiles();
 
     /// Of several files that speak of a key, the first one's word holds.
-    explicit olSiteDefaults(QStringList files) : m_files(std::move(files)) {}
+    explicit olSiteDefaults(QStringList files, olSiteOwner owner = olSiteOwner::Root)
+        : m_files(std::move(files)), m_owner(owner)
+    {
+    }
 
     /// Reads the files. To be called before any of the following.
     void read();
@@ -44,13 +52,13 @@ public:
     /// A setting that is needed before there are modules; its value is empty where no file gives one of that type.
     [[nodiscard]] olSiteSetting early(const std::string &key, const std::string &type) const;
 
-    /// Holds the files against the modules' settings and drops those with faults.
+    /// Holds the files against the modules' settings. A value that a setting cannot have leaves the module's default.
     void settle(const DefaultOf &defaultOf, const WhyNot &whyNot);
 
     /// After settle(): only keys that a module has.
     [[nodiscard]] const std::map<std::string, olSiteSetting> &settings() const { return m_settings; }
 
-    /// One sentence for each fault, with file and line, that was found since the last time they were taken.
+    /// One sentence for each fault, with the file and where it can the line, found since they were last taken.
     [[nodiscard]] QStringList takeFaults() { return std::exchange(m_faults, {}); }
 
     /// Keys that no module has: misspelt, or of an edition that is not running. Complete after settle().
@@ -70,13 +78,14 @@ private:
     };
 
     void readFile(const QString &name);
-    [[nodiscard]] bool settleFile(const File &file, const DefaultOf &defaultOf, const WhyNot &whyNot,
-                                  std::map<std::string, olSiteSetting> &settings);
+    void settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot);
     [[nodiscard]] static olSiteSetting settingOf(const Line &line, const boost::any &value);
     [[nodiscard]] static QString takePart(const QString &name, const QByteArray &value, Line &line);
+    void reject(const QString &file, const QString &why);
     void fault(const QString &file, int line, const QString &what);
 
     QStringList m_files;
+    olSiteOwner m_owner;
     std::vector<File> m_read;
     std::map<std::string, olSiteSetting> m_settings;
     QStringList m_faults;

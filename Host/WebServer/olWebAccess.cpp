@@ -3,23 +3,33 @@
 #include "Utilities/olLog.h"
 
 #include <QHostInfo>
+#include <QNetworkInterface>
 #include <QRegularExpression>
+#include <QSysInfo>
 
 namespace
 {
 
-/// The host without its port.
-QByteArray withoutPort(const QByteArray &host)
+/// The name alone, in small letters and an address without its brackets; empty where the text is no name with or
+/// without a port.
+QString nameOf(const QByteArray &host)
 {
-    if (host.startsWith('['))
-        return host.left(host.indexOf(']') + 1);
-    return host.left(host.indexOf(':'));
+    static const QRegularExpression form(QStringLiteral("^(?:\\[([0-9a-f:.]+)\\]|([^:\\[\\]]+))(?::[0-9]*)?$"));
+    const QRegularExpressionMatch match = form.match(QString::fromLatin1(host).toLower());
+    return match.captured(1) + match.captured(2);
 }
 
-bool isLocalName(const QByteArray &host)
+bool isLoopback(const QString &name)
 {
-    const QByteArray name = withoutPort(host).toLower();
-    return name == "localhost" || name == "127.0.0.1" || name == "[::1]";
+    return name == QLatin1String("localhost") || name == QLatin1String("127.0.0.1") ||
+           QHostAddress(name) == QHostAddress(QHostAddress::LocalHostIPv6);
+}
+
+bool isThisMachine(const QString &name)
+{
+    const QHostAddress address(name);
+    return address.isNull() ? name == QSysInfo::machineHostName().toLower()
+                            : QNetworkInterface::allAddresses().contains(address);
 }
 
 } // namespace
@@ -30,8 +40,10 @@ void olWebAccess::allowOnly(const std::string &list)
     const QStringList lines = QString::fromStdString(list).split(QRegularExpression(QStringLiteral("[\r\n]+")));
     for (const QString &line : lines) {
         const QString host = line.trimmed();
-        if (!host.isEmpty())
-            allowHost(host);
+        if (host.isEmpty())
+            continue;
+        m_names.insert(host.toLower());
+        allowHost(host);
     }
 }
 
@@ -57,8 +69,14 @@ void olWebAccess::allowHost(const QString &host)
 
 bool olWebAccess::isAllowed(const olWebRequest &request) const
 {
+    return isAllowedName(request.host) && (!m_listedOnly || m_addresses.contains(request.client));
+}
+
+bool olWebAccess::isAllowedName(const QByteArray &host) const
+{
     // A client that names no host is no browser.
-    if (m_localNamesOnly && !request.host.isEmpty() && !isLocalName(request.host))
-        return false;
-    return !m_listedOnly || m_addresses.contains(request.client);
+    if (host.isEmpty())
+        return true;
+    const QString name = nameOf(host);
+    return isLoopback(name) || (!m_loopbackNamesOnly && (isThisMachine(name) || m_names.contains(name)));
 }

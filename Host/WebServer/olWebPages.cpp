@@ -9,6 +9,8 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <map>
 #include <string>
 
@@ -16,6 +18,10 @@ namespace
 {
 
 using Values = std::map<std::string, boost::any>;
+
+// An answer is made in one go while the interface waits: what would take longer than a frame is refused.
+constexpr std::size_t maxRows = 5000;
+constexpr std::size_t maxSize = std::size_t(1) << 20;
 
 QString translated(const char *text) { return QCoreApplication::translate("olWebPages", text); }
 
@@ -39,7 +45,7 @@ Values settings()
 {
     Values values;
     const auto addPublic = [&values](const std::string &key, const boost::any &value) {
-        if (isPublic(key, value))
+        if (values.size() <= maxRows && isPublic(key, value))
             values[key] = value;
     };
     olPreferencesRegistry &registry = olPreferencesRegistry::the();
@@ -62,27 +68,27 @@ Values state()
     return values;
 }
 
-std::string joined(const Values &values, std::string (*text)(const boost::any &))
-{
-    std::string lines;
-    for (const auto &[key, value] : values)
-        lines += (lines.empty() ? "\n  " : ",\n  ") + olValue::quoted(key) + ": " + text(value);
-    return '{' + lines + "\n}\n";
-}
-
 std::string withType(const boost::any &value)
 {
     return R"({"type": )" + olValue::quoted(olValue::typeName(value)) + R"(, "value": )" + olValue::toJson(value) + '}';
 }
 
-olWebAnswer json(const std::string &text)
-{
-    return {200, "application/json; charset=utf-8", QByteArray::fromStdString(text)};
-}
-
 olWebAnswer message(unsigned status, const QString &text)
 {
     return {status, "text/plain; charset=utf-8", text.toUtf8() + '\n'};
+}
+
+olWebAnswer tooLarge() { return message(503, translated("The answer would be too large.")); }
+
+olWebAnswer json(const Values &values, std::string (*text)(const boost::any &))
+{
+    std::string lines;
+    for (const auto &[key, value] : values) {
+        lines += (lines.empty() ? "\n  " : ",\n  ") + olValue::quoted(key) + ": " + text(value);
+        if (values.size() > maxRows || lines.size() > maxSize)
+            return tooLarge();
+    }
+    return {200, "application/json; charset=utf-8", QByteArray::fromStdString('{' + lines + "\n}\n")};
 }
 
 QString row(const QString &name, const QString &value)
@@ -95,8 +101,11 @@ olWebAnswer statusPage()
 {
     const olHostState &host = olHostState::the();
     QString rows;
-    for (const auto &[name, value] : state())
+    for (const auto &[name, value] : state()) {
         rows += row(QString::fromStdString(name), QString::fromStdString(olValue::toJson(value)));
+        if (std::size_t(rows.size()) > maxSize)
+            return tooLarge();
+    }
 
     const QString page =
         QStringLiteral("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
@@ -123,9 +132,9 @@ olWebAnswer olWebPages::answer(const olWebRequest &request)
     if (request.path == "/")
         return statusPage();
     if (request.path == "/settings.json")
-        return json(joined(settings(), withType));
+        return json(settings(), withType);
     if (request.path == "/state.json")
-        return json(joined(state(), olValue::toJson));
+        return json(state(), olValue::toJson);
     return message(404, translated("There is no such page."));
 }
 

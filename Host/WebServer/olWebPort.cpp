@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <cstddef>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -17,7 +19,13 @@ namespace
 {
 
 constexpr unsigned maxConnections = 64;
-constexpr unsigned maxConnectionsOfOneHost = 16;
+constexpr std::ptrdiff_t maxConnectionsOfOneHost = 16;
+
+/// Who connects all the time must not keep everything else waiting.
+constexpr int acceptedAtOnce = 16;
+
+/// How long nobody is let in when the process has no descriptors left.
+constexpr std::chrono::seconds breather{1};
 constexpr unsigned idleSeconds = 15;
 constexpr size_t connectionMemory = 32 * size_t(1024);
 
@@ -58,6 +66,12 @@ QHostAddress clientOf(MHD_Connection *connection)
     return info ? QHostAddress(info->client_addr) : QHostAddress();
 }
 
+int socketOf(MHD_Connection *connection)
+{
+    const auto *info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD);
+    return info ? info->connect_fd : -1;
+}
+
 MHD_Result send(MHD_Connection *connection, const olWebAnswer &answer)
 {
     MHD_Response *response = MHD_create_response_from_buffer(
@@ -89,15 +103,31 @@ MHD_Result handle(void *port, MHD_Connection *connection, const char *path, cons
     return send(connection, static_cast<const olWebPort *>(port)->answer(request));
 }
 
+void noteConnection(void *port, MHD_Connection *connection, void **, MHD_ConnectionNotificationCode code) noexcept
+{
+    if (code == MHD_CONNECTION_NOTIFY_STARTED)
+        static_cast<olWebPort *>(port)->add(connection);
+    else
+        static_cast<olWebPort *>(port)->forget(connection);
+}
+
 } // namespace
 
 olWebPort::olWebPort(Handler handler) : m_handler(std::move(handler)), m_daemon(nullptr, MHD_stop_daemon)
 {
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { run(); });
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(breather);
+    QObject::connect(&m_pause, &QTimer::timeout, &m_pause, [this] { m_arrivals->setEnabled(true); });
 }
 
-olWebPort::~olWebPort() = default;
+olWebPort::~olWebPort()
+{
+    m_arrivals.reset();
+    if (m_listener >= 0)
+        ::close(m_listener);
+}
 
 void olWebPort::keepReason(void *self, const char *format, va_list arguments)
 {
@@ -109,12 +139,13 @@ void olWebPort::keepReason(void *self, const char *format, va_list arguments)
 
 QString olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate)
 {
-    const int listener = listenOn(port, loopbackOnly);
-    if (listener < 0)
+    m_listener = listenOn(port, loopbackOnly);
+    if (m_listener < 0)
         return qt_error_string(errno);
 
     m_certificate = certificate;
-    unsigned flags = MHD_USE_EPOLL | MHD_USE_ERROR_LOG;
+    // The library would stop listening at its limit and not be told when there is room again.
+    unsigned flags = MHD_USE_EPOLL | MHD_USE_NO_LISTEN_SOCKET | MHD_USE_ERROR_LOG;
     std::vector<MHD_OptionItem> options;
     if (m_certificate) {
         flags |= MHD_USE_TLS;
@@ -124,14 +155,12 @@ QString olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olW
     }
     options.push_back({MHD_OPTION_END, 0, nullptr});
 
-    // The daemon owns the socket from here on, also when it does not start.
-    m_daemon.reset(MHD_start_daemon(flags, port, nullptr, nullptr, handle, this,                 //
-                                    MHD_OPTION_EXTERNAL_LOGGER, &olWebPort::keepReason, this,    //
-                                    MHD_OPTION_LISTEN_SOCKET, listener,                          //
-                                    MHD_OPTION_CONNECTION_LIMIT, maxConnections,                 //
-                                    MHD_OPTION_PER_IP_CONNECTION_LIMIT, maxConnectionsOfOneHost, //
-                                    MHD_OPTION_CONNECTION_TIMEOUT, idleSeconds,                  //
-                                    MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,        //
+    m_daemon.reset(MHD_start_daemon(flags, 0, nullptr, nullptr, handle, this,                 //
+                                    MHD_OPTION_EXTERNAL_LOGGER, &olWebPort::keepReason, this, //
+                                    MHD_OPTION_NOTIFY_CONNECTION, noteConnection, this,       //
+                                    MHD_OPTION_CONNECTION_LIMIT, maxConnections,              //
+                                    MHD_OPTION_CONNECTION_TIMEOUT, idleSeconds,               //
+                                    MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,     //
                                     MHD_OPTION_ARRAY, options.data(), MHD_OPTION_END));
     if (!m_daemon)
         return m_reason;
@@ -139,7 +168,63 @@ QString olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olW
     const auto *info = MHD_get_daemon_info(m_daemon.get(), MHD_DAEMON_INFO_EPOLL_FD);
     m_notifier = std::make_unique<QSocketNotifier>(info->epoll_fd, QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, &m_timer, [this] { run(); });
+    m_arrivals = std::make_unique<QSocketNotifier>(m_listener, QSocketNotifier::Read);
+    QObject::connect(m_arrivals.get(), &QSocketNotifier::activated, &m_timer, [this] { accept(); });
     return {};
+}
+
+void olWebPort::accept()
+{
+    for (int count = 0; count < acceptedAtOnce; ++count) {
+        sockaddr_in address{};
+        socklen_t length = sizeof address;
+        auto *client = reinterpret_cast<sockaddr *>(&address);
+        const int socket = ::accept4(m_listener, client, &length, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        if (socket < 0) {
+            if (errno != EAGAIN && errno != EINTR && errno != ECONNABORTED) {
+                m_arrivals->setEnabled(false);
+                m_pause.start();
+            }
+            break;
+        }
+        makeRoomFor(QHostAddress(client));
+        // Closes the socket where it fails.
+        MHD_add_connection(m_daemon.get(), socket, client, length);
+    }
+    run();
+}
+
+/// However many connections are held open, and however slowly something trickles through them: a new one is served. It
+/// takes the place of the oldest from its own address, or else from the address that has the most.
+void olWebPort::makeRoomFor(const QHostAddress &client)
+{
+    const auto countOf = [this](const QHostAddress &address) {
+        return std::count_if(m_connections.begin(), m_connections.end(),
+                             [&address](const Connection &connection) { return connection.client == address; });
+    };
+    QHostAddress crowd = client;
+    if (countOf(client) < maxConnectionsOfOneHost) {
+        if (m_connections.size() < maxConnections)
+            return;
+        for (const Connection &connection : m_connections) {
+            if (countOf(connection.client) > countOf(crowd))
+                crowd = connection.client;
+        }
+    }
+    const auto oldest = std::find_if(m_connections.begin(), m_connections.end(),
+                                     [&crowd](const Connection &connection) { return connection.client == crowd; });
+    if (oldest == m_connections.end())
+        return;
+    ::shutdown(socketOf(oldest->handle), SHUT_RDWR);
+    run();
+}
+
+void olWebPort::add(MHD_Connection *connection) { m_connections.push_back({connection, clientOf(connection)}); }
+
+void olWebPort::forget(MHD_Connection *connection)
+{
+    const auto isMeant = [connection](const Connection &open) { return open.handle == connection; };
+    m_connections.erase(std::remove_if(m_connections.begin(), m_connections.end(), isMeant), m_connections.end());
 }
 
 void olWebPort::run()

@@ -16,6 +16,10 @@
 namespace
 {
 
+constexpr auto portKey = "WebInterface port";
+constexpr auto securePortKey = "WebInterface ssl port";
+constexpr qint64 maxFileSize = 1 << 20;
+
 QString translated(const char *text) { return QCoreApplication::translate("olWebServer", text); }
 
 template <class T> T setting(const char *key, T fallback)
@@ -24,27 +28,44 @@ template <class T> T setting(const char *key, T fallback)
     return value ? *value : fallback;
 }
 
-QByteArray contentOf(const QString &name)
+/// Reads a file of the certificate. Returns why it cannot be used; empty where it can.
+QString read(QFile &file, bool isSecret, QByteArray &content)
 {
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly)) {
-        olLog::error(translated("The web server cannot read %1: %2").arg(name, file.errorString()));
-        return {};
-    }
-    const QByteArray content = file.readAll();
-    if (content.isEmpty())
-        olLog::error(translated("The web server cannot use %1: it is empty").arg(name));
-    return content;
+    const QFileInfo info(file);
+    // Opening anything else might never end.
+    if (info.exists() && !info.isFile())
+        return translated("it is no regular file");
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    if (isSecret && (file.permissions() & (QFile::ReadGroup | QFile::ReadOther)))
+        return translated("others than its owner can read it");
+    content = file.read(maxFileSize);
+    if (file.error() != QFile::NoError)
+        return file.errorString();
+    return content.isEmpty() ? translated("it is empty") : QString();
 }
 
-/// The certificate that is installed; nothing where there is none or half of it cannot be read.
+/// Empty, and told in the log, where it cannot be used.
+QByteArray contentOf(const QString &name, bool isSecret)
+{
+    QFile file(name);
+    QByteArray content;
+    const QString fault = read(file, isSecret, content);
+    if (fault.isEmpty())
+        return content;
+    olLog::error(translated("The web server cannot use %1: %2").arg(name, fault));
+    return {};
+}
+
+/// The certificate that is installed; nothing where there is none or half of it cannot be used.
 std::optional<olWebCertificate> installedCertificate()
 {
     const QDir folder = QFileInfo(olPreferencesStore::userFile()).dir();
     const QString chain = folder.filePath(QStringLiteral("web.crt"));
     if (!QFileInfo::exists(chain))
         return std::nullopt;
-    olWebCertificate certificate{contentOf(chain), contentOf(folder.filePath(QStringLiteral("web.key"))), chain};
+    olWebCertificate certificate{contentOf(chain, false), contentOf(folder.filePath(QStringLiteral("web.key")), true),
+                                 chain};
     return certificate.chain.isEmpty() || certificate.key.isEmpty() ? std::nullopt : std::make_optional(certificate);
 }
 
@@ -86,13 +107,13 @@ void olWebServer::start()
     const bool localhostOnly = setting("WebInterface localhost only", true);
     m_access = std::make_unique<olWebAccess>();
     if (localhostOnly)
-        m_access->allowLocalNamesOnly();
+        m_access->allowLoopbackNamesOnly();
     if (setting("WebInterface use white list", true))
         m_access->allowOnly(setting("WebInterface white list", std::string()));
 
-    m_plain = open(setting("WebInterface port", 8888), localhostOnly, std::nullopt);
+    m_plain = open(portKey, 8888, localhostOnly, std::nullopt);
     if (const auto certificate = installedCertificate())
-        m_secure = open(setting("WebInterface ssl port", 8444), localhostOnly, certificate);
+        m_secure = open(securePortKey, 8444, localhostOnly, certificate);
     olHostState::the().webInterfaceRunning = m_plain || m_secure;
 }
 
@@ -101,12 +122,15 @@ void olWebServer::stop()
     m_plain.reset();
     m_secure.reset();
     m_access.reset();
+    for (const char *key : {portKey, securePortKey})
+        olHostState::the().refuse(key, {});
     olHostState::the().webInterfaceRunning = false;
 }
 
-std::unique_ptr<olWebPort> olWebServer::open(int port, bool loopbackOnly,
+std::unique_ptr<olWebPort> olWebServer::open(const char *key, int standard, bool loopbackOnly,
                                              const std::optional<olWebCertificate> &certificate)
 {
+    const int port = setting(key, standard);
     if (port == 0)
         return nullptr;
     auto opened = std::make_unique<olWebPort>([this](const olWebRequest &request) { return answer(request); });
@@ -116,7 +140,9 @@ std::unique_ptr<olWebPort> olWebServer::open(int port, bool loopbackOnly,
         return opened;
     const QString place = certificate ? translated("port %1 with %2").arg(QString::number(port), certificate->file)
                                       : translated("port %1").arg(port);
-    olLog::error(translated("The web server does not listen on %1: %2").arg(place, reason));
+    const QString sentence = translated("The web server does not listen on %1: %2").arg(place, reason);
+    olLog::error(sentence);
+    olHostState::the().refuse(key, sentence);
     return nullptr;
 }
 

@@ -28,14 +28,15 @@ private:
 
     /// Starts, anew where it runs already, with what the settings record says now. Where "localhost only" or "use white
     /// list" cannot be read it counts as set. A port of 0 stays closed. The SSL port opens only where the folder of the
-    /// user's preferences holds a certificate, web.crt, with its private key, web.key, both as PEM. What cannot be
-    /// opened is told in the log.
+    /// user's preferences holds a certificate, web.crt, with its private key, web.key, both as PEM. A port that cannot
+    /// be opened is told in the log and among the refusals of the host's state.
     void start();
 
     /// Closes the ports and every connection before it returns.
     void stop();
 
-    std::unique_ptr<olWebPort> open(int port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate);
+    std::unique_ptr<olWebPort> open(const char *key, int standard, bool loopbackOnly,
+                                    const std::optional<olWebCertificate> &certificate);
     [[nodiscard]] olWebAnswer answer(const olWebRequest &request) const;
 
     std::unique_ptr<olWebAccess> m_access;

@@ -28,6 +28,12 @@ public:
 
     static constexpr auto Fact = olHostValueBase::Origin::Fact;
 
+    /// Settings that the host cannot follow as they are, by their keys, with a sentence for people that says why.
+    olHostValue<std::map<std::string, QString>> refusals{*this, "refusals", {}};
+
+    /// Enters a setting there, or takes it out where there is no reason any more.
+    void refuse(const std::string &key, const QString &reason);
+
     // The process and its environment
     olHostValue<bool> analysisMode{*this, "analysisMode", false, Fact};
     olHostValue<bool> viewer{*this, "viewer", false, Fact};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Utilities/olExport.h"
+
 #include <QString>
 
 #include <optional>
@@ -22,7 +24,7 @@ namespace olJsonText
 
 /// Takes a JSON text apart from its beginning, without ever rounding a number: what a number is to be, its taker knows.
 /// Blanks before what is asked for are passed over. What is not there leaves the position after those blanks.
-class olJsonReader
+class ORLO_SDK_EXPORT olJsonReader
 {
 public:
     explicit olJsonReader(std::string_view text) : m_size(text.size()), m_rest(text) {}

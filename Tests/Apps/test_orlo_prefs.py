@@ -5,11 +5,15 @@
 """
 
 import json
+import os
 import pathlib
 import re
 import shutil
+import stat
 import subprocess
 import unittest
+
+import jsonschema
 
 from tool_test import SECONDS, ToolTest, main
 
@@ -29,7 +33,36 @@ class List(ToolTest):
         self.assertEqual(list(camera), ["name", "category", "class", "page", "settings"])
         self.assertEqual((camera["category"], camera["class"], camera["page"]), ("", "olCameraPreferencesGUII", True))
         self.assertEqual([setting["key"] for setting in camera["settings"]], CAMERA_KEYS)
-        self.assertEqual(camera["settings"][0], {"key": "Camera fov", "type": "float", "default": 45, "value": 45})
+        self.assertEqual(camera["settings"][0], {
+            "key": "Camera fov", "type": "float", "default": 45, "value": 45, "minimum": 1, "maximum": 100, "unit": "°",
+            "effect": "now", "label": "Field of View", "tooltip": "Vertical opening angle of the camera, in degrees",
+            "path": ["Base"], "recorded": False, "locked": False, "origin": "default"})
+
+    def test_json_tells_all_that_a_setting_knows_of_itself(self):
+        settings = {setting["key"]: setting for module in self.modules().values() for setting in module["settings"]}
+        self.assertEqual(settings["Interaction mode"]["choices"],
+                         [{"value": 0, "text": "ORLO"}, {"value": 1, "text": "Contura"}, {"value": 2, "text": "Mirra"}])
+        self.assertEqual(settings["Navigator dolly speed"]["decimals"], 2)
+        self.assertEqual(settings["MainWindow user language"]["effect"], "next start")
+        self.assertEqual(settings["STEPOptions chord deviation"]["effect"], "next import")
+        for key, recorded in {"Powerwall width": True, "STEPOptions max chord length": True, "JTOptions LOADBREPS": True,
+                              "STEPOptions chord deviation": False, "BCADOptions max parallel tasks": False}.items():
+            self.assertEqual(settings[key]["recorded"], recorded, key)
+        # Without a default it stands last in its module.
+        paths = self.modules()["FileIO"]["settings"][-1]
+        self.assertEqual((paths["key"], paths["type"], paths["default"], paths["value"]), (PATHS, "strings", None, None))
+
+    def test_json_tells_where_a_value_comes_from(self):
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        site.write_text(json.dumps({"Powerwall width": {"value": 7}, "Camera fov": {"value": 60, "locked": True,
+                                                                                   "reason": "One camera."}}))
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        self.stored("set", "Powerwall height", "5")
+        settings = {setting["key"]: setting for setting in self.modules()["Camera"]["settings"]}
+        self.assertEqual([settings[key]["origin"] for key in ("Powerwall width", "Powerwall height", "Powerwall distance",
+                                                              "Camera fov")], ["site", "stored", "default", "site"])
+        self.assertEqual((settings["Camera fov"]["locked"], settings["Camera fov"]["reason"]), (True, "One camera."))
 
     def test_the_smallest_edition_has_the_module_but_not_the_page(self):
         self.assertFalse(self.modules("--edition", "essentials")["Camera"]["page"])
@@ -75,6 +108,16 @@ class GetAndSet(ToolTest):
                 with self.subTest((key, given)):
                     self.assert_printed(self.stored("set", key, given), "")
                     self.assertEqual(json.loads(self.stored("get", key).stdout), text)
+
+    def test_an_argument_is_taken_exactly_or_refused(self):
+        key = "WebInterface white list"
+        self.environment["LC_ALL"] = "C"
+        self.assert_printed(self.stored("set", key, "M\u00fcller \u65e5"), "")
+        self.assert_printed(self.stored("get", key), '"M\u00fcller \u65e5"\n')
+        command = [*self.command("set", key, options=["--store", str(self.store)]), b"M\xfcller"]
+        result = subprocess.run(command, env=self.environment, capture_output=True, timeout=SECONDS, check=False)
+        self.assertEqual((result.stderr.decode(), result.returncode), ('"M\ufffdller" is no UTF-8\n', 2))
+        self.assert_printed(self.stored("get", key), '"M\u00fcller \u65e5"\n')
 
     def test_an_unknown_key_is_named_with_the_nearest(self):
         message = 'there is no setting "camera foz"; did you mean "Camera fov"?'
@@ -123,6 +166,27 @@ class Bounds(ToolTest):
         self.assert_refused(self.tool("set", "Camera fov", "500", options=edition),
                             '"Camera fov" cannot be 500: expected a number from 1 to 100')
 
+    def test_every_door_refuses_with_the_same_words(self):
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        for key, type, value, words in (
+                ("Camera fov", "float", 500, "cannot be 500: expected a number from 1 to 100"),
+                ("Navigator dolly axis", "int", 3, "cannot be 3: expected one of 0, 1, 2"),
+                ("Devices joystick id", "int", 100, "cannot be 100: expected a whole number from 0 to 99"),
+                ("FileIO tmp path", "qstring", "x" * 40000,
+                 'cannot be "' + 78 * "x" + "…: expected at most 32767 characters")):
+            with self.subTest(key):
+                site.write_text("{}")
+                self.assert_refused(self.stored("set", key, value), f'"{key}" {words}')
+                result = self.stored("import", "-", input=json.dumps(
+                    {"format": 1, "settings": {key: {"type": type, "value": value}}}))
+                self.assertEqual(result.stderr, f'skipped: "{key}" {words}\n')
+                site.write_text(json.dumps({key: {"value": value}}))
+                self.assertIn(f'line 1: "{key}" {words}.', self.stored("list").stderr)
+        site.write_text("{}")
+        self.assert_printed(self.stored("diff"), "")
+
     def test_what_the_page_asks_about_takes_a_yes(self):
         server = "WebInterface enable web server2"
         refusal = (f'"{server}" is only set with --yes: Do you really want to enable the Web Server? '
@@ -164,7 +228,6 @@ class Differences(ToolTest):
         self.assert_printed(self.stored("export", file), "")
         exported = file.read_text("utf-8")
         self.assertEqual(self.stored("export").stdout, exported)
-        self.assertNotIn(PATHS, self.stored("list", "--json").stdout)
         self.assert_printed(self.stored("set", PATHS, "[]"), "")
         self.assertNotIn(PATHS, self.stored("export").stdout)
         self.assert_printed(self.stored("import", "-", input=exported), "")
@@ -203,9 +266,41 @@ class Files(ToolTest):
         self.assertTrue(result.stderr.startswith(f"Cannot write the preferences to {missing}: "), result.stderr)
         result = self.stored("import", "-", input='{"format": 1,\n "settings": ')
         self.assertEqual(result.returncode, 2)
-        self.assertTrue(result.stderr.startswith("Cannot import the standard input. It is no JSON, line 2: "))
+        self.assertTrue(result.stderr.startswith("Cannot import the standard input. Line 2: "), result.stderr)
+
+    def test_a_new_file_is_private_and_an_old_one_keeps_its_mode(self):
+        file = self.folder / "kept.json"
+        for mode in (0o600, 0o640, 0o666):
+            self.assert_printed(self.stored("export", file), "")
+            self.assertEqual(stat.S_IMODE(file.stat().st_mode), mode)
+            file.chmod({0o600: 0o640, 0o640: 0o666}.get(mode, mode))
+
+    def test_a_pipe_is_written_into(self):
+        pipe = self.folder / "pipe"
+        os.mkfifo(pipe)
+        with subprocess.Popen(["cat", pipe], stdout=subprocess.PIPE, encoding="utf-8") as reader:
+            self.addCleanup(reader.kill)
+            self.assert_printed(self.stored("export", pipe), "")
+            self.assertTrue(stat.S_ISFIFO(pipe.stat().st_mode))
+            self.assertEqual(reader.communicate(timeout=SECONDS)[0], self.stored("export").stdout)
+
+    def test_names_that_begin_with_a_colon_are_names_of_files(self):
+        self.environment["PWD"] = str(self.folder)
+        for arguments in (["set", "Camera fov", "60"], ["export", ":kept"], ["import", ":kept"]):
+            result = subprocess.run(self.command(*arguments, options=["--store", ":store"]), cwd=self.folder,
+                                    env=self.environment, capture_output=True, encoding="utf-8", timeout=SECONDS,
+                                    check=False)
+            self.assert_printed(result, "")
+        self.assertIn('"Camera fov": {"type": "float", "value": 60}', (self.folder / ":kept").read_text())
+        self.assertTrue((self.folder / ":store").exists())
+
+    def test_the_sign_of_a_zero_counts(self):
+        self.assert_printed(self.stored("set", "Powerwall width", "0"), "")
+        self.assert_printed(self.imported({"Powerwall width": {"type": "float", "value": -0.0}}), "")
+        self.assert_printed(self.stored("get", "Powerwall width"), "-0\n")
 
 
+@unittest.skipUnless(os.geteuid() == 0, "a site's file counts only where it is root's")
 class Site(ToolTest):
     def setUp(self):
         super().setUp()
@@ -230,17 +325,38 @@ class Site(ToolTest):
     def test_check_tells_of_the_store_and_of_the_site(self):
         self.stored("set", "Powerwall height", "1")
         self.assert_printed(self.stored("check"), "")
-        self.write({"Camera foz": {"value": 60}})
-        remark = self.stored("check")
-        self.assertIn("Camera foz", remark.stdout)
-        self.assertEqual((remark.stderr, remark.returncode), ("", 0))
+        self.write({"Camera foz": {"value": 60}, "Optimizer Topology Method": {"value": 1}})
+        result = self.tool("check", options=["--edition", "essentials", "--store", str(self.store)])
+        self.assertEqual((result.stdout, result.stderr, result.returncode),
+                         (f'{self.file}, line 1: no module has a setting "Camera foz".\n', "", 1))
         self.store.write_bytes(self.store.read_bytes()[:1000])
         damaged = self.store.read_bytes()
         result = self.stored("check")
-        self.assertEqual((result.stderr, result.returncode), ("1 fault was found\n", 2))
+        self.assertEqual((result.stderr, result.returncode), ("", 1))
         self.assertIn(str(self.store), result.stdout)
         self.assertIn("Camera foz", result.stdout)
         self.assertEqual(self.store.read_bytes(), damaged)
+        self.store.unlink()
+        self.file.unlink()
+        self.file.symlink_to("missing")
+        reason = f"The site's preferences {self.file} are ignored: it cannot be read: No such file or directory.\n"
+        result = self.stored("check")
+        self.assertEqual((result.stdout, result.stderr, result.returncode), (reason, "", 1))
+        self.assertEqual(self.stored("get", "Camera fov").stderr, reason)
+
+    def test_the_examples_of_the_document_are_taken(self):
+        text = (pathlib.Path(__file__).resolve().parents[2] / "docs/site-defaults.md").read_text()
+        examples = re.findall(r"(?m)(?:^    .*\n)+", text)
+        self.assertTrue(examples)
+        for example in examples:
+            with self.subTest(example):
+                self.file.write_text(example)
+                self.assert_printed(self.stored("check"), "")
+                for key, entry in json.loads(example).items():
+                    if "value" in entry:
+                        self.assertEqual(json.loads(self.stored("get", key).stdout), entry["value"])
+                    result = self.stored("reset", key)
+                    self.assertEqual(result.returncode, 2 if entry.get("locked") else 0, result.stderr)
 
 
 class Completion(ToolTest):
@@ -264,6 +380,34 @@ class Completion(ToolTest):
                                 ("get", "no such"): [""]}.items():
             with self.subTest(words):
                 self.assertEqual(self.completed(*words), expected)
+
+
+class Schema(ToolTest):
+    def test_it_tells_good_files_from_bad_ones(self):
+        validator = jsonschema.Draft7Validator(json.loads(self.stored("schema").stdout))
+        jsonschema.Draft7Validator.check_schema(validator.schema)
+        self.stored("set", PATHS, '["/a"]')
+        self.stored("set", "MainWindow user language", "2")
+        exported = json.loads(self.stored("export").stdout)
+        self.assertEqual(list(validator.iter_errors(exported)), [])
+
+        def settings(key, **members):
+            return {"format": 1, "settings": {key: members}}
+
+        for good in ({}, {"Camera fov": {"value": 60, "locked": True, "reason": "Ours."}},
+                     {"WebInterface enable web server2": {"locked": True}},
+                     settings("MainWindow user language", type="int", value=-1),
+                     settings("MirraFileIO units", type="string", value="furlong")):
+            self.assertTrue(validator.is_valid(good), good)
+        for bad in ({"Camera foz": {"value": 60}}, {"Camera fov": {"value": 500}}, {"Camera fov": {"locked": False}},
+                    {"Camera fov": {"value": 60, "why": "x"}}, {"format": 2, "settings": {}}, {"format": 1},
+                    settings("Camera fov", type="int", value=60), settings("Camera fov", type="float"),
+                    settings("Camera fov", type="float", value="60"), settings("Camera foz", type="float", value=60),
+                    settings("Interaction mode", type="int", value=9),
+                    settings("MainWindow user language", type="int", value=9),
+                    settings("Selection preselection color", type="color", value=[0, 0, 1.5]),
+                    settings("BCADOptions max parallel tasks", type="int", value=1.5)):
+            self.assertFalse(validator.is_valid(bad), bad)
 
 
 class Manual(ToolTest):
@@ -361,6 +505,16 @@ class CommandLine(ToolTest):
                     self.assertEqual((result.stdout, result.returncode, result.stderr.count("\n")), ("", 2, 1))
                     path = pathlib.Path(library).resolve()
                     self.assertIn(f"Cannot load the preferences plug-in {path}: {reason}", result.stderr)
+
+    def test_where_there_is_none_all_places_are_named(self):
+        beside = self.folder / "bin"
+        beside.mkdir()
+        program = shutil.copy(self.program, beside)
+        result = subprocess.run([program, "list"], env=self.environment, capture_output=True, encoding="utf-8",
+                                timeout=SECONDS, check=False)
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(f"Cannot load the preferences plug-in: there is neither {beside}/libKernelPreferences.so nor "
+                      f"{self.folder}/lib", result.stderr)
 
 
 if __name__ == "__main__":

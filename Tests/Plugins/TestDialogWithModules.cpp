@@ -340,3 +340,20 @@ TEST_F(DialogWithModules, TheModulesMayGoWhileTheirPagesAreShown)
     dialog->reject();
     EXPECT_FALSE(dialog->isVisible());
 }
+
+TEST_F(DialogWithModules, AnImportRefusesWithTheWordsOfTheSession)
+{
+    QFile file(folder.filePath(QStringLiteral("import.json")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"format": 1, "settings": {"Camera fov": {"type": "float", "value": 500},
+        "Interaction mode": {"type": "int", "value": 9}, "Powerwall width": {"type": "int", "value": 3}}})");
+    file.close();
+    dialog->importFrom(file.fileName());
+    const auto *skipped = dialog->findChild<olChangesView *>()->findChild<QTreeWidget *>(QStringLiteral("skipped"));
+    ASSERT_EQ(skipped->topLevelItemCount(), 3);
+    const auto reason = [skipped](int row) { return skipped->topLevelItem(row)->text(1); };
+    EXPECT_EQ(reason(0), session.whyNot("Camera fov", 500.0f));
+    EXPECT_EQ(reason(0), QStringLiteral("cannot be 500: expected a number from 1 to 100"));
+    EXPECT_EQ(reason(1), QStringLiteral("cannot be 9: expected one of 0, 1, 2"));
+    EXPECT_EQ(reason(2), QStringLiteral("is of the type int, not float"));
+}

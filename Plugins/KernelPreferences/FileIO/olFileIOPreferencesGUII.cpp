@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QSettings>
+#include <QVariant>
 
 namespace
 {
@@ -38,6 +39,15 @@ struct SearchPathRows {
 };
 void showOn(const SearchPathRows &rows, const Paths &paths) { rows.page->setSearchPaths(paths); }
 void takeFrom(const SearchPathRows &rows, Paths &paths) { paths = rows.page->searchPaths(); }
+
+/// The toolkit waits for a lock before it writes, and this runs on the way to the window: what stands there is left.
+void rememberCloseDialog(bool close)
+{
+    QSettings settings;
+    const QLatin1String key("importDialog/closeOnSuccess");
+    if (settings.value(key).toString() != QVariant(close).toString())
+        settings.setValue(key, close);
+}
 
 } // namespace
 
@@ -73,8 +83,7 @@ void olFileIOPreferencesGUII::applyPreferences()
     olFileIO::setShowFileIOProgress(true);
     applyTmpPath();
     applyIfRead(showDialog, &olController::setShowImportOptions);
-    applyIfRead(closeDialog,
-                [](bool close) { QSettings().setValue(QLatin1String("importDialog/closeOnSuccess"), close); });
+    applyIfRead(closeDialog, &rememberCloseDialog);
     applyIfRead(centerToOrigin, &olController::setImportOptionsCenterInOrigin);
     applyIfRead(placeOnGround, &olController::setImportOptionsPutOnGround);
     applyIfRead(maxParallelTasks, &olFileIO::setMaxParallelImportTasks);

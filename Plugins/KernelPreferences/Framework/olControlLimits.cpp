@@ -16,6 +16,22 @@ namespace
 
 constexpr double unbounded = std::numeric_limits<double>::infinity();
 
+/// Takes numbers of the C locale with point or comma as the decimal sign, and writes the point at once. There is no
+/// telling what a second sign, a blank or an apostrophe is to mean: none of these gets in.
+class NumberValidator : public QDoubleValidator
+{
+public:
+    explicit NumberValidator(QObject *parent) : QDoubleValidator(parent) { setLocale(QLocale::c()); }
+
+    State validate(QString &text, int &position) const override
+    {
+        if (text.count(QLatin1Char('.')) + text.count(QLatin1Char(',')) > 1 || text.contains(QLatin1Char(' ')))
+            return Invalid;
+        text.replace(QLatin1Char(','), QLatin1Char('.'));
+        return QDoubleValidator::validate(text, position);
+    }
+};
+
 std::optional<int> kept(int decimals) { return decimals < 0 ? std::nullopt : std::optional<int>(decimals); }
 
 template <class Box> void pushBounds(const olSettingTraits &traits, Box &box)
@@ -69,10 +85,5 @@ void olControlLimits::push(const olSettingTraits &traits, QWidget &control)
 
 void olControlLimits::acceptNumbers(QLineEdit &field)
 {
-    auto *validator = new QDoubleValidator(&field); // owned by the field
-    // The reader takes no group separators, so none can be typed.
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::RejectGroupSeparator | QLocale::OmitGroupSeparator);
-    validator->setLocale(locale);
-    field.setValidator(validator);
+    field.setValidator(new NumberValidator(&field)); // owned by the field
 }

@@ -20,6 +20,6 @@ struct olControlLimits {
     /// Gives the control the bounds and decimals that are declared; those of the form stay where none are.
     static void push(const olSettingTraits &traits, QWidget &control);
 
-    /// Lets a field take numbers, in the C locale: what can be typed is what is read.
+    /// Lets a field take numbers of the C locale: what can be typed is what is read. A decimal comma becomes a point.
     static void acceptNumbers(QLineEdit &field);
 };

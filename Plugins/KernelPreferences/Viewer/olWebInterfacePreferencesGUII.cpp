@@ -50,6 +50,8 @@ olWebInterfacePreferencesGUII::olWebInterfacePreferencesGUII()
 {
     const auto &form = page().form();
     settings().add(enableWebServer, form.enableWebServer);
+    // Shown as the form has it before it is filled, so that what depends on it can be seen.
+    form.enableWebServer->setChecked(true);
     settings().add(port, form.port);
     settings().add(sslPort, form.sslPort);
     settings().add(localhostOnly, form.localhostOnly);

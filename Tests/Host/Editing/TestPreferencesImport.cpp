@@ -67,6 +67,11 @@ TEST(PreferencesFile, ReadsBackEveryTypeExactly)
         {"c", osg::Color3f(0.25f, 0.1f, 1.0f)},
         {"cs", std::vector<osg::Color3f>{osg::Color3f(0.0f, 0.5f, 1.0f)}},
         {"key \"with\" quotes", 1},
+        {"-0 f", -0.0f},
+        {"-0 d", -0.0},
+        {"-0 fs", std::vector<float>{-0.0f, 0.0f}},
+        {"-0 c", osg::Color3f(-0.0f, 0.0f, -0.0f)},
+        {"-0 cs", std::vector<osg::Color3f>{osg::Color3f(0.0f, -0.0f, 0.0f)}},
     };
     const olPreferencesFile::Contents read = olPreferencesFile::fromJson(olPreferencesFile::toJson(values));
     EXPECT_EQ(read.error, QString());
@@ -79,7 +84,9 @@ TEST(PreferencesFile, ReadsBackEveryTypeExactly)
 TEST(PreferencesFile, RefusesWhatIsNoFileOfPreferencesAsAWhole)
 {
     const auto error = [](const char *text) { return olPreferencesFile::fromJson(text).error; };
-    EXPECT_TRUE(error("{\n\"format\": 1,\n}").contains(QStringLiteral("line 3")));
+    EXPECT_TRUE(error("{\n\"format\": 1,\n}").startsWith(QStringLiteral("Line 3: ")));
+    EXPECT_TRUE(
+        error("{\"format\": 1, \"settings\": {\n\"Key\": 3,\n\"Key\": 3}}").startsWith(QStringLiteral("Line 3: ")));
     EXPECT_FALSE(error("").isEmpty());
     EXPECT_FALSE(error("[]").isEmpty());
     EXPECT_FALSE(error(R"({"settings": {}})").isEmpty());

@@ -14,13 +14,16 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkAccessManager>
+#include <QNetworkInterface>
 #include <QNetworkReply>
 #include <QProcess>
 #include <QSslConfiguration>
+#include <QSysInfo>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace
@@ -169,11 +172,13 @@ TEST_F(WebServer, TakesItsPortAtEachStartAndSaysWhyItCannotListen)
         olController::enableWebInterface(true);
         EXPECT_EQ(errors,
                   QStringList(QStringLiteral("The web server does not listen on port %1: %2").arg(number).arg(reason)));
+        EXPECT_EQ(host.refusals.get().at("WebInterface port"), errors.value(0)) << "it is told at the setting";
         EXPECT_FALSE(host.webInterfaceRunning);
     }
     errors.clear();
     record.set("WebInterface port", 0);
     olController::enableWebInterface(true);
+    EXPECT_TRUE(host.refusals.get().empty());
     EXPECT_TRUE(errors.isEmpty()) << "0 keeps a port closed";
     EXPECT_FALSE(host.webInterfaceRunning);
 }
@@ -195,16 +200,105 @@ TEST_F(WebServer, BindsToTheLoopbackAddressWhenOnlyThisMachineMayAsk)
     EXPECT_FALSE(answersElsewhere()) << "what cannot be read restricts";
 }
 
-TEST_F(WebServer, OnlyThisMachineMeansUnderItsOwnName)
+TEST_F(WebServer, AnswersUnderNamesOfThisMachineAloneSoThatNoPageFromElsewhereReadsItByRebinding)
 {
-    record.set("WebInterface localhost only", true);
-    olController::enableWebInterface(true);
-    for (const auto &[name, status] :
-         {std::pair{"LOCALHOST:8888", 200}, {"rebound.example:8888", 403}, {"localhost.example", 403}}) {
-        QNetworkRequest disguised = request(QStringLiteral("/settings.json"));
-        disguised.setRawHeader("Host", name);
-        EXPECT_EQ(wait(m_client.get(disguised)).status, status) << name;
+    QByteArray own = "127.0.0.1";
+    for (const QHostAddress &address : QNetworkInterface::allAddresses()) {
+        if (address.protocol() == QAbstractSocket::IPv4Protocol && !address.isLoopback())
+            own = address.toString().toLatin1();
     }
+    const auto statuses = [this](const QByteArrayList &names) {
+        olController::enableWebInterface(true);
+        QList<int> found;
+        for (const QByteArray &name : names) {
+            QNetworkRequest disguised = request(QStringLiteral("/settings.json"));
+            disguised.setRawHeader("Host", name);
+            found << wait(m_client.get(disguised)).status;
+        }
+        return found;
+    };
+    const QByteArrayList local{"localhost", "LOCALHOST:8888", "127.0.0.1", "127.0.0.1:80", "[::1]", "[::1]:8888"};
+    const QByteArrayList ours{QSysInfo::machineHostName().toUtf8(), own + ":8888"};
+    const QByteArrayList others{"rebound.example:8888", "localhost.example", "[::1]evil.example", "[::1",
+                                "localhost:80.example", "127.0.0.1.example", "192.0.2.7",         ":8888",
+                                "localhost:8888:1"};
+    const QByteArrayList listed{"Colleague.example:8888"};
+    const QList<int> yes{200, 200, 200, 200, 200, 200};
+    const QList<int> no{403, 403, 403, 403, 403, 403, 403, 403, 403};
+
+    EXPECT_EQ(statuses(local), yes);
+    EXPECT_EQ(statuses(ours), yes.mid(0, 2));
+    EXPECT_EQ(statuses(others), no);
+    EXPECT_EQ(statuses(listed), no.mid(0, 1));
+
+    record.set("WebInterface use white list", true);
+    record.set("WebInterface white list", std::string("127.0.0.1\ncolleague.example"));
+    EXPECT_EQ(statuses(ours + listed), yes.mid(0, 3));
+    EXPECT_EQ(statuses(others), no);
+
+    record.set("WebInterface localhost only", true);
+    EXPECT_EQ(statuses(local), yes);
+    EXPECT_EQ(statuses(listed), no.mid(0, 1));
+    if (own != "127.0.0.1")
+        EXPECT_EQ(statuses(ours), no.mid(0, 2));
+}
+
+TEST_F(WebServer, AnswersWhateverNumberOfOthersHoldsOnToIt)
+{
+    olController::enableWebInterface(true);
+    std::vector<std::unique_ptr<QTcpSocket>> held;
+    const auto hold = [&](const char *from, int count, const char *sent) {
+        for (int index = 0; index < count; ++index) {
+            held.push_back(std::make_unique<QTcpSocket>());
+            QTcpSocket &socket = *held.back();
+            socket.bind(QHostAddress(QLatin1String(from)));
+            socket.connectToHost(QHostAddress::LocalHost, quint16(port));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; }));
+            socket.write(sent);
+        }
+    };
+    // One that has begun before all others is not the one that must go.
+    hold("127.0.0.1", 1, "GET /state.json HTTP/1.1\r\nHost: local");
+    for (const char *from : {"127.0.0.2", "127.0.0.3", "127.0.0.4", "127.0.0.5", "127.0.0.6"})
+        hold(from, 17, "");
+    EXPECT_EQ(get("/").status, 200) << "while they are idle";
+    hold("127.0.0.7", 17, "G");
+    QTimer trickle;
+    QObject::connect(&trickle, &QTimer::timeout, [&held] {
+        for (std::size_t index = 1; index < held.size(); ++index) {
+            if (held[index]->state() == QAbstractSocket::ConnectedState)
+                held[index]->write("E");
+        }
+    });
+    trickle.start(50);
+    EXPECT_EQ(get("/").status, 200) << "while they trickle";
+    held.front()->write("host\r\n\r\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return held.front()->bytesAvailable() > 0; }));
+    EXPECT_TRUE(held.front()->readAll().startsWith("HTTP/1.1 200"));
+    trickle.stop();
+    held.clear();
+    EXPECT_EQ(get("/").status, 200) << "after they have gone";
+    hold("127.0.0.1", 40, "GET /");
+    EXPECT_EQ(get("/").status, 200) << "although they come from where the client is";
+}
+
+TEST_F(WebServer, RefusesWhatWouldKeepTheInterfaceWaiting)
+{
+    olController::enableWebInterface(true);
+    const auto answer = [this] {
+        const Reply reply = get("/settings.json");
+        EXPECT_EQ(reply.body.contains("too large"), reply.status == 503);
+        return reply.status;
+    };
+    record.set("Text", std::string(3000000, 'x'));
+    EXPECT_EQ(answer(), 503);
+    record.remove("Text");
+    for (int index = 0; index < 2000; ++index)
+        record.set("Key " + std::to_string(index), index);
+    EXPECT_EQ(answer(), 200);
+    for (int index = 0; index < 100000; ++index)
+        record.set("Key " + std::to_string(index), index);
+    EXPECT_EQ(answer(), 503);
 }
 
 TEST_F(WebServer, AnswersOnlyListedHostsWhileTheWhiteListIsInUse)
@@ -363,6 +457,10 @@ TEST_F(WebServer, GoesOnWithoutTlsWhenTheCertificateIsUnusable)
         EXPECT_EQ(get("/").status, 200);
         return errors.size() == 1 && errors.first().contains(text);
     };
+    QFile key(configured("web.key"));
+    key.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    EXPECT_TRUE(isToldOf(configured("web.key") + ": others than its owner can read it")) << qPrintable(errors.value(0));
+    key.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     EXPECT_TRUE(isToldOf(configured("web.crt") + ": ")) << qPrintable(errors.value(0));
     QFile::resize(configured("web.key"), 0);
     EXPECT_TRUE(isToldOf("The web server cannot use " + configured("web.key") + ": it is empty"));

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "olHostExport.h"
+
+#include <QElapsedTimer>
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class QAction;
+class QLineEdit;
+class QWidget;
+class olPreferencesEntry;
+
+/// Looks after the number fields of a page while a person types into them. What cannot be taken is marked at the field
+/// with a sentence that says what can, and a field that is left empty or unfinished gets its last number back.
+class ORLO_HOST_EXPORT olFieldGuard : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The module must have a page, and both must outlive this object.
+    explicit olFieldGuard(const olPreferencesEntry &entry);
+    ~olFieldGuard() override;
+
+    /// Gives all fields that do not read as a number their last one back.
+    void restoreUnfinished();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Field {
+        QString before;         ///< what it showed before the typing began
+        QElapsedTimer refused;  ///< runs while what follows on a refused key is refused too
+        QPointer<QAction> mark; ///< while it is marked
+    };
+
+    void watch(QLineEdit &field);
+    void edited(QLineEdit &field, const QString &text);
+    void refuse(QLineEdit &field);
+    void restore(QLineEdit &field);
+    void mark(QLineEdit &field);
+    void clearMark(QLineEdit &field);
+    [[nodiscard]] bool takesKey(QLineEdit &field, const QString &typed);
+    [[nodiscard]] QString expectation(const QLineEdit &field) const;
+
+    const olPreferencesEntry &m_entry;
+    QMap<QLineEdit *, Field> m_fields;
+};
