@@ -125,24 +125,21 @@ TEST_P(Typing, WhatIsLeftUnfinishedGoesBackAndIsMarkedWithTheRange)
     }
     EXPECT_TRUE(changes.isEmpty());
 
-    auto &nearPlane = control<QLineEdit>("Render Options", "nearPlane");
-    type(nearPlane, "0");
-    leave(nearPlane);
-    EXPECT_EQ(nearPlane.text(), QStringLiteral("10"));
-    EXPECT_EQ(mark(nearPlane), QStringLiteral("Only a number from 1e-06 can be entered here."));
-    type(nearPlane, "5");
-    EXPECT_EQ(mark(nearPlane), QString());
+    auto &fov = *control<QOLSlider>("Camera", "fieldOfView").findChild<QLineEdit *>();
+    type(fov, "0");
+    leave(fov);
+    EXPECT_EQ(fov.text(), QStringLiteral("45"));
+    EXPECT_EQ(mark(fov), QStringLiteral("Only a number from 1 to 100 can be entered here."));
+    type(fov, "5");
+    EXPECT_EQ(mark(fov), QString());
 }
 
 TEST_P(Typing, WhatTheRecordHoldsStaysWhereNobodyTyped)
 {
     record().set("RenderOptions near plane", 0.0f, true);
     changes.drop();
-    changes.page(module("Render Options"));
-    auto &nearPlane = control<QLineEdit>("Render Options", "nearPlane");
-    nearPlane.setFocus(Qt::TabFocusReason);
-    leave(nearPlane);
-    EXPECT_EQ(nearPlane.text(), QStringLiteral("0"));
+    changes.page(module("Render Options")).finishTyping();
+    EXPECT_EQ(control<QLineEdit>("Render Options", "nearPlane").text(), QStringLiteral("0"));
 }
 
 TEST_P(Typing, AnUnfinishedNumberIsNotTakenBackFromThePage)
