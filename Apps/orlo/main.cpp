@@ -143,7 +143,7 @@ bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !op
 /// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
 std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
 {
-    const QString given = options.value(QStringLiteral("store"));
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
     QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
     while (true) {
         auto session = std::make_unique<olPreferencesSession>(file);
@@ -161,7 +161,7 @@ std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &op
 
 bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    QString file = olPluginLoader::locate(options.value(QStringLiteral("plugin")));
+    QString file = options.value(QStringLiteral("plugin"));
     while (true) {
         const QString fault = session.loadPlugin(file);
         if (fault.isEmpty())
@@ -193,32 +193,17 @@ int run(const QCommandLineParser &options)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
-<<<<<<< HEAD
     const QTemporaryDir passing;
     const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
     if (!loaded)
         return 1;
     olPreferencesSession &session = *loaded;
-=======
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
-    olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const QString storeError = session.loadStore();
-    if (!storeError.isEmpty())
-        return fail(storeError);
-
->>>>>>> settings
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
     olMainWindow window(session);
-<<<<<<< HEAD
     if (!loadPlugin(session, options))
         return 1;
-=======
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
->>>>>>> settings
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();

@@ -2,12 +2,9 @@
 
 import json
 import os
-<<<<<<< HEAD
 import sqlite3
 import subprocess
-=======
 import unittest
->>>>>>> settings
 
 import tool_test
 
