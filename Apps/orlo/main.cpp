@@ -6,6 +6,7 @@
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
 #include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
@@ -78,7 +79,7 @@ QString uselessOption(const QCommandLineParser &options)
         if (isRendering && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 does not go with --render").arg(QLatin1String(option));
     }
-    for (const char *option : {"preferences", "tour"}) {
+    for (const char *option : {"preferences", "setting", "tour"}) {
         if (isBatch(options) && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 needs a window, which --render and --save do without")
                 .arg(QLatin1String(option));
@@ -215,6 +216,11 @@ int run(const QCommandLineParser &options)
         window.openModel(models.first());
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
+    const QString setting = options.value(QStringLiteral("setting"));
+    if (!setting.isEmpty() && !window.openPreferences().openAt(setting)) {
+        session.stop();
+        return refuse(QStringLiteral("no page has the setting \"%1\"").arg(setting));
+    }
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
@@ -288,6 +294,8 @@ int main(int argc, char *argv[])
     options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
                                   QStringLiteral("[model]"));
     options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
+    options.addOption(
+        {QStringLiteral("setting"), QStringLiteral("Open the preferences at a setting."), QStringLiteral("key")});
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});

@@ -8,6 +8,7 @@ namespace
 constexpr auto placeKey = "preferencesDialog/place";
 constexpr auto splitterKey = "preferencesDialog/splitter";
 constexpr auto pageKey = "preferencesDialog/page";
+constexpr auto openKey = "preferencesDialog/openCategories";
 
 } // namespace
 
@@ -15,7 +16,7 @@ olDialogMemory olDialogMemory::recall()
 {
     const QSettings settings;
     return {settings.value(QLatin1String(placeKey)).toRect(), settings.value(QLatin1String(splitterKey)).toByteArray(),
-            settings.value(QLatin1String(pageKey)).toString()};
+            settings.value(QLatin1String(pageKey)).toString(), settings.value(QLatin1String(openKey)).toStringList()};
 }
 
 void olDialogMemory::keep() const
@@ -24,4 +25,5 @@ void olDialogMemory::keep() const
     settings.setValue(QLatin1String(placeKey), place);
     settings.setValue(QLatin1String(splitterKey), splitter);
     settings.setValue(QLatin1String(pageKey), page);
+    settings.setValue(QLatin1String(openKey), openCategories);
 }

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 /// What the preferences dialog remembers from one run to the next, in the settings of the application.
 struct ORLO_HOST_EXPORT olDialogMemory {
@@ -12,6 +13,7 @@ struct ORLO_HOST_EXPORT olDialogMemory {
     QRect place; ///< without the window's frame
     QByteArray splitter;
     QString page;
+    QStringList openCategories;
 
     [[nodiscard]] static olDialogMemory recall();
     void keep() const;

@@ -30,6 +30,14 @@ olModuleTree::olModuleTree()
     setRootIsDecorated(true);
     setUniformRowHeights(true);
     setAccessibleName(tr("Modules"));
+    connect(this, &QTreeWidget::itemExpanded, this, [this](const QTreeWidgetItem *item) {
+        if (!m_isFiltered && !m_open.contains(item->text(NameColumn)))
+            m_open << item->text(NameColumn);
+    });
+    connect(this, &QTreeWidget::itemCollapsed, this, [this](const QTreeWidgetItem *item) {
+        if (!m_isFiltered)
+            m_open.removeAll(item->text(NameColumn));
+    });
 }
 
 /// Most styles let the current row look the same whether the keys go to the tree or not.
@@ -76,7 +84,7 @@ void olModuleTree::list()
             if (entry->page())
                 add(*entry);
         }
-        expandAll();
+        foldAgain();
     }
     if (!choose(name) && topLevelItemCount() > 0)
         setCurrentItem(topLevelItem(0));
@@ -158,6 +166,7 @@ void olModuleTree::showOnly(const std::map<const olPreferencesEntry *, int> &ent
             isShown = isShown || isAsked(*item.child(row));
         item.setHidden(!isShown);
     });
+    m_isFiltered = true;
     expandAll();
     const QTreeWidgetItem *current = currentItem();
     if (first && (!current || !isAsked(*current)))
@@ -170,8 +179,25 @@ void olModuleTree::showAll()
         item.setHidden(false);
         item.setText(CountColumn, QString());
     });
+    m_isFiltered = false;
+    foldAgain();
     if (currentItem())
         scrollToItem(currentItem());
+}
+
+void olModuleTree::setOpenCategories(const QStringList &names)
+{
+    m_open = names;
+    foldAgain();
+}
+
+/// The current module stays in sight all the same.
+void olModuleTree::foldAgain()
+{
+    const QStringList open = m_open;
+    for (int row = 0; row < topLevelItemCount(); ++row)
+        topLevelItem(row)->setExpanded(m_isFiltered || open.contains(topLevelItem(row)->text(NameColumn)));
+    m_open = open;
 }
 
 void olModuleTree::markPending(const std::vector<const olPreferencesEntry *> &entries)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QTreeWidget>
 
 #include <map>
@@ -34,6 +35,10 @@ public:
     /// Marks the modules with changes that are not applied yet, and no others.
     void markPending(const std::vector<const olPreferencesEntry *> &entries);
 
+    /// Categories that are not folded; none is at first. What a search unfolds does not count.
+    [[nodiscard]] QStringList openCategories() const { return m_open; }
+    void setOpenCategories(const QStringList &names);
+
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
@@ -44,4 +49,8 @@ private:
     [[nodiscard]] QTreeWidgetItem *categoryItem(const QString &category);
     [[nodiscard]] olPreferencesEntry *entryOf(const QTreeWidgetItem *item) const;
     template <class Use> void eachItem(Use &&use) const;
+    void foldAgain();
+
+    QStringList m_open;
+    bool m_isFiltered = false;
 };

@@ -237,13 +237,15 @@ void olPreferencesDialog::recall()
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
         m_splitter->setSizes({character * 26, character * 104});
     m_splitter->setChildrenCollapsible(false);
+    m_tree->setOpenCategories(memory.openCategories);
     m_tree->choose(memory.page);
 }
 
 void olPreferencesDialog::remember() const
 {
     const olPreferencesEntry *entry = m_tree->chosen();
-    olDialogMemory{m_place, m_splitter->saveState(), entry ? entry->name() : QString()}.keep();
+    olDialogMemory{m_place, m_splitter->saveState(), entry ? entry->name() : QString(), m_tree->openCategories()}
+        .keep();
 }
 
 void olPreferencesDialog::open(const QString &name)
@@ -307,6 +309,8 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
         m_searchField->clear();
     else if (isEnter && m_searchField->hasFocus())
         goToFound(m_foundList->currentRow());
+    else if (isEnter && !qobject_cast<QPushButton *>(focusWidget()))
+        event->accept(); // ends the typing in a field; nothing is applied and nothing closes by it
     else if (event->key() == Qt::Key_Down && m_searchField->hasFocus())
         (m_foundList->isVisible() ? static_cast<QWidget *>(m_foundList) : m_tree)->setFocus(Qt::TabFocusReason);
     else if (!asksForMenu || !m_menu->openFor(focusWidget()))
@@ -673,6 +677,16 @@ void olPreferencesDialog::revealFirstHit()
     frame->reveal(first == hits.end() ? hits.front() : *first);
 }
 
+bool olPreferencesDialog::openAt(const QString &key)
+{
+    const olFoundControl *control = m_search->control(key.toStdString());
+    if (!control || !control->widget)
+        return false;
+    open({});
+    goTo(key);
+    return true;
+}
+
 void olPreferencesDialog::goTo(const QString &key)
 {
     const olPreferencesEntry *owner = m_pending->ownerOf(key.toStdString());
@@ -709,7 +723,7 @@ void olPreferencesDialog::refresh()
     const std::vector<olPendingChange> changes = m_pending->list();
     const std::size_t count = changes.size();
     m_changes->setText(changesText(count));
-    m_changes->setEnabled(count > 0);
+    m_changes->setVisible(count > 0);
     QPushButton *apply = m_buttons->button(QDialogButtonBox::Apply);
     // What is disabled would hand the focus on to whatever comes next.
     if (count == 0 && (apply->hasFocus() || m_changes->hasFocus()))

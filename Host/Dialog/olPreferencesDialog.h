@@ -50,6 +50,9 @@ public:
     void open(const QString &name);
     void open() override { open(QString()); }
 
+    /// The same at the control of a setting. False, with nothing opened, where no page has one.
+    [[nodiscard]] bool openAt(const QString &key);
+
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
 

@@ -90,6 +90,13 @@ void olTesselationSettings::setConnections()
     updateEnabled();
 }
 
+void olTesselationSettings::setQualityEnds(QWidget &lowest, QWidget &highest)
+{
+    auto *row = static_cast<QHBoxLayout *>(m_qualityRow->layout());
+    row->insertWidget(0, &lowest);
+    row->addWidget(&highest);
+}
+
 void olTesselationSettings::enableGroups(unsigned groups)
 {
     m_groups = groups;
@@ -183,9 +190,7 @@ void olTesselationSettings::addQuality(QFormLayout &rows)
 
     auto *row = new QHBoxLayout(m_qualityRow);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(new QLabel(tr("Lowest"), m_qualityRow));
     row->addWidget(m_quality, 1);
-    row->addWidget(new QLabel(tr("Highest"), m_qualityRow));
     rows.addRow(m_qualityLabel, m_qualityRow);
 }
 

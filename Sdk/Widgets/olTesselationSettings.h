@@ -36,6 +36,9 @@ public:
     /// what they switch. A second call does nothing.
     void setConnections();
 
+    /// Takes what names the ends of the quality slider from the form, and puts it there.
+    void setQualityEnds(QWidget &lowest, QWidget &highest);
+
     /// Enables the groups whose bits are set and disables the others; further bits mean nothing. At first all are
     /// enabled.
     void enableGroups(unsigned groups);

@@ -24,7 +24,7 @@ TEST_F(PreferencesDialog, ApplyIsOfferedOnlyWhileThePageDiffersFromItsFilling)
 {
     start();
     EXPECT_FALSE(canApply());
-    EXPECT_FALSE(changes()->isEnabled());
+    EXPECT_FALSE(changes()->isVisible());
 
     module.page.samples->setFocus();
     QTest::keyClick(module.page.samples, Qt::Key_Up);
@@ -153,6 +153,26 @@ TEST_F(PreferencesDialog, EnterOnTheQuestionBeforeLeavingStaysAndTheQuestionName
     EXPECT_TRUE(question.contains(QStringLiteral("Studio: Samples"))) << question.toStdString();
 }
 
+TEST_F(PreferencesDialog, EnterInAFieldAppliesNothingAndClosesNothing)
+{
+    start();
+    for (QWidget *field :
+         std::initializer_list<QWidget *>{module.page.samples, module.page.mode, module.page.shadows}) {
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_TRUE(dialog->isVisible());
+    }
+    module.page.samples->setFocus();
+    QTest::keyClicks(module.page.samples, QStringLiteral("7"));
+    QTest::keyClick(module.page.samples, Qt::Key_Enter);
+    EXPECT_TRUE(canApply());
+    EXPECT_EQ(module.applied, 0);
+    button(QDialogButtonBox::Ok)->setFocus();
+    QTest::keyClick(button(QDialogButtonBox::Ok), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(module.applied, 1);
+}
+
 TEST_F(PreferencesDialog, AfterApplyTheFocusIsWhereOneWorked)
 {
     start();
@@ -251,6 +271,11 @@ TEST_F(PreferencesDialog, RemembersItsSizeAndPageAndNeverOutgrowsTheScreen)
     dialog->open(QString());
     EXPECT_EQ(dialog->geometry(), QRect(41, 83, 611, 433));
     EXPECT_TRUE(other.page.isVisible());
+    EXPECT_TRUE(dialog->openAt(QStringLiteral("Studio title")));
+    EXPECT_EQ(dialog->focusWidget()->window(), dialog.get());
+    EXPECT_TRUE(dialog->focusWidget() == module.page.title || dialog->focusWidget() == other.page.title);
+    EXPECT_FALSE(dialog->openAt(QStringLiteral("Studio seed"))) << "no page has it";
+    dialog->open(QStringLiteral("Other"));
     EXPECT_LE(dialog->minimumSizeHint().width(), 400);
     EXPECT_LE(dialog->minimumSizeHint().height(), 300);
 

@@ -205,6 +205,27 @@ TEST_F(PreferencesDialogSearch, ChangedOnlyIsOneListOfAllThatDiffersAndIsAlwaysC
     EXPECT_EQ(listed(), (QStringList{"Studio", "Family", "Plain"}));
 }
 
+TEST_F(PreferencesDialogSearch, ACategoryStaysFoldedUntilItIsOpenedAndIsRemembered)
+{
+    const PlainModule plain;
+    start();
+    const auto family = [this] {
+        return dialog->findChild<QTreeWidget *>()->findItems(QStringLiteral("Family"), Qt::MatchExactly).value(0);
+    };
+    EXPECT_FALSE(family()->isExpanded());
+    type(QStringLiteral("untagged"));
+    EXPECT_TRUE(family()->isExpanded()) << "what was found is in sight";
+    search()->clear();
+    EXPECT_FALSE(family()->isExpanded());
+    family()->setExpanded(true);
+    dialog->reject();
+    dialog = std::make_unique<olPreferencesDialog>(*session);
+    EXPECT_TRUE(family()->isExpanded());
+    family()->setExpanded(false);
+    dialog->open({});
+    dialog->reject();
+}
+
 TEST_F(PreferencesDialogSearch, FindsModulesThatComeWhileTheDialogIsOpen)
 {
     start();
