@@ -218,6 +218,7 @@ int run(const QCommandLineParser &options)
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
     if (!setting.isEmpty() && !window.openPreferences().openAt(setting)) {
+        window.closePreferences();
         session.stop();
         return refuse(QStringLiteral("no page has the setting \"%1\"").arg(setting));
     }

@@ -154,11 +154,8 @@ void olModuleTree::showOnly(const std::map<const olPreferencesEntry *, int> &ent
         const olPreferencesEntry *entry = entryOf(&item);
         return entry && entries.count(entry) != 0;
     };
-    QTreeWidgetItem *first = nullptr;
     eachItem([&](QTreeWidgetItem &item) {
         bool isShown = isAsked(item);
-        if (isShown && !first)
-            first = &item;
         const int count = isShown ? entries.at(entryOf(&item)) : 0;
         item.setText(CountColumn, count > 0 ? QString::number(count) : QString());
         item.setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
@@ -168,9 +165,6 @@ void olModuleTree::showOnly(const std::map<const olPreferencesEntry *, int> &ent
     });
     m_isFiltered = true;
     expandAll();
-    const QTreeWidgetItem *current = currentItem();
-    if (first && (!current || !isAsked(*current)))
-        setCurrentItem(first);
 }
 
 void olModuleTree::showAll()

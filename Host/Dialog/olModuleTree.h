@@ -27,8 +27,8 @@ public:
     /// False, with nothing changed, for a name that is not listed.
     bool choose(const QString &name);
 
-    /// Hides the modules that are not among these, and moves to the first that is if the current one is not. The number
-    /// beside each says how much was found there.
+    /// Hides the modules that are not among these, be it the current one. The number beside each says how much was
+    /// found there.
     void showOnly(const std::map<const olPreferencesEntry *, int> &entries);
     void showAll();
 

@@ -722,12 +722,12 @@ void olPreferencesDialog::refresh()
     m_refresh.stop();
     const std::vector<olPendingChange> changes = m_pending->list();
     const std::size_t count = changes.size();
-    m_changes->setText(changesText(count));
-    m_changes->setVisible(count > 0);
     QPushButton *apply = m_buttons->button(QDialogButtonBox::Apply);
-    // What is disabled would hand the focus on to whatever comes next.
+    // What is disabled or goes would hand the focus on to whatever comes next.
     if (count == 0 && (apply->hasFocus() || m_changes->hasFocus()))
         (m_workedAt && m_workedAt->isVisible() && m_workedAt->isEnabled() ? m_workedAt.data() : m_tree)->setFocus();
+    m_changes->setText(changesText(count));
+    m_changes->setVisible(count > 0);
     apply->setEnabled(count > 0);
     std::vector<const olPreferencesEntry *> pending;
     for (const olPendingChange &change : changes)
