@@ -28,7 +28,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -541,11 +540,7 @@ void olPreferencesDialog::filter()
     std::map<const olPreferencesEntry *, int> counts;
     for (const Found &found : m_found)
         counts[found.entry] += found.control.widget ? 1 : 0;
-    {
-        // The list is what is looked at now; the page of the current module is not filled for that.
-        const QSignalBlocker quiet(m_tree);
-        m_tree->showOnly(counts);
-    }
+    m_tree->showOnly(counts);
     showFound();
 }
 
