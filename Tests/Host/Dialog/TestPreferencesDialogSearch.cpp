@@ -168,9 +168,10 @@ TEST_F(PreferencesDialogSearch, EscapeClearsTheSearchBeforeItCloses)
 
 TEST_F(PreferencesDialogSearch, ChangedOnlyIsOneListOfAllThatDiffersAndIsAlwaysCurrent)
 {
-    StudioModule::getData().set("Studio mode", 1, true);
     const PlainModule plain;
     start();
+    module.page.mode->setCurrentIndex(1);
+    ASSERT_TRUE(dialog->apply());
     auto *changedOnly = dialog->findChild<QCheckBox *>(QStringLiteral("changedOnly"));
     changedOnly->setChecked(true);
     EXPECT_EQ(listed(), QStringList{"Studio"});

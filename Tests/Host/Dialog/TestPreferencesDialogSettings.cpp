@@ -82,8 +82,9 @@ TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
 
 TEST_F(PreferencesDialogSettings, TheMenuIsACardThatTellsOriginAndTakesBack)
 {
-    StudioModule::getData().set("Studio mode", 1, true);
     start(R"({"Studio title": {"value": "Ours"}})");
+    module.page.mode->setCurrentIndex(1);
+    ASSERT_TRUE(dialog->apply());
     const auto origin = [this](QWidget &control) {
         const QAction *fact = menuAction(control, QStringLiteral("origin"));
         const QString text = fact ? fact->text() : QString();
