@@ -3,6 +3,7 @@
 #include <QFrame>
 
 class QLabel;
+class QToolButton;
 
 /// One line of the dialog that says what went wrong or what was done. Out of sight while there is nothing to say.
 class olMessageLine : public QFrame
@@ -17,10 +18,12 @@ public:
     void clear();
 
     [[nodiscard]] QString text() const;
+    [[nodiscard]] QWidget &closeButton() const { return *m_close; }
 
 private:
     void show(const QString &text, bool isError);
 
     QLabel *m_icon;
     QLabel *m_text;
+    QToolButton *m_close;
 };

@@ -447,18 +447,25 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
         m_menu->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
         frame->marks().setHits(m_hits.value(&entry));
+        connect(&frame->marks(), &olSettingMarks::clicked, this,
+                [this](QWidget *control, const QPoint &place) { m_menu->openFor(control, place); });
     }
     return frame;
 }
 
 void olPreferencesDialog::lockSettings(olPreferencesEntry &entry, olPageFrame &frame)
 {
+    std::vector<olFoundControl> locked;
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
-            if (const auto reason = m_session.lockReason(key.toStdString()))
-                frame.lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
+            const auto reason = m_session.lockReason(key.toStdString());
+            if (!reason)
+                continue;
+            frame.lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
+            locked.push_back(control);
         }
     }
+    frame.marks().setLocked(locked);
 }
 
 /// What is disabled cannot be reached by keyboard, so the page's locked settings are also listed in its header.
@@ -472,8 +479,10 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
             if (!reason)
                 continue;
             const QString text = tr("%1 is locked: %2").arg(control.name, *reason);
-            menu->addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this,
-                            [this, text] { m_message->showNote(text); });
+            menu->addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this, [this, text, key] {
+                goTo(key);
+                m_message->showNote(text);
+            });
         }
     }
     m_locked->setText(tr("%1 Locked").arg(menu->actions().size()));
@@ -492,9 +501,9 @@ std::vector<QWidget *> olPreferencesDialog::tabStops() const
                 stops.push_back(widget);
         }
     }
-    for (QWidget *button : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
-                                                            m_buttons->button(QDialogButtonBox::Cancel),
-                                                            m_buttons->button(QDialogButtonBox::Apply)})
+    for (QWidget *button : std::initializer_list<QWidget *>{
+             &m_message->closeButton(), m_changes, m_buttons->button(QDialogButtonBox::Ok),
+             m_buttons->button(QDialogButtonBox::Cancel), m_buttons->button(QDialogButtonBox::Apply)})
         stops.push_back(button);
     const auto takesNoTab = [this](const QWidget *widget) {
         return !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() || !widget->isVisible() ||
@@ -699,17 +708,17 @@ void olPreferencesDialog::goTo(const QString &key)
     widget->setFocus(Qt::TabFocusReason);
 }
 
-std::vector<olFoundControl> olPreferencesDialog::changedOn(const olPreferencesEntry &entry) const
+std::vector<olFoundControl>
+olPreferencesDialog::controlsOn(const olPreferencesEntry &entry,
+                                const std::function<bool(const std::string &key)> &isWanted) const
 {
-    std::vector<olFoundControl> changed;
+    std::vector<olFoundControl> wanted;
     for (const olFoundControl &control : m_search->controls(entry)) {
-        const bool differs = std::any_of(control.keys.begin(), control.keys.end(), [&](const QString &key) {
-            return m_pending->differsFromDefault(entry, key.toStdString());
-        });
-        if (differs)
-            changed.push_back(control);
+        if (std::any_of(control.keys.begin(), control.keys.end(),
+                        [&](const QString &key) { return isWanted(key.toStdString()); }))
+            wanted.push_back(control);
     }
-    return changed;
+    return wanted;
 }
 
 void olPreferencesDialog::refresh()
@@ -734,8 +743,12 @@ void olPreferencesDialog::refresh()
     else if (m_changedOnly->isChecked())
         filter();
     const olPreferencesEntry *entry = m_tree->chosen();
-    if (olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr)
-        frame->marks().setChanged(changedOn(*entry));
+    olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr;
+    if (!frame)
+        return;
+    frame->marks().setChanged(
+        controlsOn(*entry, [&](const std::string &key) { return m_pending->differsFromDefault(*entry, key); }));
+    frame->marks().setPending(controlsOn(*entry, [&](const std::string &key) { return m_pending->isPending(key); }));
 }
 
 /// As a person finds it: the page and the control's name; without a control the key.

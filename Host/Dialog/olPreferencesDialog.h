@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <boost/any.hpp>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -115,7 +116,8 @@ private:
     void goToFound(int row);
     void openMenuOfFound(int row, const QPoint &globalPosition);
     void goTo(const QString &key);
-    [[nodiscard]] std::vector<olFoundControl> changedOn(const olPreferencesEntry &entry) const;
+    [[nodiscard]] std::vector<olFoundControl>
+    controlsOn(const olPreferencesEntry &entry, const std::function<bool(const std::string &key)> &isWanted) const;
     [[nodiscard]] QString placeOf(const std::string &key) const;
 
     void refresh();

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFormLayout>
 #include <QMenu>
 #include <QTest>
 
@@ -47,6 +48,40 @@ TEST_F(PreferencesDialogSettings, MarksWhatDiffersFromItsDefaultAsItIsEdited)
     module.page.mode->setCurrentIndex(0);
     EXPECT_EQ(marked(), QStringList());
     EXPECT_TRUE(module.page.mode->accessibleDescription().isEmpty());
+}
+
+TEST_F(PreferencesDialogSettings, TheMarkTellsPendingFromAppliedAndFromLockedAndOpensTheCard)
+{
+    start(R"({"Studio mode": {"locked": true}})");
+    auto &page = module.page;
+    auto *marks = page.findChild<olSettingMarks *>();
+    const auto margin = [&](const QWidget &control, const QWidget &label) {
+        QCoreApplication::processEvents();
+        const QRect row(label.mapTo(&page, QPoint()) - QPoint(9, 0), QSize(9, control.height()));
+        QImage picture(row.size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        marks->render(&picture, QPoint(), row, QWidget::RenderFlags());
+        return picture;
+    };
+    const QImage nothing = margin(*page.samples, *page.samplesLabel);
+    page.samples->setValue(9);
+    const QImage pending = margin(*page.samples, *page.samplesLabel);
+    EXPECT_NE(pending, nothing);
+    ASSERT_TRUE(dialog->apply());
+    const QImage applied = margin(*page.samples, *page.samplesLabel);
+    EXPECT_NE(applied, nothing);
+    EXPECT_NE(applied, pending);
+
+    // The mark is before the label, on the tab's page.
+    QWidget *tab = page.samplesLabel->parentWidget();
+    QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, page.samplesLabel->geometry().topLeft() + QPoint(-4, 4));
+    auto *card = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_NE(card, nullptr);
+    EXPECT_NE(card->findChild<QAction *>(QStringLiteral("copyKey")), nullptr);
+    card->close();
+    EXPECT_EQ(marks->markedAt(page.shadows->mapTo(&page, QPoint(-4, 4))), nullptr) << "a default has no mark";
+    const auto *modeLabel = qobject_cast<QFormLayout *>(tab->layout())->labelForField(page.mode);
+    EXPECT_EQ(marks->markedAt(modeLabel->mapTo(&page, QPoint(-4, modeLabel->height() / 2))), page.mode);
 }
 
 TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
@@ -196,6 +231,13 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     EXPECT_TRUE(locked->isVisible()) << "by keyboard, which cannot reach what is disabled";
     ASSERT_EQ(locked->menu()->actions().size(), 1);
     EXPECT_TRUE(locked->menu()->actions().first()->text().contains(QStringLiteral("The farm needs it.")));
+    module.page.tabs->setCurrentIndex(1);
+    locked->menu()->actions().first()->trigger();
+    EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "it leads to the setting";
+    auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
+    EXPECT_TRUE(message->isVisible());
+    QTest::mouseClick(dialog->findChild<QWidget *>(QStringLiteral("closeMessage")), Qt::LeftButton);
+    EXPECT_FALSE(message->isVisible());
 
     module.page.samples->setValue(3);
     EXPECT_FALSE(canApply()) << "it is put back at once";
