@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QFrame>
+#include <QToolButton>
 
 class QLabel;
-class QToolButton;
 
 /// One line of the dialog that says what went wrong or what was done. Out of sight while there is nothing to say.
 class olMessageLine : public QFrame
