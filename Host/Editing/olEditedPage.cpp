@@ -128,8 +128,11 @@ void olEditedPage::settle()
     for (const std::string &key : m_keys) {
         // Made the host's own, as the library that holds it may go first.
         const boost::any value = olValue::adopted(m_entry.value(key));
-        const std::string told = olSettingDescription::of(m_entry, key).type;
-        m_types[key] = told.empty() ? olValue::typeName(value) : told;
+        // Only what is absent by default has to be asked about.
+        const olOfferedDefault *offered = m_entry.findDefault(key);
+        const std::string type =
+            offered ? olValue::typeName(offered->value) : olSettingDescription::of(m_entry, key).type;
+        m_types[key] = type.empty() ? olValue::typeName(value) : type;
         m_filled[key] = {value, valueOnPage(key)};
     }
     m_untagged = untaggedState();

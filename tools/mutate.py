@@ -1,0 +1,216 @@
+"""Changes one place of one source at a time and tells which changes no test notices.
+
+    tools/mutate.sh FOLDER [--count N] [--seed S] [--again]
+
+A place is a condition, a number, a text such as a key, a call left out, or two calls swapped; of a form what it says of
+a control. N of them (30) are drawn by the seed (1), as many of each kind as there are. Each is changed in a copy of the
+sources as committed, under build/mutate; there the copy is built, and its quick tests are run, then all others that can see the
+folder. Where no test fails, the change has survived: a test is missing, or nobody could notice it. A change that does
+not compile counts for nothing, and another one is drawn.
+
+What came out stands in build/mutate/FOLDER-S.json. The same command goes on where it was stopped; with --again it tries
+those that survived once more, for when the tests have become sharper. The environment may name a command that building
+and testing is run through (MUTATE_RUN="nice -n 5") and options for configuring the copy (MUTATE_CMAKE).
+"""
+
+import argparse
+import json
+import os
+import random
+import re
+import shlex
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+WORK = ROOT / "build/mutate"
+COPY = WORK / "copy"
+
+# The programs whose tests can see a folder; of any other folder it is all of them. The view and the window are left
+# out, as they take long: what reaches them from a setting is seen in the calls before.
+SEES = {
+    "Plugins": ["orlo-prefs", "plugins-tests", "model-tests", "forms-tests"],
+}
+QUICK_SECONDS = 1.0  # on the unchanged copy
+HUNG_SECONDS = 120
+
+OPPOSITES = {"==": "!=", "!=": "==", "<": ">=", ">": "<=", "<=": ">", ">=": "<", "&&": "||", "||": "&&",
+             "true": "false", "false": "true", "!": "", "if (": "if (!"}
+CONDITION = re.compile(r"(?<= )(?:==|!=|<=|>=|<|>|&&|\|\|)(?= )|\b(?:true|false)\b|(?<=[( ])!(?=[\w(])|\bif \((?=\w)")
+NUMBER = re.compile(r"(?<![\w.\"'<])\d+(?:\.\d+)?(?=[fu]?[^\w.\"'])")
+TEXT = re.compile(r'"((?:[^"\\]|\\.)+)"')
+CALL = re.compile(r"^\s+(?!(?:return|delete|using|throw|case) )[\w:.>()*-]+\(.*\);$")
+IN_FORM = re.compile(r"<(number|double|bool|string|set)(?: [^>]*)?>([^<]+)<")
+
+
+def increased(number):
+    return str(float(number) + 1) if "." in number else str(int(number) + 1)
+
+
+def changes_of_form(line):
+    for found in IN_FORM.finditer(line):
+        kind, text = found.groups()
+        other = {"number": increased, "double": increased, "bool": OPPOSITES.get, "string": lambda text: text + "x",
+                 "set": lambda text: text.partition("|")[0] if "|" in text else None}[kind](text.lstrip("-"))
+        if other:
+            yield "form", line[:found.start(2)] + other + line[found.end(2):]
+
+
+def changes_of_code(lines, at, isHeader):
+    """What a line can become. Where two calls are swapped, it becomes the next one, too."""
+    line = lines[at]
+    code = line.partition("//")[0]
+    if code.lstrip().startswith(("#", "static_assert", "Q_ASSERT")):
+        return
+    for found in CONDITION.finditer(code):
+        yield "condition", line[:found.start()] + OPPOSITES[found.group()] + line[found.end():]
+    for found in NUMBER.finditer(code):
+        yield "number", line[:found.start()] + increased(found.group()) + line[found.end():]
+    for found in TEXT.finditer(code):
+        yield "text", line[:found.end(1)] + "x" + line[found.end(1):]
+    # What stands less deep in a header is declared there.
+    isCall = CALL.match(code) and (not isHeader or code.startswith(8 * " "))
+    if isCall and lines[at - 1].endswith((";", "{", "}", ")", ":", "else")):
+        indent = line[:len(line) - len(line.lstrip())]
+        yield "call left out", indent + ";"
+        if CALL.match(lines[at + 1]) and lines[at + 1] != line and lines[at + 1].startswith(indent):
+            yield "calls swapped", lines[at + 1] + "\n" + line
+
+
+def drawn(folder, seed):
+    """All places in the order in which they are tried: one of each kind, then the next one of each."""
+    kinds = {}
+    for path in sorted((COPY / folder).rglob("*")):
+        name = str(path.relative_to(COPY))
+        lines = path.read_text().split("\n") if path.suffix in (".cpp", ".h", ".ui") else []
+        for at, line in enumerate(lines):
+            found = changes_of_form(line) if path.suffix == ".ui" else changes_of_code(lines, at, path.suffix == ".h")
+            for kind, other in found:
+                place = {"file": name, "line": at + 1, "kind": kind, "was": line, "is": other}
+                kinds.setdefault(kind, []).append(place)
+    chance = random.Random(seed)
+    for kind in sorted(kinds):
+        chance.shuffle(kinds[kind])
+    while any(kinds.values()):
+        yield from (kinds[kind].pop() for kind in sorted(kinds) if kinds[kind])
+
+
+class Copy:
+    """The sources as they are committed, built and tested without getting in anyone's way."""
+
+    def __init__(self, folder):
+        self.programs = SEES.get(folder.strip("/"), [])
+        if not COPY.exists():
+            self.git("clone", "--quiet", "--no-checkout", ROOT, COPY)
+        before = self.git("-C", COPY, "rev-parse", "HEAD")
+        self.git("-C", COPY, "fetch", "--quiet", ROOT, "HEAD")
+        # Files that are the same keep their times, so that only what changed is built.
+        self.git("-C", COPY, "checkout", "--quiet", "--force", "--detach", "FETCH_HEAD")
+        known = WORK / f"{self.name(folder)}-tests.json"
+        if not known.exists() or self.git("-C", COPY, "rev-parse", "HEAD") != before:
+            known.unlink(missing_ok=True)
+            known.write_text(json.dumps(self.measured()))
+        self.quick, self.others = json.loads(known.read_text())
+
+    @staticmethod
+    def git(*command):
+        return subprocess.run(["git", *map(str, command)], text=True, stdout=subprocess.PIPE, check=True).stdout
+
+    @staticmethod
+    def name(folder):
+        return folder.strip("/").replace("/", "-")
+
+    def measured(self):
+        """The numbers of the quick tests and of the others, all of which pass on the unchanged sources."""
+        self.run("cmake", "-S", COPY, "-B", COPY / "build", "-G", "Ninja",
+                 *shlex.split(os.environ.get("MUTATE_CMAKE", "")))
+        numbers = self.tests() if self.builds() else sys.exit("the unchanged sources do not build")
+        fault = self.failure(numbers.values())
+        if fault:
+            sys.exit(f"{fault} fails on the unchanged sources")
+        costs = (COPY / "build/Testing/Temporary/CTestCostData.txt").read_text().partition("---")[0]
+        slow = {line.split()[0] for line in costs.splitlines() if float(line.split()[2]) > QUICK_SECONDS}
+        return ([number for name, number in numbers.items() if name not in slow],
+                [number for name, number in numbers.items() if name in slow])
+
+    @staticmethod
+    def run(*command):
+        through = shlex.split(os.environ.get("MUTATE_RUN", ""))
+        return subprocess.run([*through, *map(str, command)], cwd=COPY, text=True, capture_output=True, check=False)
+
+    def builds(self):
+        return self.run("ninja", "-C", "build", *self.programs).returncode == 0
+
+    def tests(self):
+        shown = self.run("ctest", "--test-dir", "build", "--show-only=json-v1").stdout
+        numbers = {}
+        for number, test in enumerate(json.loads(shown)["tests"], 1):
+            command = " ".join(test.get("command", ["NOT_BUILT"]))
+            isSeen = any(f"/bin/{program}" in f"{command} " for program in self.programs) or "/lint/" in command
+            if (isSeen or not self.programs) and '"slow"' not in json.dumps(test):
+                numbers[test["name"]] = number
+        return numbers
+
+    def failure(self, numbers):
+        """The name of a test that fails, or nothing."""
+        done = self.run("ctest", "--test-dir", "build", "-I", "0,0,0," + ",".join(map(str, numbers)),
+                        "--stop-on-failure", "--timeout", HUNG_SECONDS, "--parallel", os.cpu_count())
+        found = re.findall(r"^\s+\d+ - (.+) \(", done.stdout, re.MULTILINE)
+        return found[0] if found else "ctest" if done.returncode else None
+
+    def verdict(self, place):
+        """The test that noticed the change, "" where none did, nothing where it did not compile."""
+        source = COPY / place["file"]
+        text = source.read_text()
+        lines = text.split("\n")
+        at = place["line"] - 1
+        if place["was"] not in lines[at:at + 1]:
+            at = lines.index(place["was"]) if place["was"] in lines else sys.exit(f"{place['file']} has changed")
+        lines[at:at + place["is"].count("\n") + 1] = place["is"].split("\n")
+        source.write_text("\n".join(lines))
+        try:
+            if not self.builds():
+                return None
+            return self.failure(self.quick) or (self.others and self.failure(self.others)) or ""
+        finally:
+            source.write_text(text)
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="tools/mutate.sh", description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("folder")
+    parser.add_argument("--count", type=int, default=30)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--again", action="store_true")
+    arguments = parser.parse_args()
+
+    kept = WORK / f"{Copy.name(arguments.folder)}-{arguments.seed}.json"
+    WORK.mkdir(parents=True, exist_ok=True)
+    tried = json.loads(kept.read_text()) if kept.exists() else []
+    known = {(place["file"], place["was"], place["is"]) for place in tried}
+    counted = [place for place in tried if place["verdict"] is not None]
+    copy = Copy(arguments.folder)
+    waiting = [place for place in counted if place["verdict"] == ""] if arguments.again else \
+        (place for place in drawn(arguments.folder, arguments.seed)
+         if (place["file"], place["was"], place["is"]) not in known)
+    for place in waiting:
+        if not arguments.again and len(counted) >= arguments.count:
+            break
+        place["verdict"] = copy.verdict(place)
+        if not arguments.again:
+            tried.append(place)
+            counted += [place] if place["verdict"] is not None else []
+        kept.write_text(json.dumps(tried, indent=1))
+        print(f"{len(counted)}: {place['file']}:{place['line']} ({place['kind']}): "
+              f"{'does not compile' if place['verdict'] is None else place['verdict'] or 'SURVIVED'}", flush=True)
+
+    survived = [place for place in counted if place["verdict"] == ""]
+    print(f"{len(counted)} changes, {len(survived)} survived")
+    for place in survived:
+        print(f"{place['file']}:{place['line']} ({place['kind']})\n-{place['was']}\n+{place['is']}")
+    sys.exit(1 if survived else 0)
+
+
+main()
