@@ -61,7 +61,11 @@ QIcon swatches(const std::vector<QColor> &colors, const QWidget &widget)
         painter.setBrush(colors[std::size_t(index)]);
         painter.drawRect(index * side, 0, side - 1, side - 1);
     }
-    return picture;
+    // Also in the current row, where a style would tint it.
+    QIcon icon;
+    for (const auto mode : {QIcon::Normal, QIcon::Selected})
+        icon.addPixmap(picture, mode);
+    return icon;
 }
 
 void showValue(QTreeWidgetItem &item, Column column, const QString &text, const boost::any &value)

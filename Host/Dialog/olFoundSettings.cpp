@@ -48,7 +48,9 @@ private:
 namespace
 {
 
-constexpr int originWidth = 14; // characters
+// In characters.
+constexpr int valueWidth = 18;
+constexpr int originWidth = 10;
 
 /// Draws a text with the words that were searched for in bold.
 class HitDelegate : public QStyledItemDelegate
@@ -111,7 +113,10 @@ olFoundSettings::olFoundSettings() : m_model(new olFoundModel(this))
     setAllColumnsShowFocus(true);
     header()->setSectionsMovable(false);
     header()->setSectionResizeMode(QHeaderView::Stretch);
-    header()->setSectionResizeMode(Origin, QHeaderView::Fixed);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(Value, QHeaderView::Interactive);
+    header()->setSectionResizeMode(Origin, QHeaderView::Interactive);
+    header()->resizeSection(Value, fontMetrics().averageCharWidth() * valueWidth);
     header()->resizeSection(Origin, fontMetrics().averageCharWidth() * originWidth);
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex &cell) { emit chosen(cell.row()); });
 }
