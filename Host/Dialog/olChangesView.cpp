@@ -135,7 +135,8 @@ QTreeWidget *olChangesView::addList(const QStringList &headers, const QString &n
     list->setAlternatingRowColors(true);
     list->setTextElideMode(Qt::ElideMiddle);
     // What is too long for its column is whole in its tooltip; no column pushes another one out of sight.
-    list->header()->setSectionResizeMode(QHeaderView::Stretch);
+    list->header()->setStretchLastSection(false);
+    list->header()->setSectionResizeMode(SettingColumn, QHeaderView::Stretch);
     const int swatch = list->fontMetrics().ascent();
     list->setIconSize({swatch * int(mostSwatches), swatch});
     return list;
@@ -251,6 +252,9 @@ void olChangesView::fit()
                        fontMetrics().height() * 8;
     const QSize room = parentWidget()->screen()->availableSize() * 9 / 10;
     resize(comfortable.expandedTo({0, height}).boundedTo(room));
+    for (const int column : {BeforeColumn, AfterColumn})
+        m_changes->setColumnWidth(column, width() * 28 / 100);
+    m_skipped->setColumnWidth(BeforeColumn, width() * 55 / 100);
 }
 
 void olChangesView::goThere()
