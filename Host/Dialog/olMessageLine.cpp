@@ -23,7 +23,10 @@ olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel), m_close
     m_close->setAutoRaise(true);
     m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     m_close->setAccessibleName(tr("Close the message"));
-    connect(m_close, &QToolButton::clicked, this, &olMessageLine::clear);
+    connect(m_close, &QToolButton::clicked, this, [this] {
+        clear();
+        emit closed();
+    });
     setVisible(false);
 }
 

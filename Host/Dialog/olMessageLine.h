@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QFrame>
-#include <QToolButton>
 
 class QLabel;
+class QToolButton;
 
 /// One line of the dialog that says what went wrong or what was done. Out of sight while there is nothing to say.
 class olMessageLine : public QFrame
@@ -18,7 +18,10 @@ public:
     void clear();
 
     [[nodiscard]] QString text() const;
-    [[nodiscard]] QWidget &closeButton() const { return *m_close; }
+
+signals:
+    /// By its button; it is out of sight then.
+    void closed();
 
 private:
     void show(const QString &text, bool isError);

@@ -2,9 +2,12 @@
 
 #include "Dialog/olChangesView.h"
 #include "Dialog/olDialogMemory.h"
+#include "Dialog/olHistoryView.h"
 #include "Dialog/olMessageLine.h"
 #include "Dialog/olModuleTree.h"
+#include "Dialog/olOutsideLine.h"
 #include "Dialog/olPageFrame.h"
+#include "Dialog/olProfilesMenu.h"
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
 #include "Dialog/olWindowPlace.h"
@@ -12,9 +15,11 @@
 #include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
+#include "Session/olUndo.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
@@ -71,6 +76,9 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_nothing(new QLabel),
       m_foundList(new olFoundSettings),
       m_message(new olMessageLine),
+      m_outside(new olOutsideLine(
+          session, *m_pending, [this](const std::string &key) { return placeOf(key); },
+          [](const std::string &key, const boost::any &value) { return olShortValueText(key, value); })),
       m_changes(new QPushButton),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel))
 {
@@ -84,6 +92,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_splitter, 1);
+    layout->addWidget(m_outside);
     layout->addWidget(m_message);
     layout->addWidget(buildBottom());
 
@@ -116,6 +125,16 @@ QWidget *olPreferencesDialog::buildLeft()
     auto *menu = new QMenu(m_more);
     menu->addAction(tr("&Import..."), this, &olPreferencesDialog::chooseImport);
     menu->addAction(tr("&Export..."), this, &olPreferencesDialog::chooseExport);
+    menu->addSeparator();
+    auto *profiles = new olProfilesMenu({m_session.store().file(), m_session.siteFiles()}, this);
+    menu->addMenu(profiles);
+    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_pending->inForce()); });
+    connect(profiles, &olProfilesMenu::done, m_message, &olMessageLine::showNote);
+    connect(profiles, &olProfilesMenu::failed, m_message, &olMessageLine::showError);
+    connect(profiles, &olProfilesMenu::chosen, this, [this](const QString &name, const QString &file) {
+        preview(tr("Apply Profile %1").arg(name), tr("&Apply"), olPreferencesFile::read(file));
+    });
+    menu->addAction(tr("&History..."), this, &olPreferencesDialog::showHistory);
     menu->addSeparator();
     menu->addAction(tr("&Restore All Defaults"), this, &olPreferencesDialog::restoreAll);
     m_more->setObjectName(QStringLiteral("more"));
@@ -283,6 +302,7 @@ void olPreferencesDialog::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     m_message->clear();
+    m_outside->clear();
     // Texts and choices may have changed since the last time.
     m_search->invalidate();
     filter();
@@ -501,9 +521,14 @@ std::vector<QWidget *> olPreferencesDialog::tabStops() const
                 stops.push_back(widget);
         }
     }
-    for (QWidget *button : std::initializer_list<QWidget *>{
-             &m_message->closeButton(), m_changes, m_buttons->button(QDialogButtonBox::Ok),
-             m_buttons->button(QDialogButtonBox::Cancel), m_buttons->button(QDialogButtonBox::Apply)})
+    // Both lines have buttons of their own while they are in sight.
+    for (const QWidget *line : {static_cast<QWidget *>(m_outside), static_cast<QWidget *>(m_message)}) {
+        const auto buttons = line->findChildren<QAbstractButton *>();
+        stops.insert(stops.end(), buttons.begin(), buttons.end());
+    }
+    for (QWidget *button : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
+                                                            m_buttons->button(QDialogButtonBox::Cancel),
+                                                            m_buttons->button(QDialogButtonBox::Apply)})
         stops.push_back(button);
     const auto takesNoTab = [this](const QWidget *widget) {
         return !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() || !widget->isVisible() ||
@@ -816,7 +841,12 @@ void olPreferencesDialog::chooseImport()
 
 void olPreferencesDialog::importFrom(const QString &file)
 {
-    const olPreferencesFile::Contents contents = olPreferencesFile::read(file);
+    preview(tr("Import Preferences"), tr("&Import"), olPreferencesFile::read(file));
+}
+
+void olPreferencesDialog::preview(const QString &title, const QString &action,
+                                  const olPreferencesFile::Contents &contents)
+{
     if (!contents.error.isEmpty()) {
         m_message->showError(contents.error);
         return;
@@ -824,18 +854,18 @@ void olPreferencesDialog::importFrom(const QString &file)
     const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
     const olPreferencesImport import(m_session, contents, valueOf);
 
-    auto *view = new olChangesView(tr("Import Preferences"), this);
+    auto *view = new olChangesView(title, this);
     view->setAttribute(Qt::WA_DeleteOnClose);
     view->setIntroduction(import.changes.empty()
-                              ? tr("Nothing in this file would change a setting.")
-                              : tr("These settings get the values of the file. They stay pending until OK or Apply."));
+                              ? tr("Nothing would change.")
+                              : tr("These settings get new values. They stay pending until OK or Apply."));
     std::vector<olListedChange> listed;
     for (const olPreferencesImport::Change &change : import.changes)
         listed.push_back(listedChange(change.key, change.before, change.after));
     view->setChanges(listed);
     for (const olSkippedSetting &skipped : import.skipped)
         view->addSkipped(QString::fromStdString(skipped.key), skipped.reason);
-    view->askFor(tr("&Import"));
+    view->askFor(action);
     connect(view, &QDialog::accepted, this, [this, view, import] {
         const QStringList ticked = view->ticked();
         olSettingValues values = import.values();
@@ -859,6 +889,28 @@ bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
     box.setEscapeButton(rejected);
     box.exec();
     return box.clickedButton() == accepted;
+}
+
+void olPreferencesDialog::showHistory()
+{
+    const olUndo undo(m_session, 0);
+    if (!undo.error().isEmpty()) {
+        m_message->showError(undo.error());
+        return;
+    }
+    auto *view = new olHistoryView(undo.history(), this);
+    view->setAttribute(Qt::WA_DeleteOnClose);
+    connect(view, &olHistoryView::chosen, this, &olPreferencesDialog::goBack);
+    view->open();
+}
+
+void olPreferencesDialog::goBack(std::size_t saves)
+{
+    const olUndo undo(m_session, saves);
+    olPreferencesFile::Contents earlier{{}, undo.left(), undo.error()};
+    for (const olStoreRows::Change &change : undo.changes())
+        earlier.settings[change.key.second] = undo.value(change.key, change.after);
+    preview(tr("Go Back"), tr("&Go Back"), earlier);
 }
 
 void olPreferencesDialog::chooseExport()

@@ -2,6 +2,7 @@
 
 #include "Dialog/olFoundSettings.h"
 #include "Editing/olSettingsSearch.h"
+#include "Session/olPreferencesFile.h"
 #include "olHostExport.h"
 
 #include <QDialog>
@@ -25,6 +26,7 @@ class QSplitter;
 class QStackedWidget;
 class olMessageLine;
 class olModuleTree;
+class olOutsideLine;
 class olPageFrame;
 class olPendingChanges;
 class olPreferencesEntry;
@@ -46,8 +48,8 @@ public:
     explicit olPreferencesDialog(olPreferencesSession &session, QWidget *parent = nullptr);
     ~olPreferencesDialog() override;
 
-    /// Opens the dialog, or brings it to the front, on the module of that name; an empty or unknown name keeps the
-    /// page that was shown last.
+    /// Opens the dialog, or brings it to the front, on the module of that name; an empty or unknown name keeps the page
+    /// that was shown last.
     void open(const QString &name);
     void open() override { open(QString()); }
 
@@ -56,6 +58,9 @@ public:
 
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
+
+    /// Lists the saves of the store, and makes going back before one of them pending if that is agreed to.
+    void showHistory();
 
     /// Writes the values in force, not those still pending.
     void exportTo(const QString &file);
@@ -129,6 +134,8 @@ private:
     [[nodiscard]] olListedChange listedChange(const std::string &key, const boost::any &before,
                                               const boost::any &after) const;
     [[nodiscard]] bool isAgreed(const olSettingWarning &question);
+    void preview(const QString &title, const QString &action, const olPreferencesFile::Contents &contents);
+    void goBack(std::size_t saves);
     void chooseImport();
     void chooseExport();
 
@@ -148,6 +155,7 @@ private:
     QLabel *m_nothing;
     olFoundSettings *m_foundList;
     olMessageLine *m_message;
+    olOutsideLine *m_outside;
     QPushButton *m_changes;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;

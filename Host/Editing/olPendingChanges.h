@@ -10,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -90,6 +91,8 @@ signals:
 
 private:
     void forgetTheGone();
+    void setAside(const olPreferencesEntry &entry);
+    void showAgain(const olPreferencesEntry &entry);
     void findOwners() const;
     [[nodiscard]] bool isAgreed(const std::string &key, const boost::any &value) const;
     [[nodiscard]] olSettingValues defaultsOf(const olPreferencesEntry &entry) const;
@@ -102,5 +105,7 @@ private:
     std::map<const olPreferencesEntry *, std::unique_ptr<olEditedPage>> m_pages;
     std::vector<olPreferencesEntry *> m_filled;
     olSettingValues m_withoutControl;
+    olSettingValues m_aside;
+    std::set<std::string> m_restored;
     mutable std::map<std::string, olPreferencesEntry *> m_owners;
 };

@@ -236,7 +236,7 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "it leads to the setting";
     auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
     EXPECT_TRUE(message->isVisible());
-    QTest::mouseClick(dialog->findChild<QWidget *>(QStringLiteral("closeMessage")), Qt::LeftButton);
+    QTest::mouseClick(message->findChild<QWidget *>(QStringLiteral("closeMessage")), Qt::LeftButton);
     EXPECT_FALSE(message->isVisible());
 
     module.page.samples->setValue(3);
