@@ -855,7 +855,8 @@ void olPreferencesDialog::preview(const QString &title, const QString &action,
     const olPreferencesImport import(m_session, contents, valueOf);
 
     auto *view = new olChangesView(title, this);
-    view->setAttribute(Qt::WA_DeleteOnClose);
+    // Not by its closing: a question may be asked before it has told what is ticked.
+    connect(view, &QDialog::finished, view, &QObject::deleteLater);
     view->setIntroduction(import.changes.empty()
                               ? tr("Nothing would change.")
                               : tr("These settings get new values. They stay pending until OK or Apply."));

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
+#include <utility>
 
 namespace
 {
@@ -24,18 +25,23 @@ int distance(const QString &left, const QString &right, int most)
 {
     if (std::abs(left.size() - right.size()) > most)
         return most + 1;
-    std::vector<int> row(std::size_t(right.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
+    std::vector<int> before(std::size_t(right.size()) + 1);
+    std::iota(before.begin(), before.end(), 0);
+    std::vector<int> last = before;
+    std::vector<int> row = before;
     for (int at = 0; at < left.size(); ++at) {
-        int diagonal = row[0];
         row[0] = at + 1;
         for (int other = 0; other < right.size(); ++other) {
-            const int replaced = diagonal + (left[at] == right[other] ? 0 : 1);
-            diagonal = row[std::size_t(other) + 1];
-            row[std::size_t(other) + 1] = std::min({replaced, diagonal + 1, row[std::size_t(other)] + 1});
+            const auto here = std::size_t(other);
+            row[here + 1] =
+                std::min({last[here] + (left[at] == right[other] ? 0 : 1), last[here + 1] + 1, row[here] + 1});
+            // Two letters in the wrong order are one slip.
+            if (at > 0 && other > 0 && left[at] == right[other - 1] && left[at - 1] == right[other])
+                row[here + 1] = std::min(row[here + 1], before[here - 1] + 1);
         }
+        before = std::exchange(last, row);
     }
-    return row.back();
+    return last.back();
 }
 
 /// Whether the word stands there but for a slip of the fingers. Short words have too many neighbours for that.

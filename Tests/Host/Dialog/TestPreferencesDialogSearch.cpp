@@ -72,6 +72,7 @@ protected:
 
     void type(const QString &text) const
     {
+        search()->setFocus();
         search()->clear();
         QTest::keyClicks(search(), text);
     }
