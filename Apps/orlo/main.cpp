@@ -2,10 +2,12 @@
 #include "olFormerSettings.h"
 #include "olGivenSettings.h"
 #include "olMainWindow.h"
+#include "olStartFault.h"
 #include "olTour.h"
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
 #include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
@@ -18,10 +20,12 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -77,7 +81,7 @@ QString uselessOption(const QCommandLineParser &options)
         if (isRendering && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 does not go with --render").arg(QLatin1String(option));
     }
-    for (const char *option : {"preferences", "tour"}) {
+    for (const char *option : {"preferences", "setting", "tour"}) {
         if (isBatch(options) && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 needs a window, which --render and --save do without")
                 .arg(QLatin1String(option));
@@ -149,6 +153,43 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     return result;
 }
 
+/// Whether there is somebody at a window to ask.
+bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !options.isSet(QStringLiteral("tour")); }
+
+/// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
+std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
+{
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
+    while (true) {
+        auto session = std::make_unique<olPreferencesSession>(file);
+        const olResult<> stored = session->loadStore();
+        if (stored.isOk())
+            return session;
+        fail(stored.error());
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutStore(stored.error()) : olStartRemedy();
+        if (remedy.kind == olStartRemedy::Quit)
+            return nullptr;
+        file =
+            remedy.kind == olStartRemedy::OtherFile ? remedy.file : passing.filePath(QStringLiteral("preferences.db"));
+    }
+}
+
+bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
+{
+    QString file = options.value(QStringLiteral("plugin"));
+    while (true) {
+        const olResult<> loaded = session.loadPlugin(file);
+        if (loaded.isOk())
+            return true;
+        fail(loaded.error());
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutPlugin(loaded.error()) : olStartRemedy();
+        if (remedy.kind != olStartRemedy::OtherFile)
+            return false;
+        file = remedy.file;
+    }
+}
+
 /// From the options of the command line to the end of the run.
 int run(const QCommandLineParser &options)
 {
@@ -168,20 +209,18 @@ int run(const QCommandLineParser &options)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
-    olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const olResult<> stored = session.loadStore();
-    if (!stored.isOk())
-        return fail(stored.error());
-
+    const QTemporaryDir passing;
+    const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
+    if (!loaded)
+        return 1;
+    olPreferencesSession &session = *loaded;
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
     olTakeFormerSettingsOver();
     olMainWindow window(session);
-    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!loaded.isOk())
-        return fail(loaded.error());
+    if (!loadPlugin(session, options))
+        return 1;
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();
@@ -193,6 +232,12 @@ int run(const QCommandLineParser &options)
         window.openModel(models.first());
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
+    const QString setting = options.value(QStringLiteral("setting"));
+    if (!setting.isEmpty() && !window.openPreferences().openAt(setting)) {
+        window.closePreferences();
+        session.stop();
+        return refuse(QStringLiteral("no page has the setting \"%1\"").arg(setting));
+    }
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
@@ -255,6 +300,8 @@ void describe(QCommandLineParser &options)
     options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
                                   QStringLiteral("[model]"));
     options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
+    options.addOption(
+        {QStringLiteral("setting"), QStringLiteral("Open the preferences at a setting."), QStringLiteral("key")});
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});

@@ -155,8 +155,8 @@ private:
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
-    void followSite();
     void settleSite(olSiteDefaults &site) const;
+    void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
     void keepEmptied() const;
