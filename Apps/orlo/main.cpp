@@ -1,10 +1,13 @@
 #include "olBatch.h"
+#include "olFormerSettings.h"
 #include "olGivenSettings.h"
 #include "olMainWindow.h"
+#include "olStartFault.h"
 #include "olTour.h"
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
 #include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
@@ -15,11 +18,14 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QMessageBox>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -75,7 +81,7 @@ QString uselessOption(const QCommandLineParser &options)
         if (isRendering && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 does not go with --render").arg(QLatin1String(option));
     }
-    for (const char *option : {"preferences", "tour"}) {
+    for (const char *option : {"preferences", "setting", "tour"}) {
         if (isBatch(options) && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 needs a window, which --render and --save do without")
                 .arg(QLatin1String(option));
@@ -124,9 +130,9 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    if (!loaded.isOk())
+        return fail(loaded.error());
     session.fillDefaults();
     // A picture is of the model alone and as good as can be, where nobody says otherwise; what a site locks stays.
     const bool isClean = options.isSet(QStringLiteral("render")) && !options.isSet(QStringLiteral("aids"));
@@ -145,6 +151,43 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     const int result = runBatch(options);
     session.stop();
     return result;
+}
+
+/// Whether there is somebody at a window to ask.
+bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !options.isSet(QStringLiteral("tour")); }
+
+/// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
+std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
+{
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
+    while (true) {
+        auto session = std::make_unique<olPreferencesSession>(file);
+        const olResult<> stored = session->loadStore();
+        if (stored.isOk())
+            return session;
+        fail(stored.error());
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutStore(stored.error()) : olStartRemedy();
+        if (remedy.kind == olStartRemedy::Quit)
+            return nullptr;
+        file =
+            remedy.kind == olStartRemedy::OtherFile ? remedy.file : passing.filePath(QStringLiteral("preferences.db"));
+    }
+}
+
+bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
+{
+    QString file = options.value(QStringLiteral("plugin"));
+    while (true) {
+        const olResult<> loaded = session.loadPlugin(file);
+        if (loaded.isOk())
+            return true;
+        fail(loaded.error());
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutPlugin(loaded.error()) : olStartRemedy();
+        if (remedy.kind != olStartRemedy::OtherFile)
+            return false;
+        file = remedy.file;
+    }
 }
 
 /// From the options of the command line to the end of the run.
@@ -166,19 +209,18 @@ int run(const QCommandLineParser &options)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
-    olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const QString storeError = session.loadStore();
-    if (!storeError.isEmpty())
-        return fail(storeError);
-
+    const QTemporaryDir passing;
+    const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
+    if (!loaded)
+        return 1;
+    olPreferencesSession &session = *loaded;
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
+    olTakeFormerSettingsOver();
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    if (!loadPlugin(session, options))
+        return 1;
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();
@@ -190,6 +232,12 @@ int run(const QCommandLineParser &options)
         window.openModel(models.first());
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
+    const QString setting = options.value(QStringLiteral("setting"));
+    if (!setting.isEmpty() && !window.openPreferences().openAt(setting)) {
+        window.closePreferences();
+        session.stop();
+        return refuse(QStringLiteral("no page has the setting \"%1\"").arg(setting));
+    }
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
@@ -199,10 +247,10 @@ int run(const QCommandLineParser &options)
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
     window.closePreferences();
-    const QString saveError = session.save();
+    const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
-    return saveError.isEmpty() ? result : fail(saveError);
+    return saved.isOk() ? result : fail(saved.error());
 }
 
 /// The toolkit has an option of this name too and would take "--plugin FILE" for it, but not "--plugin=FILE".
@@ -252,6 +300,8 @@ void describe(QCommandLineParser &options)
     options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
                                   QStringLiteral("[model]"));
     options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
+    options.addOption(
+        {QStringLiteral("setting"), QStringLiteral("Open the preferences at a setting."), QStringLiteral("key")});
     options.addOption({QStringLiteral("tour"),
                        QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});
@@ -279,7 +329,7 @@ int main(int argc, char *argv[])
         argumentTexts.push_back(argument.data());
     argumentTexts.push_back(nullptr);
     int argumentCount = int(arguments.size());
-    QCoreApplication::setOrganizationName(QStringLiteral("ORLO"));
+    QCoreApplication::setOrganizationName(QStringLiteral("orlo"));
     QCoreApplication::setApplicationName(QStringLiteral("orlo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
     QCommandLineParser options;
@@ -289,6 +339,8 @@ int main(int argc, char *argv[])
         options.process(application);
     }
     QApplication application(argumentCount, argumentTexts.data());
+    QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
     if (!options.parse(QApplication::arguments()))
         return refuse(options.errorText());
     options.process(application);

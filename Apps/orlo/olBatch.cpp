@@ -42,7 +42,7 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
     olScene scene;
     scene.setDocument(result.document);
     if (!olViewport::isSupported())
-        return fail(QStringLiteral("The 3D view needs an X display with OpenGL."), 1);
+        return fail(QStringLiteral("The 3D view needs an X display, or XWayland, with OpenGL."), 1);
 
     olViewport view;
     view.setAttribute(Qt::WA_DontShowOnScreen);

@@ -2,6 +2,8 @@
 
 import json
 import os
+import sqlite3
+import subprocess
 import unittest
 
 import tool_test
@@ -64,7 +66,7 @@ class Batch(tool_test.ToolTest):
         self.assertLess(self.triangles(model, *COARSE), fine / 3)
         self.assertEqual(self.triangles(model), fine)
         self.assert_refused(self.stored("--render", model, "--output", "p.png", "--set", "Camera fov=500"),
-                            'orlo: 500 is no value for "Camera fov": expected a number from 1 to 100')
+                            'orlo: "Camera fov" cannot be 500: expected a number from 1 to 100')
 
     @unittest.skipUnless(os.geteuid() == 0, "a site's file counts only where it is root's")
     def test_locks_hold_always(self):
@@ -104,6 +106,25 @@ class Batch(tool_test.ToolTest):
                 (["--nonsense"], "Unknown option 'nonsense'.")):
             with self.subTest(arguments=arguments):
                 self.assert_refused(self.stored(*arguments), f"orlo: {message}")
+    def test_a_start_that_fails_shows_a_window_where_there_is_somebody_to_ask(self):
+        foreign = sqlite3.connect(self.folder / "foreign.db")
+        foreign.execute("CREATE TABLE t (x)")
+        foreign.commit()
+        foreign.close()
+        for arguments in (["--store", self.folder / "foreign.db"], ["--plugin", "/missing.so"]):
+            with self.subTest(arguments=arguments):
+                with subprocess.Popen(self.command(*arguments), env=self.environment, stderr=subprocess.PIPE) as viewer:
+                    self.addCleanup(viewer.kill)
+                    self.assertTrue(viewer.stderr.readline().startswith(b"orlo: "))
+                    with self.assertRaises(subprocess.TimeoutExpired, msg="nobody was asked"):
+                        viewer.wait(timeout=3)
+                    viewer.kill()
+                for unattended in (["--tour", self.folder / "tour"], ["--sample", "--save", self.folder / "m.step"]):
+                    result = self.tool(*arguments, *unattended)
+                    self.assertEqual((result.stdout, result.returncode), ("", 1))
+                    self.assertIn("orlo: ", result.stderr)
+
+    def test_a_missing_plugin_is_told_with_status_1(self):
         missing = self.stored("--sample", "--save", "m.step", plugin="/missing.so")
         self.assertIn("/missing.so", missing.stderr)
         self.assertEqual(missing.returncode, 1)
