@@ -7,6 +7,7 @@
 #include "State/olValue.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -17,7 +18,9 @@ const std::vector<olPreferencesEntry *> &modules() { return olPreferencesRegistr
 
 olPendingChanges::olPendingChanges(olPreferencesSession &session) : m_session(session)
 {
-    connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, this, &olPendingChanges::forgetTheGone);
+    connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, this, &olPendingChanges::forgetTheGone);
+    connect(&session, &olPreferencesSession::aboutToTakeOver, this, &olPendingChanges::setAside);
+    connect(&session, &olPreferencesSession::tookOver, this, &olPendingChanges::showAgain);
 }
 
 olPendingChanges::~olPendingChanges() = default;
@@ -65,10 +68,36 @@ void olPendingChanges::forgetTheGone()
         page = isGone(page->first) ? m_pages.erase(page) : std::next(page);
 }
 
+/// While another program's changes come into force, which the page shows meanwhile.
+void olPendingChanges::setAside(const olPreferencesEntry &entry)
+{
+    m_aside.clear();
+    const olEditedPage *page = findPage(entry);
+    for (const std::string &key : page ? page->keys() : std::vector<std::string>()) {
+        if (page->isChanged(key))
+            m_aside[key] = page->value(key);
+    }
+}
+
+void olPendingChanges::showAgain(const olPreferencesEntry &entry)
+{
+    if (olEditedPage *page = findPage(entry)) {
+        page->markClean();
+        if (!m_aside.empty())
+            page->show(m_aside);
+    }
+    for (auto pending = m_withoutControl.begin(); pending != m_withoutControl.end();) {
+        const bool isInForce = olValue::equal(entry.value(pending->first), pending->second);
+        pending = isInForce ? m_withoutControl.erase(pending) : std::next(pending);
+    }
+    emit edited();
+}
+
 void olPendingChanges::drop()
 {
     m_filled.clear();
     m_withoutControl.clear();
+    m_restored.clear();
     emit edited();
 }
 
@@ -113,6 +142,13 @@ boost::any olPendingChanges::value(const std::string &key) const
     return owner ? owner->value(key) : boost::any();
 }
 
+bool olPendingChanges::isPending(const std::string &key) const
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    return m_withoutControl.count(key) != 0 || (page && page->hasControl(key) && page->isChanged(key));
+}
+
 bool olPendingChanges::differsFromDefault(const std::string &key) const
 {
     const olPreferencesEntry *owner = ownerOf(key);
@@ -144,13 +180,40 @@ void olPendingChanges::put(const olSettingValues &values)
 {
     std::map<olPreferencesEntry *, olSettingValues> byOwner;
     for (const auto &[key, value] : values) {
+        // Who asks for the default wants whatever it will be; who picks the same value wants that.
+        if (olValue::identical(value, m_session.defaultValue(key)))
+            m_restored.insert(key);
+        else
+            m_restored.erase(key);
         olPreferencesEntry *owner = ownerOf(key);
-        if (owner && !m_session.lockReason(key))
+        if (owner && !m_session.lockReason(key) && isAgreed(key, value))
             byOwner[owner][key] = value;
     }
     for (const auto &[owner, own] : byOwner)
         putOwn(*owner, own);
     emit edited();
+}
+
+bool olPendingChanges::isAgreed(const std::string &key, const boost::any &value) const
+{
+    const std::optional<olSettingWarning> question = m_session.warning(key, value);
+    return !question || olValue::equal(this->value(key), value) || (m_ask && m_ask(*question));
+}
+
+void olPendingChanges::takeBack(const std::string &key)
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    if (page && page->hasControl(key))
+        put({{key, page->valueInForce(key)}});
+    else if (m_withoutControl.erase(key) != 0)
+        emit edited();
+}
+
+void olPendingChanges::takeBack(const olPreferencesEntry &entry)
+{
+    if (olEditedPage *page = findPage(entry))
+        page->fill();
 }
 
 void olPendingChanges::putOwn(olPreferencesEntry &entry, const olSettingValues &values)
@@ -224,21 +287,24 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
     put(defaults);
 }
 
-QString olPendingChanges::commit()
+olResult<> olPendingChanges::commit()
 {
     for (const olPreferencesEntry *entry : m_filled)
         findPage(*entry)->finishTyping();
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
+        findPage(*entry)->putBackHeld();
+    for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
-    QString error = m_session.confirm(m_filled, besides);
-    if (error.isEmpty()) {
+    olResult<> committed = m_session.commit(m_filled, besides, m_restored);
+    if (committed.isOk()) {
         m_withoutControl.clear();
+        m_restored.clear();
         for (const olPreferencesEntry *entry : m_filled)
-            findPage(*entry)->settle();
+            findPage(*entry)->markClean();
     }
     emit edited();
-    return error;
+    return committed;
 }
 
 olPreferencesEntry *olPendingChanges::ownerOf(const std::string &key) const
