@@ -92,11 +92,11 @@ protected:
 
 TEST_F(CadFormats, HandTheirPageOverWithTheirOwnGroupsOnIt)
 {
-    const auto &registry = olPreferencesRegistry::the();
+    auto &registry = olPreferencesRegistry::the();
     std::map<QString, int> groupsAtHandOver;
     QObject context;
     plugin.unload();
-    QObject::connect(&registry, &olPreferencesRegistry::changed, &context, [&registry, &groupsAtHandOver] {
+    QObject::connect(&registry.news(), &olRegistryNews::changed, &context, [&registry, &groupsAtHandOver] {
         for (const olPreferencesEntry *entry : registry.entries()) {
             if (!entry->page() || groupsAtHandOver.count(entry->name()))
                 continue;
@@ -132,10 +132,10 @@ TEST_F(CadFormats, NeverLeakIntoEachOther)
 TEST_F(CadFormats, SettingThatAllWriteStaysUntilItsOwnerIsGone)
 {
     startAfresh();
-    const auto &registry = olPreferencesRegistry::the();
+    auto &registry = olPreferencesRegistry::the();
     int checks = 0;
     QObject context;
-    QObject::connect(&registry, &olPreferencesRegistry::changed, &context, [&registry, &checks] {
+    QObject::connect(&registry.news(), &olRegistryNews::changed, &context, [&registry, &checks] {
         ++checks;
         EXPECT_EQ(record().get("PLMXML load referenced files").empty(), !registry.find(QStringLiteral("PLM XML")));
         EXPECT_EQ(record().get("BCADOptions use ATF").empty(), !registry.find(QStringLiteral("Base CAD")));

@@ -29,9 +29,9 @@ void PluginTest::restart(olEdition edition)
     host.reset();
     host.edition = edition;
 
-    const QString error = plugin.load(pluginUnderTest());
-    if (!error.isEmpty())
-        throw std::runtime_error(error.toStdString());
+    const olResult<> loaded = plugin.load(pluginUnderTest());
+    if (!loaded.isOk())
+        throw std::runtime_error(loaded.error().toStdString());
     calls.take();
 }
 
@@ -53,5 +53,5 @@ void PluginTest::apply(const char *moduleName, const char *key, const boost::any
     entry.setValue(key, value);
     entry.setChanged(key, true);
     entry.applyPreferences();
-    entry.settle();
+    entry.markClean();
 }
