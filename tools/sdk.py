@@ -21,7 +21,8 @@ FOLDERS = ("Display", "Kernel", "KernelServices", "Utilities", "Widgets")
 
 # What the contract describes without giving it a name.
 NAMED_BY_US = """
-    QOLCollapsibleFrame::setCaption QOLWheelPrec::setDecimals QOLWheelPrec::setMinimum
+    QOLCollapsibleFrame::setCaption QOLSlider::setDecimals QOLWheelPrec::setDecimals QOLWheelPrec::setMaximum
+    QOLWheelPrec::setMinimum
     olController::isOrloEnterprise olController::isOrloProfessional
     olFileIO::setStlExportFormat olFileIO::setUseLegacyRhinoLoader
     olGeometryOptimizer::setCheckOrientation olGeometryOptimizer::setOffsetFactor
@@ -43,12 +44,15 @@ NAMED_BY_US = """
     olPreferencesService::setBool olPreferencesService::setFloat olPreferencesService::setInt
     olPreferencesService::setDefaultBool olPreferencesService::setDefaultFloat olPreferencesService::setDefaultInt
 """.split()
-# What it knows nothing of: the block of tessellation settings tells its values, and which control is whose.
+# What it knows nothing of: fields tell their bounds, and the block of tessellation settings its values and which control
+# is whose.
 OURS = """
+    QOLSlider::decimals QOLSlider::maximum QOLSlider::minimum
+    QOLWheelPrec::decimals QOLWheelPrec::maximum QOLWheelPrec::minimum
     olTesselationSettings::chordDeviation olTesselationSettings::control olTesselationSettings::isStitchingEnabled
     olTesselationSettings::isTessellationEnabled olTesselationSettings::maxChordLength
-    olTesselationSettings::normalTolerance olTesselationSettings::setTessellationEnabled
-    olTesselationSettings::stitchingTolerance
+    olTesselationSettings::normalTolerance olTesselationSettings::setQualityEnds
+    olTesselationSettings::setTessellationEnabled olTesselationSettings::stitchingTolerance
 """.split()
 
 

@@ -13,6 +13,8 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <QVariant>
+#include <QWidget>
 
 #include <algorithm>
 
