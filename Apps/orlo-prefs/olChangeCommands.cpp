@@ -15,6 +15,12 @@ void requireUnlocked(const olPreferencesSession &session, const std::string &key
         throw olToolError(QStringLiteral("\"%1\" is locked: %2").arg(QString::fromStdString(key), *reason));
 }
 
+void restore(olPrefsTool &tool, const olKnownSetting &setting)
+{
+    setting.setValue(setting.standard);
+    tool.session().restore(setting.key);
+}
+
 } // namespace
 
 void olPrefsCommands::set(olPrefsTool &tool)
@@ -30,6 +36,7 @@ void olPrefsCommands::set(olPrefsTool &tool)
     if (const auto warning = tool.session().warning(setting.key, value))
         tool.requireConsent(setting.key, *warning);
     setting.setValue(value);
+    tool.session().choose(setting.key);
     tool.save();
 }
 
@@ -42,11 +49,11 @@ void olPrefsCommands::reset(olPrefsTool &tool)
     if (asked == QLatin1String("--all")) {
         // What is locked has its default already.
         for (const olKnownSetting &setting : settings.all())
-            setting.setValue(setting.standard);
+            restore(tool, setting);
     } else {
         const olKnownSetting &setting = settings.named(asked);
         requireUnlocked(tool.session(), setting.key);
-        setting.setValue(setting.standard);
+        restore(tool, setting);
     }
     tool.save();
 }

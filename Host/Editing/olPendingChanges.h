@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -81,6 +82,8 @@ signals:
 
 private:
     void forgetTheGone();
+    void setAside(const olPreferencesEntry &entry);
+    void showAgain(const olPreferencesEntry &entry);
     void findOwners() const;
     [[nodiscard]] olSettingValues defaultsOf(const olPreferencesEntry &entry) const;
     [[nodiscard]] bool isShared(const std::string &key) const;
@@ -91,5 +94,7 @@ private:
     std::map<const olPreferencesEntry *, std::unique_ptr<olEditedPage>> m_pages;
     std::vector<olPreferencesEntry *> m_filled;
     olSettingValues m_withoutControl;
+    olSettingValues m_aside;
+    std::set<std::string> m_restored;
     mutable std::map<std::string, olPreferencesEntry *> m_owners;
 };
