@@ -12,6 +12,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -76,8 +77,10 @@ void olFieldGuard::watch(QLineEdit &field)
     connect(&field, &QLineEdit::inputRejected, this, [this, &field] { mark(field); });
     connect(&field, &QLineEdit::textEdited, this, [this, &field](const QString &text) { edited(field, text); });
     connect(&field, &QLineEdit::textChanged, this, [this, &field](const QString &text) {
-        if (!field.isModified())
-            m_fields[&field].before = text;
+        Field &known = m_fields[&field];
+        known.isTyped = std::exchange(known.isTold, false);
+        if (!known.isTyped)
+            known.before = text;
     });
     // A spin box takes the keys and hands them on.
     QWidget *receiver = spinBoxOf(field);
@@ -93,8 +96,6 @@ bool olFieldGuard::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (event->type() == QEvent::KeyPress)
         return takesKey(*field, static_cast<QKeyEvent *>(event)->text());
-    if (event->type() == QEvent::FocusIn && !field->isModified())
-        m_fields[field].before = field->text();
     if (event->type() == QEvent::FocusOut && isLeaving(*static_cast<QFocusEvent *>(event)))
         restore(*field);
     return false;
@@ -119,6 +120,7 @@ bool olFieldGuard::takesKey(QLineEdit &field, const QString &typed)
 
 void olFieldGuard::edited(QLineEdit &field, const QString &text)
 {
+    m_fields[&field].isTold = true;
     if (spinBoxOf(field) && std::any_of(text.begin(), text.end(), isSeparator))
         refuse(field);
     else
@@ -137,7 +139,9 @@ void olFieldGuard::refuse(QLineEdit &field)
 void olFieldGuard::restore(QLineEdit &field)
 {
     m_fields[&field].refused.invalidate();
-    if (!field.isModified() || field.hasAcceptableInput())
+    if (m_fields[&field].isTyped && field.hasAcceptableInput())
+        m_fields[&field].before = field.text();
+    if (!m_fields[&field].isTyped || field.hasAcceptableInput())
         return;
     mark(field);
     if (!restoresItself(field))

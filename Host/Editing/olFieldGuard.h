@@ -32,6 +32,8 @@ public:
 private:
     struct Field {
         QString before;         ///< what it showed before the typing began
+        bool isTyped = false;   ///< whether it shows what somebody typed
+        bool isTold = false;    ///< of the typing, before the text tells of itself
         QElapsedTimer refused;  ///< runs while what follows on a refused key is refused too
         QPointer<QAction> mark; ///< while it is marked
     };

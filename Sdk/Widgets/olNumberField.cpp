@@ -55,6 +55,8 @@ olNumberField::olNumberField(QWidget *parent) : QLineEdit(parent), m_validator(n
     m_validator->setRange(-unbounded, unbounded, anyDecimals);
     m_validator->setLocale(QLocale::c());
     setValidator(m_validator);
+    // A text that the validator rewrites counts as set and not as typed.
+    connect(this, &QLineEdit::textEdited, this, [this] { setModified(true); });
     setInputMethodHints(Qt::ImhFormattedNumbersOnly);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setValue(0.0);

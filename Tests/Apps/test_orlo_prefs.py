@@ -547,11 +547,9 @@ class CommandLine(ToolTest):
         self.assertRegex(self.tool("--version").stdout, r"^orlo-prefs \d+\.\d+")
 
     def test_what_is_not_understood_is_named(self):
-        commands = ("only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; "
-                    "see --help")
+        commands = "only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; see --help"
         for arguments, message in {
-                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema "
-                    "or script; see --help",
+                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema or script; see --help",
                 ("lst",): f"there is no command lst, {commands}",
                 ("--stroe", "x", "list"): 'there is no option --stroe; did you mean "--store"?',
                 ("--edition", "gold", "list"):
@@ -574,7 +572,7 @@ class CommandLine(ToolTest):
 
     def test_each_command_has_a_help_of_its_own(self):
         listed = re.findall(r"(?m)^  ([a-z]+) ", self.tool("--help").stdout)
-        self.assertEqual(listed, "list get set reset diff export import profile log undo check script".split())
+        self.assertEqual(listed, "list get set reset diff export import profile log undo check schema script".split())
         for command in listed:
             help_text = self.tool(command, "--help").stdout
             self.assertTrue(help_text.startswith(f"Usage: orlo-prefs [OPTIONS] {command}"), help_text)

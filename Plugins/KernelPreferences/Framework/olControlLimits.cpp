@@ -1,5 +1,6 @@
 #include "Framework/olControlLimits.h"
 
+#include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
 
@@ -53,6 +54,8 @@ olControlLimits olControlLimits::of(const QWidget &control)
         return {slider->minimum(), slider->maximum(), kept(slider->decimals()), {}};
     if (const auto *wheel = qobject_cast<const QOLWheelPrec *>(&control))
         return {wheel->minimum(), wheel->maximum(), kept(wheel->decimals()), {}};
+    if (qobject_cast<const QOLColorManipulator *>(&control))
+        return {0.0, 1.0, {}, {}};
     if (const auto *field = qobject_cast<const QLineEdit *>(&control)) {
         if (const auto *numbers = qobject_cast<const QDoubleValidator *>(field->validator()))
             return {numbers->bottom(), numbers->top(), {}, {}};

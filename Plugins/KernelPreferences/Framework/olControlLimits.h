@@ -7,8 +7,8 @@
 class QLineEdit;
 class QWidget;
 
-/// What a control lets a person enter: infinite where it has no bound, nothing where it has no decimals or length of
-/// its own.
+/// What a control lets a person enter, a colour channel by channel: infinite where it has no bound, nothing where it
+/// has no decimals or length of its own.
 struct olControlLimits {
     double lowest;
     double highest;

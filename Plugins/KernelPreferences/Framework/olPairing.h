@@ -126,8 +126,9 @@ public:
         if constexpr (std::is_same_v<Control, QLineEdit *> && std::is_floating_point_v<T>)
             olControlLimits::acceptNumbers(*control);
         olControlLimits::push(setting.traits(), *widgetOf(control));
-        // Until the page is filled, and after a filling that could not read the setting, it stands at its default.
-        showOn(m_control, setting.defaultValue());
+        // So that a page that could not be filled does no harm when it is taken back.
+        if (!setting.traits().isFormsAtFirst)
+            showOn(m_control, setting.defaultValue());
     }
 
     [[nodiscard]] QWidget *widget() const override { return widgetOf(m_control); }

@@ -26,6 +26,9 @@ struct olSettingTraits {
     const char *unit = "";
     olEffect effect = olEffect::Now;
 
+    /// Whether its control stands as the form has it before the page is first filled, and not at the default.
+    bool isFormsAtFirst = false;
+
     /// The question that goes with the value true; null where there is none. Asked anew each time, in the language of
     /// then.
     olWarning (*warning)() = nullptr;
@@ -40,6 +43,12 @@ struct olSettingTraits {
     {
         olSettingTraits traits = *this;
         traits.unit = name;
+        return traits;
+    }
+    [[nodiscard]] olSettingTraits asFormHasIt() const
+    {
+        olSettingTraits traits = *this;
+        traits.isFormsAtFirst = true;
         return traits;
     }
     [[nodiscard]] olSettingTraits effective(olEffect when) const
@@ -59,6 +68,7 @@ inline olSettingTraits between(double lowest, double highest)
 }
 inline olSettingTraits atLeast(double lowest) { return between(lowest, std::numeric_limits<double>::infinity()); }
 inline olSettingTraits inUnit(const char *unit) { return olSettingTraits().inUnit(unit); }
+inline olSettingTraits asFormHasIt() { return olSettingTraits().asFormHasIt(); }
 inline olSettingTraits atNextImport() { return olSettingTraits().effective(olEffect::NextImport); }
 inline olSettingTraits atNextStart() { return olSettingTraits().effective(olEffect::NextStart); }
 inline olSettingTraits warned(olWarning (*question)())

@@ -19,7 +19,8 @@ const olSetting<bool> redirectOsgLog{"MainWindow redirect osg log", false, atNex
 // A window that lets everything shine through could not be found again.
 const olSetting<double> windowOpacity{"MainWindow window opacity", 1.0, between(0.1, 1.0)};
 const olSetting<bool> disableDocking{"MainWindow disable docking", false};
-const olSetting<int> userLanguage{"MainWindow user language", -1, atNextStart()};
+// On a page that was never filled no language was chosen: it must not be taken for a change.
+const olSetting<int> userLanguage{"MainWindow user language", -1, atNextStart().asFormHasIt()};
 
 constexpr int english = 0;
 

@@ -11,7 +11,7 @@ namespace
 
 // The 2 keeps the value of a former generation from opening a server.
 const olSetting<bool> enableWebServer{"WebInterface enable web server2", false,
-                                      warned(&olWebInterfacePreferencesGUIW::enablingQuestion)};
+                                      warned(&olWebInterfacePreferencesGUIW::enablingQuestion).asFormHasIt()};
 const olSetting<int> port{"WebInterface port", 8888, atLeast(0)};
 const olSetting<int> sslPort{"WebInterface ssl port", 8444, atLeast(0)};
 const olSetting<bool> localhostOnly{"WebInterface localhost only", false, atNextStart()};
@@ -50,8 +50,6 @@ olWebInterfacePreferencesGUII::olWebInterfacePreferencesGUII()
 {
     const auto &form = page().form();
     settings().add(enableWebServer, form.enableWebServer);
-    // Shown as the form has it before it is filled, so that what depends on it can be seen.
-    form.enableWebServer->setChecked(true);
     settings().add(port, form.port);
     settings().add(sslPort, form.sslPort);
     settings().add(localhostOnly, form.localhostOnly);
