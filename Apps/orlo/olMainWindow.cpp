@@ -5,6 +5,7 @@
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
 #include "olSceneTree.h"
+#include "olToolIcons.h"
 
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
@@ -21,7 +22,6 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
@@ -91,8 +91,10 @@ void olMainWindow::showIntegratorPanels()
 void olMainWindow::addCentre()
 {
     if (!olViewport::isSupported()) {
-        auto *reason = new QLabel(tr("The 3D view needs an X display with OpenGL."));
+        auto *reason = new QLabel(
+            tr("The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it."));
         reason->setAlignment(Qt::AlignCenter);
+        reason->setWordWrap(true);
         setCentralWidget(reason);
         return;
     }
@@ -157,29 +159,31 @@ void olMainWindow::addViewActions()
     QMenu *view = menuBar()->addMenu(tr("&View"));
     m_tools = addToolBar(tr("View"));
     m_tools->setObjectName(QStringLiteral("viewTools"));
-    const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
-    QAction *all = m_tools->addAction(icon(QStyle::SP_TitleBarMaxButton), tr("Show &All"));
+    QAction *all = m_tools->addAction(olToolIcons::showAll(palette()), tr("Show &All"));
     all->setShortcut(QKeySequence(Qt::Key_Home));
-    QAction *zoom = m_tools->addAction(icon(QStyle::SP_FileDialogContentsView), tr("&Zoom To"));
+    QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(palette()), tr("&Zoom To"));
     zoom->setShortcut(QKeySequence(Qt::Key_End));
     zoom->setToolTip(tr("Brings what is selected near"));
     view->addActions({all, zoom});
     view->addSeparator();
     QAction *stereo = view->addAction(tr("Stereo for &Red and Cyan Glasses"));
     QAction *rays = view->addAction(tr("Trace Ra&ys"));
+    QAction *edges = view->addAction(tr("&Edges"));
     view->addSeparator();
     for (QDockWidget *dock : m_docks)
         view->addAction(dock->toggleViewAction());
-    for (QAction *action : {all, zoom, stereo, rays})
+    for (QAction *action : {all, zoom, stereo, rays, edges})
         action->setEnabled(m_viewport != nullptr);
     stereo->setCheckable(true);
     rays->setCheckable(true);
+    edges->setCheckable(true);
     if (!m_viewport)
         return;
     connect(all, &QAction::triggered, m_viewport, &olViewport::showAll);
     connect(zoom, &QAction::triggered, m_viewport, &olViewport::zoomToSelection);
     connect(stereo, &QAction::toggled, m_viewport, &olViewport::setAnaglyph);
     connect(rays, &QAction::toggled, m_viewport, &olViewport::setRaytracing);
+    connect(edges, &QAction::toggled, m_viewport, &olViewport::setEdges);
 }
 
 olPreferencesDialog &olMainWindow::openPreferences(const QString &module)

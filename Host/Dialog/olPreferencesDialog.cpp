@@ -240,10 +240,10 @@ void olPreferencesDialog::connectParts()
     connect(m_pending.get(), &olPendingChanges::edited, &m_refresh, QOverload<>::of(&QTimer::start));
     connect(&m_refresh, &QTimer::timeout, this, &olPreferencesDialog::refresh);
 
-    const auto *registry = &olPreferencesRegistry::the();
-    connect(registry, &olPreferencesRegistry::pageAboutToGo, this, &olPreferencesDialog::giveBack);
+    const auto *news = &olPreferencesRegistry::the().news();
+    connect(news, &olRegistryNews::pageAboutToGo, this, &olPreferencesDialog::giveBack);
     // Queued, as a module is not whole yet when it registers, nor any more when it leaves.
-    connect(registry, &olPreferencesRegistry::changed, this, &olPreferencesDialog::listModules, Qt::QueuedConnection);
+    connect(news, &olRegistryNews::changed, this, &olPreferencesDialog::listModules, Qt::QueuedConnection);
 }
 
 void olPreferencesDialog::recall()
@@ -399,12 +399,12 @@ bool olPreferencesDialog::apply()
 
 bool olPreferencesDialog::store()
 {
-    const QString error = m_pending->commit();
-    if (error.isEmpty())
+    const olResult<> committed = m_pending->commit();
+    if (committed.isOk())
         m_message->clear();
     else
-        m_message->showError(error);
-    return error.isEmpty();
+        m_message->showError(committed.error());
+    return committed.isOk();
 }
 
 /// False where there are none.
@@ -844,14 +844,14 @@ void olPreferencesDialog::importFrom(const QString &file)
 }
 
 void olPreferencesDialog::preview(const QString &title, const QString &action,
-                                  const olPreferencesFile::Contents &contents)
+                                  const olResult<olPreferencesFile::Contents> &contents)
 {
-    if (!contents.error.isEmpty()) {
-        m_message->showError(contents.error);
+    if (!contents.isOk()) {
+        m_message->showError(contents.error());
         return;
     }
     const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
-    const olPreferencesImport import(m_session, contents, valueOf);
+    const olPreferencesImport import(m_session, *contents, valueOf);
 
     auto *view = new olChangesView(title, this);
     // Not by its closing: a question may be asked before it has told what is ticked.
@@ -907,7 +907,11 @@ void olPreferencesDialog::showHistory()
 void olPreferencesDialog::goBack(std::size_t saves)
 {
     const olUndo undo(m_session, saves);
-    olPreferencesFile::Contents earlier{{}, undo.left(), undo.error()};
+    if (!undo.error().isEmpty()) {
+        m_message->showError(undo.error());
+        return;
+    }
+    olPreferencesFile::Contents earlier{{}, undo.left()};
     for (const olStoreRows::Change &change : undo.changes())
         earlier.settings[change.key.second] = undo.value(change.key, change.after);
     preview(tr("Go Back"), tr("&Go Back"), earlier);
@@ -923,9 +927,9 @@ void olPreferencesDialog::chooseExport()
 
 void olPreferencesDialog::exportTo(const QString &file)
 {
-    const QString error = olPreferencesFile::write(file, m_pending->inForce());
-    if (!error.isEmpty())
-        m_message->showError(error);
+    const olResult<> written = olPreferencesFile::write(file, m_pending->inForce());
+    if (!written.isOk())
+        m_message->showError(written.error());
     else if (m_pending->isEmpty())
         m_message->showNote(tr("The preferences were written to %1.").arg(file));
     else

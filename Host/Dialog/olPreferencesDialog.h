@@ -134,7 +134,7 @@ private:
     [[nodiscard]] olListedChange listedChange(const std::string &key, const boost::any &before,
                                               const boost::any &after) const;
     [[nodiscard]] bool isAgreed(const olSettingWarning &question);
-    void preview(const QString &title, const QString &action, const olPreferencesFile::Contents &contents);
+    void preview(const QString &title, const QString &action, const olResult<olPreferencesFile::Contents> &contents);
     void goBack(std::size_t saves);
     void chooseImport();
     void chooseExport();

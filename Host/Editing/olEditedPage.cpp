@@ -118,10 +118,10 @@ QWidget *olEditedPage::control(const std::string &key) const
 void olEditedPage::fill()
 {
     m_entry.updateGUI();
-    settle();
+    markClean();
 }
 
-void olEditedPage::settle()
+void olEditedPage::markClean()
 {
     m_filled.clear();
     m_put.clear();

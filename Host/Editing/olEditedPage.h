@@ -38,7 +38,7 @@ public:
     void finishTyping() { m_guard.restoreUnfinished(); }
 
     /// Takes what the page shows for what it was filled with: after the values were applied.
-    void settle();
+    void markClean();
 
     /// Settings that have a control on the page, in the order of its form.
     [[nodiscard]] const std::vector<std::string> &keys() const { return m_keys; }

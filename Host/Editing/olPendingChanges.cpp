@@ -18,7 +18,7 @@ const std::vector<olPreferencesEntry *> &modules() { return olPreferencesRegistr
 
 olPendingChanges::olPendingChanges(olPreferencesSession &session) : m_session(session)
 {
-    connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, this, &olPendingChanges::forgetTheGone);
+    connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, this, &olPendingChanges::forgetTheGone);
     connect(&session, &olPreferencesSession::aboutToTakeOver, this, &olPendingChanges::setAside);
     connect(&session, &olPreferencesSession::tookOver, this, &olPendingChanges::showAgain);
 }
@@ -82,7 +82,7 @@ void olPendingChanges::setAside(const olPreferencesEntry &entry)
 void olPendingChanges::showAgain(const olPreferencesEntry &entry)
 {
     if (olEditedPage *page = findPage(entry)) {
-        page->settle();
+        page->markClean();
         if (!m_aside.empty())
             page->show(m_aside);
     }
@@ -287,7 +287,7 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
     put(defaults);
 }
 
-QString olPendingChanges::commit()
+olResult<> olPendingChanges::commit()
 {
     for (const olPreferencesEntry *entry : m_filled)
         findPage(*entry)->finishTyping();
@@ -296,15 +296,15 @@ QString olPendingChanges::commit()
         findPage(*entry)->putBackHeld();
     for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
-    QString error = m_session.confirm(m_filled, besides, m_restored);
-    if (error.isEmpty()) {
+    olResult<> committed = m_session.commit(m_filled, besides, m_restored);
+    if (committed.isOk()) {
         m_withoutControl.clear();
         m_restored.clear();
         for (const olPreferencesEntry *entry : m_filled)
-            findPage(*entry)->settle();
+            findPage(*entry)->markClean();
     }
     emit edited();
-    return error;
+    return committed;
 }
 
 olPreferencesEntry *olPendingChanges::ownerOf(const std::string &key) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
+#include "State/olResult.h"
 #include "olHostExport.h"
 
 #include <QObject>
@@ -81,7 +82,7 @@ public:
     void restoreAll();
 
     /// Takes all pages filled, stores and applies. An error leaves everything as it was, the edits too.
-    [[nodiscard]] QString commit();
+    olResult<> commit();
 
     /// The module on whose page the setting is edited, else the one that offers its default; null for an unknown key.
     [[nodiscard]] olPreferencesEntry *ownerOf(const std::string &key) const;

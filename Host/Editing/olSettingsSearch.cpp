@@ -94,9 +94,9 @@ bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const
 
 olSettingsSearch::olSettingsSearch()
 {
-    const auto *registry = &olPreferencesRegistry::the();
-    connect(registry, &olPreferencesRegistry::changed, this, &olSettingsSearch::invalidate);
-    connect(registry, &olPreferencesRegistry::pageAboutToGo, this, &olSettingsSearch::invalidate);
+    const auto *news = &olPreferencesRegistry::the().news();
+    connect(news, &olRegistryNews::changed, this, &olSettingsSearch::invalidate);
+    connect(news, &olRegistryNews::pageAboutToGo, this, &olSettingsSearch::invalidate);
 }
 
 void olSettingsSearch::invalidate() { m_pages.clear(); }
