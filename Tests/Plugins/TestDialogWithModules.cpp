@@ -182,7 +182,7 @@ TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsTh
                    "RenderOptions background colors": {"locked": true}})");
     site.close();
     olPreferencesSession locking(folder.filePath(QStringLiteral("other.db")), {site.fileName()});
-    ASSERT_EQ(locking.loadStore(), QString());
+    ASSERT_EQ(locking.loadStore().error(), QString());
     locking.start();
     olPreferencesDialog locked(locking);
 
