@@ -16,7 +16,7 @@ QStringList siteFindings(const olPreferencesSession &session, const QString &fil
         throw olToolError(QStringLiteral("Cannot check %1: there is no such file.").arg(file));
     olSiteDefaults site({file}, olSiteOwner::Anyone);
     site.read();
-    site.settle([&session](const std::string &key) { return session.defaultValue(key); });
+    session.settleSite(site);
     return site.takeFaults() << site.unknown();
 }
 

@@ -209,7 +209,7 @@ template <class Widget> void typeIntoFieldOf(Widget &widget, const Value &value)
     QString expected = olNumbersBetween(widget.minimum(), widget.maximum());
     if (widget.decimals() >= 0)
         expected += QStringLiteral(" with at most %1 decimals").arg(widget.decimals());
-    if (!value.json.isDouble() && !value.json.isString())
+    if (!value.number() && !value.text())
         refuse(value, expected);
     QString text = asTyped(value);
     auto *field = widget.template findChild<QLineEdit *>();

@@ -106,7 +106,7 @@ void applyProfile(olPrefsTool &tool, const olProfiles &profiles, QStringList arg
     QString error;
     const QString file = profiles.fileOf(arguments.first(), error);
     requireSuccess(error);
-    take(tool, olPreferencesFile::read(file), isDryRun);
+    take(tool, read(file), isDryRun);
 }
 
 } // namespace

@@ -95,6 +95,9 @@ public:
     /// Unloads the plug-in. Values are not stored by this.
     void stop();
 
+    /// Holds a site's files against the settings there are, in force here or not.
+    void settleSite(olSiteDefaults &site) const;
+
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
     [[nodiscard]] boost::any defaultValue(const std::string &key) const;
 
@@ -155,7 +158,6 @@ private:
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
-    void settleSite(olSiteDefaults &site) const;
     void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;

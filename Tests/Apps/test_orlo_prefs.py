@@ -410,6 +410,22 @@ class Site(ToolTest):
         self.assertEqual(result.stderr, 'skipped: "Camera fov" is locked: One camera for all.\n')
         self.assert_printed(self.stored("get", "Camera fov"), "60\n")
 
+    def test_profiles_of_the_site_are_applied_but_not_changed(self):
+        folder = self.file.parent / "profiles"
+        folder.mkdir()
+        settings = {"Powerwall height": {"type": "float", "value": 9}, "Camera fov": {"type": "float", "value": 70}}
+        (folder / "hall.json").write_text(json.dumps({"format": 1, "settings": settings}))
+        self.assert_printed(self.stored("profile", "list"), "hall  (site)\n")
+        result = self.stored("profile", "apply", "hall")
+        self.assertEqual((result.stderr, result.returncode),
+                         ('skipped: "Camera fov" is locked: One camera for all.\n', 0))
+        self.assert_printed(self.stored("get", "Powerwall height"), "9\n")
+        self.assert_refused(self.stored("profile", "delete", "hall"),
+                            'The profile "hall" is the site\'s and cannot be deleted.')
+        self.assert_printed(self.stored("profile", "save", "hall", "--changed"), "")
+        self.assert_printed(self.stored("profile", "list"), "hall\n")
+        self.assertEqual(json.loads((folder / "hall.json").read_text())["settings"], settings)
+
     def test_check_tells_of_the_store_and_of_the_site(self):
         self.stored("set", "Powerwall height", "1")
         self.assert_printed(self.stored("check"), "")

@@ -13,7 +13,7 @@
 TEST(FieldGuard, WhatTheHostRefusesIsMarkedAtItsFieldUntilItIsFollowed)
 {
     olPluginLoader plugin;
-    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)), QString());
+    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
     const auto *module = olPreferencesRegistry::the().find(QStringLiteral("WebInterface"));
     const auto fieldOf = [module](const char *key) {
         for (QSpinBox *box : module->page()->findChildren<QSpinBox *>()) {

@@ -138,7 +138,7 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
     nextRun();
     EXPECT_EQ(boost::any_cast<int>(olPreferences::getData().get("Counter")), 3);
     session->start();
-    EXPECT_EQ(session->confirm(shown, {}, {"Counter"}), QString());
+    EXPECT_EQ(session->commit(shown, {}, {"Counter"}).error(), QString());
     nextRun();
     EXPECT_TRUE(olPreferences::getData().get("Counter").empty());
 }

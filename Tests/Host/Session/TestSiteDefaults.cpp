@@ -422,8 +422,8 @@ TEST_F(Site, AListWithoutADefaultIsASettingLikeAnyOther)
         session.reset();
         clear();
         session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
-        EXPECT_EQ(session->loadStore(), QString());
-        EXPECT_EQ(session->loadPlugin(QStringLiteral(ORLO_PLUGIN_FILE)), QString());
+        EXPECT_EQ(session->loadStore().error(), QString());
+        EXPECT_EQ(session->loadPlugin(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
         session->start();
         EXPECT_EQ(session->takeNotices(), QStringList());
         EXPECT_EQ(session->check(), QStringList());
@@ -433,11 +433,11 @@ TEST_F(Site, AListWithoutADefaultIsASettingLikeAnyOther)
     start();
     EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
     ASSERT_EQ(rows()->rowCount(), 1);
-    EXPECT_EQ(session->confirm({paths()}), QString());
+    EXPECT_EQ(session->commit({paths()}).error(), QString());
     EXPECT_EQ(stored().count(key(name)), 0u) << "the site's own is not stored";
 
     rows()->removeRow(0);
-    EXPECT_EQ(session->confirm({paths()}), QString());
+    EXPECT_EQ(session->commit({paths()}).error(), QString());
     start();
     EXPECT_EQ(rows()->rowCount(), 0) << "what a person took out does not come back";
 
@@ -445,7 +445,7 @@ TEST_F(Site, AListWithoutADefaultIsASettingLikeAnyOther)
     start();
     EXPECT_TRUE(session->lockReason(name));
     rows()->removeRow(0);
-    EXPECT_EQ(session->confirm({paths()}), QString());
+    EXPECT_EQ(session->commit({paths()}).error(), QString());
     EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
     session.reset();
 }
