@@ -59,9 +59,10 @@ const olPrefsCommand commands[] = {
      "standard error stream and left; the exit status is then 1.\n"
      "  --dry-run   only prints, and stores nothing\n",
      &olPrefsCommands::undo},
-    {"check", "check", "looks for damage in the store and faults in the site's files",
+    {"check", "check [--site FILE]", "looks for damage in the store and faults in the site's files",
      "Prints a line for each thing that is wrong with the store, its copy or the site's files, also for keys that no\n"
-     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n",
+     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n"
+     "  --site FILE  judges such a file of the site's before it is installed, and nothing else\n",
      &olPrefsCommands::check},
     {"schema", "schema", "prints a JSON Schema of the files that name settings",
      "Prints a JSON Schema of the file that export writes and import reads, and of a site's site.json, for editors to\n"

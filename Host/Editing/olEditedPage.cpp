@@ -13,6 +13,8 @@
 #include <QMetaProperty>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -42,6 +44,15 @@ olEditedPage::olEditedPage(const olPreferencesSession &session, olPreferencesEnt
 {
     collectControls();
     watch();
+    if (m_held.empty())
+        return;
+    // After the turn in which something wrote to it, be it one control for many.
+    m_putBack.setSingleShot(true);
+    connect(this, &olEditedPage::edited, &m_putBack, [this] {
+        if (!m_isPuttingBack)
+            m_putBack.start();
+    });
+    connect(&m_putBack, &QTimer::timeout, this, &olEditedPage::putBackHeld);
 }
 
 void olEditedPage::collectControls()
@@ -53,7 +64,27 @@ void olEditedPage::collectControls()
             if (m_access.isThere() && m_controls.emplace(name, control.widget).second)
                 m_keys.push_back(name);
         }
+        const bool isLocked =
+            std::any_of(control.settingKeys.begin(), control.settingKeys.end(),
+                        [this](const QString &key) { return m_session.lockReason(key.toStdString()).has_value(); });
+        for (const QString &key : control.settingKeys) {
+            if (isLocked)
+                m_held.insert(key.toStdString());
+        }
     }
+}
+
+void olEditedPage::putBackHeld()
+{
+    const bool isWritten = std::any_of(m_held.begin(), m_held.end(), [this](const std::string &key) {
+        const auto filled = m_filled.find(key);
+        return filled != m_filled.end() && !isSame(filled->second.onPage, valueOnPage(key));
+    });
+    if (!isWritten)
+        return;
+    m_isPuttingBack = true;
+    show({});
+    m_isPuttingBack = false;
 }
 
 /// Whatever a person can edit tells of it by the signal of its user property, but for lists and colours.
@@ -87,10 +118,10 @@ QWidget *olEditedPage::control(const std::string &key) const
 void olEditedPage::fill()
 {
     m_entry.updateGUI();
-    settle();
+    markClean();
 }
 
-void olEditedPage::settle()
+void olEditedPage::markClean()
 {
     m_filled.clear();
     m_put.clear();
@@ -159,7 +190,7 @@ bool olEditedPage::isChanged() const
 bool olEditedPage::isChanged(const std::string &key) const
 {
     const auto filled = m_filled.find(key);
-    if (filled == m_filled.end())
+    if (filled == m_filled.end() || isHeld(key))
         return false;
     return !olValue::identical(filled->second.onPage, valueOnPage(key)) || !isSame(filled->second.value, value(key));
 }

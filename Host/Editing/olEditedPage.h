@@ -8,9 +8,11 @@
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QVariantList>
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -36,10 +38,15 @@ public:
     void finishTyping() { m_guard.restoreUnfinished(); }
 
     /// Takes what the page shows for what it was filled with: after the values were applied.
-    void settle();
+    void markClean();
 
     /// Settings that have a control on the page, in the order of its form.
     [[nodiscard]] const std::vector<std::string> &keys() const { return m_keys; }
+    /// Whether the setting, or another one of the same control, is locked. It cannot be edited then: what changes it
+    /// all the same is put back at once.
+    [[nodiscard]] bool isHeld(const std::string &key) const { return m_held.count(key) != 0; }
+    void putBackHeld();
+
     [[nodiscard]] bool hasControl(const std::string &key) const { return m_controls.count(key) != 0; }
     [[nodiscard]] QWidget *control(const std::string &key) const;
 
@@ -81,6 +88,9 @@ private:
     olFieldGuard m_guard;
     std::vector<std::string> m_keys;
     std::map<std::string, QPointer<QWidget>> m_controls;
+    std::set<std::string> m_held;
+    QTimer m_putBack;
+    bool m_isPuttingBack = false;
     std::map<std::string, std::string> m_types;
     std::map<std::string, Shown> m_filled;
     std::map<std::string, Shown> m_put;

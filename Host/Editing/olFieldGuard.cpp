@@ -1,6 +1,7 @@
 #include "Editing/olFieldGuard.h"
 
 #include "Session/olSettingDescription.h"
+#include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
 
 #include <QAbstractSpinBox>
@@ -12,6 +13,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace
@@ -66,15 +68,42 @@ olFieldGuard::olFieldGuard(const olPreferencesEntry &entry) : m_entry(entry)
         if (isNumberField(*field))
             watch(*field);
     }
+    olHostState::the().addObserver(*this);
+    showRefusals();
 }
 
-olFieldGuard::~olFieldGuard() = default;
+olFieldGuard::~olFieldGuard()
+{
+    olHostState::the().removeObserver(*this);
+    for (const Field &field : qAsConst(m_fields))
+        delete field.mark;
+}
+
+void olFieldGuard::stateChanged(const olHostValueBase &value)
+{
+    if (&value == &olHostState::the().refusals)
+        showRefusals();
+}
+
+void olFieldGuard::showRefusals()
+{
+    const std::map<std::string, QString> &refusals = olHostState::the().refusals;
+    const QList<QLineEdit *> fields = m_fields.keys();
+    for (QLineEdit *field : fields) {
+        const auto refusal = refusals.find(keyOf(*field));
+        if (refusal != refusals.end())
+            mark(*field, refusal->second);
+        else if (m_fields[field].isOfHost)
+            clearMark(*field);
+        m_fields[field].isOfHost = refusal != refusals.end();
+    }
+}
 
 void olFieldGuard::watch(QLineEdit &field)
 {
     m_fields[&field].before = field.text();
     connect(&field, &QObject::destroyed, this, [this, gone = &field] { m_fields.remove(gone); });
-    connect(&field, &QLineEdit::inputRejected, this, [this, &field] { mark(field); });
+    connect(&field, &QLineEdit::inputRejected, this, [this, &field] { markExpectation(field); });
     connect(&field, &QLineEdit::textEdited, this, [this, &field](const QString &text) { edited(field, text); });
     // A spin box takes the keys and hands them on; what it shows by itself it does not tell.
     if (QWidget *box = spinBoxOf(field))
@@ -138,7 +167,7 @@ void olFieldGuard::refuse(QLineEdit &field)
         box->interpretText();
     field.selectAll();
     known.refused.start();
-    mark(field);
+    markExpectation(field);
 }
 
 void olFieldGuard::restore(QLineEdit &field)
@@ -148,7 +177,7 @@ void olFieldGuard::restore(QLineEdit &field)
         m_fields[&field].before = field.text();
     if (!m_fields[&field].isTyped || field.hasAcceptableInput())
         return;
-    mark(field);
+    markExpectation(field);
     if (!restoresItself(field))
         field.setText(m_fields[&field].before);
 }
@@ -160,16 +189,21 @@ void olFieldGuard::restoreUnfinished()
         restore(*field);
 }
 
-void olFieldGuard::mark(QLineEdit &field)
+void olFieldGuard::markExpectation(QLineEdit &field)
+{
+    mark(field, tr("Only %1 can be entered here.").arg(expectation(field)));
+}
+
+void olFieldGuard::mark(QLineEdit &field, const QString &sentence)
 {
     Field &known = m_fields[&field];
-    const QString sentence = tr("Only %1 can be entered here.").arg(expectation(field));
     if (!known.mark) {
         const QIcon icon = field.style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, &field);
         known.mark = field.addAction(icon, QLineEdit::TrailingPosition); // owned by the field
         known.mark->setObjectName(QStringLiteral("refused"));
     }
     known.mark->setToolTip(sentence);
+    known.isOfHost = false;
     if (field.isVisible())
         QToolTip::showText(field.mapToGlobal(field.rect().bottomLeft()), sentence, &field);
 }
@@ -180,13 +214,19 @@ void olFieldGuard::clearMark(QLineEdit &field)
     QToolTip::hideText();
 }
 
-/// Of the setting that the field, or the control that it is part of, stands for.
-QString olFieldGuard::expectation(const QLineEdit &field) const
+/// Of the setting that the field, or the control that it is part of, stands for; empty where it stands for none.
+std::string olFieldGuard::keyOf(const QLineEdit &field) const
 {
     for (const QWidget *control = &field; control && control != m_entry.page(); control = control->parentWidget()) {
         const QStringList keys = control->property(keysProperty).toStringList();
         if (!keys.isEmpty())
-            return olSettingDescription::of(m_entry, keys.first().toStdString()).expectation();
+            return keys.first().toStdString();
     }
-    return tr("a number");
+    return {};
+}
+
+QString olFieldGuard::expectation(const QLineEdit &field) const
+{
+    const std::string key = keyOf(field);
+    return key.empty() ? tr("a number") : olSettingDescription::of(m_entry, key).expectation();
 }

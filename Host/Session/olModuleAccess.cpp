@@ -1,7 +1,7 @@
 #include "Session/olModuleAccess.h"
 
 #include "State/olPreferencesEntry.h"
-#include "State/olValueVariant.h"
+#include "State/olValue.h"
 
 #include <QMetaObject>
 #include <QObject>

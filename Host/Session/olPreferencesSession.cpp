@@ -133,6 +133,9 @@ QStringList stampsOf(const QStringList &files)
     return stamps;
 }
 
+/// From a sentence that is empty where all went well.
+olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
+
 void setDisplayLanguage()
 {
     const int *language = boost::any_cast<int>(&record().get(languageKey));
@@ -144,6 +147,31 @@ template <class Visit> void eachOwner(const std::string &key, Visit visit)
 {
     const auto [first, end] = olPreferencesRegistry::the().offersOf(key);
     std::for_each(first, end, [&visit](const olOffer &offer) { visit(*offer.entry); });
+}
+
+/// Of that type; empty for a type that is no list.
+boost::any emptyList(const std::string &type) { return olValue::fromJson(type, QByteArrayLiteral("[]")); }
+
+/// A list that is absent until somebody fills it, and has no default.
+struct OptionalList {
+    olPreferencesEntry *module;
+    boost::any none;
+};
+
+std::map<std::string, OptionalList> optionalLists()
+{
+    std::map<std::string, OptionalList> found;
+    for (olPreferencesEntry *entry : entries()) {
+        const std::vector<std::string> keys = olModuleAccess(*entry).keys();
+        for (const std::string &key : keys) {
+            if (olPreferencesRegistry::the().ownerOf(key))
+                continue;
+            const boost::any none = emptyList(olSettingDescription::of(*entry, key).type);
+            if (!none.empty())
+                found.emplace(key, OptionalList{entry, none});
+        }
+    }
+    return found;
 }
 
 /// The modules with, behind them, those that have one of the settings.
@@ -169,7 +197,7 @@ olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStri
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
 
-QString olPreferencesSession::loadStore(olStoreUse use)
+olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
     const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
     if (!opening.notice.isEmpty())
@@ -187,7 +215,7 @@ QString olPreferencesSession::loadStore(olStoreUse use)
     if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
     setDisplayLanguage();
-    return opening.error;
+    return resultOf(opening.error);
 }
 
 void olPreferencesSession::stop()
@@ -196,7 +224,7 @@ void olPreferencesSession::stop()
     m_plugin.unload();
 }
 
-QString olPreferencesSession::loadPlugin(const QString &given)
+olResult<> olPreferencesSession::loadPlugin(const QString &given)
 {
     const QString notice = olRemoveAbandonedLock();
     if (!notice.isEmpty())
@@ -212,6 +240,11 @@ void olPreferencesSession::fillDefaults()
 
     settleSite(m_site);
     m_notices << m_site.takeFaults();
+    for (const auto &[key, list] : optionalLists()) {
+        // At this site it has a default like any other.
+        if (m_site.settings().count(key) != 0)
+            list.module->offered(key, list.none);
+    }
     for (const auto &site : m_site.settings()) {
         const auto &[key, setting] = site;
         eachOwner(key, [&, key = key, value = setting.value](olPreferencesEntry &owner) {
@@ -225,7 +258,12 @@ void olPreferencesSession::fillDefaults()
 
 void olPreferencesSession::settleSite(olSiteDefaults &site) const
 {
-    site.settle([this](const std::string &key) { return defaultValue(key); },
+    const auto optional = optionalLists();
+    const auto defaultOf = [this, &optional](const std::string &key) {
+        const auto list = optional.find(key);
+        return list == optional.end() ? defaultValue(key) : list->second.none;
+    };
+    site.settle(defaultOf,
                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
@@ -239,7 +277,7 @@ void olPreferencesSession::start()
         entry->updateGUI();
     for (olPreferencesEntry *entry : entries()) {
         entry->preferencesInitialApply();
-        entry->settle();
+        entry->markClean();
     }
 }
 
@@ -319,10 +357,11 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
     return changes;
 }
 
-QString olPreferencesSession::save()
+olResult<> olPreferencesSession::save()
 {
     const QScopedValueRollback<bool> changing(m_isChanging, true);
     restoreLocked();
+    keepEmptied();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
     QString error = m_store.save(changes.changed, changes.removed);
@@ -338,7 +377,7 @@ QString olPreferencesSession::save()
         m_chosen.clear();
         m_restored.clear();
     }
-    return error;
+    return resultOf(error);
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
@@ -358,8 +397,8 @@ QString olPreferencesSession::saveIntoMended(const QString &error, const Values 
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
-                                      const std::set<std::string> &restored)
+olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
+                                        const std::set<std::string> &restored)
 {
     // A module may open a box on the way.
     const QScopedValueRollback<bool> changing(m_isChanging, true);
@@ -367,16 +406,16 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
     takeBack(shown, besides);
     for (const std::string &key : restored)
         restore(key);
-    QString error = save();
+    olResult<> saved = save();
     m_restored.clear();
-    if (!error.isEmpty()) {
+    if (!saved.isOk()) {
         before.restore();
         // What the take-back reported is void; the service has its own reports back with its values.
         for (olPreferencesEntry *entry : shown) {
             if (entry->home() == olHome::Record)
-                entry->settle();
+                entry->markClean();
         }
-        return error;
+        return saved;
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
@@ -384,9 +423,9 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
                   [](auto *entry) { entry->updateGUI(); });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
-        entry->settle();
+        entry->markClean();
     }
-    return {};
+    return saved;
 }
 
 void olPreferencesSession::follow()
@@ -478,7 +517,7 @@ void olPreferencesSession::applyIn(olPreferencesEntry &entry, const std::set<std
     for (const std::string &key : keysOf(entry))
         entry.setChanged(key, changed.count(key) != 0);
     entry.applyPreferences();
-    entry.settle();
+    entry.markClean();
     emit tookOver(entry);
 }
 
@@ -573,6 +612,18 @@ void olPreferencesSession::restoreLocked() const
         eachOwner(key, [key = key, value = setting.value](olPreferencesEntry &owner) {
             if (!olValue::identical(owner.value(key), value))
                 owner.setValue(key, value);
+        });
+    }
+}
+
+/// A page takes a list without rows out of the record; where the site has a default for it, that must not come back.
+void olPreferencesSession::keepEmptied() const
+{
+    for (const auto &site : m_site.settings()) {
+        const auto &[key, setting] = site;
+        eachOwner(key, [key = key, none = emptyList(olValue::typeName(setting.value))](olPreferencesEntry &owner) {
+            if (owner.value(key).empty() && !none.empty())
+                owner.setValue(key, none);
         });
     }
 }

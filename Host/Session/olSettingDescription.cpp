@@ -4,7 +4,6 @@
 #include "Session/olNumberText.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
-#include "State/olValueVariant.h"
 
 #include <OpenSG/OSGColor.h>
 #include <QCoreApplication>

@@ -410,6 +410,22 @@ class Site(ToolTest):
         self.assertEqual(result.stderr, 'skipped: "Camera fov" is locked: One camera for all.\n')
         self.assert_printed(self.stored("get", "Camera fov"), "60\n")
 
+    def test_profiles_of_the_site_are_applied_but_not_changed(self):
+        folder = self.file.parent / "profiles"
+        folder.mkdir()
+        settings = {"Powerwall height": {"type": "float", "value": 9}, "Camera fov": {"type": "float", "value": 70}}
+        (folder / "hall.json").write_text(json.dumps({"format": 1, "settings": settings}))
+        self.assert_printed(self.stored("profile", "list"), "hall  (site)\n")
+        result = self.stored("profile", "apply", "hall")
+        self.assertEqual((result.stderr, result.returncode),
+                         ('skipped: "Camera fov" is locked: One camera for all.\n', 0))
+        self.assert_printed(self.stored("get", "Powerwall height"), "9\n")
+        self.assert_refused(self.stored("profile", "delete", "hall"),
+                            'The profile "hall" is the site\'s and cannot be deleted.')
+        self.assert_printed(self.stored("profile", "save", "hall", "--changed"), "")
+        self.assert_printed(self.stored("profile", "list"), "hall\n")
+        self.assertEqual(json.loads((folder / "hall.json").read_text())["settings"], settings)
+
     def test_check_tells_of_the_store_and_of_the_site(self):
         self.stored("set", "Powerwall height", "1")
         self.assert_printed(self.stored("check"), "")
@@ -432,8 +448,21 @@ class Site(ToolTest):
         self.assertEqual((result.stdout, result.stderr, result.returncode), (reason, "", 1))
         self.assertEqual(self.stored("get", "Camera fov").stderr, reason)
 
+    def test_a_file_is_judged_before_it_is_installed(self):
+        self.write({"Camera fob": {"value": 1}})
+        draft = self.folder / "draft.json"
+        draft.write_text('{"Camera fov": {"value": 60, "locked": true}}')
+        self.assert_printed(self.stored("check", "--site", draft), "")
+        draft.write_text('{"Camera fov": {"value": "wide"},\n "Camera foz": {"locked": true}}')
+        result = self.stored("check", "--site", draft)
+        self.assertEqual((result.stderr, result.returncode), ("", 1))
+        self.assertRegex(result.stdout, r'^.*draft.json.*line 1.*"Camera fov".*\n.*line 2.*"Camera foz"\.\n$')
+        missing = self.folder / "missing.json"
+        self.assert_refused(self.stored("check", "--site", missing), f"Cannot check {missing}: there is no such file.")
+
     def test_the_examples_of_the_document_are_taken(self):
         text = (pathlib.Path(__file__).resolve().parents[2] / "docs/site-defaults.md").read_text()
+        text = re.sub(r"(?s)```.*?```", "", text)
         examples = re.findall(r"(?m)(?:^    .*\n)+", text)
         self.assertTrue(examples)
         for example in examples:
@@ -505,7 +534,7 @@ class Manual(ToolTest):
     def test_it_tells_of_every_command_and_option(self):
         text = self.page.read_text().replace("\\-", "-")
         words = re.findall(r"(?m)^  ([a-z]+|--[a-z-]+) ", self.tool("--help").stdout)
-        for word in [*words, "--dry-run", "--all", "--json", "--markdown", "--changed", "--module"]:
+        for word in [*words, "--dry-run", "--all", "--json", "--markdown"]:
             self.assertRegex(text, rf"(?<![\w-]){word}(?![\w-])")
 
     @unittest.skipUnless(shutil.which("groff"), "needs groff")
@@ -547,9 +576,11 @@ class CommandLine(ToolTest):
         self.assertRegex(self.tool("--version").stdout, r"^orlo-prefs \d+\.\d+")
 
     def test_what_is_not_understood_is_named(self):
-        commands = "only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; see --help"
+        commands = ("only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; "
+                    "see --help")
         for arguments, message in {
-                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema or script; see --help",
+                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema "
+                    "or script; see --help",
                 ("lst",): f"there is no command lst, {commands}",
                 ("--stroe", "x", "list"): 'there is no option --stroe; did you mean "--store"?',
                 ("--edition", "gold", "list"):

@@ -2,6 +2,7 @@
 
 #include "Editing/olPageIndex.h"
 #include "State/olValue.h"
+#include "Utilities/olPlatform.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
@@ -12,6 +13,8 @@
 #include <QDoubleValidator>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaEnum>
@@ -22,6 +25,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTextDocumentFragment>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -145,7 +149,8 @@ QByteArray ofItems(const QWidget &widget)
             const QVariant data = combo->itemData(row);
             items << quoted(combo->itemText(row)) + (data.isValid() ? " = " + data.toByteArray() : QByteArray());
         }
-        return (combo->isEditable() ? ", editable, items " : ", items ") + items.join(", ");
+        return (combo->isEditable() ? ", editable with " + key(combo->insertPolicy()) : QByteArray()) + ", items " +
+               items.join(", ");
     }
     if (const auto *tabs = qobject_cast<const QTabWidget *>(&widget)) {
         for (int tab = 0; tab < tabs->count(); ++tab)
@@ -170,7 +175,14 @@ QByteArray ofView(const QWidget &widget)
     QByteArray line = ", columns " + columns.join(", ") + aligned(header.defaultAlignment());
     if (header.stretchLastSection())
         line += ", the last stretched";
-    line += ", " + key(view->selectionMode()) + ' ' + key(view->selectionBehavior());
+    line += ", " + key(view->selectionMode()) + ' ' + key(view->selectionBehavior()) + ", edited by " +
+            QMetaEnum::fromType<QAbstractItemView::EditTriggers>().valueToKeys(int(view->editTriggers()));
+    if (view->textElideMode() != Qt::ElideRight)
+        line += ", " + key(view->textElideMode());
+    if (table && table->verticalHeader()->isHidden())
+        line += ", rows without numbers";
+    if (tree && (tree->rootIsDecorated() || tree->itemsExpandable()))
+        line += ", rows unfold";
     if (table ? table->isSortingEnabled() : tree->isSortingEnabled())
         line += ", sorted by the user";
     if (table && table->verticalHeader()->defaultSectionSize() != QTableView().verticalHeader()->defaultSectionSize())
@@ -194,12 +206,27 @@ QByteArray ofSize(const QWidget &widget)
     return line;
 }
 
+/// The host's name of an icon.
+QByteArray nameOf(const QIcon &icon)
+{
+    const auto picture = [](const QIcon &icon) { return icon.pixmap(32).toImage(); };
+    for (const char *name : {"FileOpen", "FileSave", "Help", "Reset"}) {
+        if (picture(olPlatform::getIcon(QLatin1String(name))) == picture(icon))
+            return name;
+    }
+    return "of another kind";
+}
+
 QByteArray ofState(const QWidget &widget)
 {
     QByteArray line;
     const auto *button = qobject_cast<const QAbstractButton *>(&widget);
     if (button && !button->icon().isNull())
-        line += ", icon";
+        line += ", icon " + nameOf(button->icon());
+    if (const auto *tool = qobject_cast<const QToolButton *>(&widget); tool && tool->autoRaise())
+        line += ", flat";
+    if (const auto *editor = qobject_cast<const QPlainTextEdit *>(&widget); editor && editor->tabChangesFocus())
+        line += ", Tab leaves it";
     const QByteArray holds = PageText::state(widget);
     if (!holds.isEmpty())
         line += ", holds " + holds;

@@ -24,11 +24,7 @@ olTesselationValue<Value> valueOf(olTesselationSettings *block, olTesselationSet
 }
 template <class Value> void showOn(const olTesselationValue<Value> &part, Value value)
 {
-    const bool differs = (part.block->*part.get)() != value;
     (part.block->*part.set)(value);
-    // A single value may be shown alone; the quality belongs to it all the same.
-    if (differs)
-        part.block->updateQualityPreset();
 }
 template <class Value> void takeFrom(const olTesselationValue<Value> &part, Value &value)
 {

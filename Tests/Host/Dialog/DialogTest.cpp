@@ -190,7 +190,7 @@ void DialogTest::start(const QByteArray &site)
         file.write(site);
     }
     session = std::make_unique<olPreferencesSession>(store, QStringList{siteFile});
-    ASSERT_EQ(session->loadStore(), QString());
+    ASSERT_EQ(session->loadStore().error(), QString());
     session->start();
     module.applied = 0;
     dialog = std::make_unique<olPreferencesDialog>(*session);
