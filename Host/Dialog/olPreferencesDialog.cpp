@@ -77,7 +77,8 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_foundList(new olFoundSettings),
       m_message(new olMessageLine),
       m_outside(new olOutsideLine(
-          session, *m_pending, [this](const std::string &key) { return placeOf(key); }, &olShortValueText)),
+          session, *m_pending, [this](const std::string &key) { return placeOf(key); },
+          [](const std::string &key, const boost::any &value) { return olShortValueText(key, value); })),
       m_changes(new QPushButton),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel))
 {

@@ -576,9 +576,11 @@ class CommandLine(ToolTest):
         self.assertRegex(self.tool("--version").stdout, r"^orlo-prefs \d+\.\d+")
 
     def test_what_is_not_understood_is_named(self):
-        commands = "only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; see --help"
+        commands = ("only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; "
+                    "see --help")
         for arguments, message in {
-                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema or script; see --help",
+                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema "
+                    "or script; see --help",
                 ("lst",): f"there is no command lst, {commands}",
                 ("--stroe", "x", "list"): 'there is no option --stroe; did you mean "--store"?',
                 ("--edition", "gold", "list"):
