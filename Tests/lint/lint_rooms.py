@@ -26,7 +26,7 @@ ROOMS = {
     "Host/Store": "Host Sdk/Utilities Sdk/State",
     "Host/Session": "Host Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices",
     "Host/Editing": "Host Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",
-    "Host/Dialog": "Host Host/Editing Host/Session Sdk/Utilities Sdk/State Sdk/Widgets",
+    "Host/Dialog": "Host Host/Editing Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",
     "Host/WebServer": "Host Host/Store Sdk/Utilities Sdk/State",
     "Host/Devices": "Host Sdk/Utilities Sdk/State",
     # the scene

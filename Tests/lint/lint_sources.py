@@ -43,7 +43,7 @@ def sdk_faults(path, text):
 def unexplained_settings(root):
     """Every setting is named where it stands what it does here: by its place on the page, or without one by its key."""
     explained = " ".join((root / "docs/settings-in-the-view.md").read_text().split())
-    for key, place in re.findall(r"^\| `([^`]+)` \|.*\| (.*) ?\|$", (root / "docs/settings.md").read_text(), re.M):
+    for key, place in re.findall(r"^\| `([^`]+)` \|.*\| (.*) ?\|[^|]*\|$", (root / "docs/settings.md").read_text(), re.M):
         name = place.split(" › ")[-1].strip() or f"`{key}`"
         if name not in explained:
             yield f"settings-in-the-view.md: says nothing of {name} ({key})"
