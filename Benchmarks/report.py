@@ -154,7 +154,7 @@ def dialog(program):
 def save(program):
     figures = Figures([program, "save"], 15)
     return [
-        at_most("save of one changed setting / QSettings", figures.ratio("save", "QSettings save"), 0.5),
+        at_most("save of one changed setting / QSettings", figures.ratio("save", "QSettings save"), 5),
         at_most("save of nothing: write calls", figures.counter("save nothing", "writes"), 0),
     ]
 

@@ -11,8 +11,6 @@
 namespace
 {
 
-constexpr int failureStatus = 2;
-
 /// Remarks of the toolkit on what a tool without a screen does not have: a window manager and a login session.
 bool isAboutTheScreen(const QString &message)
 {
@@ -83,6 +81,6 @@ int main(int argumentCount, char **argumentValues)
     } catch (const olToolError &error) {
         std::fflush(stdout);
         std::fprintf(stderr, "%s\n", error.what());
-        return failureStatus;
+        return error.status();
     }
 }

@@ -23,6 +23,12 @@ void requireExpected(const QString &expected, const olKnownSetting &setting, con
                               .arg(written, QString::fromStdString(setting.key), expected));
 }
 
+void restore(olPrefsTool &tool, const olKnownSetting &setting)
+{
+    setting.setValue(setting.standard);
+    tool.session().restore(setting.key);
+}
+
 } // namespace
 
 void olPrefsCommands::set(olPrefsTool &tool)
@@ -38,6 +44,7 @@ void olPrefsCommands::set(olPrefsTool &tool)
         requireExpected(QString::fromStdString(olValue::expectation(setting.type)), setting, written);
     requireExpected(olControlBounds(setting.control, setting.key, setting.standard, value), setting, written);
     setting.setValue(value);
+    tool.session().choose(setting.key);
     tool.save();
 }
 
@@ -50,11 +57,11 @@ void olPrefsCommands::reset(olPrefsTool &tool)
     if (asked == QLatin1String("--all")) {
         // What is locked has its default already.
         for (const olKnownSetting &setting : settings.all())
-            setting.setValue(setting.standard);
+            restore(tool, setting);
     } else {
         const olKnownSetting &setting = settings.named(asked);
         requireUnlocked(tool.session(), setting.key);
-        setting.setValue(setting.standard);
+        restore(tool, setting);
     }
     tool.save();
 }

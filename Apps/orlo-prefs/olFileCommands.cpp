@@ -3,9 +3,11 @@
 #include "Editing/olPreferencesImport.h"
 #include "Session/olFileArgument.h"
 #include "Session/olPreferencesFile.h"
+#include "Session/olProfiles.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
 #include "olKnownSettings.h"
+#include "olNearest.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"
 #include "olSettingsList.h"
@@ -48,6 +50,74 @@ olPreferencesImport importOf(const olPreferencesSession &session, const olKnownS
     return olPreferencesImport(session, contents, valueOf, controlOf);
 }
 
+/// Stores what the file changes, or only shows it.
+void take(olPrefsTool &tool, const olPreferencesFile::Contents &contents, bool isDryRun)
+{
+    if (!contents.error.isEmpty())
+        throw olToolError(contents.error);
+    tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
+    const olKnownSettings settings;
+    const olPreferencesImport import = importOf(tool.session(), settings, contents);
+    for (const olSkippedSetting &skipped : import.skipped)
+        std::fprintf(stderr, "skipped: \"%s\" %s\n", skipped.key.c_str(), qPrintable(skipped.reason));
+    if (isDryRun)
+        return tool.print(olSettingsList::changes(import.changes));
+    for (const olPreferencesImport::Change &change : import.changes)
+        settings.find(change.key)->setValue(change.after);
+    tool.save();
+}
+
+void requireSuccess(const QString &error)
+{
+    if (!error.isEmpty())
+        throw olToolError(error);
+}
+
+void requireModule(const QString &name, const olKnownSettings &settings)
+{
+    QStringList modules;
+    for (const olKnownSetting &setting : settings.all())
+        modules << setting.entry->name();
+    if (!modules.contains(name))
+        throw olToolError(QStringLiteral("there is no module \"%1\"%2").arg(name, olDidYouMean(name, modules)));
+}
+
+/// All settings, those that differ from their defaults, or those of one module.
+olSettingValues valuesToKeep(const QStringList &which)
+{
+    const olKnownSettings settings;
+    const bool isChangedOnly = which.value(0) == QLatin1String("--changed");
+    if (which.size() == 2)
+        requireModule(which.last(), settings);
+    olSettingValues values;
+    for (const olKnownSetting &setting : settings.all()) {
+        const bool isOther = which.size() == 2 && setting.entry->name() != which.last();
+        if (isOther || (isChangedOnly && olValue::identical(setting.value(), setting.standard)))
+            continue;
+        values[setting.key] = setting.entry->value(setting.key);
+    }
+    return values;
+}
+
+void listProfiles(olPrefsTool &tool, const olProfiles &profiles)
+{
+    std::string lines;
+    for (const olProfiles::Profile &profile : profiles.list())
+        lines += profile.name.toStdString() + (profile.isSites ? "  (site)\n" : "\n");
+    tool.print(lines);
+}
+
+void applyProfile(olPrefsTool &tool, const olProfiles &profiles, QStringList arguments)
+{
+    const bool isDryRun = arguments.removeOne(QStringLiteral("--dry-run"));
+    if (arguments.size() != 1)
+        tool.failUsage();
+    QString error;
+    const QString file = profiles.fileOf(arguments.first(), error);
+    requireSuccess(error);
+    take(tool, olPreferencesFile::read(file), isDryRun);
+}
+
 } // namespace
 
 void olPrefsCommands::exportTo(olPrefsTool &tool)
@@ -71,18 +141,26 @@ void olPrefsCommands::importFrom(olPrefsTool &tool)
 {
     const bool isDryRun = tool.arguments().value(0) == QLatin1String("--dry-run");
     tool.requireArguments(isDryRun ? 2 : 1);
-    const olPreferencesFile::Contents contents = read(olFileArgument(tool.arguments().last()));
-    if (!contents.error.isEmpty())
-        throw olToolError(contents.error);
+    take(tool, read(olFileArgument(tool.arguments().last())), isDryRun);
+}
 
-    tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
-    const olKnownSettings settings;
-    const olPreferencesImport import = importOf(tool.session(), settings, contents);
-    for (const olSkippedSetting &skipped : import.skipped)
-        std::fprintf(stderr, "skipped: \"%s\" %s\n", skipped.key.c_str(), qPrintable(skipped.reason));
-    if (isDryRun)
-        return tool.print(olSettingsList::changes(import.changes));
-    for (const olPreferencesImport::Change &change : import.changes)
-        settings.find(change.key)->setValue(change.after);
-    tool.save();
+void olPrefsCommands::profile(olPrefsTool &tool)
+{
+    QStringList arguments = tool.arguments();
+    const QString action = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    const olProfiles profiles(tool.session().store().file(), tool.session().siteFiles());
+    const QString which = arguments.value(1);
+    if (action == QLatin1String("list") && arguments.isEmpty())
+        return listProfiles(tool, profiles);
+    if (action == QLatin1String("apply"))
+        return applyProfile(tool, profiles, arguments);
+    if (action == QLatin1String("delete") && arguments.size() == 1)
+        return requireSuccess(profiles.remove(arguments.first()));
+    const bool isAll = arguments.size() == 1;
+    const bool isChanged = arguments.size() == 2 && which == QLatin1String("--changed");
+    const bool isModules = arguments.size() == 3 && which == QLatin1String("--module");
+    if (action != QLatin1String("save") || !(isAll || isChanged || isModules))
+        tool.failUsage();
+    tool.open(olStoreUse::LookAt);
+    requireSuccess(profiles.save(arguments.first(), valuesToKeep(arguments.mid(1))));
 }

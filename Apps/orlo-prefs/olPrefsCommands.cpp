@@ -38,6 +38,26 @@ const olPrefsCommand commands[] = {
      "another type or out of range, and locked settings are named on the standard error stream and skipped.\n"
      "  --dry-run   prints what would change, KEY  VALUE -> NEW VALUE, and stores nothing\n",
      &olPrefsCommands::importFrom},
+    {"profile", "profile list|save|apply|delete", "keeps settings under a name, and takes them from there",
+     "A profile is a set of settings with a name, in a file of preferences. The site may have some too.\n"
+     "  list                             the names\n"
+     "  save NAME [--changed | --module M]\n"
+     "                                   keeps all settings, those that differ from their defaults, or a module's\n"
+     "  apply NAME [--dry-run]           stores its settings as import does; or only prints what would change\n"
+     "  delete NAME\n",
+     &olPrefsCommands::profile},
+    {"log", "log [KEY] [--json]", "what was changed when, and by which program",
+     "Lists the last saves, the latest first: how far back it is, when, by which program, and what it changed. Of\n"
+     "confidential settings nothing is told.\n"
+     "  KEY         only the changes of that setting\n"
+     "  --json      one array, for programs\n",
+     &olPrefsCommands::log},
+    {"undo", "undo [N] [--dry-run]", "takes the last N saves back",
+     "Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -> NEW VALUE. It is a save\n"
+     "itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the\n"
+     "standard error stream and left; the exit status is then 1.\n"
+     "  --dry-run   only prints, and stores nothing\n",
+     &olPrefsCommands::undo},
     {"check", "check", "looks for damage in the store and faults in the site's files",
      "Prints a line for each thing that is wrong with the store, its copy or the site's files, also for keys that no\n"
      "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n",
@@ -87,7 +107,8 @@ std::string olPrefsCommands::help()
     return text + '\n' + olPrefsOptions::optionsHelp() +
            "\n"
            "The exit status is 0, or 2 with a message on the standard error stream; of check 1 when it finds "
-           "something.\n";
+           "something,\n"
+           "and of undo when it leaves something.\n";
 }
 
 std::string olPrefsCommands::help(const olPrefsCommand &command)

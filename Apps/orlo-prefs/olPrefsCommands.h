@@ -33,6 +33,9 @@ void set(olPrefsTool &tool);
 void reset(olPrefsTool &tool);
 void exportTo(olPrefsTool &tool);
 void importFrom(olPrefsTool &tool);
+void profile(olPrefsTool &tool);
+void log(olPrefsTool &tool);
+void undo(olPrefsTool &tool);
 void check(olPrefsTool &tool);
 void script(olPrefsTool &tool);
 

@@ -9,5 +9,13 @@
 class olToolError : public std::runtime_error
 {
 public:
-    explicit olToolError(const QString &why) : std::runtime_error(why.toStdString()) {}
+    explicit olToolError(const QString &why, int status = 2) : std::runtime_error(why.toStdString()), m_status(status)
+    {
+    }
+
+    /// With which the tool ends.
+    [[nodiscard]] int status() const { return m_status; }
+
+private:
+    int m_status;
 };

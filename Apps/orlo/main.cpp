@@ -180,6 +180,9 @@ int run(const QCommandLineParser &options)
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
+    QObject::connect(&session, &olPreferencesSession::noticed, &window,
+                     [&session, &window] { tell(session.takeNotices(), &window); });
+    session.follow();
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
     window.closePreferences();

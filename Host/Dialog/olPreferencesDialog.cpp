@@ -2,15 +2,19 @@
 
 #include "Dialog/olChangesView.h"
 #include "Dialog/olDialogMemory.h"
+#include "Dialog/olHistoryView.h"
 #include "Dialog/olMessageLine.h"
 #include "Dialog/olModuleTree.h"
+#include "Dialog/olOutsideLine.h"
 #include "Dialog/olPageFrame.h"
+#include "Dialog/olProfilesMenu.h"
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
 #include "Editing/olPendingChanges.h"
 #include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
+#include "Session/olUndo.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
@@ -70,6 +74,12 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_pages(new QStackedWidget),
       m_nothing(new QLabel),
       m_message(new olMessageLine),
+      m_outside(new olOutsideLine(
+          session, *m_pending, [this](const std::string &key) { return placeOf(key); },
+          [this](const std::string &key, const boost::any &value) {
+              const olFoundControl *control = m_search->control(key);
+              return olValueText(value, control ? control->widget.data() : nullptr, value);
+          })),
       m_changes(new QPushButton),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel))
 {
@@ -83,6 +93,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_splitter, 1);
+    layout->addWidget(m_outside);
     layout->addWidget(m_message);
     layout->addWidget(buildBottom());
 
@@ -116,6 +127,16 @@ QWidget *olPreferencesDialog::buildLeft()
     auto *menu = new QMenu(m_more);
     menu->addAction(tr("&Import..."), this, &olPreferencesDialog::chooseImport);
     menu->addAction(tr("&Export..."), this, &olPreferencesDialog::chooseExport);
+    menu->addSeparator();
+    auto *profiles = new olProfilesMenu({m_session.store().file(), m_session.siteFiles()}, this);
+    menu->addMenu(profiles);
+    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_pending->inForce()); });
+    connect(profiles, &olProfilesMenu::done, m_message, &olMessageLine::showNote);
+    connect(profiles, &olProfilesMenu::failed, m_message, &olMessageLine::showError);
+    connect(profiles, &olProfilesMenu::chosen, this, [this](const QString &name, const QString &file) {
+        preview(tr("Apply Profile %1").arg(name), tr("&Apply"), olPreferencesFile::read(file));
+    });
+    menu->addAction(tr("&History..."), this, &olPreferencesDialog::showHistory);
     menu->addSeparator();
     menu->addAction(tr("&Restore All Defaults"), this, &olPreferencesDialog::restoreAll);
     m_more->setMenu(menu);
@@ -245,6 +266,7 @@ void olPreferencesDialog::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     m_message->clear();
+    m_outside->clear();
     // Texts and choices may have changed since the last time.
     m_search->invalidate();
     filter();
@@ -585,7 +607,12 @@ void olPreferencesDialog::chooseImport()
 
 void olPreferencesDialog::importFrom(const QString &file)
 {
-    const olPreferencesFile::Contents contents = olPreferencesFile::read(file);
+    preview(tr("Import Preferences"), tr("&Import"), olPreferencesFile::read(file));
+}
+
+void olPreferencesDialog::preview(const QString &title, const QString &action,
+                                  const olPreferencesFile::Contents &contents)
+{
     if (!contents.error.isEmpty()) {
         m_message->showError(contents.error);
         return;
@@ -597,11 +624,11 @@ void olPreferencesDialog::importFrom(const QString &file)
     const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
     const olPreferencesImport import(m_session, contents, valueOf, controlOf);
 
-    auto *view = new olChangesView(tr("Import Preferences"), this);
+    auto *view = new olChangesView(title, this);
     view->setAttribute(Qt::WA_DeleteOnClose);
     view->setIntroduction(import.changes.empty()
-                              ? tr("Nothing in this file would change a setting.")
-                              : tr("These settings get the values of the file. They stay pending until OK or Apply."));
+                              ? tr("Nothing would change.")
+                              : tr("These settings get new values. They stay pending until OK or Apply."));
     for (const olPreferencesImport::Change &change : import.changes) {
         const QWidget *control = controlOf(change.key);
         view->addChange(placeOf(change.key), QString::fromStdString(change.key),
@@ -610,10 +637,32 @@ void olPreferencesDialog::importFrom(const QString &file)
     }
     for (const olSkippedSetting &skipped : import.skipped)
         view->addSkipped(QString::fromStdString(skipped.key), skipped.reason);
-    view->askFor(tr("&Import"));
+    view->askFor(action);
     connect(view, &QDialog::accepted, this, [this, values = import.values()] { m_pending->put(values); });
     view->fit();
     view->open();
+}
+
+void olPreferencesDialog::showHistory()
+{
+    const olUndo undo(m_session, 0);
+    if (!undo.error().isEmpty()) {
+        m_message->showError(undo.error());
+        return;
+    }
+    auto *view = new olHistoryView(undo.history(), this);
+    view->setAttribute(Qt::WA_DeleteOnClose);
+    connect(view, &olHistoryView::chosen, this, &olPreferencesDialog::goBack);
+    view->open();
+}
+
+void olPreferencesDialog::goBack(std::size_t saves)
+{
+    const olUndo undo(m_session, saves);
+    olPreferencesFile::Contents earlier{{}, undo.left(), undo.error()};
+    for (const olStoreRows::Change &change : undo.changes())
+        earlier.settings[change.key.second] = undo.value(change.key, change.after);
+    preview(tr("Go Back"), tr("&Go Back"), earlier);
 }
 
 void olPreferencesDialog::chooseExport()

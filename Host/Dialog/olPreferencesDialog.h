@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Session/olPreferencesFile.h"
 #include "olHostExport.h"
 
 #include <QDialog>
@@ -20,6 +21,7 @@ class QSplitter;
 class QStackedWidget;
 class olMessageLine;
 class olModuleTree;
+class olOutsideLine;
 class olPageFrame;
 class olPendingChanges;
 class olPreferencesEntry;
@@ -40,13 +42,16 @@ public:
     explicit olPreferencesDialog(olPreferencesSession &session, QWidget *parent = nullptr);
     ~olPreferencesDialog() override;
 
-    /// Opens the dialog, or brings it to the front, on the module of that name; an empty or unknown name keeps the
-    /// page that was shown last.
+    /// Opens the dialog, or brings it to the front, on the module of that name; an empty or unknown name keeps the page
+    /// that was shown last.
     void open(const QString &name);
     void open() override { open(QString()); }
 
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
+
+    /// Lists the saves of the store, and makes going back before one of them pending if that is agreed to.
+    void showHistory();
 
     /// Writes the values in force, not those still pending.
     void exportTo(const QString &file);
@@ -101,6 +106,8 @@ private:
     [[nodiscard]] bool store();
     bool tellNotices();
     [[nodiscard]] bool mayLeave();
+    void preview(const QString &title, const QString &action, const olPreferencesFile::Contents &contents);
+    void goBack(std::size_t saves);
     void chooseImport();
     void chooseExport();
 
@@ -119,6 +126,7 @@ private:
     QStackedWidget *m_pages;
     QLabel *m_nothing;
     olMessageLine *m_message;
+    olOutsideLine *m_outside;
     QPushButton *m_changes;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;

@@ -7,6 +7,7 @@
 #include "State/olValue.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -18,6 +19,8 @@ const std::vector<olPreferencesEntry *> &modules() { return olPreferencesRegistr
 olPendingChanges::olPendingChanges(olPreferencesSession &session) : m_session(session)
 {
     connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, this, &olPendingChanges::forgetTheGone);
+    connect(&session, &olPreferencesSession::aboutToTakeOver, this, &olPendingChanges::setAside);
+    connect(&session, &olPreferencesSession::tookOver, this, &olPendingChanges::showAgain);
 }
 
 olPendingChanges::~olPendingChanges() = default;
@@ -65,10 +68,36 @@ void olPendingChanges::forgetTheGone()
         page = isGone(page->first) ? m_pages.erase(page) : std::next(page);
 }
 
+/// While another program's changes come into force, which the page shows meanwhile.
+void olPendingChanges::setAside(const olPreferencesEntry &entry)
+{
+    m_aside.clear();
+    const olEditedPage *page = findPage(entry);
+    for (const std::string &key : page ? page->keys() : std::vector<std::string>()) {
+        if (page->isChanged(key))
+            m_aside[key] = page->value(key);
+    }
+}
+
+void olPendingChanges::showAgain(const olPreferencesEntry &entry)
+{
+    if (olEditedPage *page = findPage(entry)) {
+        page->settle();
+        if (!m_aside.empty())
+            page->show(m_aside);
+    }
+    for (auto pending = m_withoutControl.begin(); pending != m_withoutControl.end();) {
+        const bool isInForce = olValue::equal(entry.value(pending->first), pending->second);
+        pending = isInForce ? m_withoutControl.erase(pending) : std::next(pending);
+    }
+    emit edited();
+}
+
 void olPendingChanges::drop()
 {
     m_filled.clear();
     m_withoutControl.clear();
+    m_restored.clear();
     emit edited();
 }
 
@@ -144,6 +173,11 @@ void olPendingChanges::put(const olSettingValues &values)
 {
     std::map<olPreferencesEntry *, olSettingValues> byOwner;
     for (const auto &[key, value] : values) {
+        // Who asks for the default wants whatever it will be; who picks the same value wants that.
+        if (olValue::identical(value, m_session.defaultValue(key)))
+            m_restored.insert(key);
+        else
+            m_restored.erase(key);
         olPreferencesEntry *owner = ownerOf(key);
         if (owner && !m_session.lockReason(key))
             byOwner[owner][key] = value;
@@ -229,9 +263,10 @@ QString olPendingChanges::commit()
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
-    QString error = m_session.confirm(m_filled, besides);
+    QString error = m_session.confirm(m_filled, besides, m_restored);
     if (error.isEmpty()) {
         m_withoutControl.clear();
+        m_restored.clear();
         for (const olPreferencesEntry *entry : m_filled)
             findPage(*entry)->settle();
     }

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -80,6 +81,8 @@ signals:
 
 private:
     void forgetTheGone();
+    void setAside(const olPreferencesEntry &entry);
+    void showAgain(const olPreferencesEntry &entry);
     void findOwners() const;
     [[nodiscard]] olSettingValues defaultsOf(const olPreferencesEntry &entry) const;
     [[nodiscard]] bool isShared(const std::string &key) const;
@@ -90,5 +93,7 @@ private:
     std::map<const olPreferencesEntry *, std::unique_ptr<olEditedPage>> m_pages;
     std::vector<olPreferencesEntry *> m_filled;
     olSettingValues m_withoutControl;
+    olSettingValues m_aside;
+    std::set<std::string> m_restored;
     mutable std::map<std::string, olPreferencesEntry *> m_owners;
 };

@@ -9,9 +9,11 @@
 #include "State/olValue.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include <algorithm>
-#include <iterator>
 
 namespace
 {
@@ -19,6 +21,9 @@ namespace
 using Values = olPreferencesStore::Values;
 
 constexpr auto languageKey = "MainWindow user language";
+
+// Somebody who has just changed something elsewhere waits for it.
+constexpr int followMilliseconds = 400;
 
 olMessage &record() { return olPreferencesRegistry::the().record(); }
 olPreferencesService &service() { return *olKernelServiceFactory::the<olPreferencesService>(); }
@@ -56,8 +61,6 @@ private:
     olPreferencesService m_service;
 };
 
-bool isStorable(const boost::any &value) { return !olValue::typeName(value).empty(); }
-
 using Offer = olPreferencesRegistry::Offers::const_iterator;
 
 /// Several modules may have a setting, in one home or in both.
@@ -79,9 +82,54 @@ bool hasDefault(const olPreferencesStore::Key &key)
     return isIn(key.first, first, end);
 }
 
+bool isDefault(const olPreferencesStore::Key &key, const boost::any &value)
+{
+    const auto [first, end] = olPreferencesRegistry::the().offersOf(key.second);
+    return isDefault(key.first, value, first, end);
+}
+
 boost::any valueAt(const olPreferencesStore::Key &key)
 {
     return key.first == olHome::Record ? record().get(key.second) : service().get(key.second);
+}
+
+void setValueAt(const olPreferencesStore::Key &key, const boost::any &value)
+{
+    if (key.first == olHome::Service)
+        service().set(key.second, value);
+    else if (value.empty())
+        record().remove(key.second);
+    else
+        record().set(key.second, value, true);
+}
+
+/// The settings that a page edits, with or without a default.
+std::set<std::string> keysOf(const olPreferencesEntry &entry)
+{
+    std::set<std::string> keys;
+    for (const olOfferedDefault &offered : entry.defaults())
+        keys.insert(offered.key);
+    const auto controls = entry.page() ? entry.page()->findChildren<QWidget *>() : QList<QWidget *>();
+    for (const QWidget *control : controls) {
+        const QStringList edited = control->property("olSettingKeys").toStringList();
+        for (const QString &key : edited)
+            keys.insert(key.toStdString());
+    }
+    return keys;
+}
+
+/// Each differs when its file was written, replaced, or came or went.
+QStringList stampsOf(const QStringList &files)
+{
+    QStringList stamps;
+    for (const QString &file : files) {
+        const QFileInfo info(file);
+        stamps << QStringLiteral("%1 %2 %3")
+                      .arg(info.exists())
+                      .arg(info.size())
+                      .arg(info.lastModified().toMSecsSinceEpoch());
+    }
+    return stamps;
 }
 
 void setDisplayLanguage()
@@ -114,6 +162,8 @@ std::vector<olPreferencesEntry *> withOwners(std::vector<olPreferencesEntry *> m
 olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStringList &siteFiles)
     : m_store(storeFile), m_site(siteFiles), m_siteFiles(siteFiles)
 {
+    connect(&m_following, &QTimer::timeout, this, &olPreferencesSession::takeOver);
+    connect(&m_following, &QTimer::timeout, this, &olPreferencesSession::followSite);
 }
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
@@ -141,8 +191,8 @@ QString olPreferencesSession::loadStore(olStoreUse use)
 
 void olPreferencesSession::stop()
 {
+    m_following.stop();
     m_plugin.unload();
-    m_store.close();
 }
 
 QString olPreferencesSession::loadPlugin(const QString &given)
@@ -192,52 +242,21 @@ void olPreferencesSession::newScene()
         entry->preferencesNewScene();
 }
 
-Values olPreferencesSession::current() const
-{
-    Values values;
-    const auto keep = [&values](olHome home, const std::string &key, const boost::any &value) {
-        if (isStorable(value))
-            values[{home, key}] = value;
-    };
-    // Both are in the order of their keys, so that nothing has to be looked up.
-    const olMessage::Entries &rows = record().entries();
-    auto row = rows.begin();
-    const auto end = olPreferencesRegistry::the().offers().end();
-    for (Offer first = olPreferencesRegistry::the().offers().begin(), next; first != end; first = next) {
-        const std::string &key = first->offered->key;
-        next = std::find_if(first, end, [&key](const olOffer &offer) { return offer.offered->key != key; });
-        // Some keys have no default; whatever the record holds beyond the defaults is kept.
-        for (; row != rows.end() && row->first < key; ++row)
-            keep(olHome::Record, row->first, row->second);
-        if (row != rows.end() && row->first == key) {
-            if (!isDefault(olHome::Record, row->second, first, next))
-                keep(olHome::Record, key, row->second);
-            ++row;
-        }
-        if (isIn(olHome::Service, first, next)) {
-            const boost::any value = service().get(key);
-            if (!isDefault(olHome::Service, value, first, next))
-                keep(olHome::Service, key, value);
-        }
-    }
-    for (; row != rows.end(); ++row)
-        keep(olHome::Record, row->first, row->second);
-
-    // What was chosen earlier stays chosen although it is a default here: in another edition it may not be one.
-    for (const auto &[key, stored] : m_stored) {
-        if (olValue::identical(valueAt(key), stored))
-            values[key] = stored;
-    }
-    return values;
-}
-
 bool olPreferencesSession::isLocked(const std::string &key) const { return lockReason(key).has_value(); }
 
 Values olPreferencesSession::toBeKept() const
 {
-    Values kept = current();
-    for (auto value = kept.begin(); value != kept.end();)
-        value = isLocked(value->first.second) ? kept.erase(value) : std::next(value);
+    Values kept;
+    const auto keep = [&](const olPreferencesStore::Key &key, const boost::any &value) {
+        if (!olValue::typeName(value).empty() && isChoice(key, value))
+            kept[key] = value;
+    };
+    for (const auto &[key, value] : record().entries())
+        keep({olHome::Record, key}, value);
+    for (const olOffer &offer : olPreferencesRegistry::the().offers()) {
+        if (offer.entry->home() == olHome::Service)
+            keep({olHome::Service, offer.offered->key}, service().get(offer.offered->key));
+    }
     // The record shows all its rows; the service only those of its modules. And under a lock waits what was chosen
     // before it.
     for (const auto &[key, value] : m_stored) {
@@ -246,6 +265,35 @@ Values olPreferencesSession::toBeKept() const
             kept[key] = value;
     }
     return kept;
+}
+
+/// Whether a value is kept. One that was chosen stays chosen although it is a default here: in another edition it may
+/// be none. Only what the site gives is the default everywhere.
+bool olPreferencesSession::isChoice(const olPreferencesStore::Key &key, const boost::any &value) const
+{
+    if (isLocked(key.second))
+        return false;
+    if (!isDefault(key, value))
+        return true;
+    if (m_restored.count(key.second) != 0)
+        return false;
+    const auto stored = m_stored.find(key);
+    if (stored != m_stored.end() && olValue::identical(stored->second, value))
+        return true;
+    const bool wasChosen = stored != m_stored.end() || m_chosen.count(key.second) != 0;
+    return wasChosen && m_site.settings().count(key.second) == 0;
+}
+
+void olPreferencesSession::choose(const std::string &key)
+{
+    m_chosen.insert(key);
+    m_restored.erase(key);
+}
+
+void olPreferencesSession::restore(const std::string &key)
+{
+    m_restored.insert(key);
+    m_chosen.erase(key);
 }
 
 olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored, const Values &kept) const
@@ -266,6 +314,7 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
 
 QString olPreferencesSession::save()
 {
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
     restoreLocked();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
@@ -278,17 +327,23 @@ QString olPreferencesSession::save()
         for (const olPreferencesStore::Key &key : changes.removed)
             m_stored.erase(key);
     }
+    if (error.isEmpty()) {
+        m_chosen.clear();
+        m_restored.clear();
+    }
     return error;
 }
 
-/// What this run holds is newer than any copy, so all of it goes into the mended file.
+/// What this run holds is newer than any copy, so all of it goes into the file that it mends.
 QString olPreferencesSession::saveIntoMended(const QString &error, const Values &kept)
 {
     Values mended;
     const olStoreOpening opening = m_store.open(mended);
     if (!opening.error.isEmpty())
         return error;
-    const Changes changes = changesTo(mended, kept);
+    // What another program has mended may hold newer values of its own.
+    const bool isOthers = opening.notice.isEmpty() && !mended.empty();
+    const Changes changes = changesTo(isOthers ? m_stored : mended, kept);
     QString newError = m_store.save(changes.changed, changes.removed);
     if (newError.isEmpty() && !opening.notice.isEmpty())
         m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",
@@ -296,11 +351,17 @@ QString olPreferencesSession::saveIntoMended(const QString &error, const Values 
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides)
+QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
+                                      const std::set<std::string> &restored)
 {
+    // A module may open a box on the way.
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
     const Snapshot before;
     takeBack(shown, besides);
+    for (const std::string &key : restored)
+        restore(key);
     QString error = save();
+    m_restored.clear();
     if (!error.isEmpty()) {
         before.restore();
         // What the take-back reported is void; the service has its own reports back with its values.
@@ -319,6 +380,99 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
         entry->settle();
     }
     return {};
+}
+
+void olPreferencesSession::follow()
+{
+    m_siteStamps = stampsOf(m_siteFiles);
+    m_following.start(followMilliseconds);
+}
+
+void olPreferencesSession::followSite()
+{
+    const QStringList before = std::exchange(m_siteStamps, stampsOf(m_siteFiles));
+    for (int file = 0; file < m_siteFiles.size(); ++file) {
+        if (before.at(file) == m_siteStamps.at(file))
+            continue;
+        m_notices << QCoreApplication::translate(
+                         "olPreferencesSession",
+                         "The site's preferences %1 were changed. That counts from the next start of the program.")
+                         .arg(m_siteFiles.at(file));
+        emit noticed();
+    }
+}
+
+void olPreferencesSession::takeOver()
+{
+    // What is gone or damaged is the next save's to tell.
+    if (m_isChanging || !m_store.mayHaveChanged() || !QFileInfo::exists(m_store.file()))
+        return;
+    Values stored;
+    olStoreRows::History history;
+    if (!m_store.load(stored, &history).isEmpty())
+        return;
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
+    std::vector<olOutsideChange> changes = replaceStored(stored);
+    if (changes.empty())
+        return;
+    for (olOutsideChange &change : changes) {
+        for (const olStoreRows::Save &save : history) {
+            const bool isIn = std::any_of(save.changes.begin(), save.changes.end(),
+                                          [&change](const auto &changed) { return changed.key.second == change.key; });
+            if (isIn)
+                change.program = QString::fromStdString(save.program);
+        }
+    }
+    for (olPreferencesEntry *entry : entries()) {
+        const std::set<std::string> keys = keysOf(*entry);
+        std::set<std::string> changed;
+        for (const olOutsideChange &change : changes) {
+            if (keys.count(change.key) != 0)
+                changed.insert(change.key);
+        }
+        if (!changed.empty())
+            applyIn(*entry, changed);
+    }
+    emit changedOutside(changes);
+}
+
+/// Takes what the store holds now for stored, and puts into force what differs from before and was not changed here.
+std::vector<olOutsideChange> olPreferencesSession::replaceStored(const Values &stored)
+{
+    const Values before = std::exchange(m_stored, stored);
+    Values touched = before;
+    touched.insert(stored.begin(), stored.end());
+    std::vector<olOutsideChange> changes;
+    for (const auto &one : touched) {
+        const olPreferencesStore::Key &key = one.first;
+        const auto valueIn = [&key, this](const Values &values) {
+            const auto found = values.find(key);
+            if (found != values.end())
+                return found->second;
+            return hasDefault(key) ? defaultValue(key.second) : boost::any();
+        };
+        const boost::any inForce = valueAt(key);
+        const boost::any now = valueIn(stored);
+        const bool isOurs = !olValue::identical(inForce, valueIn(before)) || isLocked(key.second);
+        const bool isUnseen = key.first == olHome::Service && !hasDefault(key);
+        if (isOurs || isUnseen || olValue::identical(inForce, now))
+            continue;
+        changes.push_back({key.second, olValue::adopted(inForce), now, {}});
+        setValueAt(key, now);
+    }
+    return changes;
+}
+
+/// As if a person had confirmed these changes on the module's page, and nothing else.
+void olPreferencesSession::applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed)
+{
+    emit aboutToTakeOver(entry);
+    entry.updateGUI();
+    for (const std::string &key : keysOf(entry))
+        entry.setChanged(key, changed.count(key) != 0);
+    entry.applyPreferences();
+    entry.settle();
+    emit tookOver(entry);
 }
 
 boost::any olPreferencesSession::defaultValue(const std::string &key) const

@@ -5,11 +5,14 @@
 #include "Store/olPreferencesStore.h"
 #include "olHostExport.h"
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,20 +26,28 @@ using olSettingValues = std::map<std::string, boost::any>;
 /// as it is.
 enum class olStoreUse { Own, LookAt };
 
+/// A setting that another program has given another value.
+struct olOutsideChange {
+    std::string key;
+    boost::any before;
+    boost::any after;
+    QString program; ///< empty where the store does not tell
+};
+
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
 /// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
-class ORLO_HOST_EXPORT olPreferencesSession
+class ORLO_HOST_EXPORT olPreferencesSession : public QObject
 {
+    Q_OBJECT
+
 public:
     /// `siteFiles` are the site's files of defaults and locks; see olSiteDefaults.
     explicit olPreferencesSession(const QString &storeFile,
                                   const QStringList &siteFiles = olSiteDefaults::systemFiles());
-    ~olPreferencesSession();
-    olPreferencesSession(const olPreferencesSession &) = delete;
-    olPreferencesSession &operator=(const olPreferencesSession &) = delete;
+    ~olPreferencesSession() override;
 
-    /// Puts what is stored into the record and the preferences service. The first thing of a run. Damage is no
-    /// failure: the last good copy is loaded and takeNotices() tells of it.
+    /// Puts what is stored into the record and the preferences service. The first thing of a run. Damage is no failure:
+    /// the last good copy is loaded and takeNotices() tells of it.
     [[nodiscard]] QString loadStore(olStoreUse use = olStoreUse::Own);
 
     /// What the person at the screen is to be told, each once: a damaged store and where it is now, faults in a site
@@ -56,17 +67,30 @@ public:
     /// A new scene, to every module.
     void newScene();
 
-    /// Stores what differs from what the store holds; values equal to their default are not kept. A locked setting
-    /// first gets its locked value back; what a person once stored for it stays in the store for a time without the
-    /// lock.
+    /// From here on what other programs save comes into force in this run within a second, but for settings that this
+    /// run has changed without saving them; and noticed() tells of a site file that changed.
+    void follow();
+
+    /// The same once, now.
+    void takeOver();
+
+    /// Stores what differs from what the store holds. Values equal to their default are kept only where somebody chose
+    /// them instead of another one: in another edition the default may be another. A locked setting first gets its
+    /// locked value back; what a person once stored for it stays in the store for a time without the lock.
     [[nodiscard]] QString save();
 
-    /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing
-    /// fails, every value is as it was before and nothing is applied. `besides` are values that count whatever the
-    /// pages hold: of settings that no page shows, or that their control shows only rounded.
-    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {});
+    /// For the next save: the value is kept although it is the default, or is not kept any longer if it is.
+    void choose(const std::string &key);
+    void restore(const std::string &key);
 
-    /// Unloads the plug-in and closes the store. Values are not stored by this.
+    /// Takes these modules' pages into their values, stores, and applies: what a person's OK does. When storing fails,
+    /// every value is as it was before and nothing is applied. `besides` are values that count whatever the pages hold:
+    /// of settings that no page shows, or that their control shows only rounded. `restored` are settings that were
+    /// taken back to their defaults, see restore().
+    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {},
+                                  const std::set<std::string> &restored = {});
+
+    /// Unloads the plug-in. Values are not stored by this.
     void stop();
 
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
@@ -82,25 +106,48 @@ public:
     /// Of all modules in order, each key once.
     [[nodiscard]] static std::vector<std::string> keys();
 
+    [[nodiscard]] const QStringList &siteFiles() const { return m_siteFiles; }
+    [[nodiscard]] olPreferencesStore &store() { return m_store; }
+
+signals:
+    /// Around the taking over in each module that has a setting another program changed. In between its page is filled
+    /// with the values in force.
+    void aboutToTakeOver(olPreferencesEntry &entry);
+    void tookOver(olPreferencesEntry &entry);
+
+    /// There is something new among the notices.
+    void noticed();
+
+    /// After all that.
+    void changedOutside(const std::vector<olOutsideChange> &changes);
+
 private:
     struct Changes {
         olPreferencesStore::Values changed;
         std::vector<olPreferencesStore::Key> removed;
     };
 
-    [[nodiscard]] olPreferencesStore::Values current() const;
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
+    [[nodiscard]] bool isChoice(const olPreferencesStore::Key &key, const boost::any &value) const;
+    [[nodiscard]] std::vector<olOutsideChange> replaceStored(const olPreferencesStore::Values &stored);
+    void applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed);
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
+    void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
 
     olPreferencesStore m_store;
     olPreferencesStore::Values m_stored;
+    std::set<std::string> m_chosen;
+    std::set<std::string> m_restored;
     olSiteDefaults m_site;
     QStringList m_siteFiles;
     QStringList m_notices;
     olPluginLoader m_plugin;
+    QTimer m_following;
+    QStringList m_siteStamps;
+    bool m_isChanging = false;
 };

@@ -1,8 +1,8 @@
 #include "Store/olPreferencesStore.h"
 
 #include "State/olValue.h"
+#include "Store/olStoreError.h"
 #include "Store/olStoreFile.h"
-#include "Store/olStoreWriter.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -10,50 +10,66 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QStandardPaths>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
-#include <optional>
-#include <utility>
+#include <cerrno>
 
 namespace
 {
 
-using Kind = olStoreFault::Kind;
+using Kind = olStoreError::Kind;
 
 constexpr int lockMilliseconds = 3000;
+
+// Clocks of files go in steps, some of whole seconds.
+constexpr qint64 settledMilliseconds = 2000;
 
 QString translated(const char *text) { return QCoreApplication::translate("olPreferencesStore", text); }
 
 const char *nameOf(olHome home) { return home == olHome::Record ? "record" : "service"; }
 
-std::optional<olHome> homeNamed(const std::string &name)
+/// What is made beside a link, a journal or a copy, belongs beside what it leads to.
+QString targetOf(QString file)
 {
-    for (const olHome home : {olHome::Record, olHome::Service}) {
-        if (name == nameOf(home))
-            return home;
-    }
-    return std::nullopt;
+    constexpr int mostLinks = 40;
+    for (int links = 0; links < mostLinks && QFileInfo(file).isSymLink(); ++links)
+        file = QFileInfo(file).symLinkTarget();
+    return file;
 }
 
-olStoreRows::Key rowKey(const olPreferencesStore::Key &key) { return {nameOf(key.first), key.second}; }
-
-/// Keeps other programs from mending or copying the same store at the same time.
+/// Keeps other programs from mending or copying the stores of a folder at the same time. Ends with the program.
 class Lock
 {
 public:
-    Lock(const QString &file, int milliseconds) : m_lock(file + QStringLiteral(".lock"))
+    Lock(const QString &file, int milliseconds)
+        : m_folder(::open(QFile::encodeName(QFileInfo(file).absolutePath()).constData(), O_RDONLY | O_CLOEXEC))
     {
-        m_isHeld = m_lock.tryLock(milliseconds);
+        constexpr int step = 10;
+        while (!(m_isHeld = ::flock(m_folder, LOCK_EX | LOCK_NB) == 0) && errno == EWOULDBLOCK && milliseconds > 0) {
+            ::usleep(step * 1000);
+            milliseconds -= step;
+        }
     }
+    ~Lock() { ::close(m_folder); }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+
     [[nodiscard]] bool isHeld() const { return m_isHeld; }
 
 private:
-    QLockFile m_lock;
-    bool m_isHeld;
+    int m_folder;
+    bool m_isHeld = false;
 };
 
 } // namespace
+
+struct olPreferencesStore::Stamp {
+    olStoreFile::Stamp file;
+    bool isSettled;
+};
 
 QString olPreferencesStore::userFile()
 {
@@ -61,28 +77,23 @@ QString olPreferencesStore::userFile()
     return folder.filePath(QStringLiteral("orlo/preferences.db"));
 }
 
-olPreferencesStore::olPreferencesStore(QString file)
-    : m_file(std::move(file)), m_writer(std::make_unique<olStoreWriter>(m_file))
-{
-}
+olPreferencesStore::olPreferencesStore(const QString &file) : m_file(targetOf(file)) {}
 
 olPreferencesStore::~olPreferencesStore() = default;
 
-olStoreFile olPreferencesStore::store() const { return olStoreFile(m_file); }
+olStoreFile olPreferencesStore::copy() const { return {m_file + QStringLiteral(".last-good"), true}; }
 
-olStoreFile olPreferencesStore::copy() const { return olStoreFile(m_file + QStringLiteral(".last-good")); }
+olStoreFile olPreferencesStore::store() const { return {m_file, m_hadRows || copy().exists()}; }
 
-bool olPreferencesStore::wasStore() const { return copy().exists(); }
-
-QString olPreferencesStore::cannotRead(const olStoreFault &fault) const
+QString olPreferencesStore::cannotRead(const olStoreError &error) const
 {
-    return translated("Cannot read the preferences %1: %2.").arg(m_file, fault.reason) + wayOut(fault);
+    return translated("Cannot read the preferences %1: %2.").arg(m_file, error.reason()) + wayOut(error);
 }
 
 /// A file of a newer version is not ours to touch; but it may also be damaged just where its version stands.
-QString olPreferencesStore::wayOut(const olStoreFault &fault) const
+QString olPreferencesStore::wayOut(const olStoreError &error) const
 {
-    if (fault.kind != Kind::Newer)
+    if (error.kind() != Kind::Newer)
         return {};
     const QString fresh =
         translated(" Use that version. If there is none, the file is damaged: move it away to start with defaults");
@@ -90,87 +101,100 @@ QString olPreferencesStore::wayOut(const olStoreFault &fault) const
            (copy().exists() ? translated(", or rename its copy %1 to it.").arg(copy().name()) : QStringLiteral("."));
 }
 
-/// Empty where none are.
-QString olPreferencesStore::lostSaves() const
+olStoreRows::Key olPreferencesStore::rowKey(const Key &key) { return {nameOf(key.first), key.second}; }
+
+std::optional<olPreferencesStore::Key> olPreferencesStore::keyOf(const olStoreRows::Key &key)
 {
-    if (!store().isLogDamaged())
-        return {};
-    return translated("The log of the preferences file %1 is damaged: what was changed last before the program or the "
-                      "system stopped may be missing.")
-        .arg(m_file);
+    for (const olHome home : {olHome::Record, olHome::Service}) {
+        if (key.first == nameOf(home))
+            return Key{home, key.second};
+    }
+    return std::nullopt;
 }
 
-void olPreferencesStore::hand(const olStoreRows &rows, Values &values)
+boost::any olPreferencesStore::valueOf(const olStoreRows::Row &row)
 {
-    m_hadRows = !rows.rows.empty();
-    for (const auto &[key, row] : rows.rows) {
-        const auto home = homeNamed(key.first);
-        const boost::any value =
-            olValue::fromJson(row.type, QByteArray::fromRawData(row.value.data(), int(row.value.size())));
-        if (home && !value.empty())
-            values[{*home, key.second}] = value;
+    return olValue::fromJson(row.type, QByteArray::fromRawData(row.value.data(), int(row.value.size())));
+}
+
+void olPreferencesStore::read(Values &values, olStoreRows::History *history)
+{
+    const qint64 latest = QFileInfo(m_file).lastModified().msecsTo(QDateTime::currentDateTime());
+    const Stamp before{store().stamp(), latest > settledMilliseconds};
+    take(store().read(history), values);
+    m_stamp = std::make_unique<Stamp>(before);
+}
+
+void olPreferencesStore::take(const olStoreRows::Rows &rows, Values &values)
+{
+    m_hadRows = !rows.empty();
+    for (const auto &[rowKey, row] : rows) {
+        const auto key = keyOf(rowKey);
+        const boost::any value = valueOf(row);
+        if (key && !value.empty())
+            values[*key] = value;
     }
 }
 
-QString olPreferencesStore::load(Values &values)
+QString olPreferencesStore::load(Values &values, olStoreRows::History *history)
 {
     try {
-        hand(store().read(wasStore()), values);
+        read(values, history);
         return {};
-    } catch (const olStoreFault &fault) {
-        return cannotRead(fault);
+    } catch (const olStoreError &error) {
+        return cannotRead(error);
     }
+}
+
+bool olPreferencesStore::mayHaveChanged() const
+{
+    return !m_stamp || !m_stamp->isSettled || m_stamp->file != store().stamp();
 }
 
 olStoreOpening olPreferencesStore::open(Values &values)
 {
-    // The file may have to be moved.
-    m_writer->close();
-    const QString lost = lostSaves();
     try {
-        const olStoreRows rows = store().read(wasStore());
-        hand(rows, values);
-        keepCopy(rows);
-        return {{}, lost};
-    } catch (const olStoreFault &fault) {
-        if (fault.kind == Kind::Damaged)
-            return repair(fault.reason, values);
-        return {cannotRead(fault), {}};
+        read(values);
+        keepCopy();
+        return {};
+    } catch (const olStoreError &error) {
+        if (error.kind() == Kind::Damaged)
+            return repair(error.reason(), values);
+        return {cannotRead(error), {}};
     }
 }
 
 olStoreOpening olPreferencesStore::lookAt(Values &values)
 {
-    const QString lost = lostSaves();
     try {
-        hand(store().read(wasStore()), values);
-        return {{}, lost};
-    } catch (const olStoreFault &fault) {
-        if (fault.kind != Kind::Damaged)
-            return {cannotRead(fault), {}};
+        read(values);
+        return {};
+    } catch (const olStoreError &error) {
+        if (error.kind() != Kind::Damaged)
+            return {cannotRead(error), {}};
         QString remark;
-        hand(copiedRows(remark), values);
-        return {{}, translated("The preferences file %1 is damaged: %2. %3").arg(m_file, fault.reason, remark)};
+        (void)readCopy(values, remark);
+        return {{}, translated("The preferences file %1 is damaged: %2. %3").arg(m_file, error.reason(), remark)};
     }
 }
 
-olStoreRows olPreferencesStore::copiedRows(QString &remark) const
+/// False, with no values, where there is no sound copy.
+bool olPreferencesStore::readCopy(Values &values, QString &remark)
 {
-    const olStoreFile copied = copy();
     try {
-        if (copied.exists()) {
-            olStoreRows rows = copied.read(true);
-            const QDateTime when = QFileInfo(copied.name()).lastModified();
+        if (copy().exists()) {
+            take(copy().read(), values);
             remark = translated("The copy of %1 was loaded; what was changed after that is not in it.")
-                         .arg(QLocale().toString(when, QLocale::ShortFormat));
-            return rows;
+                         .arg(QLocale().toString(QFileInfo(copy().name()).lastModified(), QLocale::ShortFormat));
+            return true;
         }
         remark = translated("There is no copy of it yet, so all settings are at their defaults.");
-    } catch (const olStoreFault &fault) {
-        remark =
-            translated("Its copy cannot be read either (%1), so all settings are at their defaults.").arg(fault.reason);
+    } catch (const olStoreError &error) {
+        remark = translated("Its copy cannot be read either (%1), so all settings are at their defaults.")
+                     .arg(error.reason());
     }
-    return {};
+    m_hadRows = false;
+    return false;
 }
 
 olStoreOpening olPreferencesStore::repair(const QString &reason, Values &values)
@@ -179,108 +203,97 @@ olStoreOpening olPreferencesStore::repair(const QString &reason, Values &values)
     try {
         // Another program may have mended it meanwhile.
         if (lock.isHeld()) {
-            hand(store().read(wasStore()), values);
+            read(values);
             return {};
         }
-    } catch (const olStoreFault &) {
+    } catch (const olStoreError &) {
     }
 
     QString remark;
-    const olStoreRows rows = copiedRows(remark);
-    hand(rows, values);
+    const bool hasCopy = readCopy(values, remark);
     const QString found = translated("The preferences file %1 is damaged: %2. ").arg(m_file, reason);
     try {
         if (!lock.isHeld())
-            throw olStoreFault{Kind::Access, translated("its folder is read-only, or another program keeps it busy")};
-        const QString aside = store().replaceAndSetAside(rows);
+            throw olStoreError(Kind::Access, translated("its folder is read-only, or another program keeps it busy"));
+        const olStoreFile good = copy();
+        const QString aside = store().setAside(hasCopy ? &good : nullptr);
         return {{}, found + translated("It is now kept as %1. ").arg(aside) + remark};
-    } catch (const olStoreFault &fault) {
-        return {{}, found + translated("It could not be set aside: %1. ").arg(fault.reason) + remark};
+    } catch (const olStoreError &error) {
+        return {{}, found + translated("It could not be set aside: %1. ").arg(error.reason()) + remark};
     }
 }
 
-void olPreferencesStore::keepCopy(const olStoreRows &rows) const
+void olPreferencesStore::keepCopy() const
 {
-    if (!store().exists())
+    if (QFileInfo(m_file).size() == 0)
         return;
-    try {
-        const olStoreFile copied = copy();
-        if (copied.exists() && copied.read(true).rows == rows.rows)
-            return;
-    } catch (const olStoreFault &fault) {
-        if (fault.kind == Kind::Newer)
-            return;
-    }
     // Who cannot have the lock lets the other one make the copy; and without one all is as good as before.
     const Lock lock(m_file, 0);
+    if (!lock.isHeld())
+        return;
     try {
-        if (lock.isHeld())
-            copy().replace(rows);
-    } catch (const olStoreFault &) {
+        if (copy().exists() && copy().read() == store().read())
+            return;
+    } catch (const olStoreError &error) {
+        if (error.kind() == Kind::Newer)
+            return;
     }
-}
-
-/// For a store that may be none yet.
-void olPreferencesStore::makeWay() const
-{
-    if (!QDir().mkpath(QFileInfo(m_file).absolutePath()))
-        throw olStoreFault{Kind::Access, translated("its folder cannot be created")};
-    // Who took the file away wants to begin anew; a copy of the old one would come back at the next damage.
-    if (!store().exists())
-        QFile::remove(copy().name());
+    try {
+        store().copyTo(copy().name());
+    } catch (const olStoreError &) {
+    }
 }
 
 QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &removed)
 {
-    m_isBroken = false;
-    if (changed.empty() && removed.empty())
-        return {};
-    olStoreRows put;
+    olStoreRows::Changes changes;
     for (const auto &[key, value] : changed)
-        put.rows[rowKey(key)] = {olValue::typeName(value), olValue::toJson(value)};
-    std::vector<olStoreRows::Key> gone;
-    gone.reserve(removed.size());
+        changes[rowKey(key)] = {olValue::typeName(value), olValue::toJson(value)};
     for (const Key &key : removed)
-        gone.push_back(rowKey(key));
+        changes[rowKey(key)] = std::nullopt;
+    return save(changes);
+}
 
-    try {
-        if (!m_hadRows)
-            makeWay();
-        m_writer->change(put, gone, m_hadRows);
-        m_hadRows = true;
-        m_hasLog = true;
+QString olPreferencesStore::save(const olStoreRows::Changes &changes)
+{
+    m_isBroken = false;
+    if (changes.empty())
         return {};
-    } catch (const olStoreFault &fault) {
-        m_isBroken = fault.kind == Kind::Damaged;
+    try {
+        // Who took the file away wants to begin anew; a copy of the old one would come back at the next damage.
+        if (!m_hadRows && !store().exists())
+            QFile::remove(copy().name());
+        olStoreFile(m_file, m_hadRows).change(changes, program_invocation_short_name);
+        m_hadRows = true;
+        // What another program saved before this one is still to be read.
+        m_stamp.reset();
+        return {};
+    } catch (const olStoreError &error) {
+        m_isBroken = error.kind() == Kind::Damaged;
         return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
-                   .arg(m_file, fault.reason) +
-               wayOut(fault);
+                   .arg(m_file, error.reason()) +
+               wayOut(error);
     }
 }
 
-void olPreferencesStore::close()
+QString olPreferencesStore::readHistory(olStoreRows::History &history, olStoreRows::Rows &rows) const
 {
-    m_writer->close();
-    if (!std::exchange(m_hasLog, false))
-        return;
     try {
-        // A log is only worked into what was proved sound.
-        (void)store().read(wasStore());
-    } catch (const olStoreFault &) {
+        rows = store().read(&history);
+        return {};
+    } catch (const olStoreError &error) {
+        return cannotRead(error);
     }
 }
 
 QStringList olPreferencesStore::check() const
 {
     QStringList findings;
-    const QString lost = lostSaves();
-    if (!lost.isEmpty())
-        findings << lost;
     for (const olStoreFile &file : {store(), copy()}) {
         try {
-            (void)file.read(wasStore());
-        } catch (const olStoreFault &fault) {
-            findings << translated("%1: %2.").arg(file.name(), fault.reason);
+            (void)file.read();
+        } catch (const olStoreError &error) {
+            findings << translated("%1: %2.").arg(file.name(), error.reason());
         }
     }
     return findings;

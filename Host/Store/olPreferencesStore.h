@@ -1,6 +1,7 @@
 #pragma once
 
 #include "State/olHome.h"
+#include "Store/olStoreRows.h"
 #include "olHostExport.h"
 
 #include <QString>
@@ -9,14 +10,13 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+class olStoreError;
 class olStoreFile;
-class olStoreWriter;
-struct olStoreFault;
-struct olStoreRows;
 
 /// How opening a store went. Both texts are empty when all is well.
 struct olStoreOpening {
@@ -25,7 +25,7 @@ struct olStoreOpening {
 };
 
 /// Where the values of settings are kept between runs: one database file, written whole or not at all, that finds out
-/// when it is damaged, and a copy beside it to go back to.
+/// when it is damaged, a copy beside it to go back to, and a history of all saves. Several programs may use it at once.
 class ORLO_HOST_EXPORT olPreferencesStore
 {
 public:
@@ -35,8 +35,8 @@ public:
     /// The user's own store, in the configuration folder.
     [[nodiscard]] static QString userFile();
 
-    /// Nothing is opened or created before it is needed.
-    explicit olPreferencesStore(QString file);
+    /// Nothing is opened or created before it is needed. Of a link the target is the store.
+    explicit olPreferencesStore(const QString &file);
     ~olPreferencesStore();
     olPreferencesStore(const olPreferencesStore &) = delete;
     olPreferencesStore &operator=(const olPreferencesStore &) = delete;
@@ -51,18 +51,20 @@ public:
     /// The same values without changing anything on the disk, whatever is found there.
     [[nodiscard]] olStoreOpening lookAt(Values &values);
 
-    /// Only what the file itself holds: damage is an error. Returns an empty text, else one sentence that names the
-    /// file and the reason.
-    [[nodiscard]] QString load(Values &values);
+    /// Only what the file itself holds, and its history where that is wanted: damage is an error. Returns an empty
+    /// text, else one sentence that names the file and the reason.
+    [[nodiscard]] QString load(Values &values, olStoreRows::History *history = nullptr);
+
+    /// Whether the file may hold something else than when it was last read here. Cheap, to be asked all the time.
+    [[nodiscard]] bool mayHaveChanged() const;
 
     /// Makes the store hold `changed` and no longer hold `removed`; what neither names stays as it is. One transaction:
-    /// on failure the file keeps what it held. Returns as load() does. With nothing to do the file is not touched. It
-    /// stays open for the next save, which nobody has to wait for.
+    /// on failure the file keeps what it held. Returns as load() does. With nothing to do the file is not touched.
     [[nodiscard]] QString save(const Values &changed, const std::vector<Key> &removed);
+    [[nodiscard]] QString save(const olStoreRows::Changes &changes);
 
-    /// After the last save of a run: works the log of its saves into the file, which is then whole without it. What
-    /// fails here is made up for when the store is opened next.
-    void close();
+    /// All saves that are remembered, and the rows after them; returns as load() does.
+    [[nodiscard]] QString readHistory(olStoreRows::History &history, olStoreRows::Rows &rows) const;
 
     /// Whether the last save() failed because the file is damaged or gone, which open() mends.
     [[nodiscard]] bool isBroken() const { return m_isBroken; }
@@ -70,22 +72,28 @@ public:
     /// One sentence for each thing that is wrong with the file or its copy. Changes nothing.
     [[nodiscard]] QStringList check() const;
 
+    /// A setting's place among the rows, and back; nothing for a home that is not known.
+    [[nodiscard]] static olStoreRows::Key rowKey(const Key &key);
+    [[nodiscard]] static std::optional<Key> keyOf(const olStoreRows::Key &key);
+
+    /// Empty for a value that cannot be understood.
+    [[nodiscard]] static boost::any valueOf(const olStoreRows::Row &row);
+
 private:
     [[nodiscard]] olStoreFile store() const;
     [[nodiscard]] olStoreFile copy() const;
-    [[nodiscard]] bool wasStore() const;
-    [[nodiscard]] QString cannotRead(const olStoreFault &fault) const;
-    [[nodiscard]] QString wayOut(const olStoreFault &fault) const;
-    [[nodiscard]] QString lostSaves() const;
-    [[nodiscard]] olStoreRows copiedRows(QString &remark) const;
-    void makeWay() const;
-    void keepCopy(const olStoreRows &rows) const;
+    [[nodiscard]] QString cannotRead(const olStoreError &error) const;
+    [[nodiscard]] QString wayOut(const olStoreError &error) const;
+    void read(Values &values, olStoreRows::History *history = nullptr);
+    void take(const olStoreRows::Rows &rows, Values &values);
+    [[nodiscard]] bool readCopy(Values &values, QString &remark);
+    void keepCopy() const;
     [[nodiscard]] olStoreOpening repair(const QString &reason, Values &values);
-    void hand(const olStoreRows &rows, Values &values);
+
+    struct Stamp;
 
     QString m_file;
-    std::unique_ptr<olStoreWriter> m_writer;
+    std::unique_ptr<Stamp> m_stamp;
     bool m_hadRows = false;
     bool m_isBroken = false;
-    bool m_hasLog = false;
 };

@@ -1,191 +1,169 @@
 #include "Store/olSqlite.h"
 
+#include "Store/olStoreError.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 
 namespace
 {
 
-constexpr int busyMilliseconds = 3000;
+using Kind = olStoreError::Kind;
+
+// Who looks has another way to what he wants; who writes has not.
+constexpr int lookMilliseconds = 200;
+constexpr int writeMilliseconds = 3000;
+
+constexpr int headerSize = 100;
 
 QString translated(const char *text) { return QCoreApplication::translate("olSqlite", text); }
 
-/// What the system said, where it said anything.
-QString withSystemReason(const QString &reason, int systemError)
+/// With what the system said, where it said anything.
+olStoreError accessError(const QString &reason, int systemError, Kind kind = Kind::Access)
 {
     if (systemError == ENOSPC || systemError == EDQUOT)
-        return translated("no space left on the device");
-    return systemError == 0 ? reason
-                            : reason + QStringLiteral(" (%1)").arg(QString::fromLocal8Bit(std::strerror(systemError)));
+        return {kind, translated("no space left on the device")};
+    const QString said = QString::fromLocal8Bit(std::strerror(systemError));
+    return {kind, systemError == 0 ? reason : QStringLiteral("%1 (%2)").arg(reason, said)};
 }
 
-QString reasonOf(int result, int systemError, const QString &message)
+olStoreError errorOf(int code, int systemError, const QString &message)
 {
-    switch (result & 0xff) {
+    // Without room for locks the database says that it is busy.
+    const bool hasNoLocks = code == SQLITE_IOERR_RDLOCK || code == SQLITE_IOERR_LOCK ||
+                            code == SQLITE_IOERR_CHECKRESERVEDLOCK || code == SQLITE_PERM ||
+                            (code == SQLITE_BUSY && systemError == ENOLCK);
+    if (hasNoLocks)
+        return accessError(translated("its file system refuses locks"), systemError, Kind::NoLocks);
+    // What a killed program left has to be rolled back, which who only looks cannot wait for.
+    if (code == SQLITE_READONLY_ROLLBACK)
+        return {Kind::Busy, message};
+    switch (code & 0xff) {
     case SQLITE_FULL:
-        return translated("no space left on the device");
+        return {Kind::Access, translated("no space left on the device")};
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return translated("another program keeps it busy");
+        return {Kind::Busy, translated("another program keeps it busy")};
     case SQLITE_READONLY:
-        return translated("it or its folder is read-only");
+        return {Kind::Access, translated("it or its folder is read-only")};
     case SQLITE_CANTOPEN:
-    case SQLITE_PERM:
-        return withSystemReason(translated("it cannot be opened"), systemError);
+        return accessError(translated("it cannot be opened"), systemError);
     case SQLITE_IOERR:
-        return withSystemReason(translated("input or output failed"), systemError);
+        return accessError(translated("input or output failed"), systemError);
     case SQLITE_CORRUPT:
-        return translated("its structure is broken");
+        return {Kind::Damaged, translated("its structure is broken")};
     case SQLITE_NOTADB:
-        return translated("its content is no database");
-    default:
-        return message;
-    }
-}
-
-/// An error of the statement itself counts as damage too: ours are right wherever the tables are.
-olSqliteError::Kind kindOf(int result)
-{
-    switch (result & 0xff) {
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
+        return {Kind::Damaged, translated("its content is no database")};
     case SQLITE_ERROR:
     case SQLITE_MISMATCH:
     case SQLITE_TOOBIG:
     case SQLITE_CONSTRAINT:
-        return olSqliteError::Kind::Damaged;
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return olSqliteError::Kind::Busy;
+        // Our statements are right wherever the tables are.
+        return {Kind::Damaged, message};
     default:
-        return olSqliteError::Kind::Other;
+        return {Kind::Access, message};
     }
 }
 
-[[noreturn]] void fail(sqlite3 *database, int result)
+QByteArray addressOf(const QString &file, olSqlite::Access access)
 {
-    const int lastError = errno;
-    if (!database)
-        throw olSqliteError{kindOf(result), QString::fromUtf8(sqlite3_errstr(result))};
-    const int code = sqlite3_extended_errcode(database);
-    // Not every failure of the system reaches the database's own note of it.
-    const int systemError = sqlite3_system_errno(database) != 0 ? sqlite3_system_errno(database) : lastError;
-    throw olSqliteError{kindOf(code), reasonOf(code, systemError, QString::fromUtf8(sqlite3_errmsg(database)))};
-}
-
-void require(sqlite3 *database, int result)
-{
-    if (result != SQLITE_OK)
-        fail(database, result);
+    const QByteArray path = QFile::encodeName(QFileInfo(file).absoluteFilePath()).toPercentEncoding("/");
+    // Locks on what nobody else knows bind nobody, and are refused where all locks are.
+    const bool isPrivate = access == olSqlite::Access::Private;
+    return "file://" + path +
+           (access == olSqlite::Access::Immutable ? "?immutable=1"
+            : isPrivate                           ? "?vfs=unix-none"
+                                                  : "");
 }
 
 } // namespace
 
-olSqliteStatement::olSqliteStatement(sqlite3 *database, const char *sql)
-    : m_database(database), m_statement(nullptr, sqlite3_finalize)
-{
-    sqlite3_stmt *statement = nullptr;
-    require(database, sqlite3_prepare_v2(database, sql, -1, &statement, nullptr));
-    m_statement.reset(statement);
-}
-
-void olSqliteStatement::bind(int parameter, const std::string &text)
-{
-    require(m_database,
-            sqlite3_bind_text64(m_statement.get(), parameter, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
-}
-
-bool olSqliteStatement::step()
-{
-    errno = 0;
-    const int result = sqlite3_step(m_statement.get());
-    if (result != SQLITE_ROW && result != SQLITE_DONE)
-        fail(m_database, result);
-    return result == SQLITE_ROW;
-}
-
-std::string olSqliteStatement::text(int column) const
-{
-    const auto *bytes = static_cast<const char *>(sqlite3_column_blob(m_statement.get(), column));
-    return bytes ? std::string(bytes, std::size_t(sqlite3_column_bytes(m_statement.get(), column))) : std::string();
-}
-
-int olSqliteStatement::number(int column) const { return sqlite3_column_int(m_statement.get(), column); }
-
-bool olSqliteStatement::isText(int column) const
-{
-    return sqlite3_column_type(m_statement.get(), column) == SQLITE_TEXT;
-}
-
-void olSqliteStatement::reset() { sqlite3_reset(m_statement.get()); }
-
-void olSqliteStatement::run()
-{
-    step();
-    reset();
-}
-
-int olSqliteStatement::answer()
-{
-    const int result = step() ? number(0) : 0;
-    reset();
-    return result;
-}
-
 olSqlite::olSqlite(const QString &file, Access access) : m_handle(nullptr, sqlite3_close)
 {
-    const QString path = QFileInfo(file).absoluteFilePath();
-    open(QFile::encodeName(path), SQLITE_OPEN_READWRITE | (access == Access::Create ? SQLITE_OPEN_CREATE : 0));
-    // Where nothing can be written beside the file, nobody else writes it either, and it can be read as it stands.
-    const QFileInfo folder(QFileInfo(path).absolutePath());
-    const bool hasLog = QFileInfo(path + QStringLiteral("-wal")).size() > 0;
-    if (access == Access::Existing && !folder.isWritable() && !hasLog) {
-        const QByteArray address = "file://" + QFile::encodeName(path).toPercentEncoding("/");
-        open(address + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-    }
-    sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    run("PRAGMA synchronous = FULL");
-    run("PRAGMA cell_size_check = ON");
-}
-
-void olSqlite::open(const QByteArray &name, int flags)
-{
+    const bool isLooking = access == Access::Look || access == Access::Immutable;
+    const int flags = SQLITE_OPEN_URI | (isLooking ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
     sqlite3 *handle = nullptr;
-    const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);
+    errno = 0;
+    const int result = sqlite3_open_v2(addressOf(file, access).constData(), &handle, flags, nullptr);
     m_handle.reset(handle);
-    if (handle) {
-        sqlite3_extended_result_codes(handle, 1);
-        sqlite3_busy_timeout(handle, busyMilliseconds);
-    }
-    require(handle, result);
+    require(result);
+    sqlite3_extended_result_codes(handle, 1);
+    sqlite3_busy_timeout(handle, access == Access::Write ? writeMilliseconds : lookMilliseconds);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    run("PRAGMA cell_size_check = ON");
+    // An older version's log needs memory that is shared, but for this.
+    if (access == Access::Private)
+        run("PRAGMA locking_mode = EXCLUSIVE");
 }
 
-void olSqlite::run(const char *sql)
+void olSqlite::require(int result) const
+{
+    const int lastError = errno;
+    if (result == SQLITE_OK)
+        return;
+    sqlite3 *handle = m_handle.get();
+    if (!handle)
+        throw errorOf(result, 0, QString::fromUtf8(sqlite3_errstr(result)));
+    // Not every failure of the system reaches the database's own note of it.
+    const int systemError = sqlite3_system_errno(handle) != 0 ? sqlite3_system_errno(handle) : lastError;
+    throw errorOf(sqlite3_extended_errcode(handle), systemError, QString::fromUtf8(sqlite3_errmsg(handle)));
+}
+
+void olSqlite::run(const std::string &sql, const Row &parameters, const std::function<void(const Row &)> &take)
 {
     errno = 0;
-    require(m_handle.get(), sqlite3_exec(m_handle.get(), sql, nullptr, nullptr, nullptr));
+    sqlite3_stmt *handle = nullptr;
+    require(sqlite3_prepare_v2(m_handle.get(), sql.c_str(), -1, &handle, nullptr));
+    const std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt *)> statement(handle, sqlite3_finalize);
+    for (std::size_t index = 0; index < parameters.size(); ++index) {
+        if (const Text &text = parameters[index])
+            require(
+                sqlite3_bind_text64(handle, int(index) + 1, text->data(), text->size(), SQLITE_STATIC, SQLITE_UTF8));
+    }
+    int result = SQLITE_OK;
+    while ((result = sqlite3_step(handle)) == SQLITE_ROW) {
+        Row row(std::size_t(sqlite3_column_count(handle)));
+        for (int column = 0; column < int(row.size()); ++column) {
+            const int type = sqlite3_column_type(handle, column);
+            if (type == SQLITE_BLOB)
+                throw olStoreError(Kind::Damaged, translated("a row is not what it was"));
+            const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(handle, column));
+            if (type != SQLITE_NULL)
+                row[std::size_t(column)] = std::string(bytes, std::size_t(sqlite3_column_bytes(handle, column)));
+        }
+        if (take)
+            take(row);
+    }
+    require(result == SQLITE_DONE ? SQLITE_OK : result);
 }
 
-int olSqlite::number(const char *sql)
+std::string olSqlite::text(const std::string &sql)
 {
-    olSqliteStatement statement = prepare(sql);
-    return statement.step() ? statement.number(0) : 0;
+    std::string text;
+    run(sql, {}, [&text](const Row &row) { text = row.front().value_or(""); });
+    return text;
 }
 
-std::string olSqlite::text(const char *sql)
+int olSqlite::number(const std::string &sql) { return std::atoi(text(sql).c_str()); }
+
+QByteArray olSqlite::header() const
 {
-    olSqliteStatement statement = prepare(sql);
-    return statement.step() ? statement.text(0) : std::string();
+    sqlite3_file *file = nullptr;
+    sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    sqlite3_int64 size = 0;
+    if (!file || !file->pMethods || file->pMethods->xFileSize(file, &size) != SQLITE_OK)
+        return {};
+    QByteArray bytes(int(std::min<sqlite3_int64>(size, headerSize)), '\0');
+    return file->pMethods->xRead(file, bytes.data(), bytes.size(), 0) == SQLITE_OK ? bytes : QByteArray();
 }
-
-bool olSqlite::isReadOnly() const { return sqlite3_db_readonly(m_handle.get(), "main") == 1; }
 
 bool olSqlite::wasMoved() const
 {
@@ -193,5 +171,3 @@ bool olSqlite::wasMoved() const
     sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &wasMoved);
     return wasMoved != 0;
 }
-
-void olSqlite::releaseLog() { sqlite3_db_config(m_handle.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr); }

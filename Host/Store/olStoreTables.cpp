@@ -1,56 +1,82 @@
 #include "Store/olStoreTables.h"
 
+#include "Store/olConfidentialSettings.h"
+#include "Store/olStoreError.h"
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDateTime>
 
-#include <initializer_list>
+#include <algorithm>
 
 namespace
 {
 
-using Kind = olStoreFault::Kind;
+using Kind = olStoreError::Kind;
+using Text = olSqlite::Text;
+using namespace olStoreRows;
 
-constexpr int currentFormat = 1;
+constexpr int earlierFormat = 1;
+constexpr int currentFormat = 2;
+constexpr int rememberedSaves = 500;
 
 // "ORLO", so that a file can be told from other programs' databases.
 constexpr int applicationId = 0x4f524c4f;
 
-constexpr auto settingTable = "CREATE TABLE setting (home TEXT NOT NULL, key TEXT NOT NULL, type TEXT NOT NULL,"
-                              " value TEXT NOT NULL, checksum TEXT NOT NULL, PRIMARY KEY (home, key)) WITHOUT ROWID";
+constexpr auto earlierSettingTable =
+    "CREATE TABLE setting (home TEXT NOT NULL, key TEXT NOT NULL, type TEXT NOT NULL, value TEXT NOT NULL, checksum "
+    "TEXT NOT NULL, PRIMARY KEY (home, key)) WITHOUT ROWID";
+constexpr auto settingTable = "CREATE TABLE setting (home TEXT NOT NULL, key TEXT NOT NULL, type TEXT NOT NULL, value "
+                              "TEXT NOT NULL, PRIMARY KEY (home, key)) WITHOUT ROWID";
 constexpr auto sealTable = "CREATE TABLE seal (rows TEXT NOT NULL)";
+constexpr auto historyTable =
+    "CREATE TABLE history (save INTEGER NOT NULL, time TEXT NOT NULL, program TEXT NOT NULL, home TEXT NOT NULL, key "
+    "TEXT NOT NULL, type_before TEXT, value_before TEXT, type_after TEXT, value_after TEXT, checksum TEXT NOT NULL, "
+    "PRIMARY KEY (save, home, key)) WITHOUT ROWID";
 
 QString translated(const char *text) { return QCoreApplication::translate("olStoreFile", text); }
 
 /// 64 bits of a digest over the parts, each with its length, so that no two lists of parts look the same.
-std::string checksum(std::initializer_list<std::string> parts)
+std::string checksum(const std::vector<Text> &parts)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (const std::string &part : parts) {
-        const std::string length = std::to_string(part.size()) + ':';
-        hash.addData(length.data(), int(length.size()));
-        hash.addData(part.data(), int(part.size()));
+    for (const Text &part : parts) {
+        const std::string text = part ? std::to_string(part->size()) + ':' + *part : "none";
+        hash.addData(text.data(), int(text.size()));
     }
     return hash.result().left(8).toHex().toStdString();
 }
 
-std::string sealOf(const std::string &checksums) { return checksum({checksums}); }
+std::string sealOf(const Rows &rows)
+{
+    std::string checksums;
+    for (const auto &[key, row] : rows)
+        checksums += checksum({key.first, key.second, row.type, row.value});
+    return checksum({checksums});
+}
+
+std::optional<Row> rowOf(const Text &type, const Text &value)
+{
+    return type ? std::optional<Row>({*type, value.value_or("")}) : std::nullopt;
+}
 
 } // namespace
 
-olStoreFault olStoreTables::faultOf(const olSqliteError &error)
+void olStoreTables::damaged(const char *reason) { throw olStoreError(Kind::Damaged, translated(reason)); }
+
+bool olStoreTables::looksLikeAStore(const QByteArray &header)
 {
-    switch (error.kind) {
-    case olSqliteError::Kind::Damaged:
-        return {Kind::Damaged, error.reason};
-    case olSqliteError::Kind::Busy:
-        return {Kind::Busy, error.reason};
-    case olSqliteError::Kind::Other:
-        break;
-    }
-    return {Kind::Access, error.reason};
+    constexpr int idPosition = 68;
+    const QByteArray id("ORLO");
+    if (header.size() < idPosition + id.size())
+        return header.startsWith(QByteArray("SQLite format 3", 16));
+    int equal = 0;
+    for (int index = 0; index < id.size(); ++index)
+        equal += header.at(idPosition + index) == id.at(index) ? 1 : 0;
+    return equal >= id.size() - 1;
 }
 
-void olStoreTables::damaged(const char *reason) { throw olStoreFault{Kind::Damaged, translated(reason)}; }
+bool olStoreTables::usesALog(const QByteArray &header) { return header.mid(18, 2).contains('\2'); }
 
 bool olStoreTables::exist()
 {
@@ -58,106 +84,125 @@ bool olStoreTables::exist()
            m_database.number("SELECT count(*) FROM sqlite_schema") != 0;
 }
 
+/// What others add to find or count rows is no damage; a trigger would change what is saved.
+void olStoreTables::requireOurs()
+{
+    if (m_database.number("PRAGMA application_id") != applicationId)
+        throw olStoreError(Kind::Foreign, translated("it is another program's database"));
+    const int format = m_database.number("PRAGMA user_version");
+    if (format > currentFormat)
+        throw olStoreError(Kind::Newer, translated("it was written by a newer version"));
+    if (format < earlierFormat)
+        damaged("its format is unknown");
+    const QByteArray versions = m_database.header().mid(18, 2);
+    if (versions != QByteArray("\1\1") && versions != QByteArray("\2\2"))
+        damaged("its header is not what it was");
+    std::vector<std::string> expected{earlierSettingTable, sealTable};
+    if (format == currentFormat)
+        expected = {settingTable, sealTable, historyTable};
+    bool hasTrigger = false;
+    m_database.run("SELECT type, sql FROM sqlite_schema", {}, [&](const olSqlite::Row &part) {
+        hasTrigger = hasTrigger || part[0] == "trigger";
+        expected.erase(std::remove(expected.begin(), expected.end(), part[1].value_or("")), expected.end());
+    });
+    if (hasTrigger || !expected.empty())
+        damaged("its tables are not what they were");
+    if (m_database.text("PRAGMA quick_check(1)") != "ok")
+        damaged("its structure is broken");
+}
+
+Rows olStoreTables::rows()
+{
+    requireOurs();
+    Rows rows;
+    m_database.run("SELECT home, key, type, value FROM setting NOT INDEXED", {}, [&rows](const olSqlite::Row &row) {
+        rows[{row[0].value_or(""), row[1].value_or("")}] = {row[2].value_or(""), row[3].value_or("")};
+    });
+    if (m_database.text("SELECT group_concat(rows) FROM seal") != sealOf(rows))
+        damaged("rows were changed or are missing");
+    return rows;
+}
+
+History olStoreTables::history()
+{
+    History history;
+    if (m_database.number("PRAGMA user_version") == earlierFormat)
+        return history;
+    m_database.run(
+        "SELECT save, time, program, home, key, type_before, value_before, type_after, value_after, checksum FROM "
+        "history NOT INDEXED ORDER BY save",
+        {}, [&history](olSqlite::Row row) {
+            const Text proof = row.back();
+            row.pop_back();
+            if (proof != checksum(row))
+                damaged("its history was changed");
+            const int number = std::stoi(row[0].value_or("0"));
+            if (history.empty() || history.back().number != number)
+                history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});
+            history.back().changes.push_back({{*row[3], *row[4]}, rowOf(row[5], row[6]), rowOf(row[7], row[8])});
+        });
+    return history;
+}
+
+void olStoreTables::change(const Changes &changes, const std::string &program)
+{
+    const bool isNew = !exist();
+    Rows rows = isNew ? Rows() : this->rows();
+    std::vector<Change> real;
+    for (const auto &[key, after] : changes) {
+        const auto found = rows.find(key);
+        const auto before = found == rows.end() ? std::nullopt : std::optional<Row>(found->second);
+        if (before == after)
+            continue;
+        real.push_back({key, before, after});
+        rows.erase(key);
+        if (after)
+            rows[key] = *after;
+    }
+    if (real.empty())
+        return;
+    if (isNew)
+        create();
+    else if (m_database.number("PRAGMA user_version") == earlierFormat)
+        m_database.run("ALTER TABLE setting DROP COLUMN checksum");
+    if (m_database.number("PRAGMA user_version") != currentFormat) {
+        m_database.run(historyTable);
+        m_database.run("PRAGMA user_version = " + std::to_string(currentFormat));
+    }
+    for (const Change &change : real) {
+        const auto &[home, key] = change.key;
+        if (change.after)
+            m_database.run("INSERT INTO setting VALUES (?, ?, ?, ?) ON CONFLICT (home, key) DO UPDATE SET type = "
+                           "excluded.type, value = excluded.value",
+                           {home, key, change.after->type, change.after->value});
+        else
+            m_database.run("DELETE FROM setting WHERE home = ? AND key = ?", {home, key});
+    }
+    m_database.run("UPDATE seal SET rows = ?", {sealOf(rows)});
+    remember(real, program);
+}
+
 void olStoreTables::create()
 {
     m_database.run(settingTable);
     m_database.run(sealTable);
     m_database.run("INSERT INTO seal VALUES ('')");
-    m_database.run(("PRAGMA application_id = " + std::to_string(applicationId)).c_str());
-    m_database.run(("PRAGMA user_version = " + std::to_string(currentFormat)).c_str());
-    m_checksums.clear();
+    m_database.run("PRAGMA application_id = " + std::to_string(applicationId));
 }
 
-void olStoreTables::requireOurFormat()
+void olStoreTables::remember(const std::vector<Change> &changes, const std::string &program)
 {
-    if (m_database.number("PRAGMA application_id") != applicationId)
-        throw olStoreFault{Kind::Foreign, translated("it is another program's database")};
-    const int format = m_database.number("PRAGMA user_version");
-    if (format > currentFormat)
-        throw olStoreFault{Kind::Newer, translated("it was written by a newer version")};
-    if (format != currentFormat)
-        damaged("its format is unknown");
-    olSqliteStatement tables = m_database.prepare("SELECT sql FROM sqlite_schema ORDER BY name");
-    for (const char *expected : {sealTable, settingTable}) {
-        if (!tables.step() || tables.text(0) != expected)
-            damaged("its tables are not what they were");
+    const int number = m_database.number("SELECT max(save) FROM history") + 1;
+    const std::string time = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs).toStdString();
+    const auto typeOf = [](const std::optional<Row> &row) { return row ? Text(row->type) : std::nullopt; };
+    const auto valueOf = [](const std::optional<Row> &row) { return row ? Text(row->value) : std::nullopt; };
+    for (const auto &[key, before, after] : changes) {
+        if (olIsConfidential(key.second))
+            continue;
+        olSqlite::Row row{std::to_string(number), time,          program,       key.first, key.second, typeOf(before),
+                          valueOf(before),        typeOf(after), valueOf(after)};
+        row.emplace_back(checksum(row));
+        m_database.run("INSERT INTO history VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)", row);
     }
-    if (tables.step())
-        damaged("its tables are not what they were");
-}
-
-olStoreRows olStoreTables::prove()
-{
-    m_checksums.clear();
-    olStoreRows all;
-    std::string checksums;
-    olSqliteStatement rows =
-        m_database.prepare("SELECT home, key, type, value, checksum FROM setting ORDER BY home, key");
-    while (rows.step()) {
-        for (int column = 0; column < 5; ++column) {
-            if (!rows.isText(column))
-                damaged("a row is not what it was");
-        }
-        const std::string proof = checksum({rows.text(0), rows.text(1), rows.text(2), rows.text(3)});
-        if (rows.text(4) != proof)
-            damaged("a row does not match its checksum");
-        checksums += proof;
-        const olStoreRows::Key key{rows.text(0), rows.text(1)};
-        all.rows[key] = {rows.text(2), rows.text(3)};
-        m_checksums[key] = proof;
-    }
-    olSqliteStatement seal = m_database.prepare("SELECT rows FROM seal");
-    if (!seal.step() || !seal.isText(0) || seal.text(0) != sealOf(checksums) || seal.step())
-        damaged("rows are missing");
-    return all;
-}
-
-void olStoreTables::change(const olStoreRows &put, const std::vector<olStoreRows::Key> &removed)
-{
-    write(put);
-    erase(removed);
-    renewSeal();
-}
-
-void olStoreTables::write(const olStoreRows &rows)
-{
-    olSqliteStatement &insert = prepared(m_insert, "INSERT OR REPLACE INTO setting VALUES (?, ?, ?, ?, ?)");
-    for (const auto &[key, row] : rows.rows) {
-        const std::string proof = checksum({key.first, key.second, row.type, row.value});
-        insert.bind(1, key.first);
-        insert.bind(2, key.second);
-        insert.bind(3, row.type);
-        insert.bind(4, row.value);
-        insert.bind(5, proof);
-        insert.run();
-        m_checksums[key] = proof;
-    }
-}
-
-void olStoreTables::erase(const std::vector<olStoreRows::Key> &keys)
-{
-    olSqliteStatement &row = prepared(m_erase, "DELETE FROM setting WHERE home = ? AND key = ?");
-    for (const olStoreRows::Key &key : keys) {
-        row.bind(1, key.first);
-        row.bind(2, key.second);
-        row.run();
-        m_checksums.erase(key);
-    }
-}
-
-void olStoreTables::renewSeal()
-{
-    std::string checksums;
-    for (const auto &row : m_checksums)
-        checksums += row.second;
-    olSqliteStatement &seal = prepared(m_seal, "UPDATE seal SET rows = ?");
-    seal.bind(1, sealOf(checksums));
-    seal.run();
-}
-
-olSqliteStatement &olStoreTables::prepared(std::optional<olSqliteStatement> &statement, const char *sql)
-{
-    if (!statement)
-        statement = m_database.prepare(sql);
-    return *statement;
+    m_database.run("DELETE FROM history WHERE save <= ?", {std::to_string(number - rememberedSaves)});
 }

@@ -3,45 +3,40 @@
 #include "Store/olSqlite.h"
 #include "Store/olStoreRows.h"
 
-#include <map>
-#include <optional>
+#include <QByteArray>
+
 #include <string>
 #include <vector>
 
-/// The tables in a store's database: the rows with their checksums, and the seal. Goes before its database; what fails
-/// throws olStoreFault or olSqliteError.
+/// The tables in a store's database: the rows, a seal over them, so that neither a changed row nor a lost one goes
+/// unnoticed, and the history of the saves. What fails throws olStoreError.
 class olStoreTables
 {
 public:
     explicit olStoreTables(olSqlite &database) : m_database(database) {}
 
-    [[nodiscard]] static olStoreFault faultOf(const olSqliteError &error);
     [[noreturn]] static void damaged(const char *reason);
+
+    /// What the beginning of a file tells: whether it was a store, perhaps before it was damaged, and whether it is one
+    /// of the earlier form, which kept its saves in a log.
+    [[nodiscard]] static bool looksLikeAStore(const QByteArray &header);
+    [[nodiscard]] static bool usesALog(const QByteArray &header);
 
     /// False in a file that was made but never filled.
     [[nodiscard]] bool exist();
-    void create();
 
-    void requireOurFormat();
+    /// Proves tables, structure and seal.
+    [[nodiscard]] olStoreRows::Rows rows();
+    [[nodiscard]] olStoreRows::History history();
 
-    /// All rows, each against its checksum, and all together against the seal.
-    olStoreRows prove();
-
-    /// Puts and removes rows, and renews the seal. Only for what create() or prove() has just seen to in the same
-    /// transaction, or what nobody else has changed since: the seal goes on what was proved then, whatever the file
-    /// may hold now.
-    void change(const olStoreRows &put, const std::vector<olStoreRows::Key> &removed);
+    /// Makes the changes, within a transaction, and remembers the real ones under the program's name. Makes the tables
+    /// where there are none, and those of the earlier form into the present one.
+    void change(const olStoreRows::Changes &changes, const std::string &program);
 
 private:
-    void write(const olStoreRows &rows);
-    void erase(const std::vector<olStoreRows::Key> &keys);
-    void renewSeal();
-    olSqliteStatement &prepared(std::optional<olSqliteStatement> &statement, const char *sql);
+    void requireOurs();
+    void create();
+    void remember(const std::vector<olStoreRows::Change> &changes, const std::string &program);
 
     olSqlite &m_database;
-    // In the order in which the database has the rows.
-    std::map<olStoreRows::Key, std::string> m_checksums;
-    std::optional<olSqliteStatement> m_insert;
-    std::optional<olSqliteStatement> m_erase;
-    std::optional<olSqliteStatement> m_seal;
 };

@@ -4,13 +4,12 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
+#include "Store/olConfidentialSettings.h"
 
 #include <QCoreApplication>
 #include <QString>
 
-#include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <map>
 #include <string>
 
@@ -25,19 +24,9 @@ constexpr std::size_t maxSize = std::size_t(1) << 20;
 
 QString translated(const char *text) { return QCoreApplication::translate("olWebPages", text); }
 
-/// Whether a value is nobody's business outside: who is let in, by which pipe the host is driven, and whatever a module
-/// calls a secret.
-bool isConfidential(const std::string &key)
-{
-    const QString name = QString::fromStdString(key).toLower();
-    const auto isIn = [&name](const char *word) { return name.contains(QLatin1String(word)); };
-    constexpr const char *words[] = {"white list", "webinterfacepipe", "password", "passphrase", "secret", "token"};
-    return std::any_of(std::begin(words), std::end(words), isIn);
-}
-
 bool isPublic(const std::string &key, const boost::any &value)
 {
-    return !olValue::typeName(value).empty() && !isConfidential(key);
+    return !olValue::typeName(value).empty() && !olIsConfidential(key);
 }
 
 /// Of all modules, wherever they keep their values.

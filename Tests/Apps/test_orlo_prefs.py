@@ -9,6 +9,7 @@ import os
 import pathlib
 import re
 import shutil
+import sqlite3
 import stat
 import subprocess
 import unittest
@@ -230,6 +231,93 @@ class Files(ToolTest):
         self.assert_printed(self.stored("get", "Powerwall width"), "-0\n")
 
 
+class History(ToolTest):
+    def test_saves_are_listed_and_taken_back(self):
+        for value in ("50", "60"):
+            self.stored("set", "Camera fov", value)
+        self.stored("set", "WebInterface white list", "10.0.0.1")
+        self.stored("reset", "Camera fov")
+        log = self.stored("log").stdout
+        self.assertRegex(log, r"^1  \d{4}-\d\d-\d\d \d\d:\d\d:\d\d  orlo-prefs\n    Camera fov  60 -> default\n2  ")
+        self.assertNotIn("10.0.0.1", log)
+        entries = json.loads(self.stored("log", "Camera fov", "--json").stdout)
+        self.assertEqual([entry["changes"][0]["after"] for entry in entries],
+                         [None, {"type": "float", "value": 60}, {"type": "float", "value": 50}])
+        self.assert_printed(self.stored("log", "Powerwall width"), "")
+        self.assert_refused(self.stored("log", "Camera foz"),
+                            'there is no setting "Camera foz"; did you mean "Camera fov"?')
+
+        before = self.store.read_bytes()
+        self.assert_printed(self.stored("undo", "--dry-run"), "Camera fov  45 -> 60\n")
+        self.assertEqual(self.store.read_bytes(), before)
+        self.assert_printed(self.stored("undo"), "Camera fov  45 -> 60\n")
+        self.assert_printed(self.stored("undo", "2"), "")
+        self.assert_printed(self.stored("undo", "3"), "Camera fov  60 -> 50\n")
+        self.assert_printed(self.stored("get", "Camera fov"), "50\n")
+        self.assert_refused(self.stored("undo", "99"), "99 saves cannot be taken back: there are only 5")
+
+    def test_what_was_changed_otherwise_is_left_and_named(self):
+        self.stored("set", "Camera fov", "50")
+        self.stored("set", "Camera fov", "60")
+        with sqlite3.connect(self.store) as database:
+            database.execute("DELETE FROM history WHERE save = 2")
+        result = self.stored("undo")
+        self.assertEqual((result.stdout, result.returncode), ("", 1))
+        self.assertEqual(result.stderr,
+                         'left: "Camera fov" was changed since\nSome settings were left as they are.\n')
+
+
+class Profiles(ToolTest):
+    def test_a_profile_is_kept_listed_applied_and_deleted(self):
+        self.stored("set", "Camera fov", "60")
+        self.stored("set", "Powerwall width", "5")
+        self.assert_printed(self.stored("profile", "save", "wide & far", "--changed"), "")
+        self.assert_printed(self.stored("profile", "save", "camera", "--module", "Camera"), "")
+        self.assert_printed(self.stored("profile", "list"), "camera\nwide & far\n")
+        kept = self.folder / "profiles/wide & far.json"
+        self.assertEqual(list(json.loads(kept.read_text())["settings"]), ["Camera fov", "Powerwall width"])
+        self.assertEqual((kept.stat().st_mode & 0o777, kept.parent.stat().st_mode & 0o777), (0o600, 0o700))
+        self.assertEqual(len(json.loads((self.folder / "profiles/camera.json").read_text())["settings"]), 6)
+        self.stored("reset", "--all")
+        self.assert_printed(self.stored("profile", "apply", "wide & far", "--dry-run"),
+                            "Camera fov       45 -> 60\nPowerwall width  1600 -> 5\n")
+        self.assert_printed(self.stored("diff"), "")
+        self.assert_printed(self.stored("profile", "apply", "wide & far"), "")
+        self.assert_printed(self.stored("get", "Camera fov"), "60\n")
+        self.assert_printed(self.stored("profile", "delete", "camera"), "")
+        self.assert_printed(self.stored("profile", "list"), "wide & far\n")
+
+    def test_names_that_are_none_are_refused(self):
+        for name in ("", ".hidden", "a/b", "../store"):
+            for action in ("save", "apply", "delete"):
+                self.assert_refused(self.stored("profile", action, name),
+                                    f'"{name}" is no name for a profile: it must not be empty, have a slash in it or '
+                                    "begin with a dot.")
+        self.assert_refused(self.stored("profile", "apply", "none"), 'There is no profile "none".')
+        self.assert_refused(self.stored("profile", "save", "x", "--module", "Camra"),
+                            'there is no module "Camra"; did you mean "Camera"?')
+        self.assertFalse((self.folder / "profiles").exists())
+
+
+class Editions(ToolTest):
+    def test_a_choice_stays_in_all_editions_although_it_is_a_default_in_some(self):
+        editions = ("essentials", "design", "professional", "enterprise")
+        lists = {edition: self.tool("list", "--json", options=["--store", str(self.store), "--edition", edition]).stdout
+                 for edition in editions}
+        defaults = {edition: {setting["key"]: setting["default"] for module in json.loads(text)
+                              for setting in module["settings"]} for edition, text in lists.items()}
+        key = next(key for key, value in defaults["essentials"].items()
+                   if isinstance(value, bool) and value != defaults["professional"][key]
+                   and not key.startswith("Devices"))
+        for chooser in ("essentials", "professional"):
+            for value in ("true", "false"):
+                self.tool("set", key, value, options=["--store", str(self.store), "--edition", chooser])
+                for edition in editions:
+                    options = ["--store", str(self.store), "--edition", edition]
+                    self.assert_printed(self.tool("set", "Powerwall width", "7", options=options), "")
+                    self.assert_printed(self.tool("get", key, options=options), value + "\n")
+
+
 @unittest.skipUnless(os.geteuid() == 0, "a site's file counts only where it is root's")
 class Site(ToolTest):
     def setUp(self):
@@ -304,7 +392,8 @@ class Completion(ToolTest):
         self.assertEqual([word for word in self.completed("") if not word.startswith("-")], listed)
         for words, expected in {("--ed",): ["--edition"], ("--edition", "de"): ["design"],
                                 ("list", "--m"): ["--markdown"], ("reset", "--a"): ["--all"],
-                                ("import", "--d"): ["--dry-run"], ("get", "Camera"): ["Camera\\ fov"],
+                                ("import", "--d"): ["--dry-run"], ("undo", "--d"): ["--dry-run"],
+                                ("profile", "a"): ["apply"], ("log", "Camera"): ["Camera\\ fov"], ("get", "Camera"): ["Camera\\ fov"],
                                 ("--edition", "design", "set", "Camera\\ f"): ["Camera\\ fov"],
                                 ("reset", '"Camera f'): ["Camera fov"], ("get", "Camera\\ fov", ""): [""],
                                 ("get", "no such"): [""]}.items():
@@ -318,7 +407,7 @@ class Manual(ToolTest):
     def test_it_tells_of_every_command_and_option(self):
         text = self.page.read_text().replace("\\-", "-")
         words = re.findall(r"(?m)^  ([a-z]+|--[a-z-]+) ", self.tool("--help").stdout)
-        for word in [*words, "--dry-run", "--all", "--json", "--markdown"]:
+        for word in [*words, "--dry-run", "--all", "--json", "--markdown", "--changed", "--module"]:
             self.assertRegex(text, rf"(?<![\w-]){word}(?![\w-])")
 
     @unittest.skipUnless(shutil.which("groff"), "needs groff")
@@ -360,9 +449,9 @@ class CommandLine(ToolTest):
         self.assertRegex(self.tool("--version").stdout, r"^orlo-prefs \d+\.\d+")
 
     def test_what_is_not_understood_is_named(self):
-        commands = "only list, get, set, reset, diff, export, import, check and script; see --help"
+        commands = "only list, get, set, reset, diff, export, import, profile, log, undo, check and script; see --help"
         for arguments, message in {
-                (): "a command is missing: list, get, set, reset, diff, export, import, check or script; see --help",
+                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check or script; see --help",
                 ("lst",): f"there is no command lst, {commands}",
                 ("--stroe", "x", "list"): 'there is no option --stroe; did you mean "--store"?',
                 ("--edition", "gold", "list"):
@@ -376,13 +465,16 @@ class CommandLine(ToolTest):
                 ("diff", "Camera fov"): "usage: orlo-prefs [OPTIONS] diff",
                 ("export", "a", "b"): "usage: orlo-prefs [OPTIONS] export [FILE|-]",
                 ("import", "--dry-run"): "usage: orlo-prefs [OPTIONS] import [--dry-run] FILE|-",
+                ("profile",): "usage: orlo-prefs [OPTIONS] profile list|save|apply|delete",
+                ("profile", "save", "a", "--all"): "usage: orlo-prefs [OPTIONS] profile list|save|apply|delete",
+                ("undo", "0"): "usage: orlo-prefs [OPTIONS] undo [N] [--dry-run]",
                 ("script",): "usage: orlo-prefs [OPTIONS] script FILE|-"}.items():
             with self.subTest(arguments):
                 self.assert_refused(self.tool(*arguments), message)
 
     def test_each_command_has_a_help_of_its_own(self):
         listed = re.findall(r"(?m)^  ([a-z]+) ", self.tool("--help").stdout)
-        self.assertEqual(listed, "list get set reset diff export import check script".split())
+        self.assertEqual(listed, "list get set reset diff export import profile log undo check script".split())
         for command in listed:
             help_text = self.tool(command, "--help").stdout
             self.assertTrue(help_text.startswith(f"Usage: orlo-prefs [OPTIONS] {command}"), help_text)

@@ -1,8 +1,7 @@
-// A store: the bytes of its file, or the log that a crash left beside a sound one, or else rows of a sound one, on each
-// line a type, a blank and a value.
+// A store: the bytes of its file, or the journal that a crash left beside a sound one, or else rows of a sound one, on
+// each line a type, a blank and a value.
 
 #include "Store/olPreferencesStore.h"
-#include "Store/olStoreFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -13,13 +12,13 @@
 namespace
 {
 
-olStoreRows rowsIn(const QByteArray &text)
+olStoreRows::Changes rowsIn(const QByteArray &text)
 {
-    olStoreRows rows;
+    olStoreRows::Changes rows;
     for (const QByteArray &line : text.split('\n')) {
         const int blank = line.indexOf(' ');
-        const std::string key = "key " + std::to_string(rows.rows.size());
-        rows.rows[{"record", key}] = {line.left(blank).toStdString(), line.mid(blank + 1).toStdString()};
+        const std::string key = "key " + std::to_string(rows.size());
+        rows[{"record", key}] = {line.left(blank).toStdString(), line.mid(blank + 1).toStdString()};
     }
     return rows;
 }
@@ -41,12 +40,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     olPreferencesStore store(name);
     if (bytes.startsWith("SQLite format 3")) {
         write(name, bytes);
-    } else if (bytes.startsWith("\x37\x7f\x06")) {
+    } else if (bytes.startsWith("\xd9\xd5\x05\xf9")) {
         if (!store.save({{{olHome::Record, "key"}, 1}}, {}).isEmpty())
             std::abort();
-        write(name + QStringLiteral("-wal"), bytes);
-    } else {
-        olStoreFile(name).replace(rowsIn(bytes));
+        write(name + QStringLiteral("-journal"), bytes);
+    } else if (!store.save(rowsIn(bytes)).isEmpty()) {
+        std::abort();
     }
 
     olPreferencesStore::Values looked;

@@ -132,9 +132,13 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
     EXPECT_EQ(module.page.value(), 7);
     EXPECT_EQ(other.value(), 3);
 
-    // Back at its default, a value is not kept any longer.
+    // Chosen again, the default is a choice; restored, it is none.
     module.page.setValue(3);
     EXPECT_EQ(session->confirm(shown), QString());
+    nextRun();
+    EXPECT_EQ(boost::any_cast<int>(olPreferences::getData().get("Counter")), 3);
+    session->start();
+    EXPECT_EQ(session->confirm(shown, {}, {"Counter"}), QString());
     nextRun();
     EXPECT_TRUE(olPreferences::getData().get("Counter").empty());
 }

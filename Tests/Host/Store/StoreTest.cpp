@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -48,8 +50,39 @@ void StoreTest::tamper(const char *sql) const
 QStringList StoreTest::setAside() const
 {
     QStringList names = QDir(folder.path()).entryList({QStringLiteral("*.damaged-*")}, QDir::Files, QDir::Name);
-    names.erase(std::remove_if(names.begin(), names.end(),
-                               [](const QString &name) { return name.endsWith(QLatin1String("-wal")); }),
-                names.end());
+    names.erase(
+        std::remove_if(names.begin(), names.end(),
+                       [](const QString &name) { return name.endsWith(QLatin1String("-wal")) || isJournal(name); }),
+        names.end());
     return names;
+}
+
+bool StoreTest::isJournal(const QString &name) { return name.endsWith(QLatin1String("-journal")); }
+
+QMap<QString, QByteArray> StoreTest::disk() const
+{
+    QMap<QString, QByteArray> files;
+    const QStringList names = QDir(folder.path()).entryList(QDir::Files);
+    for (const QString &name : names)
+        files[name] = bytesOf(folder.filePath(name));
+    return files;
+}
+
+void StoreTest::leaveJournal(const Values &values) const
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        sqlite3 *database = nullptr;
+        sqlite3_open(QFile::encodeName(file).constData(), &database);
+        sqlite3_exec(database, "PRAGMA cache_size = 1; BEGIN", nullptr, nullptr, nullptr);
+        for (const auto &value : values) {
+            const std::string sql =
+                "UPDATE setting SET value = printf('%.2000c', '1') WHERE key = '" + value.first.second + '\'';
+            sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr);
+        }
+        sqlite3_db_cacheflush(database);
+        ::_exit(0);
+    }
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    ASSERT_GT(QFileInfo(file + "-journal").size(), 512);
 }

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QFileInfo>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -34,8 +35,17 @@ protected:
     /// Runs SQL on the store's file, as no program of ours would.
     void tamper(const char *sql) const;
 
-    /// Sets of files that were set aside, without their logs.
+    /// Files that were set aside, without their journals.
     [[nodiscard]] QStringList setAside() const;
+
+    static bool isJournal(const QString &name);
+
+    /// All files of the folder with what is in them.
+    [[nodiscard]] QMap<QString, QByteArray> disk() const;
+
+    /// What a program leaves that is killed in the middle of writing these rows: half of them are in the file, and what
+    /// they were is in the journal.
+    void leaveJournal(const Values &values) const;
 
     QTemporaryDir folder{QFileInfo(QStringLiteral("/dev/shm")).isWritable() ? QStringLiteral("/dev/shm/store-XXXXXX")
                                                                             : QString()};

@@ -1,9 +1,11 @@
+#include "State/olValue.h"
 #include "StoreTest.h"
 #include "Support/ChildProcess.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 
+#include <fcntl.h>
 #include <sched.h>
 #include <sqlite3.h>
 #include <sys/mman.h>
@@ -13,8 +15,11 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <functional>
+#include <initializer_list>
 #include <numeric>
 #include <random>
 
@@ -150,6 +155,129 @@ TEST_F(StoreFaults, AFullDiskIsReportedAndTakesNothingAway)
     EXPECT_EQ(fault, "");
 }
 
+TEST_F(StoreFaults, WhoOnlyReadsLeavesTheDiskAsItIs)
+{
+    const Values values = generation(3);
+    save(values);
+    leaveJournal(values);
+    const auto before = disk();
+    olPreferencesStore store(file);
+    for (const auto &read : std::initializer_list<std::function<QString(Values &)>>{
+             [&](Values &found) { return store.load(found); },
+             [&](Values &found) { return store.lookAt(found).error + store.lookAt(found).notice; },
+             [&](Values &found) { return store.load(found) + store.check().join(QChar()); }}) {
+        Values found;
+        EXPECT_EQ(read(found), QString());
+        EXPECT_TRUE(same(found, values));
+        EXPECT_EQ(disk(), before);
+    }
+    // Who writes takes back what was begun.
+    save({{key("row 0"), 4}});
+    EXPECT_FALSE(QFile::exists(file + "-journal"));
+    EXPECT_EQ(stored().size(), values.size());
+    EXPECT_TRUE(olValue::identical(stored()[key("row 1")], 3));
+}
+
+TEST_F(StoreFaults, AStoreOfTheEarlierFormIsReadAndBecomesOneOfThisFormAtTheFirstSave)
+{
+    for (const bool isLogLeft : {true, false}) {
+        QFile::remove(file);
+        const std::string fault = inChildProcess([&]() -> std::string {
+            sqlite3 *database = nullptr;
+            sqlite3_open(QFile::encodeName(file).constData(), &database);
+            const int result =
+                sqlite3_exec(database,
+                             "PRAGMA journal_mode = WAL;CREATE TABLE setting (home TEXT NOT NULL, key TEXT NOT NULL, "
+                             "type TEXT NOT NULL, value TEXT NOT NULL, checksum TEXT NOT NULL, PRIMARY KEY (home, "
+                             "key)) WITHOUT ROWID;CREATE TABLE seal (rows TEXT NOT NULL);INSERT INTO setting VALUES "
+                             "('record', 'a', 'int', '1', '5b34e4553bbab8b0');INSERT INTO seal VALUES "
+                             "('a076d71e15ba3c83'); PRAGMA application_id = 1330793551; PRAGMA user_version = 1",
+                             nullptr, nullptr, nullptr);
+            if (!isLogLeft)
+                sqlite3_close(database);
+            return result == SQLITE_OK ? "" : "it cannot be made";
+        });
+        ASSERT_EQ(fault, "");
+        ASSERT_EQ(QFile::exists(file + "-wal"), isLogLeft);
+        const auto before = disk();
+        EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
+        EXPECT_EQ(disk(), before);
+        save({{key("b"), 2}});
+        EXPECT_FALSE(QFile::exists(file + "-wal") || QFile::exists(file + "-shm"));
+        EXPECT_EQ(bytesOf(file).mid(18, 2), QByteArray("\1\1"));
+        EXPECT_TRUE(same(stored(), {{key("a"), 1}, {key("b"), 2}}));
+    }
+}
+
+TEST_F(StoreFaults, AStoreBehindALinkIsTheLinksTarget)
+{
+    const QString target = folder.filePath(QStringLiteral("elsewhere/target.db"));
+    ASSERT_TRUE(QFile::link(target, file));
+    save({{key("a"), 1}});
+    Values values;
+    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    EXPECT_TRUE(QFileInfo(file).isSymLink());
+    EXPECT_TRUE(QFile::exists(target) && QFile::exists(target + ".last-good"));
+    write(target, bytesOf(target).left(5000));
+    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_TRUE(QFileInfo(file).isSymLink());
+    EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
+}
+
+TEST_F(StoreFaults, FilesAreForTheirOwnerAloneAndCopiesAsTheirOriginals)
+{
+    const auto modeOf = [](const QString &name) {
+        struct stat status = {};
+        ::stat(QFile::encodeName(name).constData(), &status);
+        return int(status.st_mode & 0777);
+    };
+    const mode_t mask = ::umask(0);
+    file = folder.filePath(QStringLiteral("deep/er/preferences.db"));
+    save({{key("a"), 1}});
+    EXPECT_EQ(modeOf(file), 0600);
+    EXPECT_EQ(modeOf(folder.filePath(QStringLiteral("deep"))), 0700);
+    EXPECT_EQ(modeOf(folder.filePath(QStringLiteral("deep/er"))), 0700);
+    ::chmod(QFile::encodeName(file).constData(), 0640);
+    Values values;
+    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    EXPECT_EQ(modeOf(file + ".last-good"), 0640);
+    ::umask(mask);
+}
+
+int refuseLocks(int file, int command, ...)
+{
+    if (command == F_SETLK || command == F_SETLKW || command == F_GETLK) {
+        errno = ENOLCK;
+        return -1;
+    }
+    std::va_list arguments;
+    va_start(arguments, command);
+    void *argument = va_arg(arguments, void *);
+    va_end(arguments);
+    return ::fcntl(file, command, argument);
+}
+
+TEST_F(StoreFaults, WhereLocksAreRefusedItCanBeReadAndSaysSoOnSaving)
+{
+    const Values values = generation(3);
+    save(values);
+    for (const bool hasJournal : {false, true}) {
+        if (hasJournal)
+            leaveJournal(values);
+        const auto before = disk();
+        EXPECT_EQ(inChildProcess([&]() -> std::string {
+                      sqlite3_vfs *system = sqlite3_vfs_find(nullptr);
+                      system->xSetSystemCall(system, "fcntl", reinterpret_cast<sqlite3_syscall_ptr>(refuseLocks));
+                      olPreferencesStore store(file);
+                      if (!holds(values))
+                          return "cannot be read";
+                      return faultIn(store.save({{key("a"), 2}}, {}), "refuses locks");
+                  }),
+                  "");
+        EXPECT_EQ(disk(), before);
+    }
+}
+
 /// Permissions bind nobody who is root.
 std::string becomeNobody()
 {
@@ -184,6 +312,23 @@ TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
     }
 }
 
+TEST_F(StoreFaults, AJournalOfSomebodyElseIsToldByItsName)
+{
+    save(generation(3));
+    leaveJournal(generation(3));
+    ::chmod(QFile::encodeName(file + "-journal").constData(), 0600);
+    ::chmod(QFile::encodeName(file).constData(), 0666);
+    ::chmod(QFile::encodeName(folder.path()).constData(), 0777);
+    EXPECT_EQ(inChildProcess([this]() -> std::string {
+                  if (const std::string fault = becomeNobody(); !fault.empty())
+                      return fault;
+                  Values read;
+                  const QString error = olPreferencesStore(file).load(read);
+                  return error.contains(file + "-journal cannot be read") ? "" : error.toStdString();
+              }),
+              "");
+}
+
 TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
 {
     save({{key("a"), 1}});
@@ -191,6 +336,8 @@ TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
     ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
     const QByteArray damaged = bytesOf(file).left(5000);
     write(file, damaged);
+    for (const QString &name : {file, file + ".last-good"})
+        ::chmod(QFile::encodeName(name).constData(), 0644);
     ::chmod(QFile::encodeName(folder.path()).constData(), 0555);
     EXPECT_EQ(inChildProcess([this]() -> std::string {
                   if (const std::string fault = becomeNobody(); !fault.empty())
@@ -216,9 +363,6 @@ TEST_F(StoreFaults, ProgramsThatSaveDifferentSettingsAllKeepTheirs)
         for (int number = 1; number <= saves; ++number) {
             const Values mine{{key(name), number}, {key(name + std::to_string(number)), number}};
             failed += store.save(mine, {}).isEmpty() ? 0 : 1;
-            // Some are long runs of many saves, others many short runs.
-            if (program == 2 || number % 20 == 0)
-                store.close();
         }
         return failed;
     });

@@ -1,0 +1,121 @@
+// The commands that look back on what was changed, and take it back.
+
+#include "Session/olUndo.h"
+#include "State/olValue.h"
+#include "olKnownSettings.h"
+#include "olPrefsCommands.h"
+#include "olPrefsTool.h"
+#include "olSettingsList.h"
+#include "olToolError.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace olStoreRows;
+
+namespace
+{
+
+std::string text(const std::optional<Row> &row) { return row ? row->value : "default"; }
+
+std::string json(const std::optional<Row> &row)
+{
+    return row ? R"({"type": )" + olValue::quoted(row->type) + R"(, "value": )" + row->value + '}' : "null";
+}
+
+std::string json(const Save &save)
+{
+    std::string changes;
+    for (const Change &change : save.changes) {
+        changes += (changes.empty() ? "\n    " : ",\n    ") + (R"({"key": )" + olValue::quoted(change.key.second)) +
+                   R"(, "home": )" + olValue::quoted(change.key.first) + R"(, "before": )" + json(change.before) +
+                   R"(, "after": )" + json(change.after) + '}';
+    }
+    return R"({"number": )" + std::to_string(save.number) + R"(, "time": )" + olValue::quoted(save.time) +
+           R"(, "program": )" + olValue::quoted(save.program) + R"(, "changes": [)" + changes + "]}";
+}
+
+std::string lines(const Save &save, int back)
+{
+    const QDateTime time = QDateTime::fromString(QString::fromStdString(save.time), Qt::ISODateWithMs).toLocalTime();
+    std::string text = std::to_string(back) + "  " +
+                       time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")).toStdString() + "  " + save.program + '\n';
+    for (const Change &change : save.changes)
+        text += "    " + change.key.second + "  " + ::text(change.before) + " -> " + ::text(change.after) + '\n';
+    return text;
+}
+
+/// Only what it changed of the setting.
+Save onlyOf(const std::string &key, Save save)
+{
+    save.changes.erase(std::remove_if(save.changes.begin(), save.changes.end(),
+                                      [&key](const Change &change) { return change.key.second != key; }),
+                       save.changes.end());
+    return save;
+}
+
+void requireReadable(const olUndo &undo)
+{
+    if (!undo.error().isEmpty())
+        throw olToolError(undo.error());
+}
+
+} // namespace
+
+void olPrefsCommands::log(olPrefsTool &tool)
+{
+    QStringList arguments = tool.arguments();
+    const bool isJson = arguments.removeOne(QStringLiteral("--json"));
+    if (arguments.size() > 1)
+        tool.failUsage();
+    tool.loadStore(olStoreUse::LookAt);
+    const olUndo undo(tool.session(), 0);
+    requireReadable(undo);
+    std::string text;
+    int back = 0;
+    for (auto save = undo.history().rbegin(); save != undo.history().rend(); ++save) {
+        const Save told = arguments.isEmpty() ? *save : onlyOf(arguments.first().toStdString(), *save);
+        ++back;
+        if (!told.changes.empty())
+            text += isJson ? (text.empty() ? "" : ",\n  ") + json(told) : lines(told, back);
+    }
+    if (text.empty() && !arguments.isEmpty()) {
+        // A setting that nobody changed, or none at all.
+        tool.loadPlugin();
+        tool.fillDefaults();
+        (void)olKnownSettings().named(arguments.first());
+    }
+    tool.print(isJson ? '[' + text + "]\n" : text);
+}
+
+void olPrefsCommands::undo(olPrefsTool &tool)
+{
+    QStringList arguments = tool.arguments();
+    const bool isDryRun = arguments.removeOne(QStringLiteral("--dry-run"));
+    bool isNumber = true;
+    const int count = arguments.isEmpty() ? 1 : arguments.first().toInt(&isNumber);
+    if (arguments.size() > 1 || !isNumber || count < 1)
+        tool.failUsage();
+    tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
+    olUndo undo(tool.session(), std::size_t(count));
+    requireReadable(undo);
+    if (undo.history().size() < std::size_t(count))
+        throw olToolError(
+            QStringLiteral("%1 saves cannot be taken back: there are only %2").arg(count).arg(undo.history().size()));
+    std::vector<olPreferencesImport::Change> changes;
+    for (const Change &change : undo.changes())
+        changes.push_back(
+            {change.key.second, undo.value(change.key, change.before), undo.value(change.key, change.after)});
+    if (!isDryRun) {
+        const QString error = undo.save();
+        if (!error.isEmpty())
+            throw olToolError(error);
+    }
+    tool.print(olSettingsList::changes(changes));
+    for (const olSkippedSetting &left : undo.left())
+        std::fprintf(stderr, "left: \"%s\" %s\n", left.key.c_str(), qPrintable(left.reason));
+    if (!undo.left().empty())
+        throw olToolError(QStringLiteral("Some settings were left as they are."), 1);
+}

@@ -1,0 +1,81 @@
+#include "Dialog/olHistoryView.h"
+
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+olHistoryView::olHistoryView(const olStoreRows::History &history, QWidget *parent)
+    : QDialog(parent), m_list(new QTreeWidget), m_goBack(new QPushButton(tr("&Go Back...")))
+{
+    setWindowTitle(tr("History"));
+    setWindowModality(Qt::WindowModal);
+    auto *introduction = new QLabel(history.empty() ? tr("Nothing has been saved yet.")
+                                                    : tr("Going back takes back the save that is chosen and all later "
+                                                         "ones. What that changes is shown first."));
+    introduction->setWordWrap(true);
+    m_list->setObjectName(QStringLiteral("saves"));
+    m_list->setAccessibleName(tr("Saves"));
+    m_list->setHeaderLabels({tr("When"), tr("Program"), tr("Changes")});
+    m_list->setUniformRowHeights(true);
+    m_list->setAlternatingRowColors(true);
+    m_goBack->setObjectName(QStringLiteral("goBack"));
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    buttons->addButton(m_goBack, QDialogButtonBox::ActionRole);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(introduction);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(buttons);
+
+    for (auto save = history.rbegin(); save != history.rend(); ++save)
+        add(*save);
+    m_list->setCurrentItem(m_list->topLevelItem(0));
+    m_goBack->setEnabled(m_list->topLevelItemCount() > 0);
+    for (int column = 0; column < 2; ++column) {
+        m_list->resizeColumnToContents(column);
+        m_list->setColumnWidth(column, m_list->columnWidth(column) + fontMetrics().averageCharWidth() * 2);
+    }
+    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 26);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_goBack, &QPushButton::clicked, this, &olHistoryView::choose);
+    connect(m_list, &QTreeWidget::itemSelectionChanged, this,
+            [this] { m_goBack->setEnabled(m_list->currentItem() != nullptr); });
+}
+
+void olHistoryView::add(const olStoreRows::Save &save)
+{
+    const QDateTime time = QDateTime::fromString(QString::fromStdString(save.time), Qt::ISODateWithMs).toLocalTime();
+    const QString when = QLocale().toString(time, QLocale::ShortFormat);
+    const auto text = [this](const auto &row) { return row ? QString::fromStdString(row->value) : tr("default"); };
+    const auto line = [&text](const olStoreRows::Change &change) {
+        return tr("%1: %2 to %3", "setting, old and new value")
+            .arg(QString::fromStdString(change.key.second), text(change.before), text(change.after));
+    };
+    const int count = int(save.changes.size());
+    auto *item = new QTreeWidgetItem(m_list, {when, QString::fromStdString(save.program),
+                                              count == 1 ? line(save.changes.front()) : tr("%1 settings").arg(count)});
+    for (const olStoreRows::Change &change : save.changes) {
+        const QString told = line(change);
+        if (count == 1)
+            item->setToolTip(2, told);
+        else
+            (new QTreeWidgetItem(item, {QString(), QString(), told}))->setToolTip(2, told);
+    }
+}
+
+void olHistoryView::choose()
+{
+    QTreeWidgetItem *item = m_list->currentItem();
+    if (!item)
+        return;
+    if (item->parent())
+        item = item->parent();
+    const auto saves = std::size_t(m_list->indexOfTopLevelItem(item)) + 1;
+    accept();
+    emit chosen(saves);
+}

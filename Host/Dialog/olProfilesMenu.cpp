@@ -1,0 +1,75 @@
+#include "Dialog/olProfilesMenu.h"
+
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace
+{
+
+/// A name may hold what else marks a letter of a menu.
+QString shown(QString name) { return name.replace(QLatin1Char('&'), QLatin1String("&&")); }
+
+} // namespace
+
+olProfilesMenu::olProfilesMenu(const olProfiles &profiles, QWidget *parent)
+    : QMenu(tr("&Profiles"), parent), m_profiles(profiles), m_removal(new QMenu(tr("&Delete"), this))
+{
+    // Other programs make and delete profiles too.
+    connect(this, &QMenu::aboutToShow, this, &olProfilesMenu::list);
+}
+
+void olProfilesMenu::list()
+{
+    clear();
+    m_removal->clear();
+    for (const olProfiles::Profile &profile : m_profiles.list()) {
+        const QString text = shown(profile.name);
+        QAction *applied = addAction(profile.isSites ? tr("%1 (site)").arg(text) : text);
+        connect(applied, &QAction::triggered, this, [this, profile] { emit chosen(profile.name, profile.file); });
+        if (!profile.isSites)
+            connect(m_removal->addAction(text), &QAction::triggered, this, [this, profile] { remove(profile.name); });
+    }
+    addSeparator();
+    addAction(tr("&Save As..."), this, &olProfilesMenu::saveAsked);
+    m_removal->setEnabled(!m_removal->isEmpty());
+    addMenu(m_removal);
+}
+
+void olProfilesMenu::saveAs(const olSettingValues &settings)
+{
+    bool isGiven = false;
+    const QString name =
+        QInputDialog::getText(parentWidget(), tr("Save Profile"), tr("&Name:"), QLineEdit::Normal, {}, &isGiven);
+    if (!isGiven || !isReplaceAgreed(name))
+        return;
+    const QString error = m_profiles.save(name, settings);
+    if (error.isEmpty())
+        emit done(tr("The settings in force were saved as profile \"%1\".").arg(name));
+    else
+        emit failed(error);
+}
+
+bool olProfilesMenu::isReplaceAgreed(const QString &name)
+{
+    const auto profiles = m_profiles.list();
+    const bool isThere = std::any_of(profiles.begin(), profiles.end(), [&name](const olProfiles::Profile &profile) {
+        return profile.name == name && !profile.isSites;
+    });
+    return !isThere ||
+           QMessageBox::question(parentWidget(), tr("Save Profile"),
+                                 tr("There is a profile \"%1\" already. Replace it?").arg(name)) == QMessageBox::Yes;
+}
+
+void olProfilesMenu::remove(const QString &name)
+{
+    if (QMessageBox::question(parentWidget(), tr("Delete Profile"), tr("Delete the profile \"%1\"?").arg(name)) !=
+        QMessageBox::Yes)
+        return;
+    const QString error = m_profiles.remove(name);
+    if (error.isEmpty())
+        emit done(tr("The profile \"%1\" was deleted.").arg(name));
+    else
+        emit failed(error);
+}

@@ -1,0 +1,256 @@
+#include "Host/Dialog/DialogTest.h"
+#include "Session/olUndo.h"
+#include "State/olValue.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+#include <QTreeWidget>
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+
+/// A session with the dialog, and another program that saves into the same store.
+class Following : public DialogTest
+{
+protected:
+    using Values = olPreferencesStore::Values;
+
+    static olPreferencesStore::Key key(const std::string &name) { return {olHome::Record, name}; }
+
+    void saveOutside(const Values &changed, const std::vector<olPreferencesStore::Key> &removed = {})
+    {
+        ASSERT_EQ(other.save(changed, removed), QString());
+    }
+
+    [[nodiscard]] QWidget &line() const { return *dialog->findChild<QWidget *>(QStringLiteral("outsideChanges")); }
+    [[nodiscard]] QString said() const
+    {
+        QStringList texts;
+        for (const QLabel *label : line().findChildren<QLabel *>())
+            texts << label->text();
+        return line().isVisible() ? texts.join(QString()) : QString();
+    }
+    [[nodiscard]] QPushButton &choice(const char *name) const
+    {
+        return *line().findChild<QPushButton *>(QLatin1String(name));
+    }
+
+    olPreferencesStore other{store};
+};
+
+TEST_F(Following, WhatAnotherProgramSavesComesIntoForceWithinASecond)
+{
+    start();
+    session->follow();
+    module.applied = 0;
+    saveOutside({{key("Studio samples"), 9}});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return module.applied == 1; }, 1000));
+    EXPECT_EQ(module.changed, std::vector<std::string>{"Studio samples"}) << "all others count as untouched";
+    EXPECT_EQ(module.page.samples->value(), 9);
+    EXPECT_FALSE(canApply()) << "nothing is pending";
+    EXPECT_TRUE(said().contains("Samples") && said().contains("to 9")) << said().toStdString();
+
+    // Taken away, the default holds again; and what was not changed is not touched.
+    saveOutside({}, {key("Studio samples")});
+    session->takeOver();
+    EXPECT_EQ(module.page.samples->value(), 4);
+    const int applied = module.applied;
+    session->takeOver();
+    EXPECT_EQ(module.applied, applied);
+}
+
+TEST_F(Following, PendingChangesStayAndTheSameSettingIsAskedFor)
+{
+    start();
+    module.page.samples->setValue(7);
+    module.page.mode->setCurrentIndex(1);
+    saveOutside({{key("Studio scale"), 2.5f}});
+    session->takeOver();
+    EXPECT_EQ(module.page.samples->value(), 7);
+    EXPECT_EQ(module.page.mode->currentIndex(), 1);
+    EXPECT_EQ(module.page.scale->text(), "2.5");
+    EXPECT_EQ(module.value<int>("Studio samples"), 4) << "pending is not in force";
+    EXPECT_FALSE(choice("useTheirs").isVisible());
+
+    saveOutside({{key("Studio samples"), 9}, {key("Studio mode"), 0}});
+    session->takeOver();
+    EXPECT_EQ(module.page.samples->value(), 7);
+    EXPECT_TRUE(said().contains("to 9") && said().contains("7")) << said().toStdString();
+    choice("useTheirs").click();
+    EXPECT_EQ(module.page.samples->value(), 9);
+    EXPECT_FALSE(choice("useTheirs").isVisible());
+    EXPECT_TRUE(canApply()) << "the other change is still pending";
+
+    module.page.samples->setValue(5);
+    saveOutside({{key("Studio samples"), 6}});
+    session->takeOver();
+    choice("keepMine").click();
+    EXPECT_TRUE(dialog->apply());
+    EXPECT_EQ(module.value<int>("Studio samples"), 5);
+}
+
+TEST_F(Following, ASaveWritesNoOlderValueOfWhatWasNotChangedHere)
+{
+    start();
+    saveOutside({{key("Studio samples"), 9}});
+    session->takeOver();
+    saveOutside({{key("Studio samples"), 12}});
+    module.page.mode->setCurrentIndex(1);
+    ASSERT_TRUE(dialog->apply()) << "before the other one's save was seen";
+    Values values;
+    ASSERT_EQ(other.load(values), QString());
+    EXPECT_TRUE(olValue::identical(values[key("Studio samples")], 12));
+    EXPECT_TRUE(olValue::identical(values[key("Studio mode")], 1));
+    session->takeOver();
+    EXPECT_EQ(module.value<int>("Studio samples"), 12);
+}
+
+TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
+{
+    start();
+    for (const int samples : {8, 16}) {
+        module.page.samples->setValue(samples);
+        ASSERT_TRUE(dialog->apply());
+    }
+    saveOutside({{key("WebInterface white list"), std::string("secret")}, {key("Studio mode"), 1}});
+    session->takeOver();
+    const olUndo undo(*session, 2);
+    ASSERT_EQ(undo.history().size(), 3u);
+    EXPECT_EQ(undo.history().back().changes.size(), 1u) << "what is confidential is not remembered";
+    EXPECT_EQ(undo.history().front().changes.front().after->value, "8");
+    ASSERT_EQ(undo.changes().size(), 2u);
+
+    dialog->showHistory();
+    auto *view = opened<QDialog>();
+    ASSERT_NE(view, nullptr);
+    auto *list = view->findChild<QTreeWidget *>();
+    ASSERT_EQ(list->topLevelItemCount(), 3);
+    list->setCurrentItem(list->topLevelItem(1));
+    view->findChild<QPushButton *>(QStringLiteral("goBack"))->click();
+    auto *changesView = opened<QDialog>();
+    ASSERT_NE(changesView, nullptr);
+    changesView->accept();
+    EXPECT_EQ(module.page.samples->value(), 8);
+    EXPECT_EQ(module.page.mode->currentIndex(), 0);
+    EXPECT_EQ(module.value<int>("Studio samples"), 16) << "nothing is in force yet";
+    ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(module.value<int>("Studio samples"), 8);
+}
+
+TEST_F(Following, UndoLeavesWhatChangedSinceOrIsLocked)
+{
+    start(R"({"Studio title": {"locked": true}})");
+    saveOutside({{key("Studio samples"), 8}, {key("Studio seed"), 3}, {key("Studio title"), QStringLiteral("x")}});
+    saveOutside({{key("Studio mode"), 1}});
+    saveOutside({{key("Studio samples"), 20}});
+    sqlite3 *database = nullptr;
+    sqlite3_open(QFile::encodeName(store).constData(), &database);
+    sqlite3_exec(database, "DELETE FROM history WHERE save = 3", nullptr, nullptr, nullptr);
+    sqlite3_close(database);
+    olUndo undo(*session, 2);
+    ASSERT_EQ(undo.left().size(), 2u);
+    EXPECT_EQ(undo.left().front().key, "Studio samples");
+    EXPECT_EQ(undo.left().back().key, "Studio title");
+    ASSERT_EQ(undo.save(), QString());
+    Values values;
+    ASSERT_EQ(other.load(values), QString());
+    EXPECT_EQ(values.size(), 2u);
+    EXPECT_TRUE(olValue::identical(values[key("Studio samples")], 20));
+    EXPECT_EQ(olUndo(*session, 1).changes().size(), 2u) << "what was taken back can be taken back";
+}
+
+TEST_F(Following, AChangedFileOfTheSiteIsTold)
+{
+    start();
+    (void)session->takeNotices();
+    session->follow();
+    QFile site(siteFile);
+    ASSERT_TRUE(site.open(QIODevice::WriteOnly));
+    site.write(R"({"Studio samples": {"value": 16}})");
+    site.close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return session->takeNotices().join(QString()).contains(siteFile); }, 1000));
+    EXPECT_EQ(module.value<int>("Studio samples"), 4) << "it counts from the next start";
+}
+
+/// In a process of its own: a host that follows the store, and now and then saves a value of its own.
+std::string runHost(const QString &store, const std::string &own, int saves)
+{
+    olPreferencesSession session(store, {});
+    if (!session.loadStore().isEmpty())
+        return "cannot load";
+    int saved = 0;
+    const auto last = [] {
+        const int *value = boost::any_cast<int>(&olPreferences::getData().get("last"));
+        return value ? *value : 0;
+    };
+    QElapsedTimer timer;
+    timer.start();
+    while (saved < saves || last() == 0) {
+        session.takeOver();
+        if (saved < saves) {
+            olPreferences::getData().set(own, ++saved, true);
+            if (!session.save().isEmpty())
+                return "cannot save";
+        }
+        ::usleep(2000);
+        if (timer.elapsed() > 20000)
+            return own + " waits in vain";
+    }
+    session.takeOver();
+    std::string text;
+    for (const auto &[key, value] : olPreferences::getData().entries())
+        text += key + '=' + olValue::toJson(value) + '\n';
+    return text;
+}
+
+TEST_F(Following, ProgramsThatSaveAtTheSameTimeEndWithTheSameValuesAndLoseNone)
+{
+    constexpr int saves = 30;
+    const std::vector<std::string> names{"one", "two"};
+    std::vector<QString> results;
+    std::vector<pid_t> children;
+    for (const std::string &name : names) {
+        results.push_back(folder.filePath(QString::fromStdString(name)));
+        children.push_back(::fork());
+        if (children.back() == 0) {
+            const std::string text = runHost(store, name, saves);
+            QFile result(results.back());
+            result.open(QIODevice::WriteOnly);
+            result.write(text.data(), qint64(text.size()));
+            result.close();
+            ::_exit(0);
+        }
+    }
+    for (int number = 1; number <= saves; ++number)
+        saveOutside({{key("shared"), number}, {key("outside " + std::to_string(number)), number}});
+    for (const std::string &name : names) {
+        const auto isDone = [&] {
+            Values values;
+            return other.load(values).isEmpty() && olValue::identical(values[key(name)], saves);
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isDone, 20000));
+    }
+    saveOutside({{key("last"), 1}});
+    for (const pid_t child : children)
+        ::waitpid(child, nullptr, 0);
+    Values values;
+    ASSERT_EQ(other.load(values), QString());
+    std::string expected;
+    for (const auto &[name, value] : values)
+        expected += name.second + '=' + olValue::toJson(value) + '\n';
+    EXPECT_EQ(values.size(), std::size_t(saves) + 4);
+    for (const QString &result : results) {
+        QFile file(result);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll().toStdString(), expected);
+    }
+}
+
+} // namespace
