@@ -70,11 +70,11 @@ void defaults()
 void apply()
 {
     all(&olPreferencesEntry::applyPreferences);
-    all(&olPreferencesEntry::settle);
+    all(&olPreferencesEntry::markClean);
 }
 
 /// The session's own walks over all modules, and what they look up in them.
-void confirm(olPreferencesSession &session) { require(session.confirm(BenchHost::modules())); }
+void confirm(olPreferencesSession &session) { require(session.commit(BenchHost::modules())); }
 
 /// The pages of few modules fit into the processor's caches, those of many do not; what is asked here is how much there
 /// is to do.

@@ -3,6 +3,7 @@
 #include "State/olPreferencesEntry.h"
 #include "Support/BenchHost.h"
 
+#include <QVariant>
 #include <benchmark/benchmark.h>
 
 #include <functional>
@@ -56,7 +57,7 @@ std::shared_ptr<void> registerPages()
     // Each take-back begins as after an apply, when nothing is reported unchanged yet.
     const auto takeBack = [] { all(&olPreferencesEntry::updateData); };
     add("fill", [] { all(&olPreferencesEntry::updateGUI); }, {});
-    add("take back", takeBack, &BenchHost::settle);
+    add("take back", takeBack, &BenchHost::markClean);
     add(
         "apply", [] { all(&olPreferencesEntry::applyPreferences); }, takeBack);
     add("KConfigDialogManager fill", [kConfig] { kConfig->fill(); }, {});

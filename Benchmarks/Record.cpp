@@ -97,18 +97,18 @@ template <class T> void registerType(Stores &stores, const std::string &type)
         benchmark::DoNotOptimize(value);
     });
     add("set unchanged", [](const Settings<T> &settings, std::size_t index) {
-        const bool changed = setIfChanged(BenchHost::record(), settings.keys[index], settings.values[index], true);
+        bool changed = setIfChanged(BenchHost::record(), settings.keys[index], settings.values[index], true);
         benchmark::DoNotOptimize(changed);
     });
     add("QSettings unchanged", [&stores](const Settings<T> &settings, std::size_t index) {
-        const bool changed = qvariant_cast<T>(stores.qt.value(settings.qtKeys[index])) != settings.values[index];
+        bool changed = qvariant_cast<T>(stores.qt.value(settings.qtKeys[index])) != settings.values[index];
         if (changed)
             stores.qt.setValue(settings.qtKeys[index], settings.values[index]);
         benchmark::DoNotOptimize(changed);
     });
     add("KConfigGroup unchanged", [&stores](const Settings<T> &settings, std::size_t index) {
         const char *key = settings.keys[index].c_str();
-        const bool changed = stores.group.readEntry(key, T()) != settings.values[index];
+        bool changed = stores.group.readEntry(key, T()) != settings.values[index];
         if (changed)
             stores.group.writeEntry(key, settings.values[index]);
         benchmark::DoNotOptimize(changed);

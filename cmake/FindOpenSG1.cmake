@@ -14,12 +14,21 @@ if(NOT EXISTS ${OpenSG_INCLUDE_DIR}/OpenSG/OSGNodePtr.h)
                         "OpenSG 2.x has other interfaces and cannot be used.")
 endif()
 
+# The library calls OpenGL and its utilities and leaves them to its user to link.
+find_package(OpenGL REQUIRED COMPONENTS OpenGL)
+if(NOT TARGET OpenGL::GLU)
+    message(FATAL_ERROR "OpenSG 1.x needs the OpenGL utility library to be linked beside it, and none was found. "
+                        "On Debian it is in libglu1-mesa-dev.")
+endif()
+
 foreach(part Base System)
     if(NOT TARGET OpenSG1::${part})
         string(TOUPPER ${part} upper)
         add_library(OpenSG1::${part} UNKNOWN IMPORTED)
+        # Its headers name each other without the folder that they lie in.
         set_target_properties(OpenSG1::${part} PROPERTIES
             IMPORTED_LOCATION ${OpenSG_${upper}_LIBRARY}
-            INTERFACE_INCLUDE_DIRECTORIES ${OpenSG_INCLUDE_DIR})
+            INTERFACE_INCLUDE_DIRECTORIES "${OpenSG_INCLUDE_DIR};${OpenSG_INCLUDE_DIR}/OpenSG"
+            INTERFACE_LINK_LIBRARIES "OpenGL::GLU;OpenGL::GL")
     endif()
 endforeach()

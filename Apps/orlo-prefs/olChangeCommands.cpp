@@ -1,6 +1,5 @@
 // The commands that give one setting another value, or take them back.
 
-#include "Editing/olControlBounds.h"
 #include "State/olValue.h"
 #include "olKnownSettings.h"
 #include "olPrefsCommands.h"
@@ -14,13 +13,6 @@ void requireUnlocked(const olPreferencesSession &session, const std::string &key
 {
     if (const auto reason = session.lockReason(key))
         throw olToolError(QStringLiteral("\"%1\" is locked: %2").arg(QString::fromStdString(key), *reason));
-}
-
-void requireExpected(const QString &expected, const olKnownSetting &setting, const QString &written)
-{
-    if (!expected.isEmpty())
-        throw olToolError(QStringLiteral("%1 is no value for \"%2\": expected %3")
-                              .arg(written, QString::fromStdString(setting.key), expected));
 }
 
 void restore(olPrefsTool &tool, const olKnownSetting &setting)
@@ -37,12 +29,12 @@ void olPrefsCommands::set(olPrefsTool &tool)
     tool.open(olStoreUse::Own);
     const olKnownSettings settings;
     const olKnownSetting &setting = settings.named(tool.arguments().at(0));
-    requireUnlocked(tool.session(), setting.key);
-    const QString &written = tool.arguments().at(1);
-    const boost::any value = olValue::fromTyped(setting.type, written);
-    if (value.empty())
-        requireExpected(QString::fromStdString(olValue::expectation(setting.type)), setting, written);
-    requireExpected(olControlBounds(setting.control, setting.key, setting.standard, value), setting, written);
+    const boost::any value = olPreferencesSession::description(setting.key).fromTyped(tool.arguments().at(1));
+    const QString reason = tool.session().whyNot(setting.key, value);
+    if (!reason.isEmpty())
+        throw olToolError(QStringLiteral("\"%1\" %2").arg(QString::fromStdString(setting.key), reason));
+    if (const auto warning = tool.session().warning(setting.key, value))
+        tool.requireConsent(setting.key, *warning);
     setting.setValue(value);
     tool.session().choose(setting.key);
     tool.save();

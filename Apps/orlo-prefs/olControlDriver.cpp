@@ -1,6 +1,6 @@
 #include "olControlDriver.h"
 
-#include "Editing/olNumberText.h"
+#include "Session/olNumberText.h"
 #include "State/olValue.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
@@ -44,16 +44,18 @@ std::string json(double value) { return olNumberText(value); }
 
 bool asBool(const Value &value)
 {
-    if (!value.json.isBool())
+    const auto flag = value.boolean();
+    if (!flag)
         refuse(value, QStringLiteral("true or false"));
-    return value.json.toBool();
+    return *flag;
 }
 
 double asNumber(const Value &value, double lowest, double highest, const QString &expected)
 {
-    if (!value.json.isDouble() || !(value.json.toDouble() >= lowest) || !(value.json.toDouble() <= highest))
+    const auto number = value.number();
+    if (!number || *number < lowest || *number > highest)
         refuse(value, expected);
-    return value.json.toDouble();
+    return *number;
 }
 
 int asWholeNumber(const Value &value, int lowest, int highest)
@@ -68,9 +70,9 @@ int asWholeNumber(const Value &value, int lowest, int highest)
 /// What a person would type: a number as it was written, a text without its quotes.
 QString asTyped(const Value &value)
 {
-    if (value.json.isString())
-        return value.json.toString();
-    if (!value.json.isDouble())
+    if (const auto text = value.text())
+        return *text;
+    if (!value.number())
         refuse(value, QStringLiteral("a text or a number"));
     return QString::fromUtf8(value.written);
 }
@@ -89,7 +91,8 @@ void enter(QLineEdit &field)
     QApplication::sendEvent(&field, &press);
 }
 
-QValidator::State judged(const QLineEdit &field, QString text)
+/// What the field makes of the text while it is typed is in it afterwards.
+QValidator::State judged(const QLineEdit &field, QString &text)
 {
     int cursor = text.size();
     return field.validator() ? field.validator()->validate(text, cursor) : QValidator::Acceptable;
@@ -112,7 +115,7 @@ void write(QAbstractButton &button, const Value &value)
     // A page may answer the click by taking it back, which is its good right; one of several that exclude each other
     // cannot be switched off by anybody.
     const bool isOneOfSeveral = button.autoExclusive() || (button.group() && button.group()->exclusive());
-    if (isOneOfSeveral && button.isChecked() != value.json.toBool())
+    if (isOneOfSeveral && button.isChecked() != asBool(value))
         refuse(value, QStringLiteral("true, as another one must be chosen instead"));
 }
 
@@ -122,17 +125,18 @@ void write(QGroupBox &group, const Value &value)
 {
     if (group.isChecked() == asBool(value))
         return;
-    group.setChecked(value.json.toBool());
-    Q_EMIT group.clicked(value.json.toBool());
+    group.setChecked(asBool(value));
+    Q_EMIT group.clicked(asBool(value));
 }
 
 std::string read(const QComboBox &combo) { return json(combo.currentText()); }
 
 int itemOf(const QComboBox &combo, const Value &value)
 {
-    if (value.json.isDouble())
+    if (value.number())
         return asWholeNumber(value, 0, combo.count() - 1);
-    const int item = value.json.isString() ? combo.findText(value.json.toString()) : -1;
+    const auto text = value.text();
+    const int item = text ? combo.findText(*text) : -1;
     if (item < 0) {
         QStringList texts;
         for (int index = 0; index < combo.count(); ++index)
@@ -157,7 +161,7 @@ std::string read(const QLineEdit &field) { return json(field.text()); }
 
 void write(QLineEdit &field, const Value &value)
 {
-    const QString text = asTyped(value);
+    QString text = asTyped(value);
     if (field.isReadOnly())
         throw olToolError(QStringLiteral("the field is only to be read"));
     if (judged(field, text) == QValidator::Invalid)
@@ -205,9 +209,10 @@ template <class Widget> void typeIntoFieldOf(Widget &widget, const Value &value)
     QString expected = olNumbersBetween(widget.minimum(), widget.maximum());
     if (widget.decimals() >= 0)
         expected += QStringLiteral(" with at most %1 decimals").arg(widget.decimals());
-    asNumber(value, widget.minimum(), widget.maximum(), expected);
+    if (!value.number() && !value.text())
+        refuse(value, expected);
+    QString text = asTyped(value);
     auto *field = widget.template findChild<QLineEdit *>();
-    const QString text = QString::fromUtf8(value.written);
     if (!field || judged(*field, text) != QValidator::Acceptable)
         refuse(value, expected);
     type(*field, text);
@@ -224,7 +229,7 @@ std::string read(const QOLColorManipulator &colors) { return olValue::toJson(col
 
 void write(QOLColorManipulator &colors, const Value &value)
 {
-    const boost::any any = olValue::fromJson("color", value.json);
+    const boost::any any = value.as("color");
     const auto *color = boost::any_cast<osg::Color3f>(&any);
     const auto inRange = [](float channel) { return channel >= 0.0f && channel <= 1.0f; };
     if (!color || !inRange(color->red()) || !inRange(color->green()) || !inRange(color->blue()))
@@ -234,9 +239,10 @@ void write(QOLColorManipulator &colors, const Value &value)
 
 QString asText(const Value &value)
 {
-    if (!value.json.isString())
+    const auto text = value.text();
+    if (!text)
         refuse(value, QStringLiteral("a text in double quotes"));
-    return value.json.toString();
+    return *text;
 }
 
 std::string read(const QPlainTextEdit &editor) { return json(editor.toPlainText()); }

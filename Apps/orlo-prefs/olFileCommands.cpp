@@ -24,44 +24,35 @@ bool isStandardStream(const QString &name) { return name == QLatin1String("-"); 
 
 olPreferencesFile::Contents read(const QString &name)
 {
-    if (!isStandardStream(name))
-        return olPreferencesFile::read(name);
+    if (!isStandardStream(name)) {
+        const auto contents = olPreferencesFile::read(name);
+        olPrefsTool::requireSuccess(contents);
+        return *contents;
+    }
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         throw olToolError(QStringLiteral("Cannot read the standard input: %1.").arg(input.errorString()));
-    olPreferencesFile::Contents contents = olPreferencesFile::fromJson(input.readAll());
-    if (!contents.error.isEmpty())
-        contents.error.prepend(QStringLiteral("Cannot import the standard input. "));
-    return contents;
-}
-
-/// What the file changes, without the values that a control could not hold.
-olPreferencesImport importOf(const olPreferencesSession &session, const olKnownSettings &settings,
-                             const olPreferencesFile::Contents &contents)
-{
-    const auto valueOf = [&settings](const std::string &key) {
-        const olKnownSetting *setting = settings.find(key);
-        return setting ? setting->value() : boost::any();
-    };
-    const auto controlOf = [&settings](const std::string &key) {
-        const olKnownSetting *setting = settings.find(key);
-        return setting ? setting->control : nullptr;
-    };
-    return olPreferencesImport(session, contents, valueOf, controlOf);
+    const auto contents = olPreferencesFile::fromJson(input.readAll());
+    if (!contents.isOk())
+        throw olToolError(QStringLiteral("Cannot import the standard input. ") + contents.error());
+    return *contents;
 }
 
 /// Stores what the file changes, or only shows it.
 void take(olPrefsTool &tool, const olPreferencesFile::Contents &contents, bool isDryRun)
 {
-    if (!contents.error.isEmpty())
-        throw olToolError(contents.error);
     tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
     const olKnownSettings settings;
-    const olPreferencesImport import = importOf(tool.session(), settings, contents);
+    const olPreferencesImport import(tool.session(), contents, [&settings](const std::string &key) {
+        const olKnownSetting *setting = settings.find(key);
+        return setting ? setting->value() : boost::any();
+    });
     for (const olSkippedSetting &skipped : import.skipped)
         std::fprintf(stderr, "skipped: \"%s\" %s\n", skipped.key.c_str(), qPrintable(skipped.reason));
     if (isDryRun)
         return tool.print(olSettingsList::changes(import.changes));
+    for (const olPreferencesImport::Warning &warning : import.warnings)
+        tool.requireConsent(warning.key, warning.question);
     for (const olPreferencesImport::Change &change : import.changes)
         settings.find(change.key)->setValue(change.after);
     tool.save();
@@ -115,7 +106,7 @@ void applyProfile(olPrefsTool &tool, const olProfiles &profiles, QStringList arg
     QString error;
     const QString file = profiles.fileOf(arguments.first(), error);
     requireSuccess(error);
-    take(tool, olPreferencesFile::read(file), isDryRun);
+    take(tool, read(file), isDryRun);
 }
 
 } // namespace
@@ -132,9 +123,7 @@ void olPrefsCommands::exportTo(olPrefsTool &tool)
     const QString file = olFileArgument(tool.arguments().value(0, QStringLiteral("-")));
     if (isStandardStream(file))
         return tool.print(olPreferencesFile::toJson(values).toStdString());
-    const QString error = olPreferencesFile::write(file, values);
-    if (!error.isEmpty())
-        throw olToolError(error);
+    olPrefsTool::requireSuccess(olPreferencesFile::write(file, values));
 }
 
 void olPrefsCommands::importFrom(olPrefsTool &tool)

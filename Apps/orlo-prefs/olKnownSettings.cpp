@@ -1,7 +1,7 @@
 #include "olKnownSettings.h"
 
-#include "Editing/olPageAccess.h"
-#include "Editing/olPageIndex.h"
+#include "Session/olModuleAccess.h"
+#include "Session/olSettingDescription.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
@@ -30,7 +30,7 @@ olKnownSettings::olKnownSettings()
     for (olPreferencesEntry *entry : entries)
         addOffered(*entry);
     for (olPreferencesEntry *entry : entries)
-        addEdited(*entry);
+        addOptional(*entry);
 }
 
 const olKnownSetting *olKnownSettings::find(const std::string &key) const
@@ -58,28 +58,14 @@ void olKnownSettings::addOffered(olPreferencesEntry &entry)
     }
 }
 
-/// A page may edit what no module has a default for. Only the page can tell of what type that is.
-void olKnownSettings::addEdited(olPreferencesEntry &entry)
+/// A module may have settings without a default.
+void olKnownSettings::addOptional(olPreferencesEntry &entry)
 {
-    if (!entry.page())
-        return;
-    const olPageIndex index(*entry.page());
-    for (const olPageControl &control : index.controls()) {
-        for (const QString &name : control.settingKeys) {
-            const std::string key = name.toStdString();
-            const olKnownSetting *known = find(key);
-            if (!known) {
-                const std::string type = olPageAccess::typeOf(*entry.page(), key);
-                if (type.empty())
-                    continue;
-                m_settings.push_back({&entry, key, type, olValue::fromJson(type, QByteArrayLiteral("[]")), true});
-                known = &m_settings.back();
-            }
-            olKnownSetting &setting = m_settings[std::size_t(known - m_settings.data())];
-            if (!setting.control) {
-                setting.page = entry.page();
-                setting.control = control.widget;
-            }
-        }
+    const std::vector<std::string> keys = olModuleAccess(entry).keys();
+    for (const std::string &key : keys) {
+        if (find(key))
+            continue;
+        const std::string type = olSettingDescription::of(entry, key).type;
+        m_settings.push_back({&entry, key, type, olValue::fromJson(type, QByteArrayLiteral("[]")), true});
     }
 }

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-class QWidget;
 class olPreferencesEntry;
 
 /// A setting that the user can name.
@@ -14,10 +13,8 @@ struct olKnownSetting {
     olPreferencesEntry *entry = nullptr; ///< where the value lives
     std::string key;
     std::string type;
-    boost::any standard;        ///< the default; of a list that no module offers one for, the empty list
-    bool isOptional = false;    ///< by default absent
-    QWidget *page = nullptr;    ///< on which it is edited; null where it is on none
-    QWidget *control = nullptr; ///< null where none edits it
+    boost::any standard;     ///< the default; of a list that no module offers one for, the empty list
+    bool isOptional = false; ///< by default absent
 
     /// What is in force: never absent where there is a default.
     [[nodiscard]] boost::any value() const;
@@ -26,7 +23,7 @@ struct olKnownSetting {
     void setValue(const boost::any &value) const;
 };
 
-/// The settings of all modules, by what they offer as defaults and by what their pages edit besides. To be made when
+/// The settings of all modules, by what they offer as defaults and by what they tell of besides. To be made when
 /// the defaults are filled in.
 class olKnownSettings
 {
@@ -44,7 +41,7 @@ public:
 
 private:
     void addOffered(olPreferencesEntry &entry);
-    void addEdited(olPreferencesEntry &entry);
+    void addOptional(olPreferencesEntry &entry);
 
     std::vector<olKnownSetting> m_settings;
 };

@@ -3,7 +3,6 @@
 #include "Editing/olPageIndex.h"
 #include "State/olValue.h"
 #include "Widgets/QOLColorDialog.h"
-#include "olDirectoryChooser.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -12,6 +11,7 @@
 #include <QPushButton>
 #include <QStringList>
 #include <QTimer>
+#include <QVariant>
 
 #include <utility>
 
@@ -19,6 +19,8 @@ namespace
 {
 
 using Kind = olModalAnswer::Kind;
+
+constexpr auto chooserProperty = "olDirectoryChooser";
 
 const char *severity(QMessageBox::Icon icon)
 {
@@ -83,12 +85,12 @@ QString misfit(const QString &dialog, const olModalAnswer &answer)
 olModalAnswers::olModalAnswers(Report report) : m_report(std::move(report))
 {
     qApp->installEventFilter(this);
-    olSetDirectoryChooser([this](const QString &caption, const QString &startDirectory) {
-        return chooseDirectory(caption, startDirectory);
-    });
+    // The modules ask it in the place of the toolkit's dialog, which makes both paths absolute and takes only what is
+    // there.
+    qApp->setProperty(chooserProperty, QVariant::fromValue<QObject *>(this));
 }
 
-olModalAnswers::~olModalAnswers() { olSetDirectoryChooser(nullptr); }
+olModalAnswers::~olModalAnswers() { qApp->setProperty(chooserProperty, QVariant()); }
 
 void olModalAnswers::finish()
 {

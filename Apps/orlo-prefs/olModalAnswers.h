@@ -43,6 +43,9 @@ public:
     /// Why an answer could not be given since the last call; empty when all could.
     [[nodiscard]] QString takeError();
 
+    /// The chosen one, or an empty text for Cancel.
+    Q_INVOKABLE QString chooseDirectory(const QString &caption, const QString &startDirectory);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -50,7 +53,6 @@ private:
     void answer(QDialog &dialog);
     void answerBox(QMessageBox &box);
     void answerColors(QOLColorDialog &dialog);
-    [[nodiscard]] QString chooseDirectory(const QString &caption, const QString &startDirectory);
     [[nodiscard]] olModalAnswer next();
     void fail(const QString &why);
 

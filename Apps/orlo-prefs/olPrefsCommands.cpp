@@ -15,7 +15,8 @@ const olPrefsCommand commands[] = {
     {"list", "list [--json | --markdown]", "all modules with their settings, values and defaults",
      "Lists the modules with their settings: key, type, value, and the default where the value is another.\n"
      "  --json      one array of modules, for programs\n"
-     "  --markdown  the catalogue of the documentation: keys, types, defaults and where they are on the pages\n",
+     "  --markdown  the catalogue of the documentation: keys, types, defaults, ranges and choices, when a new value\n"
+     "              counts, and where they are on the pages, with the tooltips there\n",
      &olPrefsCommands::list},
     {"get", "get KEY", "prints the value of a setting as JSON",
      "Prints the value that is in force: the stored one, else the default.\n", &olPrefsCommands::get},
@@ -58,10 +59,15 @@ const olPrefsCommand commands[] = {
      "standard error stream and left; the exit status is then 1.\n"
      "  --dry-run   only prints, and stores nothing\n",
      &olPrefsCommands::undo},
-    {"check", "check", "looks for damage in the store and faults in the site's files",
+    {"check", "check [--site FILE]", "looks for damage in the store and faults in the site's files",
      "Prints a line for each thing that is wrong with the store, its copy or the site's files, also for keys that no\n"
-     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n",
+     "edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.\n"
+     "  --site FILE  judges such a file of the site's before it is installed, and nothing else\n",
      &olPrefsCommands::check},
+    {"schema", "schema", "prints a JSON Schema of the files that name settings",
+     "Prints a JSON Schema of the file that export writes and import reads, and of a site's site.json, for editors to\n"
+     "complete and check them by. Settings and ranges are those of the edition.\n",
+     &olPrefsCommands::schema},
     {"script", "script FILE|-", "runs a script from a file or the standard input",
      "Drives the modules operation by operation and prints every host call. A script begins with empty preferences,\n"
      "or with those of --store, and never writes any.\n",

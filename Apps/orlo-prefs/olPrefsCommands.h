@@ -29,6 +29,7 @@ namespace olPrefsCommands
 void list(olPrefsTool &tool);
 void get(olPrefsTool &tool);
 void diff(olPrefsTool &tool);
+void schema(olPrefsTool &tool);
 void set(olPrefsTool &tool);
 void reset(olPrefsTool &tool);
 void exportTo(olPrefsTool &tool);

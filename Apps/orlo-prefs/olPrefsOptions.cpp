@@ -64,9 +64,9 @@ olEdition edition(const QString &name)
 
 olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
 {
-    static const QStringList known{QStringLiteral("--edition"), QStringLiteral("--app-name"),
-                                   QStringLiteral("--store"),   QStringLiteral("--plugin"),
-                                   QStringLiteral("--help"),    QStringLiteral("--version")};
+    static const QStringList known{QStringLiteral("--edition"), QStringLiteral("--app-name"), QStringLiteral("--store"),
+                                   QStringLiteral("--plugin"),  QStringLiteral("--yes"),      QStringLiteral("--help"),
+                                   QStringLiteral("--version")};
     olPrefsOptions options;
     Reader reader(arguments);
     while (reader.atOption()) {
@@ -79,6 +79,8 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
             options.store = olFileArgument(reader.value(option));
         else if (option == QLatin1String("--plugin"))
             options.plugin = olFileArgument(reader.value(option));
+        else if (option == QLatin1String("--yes"))
+            options.isAgreed = true;
         else if (option == QLatin1String("--help") || option == QLatin1String("-h"))
             options.help = true;
         else if (option == QLatin1String("--version"))
@@ -104,5 +106,6 @@ std::string olPrefsOptions::optionsHelp()
            "                     begins empty without it, and never writes)\n"
            "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
            "                     installed plug-in folder)\n"
+           "  --yes              agrees to what the page would ask before it takes a value\n"
            "  --help, --version\n";
 }

@@ -11,8 +11,9 @@
 struct olPrefsOptions {
     olEdition edition = olEdition::Professional;
     QString applicationName = QStringLiteral("orlo");
-    QString store;  ///< empty: the user's own
-    QString plugin; ///< empty: where the program finds it
+    QString store;         ///< empty: the user's own
+    QString plugin;        ///< empty: where the program finds it
+    bool isAgreed = false; ///< to the questions that go with some values
     bool help = false;
     bool version = false;
     QString command;

@@ -2,7 +2,6 @@
 
 #include "State/olHostState.h"
 #include "olPrefsCommands.h"
-#include "olToolError.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -11,16 +10,12 @@
 namespace
 {
 
-void requireSuccess(const QString &error)
-{
-    if (!error.isEmpty())
-        throw olToolError(error);
-}
-
-/// A script shows the modules as they are, at whatever site it runs.
+/// A script shows the modules as they are, at whatever site it runs; another site's file is judged by itself.
 QStringList siteFiles(const olPrefsOptions &options)
 {
-    return options.command == QLatin1String("script") ? QStringList() : olSiteDefaults::systemFiles();
+    const bool isAnywhere = options.command == QLatin1String("script") ||
+                            (options.command == QLatin1String("check") && !options.arguments.isEmpty());
+    return isAnywhere ? QStringList() : olSiteDefaults::systemFiles();
 }
 
 } // namespace
@@ -77,6 +72,14 @@ void olPrefsTool::open(olStoreUse use)
     loadStore(use);
     loadPlugin();
     fillDefaults();
+}
+
+void olPrefsTool::requireConsent(const std::string &key, const olSettingWarning &warning) const
+{
+    if (!m_options.isAgreed)
+        throw olToolError(
+            QStringLiteral("\"%1\" is only set with --yes: %2")
+                .arg(QString::fromStdString(key), QString(warning.text).replace(QLatin1Char('\n'), QLatin1Char(' '))));
 }
 
 void olPrefsTool::save()

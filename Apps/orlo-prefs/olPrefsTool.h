@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
+#include "State/olResult.h"
 #include "olModalAnswers.h"
 #include "olPrefsOptions.h"
+#include "olToolError.h"
 
 #include <QStringList>
 
@@ -44,8 +46,18 @@ public:
     /// All three: what nearly every command begins with.
     void open(olStoreUse use);
 
+    /// Fails with the question that goes with a setting's new value, unless the user agreed to such beforehand.
+    void requireConsent(const std::string &key, const olSettingWarning &warning) const;
+
     /// Stores what changed, and tells what there is to tell.
     void save();
+
+    /// Throws the reason where something failed.
+    template <class T> static void requireSuccess(const olResult<T> &result)
+    {
+        if (!result.isOk())
+            throw olToolError(result.error());
+    }
 
     /// To the standard output stream, and complains when that cannot take it.
     static void print(const std::string &text);

@@ -1,9 +1,8 @@
 #include "olScriptParser.h"
 
+#include "State/olJsonText.h"
+#include "State/olValue.h"
 #include "olToolError.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 namespace
 {
@@ -25,7 +24,23 @@ QByteArray withoutComment(const QByteArray &line)
     return line.trimmed();
 }
 
+template <class T> std::optional<T> valueAs(const olScriptValue &script, const char *type)
+{
+    const boost::any any = script.as(type);
+    const T *value = boost::any_cast<T>(&any);
+    return value ? std::optional<T>(*value) : std::nullopt;
+}
+
 } // namespace
+
+boost::any olScriptValue::as(const std::string &type) const { return olValue::fromJson(type, written); }
+
+std::optional<bool> olScriptValue::boolean() const { return valueAs<bool>(*this, "bool"); }
+
+// The texts that stand for numbers in settings are texts here.
+std::optional<double> olScriptValue::number() const { return text() ? std::nullopt : valueAs<double>(*this, "double"); }
+
+std::optional<QString> olScriptValue::text() const { return valueAs<QString>(*this, "qstring"); }
 
 olScriptParser::olScriptParser(const QByteArray &line) : m_line(withoutComment(line)) {}
 
@@ -74,11 +89,10 @@ olScriptValue olScriptParser::value()
         fail(QStringLiteral("VALUE is missing"));
     const QByteArray written = m_line.mid(m_position);
     m_position = m_line.size();
-    // The toolkit reads only whole documents; in a list any value is one.
-    const QJsonArray wrapped = QJsonDocument::fromJson('[' + written + ']').array();
-    if (wrapped.size() != 1)
+    olJsonReader json({written.constData(), std::size_t(written.size())});
+    if (!json.value() || !json.atEnd())
         fail(QStringLiteral("%1 is no JSON value").arg(QString::fromUtf8(written)));
-    return {wrapped.first(), written};
+    return {written};
 }
 
 void olScriptParser::end() const

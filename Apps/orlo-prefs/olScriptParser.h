@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QJsonValue>
 #include <QString>
+
+#include <boost/any.hpp>
+
+#include <optional>
+#include <string>
 
 /// A word of a script: what it says, how it was written, and whether in quotes.
 struct olScriptWord {
@@ -11,10 +15,15 @@ struct olScriptWord {
     bool quoted = false;
 };
 
-/// A value of a script: JSON, and the text that it was written as.
+/// A value of a script: JSON, as it was written. What it is asked for and is not gives nothing.
 struct olScriptValue {
-    QJsonValue json;
     QByteArray written;
+
+    /// Of that type of setting.
+    [[nodiscard]] boost::any as(const std::string &type) const;
+    [[nodiscard]] std::optional<bool> boolean() const;
+    [[nodiscard]] std::optional<double> number() const;
+    [[nodiscard]] std::optional<QString> text() const;
 };
 
 /// Takes one line of a script apart, from left to right. Every function throws olToolError where the line does not

@@ -41,13 +41,15 @@ struct TypedValue {
 TypedValue typedValue(olScriptParser &line)
 {
     const std::string type = line.word("TYPE").text.toStdString();
-    if (!olValue::isTypeName(type))
-        line.fail(QStringLiteral("there is no type %1, only bool int uint float double qstring string strings floats "
-                                 "color colors")
-                      .arg(QString::fromStdString(type)));
+    if (!olValue::isTypeName(type)) {
+        std::string names;
+        for (const std::string &name : olValue::typeNames())
+            names += ' ' + name;
+        line.fail(QString::fromStdString("there is no type " + type + ", only" + names));
+    }
     const std::string key = line.word("KEY").text.toStdString();
     const olScriptValue written = line.value();
-    const boost::any value = olValue::fromJson(type, written.written);
+    const boost::any value = written.as(type);
     if (value.empty())
         throw olToolError(QStringLiteral("%1 is no value of type %2: expected %3")
                               .arg(QString::fromUtf8(written.written), QString::fromStdString(type),
@@ -196,7 +198,7 @@ void olScriptRunner::newScene(olScriptParser &line)
 
 void olScriptRunner::settled(olScriptParser &line)
 {
-    forModules(line, [](olPreferencesEntry &entry) { entry.settle(); });
+    forModules(line, [](olPreferencesEntry &entry) { entry.markClean(); });
 }
 
 void olScriptRunner::put(olScriptParser &line)
@@ -281,7 +283,7 @@ void olScriptRunner::answer(olScriptParser &line)
         answer.text = line.word("PATH").text;
     } else if (!first.quoted && first.text == QLatin1String("color")) {
         const olScriptValue value = line.value();
-        const boost::any color = olValue::fromJson("color", value.json);
+        const boost::any color = value.as("color");
         if (color.empty())
             line.fail(QStringLiteral("%1 is no colour").arg(QString::fromUtf8(value.written)));
         answer.kind = Kind::Color;
@@ -299,7 +301,7 @@ void olScriptRunner::host(olScriptParser &line)
         throw olToolError(QStringLiteral("there is no fact %1%2").arg(name, olDidYouMean(name, factNames())));
     const olScriptValue value = line.value();
     const std::string type = olValue::typeName(fact->any());
-    if (!fact->setAny(olValue::fromJson(type, value.written)))
+    if (!fact->setAny(value.as(type)))
         throw olToolError(
             QStringLiteral("%1 does not fit the fact %2: expected %3")
                 .arg(QString::fromUtf8(value.written), name, QString::fromStdString(olValue::expectation(type))));
@@ -318,9 +320,10 @@ void olScriptRunner::env(olScriptParser &line)
         return;
     }
     const olScriptValue value = line.value();
-    if (value.json.isArray() || value.json.isObject() || value.json.isNull())
+    const auto text = value.text();
+    if (!text && !value.number() && !value.boolean())
         line.fail(QStringLiteral("%1 is no text").arg(QString::fromUtf8(value.written)));
-    qputenv(variable, value.json.isString() ? value.json.toString().toUtf8() : value.written);
+    qputenv(variable, text ? text->toUtf8() : value.written);
 }
 
 void olScriptRunner::appSetting(olScriptParser &line)

@@ -1,54 +1,87 @@
 #include "olSettingsCatalogue.h"
 
-#include "Editing/olPageIndex.h"
+#include "Session/olNumberText.h"
+#include "Session/olSettingDescription.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
+#include "olSettingsList.h"
 
-#include <map>
+#include <QStringList>
+
+#include <cmath>
 
 namespace
 {
 
-using Places = std::map<std::string, std::string>;
-
-/// Where on the page the control of each setting stands.
-Places placesOn(const QWidget *page)
+/// A bar would end the cell of the table, a line feed its row, and a tooltip may be rich text.
+QString cell(QString text)
 {
-    Places places;
-    if (!page)
-        return places;
-    const olPageIndex index(*page);
-    for (const olPageControl &control : index.controls()) {
-        QStringList steps = control.captions;
-        steps << control.names.value(0);
-        for (const QString &key : control.settingKeys)
-            places[key.toStdString()] = steps.join(QStringLiteral(" › ")).toStdString();
-    }
-    return places;
+    text.replace(QLatin1Char('|'), QLatin1String("\\|")).replace(QLatin1Char('<'), QLatin1String("&lt;"));
+    return text.replace(QLatin1Char('\n'), QLatin1String("\\n"));
 }
 
-/// A bar would end the cell of the table.
-std::string cell(const std::string &text)
+QString number(double value) { return QString::fromStdString(olNumberText(value)); }
+
+QString range(const olSettingDescription &setting)
 {
-    return QString::fromStdString(text).replace(QLatin1Char('|'), QLatin1String("\\|")).toStdString();
+    QString text;
+    if (!std::isinf(setting.minimum) && !std::isinf(setting.maximum))
+        text = number(setting.minimum) + QStringLiteral(" to ") + number(setting.maximum);
+    else if (!std::isinf(setting.minimum))
+        text = QStringLiteral("from ") + number(setting.minimum);
+    else if (!std::isinf(setting.maximum))
+        text = QStringLiteral("up to ") + number(setting.maximum);
+    if (setting.decimals)
+        text += QStringLiteral(", %1 decimals").arg(*setting.decimals);
+    if (!setting.unit.isEmpty())
+        text += (text.isEmpty() ? QString() : QStringLiteral(" ")) + setting.unit;
+    return text;
+}
+
+QString choices(const olSettingDescription &setting)
+{
+    QStringList texts;
+    for (const olSettingChoice &choice : setting.choices)
+        texts << QString::fromStdString(olValue::toJson(choice.value)) + QLatin1Char(' ') + choice.text;
+    if (setting.isEditable)
+        texts << QStringLiteral("or any text");
+    return texts.join(QStringLiteral(", "));
+}
+
+std::string row(const olPreferencesEntry &entry, const std::string &key)
+{
+    const olSettingDescription setting = olSettingDescription::of(entry, key);
+    const olOfferedDefault *offered = entry.findDefault(key);
+    QStringList place = setting.captions;
+    if (!setting.label.isEmpty())
+        place << setting.label;
+    const QStringList cells{
+        QStringLiteral("`%1`").arg(QString::fromStdString(key)),
+        QString::fromStdString(setting.type),
+        offered ? QStringLiteral("`%1`").arg(QString::fromStdString(olValue::toJson(offered->value))) : QString(),
+        setting.choices.empty() ? range(setting) : choices(setting),
+        setting.effect,
+        place.join(QStringLiteral(" › ")),
+        setting.toolTip,
+    };
+    QString text = QStringLiteral("|");
+    for (const QString &one : cells)
+        text += QLatin1Char(' ') + cell(one) + QStringLiteral(" |");
+    return text.toStdString() + '\n';
 }
 
 std::string section(const olPreferencesEntry &entry)
 {
     const std::string category = entry.category().toStdString();
     std::string text = "\n## " + (category.empty() ? "" : category + " / ") + entry.name().toStdString() + "\n\n";
-    if (entry.defaults().empty())
+    const std::vector<std::string> keys = olSettingsList::keysOf(entry);
+    if (keys.empty())
         return text + "No settings.\n";
-
-    const Places places = placesOn(entry.page());
-    text += "| key | type | default | on the page |\n|---|---|---|---|\n";
-    for (const olOfferedDefault &setting : entry.defaults()) {
-        const auto place = places.find(setting.key);
-        text += "| `" + setting.key + "` | " + olValue::typeName(setting.value) + " | `" +
-                cell(olValue::toJson(setting.value)) + "` | " +
-                (place == places.end() ? std::string() : cell(place->second)) + " |\n";
-    }
+    text +=
+        "| key | type | default | range or choices | effect | on the page | tooltip |\n|---|---|---|---|---|---|---|\n";
+    for (const std::string &key : keys)
+        text += row(entry, key);
     return text;
 }
 

@@ -6,6 +6,7 @@
 #include "olPrefsTool.h"
 #include "olSettingsCatalogue.h"
 #include "olSettingsList.h"
+#include "olSettingsSchema.h"
 
 void olPrefsCommands::list(olPrefsTool &tool)
 {
@@ -15,11 +16,18 @@ void olPrefsCommands::list(olPrefsTool &tool)
     tool.requireArguments(isJson || isMarkdown ? 1 : 0);
     tool.open(olStoreUse::LookAt);
     if (isJson)
-        tool.print(olSettingsList::json());
+        tool.print(olSettingsList::json(tool.session()));
     else if (isMarkdown)
         tool.print(olSettingsCatalogue());
     else
         tool.print(olSettingsList::table());
+}
+
+void olPrefsCommands::schema(olPrefsTool &tool)
+{
+    tool.requireArguments(0);
+    tool.open(olStoreUse::LookAt);
+    tool.print(olSettingsSchema());
 }
 
 void olPrefsCommands::get(olPrefsTool &tool)

@@ -1,10 +1,13 @@
 #include "olBatch.h"
+#include "olFormerSettings.h"
 #include "olGivenSettings.h"
 #include "olMainWindow.h"
+#include "olStartFault.h"
 #include "olTour.h"
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
 #include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
@@ -15,11 +18,14 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QMessageBox>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -65,7 +71,7 @@ bool isBatch(const QCommandLineParser &options)
 QString uselessOption(const QCommandLineParser &options)
 {
     const bool isRendering = options.isSet(QStringLiteral("render"));
-    for (const char *option : {"output", "size"}) {
+    for (const char *option : {"output", "size", "aids", "edges"}) {
         if (!isRendering && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 needs --render").arg(QLatin1String(option));
     }
@@ -75,7 +81,7 @@ QString uselessOption(const QCommandLineParser &options)
         if (isRendering && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 does not go with --render").arg(QLatin1String(option));
     }
-    for (const char *option : {"preferences", "tour"}) {
+    for (const char *option : {"preferences", "setting", "tour"}) {
         if (isBatch(options) && options.isSet(QLatin1String(option)))
             return QStringLiteral("--%1 needs a window, which --render and --save do without")
                 .arg(QLatin1String(option));
@@ -95,11 +101,13 @@ QString misuse(const QCommandLineParser &options)
     if (isRendering && !olBatch::sizeFrom(options.value(QStringLiteral("size"))))
         return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192")
             .arg(options.value(QStringLiteral("size")));
-    if (options.isSet(QStringLiteral("save")) && !options.isSet(QStringLiteral("sample")))
-        return QStringLiteral("--save needs --sample");
-    if (isBatch(options) && !options.positionalArguments().isEmpty())
-        return QStringLiteral("%1 does not go with --render and --save").arg(options.positionalArguments().first());
-    if (options.positionalArguments().size() > 1)
+    const QStringList models = options.positionalArguments();
+    const bool isSample = options.isSet(QStringLiteral("sample"));
+    if (options.isSet(QStringLiteral("save")) && isSample == !models.isEmpty())
+        return QStringLiteral("--save needs either a model or --sample");
+    if (isRendering && !models.isEmpty())
+        return QStringLiteral("%1 does not go with --render").arg(models.first());
+    if (models.size() > 1)
         return QStringLiteral("only one model can be opened at a time");
     return {};
 }
@@ -109,19 +117,30 @@ int runBatch(const QCommandLineParser &options)
 {
     if (options.isSet(QStringLiteral("render")))
         return olBatch::render(options.value(QStringLiteral("render")), options.value(QStringLiteral("output")),
-                               *olBatch::sizeFrom(options.value(QStringLiteral("size"))));
+                               *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
+                               options.isSet(QStringLiteral("edges")));
+    const QString target = options.value(QStringLiteral("save"));
+    if (!options.positionalArguments().isEmpty())
+        return olBatch::convert(options.positionalArguments().first(), target);
     olScene scene;
     scene.loadSample();
-    return olBatch::save(scene, options.value(QStringLiteral("save")));
+    return olBatch::save(scene, target);
 }
 
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    if (!loaded.isOk())
+        return fail(loaded.error());
     session.fillDefaults();
+    // A picture is of the model alone and as good as can be, where nobody says otherwise; what a site locks stays.
+    const bool isClean = options.isSet(QStringLiteral("render")) && !options.isSet(QStringLiteral("aids"));
+    for (const char *setting : {"viewcube=false", "show cameras=false", "show lights=false", "show joints=false",
+                                "coordinate system=false", "enable antialiase=true"}) {
+        if (isClean)
+            (void)olSetGivenSettings(session, {QStringLiteral("RenderOptions %1").arg(QLatin1String(setting))});
+    }
     const QString fault = olSetGivenSettings(session, options.values(QStringLiteral("set")));
     if (!fault.isEmpty()) {
         session.stop();
@@ -132,6 +151,43 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     const int result = runBatch(options);
     session.stop();
     return result;
+}
+
+/// Whether there is somebody at a window to ask.
+bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !options.isSet(QStringLiteral("tour")); }
+
+/// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
+std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
+{
+    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
+    while (true) {
+        auto session = std::make_unique<olPreferencesSession>(file);
+        const olResult<> stored = session->loadStore();
+        if (stored.isOk())
+            return session;
+        fail(stored.error());
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutStore(stored.error()) : olStartRemedy();
+        if (remedy.kind == olStartRemedy::Quit)
+            return nullptr;
+        file =
+            remedy.kind == olStartRemedy::OtherFile ? remedy.file : passing.filePath(QStringLiteral("preferences.db"));
+    }
+}
+
+bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
+{
+    QString file = options.value(QStringLiteral("plugin"));
+    while (true) {
+        const olResult<> loaded = session.loadPlugin(file);
+        if (loaded.isOk())
+            return true;
+        fail(loaded.error());
+        const olStartRemedy remedy = canAsk(options) ? olAskAboutPlugin(loaded.error()) : olStartRemedy();
+        if (remedy.kind != olStartRemedy::OtherFile)
+            return false;
+        file = remedy.file;
+    }
 }
 
 /// From the options of the command line to the end of the run.
@@ -153,19 +209,18 @@ int run(const QCommandLineParser &options)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
-    olPreferencesSession session(given.isEmpty() ? olPreferencesStore::userFile() : given);
-    const QString storeError = session.loadStore();
-    if (!storeError.isEmpty())
-        return fail(storeError);
-
+    const QTemporaryDir passing;
+    const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
+    if (!loaded)
+        return 1;
+    olPreferencesSession &session = *loaded;
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
+    olTakeFormerSettingsOver();
     olMainWindow window(session);
-    const QString pluginError = session.loadPlugin(options.value(QStringLiteral("plugin")));
-    if (!pluginError.isEmpty())
-        return fail(pluginError);
+    if (!loadPlugin(session, options))
+        return 1;
     session.start();
     if (options.isSet(QStringLiteral("sample"))) {
         window.scene().loadSample();
@@ -177,6 +232,12 @@ int run(const QCommandLineParser &options)
         window.openModel(models.first());
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
+    const QString setting = options.value(QStringLiteral("setting"));
+    if (!setting.isEmpty() && !window.openPreferences().openAt(setting)) {
+        window.closePreferences();
+        session.stop();
+        return refuse(QStringLiteral("no page has the setting \"%1\"").arg(setting));
+    }
 
     const QString tourFolder = options.value(QStringLiteral("tour"));
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
@@ -186,10 +247,10 @@ int run(const QCommandLineParser &options)
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
     window.closePreferences();
-    const QString saveError = session.save();
+    const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
-    return saveError.isEmpty() ? result : fail(saveError);
+    return saved.isOk() ? result : fail(saved.error());
 }
 
 /// The toolkit has an option of this name too and would take "--plugin FILE" for it, but not "--plugin=FILE".
@@ -202,6 +263,56 @@ std::vector<std::string> withOwnPlugin(int count, char **values)
     *plugin += '=' + *std::next(plugin);
     arguments.erase(std::next(plugin));
     return arguments;
+}
+
+/// What the command line takes.
+void describe(QCommandLineParser &options)
+{
+    options.setApplicationDescription(QStringLiteral("Shows the host with its preferences."));
+    options.addHelpOption();
+    options.addVersionOption();
+    options.addOption({QStringLiteral("edition"), QStringLiteral("essentials, design, professional or enterprise."),
+                       QStringLiteral("name"), QStringLiteral("professional")});
+    options.addOption({QStringLiteral("app-name"), QStringLiteral("The application's name."), QStringLiteral("name"),
+                       QStringLiteral("orlo")});
+    options.addOption(
+        {QStringLiteral("store"), QStringLiteral("The file that keeps the preferences."), QStringLiteral("file")});
+    options.addOption(
+        {QStringLiteral("plugin"), QStringLiteral("The preferences plug-in to load."), QStringLiteral("file")});
+    options.addOption(
+        {QStringLiteral("sample"), QStringLiteral("Open a small assembly that the program builds itself.")});
+    options.addOption({QStringLiteral("save"),
+                       QStringLiteral("Write the model, or the sample, in the format of the suffix, and end."),
+                       QStringLiteral("file")});
+    options.addOption({QStringLiteral("render"),
+                       QStringLiteral("Import a model, write one picture of it to --output, and end."),
+                       QStringLiteral("model")});
+    options.addOption(
+        {QStringLiteral("output"), QStringLiteral("Where --render puts its picture."), QStringLiteral("picture")});
+    options.addOption({QStringLiteral("aids"),
+                       QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
+    options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
+    options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
+                       QStringLiteral("WxH"), QStringLiteral("1280x720")});
+    options.addOption({QStringLiteral("set"),
+                       QStringLiteral("A setting for --render and --save, as \"KEY=VALUE\"; nothing is saved."),
+                       QStringLiteral("setting")});
+    options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
+                                  QStringLiteral("[model]"));
+    options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
+    options.addOption(
+        {QStringLiteral("setting"), QStringLiteral("Open the preferences at a setting."), QStringLiteral("key")});
+    options.addOption({QStringLiteral("tour"),
+                       QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
+                       QStringLiteral("folder")});
+}
+
+/// Questions that are answered without a display.
+bool asksOnly(const std::vector<std::string> &arguments)
+{
+    static const std::vector<std::string> questions{"-h", "--help", "--help-all", "-v", "--version"};
+    return std::find_first_of(arguments.begin(), arguments.end(), questions.begin(), questions.end()) !=
+           arguments.end();
 }
 
 } // namespace
@@ -218,44 +329,18 @@ int main(int argc, char *argv[])
         argumentTexts.push_back(argument.data());
     argumentTexts.push_back(nullptr);
     int argumentCount = int(arguments.size());
-    QApplication application(argumentCount, argumentTexts.data());
-    QApplication::setOrganizationName(QStringLiteral("ORLO"));
-    QApplication::setApplicationName(QStringLiteral("orlo"));
-    QApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
-
+    QCoreApplication::setOrganizationName(QStringLiteral("orlo"));
+    QCoreApplication::setApplicationName(QStringLiteral("orlo"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
     QCommandLineParser options;
-    options.setApplicationDescription(QStringLiteral("Shows the host with its preferences."));
-    options.addHelpOption();
-    options.addVersionOption();
-    options.addOption({QStringLiteral("edition"), QStringLiteral("essentials, design, professional or enterprise."),
-                       QStringLiteral("name"), QStringLiteral("professional")});
-    options.addOption({QStringLiteral("app-name"), QStringLiteral("The application's name."), QStringLiteral("name"),
-                       QStringLiteral("orlo")});
-    options.addOption(
-        {QStringLiteral("store"), QStringLiteral("The file that keeps the preferences."), QStringLiteral("file")});
-    options.addOption(
-        {QStringLiteral("plugin"), QStringLiteral("The preferences plug-in to load."), QStringLiteral("file")});
-    options.addOption(
-        {QStringLiteral("sample"), QStringLiteral("Open a small assembly that the program builds itself.")});
-    options.addOption({QStringLiteral("save"),
-                       QStringLiteral("With --sample: write it in the format of the suffix, and end."),
-                       QStringLiteral("file")});
-    options.addOption({QStringLiteral("render"),
-                       QStringLiteral("Import a model, write one picture of it to --output, and end."),
-                       QStringLiteral("model")});
-    options.addOption(
-        {QStringLiteral("output"), QStringLiteral("Where --render puts its picture."), QStringLiteral("picture")});
-    options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
-                       QStringLiteral("WxH"), QStringLiteral("1280x720")});
-    options.addOption({QStringLiteral("set"),
-                       QStringLiteral("A setting for --render and --save, as \"KEY=VALUE\"; nothing is saved."),
-                       QStringLiteral("setting")});
-    options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
-                                  QStringLiteral("[model]"));
-    options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
-    options.addOption({QStringLiteral("tour"),
-                       QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
-                       QStringLiteral("folder")});
+    describe(options);
+    if (asksOnly(arguments)) {
+        const QCoreApplication application(argumentCount, argumentTexts.data());
+        options.process(application);
+    }
+    QApplication application(argumentCount, argumentTexts.data());
+    QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
     if (!options.parse(QApplication::arguments()))
         return refuse(options.errorText());
     options.process(application);

@@ -33,7 +33,7 @@ void remark(const QStringList &remarks)
 
 } // namespace
 
-int olBatch::render(const QString &model, const QString &pictureFile, const QSize &size)
+int olBatch::render(const QString &model, const QString &pictureFile, const QSize &size, bool hasEdges)
 {
     const olImportResult result = olImport(olImportJob::of(model));
     if (!result.isGood())
@@ -42,14 +42,15 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
     olScene scene;
     scene.setDocument(result.document);
     if (!olViewport::isSupported())
-        return fail(QStringLiteral("The 3D view needs an X display with OpenGL."), 1);
+        return fail(QStringLiteral("The 3D view needs an X display, or XWayland, with OpenGL."), 1);
 
     olViewport view;
     view.setAttribute(Qt::WA_DontShowOnScreen);
     view.resize(size);
     view.setScene(&scene);
     view.show();
-    view.showAll();
+    view.setEdges(hasEdges);
+    view.fillPicture(size);
     const QImage picture = view.stillPicture(size);
     if (picture.isNull())
         return fail(QStringLiteral("The model %1 cannot be drawn: %2").arg(model, view.error()), 1);
@@ -58,6 +59,17 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
         return fail(QStringLiteral("Cannot write %1: %2.").arg(pictureFile, writer.errorString()), 1);
     std::printf("triangles %u\n", scene.triangleCount());
     return 0;
+}
+
+int olBatch::convert(const QString &model, const QString &file)
+{
+    const olImportResult result = olImport(olImportJob::of(model));
+    if (!result.isGood())
+        return fail(result.error, 2);
+    remark(result.remarks);
+    olScene scene;
+    scene.setDocument(result.document);
+    return save(scene, file);
 }
 
 int olBatch::save(const olScene &scene, const QString &file)

@@ -12,7 +12,10 @@ class olScene;
 namespace olBatch
 {
 
-[[nodiscard]] int render(const QString &model, const QString &picture, const QSize &size);
+[[nodiscard]] int render(const QString &model, const QString &picture, const QSize &size, bool hasEdges);
+
+/// Reads a model and writes it in the format of the suffix.
+[[nodiscard]] int convert(const QString &model, const QString &file);
 
 /// Writes the scene in the format of the suffix.
 [[nodiscard]] int save(const olScene &scene, const QString &file);

@@ -1,7 +1,5 @@
 #include "olHostStatePanel.h"
 
-#include "olRecordedOnly.h"
-
 #include "State/olHostState.h"
 #include "State/olValue.h"
 
@@ -17,8 +15,7 @@ enum Column { NameColumn, ValueColumn };
 QString valueText(const olHostValueBase &value)
 {
     const QString text = QString::fromStdString(olValue::toJson(value.any()));
-    return olIsRecordedOnly(QString::fromLatin1(value.name())) ? olHostStatePanel::tr("%1 (only recorded)").arg(text)
-                                                               : text;
+    return value.isRecordedOnly() ? olHostStatePanel::tr("%1 (only recorded)").arg(text) : text;
 }
 
 } // namespace

@@ -28,11 +28,21 @@ QString namesOf(const std::vector<olImportJob> &jobs)
            olImportDialog::tr("and %n more", nullptr, others);
 }
 
+/// Files of one format go by the same options.
+QString summariesOf(const std::vector<olImportJob> &jobs)
+{
+    QStringList summaries;
+    for (const olImportJob &job : jobs)
+        summaries << olImportSummary(job);
+    summaries.removeDuplicates();
+    return summaries.join(QStringLiteral("<br>"));
+}
+
 } // namespace
 
 olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent)
     : QDialog(parent),
-      m_options(new QLabel(olImportSummary(jobs.front()))),
+      m_options(new QLabel(summariesOf(jobs))),
       m_center(new QCheckBox(tr("Center to Origin"))),
       m_ground(new QCheckBox(tr("Place Objects on the Ground"))),
       m_progress(new QProgressBar),

@@ -40,12 +40,6 @@ QString fineness(const olImportRecord &options)
         .arg(options.normalTolerance);
 }
 
-/// Surfaces are what STEP and IGES hold, and no one else.
-bool hasSurfaces(const olModelFormat &format)
-{
-    return format.id == olModelFormat::Step || format.id == olModelFormat::Iges;
-}
-
 } // namespace
 
 QString olImportSummary(const olImportJob &job)
@@ -55,7 +49,7 @@ QString olImportSummary(const olImportJob &job)
         return olModelFormat::noReader(job.file).toHtmlEscaped();
     const olImportRecord &options = job.options;
     QString rows = row(translated("Format"), QLatin1String(format->name));
-    if (hasSurfaces(*format)) {
+    if (format->holds(olModelFormat::Surfaces)) {
         rows += row(translated("Fineness"), fineness(options));
         rows +=
             row(translated("Stitching"),

@@ -5,6 +5,7 @@
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
 #include "olSceneTree.h"
+#include "olToolIcons.h"
 
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
@@ -19,8 +20,8 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
+#include <QSettings>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
@@ -31,6 +32,10 @@ namespace
 
 /// A window that cannot be seen could not be brought back.
 constexpr double faintestWindow = 0.1;
+
+// What the window remembers from one run to the next, in the settings of the application.
+constexpr auto geometryKey = "window/geometry";
+constexpr auto panelsKey = "window/panels";
 
 } // namespace
 
@@ -53,20 +58,43 @@ olMainWindow::olMainWindow(olPreferencesSession &session)
     statusBar()->addPermanentWidget(m_frameRate);
     statusBar()->showMessage(tr("Edit > Preferences changes what you see here."));
 
-    const QFontMetrics metrics = fontMetrics();
-    resize(QSize(metrics.averageCharWidth() * 150, metrics.height() * 40)
-               .boundedTo(QApplication::primaryScreen()->availableSize()));
+    recall();
     olHostState::the().addObserver(*this);
     applyWindowSettings();
 }
 
 olMainWindow::~olMainWindow() { olHostState::the().removeObserver(*this); }
 
+void olMainWindow::recall()
+{
+    const QSettings memory;
+    const QRect room = QApplication::primaryScreen()->availableGeometry();
+    const QFontMetrics metrics = fontMetrics();
+    if (!restoreGeometry(memory.value(QLatin1String(geometryKey)).toByteArray()))
+        resize(QSize(metrics.averageCharWidth() * 150, metrics.height() * 40).boundedTo(room.size()));
+    restoreState(memory.value(QLatin1String(panelsKey)).toByteArray());
+}
+
+void olMainWindow::remember() const
+{
+    QSettings memory;
+    memory.setValue(QLatin1String(geometryKey), saveGeometry());
+    memory.setValue(QLatin1String(panelsKey), saveState());
+}
+
+void olMainWindow::showIntegratorPanels()
+{
+    for (QDockWidget *dock : m_docks)
+        dock->show();
+}
+
 void olMainWindow::addCentre()
 {
     if (!olViewport::isSupported()) {
-        auto *reason = new QLabel(tr("The 3D view needs an X display with OpenGL."));
+        auto *reason = new QLabel(
+            tr("The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it."));
         reason->setAlignment(Qt::AlignCenter);
+        reason->setWordWrap(true);
         setCentralWidget(reason);
         return;
     }
@@ -97,6 +125,9 @@ void olMainWindow::addDocks()
     const QFontMetrics metrics = fontMetrics();
     resizeDocks({tree, state}, {metrics.averageCharWidth() * 32, metrics.averageCharWidth() * 45}, Qt::Horizontal);
     resizeDocks({calls}, {metrics.height() * 10}, Qt::Vertical);
+    // They are for whoever writes modules; everyone else gets the room for the model.
+    state->hide();
+    calls->hide();
 }
 
 void olMainWindow::stateChanged(const olHostValueBase &value)
@@ -128,49 +159,39 @@ void olMainWindow::addViewActions()
     QMenu *view = menuBar()->addMenu(tr("&View"));
     m_tools = addToolBar(tr("View"));
     m_tools->setObjectName(QStringLiteral("viewTools"));
-    const auto icon = [this](QStyle::StandardPixmap pixmap) { return style()->standardIcon(pixmap); };
-    QAction *all = m_tools->addAction(icon(QStyle::SP_TitleBarMaxButton), tr("Show &All"));
+    QAction *all = m_tools->addAction(olToolIcons::showAll(palette()), tr("Show &All"));
     all->setShortcut(QKeySequence(Qt::Key_Home));
-    QAction *zoom = m_tools->addAction(icon(QStyle::SP_FileDialogContentsView), tr("&Zoom To"));
+    QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(palette()), tr("&Zoom To"));
     zoom->setShortcut(QKeySequence(Qt::Key_End));
     zoom->setToolTip(tr("Brings what is selected near"));
     view->addActions({all, zoom});
     view->addSeparator();
     QAction *stereo = view->addAction(tr("Stereo for &Red and Cyan Glasses"));
     QAction *rays = view->addAction(tr("Trace Ra&ys"));
+    QAction *edges = view->addAction(tr("&Edges"));
     view->addSeparator();
     for (QDockWidget *dock : m_docks)
         view->addAction(dock->toggleViewAction());
-    for (QAction *action : {all, zoom, stereo, rays})
+    for (QAction *action : {all, zoom, stereo, rays, edges})
         action->setEnabled(m_viewport != nullptr);
     stereo->setCheckable(true);
     rays->setCheckable(true);
+    edges->setCheckable(true);
     if (!m_viewport)
         return;
     connect(all, &QAction::triggered, m_viewport, &olViewport::showAll);
     connect(zoom, &QAction::triggered, m_viewport, &olViewport::zoomToSelection);
     connect(stereo, &QAction::toggled, m_viewport, &olViewport::setAnaglyph);
     connect(rays, &QAction::toggled, m_viewport, &olViewport::setRaytracing);
+    connect(edges, &QAction::toggled, m_viewport, &olViewport::setEdges);
 }
 
 olPreferencesDialog &olMainWindow::openPreferences(const QString &module)
 {
     if (!m_preferences)
         m_preferences = std::make_unique<olPreferencesDialog>(m_session, this);
-    const bool wasVisible = m_preferences->isVisible();
     m_preferences->open(module);
-    if (!wasVisible)
-        placePreferencesBeside();
     return *m_preferences;
-}
-
-void olMainWindow::placePreferencesBeside()
-{
-    // What changes in the view shall be seen; where the screen is too narrow the dialog covers the docks first.
-    const QRect room = screen()->availableGeometry();
-    const QSize own = m_preferences->frameGeometry().size();
-    const int right = std::min(frameGeometry().right() + 1, room.right() - own.width());
-    m_preferences->move(std::max(right, room.left()), std::max(frameGeometry().top(), room.top()));
 }
 
 void olMainWindow::openModel(const QString &file) { m_files->openAtOnce(file); }
@@ -183,10 +204,12 @@ void olMainWindow::closeEvent(QCloseEvent *event)
     // with the edits in them stays in the program.
     if (m_preferences)
         m_preferences->reject();
-    if (m_preferences && m_preferences->isVisible())
+    if (m_preferences && m_preferences->isVisible()) {
         event->ignore();
-    else
-        QMainWindow::closeEvent(event);
+        return;
+    }
+    remember();
+    QMainWindow::closeEvent(event);
 }
 
 void olMainWindow::addMenus()

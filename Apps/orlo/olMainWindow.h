@@ -43,6 +43,9 @@ public:
     /// Null where the display cannot show a 3D view.
     [[nodiscard]] olViewport *viewport() { return m_viewport; }
 
+    /// Shows the host's state and its calls, which are out of sight at first.
+    void showIntegratorPanels();
+
     [[nodiscard]] const olJournalPanel &journal() const { return *m_journal; }
 
 protected:
@@ -56,7 +59,8 @@ private:
     void addViewActions();
     void addHelp();
     void applyWindowSettings();
-    void placePreferencesBeside();
+    void recall();
+    void remember() const;
 
     olPreferencesSession &m_session;
     std::unique_ptr<olScene> m_scene;

@@ -74,12 +74,12 @@ bool olModelFiles::eventFilter(QObject *watched, QEvent *event)
 
 void olModelFiles::chooseImport()
 {
-    open(QFileDialog::getOpenFileNames(&m_window, tr("Import"), QString(), olModelFormat::filter()));
+    open(QFileDialog::getOpenFileNames(&m_window, tr("Import"), QString(), olModelFormat::filter(false)));
 }
 
 void olModelFiles::chooseExport()
 {
-    const QString file = QFileDialog::getSaveFileName(&m_window, tr("Export"), QString(), olModelFormat::filter());
+    const QString file = QFileDialog::getSaveFileName(&m_window, tr("Export"), QString(), olModelFormat::filter(true));
     if (file.isEmpty())
         return;
     const olExportResult result = olExportScene(m_scene.document(), file);

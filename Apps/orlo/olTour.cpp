@@ -51,6 +51,7 @@ int olTour::run(const QString &folder)
         return 1;
     }
 
+    m_window.showIntegratorPanels();
     olPreferencesDialog &preferences = m_window.openPreferences(QStringLiteral("Camera"));
     settle();
     QOLSlider *slider = sliderFor(preferences, QStringLiteral("Camera fov"));

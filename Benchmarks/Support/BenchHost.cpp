@@ -25,10 +25,10 @@ olMessage &BenchHost::record() { return olPreferencesRegistry::the().record(); }
 
 const std::vector<olPreferencesEntry *> &BenchHost::modules() { return olPreferencesRegistry::the().entries(); }
 
-void BenchHost::settle()
+void BenchHost::markClean()
 {
     for (olPreferencesEntry *module : modules())
-        module->settle();
+        module->markClean();
 }
 
 void makeHostNew()
@@ -76,4 +76,4 @@ void require(bool condition, const char *what)
     std::exit(2);
 }
 
-void require(const QString &error) { require(error.isEmpty(), qPrintable(error)); }
+void require(const olResult<> &result) { require(result.isOk(), qPrintable(result.error())); }

@@ -27,7 +27,7 @@ public:
     static const std::vector<olPreferencesEntry *> &modules();
 
     /// Makes every module's values count as applied.
-    static void settle();
+    static void markClean();
 
 private:
     QTemporaryDir m_folder;
@@ -53,4 +53,4 @@ void measure(benchmark::State &state, const std::function<void()> &work, const s
 
 /// Ends the program: without what it was to measure its figures would mean nothing.
 void require(bool condition, const char *what);
-void require(const QString &error);
+void require(const olResult<> &result);

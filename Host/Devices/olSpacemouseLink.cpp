@@ -22,11 +22,10 @@ namespace
 /// How long the GUI thread waits for a daemon that is there and in good health, or for the news that there is none.
 constexpr std::chrono::milliseconds patience{50};
 constexpr std::chrono::milliseconds checkInterval{50};
+constexpr std::chrono::seconds patienceAtTheEnd{2};
 
 /// A device that is moved all the time must not keep everything else waiting.
 constexpr int eventsAtOnce = 64;
-
-constexpr int buttonCount = 32;
 
 /// To be run in a thread of its own: a daemon that is busy or old lets its caller wait for it.
 bool connectToDaemon()
@@ -46,26 +45,6 @@ bool isHungUp(int socket)
     return received == 0 || (received < 0 && errno != EAGAIN && errno != EINTR);
 }
 
-void showButton(int button, bool pressed)
-{
-    if (button < 0 || button >= buttonCount)
-        return;
-    olHostState &state = olHostState::the();
-    const unsigned bit = 1u << unsigned(button);
-    state.spacemouseButtons = pressed ? state.spacemouseButtons | bit : state.spacemouseButtons & ~bit;
-}
-
-void showEvent(const spnav_event &event)
-{
-    if (event.type == SPNAV_EVENT_MOTION) {
-        const spnav_event_motion &motion = event.motion;
-        olHostState::the().spacemouseMotion = {float(motion.x),  float(motion.y),  float(motion.z),
-                                               float(motion.rx), float(motion.ry), float(motion.rz)};
-    } else if (event.type == SPNAV_EVENT_BUTTON) {
-        showButton(event.button.bnum, event.button.press != 0);
-    }
-}
-
 } // namespace
 
 olSpacemouseLink::olSpacemouseLink()
@@ -82,6 +61,14 @@ olSpacemouseLink::~olSpacemouseLink()
 {
     olHostState::the().removeObserver(*this);
     close();
+    if (!m_opening.valid())
+        return;
+    // The library gives up on a daemon that does not answer. One that does not even take the call is left to the end of
+    // the program, which must not wait for it.
+    if (m_opening.wait_for(patienceAtTheEnd) == std::future_status::ready)
+        finishOpening();
+    else
+        m_opener.detach();
 }
 
 void olSpacemouseLink::stateChanged(const olHostValueBase &value)
@@ -104,8 +91,7 @@ void olSpacemouseLink::open()
     std::packaged_task<bool()> task(&connectToDaemon);
     m_opening = task.get_future();
     try {
-        // Nobody waits for its end: the program can be left while a daemon hangs.
-        std::thread(std::move(task)).detach();
+        m_opener = std::thread(std::move(task));
     } catch (const std::system_error &error) {
         m_opening = {};
         olLog::error(QStringLiteral("Cannot look for a 3D mouse: %1").arg(QString::fromLocal8Bit(error.what())));
@@ -124,6 +110,7 @@ void olSpacemouseLink::finishOpening()
 {
     m_openingCheck.stop();
     const bool opened = m_opening.get();
+    m_opener.join();
     if (!m_wanted) {
         if (opened)
             spnav_close();
@@ -142,6 +129,19 @@ void olSpacemouseLink::listen()
     m_notifier = std::make_unique<QSocketNotifier>(spnav_fd(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readEvents(); });
     olHostState::the().spacemouseConnected = true;
+}
+
+void olSpacemouseLink::showEvent(const spnav_event &event)
+{
+    olHostState &host = olHostState::the();
+    if (event.type == SPNAV_EVENT_MOTION) {
+        const spnav_event_motion &motion = event.motion;
+        host.spacemouseMotion = {float(motion.x),  float(motion.y),  float(motion.z),
+                                 float(motion.rx), float(motion.ry), float(motion.rz)};
+    } else if (event.type == SPNAV_EVENT_BUTTON && event.button.bnum >= 0 && event.button.bnum < buttonCount) {
+        m_pressed.set(std::size_t(event.button.bnum), event.button.press != 0);
+        host.spacemouseButtons = unsigned(m_pressed.to_ulong());
+    }
 }
 
 void olSpacemouseLink::readEvents()
@@ -168,6 +168,7 @@ void olSpacemouseLink::close()
     m_notifier.release()->deleteLater();
     spnav_close();
 
+    m_pressed.reset();
     olHostState &state = olHostState::the();
     state.spacemouseMotion.reset();
     state.spacemouseButtons.reset();

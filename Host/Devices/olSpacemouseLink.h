@@ -6,8 +6,12 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <bitset>
 #include <future>
 #include <memory>
+#include <thread>
+
+union spnav_event;
 
 /// The connection to the daemon that serves 3D mice, held while the host is told to use one. What the device does goes
 /// into the host's state. Must go before the application object does, and there can be only one.
@@ -32,9 +36,14 @@ private:
     void finishOpening();
     void listen();
     void readEvents();
+    void showEvent(const spnav_event &event);
+
+    static constexpr int buttonCount = 32;
 
     bool m_wanted = false;
+    std::thread m_opener;
     std::future<bool> m_opening;
     QTimer m_openingCheck;
     std::unique_ptr<QSocketNotifier> m_notifier;
+    std::bitset<buttonCount> m_pressed;
 };

@@ -4,12 +4,29 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
+#include <boost/any.hpp>
+
+#include <vector>
 
 class QDialogButtonBox;
 class QLabel;
+class QPushButton;
 class QTreeWidget;
+class QTreeWidgetItem;
 
-/// Lists settings with their old and new values, and beneath them those that are passed over and why.
+/// One row of a list of changes. The texts say the values; the values themselves show colours as such.
+struct olListedChange {
+    QString place; ///< where the setting stands, as "Camera: Field of View"
+    QString key;   ///< empty for a page whose settings cannot be told apart
+    QString before;
+    QString after;
+    boost::any beforeValue;
+    boost::any afterValue;
+};
+
+/// Lists settings with their old and new values, and beneath them those that are passed over and why. Old and new are
+/// always both in sight. It shows changes only, lets them be taken back, or asks which of them shall come.
 class ORLO_HOST_EXPORT olChangesView : public QDialog
 {
     Q_OBJECT
@@ -20,27 +37,52 @@ public:
     /// One or two sentences above the lists.
     void setIntroduction(const QString &text);
 
-    /// `place` is where the setting stands, as "Camera: Field of View"; the key is shown in the tooltip and handed on.
-    void addChange(const QString &place, const QString &key, const QString &before, const QString &after);
+    /// In place of those listed before; the current row stays where it can.
+    void setChanges(const std::vector<olListedChange> &changes);
     void addSkipped(const QString &key, const QString &reason);
 
-    /// Asks instead of only showing: a button of that text accepts the dialog, another one cancels it.
+    /// Lets a person go to a change on its page, or take back one or all of them.
+    void offerWork();
+
+    /// Asks instead: every row gets a tick, a button of that text accepts the dialog, another one cancels it.
     void askFor(const QString &acceptText);
 
-    /// Sizes the columns and the dialog for what was added; to be called before it is shown.
+    /// Keys of the rows whose tick is set.
+    [[nodiscard]] QStringList ticked() const;
+
+    /// All rows as lines to be sent to somebody.
+    [[nodiscard]] QString asText() const;
+
+    /// Sizes the dialog for what was added; to be called before it is shown.
     void fit();
 
 signals:
     /// A change was chosen to be looked at on its page. The view closes.
     void chosen(const QString &key);
 
+    /// These are to be taken back; whoever does it lists the changes anew. An empty key stands for the row's whole
+    /// page, which is named by its place.
+    void takeBackAsked(const QStringList &keys, const QStringList &places);
+
 private:
     QTreeWidget *addList(const QStringList &headers, const QString &name);
-    void choose();
+    QPushButton *addButton(const QString &text, const QString &name, void (olChangesView::*act)());
+    void goThere();
+    void takeBack();
+    void takeAllBack();
+    void copyAsText();
+    void askToTakeBack(const QList<QTreeWidgetItem *> &items);
+    void updateButtons();
 
+    enum class Use { Look, Work, Choose };
+
+    Use m_use = Use::Look;
     QLabel *m_introduction;
     QTreeWidget *m_changes;
     QLabel *m_skippedLabel;
     QTreeWidget *m_skipped;
     QDialogButtonBox *m_buttons;
+    QPushButton *m_goThere;
+    QPushButton *m_takeBack;
+    QPushButton *m_takeAllBack;
 };

@@ -6,8 +6,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <QToolButton>
 
-olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel)
+olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel), m_close(new QToolButton)
 {
     setAutoFillBackground(true);
     setFrameShape(StyledPanel);
@@ -17,6 +18,15 @@ olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel)
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(m_icon, 0, Qt::AlignTop);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_close, 0, Qt::AlignTop);
+    m_close->setObjectName(QStringLiteral("closeMessage"));
+    m_close->setAutoRaise(true);
+    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setAccessibleName(tr("Close the message"));
+    connect(m_close, &QToolButton::clicked, this, [this] {
+        clear();
+        emit closed();
+    });
     setVisible(false);
 }
 

@@ -3,6 +3,7 @@
 #include <QFrame>
 
 class QLabel;
+class QToolButton;
 
 /// One line of the dialog that says what went wrong or what was done. Out of sight while there is nothing to say.
 class olMessageLine : public QFrame
@@ -18,9 +19,14 @@ public:
 
     [[nodiscard]] QString text() const;
 
+signals:
+    /// By its button; it is out of sight then.
+    void closed();
+
 private:
     void show(const QString &text, bool isError);
 
     QLabel *m_icon;
     QLabel *m_text;
+    QToolButton *m_close;
 };

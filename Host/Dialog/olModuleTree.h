@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QStringList>
 #include <QTreeWidget>
 
+#include <map>
 #include <vector>
 
 class olPreferencesEntry;
@@ -25,15 +27,30 @@ public:
     /// False, with nothing changed, for a name that is not listed.
     bool choose(const QString &name);
 
-    /// Hides the modules that are not among these, and moves to the first that is if the current one is not.
-    void showOnly(const std::vector<const olPreferencesEntry *> &entries);
+    /// Hides the modules that are not among these, be it the current one. The number beside each says how much was
+    /// found there.
+    void showOnly(const std::map<const olPreferencesEntry *, int> &entries);
     void showAll();
 
+    /// Marks the modules with changes that are not applied yet, and no others.
+    void markPending(const std::vector<const olPreferencesEntry *> &entries);
+
+    /// Categories that are not folded; none is at first. What a search unfolds does not count.
+    [[nodiscard]] QStringList openCategories() const { return m_open; }
+    void setOpenCategories(const QStringList &names);
+
     [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
     void add(const olPreferencesEntry &entry);
     [[nodiscard]] QTreeWidgetItem *categoryItem(const QString &category);
     [[nodiscard]] olPreferencesEntry *entryOf(const QTreeWidgetItem *item) const;
     template <class Use> void eachItem(Use &&use) const;
+    void foldAgain();
+
+    QStringList m_open;
+    bool m_isFiltered = false;
 };

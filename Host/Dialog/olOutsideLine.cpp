@@ -31,6 +31,7 @@ olOutsideLine::olOutsideLine(olPreferencesSession &session, olPendingChanges &pe
     connect(&session, &olPreferencesSession::changedOutside, this, &olOutsideLine::tell);
     // A change that is applied, dropped or edited back leaves nothing to choose.
     connect(&pending, &olPendingChanges::edited, this, &olOutsideLine::ask);
+    connect(m_message, &olMessageLine::closed, this, &olOutsideLine::clear);
     connect(m_mine, &QPushButton::clicked, this, [this] {
         m_conflicts.pop_front();
         ask();

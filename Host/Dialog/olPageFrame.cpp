@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QVariant>
 
 #include <algorithm>
 
@@ -25,6 +26,21 @@ olPageFrame::~olPageFrame()
     delete m_marks;
     if (takeWidget())
         m_page->setParent(nullptr);
+}
+
+void olPageFrame::lock(const olFoundControl &control, const QString &reason)
+{
+    m_locks.lock(control, reason);
+    if (!m_page || !control.widget || control.widget->objectName().isEmpty())
+        return;
+    const auto widgets = m_page->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (!widget->property("olCompanionOf").toStringList().contains(control.widget->objectName()))
+            continue;
+        olFoundControl companion;
+        companion.widget = widget;
+        m_locks.lock(companion, reason);
+    }
 }
 
 void olPageFrame::reveal(const olFoundControl &control)

@@ -22,7 +22,10 @@ public:
 
     [[nodiscard]] QWidget *page() const { return m_page; }
     [[nodiscard]] olSettingMarks &marks() const { return *m_marks; }
-    [[nodiscard]] olSettingLocks &locks() { return m_locks; }
+
+    /// Locks the control, and whatever else on the page is there to write to it: a button beside a table, a slider over
+    /// three fields. Such a companion names its controls in the property "olCompanionOf".
+    void lock(const olFoundControl &control, const QString &reason);
 
     /// Brings the control into sight: its tab to the front, its frames unfolded, scrolled to.
     void reveal(const olFoundControl &control);

@@ -10,6 +10,7 @@
 #include "Dialog/olProfilesMenu.h"
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
+#include "Dialog/olWindowPlace.h"
 #include "Editing/olPendingChanges.h"
 #include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
@@ -18,6 +19,9 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -38,9 +42,6 @@
 namespace
 {
 
-// What a window manager adds to a window, at its most.
-constexpr QSize windowFrame(16, 48);
-
 /// What the dialog would like to be, in characters of its font, so that it grows with the text.
 QSize comfortableSize(const QWidget &widget)
 {
@@ -52,7 +53,7 @@ QString changesText(std::size_t count)
 {
     if (count == 0)
         return olPreferencesDialog::tr("No Changes");
-    return count == 1 ? olPreferencesDialog::tr("1 Change...") : olPreferencesDialog::tr("%1 Changes...").arg(count);
+    return count == 1 ? olPreferencesDialog::tr("1 Chan&ge...") : olPreferencesDialog::tr("%1 Chan&ges...").arg(count);
 }
 
 } // namespace
@@ -64,8 +65,8 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_search(std::make_unique<olSettingsSearch>()),
       m_menu(std::make_unique<olSettingMenu>(session, *m_pending)),
       m_searchField(new QLineEdit),
-      m_changedOnly(new QCheckBox(tr("Changed &only"))),
-      m_more(new QPushButton(tr("&More"))),
+      m_changedOnly(new QCheckBox(tr("Changed only"))),
+      m_more(new QPushButton(tr("More"))),
       m_tree(new olModuleTree),
       m_splitter(new QSplitter),
       m_title(new QLabel),
@@ -73,13 +74,11 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_restorePage(new QPushButton(tr("Restore &Page"))),
       m_pages(new QStackedWidget),
       m_nothing(new QLabel),
+      m_foundList(new olFoundSettings),
       m_message(new olMessageLine),
       m_outside(new olOutsideLine(
           session, *m_pending, [this](const std::string &key) { return placeOf(key); },
-          [this](const std::string &key, const boost::any &value) {
-              const olFoundControl *control = m_search->control(key);
-              return olValueText(value, control ? control->widget.data() : nullptr, value);
-          })),
+          [](const std::string &key, const boost::any &value) { return olShortValueText(key, value); })),
       m_changes(new QPushButton),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel))
 {
@@ -118,11 +117,10 @@ QWidget *olPreferencesDialog::buildLeft()
     m_searchField->setObjectName(QStringLiteral("search"));
     m_searchField->setPlaceholderText(tr("Search"));
     m_searchField->setAccessibleName(tr("Search all settings"));
-    m_searchField->setToolTip(tr("Finds settings by label, tooltip, choice and key (Ctrl+F)."));
+    m_searchField->setToolTip(tr("Finds settings by label, group, tooltip, choice and key (Ctrl+F)."));
     m_searchField->setClearButtonEnabled(true);
     m_changedOnly->setObjectName(QStringLiteral("changedOnly"));
-    m_changedOnly->setToolTip(
-        tr("Shows only the pages with settings that differ from their defaults, and marks them."));
+    m_changedOnly->setToolTip(tr("Lists the settings that differ from their defaults."));
 
     auto *menu = new QMenu(m_more);
     menu->addAction(tr("&Import..."), this, &olPreferencesDialog::chooseImport);
@@ -139,6 +137,7 @@ QWidget *olPreferencesDialog::buildLeft()
     menu->addAction(tr("&History..."), this, &olPreferencesDialog::showHistory);
     menu->addSeparator();
     menu->addAction(tr("&Restore All Defaults"), this, &olPreferencesDialog::restoreAll);
+    m_more->setObjectName(QStringLiteral("more"));
     m_more->setMenu(menu);
     m_more->setAutoDefault(false);
 
@@ -172,6 +171,7 @@ QWidget *olPreferencesDialog::buildRight()
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
     m_pages->addWidget(m_nothing);
+    m_pages->addWidget(m_foundList);
 
     auto *right = new QWidget;
     auto *layout = new QVBoxLayout(right);
@@ -193,6 +193,11 @@ QWidget *olPreferencesDialog::buildBottom()
     m_changes->setObjectName(QStringLiteral("changes"));
     m_changes->setAutoDefault(false);
     m_changes->setToolTip(tr("Lists what OK and Apply will change."));
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("&OK"));
+    m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("&Cancel"));
+    m_buttons->button(QDialogButtonBox::Apply)->setText(tr("&Apply"));
+    // A click on it leaves the focus where one works.
+    m_buttons->button(QDialogButtonBox::Apply)->setFocusPolicy(Qt::TabFocus);
     auto *bottom = new QWidget;
     auto *layout = new QHBoxLayout(bottom);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -207,6 +212,11 @@ void olPreferencesDialog::connectParts()
     connect(m_searchField, &QLineEdit::textChanged, this, &olPreferencesDialog::filter);
     connect(m_changedOnly, &QCheckBox::toggled, this, &olPreferencesDialog::filter);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &olPreferencesDialog::showCurrent);
+    // The current one, too, is asked for again from the list of what was found.
+    connect(m_tree, &QTreeWidget::itemClicked, this, &olPreferencesDialog::showCurrent);
+    connect(m_tree, &QTreeWidget::itemActivated, this, &olPreferencesDialog::showCurrent);
+    connect(m_foundList, &olFoundSettings::chosen, this, &olPreferencesDialog::goToFound);
+    connect(m_foundList, &olFoundSettings::menuAsked, this, &olPreferencesDialog::openMenuOfFound);
     connect(m_restorePage, &QPushButton::clicked, this, &olPreferencesDialog::restorePage);
     connect(m_changes, &QPushButton::clicked, this, &olPreferencesDialog::showChanges);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &olPreferencesDialog::accept);
@@ -220,32 +230,40 @@ void olPreferencesDialog::connectParts()
         m_message->showNote(tr("%1 is locked: %2").arg(name, reason));
     });
 
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && m_splitter->isAncestorOf(now))
+            m_workedAt = now;
+    });
+
+    m_pending->askWith([this](const olSettingWarning &question) { return isAgreed(question); });
+
     // A filling changes many controls at once, and one look at the end tells it all.
     connect(m_pending.get(), &olPendingChanges::edited, &m_refresh, QOverload<>::of(&QTimer::start));
     connect(&m_refresh, &QTimer::timeout, this, &olPreferencesDialog::refresh);
 
-    const auto *registry = &olPreferencesRegistry::the();
-    connect(registry, &olPreferencesRegistry::pageAboutToGo, this, &olPreferencesDialog::giveBack);
+    const auto *news = &olPreferencesRegistry::the().news();
+    connect(news, &olRegistryNews::pageAboutToGo, this, &olPreferencesDialog::giveBack);
     // Queued, as a module is not whole yet when it registers, nor any more when it leaves.
-    connect(registry, &olPreferencesRegistry::changed, this, &olPreferencesDialog::listModules, Qt::QueuedConnection);
+    connect(news, &olRegistryNews::changed, this, &olPreferencesDialog::listModules, Qt::QueuedConnection);
 }
 
 void olPreferencesDialog::recall()
 {
     const olDialogMemory memory = olDialogMemory::recall();
-    const QSize size = memory.size.isValid() ? memory.size : comfortableSize(*this);
-    resize(size.boundedTo(screen()->availableSize() - windowFrame));
+    m_place = memory.place;
     const int character = fontMetrics().averageCharWidth();
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
         m_splitter->setSizes({character * 26, character * 104});
     m_splitter->setChildrenCollapsible(false);
+    m_tree->setOpenCategories(memory.openCategories);
     m_tree->choose(memory.page);
 }
 
 void olPreferencesDialog::remember() const
 {
     const olPreferencesEntry *entry = m_tree->chosen();
-    olDialogMemory{size(), m_splitter->saveState(), entry ? entry->name() : QString()}.keep();
+    olDialogMemory{m_place, m_splitter->saveState(), entry ? entry->name() : QString(), m_tree->openCategories()}
+        .keep();
 }
 
 void olPreferencesDialog::open(const QString &name)
@@ -253,11 +271,29 @@ void olPreferencesDialog::open(const QString &name)
     if (!name.isEmpty() && !m_tree->chosen())
         m_searchField->clear();
     m_tree->choose(name);
-    if (!isVisible())
+    if (!isVisible()) {
+        place();
         m_searchField->setFocus();
+    }
     show();
     raise();
     activateWindow();
+}
+
+/// Where it was, else beside the window that it belongs to, so that what changes there can be seen.
+void olPreferencesDialog::place()
+{
+    const QWidget *neighbour = parentWidget() ? parentWidget()->window() : nullptr;
+    const QScreen *known = m_place.isValid() ? QGuiApplication::screenAt(m_place.center()) : nullptr;
+    const QRect room = (known ? known : neighbour ? neighbour->screen() : screen())->availableGeometry();
+    if (known) {
+        setGeometry(olWindowPlace::onScreen(m_place, room));
+        return;
+    }
+    const QSize size = m_place.isValid() ? m_place.size() : comfortableSize(*this);
+    const QRect alone(room.center() - QPoint(size.width(), size.height()) / 2, size);
+    setGeometry(neighbour ? olWindowPlace::beside(neighbour->frameGeometry(), size, room)
+                          : olWindowPlace::onScreen(alone, room));
 }
 
 void olPreferencesDialog::showEvent(QShowEvent *event)
@@ -277,8 +313,10 @@ void olPreferencesDialog::showEvent(QShowEvent *event)
 void olPreferencesDialog::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        remember();
+    if (event->spontaneous())
+        return;
+    m_place = geometry();
+    remember();
 }
 
 void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
@@ -289,9 +327,11 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape && !m_searchField->text().isEmpty())
         m_searchField->clear();
     else if (isEnter && m_searchField->hasFocus())
-        focusFirstHit();
+        goToFound(m_foundList->currentRow());
+    else if (isEnter && !qobject_cast<QPushButton *>(focusWidget()))
+        event->accept(); // ends the typing in a field; nothing is applied and nothing closes by it
     else if (event->key() == Qt::Key_Down && m_searchField->hasFocus())
-        m_tree->setFocus(Qt::TabFocusReason);
+        (m_foundList->isVisible() ? static_cast<QWidget *>(m_foundList) : m_tree)->setFocus(Qt::TabFocusReason);
     else if (!asksForMenu || !m_menu->openFor(focusWidget()))
         QDialog::keyPressEvent(event);
 }
@@ -316,23 +356,38 @@ void olPreferencesDialog::reject()
 
 bool olPreferencesDialog::mayLeave()
 {
-    const std::size_t count = m_pending->list().size();
-    if (count == 0)
+    const std::vector<olPendingChange> changes = m_pending->list();
+    if (changes.empty())
         return true;
-    QMessageBox box(QMessageBox::Question, windowTitle(),
-                    count == 1 ? tr("There is 1 change that is not applied yet.")
-                               : tr("There are %1 changes that are not applied yet.").arg(count),
-                    QMessageBox::NoButton, this);
+    QMessageBox box(QMessageBox::Question, windowTitle(), lossText(changes), QMessageBox::NoButton, this);
+    box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::WindowModal);
     const QPushButton *applied = box.addButton(QMessageBox::Apply);
     const QPushButton *discarded = box.addButton(QMessageBox::Discard);
     QPushButton *stay = box.addButton(tr("&Stay"), QMessageBox::RejectRole);
-    box.setDefaultButton(QMessageBox::Apply);
+    // Nothing is applied and nothing lost by a key that was meant for something else.
+    box.setDefaultButton(stay);
     box.setEscapeButton(stay);
     box.exec();
     if (box.clickedButton() == applied)
         return apply();
     return box.clickedButton() == discarded;
+}
+
+QString olPreferencesDialog::lossText(const std::vector<olPendingChange> &changes) const
+{
+    constexpr std::size_t mostNamed = 5;
+    QStringList lines{changes.size() == 1
+                          ? tr("This change is not applied yet and would be lost:")
+                          : tr("These %1 changes are not applied yet and would be lost:").arg(changes.size())};
+    const std::size_t named = changes.size() > mostNamed ? mostNamed - 1 : changes.size();
+    for (std::size_t index = 0; index < named; ++index) {
+        const olPendingChange &change = changes[index];
+        lines << QStringLiteral("    ") + (change.key.empty() ? change.entry->name() : placeOf(change.key));
+    }
+    if (named < changes.size())
+        lines << QStringLiteral("    ") + tr("and %1 more").arg(changes.size() - named);
+    return lines.join(QLatin1Char('\n'));
 }
 
 bool olPreferencesDialog::apply()
@@ -345,12 +400,12 @@ bool olPreferencesDialog::apply()
 
 bool olPreferencesDialog::store()
 {
-    const QString error = m_pending->commit();
-    if (error.isEmpty())
+    const olResult<> committed = m_pending->commit();
+    if (committed.isOk())
         m_message->clear();
     else
-        m_message->showError(error);
-    return error.isEmpty();
+        m_message->showError(committed.error());
+    return committed.isOk();
 }
 
 /// False where there are none.
@@ -412,19 +467,25 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
         m_menu->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
         frame->marks().setHits(m_hits.value(&entry));
-        endTabOrderWithButtons();
+        connect(&frame->marks(), &olSettingMarks::clicked, this,
+                [this](QWidget *control, const QPoint &place) { m_menu->openFor(control, place); });
     }
     return frame;
 }
 
 void olPreferencesDialog::lockSettings(olPreferencesEntry &entry, olPageFrame &frame)
 {
+    std::vector<olFoundControl> locked;
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
-            if (const auto reason = m_session.lockReason(key.toStdString()))
-                frame.locks().lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
+            const auto reason = m_session.lockReason(key.toStdString());
+            if (!reason)
+                continue;
+            frame.lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
+            locked.push_back(control);
         }
     }
+    frame.marks().setLocked(locked);
 }
 
 /// What is disabled cannot be reached by keyboard, so the page's locked settings are also listed in its header.
@@ -438,25 +499,55 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
             if (!reason)
                 continue;
             const QString text = tr("%1 is locked: %2").arg(control.name, *reason);
-            menu->addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this,
-                            [this, text] { m_message->showNote(text); });
+            menu->addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this, [this, text, key] {
+                goTo(key);
+                m_message->showNote(text);
+            });
         }
     }
     m_locked->setText(tr("%1 Locked").arg(menu->actions().size()));
     m_locked->setVisible(!menu->isEmpty());
 }
 
-/// The page came last into the order of Tab; the buttons belong behind it.
-void olPreferencesDialog::endTabOrderWithButtons()
+/// The page stands between its header and the buttons, whichever pages came into the dialog before it.
+std::vector<QWidget *> olPreferencesDialog::tabStops() const
 {
-    QWidget *last = previousInFocusChain();
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
-                                                            m_buttons->button(QDialogButtonBox::Apply),
-                                                            m_buttons->button(QDialogButtonBox::Cancel)}) {
-        if (last != widget)
-            setTabOrder(last, widget);
-        last = widget;
+    std::vector<QWidget *> stops{m_searchField, m_changedOnly, m_more, m_tree, m_restorePage, m_locked};
+    stops.push_back(m_foundList);
+    const auto *frame = qobject_cast<olPageFrame *>(m_pages->currentWidget());
+    if (QWidget *page = frame ? frame->page() : nullptr) {
+        for (QWidget *widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
+            if (page->isAncestorOf(widget))
+                stops.push_back(widget);
+        }
     }
+    // Both lines have buttons of their own while they are in sight.
+    for (const QWidget *line : {static_cast<QWidget *>(m_outside), static_cast<QWidget *>(m_message)}) {
+        const auto buttons = line->findChildren<QAbstractButton *>();
+        stops.insert(stops.end(), buttons.begin(), buttons.end());
+    }
+    for (QWidget *button : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
+                                                            m_buttons->button(QDialogButtonBox::Cancel),
+                                                            m_buttons->button(QDialogButtonBox::Apply)})
+        stops.push_back(button);
+    const auto takesNoTab = [this](const QWidget *widget) {
+        return !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() || !widget->isVisible() ||
+               !widget->isEnabled() || widget->window() != this;
+    };
+    stops.erase(std::remove_if(stops.begin(), stops.end(), takesNoTab), stops.end());
+    return stops;
+}
+
+bool olPreferencesDialog::focusNextPrevChild(bool next)
+{
+    const std::vector<QWidget *> stops = tabStops();
+    const auto now = std::find(stops.begin(), stops.end(), focusWidget());
+    if (now == stops.end())
+        return QDialog::focusNextPrevChild(next);
+    const std::size_t step = next ? 1 : stops.size() - 1;
+    const auto index = (std::size_t(now - stops.begin()) + step) % stops.size();
+    stops[index]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void olPreferencesDialog::giveBack(QWidget *page)
@@ -468,10 +559,33 @@ void olPreferencesDialog::giveBack(QWidget *page)
 
 void olPreferencesDialog::filter()
 {
+    const bool isFiltered = collectFound();
+    for (olPageFrame *frame : qAsConst(m_frames))
+        frame->marks().setHits({});
+    for (auto hits = m_hits.cbegin(); hits != m_hits.cend(); ++hits) {
+        if (olPageFrame *frame = m_frames.value(hits.key()->page()))
+            frame->marks().setHits(hits.value());
+    }
+    if (!isFiltered) {
+        m_tree->showAll();
+        showCurrent();
+        return;
+    }
+    std::map<const olPreferencesEntry *, int> counts;
+    for (const Found &found : m_found)
+        counts[found.entry] += found.control.widget ? 1 : 0;
+    m_tree->showOnly(counts);
+    showFound();
+}
+
+/// Settings that match the search and differ from their default where only those are wanted. False where nothing is
+/// searched for.
+bool olPreferencesDialog::collectFound()
+{
     const QString text = m_searchField->text().simplified();
     const bool isFiltered = !text.isEmpty() || m_changedOnly->isChecked();
     m_hits.clear();
-    std::vector<const olPreferencesEntry *> found;
+    m_found.clear();
     for (const olSearchResult &result : isFiltered ? m_search->find(text) : std::vector<olSearchResult>()) {
         std::vector<olFoundControl> hits;
         for (const olFoundControl *hit : result.hits) {
@@ -481,24 +595,102 @@ void olPreferencesDialog::filter()
             if (isChanged || !m_changedOnly->isChecked())
                 hits.push_back(*hit);
         }
-        if (hits.empty() && m_changedOnly->isChecked())
-            continue;
-        found.push_back(result.entry);
-        m_hits.insert(result.entry, hits);
+        for (const olFoundControl &hit : hits)
+            m_found.push_back({result.entry, hit});
+        if (hits.empty() && !m_changedOnly->isChecked())
+            m_found.push_back({result.entry, {}});
+        if (!hits.empty())
+            m_hits.insert(result.entry, hits);
     }
-    for (olPageFrame *frame : qAsConst(m_frames))
-        frame->marks().setHits({});
-    for (auto hits = m_hits.cbegin(); hits != m_hits.cend(); ++hits) {
-        if (olPageFrame *frame = m_frames.value(hits.key()->page()))
-            frame->marks().setHits(hits.value());
+    // Who types a name means what is called so before what only mentions it.
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    std::stable_partition(m_found.begin(), m_found.end(), [&words](const Found &found) {
+        return std::all_of(words.begin(), words.end(), [&found](const QString &word) {
+            return found.control.name.contains(word, Qt::CaseInsensitive);
+        });
+    });
+    m_foundList->list(
+        int(m_found.size()),
+        [this](int row, olFoundSettings::Column column) { return foundText(m_found[std::size_t(row)], column); },
+        words);
+    return isFiltered;
+}
+
+QString olPreferencesDialog::foundText(const Found &found, olFoundSettings::Column column) const
+{
+    const olFoundControl &control = found.control;
+    switch (column) {
+    case olFoundSettings::Label:
+        return control.widget ? control.name : found.entry->name();
+    case olFoundSettings::Where:
+        return control.widget ? (QStringList(found.entry->name()) + control.captions).join(QStringLiteral(" \u203a "))
+                              : tr("Page");
+    case olFoundSettings::Value: {
+        QStringList values;
+        for (const QString &key : control.keys)
+            values << olShortValueText(key.toStdString(), m_pending->value(key.toStdString()));
+        return values.join(QStringLiteral("; "));
     }
-    m_nothing->setText(text.isEmpty() ? tr("Every setting has its default.")
-                                      : tr("Nothing matches \"%1\".").arg(m_searchField->text()));
-    if (isFiltered)
-        m_tree->showOnly(found);
-    else
-        m_tree->showAll();
+    default:
+        return control.keys.isEmpty() ? QString() : originText(control.keys.first().toStdString());
+    }
+}
+
+QString olPreferencesDialog::originText(const std::string &key) const
+{
+    if (m_session.lockReason(key))
+        return tr("locked");
+    if (m_pending->isPending(key))
+        return tr("pending");
+    const QString origin = m_session.origin(key);
+    return origin == QLatin1String("stored") ? tr("yours")
+           : origin == QLatin1String("site") ? tr("the site's")
+                                             : tr("default");
+}
+
+/// In place of the pages, until one of them is asked for.
+void olPreferencesDialog::showFound()
+{
+    const QString text = m_searchField->text().simplified();
+    m_restorePage->setVisible(false);
+    m_locked->setVisible(false);
+    if (m_found.empty())
+        m_nothing->setText(text.isEmpty() ? tr("Every setting has its default.")
+                                          : tr("Nothing matches \"%1\".").arg(m_searchField->text()));
+    m_pages->setCurrentWidget(m_found.empty() ? static_cast<QWidget *>(m_nothing) : m_foundList);
+    const QString told = m_found.empty()       ? m_nothing->text()
+                         : m_found.size() == 1 ? tr("1 Setting")
+                                               : tr("%1 Settings").arg(m_found.size());
+    if (m_title->text() == told)
+        return;
+    m_title->setText(m_found.empty() ? QString() : told);
+    m_title->setAccessibleName(told);
+    QAccessibleEvent alert(m_title, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void olPreferencesDialog::goToFound(int row)
+{
+    if (row < 0 || std::size_t(row) >= m_found.size())
+        return;
+    const Found found = m_found[std::size_t(row)];
+    m_tree->choose(found.entry->name());
     showCurrent();
+    if (!found.control.widget) {
+        m_tree->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    if (olPageFrame *frame = m_frames.value(found.entry->page()))
+        frame->reveal(found.control);
+    found.control.widget->setFocus(Qt::TabFocusReason);
+}
+
+void olPreferencesDialog::openMenuOfFound(int row, const QPoint &globalPosition)
+{
+    const Found found = m_found[std::size_t(row)];
+    m_menu->addTo(m_search->controls(*found.entry));
+    if (found.control.widget)
+        m_menu->openFor(found.control.widget, globalPosition);
 }
 
 void olPreferencesDialog::revealFirstHit()
@@ -514,15 +706,14 @@ void olPreferencesDialog::revealFirstHit()
     frame->reveal(first == hits.end() ? hits.front() : *first);
 }
 
-void olPreferencesDialog::focusFirstHit()
+bool olPreferencesDialog::openAt(const QString &key)
 {
-    const olPreferencesEntry *entry = m_tree->chosen();
-    for (const olFoundControl &hit : m_hits.value(entry)) {
-        if (hit.widget && hit.widget->isVisible() && hit.widget->isEnabled() && hit.widget->focusPolicy()) {
-            hit.widget->setFocus(Qt::TabFocusReason);
-            return;
-        }
-    }
+    const olFoundControl *control = m_search->control(key.toStdString());
+    if (!control || !control->widget)
+        return false;
+    open({});
+    goTo(key);
+    return true;
 }
 
 void olPreferencesDialog::goTo(const QString &key)
@@ -542,29 +733,47 @@ void olPreferencesDialog::goTo(const QString &key)
     widget->setFocus(Qt::TabFocusReason);
 }
 
-std::vector<olFoundControl> olPreferencesDialog::changedOn(const olPreferencesEntry &entry) const
+std::vector<olFoundControl>
+olPreferencesDialog::controlsOn(const olPreferencesEntry &entry,
+                                const std::function<bool(const std::string &key)> &isWanted) const
 {
-    std::vector<olFoundControl> changed;
+    std::vector<olFoundControl> wanted;
     for (const olFoundControl &control : m_search->controls(entry)) {
-        const bool differs = std::any_of(control.keys.begin(), control.keys.end(), [&](const QString &key) {
-            return m_pending->differsFromDefault(entry, key.toStdString());
-        });
-        if (differs)
-            changed.push_back(control);
+        if (std::any_of(control.keys.begin(), control.keys.end(),
+                        [&](const QString &key) { return isWanted(key.toStdString()); }))
+            wanted.push_back(control);
     }
-    return changed;
+    return wanted;
 }
 
 void olPreferencesDialog::refresh()
 {
     m_refresh.stop();
-    const std::size_t count = m_pending->list().size();
+    const std::vector<olPendingChange> changes = m_pending->list();
+    const std::size_t count = changes.size();
+    QPushButton *apply = m_buttons->button(QDialogButtonBox::Apply);
+    // What is disabled or goes would hand the focus on to whatever comes next.
+    if (count == 0 && (apply->hasFocus() || m_changes->hasFocus()))
+        (m_workedAt && m_workedAt->isVisible() && m_workedAt->isEnabled() ? m_workedAt.data() : m_tree)->setFocus();
     m_changes->setText(changesText(count));
-    m_changes->setEnabled(count > 0);
-    m_buttons->button(QDialogButtonBox::Apply)->setEnabled(count > 0);
+    m_changes->setVisible(count > 0);
+    apply->setEnabled(count > 0);
+    std::vector<const olPreferencesEntry *> pending;
+    for (const olPendingChange &change : changes)
+        pending.push_back(change.entry);
+    m_tree->markPending(pending);
+    // What differs from its default may be another thing now.
+    if (m_changedOnly->isChecked() && m_pages->currentWidget() != m_nothing && m_pages->currentWidget() != m_foundList)
+        collectFound();
+    else if (m_changedOnly->isChecked())
+        filter();
     const olPreferencesEntry *entry = m_tree->chosen();
-    if (olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr)
-        frame->marks().setChanged(changedOn(*entry));
+    olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr;
+    if (!frame)
+        return;
+    frame->marks().setChanged(
+        controlsOn(*entry, [&](const std::string &key) { return m_pending->differsFromDefault(*entry, key); }));
+    frame->marks().setPending(controlsOn(*entry, [&](const std::string &key) { return m_pending->isPending(key); }));
 }
 
 /// As a person finds it: the page and the control's name; without a control the key.
@@ -580,19 +789,44 @@ QString olPreferencesDialog::placeOf(const std::string &key) const
     return tr("%1: %2", "module and setting").arg(owner->name(), isTold ? control->name : name);
 }
 
+std::vector<olListedChange> olPreferencesDialog::listedChanges() const
+{
+    std::vector<olListedChange> listed;
+    for (const olPendingChange &change : m_pending->list()) {
+        if (change.key.empty())
+            listed.push_back({change.entry->name(), {}, {}, tr("edited"), {}, {}});
+        else
+            listed.push_back(listedChange(change.key, change.before, change.after));
+    }
+    return listed;
+}
+
+olListedChange olPreferencesDialog::listedChange(const std::string &key, const boost::any &before,
+                                                 const boost::any &after) const
+{
+    return {placeOf(key), QString::fromStdString(key), olValueText(key, before), olValueText(key, after), before,
+            after};
+}
+
 void olPreferencesDialog::showChanges()
 {
     auto *view = new olChangesView(tr("Changes"), this);
     view->setAttribute(Qt::WA_DeleteOnClose);
-    for (const olPendingChange &change : m_pending->list()) {
-        const QString before = olValueText(change.before, change.control, change.after);
-        const QString after = olValueText(change.after, change.control, change.after);
-        if (change.key.empty())
-            view->addChange(change.entry->name(), {}, {}, tr("edited"));
-        else
-            view->addChange(placeOf(change.key), QString::fromStdString(change.key), before, after);
-    }
+    view->offerWork();
+    view->setChanges(listedChanges());
     connect(view, &olChangesView::chosen, this, &olPreferencesDialog::goTo);
+    connect(view, &olChangesView::takeBackAsked, this,
+            [this, view](const QStringList &keys, const QStringList &places) {
+                for (int index = 0; index < keys.size(); ++index) {
+                    if (!keys[index].isEmpty())
+                        m_pending->takeBack(keys[index].toStdString());
+                    else if (const olPreferencesEntry *entry = olPreferencesRegistry::the().find(places[index]))
+                        m_pending->takeBack(*entry);
+                }
+                view->setChanges(listedChanges());
+                if (m_pending->isEmpty())
+                    view->accept();
+            });
     view->fit();
     view->open();
 }
@@ -611,36 +845,51 @@ void olPreferencesDialog::importFrom(const QString &file)
 }
 
 void olPreferencesDialog::preview(const QString &title, const QString &action,
-                                  const olPreferencesFile::Contents &contents)
+                                  const olResult<olPreferencesFile::Contents> &contents)
 {
-    if (!contents.error.isEmpty()) {
-        m_message->showError(contents.error);
+    if (!contents.isOk()) {
+        m_message->showError(contents.error());
         return;
     }
-    const auto controlOf = [this](const std::string &key) -> QWidget * {
-        const olFoundControl *control = m_search->control(key);
-        return control ? control->widget.data() : nullptr;
-    };
     const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
-    const olPreferencesImport import(m_session, contents, valueOf, controlOf);
+    const olPreferencesImport import(m_session, *contents, valueOf);
 
     auto *view = new olChangesView(title, this);
-    view->setAttribute(Qt::WA_DeleteOnClose);
+    // Not by its closing: a question may be asked before it has told what is ticked.
+    connect(view, &QDialog::finished, view, &QObject::deleteLater);
     view->setIntroduction(import.changes.empty()
                               ? tr("Nothing would change.")
                               : tr("These settings get new values. They stay pending until OK or Apply."));
-    for (const olPreferencesImport::Change &change : import.changes) {
-        const QWidget *control = controlOf(change.key);
-        view->addChange(placeOf(change.key), QString::fromStdString(change.key),
-                        olValueText(change.before, control, change.before),
-                        olValueText(change.after, control, change.before));
-    }
+    std::vector<olListedChange> listed;
+    for (const olPreferencesImport::Change &change : import.changes)
+        listed.push_back(listedChange(change.key, change.before, change.after));
+    view->setChanges(listed);
     for (const olSkippedSetting &skipped : import.skipped)
         view->addSkipped(QString::fromStdString(skipped.key), skipped.reason);
     view->askFor(action);
-    connect(view, &QDialog::accepted, this, [this, values = import.values()] { m_pending->put(values); });
+    connect(view, &QDialog::accepted, this, [this, view, import] {
+        const QStringList ticked = view->ticked();
+        olSettingValues values = import.values();
+        for (auto value = values.begin(); value != values.end();)
+            value = ticked.contains(QString::fromStdString(value->first)) ? std::next(value) : values.erase(value);
+        m_pending->put(values);
+    });
     view->fit();
     view->open();
+}
+
+/// A setting whose own box asks before it is set is asked about here, too.
+bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
+{
+    QMessageBox box(QMessageBox::Warning, question.title, question.text, QMessageBox::NoButton, this);
+    box.setInformativeText(question.informative);
+    box.setWindowModality(Qt::WindowModal);
+    const QPushButton *accepted = box.addButton(question.accept, QMessageBox::AcceptRole);
+    QPushButton *rejected = box.addButton(question.reject, QMessageBox::RejectRole);
+    box.setDefaultButton(rejected);
+    box.setEscapeButton(rejected);
+    box.exec();
+    return box.clickedButton() == accepted;
 }
 
 void olPreferencesDialog::showHistory()
@@ -659,7 +908,11 @@ void olPreferencesDialog::showHistory()
 void olPreferencesDialog::goBack(std::size_t saves)
 {
     const olUndo undo(m_session, saves);
-    olPreferencesFile::Contents earlier{{}, undo.left(), undo.error()};
+    if (!undo.error().isEmpty()) {
+        m_message->showError(undo.error());
+        return;
+    }
+    olPreferencesFile::Contents earlier{{}, undo.left()};
     for (const olStoreRows::Change &change : undo.changes())
         earlier.settings[change.key.second] = undo.value(change.key, change.after);
     preview(tr("Go Back"), tr("&Go Back"), earlier);
@@ -675,9 +928,9 @@ void olPreferencesDialog::chooseExport()
 
 void olPreferencesDialog::exportTo(const QString &file)
 {
-    const QString error = olPreferencesFile::write(file, m_pending->inForce());
-    if (!error.isEmpty())
-        m_message->showError(error);
+    const olResult<> written = olPreferencesFile::write(file, m_pending->inForce());
+    if (!written.isOk())
+        m_message->showError(written.error());
     else if (m_pending->isEmpty())
         m_message->showNote(tr("The preferences were written to %1.").arg(file));
     else

@@ -1,13 +1,18 @@
 #pragma once
 
+#include "Dialog/olFoundSettings.h"
+#include "Editing/olSettingsSearch.h"
 #include "Session/olPreferencesFile.h"
 #include "olHostExport.h"
 
 #include <QDialog>
 #include <QHash>
 #include <QPointer>
+#include <QRect>
 #include <QTimer>
+#include <boost/any.hpp>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -27,8 +32,9 @@ class olPendingChanges;
 class olPreferencesEntry;
 class olPreferencesSession;
 class olSettingMenu;
-class olSettingsSearch;
-struct olFoundControl;
+struct olListedChange;
+struct olSettingWarning;
+struct olPendingChange;
 
 /// Shows the modules as entries under their categories, with their pages. Everything done in it is pending until OK or
 /// Apply, and Cancel drops it. Not modal: the view stays usable beside it.
@@ -46,6 +52,9 @@ public:
     /// that was shown last.
     void open(const QString &name);
     void open() override { open(QString()); }
+
+    /// The same at the control of a setting. False, with nothing opened, where no page has one.
+    [[nodiscard]] bool openAt(const QString &key);
 
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
@@ -78,13 +87,21 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
+    /// A setting that was found; a page as such has no control.
+    struct Found {
+        const olPreferencesEntry *entry = nullptr;
+        olFoundControl control;
+    };
+
     [[nodiscard]] QWidget *buildLeft();
     [[nodiscard]] QWidget *buildRight();
     [[nodiscard]] QWidget *buildBottom();
     void connectParts();
     void recall();
+    void place();
     void remember() const;
 
     void listModules();
@@ -92,21 +109,32 @@ private:
     [[nodiscard]] olPageFrame *frameOf(olPreferencesEntry &entry);
     void lockSettings(olPreferencesEntry &entry, olPageFrame &frame);
     void listLocked(olPreferencesEntry &entry);
-    void endTabOrderWithButtons();
+    [[nodiscard]] std::vector<QWidget *> tabStops() const;
     void giveBack(QWidget *page);
 
     void filter();
     void revealFirstHit();
-    void focusFirstHit();
+    bool collectFound();
+    [[nodiscard]] QString foundText(const Found &found, olFoundSettings::Column column) const;
+    [[nodiscard]] QString originText(const std::string &key) const;
+    void showFound();
+    void goToFound(int row);
+    void openMenuOfFound(int row, const QPoint &globalPosition);
     void goTo(const QString &key);
-    [[nodiscard]] std::vector<olFoundControl> changedOn(const olPreferencesEntry &entry) const;
+    [[nodiscard]] std::vector<olFoundControl>
+    controlsOn(const olPreferencesEntry &entry, const std::function<bool(const std::string &key)> &isWanted) const;
     [[nodiscard]] QString placeOf(const std::string &key) const;
 
     void refresh();
     [[nodiscard]] bool store();
     bool tellNotices();
     [[nodiscard]] bool mayLeave();
-    void preview(const QString &title, const QString &action, const olPreferencesFile::Contents &contents);
+    [[nodiscard]] QString lossText(const std::vector<olPendingChange> &changes) const;
+    [[nodiscard]] std::vector<olListedChange> listedChanges() const;
+    [[nodiscard]] olListedChange listedChange(const std::string &key, const boost::any &before,
+                                              const boost::any &after) const;
+    [[nodiscard]] bool isAgreed(const olSettingWarning &question);
+    void preview(const QString &title, const QString &action, const olResult<olPreferencesFile::Contents> &contents);
     void goBack(std::size_t saves);
     void chooseImport();
     void chooseExport();
@@ -125,11 +153,17 @@ private:
     QPushButton *m_restorePage;
     QStackedWidget *m_pages;
     QLabel *m_nothing;
+    olFoundSettings *m_foundList;
     olMessageLine *m_message;
     olOutsideLine *m_outside;
     QPushButton *m_changes;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;
     QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
+    std::vector<Found> m_found;
     QTimer m_refresh;
+    QRect m_place; ///< where it was last; not valid before
+
+    /// What on the left or on the page had the focus last.
+    QPointer<QWidget> m_workedAt;
 };

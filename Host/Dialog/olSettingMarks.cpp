@@ -1,6 +1,9 @@
 #include "Dialog/olSettingMarks.h"
 
+#include "Editing/olPlainText.h"
+
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTabBar>
 #include <QTabWidget>
@@ -13,6 +16,7 @@ namespace
 constexpr int barWidth = 3;
 constexpr int barGap = 3;
 constexpr int tintMargin = 2;
+constexpr QSize padlock(7, 10);
 constexpr int dotRadius = 3;
 
 /// Whether anything of it is to be seen: a tab behind, a folded frame and a hidden control show nothing.
@@ -32,12 +36,27 @@ olSettingMarks::olSettingMarks(QWidget &page) : QWidget(&page)
     show();
 }
 
+olSettingMarks::~olSettingMarks() { describe({}); }
+
 void olSettingMarks::setChanged(std::vector<olFoundControl> controls)
 {
-    describe(m_changed, tr("Differs from its default"), QString());
     m_changed = std::move(controls);
-    describe(m_changed, QString(), tr("Differs from its default"));
+    describe(m_changed);
     watch(m_changed);
+    update();
+}
+
+void olSettingMarks::setPending(std::vector<olFoundControl> controls)
+{
+    m_pending = std::move(controls);
+    watch(m_pending);
+    update();
+}
+
+void olSettingMarks::setLocked(std::vector<olFoundControl> controls)
+{
+    m_locked = std::move(controls);
+    watch(m_locked);
     update();
 }
 
@@ -48,13 +67,23 @@ void olSettingMarks::setHits(std::vector<olFoundControl> controls)
     update();
 }
 
-/// Who cannot see the mark is told; what a page says of its control itself stays.
-void olSettingMarks::describe(const std::vector<olFoundControl> &controls, const QString &before,
-                              const QString &after) const
+/// Who cannot see the mark is told, before what the control tells of itself anyway: its tooltip, while nothing else is
+/// set.
+void olSettingMarks::describe(const std::vector<olFoundControl> &controls)
 {
+    for (auto described = m_described.begin(); described != m_described.end();
+         described = m_described.erase(described)) {
+        if (described->first)
+            described->first->setAccessibleDescription(described->second);
+    }
     for (const olFoundControl &control : controls) {
-        if (control.widget && control.widget->accessibleDescription() == before)
-            control.widget->setAccessibleDescription(after);
+        if (!control.widget)
+            continue;
+        const QString own = control.widget->accessibleDescription();
+        const QString told = own.isEmpty() ? olPlainText(control.widget->toolTip()) : own;
+        m_described.emplace_back(control.widget, own);
+        control.widget->setAccessibleDescription(told.isEmpty() ? tr("Differs from its default.")
+                                                                : tr("Differs from its default. %1").arg(told));
     }
 }
 
@@ -81,6 +110,13 @@ bool olSettingMarks::eventFilter(QObject *watched, QEvent *event)
     case QEvent::EnabledChange:
         update();
         return false;
+    case QEvent::MouseButtonPress: {
+        const QPoint global = static_cast<QMouseEvent *>(event)->globalPos();
+        QWidget *marked = markedAt(mapFromGlobal(global));
+        if (marked)
+            emit clicked(marked, global);
+        return marked;
+    }
     case QEvent::ChildAdded:
         if (watched == parent())
             raise();
@@ -113,8 +149,17 @@ void olSettingMarks::paintEvent(QPaintEvent *)
         paintHit(painter, control);
         paintTabs(painter, control);
     }
+    const auto isPending = [this](const olFoundControl &control) {
+        return std::any_of(m_pending.begin(), m_pending.end(),
+                           [&control](const olFoundControl &other) { return other.widget == control.widget; });
+    };
     for (const olFoundControl &control : m_changed)
-        paintChanged(painter, control);
+        paintBar(painter, control, isPending(control));
+    // Whoever goes back to a default has that pending, too.
+    for (const olFoundControl &control : m_pending)
+        paintBar(painter, control, true);
+    for (const olFoundControl &control : m_locked)
+        paintPadlock(painter, control);
 }
 
 void olSettingMarks::paintHit(QPainter &painter, const olFoundControl &control) const
@@ -148,12 +193,66 @@ void olSettingMarks::paintTabs(QPainter &painter, const olFoundControl &control)
     }
 }
 
-void olSettingMarks::paintChanged(QPainter &painter, const olFoundControl &control) const
+QRect olSettingMarks::barOf(const olFoundControl &control) const
 {
     const QRect place = placeOf(control);
-    if (place.isEmpty())
+    return place.isEmpty()
+               ? QRect()
+               : QRect(std::max(0, place.left() - barGap - barWidth), place.top(), barWidth, place.height());
+}
+
+QRect olSettingMarks::padlockOf(const olFoundControl &control) const
+{
+    const QRect place = placeOf(control);
+    return place.isEmpty() ? QRect()
+                           : QRect(std::max(0, place.left() - padlock.width() - 1),
+                                   place.center().y() - padlock.height() / 2, padlock.width(), padlock.height());
+}
+
+QWidget *olSettingMarks::markedAt(const QPoint &place) const
+{
+    constexpr int near = 3;
+    const auto at = [&place](const QRect &mark) {
+        return !mark.isEmpty() && mark.adjusted(-near, 0, near, 0).contains(place);
+    };
+    for (const auto *marked : {&m_changed, &m_pending}) {
+        for (const olFoundControl &control : *marked) {
+            if (at(barOf(control)))
+                return control.widget;
+        }
+    }
+    for (const olFoundControl &control : m_locked) {
+        if (at(padlockOf(control)))
+            return control.widget;
+    }
+    return nullptr;
+}
+
+void olSettingMarks::paintBar(QPainter &painter, const olFoundControl &control, bool isPending) const
+{
+    const QRectF bar = barOf(control);
+    if (bar.isEmpty())
         return;
     painter.setBrush(palette().color(QPalette::Active, QPalette::Highlight));
-    const qreal left = std::max(0, place.left() - barGap - barWidth);
-    painter.drawRoundedRect(QRectF(left, place.top(), barWidth, place.height()), barWidth / 2.0, barWidth / 2.0);
+    if (!isPending) {
+        painter.drawRoundedRect(bar, barWidth / 2.0, barWidth / 2.0);
+        return;
+    }
+    for (qreal top = bar.top(); top < bar.bottom(); top += 2.0 * barWidth)
+        painter.drawEllipse(QRectF(bar.left(), top, barWidth, std::min<qreal>(barWidth, bar.bottom() - top)));
+}
+
+void olSettingMarks::paintPadlock(QPainter &painter, const olFoundControl &control) const
+{
+    const QRectF place = padlockOf(control);
+    if (place.isEmpty())
+        return;
+    const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
+    const qreal body = place.height() * 0.55;
+    painter.setBrush(ink);
+    painter.drawRect(QRectF(place.left(), place.bottom() - body, place.width(), body));
+    painter.setPen(QPen(ink, 1.2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(place.adjusted(1.2, 0.5, -1.2, -body / 2.0), 2.0, 2.0);
+    painter.setPen(Qt::NoPen);
 }

@@ -2,7 +2,9 @@
 
 #include "Editing/olPendingChanges.h"
 #include "Editing/olValueText.h"
+#include "Session/olPreferencesFile.h"
 #include "Session/olPreferencesSession.h"
+#include "Session/olRecordedSettings.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -70,9 +72,14 @@ void olSettingMenu::addTo(const std::vector<olFoundControl> &controls)
 
 bool olSettingMenu::openFor(QWidget *widget)
 {
+    return widget && openFor(widget, widget->mapToGlobal(widget->rect().bottomLeft()));
+}
+
+bool olSettingMenu::openFor(QWidget *widget, const QPoint &globalPosition)
+{
     if (!widget || !m_controls.contains(widget))
         return false;
-    open(*widget, widget->mapToGlobal(widget->rect().bottomLeft()));
+    open(*widget, globalPosition);
     return true;
 }
 
@@ -96,11 +103,38 @@ void olSettingMenu::open(QWidget &asked, const QPoint &globalPosition)
     QMenu *menu = standardMenu(asked);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setObjectName(QStringLiteral("settingMenu"));
+    addFacts(*menu, control);
+    menu->addSeparator();
     addResets(*menu, control);
     menu->addSeparator();
     addKeys(*menu, control);
+    addValue(*menu, control);
     addLocks(*menu, control);
     menu->popup(globalPosition);
+}
+
+/// What there is to know, as lines that cannot be chosen.
+void olSettingMenu::addFacts(QMenu &menu, const olFoundControl &control)
+{
+    const auto add = [&menu](const QString &name, const QString &text) {
+        QAction *fact = menu.addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")));
+        fact->setObjectName(name);
+        fact->setEnabled(false);
+    };
+    const std::string key = control.keys.first().toStdString();
+    const QString origin = m_session.origin(key);
+    add(QStringLiteral("origin"), m_session.lockReason(key)           ? tr("Set by the site, and locked")
+                                  : m_changes.isPending(key)          ? tr("Changed, not applied yet")
+                                  : origin == QLatin1String("stored") ? tr("Set by you")
+                                  : origin == QLatin1String("site")   ? tr("Set by the site")
+                                                                      : tr("The default"));
+    const QString effect = olPreferencesSession::description(key).effect;
+    if (effect == QLatin1String("next import"))
+        add(QStringLiteral("effect"), tr("Takes effect at the next import"));
+    else if (effect == QLatin1String("next start"))
+        add(QStringLiteral("effect"), tr("Takes effect at the next start"));
+    if (olIsOnlyRecorded(key))
+        add(QStringLiteral("recordedOnly"), tr("Is only recorded by this host"));
 }
 
 /// One control may edit several settings; they go back together.
@@ -113,10 +147,18 @@ void olSettingMenu::addResets(QMenu &menu, const olFoundControl &control)
     for (const QString &name : control.keys) {
         const std::string key = name.toStdString();
         defaults[key] = m_session.defaultValue(key);
-        texts << olValueText(defaults[key], control.widget, m_changes.value(key));
+        texts << olShortValueText(key, defaults[key]);
         differs = differs || m_changes.differsFromDefault(key);
         isLocked = isLocked || m_session.lockReason(key).has_value();
     }
+    QAction *takeBack = menu.addAction(tr("&Take Back"));
+    takeBack->setObjectName(QStringLiteral("takeBack"));
+    takeBack->setEnabled(std::any_of(control.keys.begin(), control.keys.end(),
+                                     [this](const QString &name) { return m_changes.isPending(name.toStdString()); }));
+    connect(takeBack, &QAction::triggered, this, [this, keys = control.keys] {
+        for (const QString &key : keys)
+            m_changes.takeBack(key.toStdString());
+    });
     const QString shown = texts.join(QStringLiteral(", ")).replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction *reset = menu.addAction(tr("&Reset to Default: %1").arg(shown));
     reset->setObjectName(QStringLiteral("reset"));
@@ -133,6 +175,17 @@ void olSettingMenu::addKeys(QMenu &menu, const olFoundControl &control)
         copy->setObjectName(QStringLiteral("copyKey"));
         connect(copy, &QAction::triggered, this, [key] { QApplication::clipboard()->setText(key); });
     }
+}
+
+void olSettingMenu::addValue(QMenu &menu, const olFoundControl &control)
+{
+    olSettingValues values;
+    for (const QString &key : control.keys)
+        values[key.toStdString()] = m_changes.value(key.toStdString());
+    QAction *copy = menu.addAction(tr("Copy as &JSON"));
+    copy->setObjectName(QStringLiteral("copyJson"));
+    connect(copy, &QAction::triggered, this,
+            [values] { QApplication::clipboard()->setText(QString::fromUtf8(olPreferencesFile::toJson(values))); });
 }
 
 void olSettingMenu::addLocks(QMenu &menu, const olFoundControl &control)

@@ -10,7 +10,8 @@ class QMenu;
 class olPendingChanges;
 class olPreferencesSession;
 
-/// The context menu of the controls that edit settings: back to the default, copy the key, and why it is locked. It
+/// The context menu of the controls that edit settings, and their card: what the default is, where the value comes from
+/// and when it has its effect; take the edit back, go back to the default, copy key and value, and why it is locked. It
 /// adds to a text field's own menu and takes the place of none. By mouse it also opens on a control's label.
 class olSettingMenu : public QObject
 {
@@ -26,6 +27,7 @@ public:
     /// Opens the menu of the control that the widget is, or is a part of, as a key press asks for it. False where the
     /// widget belongs to no setting.
     bool openFor(QWidget *widget);
+    bool openFor(QWidget *widget, const QPoint &globalPosition);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -35,8 +37,10 @@ signals:
 
 private:
     void open(QWidget &asked, const QPoint &globalPosition);
+    void addFacts(QMenu &menu, const olFoundControl &control);
     void addResets(QMenu &menu, const olFoundControl &control);
     void addKeys(QMenu &menu, const olFoundControl &control);
+    void addValue(QMenu &menu, const olFoundControl &control);
     void addLocks(QMenu &menu, const olFoundControl &control);
 
     const olPreferencesSession &m_session;

@@ -4,30 +4,35 @@
 #include "Session/olValueOverlay.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
-#include "State/olValueVariant.h"
 #include "Widgets/QOLColorManipulator.h"
 
+#include <OpenSG/OSGColor.h>
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace
 {
 
-constexpr auto accessName = "olSettingAccess";
-
 /// Whether it says nothing: a key that is absent, or a list of nothing.
-bool isNothing(const boost::any &value) { return value.empty() || olValue::toJson(value) == "[]"; }
+bool isNothing(const boost::any &value)
+{
+    const auto *strings = boost::any_cast<std::vector<std::string>>(&value);
+    const auto *floats = boost::any_cast<std::vector<float>>(&value);
+    const auto *colors = boost::any_cast<std::vector<osg::Color3f>>(&value);
+    return value.empty() || (strings && strings->empty()) || (floats && floats->empty()) || (colors && colors->empty());
+}
 
-/// Whether the two are one value to a person: what is no number is always itself.
+/// Whether the two are one value to a person: zeros have no signs, and what is no number is always itself.
 bool isSame(const boost::any &left, const boost::any &right)
 {
     if (isNothing(left) || isNothing(right))
         return isNothing(left) && isNothing(right);
-    return olValue::equal(left, right) ||
-           (olValue::typeName(left) == olValue::typeName(right) && olValue::toJson(left) == olValue::toJson(right));
+    return olValue::equal(left, right) || olValue::identical(left, right);
 }
 
 QList<QWidget *> withDescendants(QWidget &page) { return QList<QWidget *>{&page} + page.findChildren<QWidget *>(); }
@@ -35,10 +40,19 @@ QList<QWidget *> withDescendants(QWidget &page) { return QList<QWidget *>{&page}
 } // namespace
 
 olEditedPage::olEditedPage(const olPreferencesSession &session, olPreferencesEntry &entry)
-    : m_session(session), m_entry(entry), m_access(entry.page()->findChild<QObject *>(QLatin1String(accessName)))
+    : m_session(session), m_entry(entry), m_access(entry), m_guard(entry)
 {
     collectControls();
     watch();
+    if (m_held.empty())
+        return;
+    // After the turn in which something wrote to it, be it one control for many.
+    m_putBack.setSingleShot(true);
+    connect(this, &olEditedPage::edited, &m_putBack, [this] {
+        if (!m_isPuttingBack)
+            m_putBack.start();
+    });
+    connect(&m_putBack, &QTimer::timeout, this, &olEditedPage::putBackHeld);
 }
 
 void olEditedPage::collectControls()
@@ -47,10 +61,30 @@ void olEditedPage::collectControls()
     for (const olPageControl &control : index.controls()) {
         for (const QString &key : control.settingKeys) {
             const std::string name = key.toStdString();
-            if (m_access && m_controls.emplace(name, control.widget).second)
+            if (m_access.isThere() && m_controls.emplace(name, control.widget).second)
                 m_keys.push_back(name);
         }
+        const bool isLocked =
+            std::any_of(control.settingKeys.begin(), control.settingKeys.end(),
+                        [this](const QString &key) { return m_session.lockReason(key.toStdString()).has_value(); });
+        for (const QString &key : control.settingKeys) {
+            if (isLocked)
+                m_held.insert(key.toStdString());
+        }
     }
+}
+
+void olEditedPage::putBackHeld()
+{
+    const bool isWritten = std::any_of(m_held.begin(), m_held.end(), [this](const std::string &key) {
+        const auto filled = m_filled.find(key);
+        return filled != m_filled.end() && !isSame(filled->second.onPage, valueOnPage(key));
+    });
+    if (!isWritten)
+        return;
+    m_isPuttingBack = true;
+    show({});
+    m_isPuttingBack = false;
 }
 
 /// Whatever a person can edit tells of it by the signal of its user property, but for lists and colours.
@@ -84,19 +118,22 @@ QWidget *olEditedPage::control(const std::string &key) const
 void olEditedPage::fill()
 {
     m_entry.updateGUI();
-    settle();
+    markClean();
 }
 
-void olEditedPage::settle()
+void olEditedPage::markClean()
 {
     m_filled.clear();
     m_put.clear();
     for (const std::string &key : m_keys) {
         // Made the host's own, as the library that holds it may go first.
         const boost::any value = olValue::adopted(m_entry.value(key));
-        const boost::any standard = m_session.defaultValue(key);
-        m_types[key] = olValue::typeName(standard.empty() ? value : standard);
-        m_filled[key] = {value, textOnPage(key)};
+        // Only what is absent by default has to be asked about.
+        const olOfferedDefault *offered = m_entry.findDefault(key);
+        const std::string type =
+            offered ? olValue::typeName(offered->value) : olSettingDescription::of(m_entry, key).type;
+        m_types[key] = type.empty() ? olValue::typeName(value) : type;
+        m_filled[key] = {value, valueOnPage(key)};
     }
     m_untagged = untaggedState();
     emit edited();
@@ -104,26 +141,15 @@ void olEditedPage::settle()
 
 boost::any olEditedPage::valueOnPage(const std::string &key) const
 {
-    QVariant shown;
-    if (m_access) {
-        QMetaObject::invokeMethod(m_access, "value", Q_RETURN_ARG(QVariant, shown),
-                                  Q_ARG(QString, QString::fromStdString(key)));
-    }
     const auto type = m_types.find(key);
-    return olValue::fromVariant(type == m_types.end() ? std::string() : type->second, shown);
-}
-
-std::string olEditedPage::textOnPage(const std::string &key) const
-{
-    const boost::any value = valueOnPage(key);
-    return isNothing(value) ? std::string() : olValue::toJson(value);
+    return m_access.value(key, type == m_types.end() ? std::string() : type->second);
 }
 
 /// A page that lets nobody read its settings is judged by all that its controls show.
 QVariantList olEditedPage::untaggedState() const
 {
     QVariantList state;
-    if (m_access)
+    if (m_access.isThere())
         return state;
     const QList<QWidget *> widgets = withDescendants(*m_entry.page());
     for (const QWidget *widget : widgets) {
@@ -136,14 +162,14 @@ QVariantList olEditedPage::untaggedState() const
 
 boost::any olEditedPage::value(const std::string &key) const
 {
-    const std::string onPage = textOnPage(key);
+    const boost::any onPage = valueOnPage(key);
     const auto put = m_put.find(key);
-    if (put != m_put.end() && put->second.onPage == onPage)
+    if (put != m_put.end() && olValue::identical(put->second.onPage, onPage))
         return put->second.value;
     const auto filled = m_filled.find(key);
-    if (filled != m_filled.end() && filled->second.onPage == onPage)
+    if (filled != m_filled.end() && olValue::identical(filled->second.onPage, onPage))
         return filled->second.value;
-    return valueOnPage(key);
+    return onPage;
 }
 
 boost::any olEditedPage::valueInForce(const std::string &key) const
@@ -164,9 +190,9 @@ bool olEditedPage::isChanged() const
 bool olEditedPage::isChanged(const std::string &key) const
 {
     const auto filled = m_filled.find(key);
-    if (filled == m_filled.end())
+    if (filled == m_filled.end() || isHeld(key))
         return false;
-    return filled->second.onPage != textOnPage(key) || !isSame(filled->second.value, value(key));
+    return !olValue::identical(filled->second.onPage, valueOnPage(key)) || !isSame(filled->second.value, value(key));
 }
 
 bool olEditedPage::differsFromDefault(const std::string &key) const
@@ -189,7 +215,7 @@ void olEditedPage::show(const olSettingValues &values)
     for (const auto &[key, value] : values) {
         // A list that its control shows nothing of was not for it.
         if (hasControl(key) && (isNothing(value) || !isNothing(valueOnPage(key))))
-            m_put[key] = {olValue::adopted(value), textOnPage(key)};
+            m_put[key] = {olValue::adopted(value), valueOnPage(key)};
     }
     emit edited();
 }

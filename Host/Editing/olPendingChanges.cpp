@@ -18,7 +18,7 @@ const std::vector<olPreferencesEntry *> &modules() { return olPreferencesRegistr
 
 olPendingChanges::olPendingChanges(olPreferencesSession &session) : m_session(session)
 {
-    connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, this, &olPendingChanges::forgetTheGone);
+    connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, this, &olPendingChanges::forgetTheGone);
     connect(&session, &olPreferencesSession::aboutToTakeOver, this, &olPendingChanges::setAside);
     connect(&session, &olPreferencesSession::tookOver, this, &olPendingChanges::showAgain);
 }
@@ -82,7 +82,7 @@ void olPendingChanges::setAside(const olPreferencesEntry &entry)
 void olPendingChanges::showAgain(const olPreferencesEntry &entry)
 {
     if (olEditedPage *page = findPage(entry)) {
-        page->settle();
+        page->markClean();
         if (!m_aside.empty())
             page->show(m_aside);
     }
@@ -142,6 +142,13 @@ boost::any olPendingChanges::value(const std::string &key) const
     return owner ? owner->value(key) : boost::any();
 }
 
+bool olPendingChanges::isPending(const std::string &key) const
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    return m_withoutControl.count(key) != 0 || (page && page->hasControl(key) && page->isChanged(key));
+}
+
 bool olPendingChanges::differsFromDefault(const std::string &key) const
 {
     const olPreferencesEntry *owner = ownerOf(key);
@@ -179,12 +186,34 @@ void olPendingChanges::put(const olSettingValues &values)
         else
             m_restored.erase(key);
         olPreferencesEntry *owner = ownerOf(key);
-        if (owner && !m_session.lockReason(key))
+        if (owner && !m_session.lockReason(key) && isAgreed(key, value))
             byOwner[owner][key] = value;
     }
     for (const auto &[owner, own] : byOwner)
         putOwn(*owner, own);
     emit edited();
+}
+
+bool olPendingChanges::isAgreed(const std::string &key, const boost::any &value) const
+{
+    const std::optional<olSettingWarning> question = m_session.warning(key, value);
+    return !question || olValue::equal(this->value(key), value) || (m_ask && m_ask(*question));
+}
+
+void olPendingChanges::takeBack(const std::string &key)
+{
+    const olPreferencesEntry *owner = ownerOf(key);
+    const olEditedPage *page = owner ? findPage(*owner) : nullptr;
+    if (page && page->hasControl(key))
+        put({{key, page->valueInForce(key)}});
+    else if (m_withoutControl.erase(key) != 0)
+        emit edited();
+}
+
+void olPendingChanges::takeBack(const olPreferencesEntry &entry)
+{
+    if (olEditedPage *page = findPage(entry))
+        page->fill();
 }
 
 void olPendingChanges::putOwn(olPreferencesEntry &entry, const olSettingValues &values)
@@ -258,20 +287,24 @@ void olPendingChanges::putWhatDiffers(olSettingValues defaults)
     put(defaults);
 }
 
-QString olPendingChanges::commit()
+olResult<> olPendingChanges::commit()
 {
+    for (const olPreferencesEntry *entry : m_filled)
+        findPage(*entry)->finishTyping();
     olSettingValues besides = m_withoutControl;
     for (const olPreferencesEntry *entry : m_filled)
+        findPage(*entry)->putBackHeld();
+    for (const olPreferencesEntry *entry : m_filled)
         besides.merge(findPage(*entry)->roundedOnPage());
-    QString error = m_session.confirm(m_filled, besides, m_restored);
-    if (error.isEmpty()) {
+    olResult<> committed = m_session.commit(m_filled, besides, m_restored);
+    if (committed.isOk()) {
         m_withoutControl.clear();
         m_restored.clear();
         for (const olPreferencesEntry *entry : m_filled)
-            findPage(*entry)->settle();
+            findPage(*entry)->markClean();
     }
     emit edited();
-    return error;
+    return committed;
 }
 
 olPreferencesEntry *olPendingChanges::ownerOf(const std::string &key) const

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
+#include "State/olResult.h"
+#include "olHostExport.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -27,7 +30,7 @@ struct olPendingChange {
 
 /// All edits since the dialog was opened, over all pages and for settings that no page shows. They are pending: the
 /// values in force are as they were until commit().
-class olPendingChanges : public QObject
+class ORLO_HOST_EXPORT olPendingChanges : public QObject
 {
     Q_OBJECT
 
@@ -56,6 +59,7 @@ public:
     /// Pending where it is edited, else in force.
     [[nodiscard]] boost::any value(const std::string &key) const;
     [[nodiscard]] bool differsFromDefault(const std::string &key) const;
+    [[nodiscard]] bool isPending(const std::string &key) const;
 
     /// The same for a setting with a control on that module's page, without a look at all other pages for its owner.
     [[nodiscard]] bool differsFromDefault(const olPreferencesEntry &entry, const std::string &key) const;
@@ -63,15 +67,22 @@ public:
     /// The values in force of all settings, pending edits left out.
     [[nodiscard]] olSettingValues inForce() const;
 
+    /// Who asks the question that goes with a value; without one, or without consent, the value is passed over.
+    void askWith(std::function<bool(const olSettingWarning &)> ask) { m_ask = std::move(ask); }
+
     /// Makes these values pending, on their pages where a control shows them. Those of locked settings are passed over.
     void put(const olSettingValues &values);
+
+    /// Back to the value in force, or all of a module's page to what it was filled with.
+    void takeBack(const std::string &key);
+    void takeBack(const olPreferencesEntry &entry);
 
     /// Makes the defaults of one module's settings pending, or those of all.
     void restore(olPreferencesEntry &entry);
     void restoreAll();
 
     /// Takes all pages filled, stores and applies. An error leaves everything as it was, the edits too.
-    [[nodiscard]] QString commit();
+    olResult<> commit();
 
     /// The module on whose page the setting is edited, else the one that offers its default; null for an unknown key.
     [[nodiscard]] olPreferencesEntry *ownerOf(const std::string &key) const;
@@ -84,12 +95,14 @@ private:
     void setAside(const olPreferencesEntry &entry);
     void showAgain(const olPreferencesEntry &entry);
     void findOwners() const;
+    [[nodiscard]] bool isAgreed(const std::string &key, const boost::any &value) const;
     [[nodiscard]] olSettingValues defaultsOf(const olPreferencesEntry &entry) const;
     [[nodiscard]] bool isShared(const std::string &key) const;
     void putWhatDiffers(olSettingValues defaults);
     void putOwn(olPreferencesEntry &entry, const olSettingValues &values);
 
     olPreferencesSession &m_session;
+    std::function<bool(const olSettingWarning &)> m_ask;
     std::map<const olPreferencesEntry *, std::unique_ptr<olEditedPage>> m_pages;
     std::vector<olPreferencesEntry *> m_filled;
     olSettingValues m_withoutControl;

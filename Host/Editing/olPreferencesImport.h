@@ -6,8 +6,6 @@
 #include <functional>
 #include <vector>
 
-class QWidget;
-
 /// What importing a file would do, before anything is done: which settings get another value, and which are passed over
 /// and why. A setting that has the file's value already is in neither list.
 struct ORLO_HOST_EXPORT olPreferencesImport {
@@ -17,18 +15,23 @@ struct ORLO_HOST_EXPORT olPreferencesImport {
         boost::any after;
     };
 
-    /// The value that counts as the present one, and the control that edits a setting, null where none does.
-    using ValueOf = std::function<boost::any(const std::string &key)>;
-    using ControlOf = std::function<QWidget *(const std::string &key)>;
+    /// A question that must be agreed to before the setting gets its value.
+    struct Warning {
+        std::string key;
+        olSettingWarning question;
+    };
 
-    /// Unknown keys, values of another type than the setting's, those that its control cannot hold, and locked settings
-    /// are skipped.
+    /// The value that counts as the present one.
+    using ValueOf = std::function<boost::any(const std::string &key)>;
+
+    /// Skipped is what the session says may not be set; see olPreferencesSession::whyNot().
     olPreferencesImport(const olPreferencesSession &session, const olPreferencesFile::Contents &contents,
-                        const ValueOf &valueOf, const ControlOf &controlOf);
+                        const ValueOf &valueOf);
 
     /// The values of the changes.
     [[nodiscard]] olSettingValues values() const;
 
     std::vector<Change> changes;
+    std::vector<Warning> warnings; ///< of the changes
     std::vector<olSkippedSetting> skipped;
 };

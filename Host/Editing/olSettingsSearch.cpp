@@ -1,12 +1,15 @@
 #include "Editing/olSettingsSearch.h"
 
+#include "Editing/olPlainText.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
-#include <QTextDocument>
-#include <QTextDocumentFragment>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <cstdlib>
+#include <numeric>
+#include <utility>
 
 namespace
 {
@@ -14,9 +17,47 @@ namespace
 // Stands between the texts of a control, so that no word is found across two of them.
 constexpr QChar border(0x1f);
 
-QString withoutMarkup(const QString &text)
+/// As it is compared: whoever writes "antialiasing" also means "Anti-Aliasing".
+QString folded(QString text) { return text.remove(QLatin1Char('-')).toCaseFolded(); }
+
+/// How many letters must be typed in another way to get from one word to the other; more than the most is not counted.
+int distance(const QString &left, const QString &right, int most)
 {
-    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+    if (std::abs(left.size() - right.size()) > most)
+        return most + 1;
+    std::vector<int> before(std::size_t(right.size()) + 1);
+    std::iota(before.begin(), before.end(), 0);
+    std::vector<int> last = before;
+    std::vector<int> row = before;
+    for (int at = 0; at < left.size(); ++at) {
+        row[0] = at + 1;
+        for (int other = 0; other < right.size(); ++other) {
+            const auto here = std::size_t(other);
+            row[here + 1] =
+                std::min({last[here] + (left[at] == right[other] ? 0 : 1), last[here + 1] + 1, row[here] + 1});
+            // Two letters in the wrong order are one slip.
+            if (at > 0 && other > 0 && left[at] == right[other - 1] && left[at - 1] == right[other])
+                row[here + 1] = std::min(row[here + 1], before[here - 1] + 1);
+        }
+        before = std::exchange(last, row);
+    }
+    return last.back();
+}
+
+/// Whether the word stands there but for a slip of the fingers. Short words have too many neighbours for that.
+bool isNearly(const QString &text, const QString &word)
+{
+    constexpr int shortest = 5;
+    constexpr int lengthForTwo = 9;
+    if (text.contains(word))
+        return true;
+    if (word.size() < shortest)
+        return false;
+    const int most = word.size() < lengthForTwo ? 1 : 2;
+    static const QRegularExpression apart(QStringLiteral("[^\\w]+"));
+    const auto parts = text.splitRef(apart, Qt::SkipEmptyParts);
+    return std::any_of(parts.begin(), parts.end(),
+                       [&](const QStringRef &part) { return distance(word, part.toString(), most) <= most; });
 }
 
 olFoundControl indexed(const olPageControl &control)
@@ -27,45 +68,55 @@ olFoundControl indexed(const olPageControl &control)
         found.labels.emplace_back(label);
     found.name = control.names.value(0);
     found.keys = control.settingKeys;
-    const QStringList texts =
-        control.names + control.choices + control.settingKeys + QStringList{withoutMarkup(control.toolTip)};
-    found.searched = texts.join(border).toCaseFolded();
+    const QStringList texts = control.names + control.captions + control.choices + control.settingKeys +
+                              QStringList{olPlainText(control.toolTip)};
+    found.captions = control.captions;
+    found.searched = folded(texts.join(border));
     return found;
 }
 
-bool hasAll(const QString &text, const QStringList &words)
+using Compare = bool (*)(const QString &text, const QString &word);
+
+bool stands(const QString &text, const QString &word) { return text.contains(word); }
+
+bool hasAll(const QString &text, const QStringList &words, Compare compare)
 {
-    return std::all_of(words.begin(), words.end(), [&text](const QString &word) { return text.contains(word); });
+    return std::all_of(words.begin(), words.end(), [&](const QString &word) { return compare(text, word); });
 }
 
-bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const QStringList &words)
+bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const QStringList &words, Compare compare)
 {
-    return hasAll(control.searched, words) && control.widget && olPageIndex::isShown(*entry.page(), *control.widget);
+    return control.widget && hasAll(control.searched, words, compare) &&
+           olPageIndex::isShown(*entry.page(), *control.widget);
 }
 
 } // namespace
 
 olSettingsSearch::olSettingsSearch()
 {
-    const auto *registry = &olPreferencesRegistry::the();
-    connect(registry, &olPreferencesRegistry::changed, this, &olSettingsSearch::invalidate);
-    connect(registry, &olPreferencesRegistry::pageAboutToGo, this, &olSettingsSearch::invalidate);
+    const auto *news = &olPreferencesRegistry::the().news();
+    connect(news, &olRegistryNews::changed, this, &olSettingsSearch::invalidate);
+    connect(news, &olRegistryNews::pageAboutToGo, this, &olSettingsSearch::invalidate);
 }
 
 void olSettingsSearch::invalidate() { m_pages.clear(); }
 
 std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
 {
-    const QStringList words = text.toCaseFolded().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList words = folded(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     std::vector<olSearchResult> results;
-    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
-        olSearchResult result{entry, {}};
-        for (const olFoundControl &control : controls(*entry)) {
-            if (isHit(*entry, control, words))
-                result.hits.push_back(&control);
+    for (const Compare compare : {stands, isNearly}) {
+        for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
+            olSearchResult result{entry, {}};
+            for (const olFoundControl &control : controls(*entry)) {
+                if (isHit(*entry, control, words, compare))
+                    result.hits.push_back(&control);
+            }
+            if (!result.hits.empty() || (entry->page() && hasAll(folded(entry->name()), words, compare)))
+                results.push_back(std::move(result));
         }
-        if (!result.hits.empty() || (entry->page() && hasAll(entry->name().toCaseFolded(), words)))
-            results.push_back(std::move(result));
+        if (!results.empty())
+            break;
     }
     return results;
 }

@@ -20,6 +20,7 @@ struct olFoundControl {
     std::vector<QPointer<QWidget>> labels;
     QString name;
     QStringList keys;
+    QStringList captions; ///< of tabs, frames and groups around it, outermost first
     QString searched;
 };
 
@@ -29,7 +30,8 @@ struct olSearchResult {
     std::vector<const olFoundControl *> hits;
 };
 
-/// Finds controls on all pages by label, tooltip, choice text and key. What a page hides is not found. A page
+/// Finds controls on all pages by label, caption, tooltip, choice text and key; case and hyphens aside, and where that
+/// finds nothing, also with a slip or two in longer words. What a page hides is not found. A page
 /// is indexed when it is asked for first, so that opening one page need not wait for all; and again after modules or
 /// pages come or go.
 class olSettingsSearch : public QObject

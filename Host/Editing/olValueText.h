@@ -1,12 +1,15 @@
 #pragma once
 
+#include "olHostExport.h"
+
 #include <QString>
 #include <boost/any.hpp>
 
-class QWidget;
+#include <string>
 
-/// How a value reads for a person, in the words of the control that shows it: the item of a combo box, "on" or "off" of
-/// a box. `current` is the value that the control stands at, and tells how it counts. Without a control, or where the
-/// control does not tell, the plain value.
-[[nodiscard]] QString olValueText(const boost::any &value, const QWidget *control = nullptr,
-                                  const boost::any &current = {});
+/// How a setting's value reads for a person, in the words of its module: the item of a combo box, a number with its
+/// unit. Of a module that tells nothing, the plain value.
+[[nodiscard]] ORLO_HOST_EXPORT QString olValueText(const std::string &key, const boost::any &value);
+
+/// The same on one line, cut where it is long.
+[[nodiscard]] ORLO_HOST_EXPORT QString olShortValueText(const std::string &key, const boost::any &value);

@@ -32,14 +32,15 @@ QStringList standardPlaces()
 
 olPluginLoader::~olPluginLoader() { unload(); }
 
-QString olPluginLoader::load(const QString &given)
+olResult<> olPluginLoader::load(const QString &given)
 {
     unload();
     const QStringList places = given.isEmpty() ? standardPlaces() : QStringList(given);
     const auto found =
         std::find_if(places.begin(), places.end(), [](const QString &place) { return QFileInfo::exists(place); });
     if (found == places.end() && given.isEmpty())
-        return translated("Cannot load the preferences plug-in: there is neither %1 nor %2.").arg(places[0], places[1]);
+        return olFailure{
+            translated("Cannot load the preferences plug-in: there is neither %1 nor %2.").arg(places[0], places[1])};
     // A bare name would be searched for in the system's folders.
     m_library.setFileName(QFileInfo(found == places.end() ? given : *found).absoluteFilePath());
     m_library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
@@ -54,14 +55,14 @@ QString olPluginLoader::load(const QString &given)
         return failure(fault);
     if (!m_library.load())
         return failure(m_library.errorString());
-    olRegisterSceneLoaders();
-    const QString error = enter();
-    if (!error.isEmpty())
+    olStartOpenSG();
+    olResult<> entered = enter();
+    if (!entered.isOk())
         unload();
-    return error;
+    return entered;
 }
 
-QString olPluginLoader::enter()
+olResult<> olPluginLoader::enter()
 {
     const auto entry = reinterpret_cast<void (*)()>(m_library.resolve(entryName));
     if (!entry)
@@ -85,7 +86,7 @@ void olPluginLoader::unload()
     m_library.unload();
 }
 
-QString olPluginLoader::failure(const QString &reason) const
+olFailure olPluginLoader::failure(const QString &reason) const
 {
-    return translated("Cannot load the preferences plug-in %1: %2.").arg(m_library.fileName(), reason);
+    return {translated("Cannot load the preferences plug-in %1: %2.").arg(m_library.fileName(), reason)};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "State/olResult.h"
 #include "olHostExport.h"
 
 #include <QLibrary>
@@ -16,12 +17,12 @@ public:
     olPluginLoader &operator=(const olPluginLoader &) = delete;
 
     /// Loads `given`, where it is not empty, else the plug-in beside the program, else the installed one, and calls its
-    /// entry function. Returns an empty text, else one sentence that names the file, or all places looked at, and the
-    /// reason; then nothing of the library stays loaded.
-    [[nodiscard]] QString load(const QString &given);
+    /// entry function. Where that fails the sentence names the file, or all places looked at, and the reason, and
+    /// nothing of the library stays loaded.
+    olResult<> load(const QString &given);
 
-    /// Calls the entry function once more. The library must be loaded. Returns what load() would.
-    [[nodiscard]] QString enter();
+    /// Calls the entry function once more. The library must be loaded. Fails as load() does.
+    olResult<> enter();
 
     [[nodiscard]] bool isLoaded() const { return m_library.isLoaded(); }
 
@@ -29,7 +30,7 @@ public:
     void unload();
 
 private:
-    [[nodiscard]] QString failure(const QString &reason) const;
+    [[nodiscard]] olFailure failure(const QString &reason) const;
 
     QLibrary m_library;
 };

@@ -19,8 +19,6 @@ constexpr int currentFormat = 1;
 
 QString translated(const char *text) { return QCoreApplication::translate("olPreferencesFile", text); }
 
-olPreferencesFile::Contents failed(const QString &error) { return {{}, {}, error}; }
-
 const olJsonMember *find(const std::vector<olJsonMember> &members, const char *key)
 {
     const auto found = std::find_if(members.begin(), members.end(),
@@ -40,29 +38,22 @@ QString formatError(const olJsonMember *format)
     return {};
 }
 
-/// The value of one setting; empty, with the reason, where the file does not tell it clearly.
-boost::any valueOf(const olJsonMember &setting, QString &reason)
+/// The value of one setting, or the reason why the file does not tell it clearly.
+olResult<boost::any> valueOf(const std::vector<olJsonMember> &parts)
 {
-    std::vector<olJsonMember> parts;
-    const bool isRead = !olReadObject(setting.value, setting.line, parts);
     const olJsonMember *named = find(parts, "type");
-    const olJsonMember *value = find(parts, "value");
-    const boost::any type = isRead && named && value ? olValue::fromJson("string", named->text()) : boost::any();
-    if (type.empty()) {
-        reason = translated("has no type or no value");
-        return {};
-    }
+    const olJsonMember *written = find(parts, "value");
+    const boost::any type = named && written ? olValue::fromJson("string", named->text()) : boost::any();
+    if (type.empty())
+        return olFailure{translated("has no type or no value")};
     const auto &name = boost::any_cast<const std::string &>(type);
-    if (!olValue::isTypeName(name)) {
-        reason = translated("is of the unknown type \"%1\"").arg(QString::fromStdString(name));
-        return {};
-    }
-    boost::any read = olValue::fromJson(name, value->text());
-    if (read.empty()) {
-        reason = translated("is not %1, as its type %2 asks for")
-                     .arg(QString::fromStdString(olValue::expectation(name)), QString::fromStdString(name));
-    }
-    return read;
+    if (!olValue::isTypeName(name))
+        return olFailure{translated("is of the unknown type \"%1\"").arg(QString::fromStdString(name))};
+    boost::any value = olValue::fromJson(name, written->text());
+    if (value.empty())
+        return olFailure{translated("is not %1, as its type %2 asks for")
+                             .arg(QString::fromStdString(olValue::expectation(name)), QString::fromStdString(name))};
+    return value;
 }
 
 /// A private file, unless there was one with a mode of its own.
@@ -98,62 +89,66 @@ QByteArray olPreferencesFile::toJson(const olSettingValues &settings)
                                      lines + "\n  }\n}\n");
 }
 
-olPreferencesFile::Contents olPreferencesFile::fromJson(const QByteArray &text)
+olResult<olPreferencesFile::Contents> olPreferencesFile::fromJson(const QByteArray &text)
 {
     const auto faultIn = [](const std::optional<olJsonFault> &fault) {
-        return failed(translated("Line %1: %2.").arg(fault->line).arg(fault->what));
+        return olFailure{translated("Line %1: %2.").arg(fault->line).arg(fault->what)};
     };
     std::vector<olJsonMember> members;
     if (const auto fault = olReadObject({text.constData(), std::size_t(text.size())}, 1, members))
         return faultIn(fault);
     const QString wrongFormat = formatError(find(members, "format"));
     if (!wrongFormat.isEmpty())
-        return failed(wrongFormat);
+        return olFailure{wrongFormat};
     const olJsonMember *listed = find(members, "settings");
     if (!listed)
-        return failed(translated("It lists no settings."));
+        return olFailure{translated("It lists no settings.")};
     std::vector<olJsonMember> settings;
     if (const auto fault = olReadObject(listed->value, listed->line, settings))
         return faultIn(fault);
 
     Contents contents;
     for (const olJsonMember &setting : settings) {
+        std::vector<olJsonMember> parts;
+        if (setting.value.front() == '{') {
+            if (const auto fault = olReadObject(setting.value, setting.line, parts))
+                return faultIn(fault);
+        }
         const std::string key = setting.key.toStdString();
-        QString reason;
-        const boost::any value = valueOf(setting, reason);
-        if (value.empty())
-            contents.skipped.push_back({key, reason});
+        const olResult<boost::any> value = valueOf(parts);
+        if (value.isOk())
+            contents.settings[key] = *value;
         else
-            contents.settings[key] = value;
+            contents.skipped.push_back({key, value.error()});
     }
     return contents;
 }
 
-QString olPreferencesFile::write(const QString &file, const olSettingValues &settings)
+olResult<> olPreferencesFile::write(const QString &file, const olSettingValues &settings)
 {
     const QByteArray text = toJson(settings);
     const QFileInfo place(file);
-    const auto failure = [&file](const QFileDevice &out) {
-        return translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString());
+    const auto result = [&file](const QFileDevice &out, bool isWritten) -> olResult<> {
+        if (isWritten)
+            return {};
+        return olFailure{translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString())};
     };
     if (place.exists() && !place.isFile()) {
         QFile out(file);
-        return writeInto(out, text) ? QString() : failure(out);
+        return result(out, writeInto(out, text));
     }
     QSaveFile out(file);
-    return writeWhole(out, text) ? QString() : failure(out);
+    return result(out, writeWhole(out, text));
 }
 
-olPreferencesFile::Contents olPreferencesFile::read(const QString &file)
+olResult<olPreferencesFile::Contents> olPreferencesFile::read(const QString &file)
 {
     QFile in(file);
-    if (!in.open(QIODevice::ReadOnly))
-        return failed(translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString()));
-    const QByteArray text = in.readAll();
+    const QByteArray text = in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     if (in.error() != QFile::NoError)
-        return failed(translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString()));
-    Contents contents = fromJson(text);
-    if (!contents.error.isEmpty())
-        contents.error = translated("Cannot import %1. %2").arg(file, contents.error);
+        return olFailure{translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString())};
+    auto contents = fromJson(text);
+    if (!contents.isOk())
+        return olFailure{translated("Cannot import %1. %2").arg(file, contents.error())};
     return contents;
 }

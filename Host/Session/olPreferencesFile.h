@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
+#include "State/olResult.h"
 #include "olHostExport.h"
 
 #include <QByteArray>
@@ -21,20 +22,19 @@ struct ORLO_HOST_EXPORT olSkippedSetting {
 class ORLO_HOST_EXPORT olPreferencesFile
 {
 public:
-    /// What a file holds. With an error, one sentence that names the reason, it holds nothing.
+    /// What a file holds.
     struct Contents {
         olSettingValues settings;
         std::vector<olSkippedSetting> skipped;
-        QString error;
     };
 
     /// One setting a line, in the order of the keys. Values of types that settings do not have are left out.
     [[nodiscard]] static QByteArray toJson(const olSettingValues &settings);
-    [[nodiscard]] static Contents fromJson(const QByteArray &text);
+    /// Fails with the reason as a sentence; then nothing of the text counts.
+    static olResult<Contents> fromJson(const QByteArray &text);
 
     /// Writes the file whole or leaves it as it was; a new one is for its owner alone. What is no regular file, as a
-    /// pipe, is written into. Returns an empty text, else one sentence that names the file and
-    /// the reason.
-    [[nodiscard]] static QString write(const QString &file, const olSettingValues &settings);
-    [[nodiscard]] static Contents read(const QString &file);
+    /// pipe, is written into. Failures name the file and the reason.
+    static olResult<> write(const QString &file, const olSettingValues &settings);
+    static olResult<Contents> read(const QString &file);
 };

@@ -2,6 +2,7 @@
 
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
+#include "Session/olModuleAccess.h"
 #include "Session/olSettingsLock.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
@@ -132,6 +133,9 @@ QStringList stampsOf(const QStringList &files)
     return stamps;
 }
 
+/// From a sentence that is empty where all went well.
+olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
+
 void setDisplayLanguage()
 {
     const int *language = boost::any_cast<int>(&record().get(languageKey));
@@ -143,6 +147,31 @@ template <class Visit> void eachOwner(const std::string &key, Visit visit)
 {
     const auto [first, end] = olPreferencesRegistry::the().offersOf(key);
     std::for_each(first, end, [&visit](const olOffer &offer) { visit(*offer.entry); });
+}
+
+/// Of that type; empty for a type that is no list.
+boost::any emptyList(const std::string &type) { return olValue::fromJson(type, QByteArrayLiteral("[]")); }
+
+/// A list that is absent until somebody fills it, and has no default.
+struct OptionalList {
+    olPreferencesEntry *module;
+    boost::any none;
+};
+
+std::map<std::string, OptionalList> optionalLists()
+{
+    std::map<std::string, OptionalList> found;
+    for (olPreferencesEntry *entry : entries()) {
+        const std::vector<std::string> keys = olModuleAccess(*entry).keys();
+        for (const std::string &key : keys) {
+            if (olPreferencesRegistry::the().ownerOf(key))
+                continue;
+            const boost::any none = emptyList(olSettingDescription::of(*entry, key).type);
+            if (!none.empty())
+                found.emplace(key, OptionalList{entry, none});
+        }
+    }
+    return found;
 }
 
 /// The modules with, behind them, those that have one of the settings.
@@ -168,7 +197,7 @@ olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStri
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
 
-QString olPreferencesSession::loadStore(olStoreUse use)
+olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
     const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
     if (!opening.notice.isEmpty())
@@ -186,7 +215,7 @@ QString olPreferencesSession::loadStore(olStoreUse use)
     if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
     setDisplayLanguage();
-    return opening.error;
+    return resultOf(opening.error);
 }
 
 void olPreferencesSession::stop()
@@ -195,7 +224,7 @@ void olPreferencesSession::stop()
     m_plugin.unload();
 }
 
-QString olPreferencesSession::loadPlugin(const QString &given)
+olResult<> olPreferencesSession::loadPlugin(const QString &given)
 {
     const QString notice = olRemoveAbandonedLock();
     if (!notice.isEmpty())
@@ -209,8 +238,13 @@ void olPreferencesSession::fillDefaults()
     for (olPreferencesEntry *entry : entries())
         entry->setDefaults(false);
 
-    m_site.settle([this](const std::string &key) { return defaultValue(key); });
+    settleSite(m_site);
     m_notices << m_site.takeFaults();
+    for (const auto &[key, list] : optionalLists()) {
+        // At this site it has a default like any other.
+        if (m_site.settings().count(key) != 0)
+            list.module->offered(key, list.none);
+    }
     for (const auto &site : m_site.settings()) {
         const auto &[key, setting] = site;
         eachOwner(key, [&, key = key, value = setting.value](olPreferencesEntry &owner) {
@@ -220,6 +254,17 @@ void olPreferencesSession::fillDefaults()
         });
     }
     restoreLocked();
+}
+
+void olPreferencesSession::settleSite(olSiteDefaults &site) const
+{
+    const auto optional = optionalLists();
+    const auto defaultOf = [this, &optional](const std::string &key) {
+        const auto list = optional.find(key);
+        return list == optional.end() ? defaultValue(key) : list->second.none;
+    };
+    site.settle(defaultOf,
+                [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
 void olPreferencesSession::start()
@@ -232,7 +277,7 @@ void olPreferencesSession::start()
         entry->updateGUI();
     for (olPreferencesEntry *entry : entries()) {
         entry->preferencesInitialApply();
-        entry->settle();
+        entry->markClean();
     }
 }
 
@@ -312,10 +357,11 @@ olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stor
     return changes;
 }
 
-QString olPreferencesSession::save()
+olResult<> olPreferencesSession::save()
 {
     const QScopedValueRollback<bool> changing(m_isChanging, true);
     restoreLocked();
+    keepEmptied();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
     QString error = m_store.save(changes.changed, changes.removed);
@@ -331,7 +377,7 @@ QString olPreferencesSession::save()
         m_chosen.clear();
         m_restored.clear();
     }
-    return error;
+    return resultOf(error);
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
@@ -351,8 +397,8 @@ QString olPreferencesSession::saveIntoMended(const QString &error, const Values 
     return newError;
 }
 
-QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
-                                      const std::set<std::string> &restored)
+olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
+                                        const std::set<std::string> &restored)
 {
     // A module may open a box on the way.
     const QScopedValueRollback<bool> changing(m_isChanging, true);
@@ -360,16 +406,16 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
     takeBack(shown, besides);
     for (const std::string &key : restored)
         restore(key);
-    QString error = save();
+    olResult<> saved = save();
     m_restored.clear();
-    if (!error.isEmpty()) {
+    if (!saved.isOk()) {
         before.restore();
         // What the take-back reported is void; the service has its own reports back with its values.
         for (olPreferencesEntry *entry : shown) {
             if (entry->home() == olHome::Record)
-                entry->settle();
+                entry->markClean();
         }
-        return error;
+        return saved;
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
@@ -377,9 +423,9 @@ QString olPreferencesSession::confirm(const std::vector<olPreferencesEntry *> &s
                   [](auto *entry) { entry->updateGUI(); });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
-        entry->settle();
+        entry->markClean();
     }
-    return {};
+    return saved;
 }
 
 void olPreferencesSession::follow()
@@ -471,7 +517,7 @@ void olPreferencesSession::applyIn(olPreferencesEntry &entry, const std::set<std
     for (const std::string &key : keysOf(entry))
         entry.setChanged(key, changed.count(key) != 0);
     entry.applyPreferences();
-    entry.settle();
+    entry.markClean();
     emit tookOver(entry);
 }
 
@@ -485,6 +531,51 @@ std::optional<QString> olPreferencesSession::lockReason(const std::string &key) 
 {
     const auto found = m_site.settings().find(key);
     return found == m_site.settings().end() ? std::nullopt : found->second.locked;
+}
+
+olPreferencesEntry *olPreferencesSession::moduleOf(const std::string &key)
+{
+    if (olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key))
+        return owner;
+    const auto found = std::find_if(entries().begin(), entries().end(), [&key](const olPreferencesEntry *entry) {
+        return !olModuleAccess(*entry).describe(key).isEmpty();
+    });
+    return found == entries().end() ? nullptr : *found;
+}
+
+olSettingDescription olPreferencesSession::description(const std::string &key)
+{
+    const olPreferencesEntry *module = moduleOf(key);
+    return module ? olSettingDescription::of(*module, key) : olSettingDescription();
+}
+
+QString olPreferencesSession::origin(const std::string &key) const
+{
+    const auto site = m_site.settings().find(key);
+    const bool isGiven = site != m_site.settings().end();
+    const bool isStored = m_stored.count({olHome::Record, key}) != 0 || m_stored.count({olHome::Service, key}) != 0;
+    if (isStored && !(isGiven && site->second.locked))
+        return QStringLiteral("stored");
+    return isGiven ? QStringLiteral("site") : QStringLiteral("default");
+}
+
+QString olPreferencesSession::whyNot(const std::string &key, const boost::any &value) const
+{
+    if (const auto reason = lockReason(key))
+        return QCoreApplication::translate("olPreferencesSession", "is locked: %1").arg(*reason);
+    const olSettingDescription setting = description(key);
+    if (setting.type.empty())
+        return QCoreApplication::translate("olPreferencesSession", "is not known");
+    return olValue::identical(value, defaultValue(key)) ? QString() : setting.whyNot(value);
+}
+
+std::optional<olSettingWarning> olPreferencesSession::warning(const std::string &key, const boost::any &value) const
+{
+    const olPreferencesEntry *module = moduleOf(key);
+    if (!module || olValue::identical(module->value(key), value))
+        return std::nullopt;
+    std::optional<olSettingWarning> warning = olSettingDescription::of(*module, key).warning;
+    return warning && olValue::equal(warning->value, value) ? warning : std::nullopt;
 }
 
 /// The pages into their values, but for what is locked: that has its value again and counts as if nobody had touched
@@ -525,12 +616,24 @@ void olPreferencesSession::restoreLocked() const
     }
 }
 
+/// A page takes a list without rows out of the record; where the site has a default for it, that must not come back.
+void olPreferencesSession::keepEmptied() const
+{
+    for (const auto &site : m_site.settings()) {
+        const auto &[key, setting] = site;
+        eachOwner(key, [key = key, none = emptyList(olValue::typeName(setting.value))](olPreferencesEntry &owner) {
+            if (owner.value(key).empty() && !none.empty())
+                owner.setValue(key, none);
+        });
+    }
+}
+
 QStringList olPreferencesSession::check() const
 {
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
-        site.settle([this](const std::string &key) { return defaultValue(key); });
+        settleSite(site);
     return m_store.check() << site.takeFaults() << site.unknown();
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Session/olPluginLoader.h"
+#include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
+#include "State/olResult.h"
 #include "Store/olPreferencesStore.h"
 #include "olHostExport.h"
 
@@ -35,7 +37,7 @@ struct olOutsideChange {
 };
 
 /// One run of the host with its preferences: brings the store, the plug-in and the modules up in the host's order, and
-/// takes them down again. Every operation that can fail returns an empty text or one sentence that says why.
+/// takes them down again. What can fail says why in full sentences.
 class ORLO_HOST_EXPORT olPreferencesSession : public QObject
 {
     Q_OBJECT
@@ -46,16 +48,16 @@ public:
                                   const QStringList &siteFiles = olSiteDefaults::systemFiles());
     ~olPreferencesSession() override;
 
-    /// Puts what is stored into the record and the preferences service. The first thing of a run. Damage is no failure:
-    /// the last good copy is loaded and takeNotices() tells of it.
-    [[nodiscard]] QString loadStore(olStoreUse use = olStoreUse::Own);
+    /// Puts what is stored into the record and the preferences service. The first thing of a run. Damage is no
+    /// failure: the last good copy is loaded and takeNotices() tells of it.
+    olResult<> loadStore(olStoreUse use = olStoreUse::Own);
 
     /// What the person at the screen is to be told, each once: a damaged store and where it is now, faults in a site
     /// file. To be asked after the start and after each save.
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
-    [[nodiscard]] QString loadPlugin(const QString &given);
+    olResult<> loadPlugin(const QString &given);
     [[nodiscard]] olPluginLoader &plugin() { return m_plugin; }
 
     /// Fills the gaps in what was stored with the defaults of the site and of all modules, and sets what is locked.
@@ -77,7 +79,7 @@ public:
     /// Stores what differs from what the store holds. Values equal to their default are kept only where somebody chose
     /// them instead of another one: in another edition the default may be another. A locked setting first gets its
     /// locked value back; what a person once stored for it stays in the store for a time without the lock.
-    [[nodiscard]] QString save();
+    olResult<> save();
 
     /// For the next save: the value is kept although it is the default, or is not kept any longer if it is.
     void choose(const std::string &key);
@@ -87,17 +89,38 @@ public:
     /// every value is as it was before and nothing is applied. `besides` are values that count whatever the pages hold:
     /// of settings that no page shows, or that their control shows only rounded. `restored` are settings that were
     /// taken back to their defaults, see restore().
-    [[nodiscard]] QString confirm(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {},
-                                  const std::set<std::string> &restored = {});
+    olResult<> commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {},
+                      const std::set<std::string> &restored = {});
 
     /// Unloads the plug-in. Values are not stored by this.
     void stop();
+
+    /// Holds a site's files against the settings there are, in force here or not.
+    void settleSite(olSiteDefaults &site) const;
 
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
     [[nodiscard]] boost::any defaultValue(const std::string &key) const;
 
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
+
+    /// The module that has a setting, be it without a default; null for an unknown key.
+    [[nodiscard]] static olPreferencesEntry *moduleOf(const std::string &key);
+
+    /// What a setting is; without a type where no module has it.
+    [[nodiscard]] static olSettingDescription description(const std::string &key);
+
+    /// Where the value in force comes from: "stored" by a person, from the "site", or the module's "default".
+    [[nodiscard]] QString origin(const std::string &key) const;
+
+    /// Why a setting may not be given the value, as what follows its key in a sentence: it is not known or locked, or
+    /// the value is of another type, out of its range, none of its choices or too long. Empty where it may. What is
+    /// by default, of the site or the module, always may.
+    [[nodiscard]] QString whyNot(const std::string &key, const boost::any &value) const;
+
+    /// The question that must be agreed to before the setting is given the value; nothing where there is none, or
+    /// where the setting has the value already.
+    [[nodiscard]] std::optional<olSettingWarning> warning(const std::string &key, const boost::any &value) const;
 
     /// Looks the store and the site's files through; changes nothing. Returns a sentence for each finding. Types and
     /// keys of the site's files are checked only when the modules' defaults are there.
@@ -138,6 +161,7 @@ private:
     void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
+    void keepEmptied() const;
 
     olPreferencesStore m_store;
     olPreferencesStore::Values m_stored;

@@ -81,7 +81,7 @@ QString olProfiles::save(const QString &name, const olSettingValues &settings) c
         return wrong;
     if (!olStoreFile::makeFolder(m_own))
         return translated("Cannot make the folder %1.").arg(m_own);
-    return olPreferencesFile::write(ownFile(name), settings);
+    return olPreferencesFile::write(ownFile(name), settings).error();
 }
 
 QString olProfiles::remove(const QString &name) const

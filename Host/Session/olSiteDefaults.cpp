@@ -30,6 +30,18 @@ bool isInFolderOfRoots(const QString &file)
     return ::stat(QFile::encodeName(QFileInfo(file).path()).constData(), &status) == 0 && isRootsAlone(status);
 }
 
+/// Of that type, else of the type that the text itself is of, so that somebody can say what is wrong with it.
+boost::any valueOf(const QByteArray &json, const std::string &type)
+{
+    boost::any value;
+    for (const std::string &candidate : {type, std::string("bool"), std::string("int"), std::string("double"),
+                                         std::string("qstring"), std::string("floats")}) {
+        if (value.empty())
+            value = olValue::fromJson(candidate, json);
+    }
+    return value;
+}
+
 /// Opens a site's file. Returns why it does not count, an empty text where it does; nothing where there is none.
 std::optional<QString> open(QFile &file, olSiteOwner owner)
 {
@@ -158,28 +170,27 @@ olSiteSetting olSiteDefaults::settingOf(const Line &line, const boost::any &valu
     return {value, line.reason.isEmpty() ? translated("This setting is fixed for your site.") : line.reason};
 }
 
-void olSiteDefaults::settle(const DefaultOf &defaultOf)
+void olSiteDefaults::settle(const DefaultOf &defaultOf, const WhyNot &whyNot)
 {
     m_settings.clear();
     m_unknown.clear();
     for (const File &file : m_read) {
         for (const Line &line : file.lines)
-            settleLine(file.name, line, defaultOf(line.key));
+            settleLine(file.name, line, defaultOf(line.key), whyNot);
     }
 }
 
-void olSiteDefaults::settleLine(const QString &file, const Line &line, const boost::any &offered)
+void olSiteDefaults::settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot)
 {
     const QString key = QString::fromStdString(line.key);
     if (offered.empty()) {
         m_unknown << translated("%1, line %2: no module has a setting \"%3\".").arg(file).arg(line.number).arg(key);
         return;
     }
-    const std::string type = olValue::typeName(offered);
-    boost::any value = line.value.isNull() ? offered : olValue::fromJson(type, line.value);
-    if (value.empty()) {
-        fault(file, line.number,
-              translated("\"%1\" takes %2").arg(key, QString::fromStdString(olValue::expectation(type))));
+    boost::any value = line.value.isNull() ? offered : valueOf(line.value, olValue::typeName(offered));
+    const QString reason = whyNot(line.key, value);
+    if (!reason.isEmpty()) {
+        fault(file, line.number, QStringLiteral("\"%1\" %2").arg(key, reason));
         value = offered;
     }
     // What a more important file said before stays.

@@ -33,6 +33,9 @@ public:
     /// The default that a module offered for a key; empty where none did.
     using DefaultOf = std::function<boost::any(const std::string &key)>;
 
+    /// Why a setting cannot have a value, as what follows its key in a sentence; empty where it can.
+    using WhyNot = std::function<QString(const std::string &key, const boost::any &value)>;
+
     /// `orlo/site.json` in /etc/xdg, whatever the environment says, and then in each of the configuration folders that
     /// it names beside the user's own; existing or not.
     [[nodiscard]] static QStringList systemFiles();
@@ -49,8 +52,8 @@ public:
     /// A setting that is needed before there are modules; its value is empty where no file gives one of that type.
     [[nodiscard]] olSiteSetting early(const std::string &key, const std::string &type) const;
 
-    /// Holds the files against the modules' types. A value of another type leaves the module's default.
-    void settle(const DefaultOf &defaultOf);
+    /// Holds the files against the modules' settings. A value that a setting cannot have leaves the module's default.
+    void settle(const DefaultOf &defaultOf, const WhyNot &whyNot);
 
     /// After settle(): only keys that a module has.
     [[nodiscard]] const std::map<std::string, olSiteSetting> &settings() const { return m_settings; }
@@ -75,7 +78,7 @@ private:
     };
 
     void readFile(const QString &name);
-    void settleLine(const QString &file, const Line &line, const boost::any &offered);
+    void settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot);
     [[nodiscard]] static olSiteSetting settingOf(const Line &line, const boost::any &value);
     [[nodiscard]] static QString takePart(const QString &name, const QByteArray &value, Line &line);
     void reject(const QString &file, const QString &why);

@@ -1,43 +1,30 @@
 #include "Exchange/olExportScene.h"
 
-#include "Exchange/Formats/olExportIges.h"
-#include "Exchange/Formats/olExportVrml.h"
 #include "Exchange/olImportJob.h"
-#include "Exchange/olImportReaders.h"
 #include "Exchange/olModelFormat.h"
 #include "Exchange/olPartChanges.h"
 #include "Model/olDocumentCopy.h"
 #include "Model/olLibraryMessages.h"
-#include "Model/olPlainLook.h"
 
-#include "State/olHostState.h"
-
-#include <BRep_Builder.hxx>
-#include <IFSelect_ReturnStatus.hxx>
-#include <Interface_Static.hxx>
-#include <Message_ProgressRange.hxx>
-#include <RWGltf_CafWriter.hxx>
-#include <RWObj_CafWriter.hxx>
-#include <STEPCAFControl_Controller.hxx>
-#include <STEPCAFControl_Writer.hxx>
 #include <Standard_Failure.hxx>
-#include <StlAPI_Writer.hxx>
-#include <TColStd_IndexedDataMapOfStringString.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDF_Tool.hxx>
 #include <TDocStd_Document.hxx>
-#include <TopoDS_Compound.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -45,14 +32,7 @@
 namespace
 {
 
-constexpr double meter = 0.001;
-
-// Through the host's state: what its STL export format may be.
-constexpr int binaryStl = 1;
-
 QString translated(const char *text) { return QCoreApplication::translate("olExport", text); }
-
-TCollection_AsciiString path(const QString &file) { return QFile::encodeName(file).constData(); }
 
 /// What stands where in which group, as a key.
 std::string placeOf(const TDF_Label &instance)
@@ -83,13 +63,14 @@ olScene::Document withoutMeshes(const olScene::Document &document, QStringList &
     copy.isWanted = [&places, &remarks](const TDF_Label &instance) {
         if (!XCAFDoc_ShapeTool::IsComponent(instance) || places.insert(placeOf(instance)).second)
             return true;
-        remarks << translated("%1 stands twice in the same place; it is written once.").arg(olNameOf(instance));
+        remarks << translated("%1 stands twice in the same place; it is written once.").arg(olShownNameOf(instance));
         return false;
     };
     copy.changePart = [&remarks](const TDF_Label &label, olChangedPart &part) {
         olPartChanges::keepOnly(part, {true, false, true});
         if (part.shape.IsNull())
-            remarks << translated("%1 is a mesh, which this format cannot hold; it is left out.").arg(olNameOf(label));
+            remarks
+                << translated("%1 is a mesh, which this format cannot hold; it is left out.").arg(olShownNameOf(label));
     };
     return copy.copy(document);
 }
@@ -101,84 +82,39 @@ bool isEmpty(const olScene::Document &document)
     return labels.IsEmpty();
 }
 
-TopoDS_Compound wholeShape(const olScene::Document &document)
+bool hasTextures(const olScene::Document &document)
 {
-    TopoDS_Compound whole;
-    BRep_Builder builder;
-    builder.MakeCompound(whole);
+    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
     TDF_LabelSequence labels;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
-    for (const TDF_Label &label : labels)
-        builder.Add(whole, XCAFDoc_ShapeTool::GetShape(label));
-    return whole;
+    tool->GetMaterials(labels);
+    return std::any_of(labels.begin(), labels.end(), [&tool](const TDF_Label &label) {
+        const Handle(XCAFDoc_VisMaterial) look = tool->GetMaterial(label);
+        return !look.IsNull() && ((look->HasCommonMaterial() && !look->CommonMaterial().DiffuseTexture.IsNull()) ||
+                                  (look->HasPbrMaterial() && !look->PbrMaterial().BaseColorTexture.IsNull()));
+    });
 }
 
-/// The STEP writer falls over an instance with a look of its own whose part has none.
-void colorBareParts(const olScene::Document &document)
+/// What of the document a file of the format will not have, in one sentence; empty where it has all.
+QString lossOf(const olScene::Document &document, const olModelFormat &format)
 {
-    const Handle(XCAFDoc_ColorTool) colors = XCAFDoc_DocumentTool::ColorTool(document->Main());
-    TDF_LabelSequence labels;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
-    for (const TDF_Label &label : labels) {
-        if (!XCAFDoc_ShapeTool::IsAssembly(label) && !colors->IsSet(label, XCAFDoc_ColorSurf) &&
-            !colors->IsSet(label, XCAFDoc_ColorGen))
-            colors->SetColor(label, olPlainLook::bare(), XCAFDoc_ColorSurf);
-    }
-}
-
-/// Of a document of its own, whose looks it completes.
-bool writeStep(const olScene::Document &document, const QString &file)
-{
-    const olExchangeLock lock;
-    colorBareParts(document);
-    STEPCAFControl_Controller::Init();
-    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
-    Interface_Static::SetCVal("write.step.unit", "MM");
-    STEPCAFControl_Writer writer;
-    return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
-}
-
-bool writeStl(const olScene::Document &document, const QString &file)
-{
-    StlAPI_Writer writer;
-    writer.ASCIIMode() = olHostState::the().stlExportFormat != binaryStl;
-    return writer.Write(wholeShape(document), path(file).ToCString());
-}
-
-bool writeObj(const olScene::Document &document, const QString &file)
-{
-    RWObj_CafWriter writer(path(file));
-    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
-                          Message_ProgressRange());
-}
-
-bool writeGltf(const olScene::Document &document, const QString &file)
-{
-    const bool isBinary = QFileInfo(file).suffix().compare(QLatin1String("glb"), Qt::CaseInsensitive) == 0;
-    RWGltf_CafWriter writer(path(file), isBinary);
-    writer.ChangeCoordinateSystemConverter().SetInputLengthUnit(meter);
-    writer.ChangeCoordinateSystemConverter().SetInputCoordinateSystem(RWMesh_CoordinateSystem_Zup);
-    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
-                          Message_ProgressRange());
-}
-
-bool write(const olScene::Document &document, const olModelFormat &format, const QString &file, QStringList &remarks)
-{
-    switch (format.id) {
-    case olModelFormat::Step:
-        return writeStep(document, file);
-    case olModelFormat::Iges:
-        return olWriteIges(document, file, remarks);
-    case olModelFormat::Stl:
-        return writeStl(document, file);
-    case olModelFormat::Vrml:
-        return olWriteVrml(document, file);
-    case olModelFormat::Obj:
-        return writeObj(document, file);
-    case olModelFormat::Gltf:
-        return writeGltf(document, file);
-    }
-    return false;
+    TDF_LabelSequence colors;
+    TDF_LabelSequence looks;
+    TDF_LabelSequence shapes;
+    XCAFDoc_DocumentTool::ColorTool(document->Main())->GetColors(colors);
+    XCAFDoc_DocumentTool::VisMaterialTool(document->Main())->GetMaterials(looks);
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(shapes);
+    const bool hasGroups = std::any_of(shapes.begin(), shapes.end(),
+                                       [](const TDF_Label &label) { return XCAFDoc_ShapeTool::IsAssembly(label); });
+    QStringList lost;
+    if (!format.holds(olModelFormat::Colors) && !(colors.IsEmpty() && looks.IsEmpty()))
+        lost << translated("colours");
+    if (!format.holds(olModelFormat::Textures) && hasTextures(document))
+        lost << translated("textures");
+    if (!format.holds(olModelFormat::Structure) && hasGroups)
+        lost << translated("groups of parts");
+    return lost.isEmpty() ? QString()
+                          : translated("%1 knows no %2; they are not written.")
+                                .arg(QLatin1String(format.name), lost.join(translated(" and no ")));
 }
 
 /// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
@@ -207,13 +143,18 @@ QString writeThroughTemporary(const olScene::Document &document, const olModelFo
     if (!folder.isValid())
         return translated("the temporary directory cannot be written to");
     const QFileInfo target(file);
-    if (!write(document, format, folder.filePath(target.fileName()), remarks))
+    if (!format.write(document, folder.filePath(target.fileName()), remarks))
         return translated("the writer failed");
-    const QStringList written = QDir(folder.path()).entryList(QDir::Files);
-    if (!written.contains(target.fileName()))
+    if (!QFileInfo(folder.filePath(target.fileName())).isFile())
         return translated("the writer failed");
-    for (const QString &each : written) {
-        const QString fault = putInPlace(folder.filePath(each), target.absoluteDir().filePath(each));
+    // Textures stand in a folder of their own.
+    const QDir from(folder.path());
+    for (QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
+        const QString written = each.next();
+        const QString place = target.absoluteDir().filePath(from.relativeFilePath(written));
+        if (!QDir().mkpath(QFileInfo(place).path()))
+            return translated("the folder %1 cannot be made").arg(QFileInfo(place).path());
+        const QString fault = putInPlace(written, place);
         if (!fault.isEmpty())
             return fault;
     }
@@ -224,10 +165,13 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
                 QStringList &remarks)
 {
     try {
-        const bool takesMeshes = format.id != olModelFormat::Step && format.id != olModelFormat::Iges;
-        const olScene::Document content = takesMeshes ? document : withoutMeshes(document, remarks);
+        const olScene::Document content =
+            format.holds(olModelFormat::Meshes) ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
             return translated("there is nothing that this format can hold");
+        const QString loss = lossOf(content, format);
+        if (!loss.isEmpty())
+            remarks << loss;
         return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
         return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
@@ -243,7 +187,7 @@ olExportResult olExportScene(const olScene::Document &document, const QString &f
     olSilenceLibrary();
     olExportResult result;
     const olModelFormat *format = olModelFormat::ofFile(file);
-    if (!format) {
+    if (!format || !format->write) {
         result.error = olModelFormat::noWriter(file);
         return result;
     }

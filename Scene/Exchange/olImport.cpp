@@ -1,295 +1,238 @@
 #include "Exchange/olImport.h"
 
-#include "Exchange/olImportFileCheck.h"
-#include "Exchange/olImportReaders.h"
-#include "Exchange/olPartChanges.h"
-#include "Exchange/olTextures.h"
-#include "Model/olDocumentCopy.h"
+#include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/olModelFormat.h"
+#include "Exchange/olReaderProtocol.h"
 #include "Model/olLibraryMessages.h"
-#include "Model/olMeshTools.h"
-#include "Model/olPlainLook.h"
-#include "Model/olTriangles.h"
 
-#include <BRepBndLib.hxx>
-#include <BRepTools_ReShape.hxx>
-#include <BRep_Builder.hxx>
-#include <BRep_Tool.hxx>
-#include <Bnd_Box.hxx>
-#include <Message_ProgressScope.hxx>
-#include <Poly_Triangulation.hxx>
-#include <Quantity_ColorRGBA.hxx>
-#include <Standard_Failure.hxx>
-#include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
-#include <TopExp.hxx>
-#include <TopExp_Explorer.hxx>
-#include <TopLoc_Location.hxx>
-#include <TopTools_IndexedMapOfShape.hxx>
-#include <TopoDS.hxx>
-#include <XCAFDoc_ColorTool.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
-#include <XCAFDoc_LayerTool.hxx>
-#include <XCAFDoc_ShapeTool.hxx>
-#include <XCAFDoc_VisMaterial.hxx>
-#include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-#include <new>
-#include <sstream>
+#include <chrono>
+#include <csignal>
+#include <optional>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace
 {
 
+using Clock = std::chrono::steady_clock;
+
+// How soon a cancelled reading ends, in milliseconds.
+constexpr int glance = 50;
+
 QString translated(const char *text) { return QCoreApplication::translate("olImport", text); }
 
-/// Applies the options of the import to what the reader left.
-class Treatment
+/// A number of an open file, which closes with it. Lies above those that the reading process gets.
+class OpenFile
 {
 public:
-    Treatment(const olImportJob &job, const olScene::Document &raw, QStringList &remarks)
+    explicit OpenFile(int number = -1)
+    {
+        constexpr int aboveOthers = 10;
+        if (number < 0)
+            return;
+        m_number = fcntl(number, F_DUPFD_CLOEXEC, aboveOthers);
+        close(number);
+    }
+    ~OpenFile() { shut(); }
+    OpenFile(const OpenFile &) = delete;
+    OpenFile &operator=(const OpenFile &) = delete;
+
+    void shut()
+    {
+        if (m_number >= 0)
+            close(m_number);
+        m_number = -1;
+    }
+    [[nodiscard]] int number() const { return m_number; }
+
+private:
+    int m_number = -1;
+};
+
+QByteArray readerProgram()
+{
+    const QString self = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    return QFile::encodeName(QFileInfo(self).path() + QLatin1Char('/') + QLatin1String(olReaderProtocol::program));
+}
+
+/// One reading process, which does not outlive this.
+class Reader
+{
+public:
+    Reader(const olImportJob &job, const olImportWatch &watch)
         : m_job(job),
-          m_raw(raw),
-          m_remarks(remarks),
-          m_colors(XCAFDoc_DocumentTool::ColorTool(raw->Main())),
-          m_layers(XCAFDoc_DocumentTool::LayerTool(raw->Main())),
-          m_shapes(XCAFDoc_DocumentTool::ShapeTool(raw->Main()))
+          m_watch(watch),
+          m_input(memfd_create("job", MFD_CLOEXEC)),
+          m_result(memfd_create("result", MFD_CLOEXEC))
     {
     }
 
-    [[nodiscard]] olScene::Document run(const Message_ProgressRange &progress)
+    ~Reader() { end(); }
+    Reader(const Reader &) = delete;
+    Reader &operator=(const Reader &) = delete;
+
+    /// What went wrong, in half a sentence.
+    QString run(olImportResult &result)
     {
-        Message_ProgressScope scope(progress, "Parts", partCount());
-        olDocumentCopy copy;
-        copy.keepEmptyGroups = !m_job.options.removeEmptyGroups;
-        copy.isWanted = [this](const TDF_Label &instance) {
-            return !XCAFDoc_ShapeTool::IsReference(instance) || m_job.options.importInvisibleInstances ||
-                   m_colors->IsVisible(instance);
-        };
-        copy.changePart = [this, &scope](const TDF_Label &label, olChangedPart &part) {
-            if (scope.UserBreak()) {
-                part.shape.Nullify();
-                return;
-            }
-            change(label, part, scope.Next());
-        };
-        return copy.copy(m_raw);
+        const QString fault = start();
+        if (!fault.isEmpty())
+            return fault;
+        const QString interrupted = follow(result);
+        if (!interrupted.isEmpty() || result.isCancelled)
+            return interrupted;
+        int status = 0;
+        waitpid(m_process, &status, 0);
+        m_process = 0;
+        if (WIFSIGNALED(status))
+            return WTERMSIG(status) == SIGKILL ? translated("the system ended its reader, probably for want of memory")
+                                               : translated("the file is damaged in a way that makes its reader crash");
+        if (WEXITSTATUS(status) != 0 || !takeResult(result))
+            return translated("its reader failed");
+        return {};
     }
 
 private:
-    [[nodiscard]] int partCount() const
+    QString start()
     {
-        TDF_LabelSequence labels;
-        m_shapes->GetShapes(labels);
-        return qMax(1, labels.Length());
-    }
+        const QByteArray job = olReaderProtocol::packed(m_job);
+        int ends[2];
+        if (m_input.number() < 0 || m_result.number() < 0 || pipe2(ends, O_CLOEXEC) != 0 ||
+            ::write(m_input.number(), job.constData(), std::size_t(job.size())) != job.size())
+            return translated("its reader cannot be started (%1)").arg(qt_error_string(errno));
+        lseek(m_input.number(), 0, SEEK_SET);
+        const OpenFile writing(ends[1]);
+        m_progress.emplace(ends[0]);
 
-    [[nodiscard]] bool isVisible(const TDF_Label &label) const
-    {
-        if (!m_colors->IsVisible(label))
-            return false;
-        TDF_LabelSequence layers;
-        m_layers->GetLayers(label, layers);
-        return std::all_of(layers.begin(), layers.end(),
-                           [this](const TDF_Label &layer) { return m_layers->IsVisible(layer); });
-    }
-
-    void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
-    {
-        const olImportRecord &options = m_job.options;
-        const bool visible = isVisible(label);
-        olPartChanges::keepOnly(part, {options.importSurfaces && (visible || options.importInvisibleSurfaces),
-                                       options.importMeshes && (visible || options.importInvisibleMeshes),
-                                       options.importCurves && (visible || options.importInvisibleCurves)});
-        if (part.shape.IsNull())
-            return;
-        if (m_job.verify && !olPartChanges::isSound(part.shape))
-            m_remarks << translated("%1 has faulty surfaces.").arg(olNameOf(label));
-        if (m_job.optimize)
-            olPartChanges::repair(part);
-        if (options.stitching)
-            stitch(label, part);
-        if (m_job.verify)
-            dropDegenerate(part.shape);
-        if (options.mergeGeometries)
-            olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
-        if (options.unifySurfaceNormals)
-            olPartChanges::unifyNormals(part);
-        olTriangles::mesh(part.shape, fineness(), progress);
-        if (!options.keepSurfaceData)
-            olPartChanges::dropSurfaces(part);
-    }
-
-    /// Sewing may rebuild faces so that their colours would have nowhere to go; then the part stays as it was read.
-    void stitch(const TDF_Label &label, olChangedPart &part) const
-    {
-        olChangedPart stitched = part;
-        olPartChanges::stitch(stitched, m_job.options.stitchingTolerance);
-        TopTools_IndexedMapOfShape pieces;
-        TopExp::MapShapes(stitched.shape, pieces);
-        TDF_LabelSequence labels;
-        XCAFDoc_ShapeTool::GetSubShapes(label, labels);
-        for (const TDF_Label &piece : labels) {
-            if (!pieces.Contains(stitched.follow(XCAFDoc_ShapeTool::GetShape(piece))))
-                return;
-        }
-        part = stitched;
-    }
-
-    /// Without tessellation values of its own an import goes by the usual ones.
-    [[nodiscard]] olTriangles::Fineness fineness() const
-    {
-        if (!m_job.options.tessellation)
+        posix_spawn_file_actions_t files;
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_adddup2(&files, m_input.number(), olReaderProtocol::jobFile);
+        posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_adddup2(&files, writing.number(), olReaderProtocol::progressFile);
+        posix_spawn_file_actions_adddup2(&files, m_result.number(), olReaderProtocol::resultFile);
+        QByteArray program = readerProgram();
+        char *arguments[] = {program.data(), nullptr};
+        const int error = posix_spawn(&m_process, program.constData(), &files, nullptr, arguments, environ);
+        posix_spawn_file_actions_destroy(&files);
+        if (error == 0)
             return {};
-        return {m_job.options.chordDeviation, m_job.options.normalTolerance};
+        m_process = 0;
+        return translated("its reader %1 cannot be started (%2)")
+            .arg(QFile::decodeName(program), qt_error_string(error));
     }
 
-    static void dropDegenerate(const TopoDS_Shape &shape)
+    /// Until the process closes its end, or nobody wants to wait any longer.
+    QString follow(olImportResult &result)
     {
-        for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
-            const TopoDS_Face &face = TopoDS::Face(faces.Current());
-            TopLoc_Location location;
-            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
-            if (mesh.IsNull() || !BRep_Tool::Surface(face, location).IsNull())
+        Clock::time_point heard = Clock::now();
+        QByteArray lines;
+        for (;;) {
+            pollfd progress{m_progress->number(), POLLIN, 0};
+            const bool isThere = poll(&progress, 1, glance) > 0;
+            if (m_watch.isCancelled && m_watch.isCancelled()) {
+                result.isCancelled = true;
+                return {};
+            }
+            if (!isThere) {
+                if (Clock::now() - heard > std::chrono::milliseconds(m_job.patience))
+                    return translated("reading it made no progress for %1 seconds")
+                        .arg(QString::number(m_job.patience / 1000.0));
                 continue;
-            const Handle(Poly_Triangulation) cleaned = olMeshTools::withoutDegenerate(mesh);
-            if (!cleaned.IsNull() && cleaned != mesh)
-                BRep_Builder().UpdateFace(face, cleaned);
+            }
+            char bytes[4096];
+            const ssize_t count = ::read(m_progress->number(), bytes, sizeof(bytes));
+            if (count <= 0)
+                return {};
+            heard = Clock::now();
+            lines.append(bytes, int(count));
+            tell(lines);
         }
     }
 
-    [[nodiscard]] std::string lookOf(const TopoDS_Shape &face) const
+    /// The last whole line counts.
+    void tell(QByteArray &lines) const
     {
-        std::ostringstream look;
-        for (const XCAFDoc_ColorType kind : {XCAFDoc_ColorGen, XCAFDoc_ColorSurf}) {
-            Quantity_ColorRGBA color;
-            if (m_colors->GetColor(face, kind, color))
-                look << color.GetRGB().Red() << ' ' << color.GetRGB().Green() << ' ' << color.GetRGB().Blue() << ' '
-                     << color.Alpha();
-            look << ';';
-        }
-        const Handle(XCAFDoc_VisMaterialTool) materials = XCAFDoc_DocumentTool::VisMaterialTool(m_raw->Main());
-        look << materials->GetShapeMaterial(face).get();
-        return look.str();
+        const int end = lines.lastIndexOf('\n');
+        if (end < 0)
+            return;
+        const int start = end == 0 ? 0 : lines.lastIndexOf('\n', end - 1) + 1;
+        if (m_watch.progressed)
+            m_watch.progressed(qBound(0, lines.mid(start, end - start).toInt(), 100));
+        lines.remove(0, end + 1);
+    }
+
+    bool takeResult(olImportResult &result) const
+    {
+        struct stat info {
+        };
+        if (fstat(m_result.number(), &info) != 0 || info.st_size <= 0)
+            return false;
+        const auto size = std::size_t(info.st_size);
+        void *bytes = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, m_result.number(), 0);
+        if (bytes == MAP_FAILED)
+            return false;
+        const bool isWhole = olReaderProtocol::read(static_cast<const unsigned char *>(bytes), size, result);
+        munmap(bytes, size);
+        return isWhole;
+    }
+
+    void end()
+    {
+        if (m_process <= 0)
+            return;
+        kill(m_process, SIGKILL);
+        waitpid(m_process, nullptr, 0);
+        m_process = 0;
     }
 
     const olImportJob &m_job;
-    olScene::Document m_raw;
-    QStringList &m_remarks;
-    Handle(XCAFDoc_ColorTool) m_colors;
-    Handle(XCAFDoc_LayerTool) m_layers;
-    Handle(XCAFDoc_ShapeTool) m_shapes;
+    const olImportWatch &m_watch;
+    OpenFile m_input;
+    OpenFile m_result;
+    std::optional<OpenFile> m_progress;
+    pid_t m_process = 0;
 };
 
-Bnd_Box boundsOf(const olScene::Document &document)
+/// What is wrong before anything is read, and then what the reader says.
+QString attempt(olImportJob job, const olImportWatch &watch, olImportResult &result)
 {
-    TDF_LabelSequence labels;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
-    Bnd_Box box;
-    for (const TDF_Label &label : labels)
-        BRepBndLib::Add(XCAFDoc_ShapeTool::GetShape(label), box);
-    box.SetGap(0);
-    return box;
-}
-
-/// Whether the triangles that were read can be worked with.
-bool isWhole(const olScene::Document &document)
-{
-    TDF_LabelSequence labels;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
-    TopLoc_Location location;
-    for (const TDF_Label &label : labels) {
-        for (TopExp_Explorer faces(XCAFDoc_ShapeTool::GetShape(label), TopAbs_FACE); faces.More(); faces.Next()) {
-            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(TopoDS::Face(faces.Current()), location);
-            if (!mesh.IsNull() && !olMeshTools::isWhole(mesh))
-                return false;
-        }
+    std::optional<olFormatTools::Secluded> alone;
+    if (!job.options.importReferencedFiles) {
+        alone.emplace(job);
+        if (!alone->isReady())
+            return translated("the temporary directory cannot be written to");
+        job.loneFile = alone->file();
     }
-    return true;
-}
-
-bool hasGeometry(const olScene::Document &document) { return !boundsOf(document).IsVoid(); }
-
-/// The centre goes to the origin, and what stands on the ground begins at height 0.
-olScene::Document placed(const olScene::Document &document, const olImportJob &job)
-{
-    if (!job.centerInOrigin && !job.putOnGround)
-        return document;
-    const Bnd_Box box = boundsOf(document);
-    const gp_Pnt low = box.CornerMin();
-    const gp_Pnt high = box.CornerMax();
-    olDocumentCopy copy;
-    if (job.centerInOrigin)
-        copy.offset = gp_Vec(-(low.X() + high.X()) / 2, -(low.Y() + high.Y()) / 2, -(low.Z() + high.Z()) / 2);
-    if (job.putOnGround)
-        copy.offset.SetZ(-low.Z());
-    return copy.offset.Magnitude() > 0 ? copy.copy(document) : document;
-}
-
-QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImportResult &result,
-                     const Message_ProgressRange &progress)
-{
-    constexpr double readingShare = 60;
-    constexpr double treatmentShare = 40;
-    Message_ProgressScope scope(progress, "Import", readingShare + treatmentShare);
-    const olScene::Document raw = olScene::newDocument();
-    const QString fault = olReadModel(job, format, raw, scope.Next(readingShare));
-    result.isCancelled = scope.UserBreak();
-    if (!fault.isEmpty() || result.isCancelled)
-        return fault;
-    if (!isWhole(raw))
-        return translated("the file is damaged: it has triangles without their points");
-    if (!hasGeometry(raw))
-        return translated("there is no geometry in it");
-    olFindTextures(job, raw, result.remarks);
-    olPlainLook::addTo(raw);
-
-    const olScene::Document treated = Treatment(job, raw, result.remarks).run(scope.Next(treatmentShare));
-    result.isCancelled = scope.UserBreak();
-    if (result.isCancelled)
-        return {};
-    if (!hasGeometry(treated))
-        return translated("the import options leave nothing of it");
-    result.document = placed(treated, job);
-    return {};
-}
-
-/// What went wrong, in half a sentence; empty on success.
-QString attempt(const olImportJob &job, const olModelFormat &format, olImportResult &result,
-                const Message_ProgressRange &progress)
-{
-    try {
-        const QString fault = olImportFileCheck(job.file, format, result.remarks);
-        return fault.isEmpty() ? readAndTreat(job, format, result, progress) : fault;
-    } catch (const Standard_Failure &failure) {
-        return translated("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
-    } catch (const std::bad_alloc &) {
-        return translated("there is not enough memory for it");
-    } catch (const std::exception &failure) {
-        return translated("the reader failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
-    }
+    QString fault = Reader(job, watch).run(result);
+    return fault.isEmpty() ? result.error : fault;
 }
 
 } // namespace
 
-olImportResult olImport(const olImportJob &job, const Message_ProgressRange &progress)
+olImportResult olImport(const olImportJob &job, const olImportWatch &watch)
 {
     olSilenceLibrary();
     olImportResult result;
-    const olModelFormat *format = olModelFormat::ofFile(job.file);
-    if (!format) {
+    if (!olModelFormat::ofFile(job.file)) {
         result.error = QFileInfo(job.file).isDir() ? translated("Cannot read %1: this is a folder.").arg(job.file)
                                                    : olModelFormat::noReader(job.file);
         return result;
     }
-    const QString fault = attempt(job, *format, result, progress);
-    if (!fault.isEmpty() && !result.isCancelled)
-        result.error = translated("Cannot read %1: %2.").arg(job.file, fault);
+    const QString fault = attempt(job, watch, result);
+    result.error =
+        fault.isEmpty() || result.isCancelled ? QString() : translated("Cannot read %1: %2.").arg(job.file, fault);
     if (!result.isGood())
         result.document.Nullify();
     return result;
 }
-
-olImportResult olImport(const olImportJob &job) { return olImport(job, Message_ProgressRange()); }

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-class Message_ProgressRange;
+#include <functional>
 
 /// What an import gave: a document, or one message that names the file and the reason.
 struct olImportResult {
@@ -16,10 +16,19 @@ struct olImportResult {
     /// What was read all the same but is not as it should be.
     QStringList remarks;
 
+    /// For the host's log: guards of the reading that the system does not have.
+    QStringList missingGuards;
+
     [[nodiscard]] bool isGood() const { return error.isEmpty() && !isCancelled; }
 };
 
-/// Reads the file as the job says, triangulates it, and returns when that is done. May be called in any thread; waits
-/// for another thread that is at a STEP or IGES file. Throws nothing.
-[[nodiscard]] olImportResult olImport(const olImportJob &job, const Message_ProgressRange &progress);
-[[nodiscard]] olImportResult olImport(const olImportJob &job);
+/// How somebody goes along with an import. Both are called in the thread that imports, and may be empty.
+struct olImportWatch {
+    /// From 0 to 100.
+    std::function<void(int percent)> progressed;
+    std::function<bool()> isCancelled;
+};
+
+/// Reads the file as the job says in a process of its own, which ends with it: no file can take the caller down, use up
+/// its memory, or make it wait for longer than the job's patience. May be called in any thread. Throws nothing.
+[[nodiscard]] olImportResult olImport(const olImportJob &job, const olImportWatch &watch = {});

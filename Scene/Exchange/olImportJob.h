@@ -13,6 +13,16 @@ struct olImportJob {
     static olImportJob of(const QString &file);
 
     QString file;
+
+    /// Where the file is seen without those that lie beside it; empty where it may refer to them.
+    QString loneFile;
+
+    /// As it is to be opened.
+    [[nodiscard]] const QString &fileToRead() const { return loneFile.isEmpty() ? file : loneFile; }
+
+    /// For so long reading may make no progress before it is given up; milliseconds.
+    int patience = 60000;
+
     olImportRecord options;
     bool verify = true;
     bool optimize = false;

@@ -4,8 +4,8 @@
 #include "Model/olScene.h"
 
 #include "State/olHostState.h"
+#include "Utilities/olLog.h"
 
-#include <Message_ProgressIndicator.hxx>
 #include <TDocStd_Document.hxx>
 
 #include <QThread>
@@ -52,22 +52,6 @@ private:
 namespace
 {
 
-/// Takes the library's progress from a reading to whoever listens, and the wish to stop back.
-template <class Reading> class Indicator : public Message_ProgressIndicator
-{
-public:
-    explicit Indicator(Reading &reading) : m_reading(reading) {}
-
-private:
-    Standard_Boolean UserBreak() override { return m_reading.isCancelled(); }
-    void Show(const Message_ProgressScope &, const Standard_Boolean) override
-    {
-        m_reading.setPercent(int(GetPosition() * 100));
-    }
-
-    Reading &m_reading;
-};
-
 /// Numbers that are not positive leave it to the host.
 int tasksAtOnce()
 {
@@ -79,8 +63,7 @@ int tasksAtOnce()
 
 void olImporter::Reading::run()
 {
-    const Handle(Message_ProgressIndicator) indicator = new Indicator<Reading>(*this);
-    m_result = olImport(m_job, indicator->Start());
+    m_result = olImport(m_job, {[this](int percent) { setPercent(percent); }, [this] { return isCancelled(); }});
     setPercent(100);
 }
 
@@ -173,6 +156,7 @@ void olImporter::finishAll()
     m_isRunning = false;
     if (!done.isCancelled)
         take(done);
+    logMissingGuards(done);
     QVector<olImportReport> reports;
     for (const std::unique_ptr<Reading> &reading : done.readings)
         reports << reading->report();
@@ -181,6 +165,16 @@ void olImporter::finishAll()
         report.isCancelled = report.isCancelled || done.isCancelled;
     emit finished(done.number, reports);
     startNext();
+}
+
+void olImporter::logMissingGuards(const Import &import)
+{
+    QStringList guards;
+    for (const std::unique_ptr<Reading> &reading : import.readings)
+        guards << reading->result().missingGuards;
+    guards.removeDuplicates();
+    for (const QString &guard : guards)
+        olLog::info(guard);
 }
 
 void olImporter::take(const Import &import)

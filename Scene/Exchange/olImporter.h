@@ -19,7 +19,7 @@ struct olImportReport {
     QStringList remarks;
 };
 
-/// Reads models into a scene without making its caller wait: each file is read in a thread of its own, and the scene
+/// Reads models into a scene without making its caller wait: each file is read in a process of its own, and the scene
 /// changes in the GUI thread when all files of an import are through. Imports wait in line for each other; the files of
 /// one are read side by side, as many at a time as the host's state allows.
 class olImporter : public QObject
@@ -30,7 +30,7 @@ public:
     /// The scene must outlive the importer.
     explicit olImporter(olScene &scene, QObject *parent = nullptr);
 
-    /// Cancels, and waits for the readers to notice.
+    /// Cancels, which ends all readers at once.
     ~olImporter() override;
 
     /// The files make one scene together, in their order. Returns the number by which the signals name this import; 0,
@@ -40,7 +40,7 @@ public:
 
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// Gives one import up, or all. The library notices between two parts of its work; an import in line goes at once.
+    /// Gives one import up, or all. Their readers end at once, whatever they are doing.
     void cancel(int import);
     void cancel();
 
@@ -67,6 +67,7 @@ private:
     void finishOne(Reading &reading);
     void finishAll();
     void showProgress();
+    static void logMissingGuards(const Import &import);
     void take(const Import &import);
 
     olScene &m_scene;

@@ -3,15 +3,37 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+// All formats, in the order in which they are offered; each is a function in the file of its name under Formats/.
+// clang-format off
+#define OL_FORMATS(format) \
+    format(olStepFormat) \
+    format(olIgesFormat) \
+    format(olStlFormat) \
+    format(olVrmlFormat) \
+    format(olObjFormat) \
+    format(olGltfFormat) \
+    format(olPlyFormat) \
+    format(ol3mfFormat) \
+    format(olColladaFormat) \
+    format(olOffFormat)
+// clang-format on
+
+#define OL_FORMAT(format) olModelFormat format();
+OL_FORMATS(OL_FORMAT)
+#undef OL_FORMAT
+
 namespace
 {
 
 QString translated(const char *text) { return QCoreApplication::translate("olModelFormat", text); }
 
-QString allSuffixes(const QString &before, const QString &between)
+/// Of all formats that can be read, or of those that can be written.
+QString allSuffixes(const QString &before, const QString &between, bool isWritten)
 {
     QStringList suffixes;
     for (const olModelFormat &format : olModelFormat::all()) {
+        if (isWritten && !format.write)
+            continue;
         for (const QString &suffix : format.suffixes)
             suffixes << before + suffix;
     }
@@ -28,14 +50,9 @@ QString suffixText(const QString &file)
 
 const std::vector<olModelFormat> &olModelFormat::all()
 {
-    static const std::vector<olModelFormat> formats{
-        {Step, "STEP", "STEP", {QStringLiteral("step"), QStringLiteral("stp")}},
-        {Iges, "IGES", "IGES", {QStringLiteral("iges"), QStringLiteral("igs")}},
-        {Stl, "STL", "STL", {QStringLiteral("stl")}},
-        {Vrml, "VRML", "WRL", {QStringLiteral("wrl"), QStringLiteral("vrml")}},
-        {Obj, "OBJ", "OBJ", {QStringLiteral("obj")}},
-        {Gltf, "glTF", "GLTF", {QStringLiteral("gltf"), QStringLiteral("glb")}},
-    };
+#define OL_FORMAT(format) format(),
+    static const std::vector<olModelFormat> formats{OL_FORMATS(OL_FORMAT)};
+#undef OL_FORMAT
     return formats;
 }
 
@@ -52,21 +69,23 @@ const olModelFormat *olModelFormat::ofFile(const QString &file)
 QString olModelFormat::noReader(const QString &file)
 {
     return translated("Cannot read %1: there is no reader for %2. These can be read: %3.")
-        .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", ")));
+        .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", "), false));
 }
 
 QString olModelFormat::noWriter(const QString &file)
 {
     return translated("Cannot write %1: there is no writer for %2. These can be written: %3.")
-        .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", ")));
+        .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", "), true));
 }
 
-QString olModelFormat::filter()
+QString olModelFormat::filter(bool isWritten)
 {
-    QStringList filters{translated("Models (%1)").arg(allSuffixes(QStringLiteral("*."), QStringLiteral(" ")))};
+    QStringList filters{
+        translated("Models (%1)").arg(allSuffixes(QStringLiteral("*."), QStringLiteral(" "), isWritten))};
     for (const olModelFormat &format : all()) {
-        filters
-            << QStringLiteral("%1 (*.%2)").arg(QLatin1String(format.name), format.suffixes.join(QStringLiteral(" *.")));
+        if (!isWritten || format.write)
+            filters << QStringLiteral("%1 (*.%2)")
+                           .arg(QLatin1String(format.name), format.suffixes.join(QStringLiteral(" *.")));
     }
     return filters.join(QStringLiteral(";;"));
 }

@@ -1,15 +1,29 @@
 #pragma once
 
+#include "Model/olScene.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
-/// A format of model files that can be read and written.
-struct olModelFormat {
-    enum Id { Step, Iges, Stl, Vrml, Obj, Gltf };
+class Message_ProgressRange;
+class QFile;
+struct olImportJob;
 
-    Id id;
+/// A format of model files: what it holds, how it is recognised, read and written. Each stands in a file of its own
+/// under Formats/.
+struct olModelFormat {
+    /// What a file of the format can hold, in bits.
+    enum Content : unsigned {
+        Surfaces = 1 << 0,
+        Meshes = 1 << 1,
+        Colors = 1 << 2,
+        Opacity = 1 << 3,
+        Textures = 1 << 4,
+        Structure = 1 << 5,
+    };
+
     const char *name;
 
     /// Under which the format's module writes its import options.
@@ -17,6 +31,23 @@ struct olModelFormat {
 
     /// In lower case; the first is the usual one.
     QStringList suffixes;
+
+    unsigned content;
+
+    /// Looks at the open file before it is read. Returns what is wrong with it, in half a sentence; empty where nothing
+    /// is. What is merely odd becomes a remark.
+    QString (*check)(QFile &file, QStringList &remarks);
+
+    /// Reads the file into an empty document, just as the file has it. Returns why it could not, in half a sentence;
+    /// empty on success. May throw what the library throws.
+    QString (*read)(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                    QStringList &remarks);
+
+    /// Writes a document that holds nothing but what the format can hold. Whether it could; may throw too. Null for a
+    /// format that is only read.
+    bool (*write)(const olScene::Document &document, const QString &file, QStringList &remarks);
+
+    [[nodiscard]] bool holds(Content what) const { return (content & what) != 0; }
 
     [[nodiscard]] static const std::vector<olModelFormat> &all();
 
@@ -28,6 +59,6 @@ struct olModelFormat {
     [[nodiscard]] static QString noReader(const QString &file);
     [[nodiscard]] static QString noWriter(const QString &file);
 
-    /// For a file dialog.
-    [[nodiscard]] static QString filter();
+    /// For a file dialog: of what can be read, or of what can be written.
+    [[nodiscard]] static QString filter(bool isWritten);
 };

@@ -2,12 +2,16 @@
 
 #include "Model/olMeshTools.h"
 
+#include <BRepBndLib.hxx>
 #include <BRepBuilderAPI_Sewing.hxx>
 #include <BRepCheck_Analyzer.hxx>
+#include <BRepGProp.hxx>
 #include <BRepLib.hxx>
 #include <BRepTools_ReShape.hxx>
 #include <BRep_Builder.hxx>
 #include <BRep_Tool.hxx>
+#include <Bnd_Box.hxx>
+#include <GProp_GProps.hxx>
 #include <Geom_Surface.hxx>
 #include <Poly_Triangulation.hxx>
 #include <ShapeBuild_ReShape.hxx>
@@ -21,6 +25,8 @@
 #include <TopoDS_Compound.hxx>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <map>
 #include <string>
 
@@ -63,6 +69,68 @@ TopoDS_Compound compoundOf(const std::vector<TopoDS_Shape> &shapes)
     return compound;
 }
 
+/// The size of the smallest face, in its longest direction.
+double smallestOf(const std::vector<TopoDS_Face> &faces)
+{
+    double smallest = std::numeric_limits<double>::max();
+    for (const TopoDS_Face &face : faces) {
+        Bnd_Box box;
+        BRepBndLib::Add(face, box, Standard_False);
+        if (box.IsVoid())
+            continue;
+        const gp_XYZ size = box.CornerMax().XYZ() - box.CornerMin().XYZ();
+        smallest = std::min(smallest, std::max({size.X(), size.Y(), size.Z()}));
+    }
+    return smallest;
+}
+
+double areaOf(const TopoDS_Shape &shape)
+{
+    constexpr double exactness = 1e-3;
+    GProp_GProps properties;
+    BRepGProp::SurfaceProperties(shape, properties, exactness);
+    return std::abs(properties.Mass());
+}
+
+/// Whether the face is still there, as large as it was, and sound if it was.
+bool isKept(const TopoDS_Face &before, const TopoDS_Shape &after)
+{
+    constexpr double loss = 0.005;
+    if (after.IsNull() || after.ShapeType() != TopAbs_FACE)
+        return false;
+    if (after.IsSame(before))
+        return true;
+    const double area = areaOf(before);
+    return std::abs(areaOf(after) - area) <= loss * area &&
+           (BRepCheck_Analyzer(after).IsValid() || !BRepCheck_Analyzer(before).IsValid());
+}
+
+/// Changes nothing where a face would be lost.
+bool sew(olChangedPart &part, const std::vector<TopoDS_Face> &faces, double tolerance)
+{
+    BRepBuilderAPI_Sewing sewing(tolerance);
+    for (const TopoDS_Face &face : faces)
+        sewing.Add(face);
+    sewing.Perform();
+    if (sewing.SewedShape().IsNull() || facesOf(sewing.SewedShape()).size() < faces.size())
+        return false;
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    for (const TopoDS_Face &face : faces) {
+        const TopoDS_Shape now = sewing.IsModified(face) ? sewing.Modified(face) : TopoDS_Shape(face);
+        if (!isKept(face, now))
+            return false;
+        if (!now.IsSame(face))
+            change->Replace(face, now);
+    }
+    std::vector<TopoDS_Shape> pieces;
+    for (TopExp_Explorer each(part.shape, TopAbs_EDGE, TopAbs_FACE); each.More(); each.Next())
+        pieces.push_back(each.Current());
+    pieces.push_back(sewing.SewedShape());
+    part.shape = pieces.size() == 1 ? pieces.front() : compoundOf(pieces);
+    part.changes.push_back(change);
+    return true;
+}
+
 void apply(olChangedPart &part, const Handle(BRepTools_ReShape) & change)
 {
     part.shape = change->Apply(part.shape);
@@ -93,29 +161,26 @@ void olPartChanges::keepOnly(olChangedPart &part, const Kinds &wanted)
         apply(part, change);
 }
 
-void olPartChanges::stitch(olChangedPart &part, double tolerance)
+double olPartChanges::stitch(olChangedPart &part, double tolerance,
+                             const std::function<unsigned(const TopoDS_Shape &)> &trianglesOf)
 {
     const std::vector<TopoDS_Face> faces = facesOf(part.shape);
     const bool hasSolids = TopExp_Explorer(part.shape, TopAbs_SOLID).More();
     if (faces.size() < 2 || hasSolids || hasMeshes(faces) || !(tolerance > 0))
-        return;
-    BRepBuilderAPI_Sewing sewing(tolerance);
-    for (const TopoDS_Face &face : faces)
-        sewing.Add(face);
-    sewing.Perform();
-    // Small faces vanish between borders that are joined; a gap is better than a hole.
-    if (sewing.SewedShape().IsNull() || facesOf(sewing.SewedShape()).size() < faces.size())
-        return;
-    std::vector<TopoDS_Shape> pieces = freeEdgesOf(part.shape);
-    pieces.push_back(sewing.SewedShape());
-    part.shape = pieces.size() == 1 ? pieces.front() : compoundOf(pieces);
-    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
-    for (const TopoDS_Face &face : faces) {
-        const TopoDS_Shape now = sewing.Modified(face);
-        if (!now.IsNull() && !now.IsSame(face))
-            change->Replace(face, now);
+        return tolerance;
+    // What is smaller than the gaps that are closed would vanish with them.
+    constexpr double share = 0.1;
+    constexpr double distorted = 1.5;
+    double held = std::min(tolerance, share * smallestOf(faces));
+    const double most = distorted * trianglesOf(part.shape);
+    for (int attempt = 0; attempt < 3; ++attempt, held *= share) {
+        olChangedPart sewn = part;
+        if (held > 0 && sew(sewn, faces, held) && trianglesOf(sewn.shape) <= most) {
+            part = sewn;
+            return held;
+        }
     }
-    part.changes.push_back(change);
+    return 0;
 }
 
 void olPartChanges::repair(olChangedPart &part)
@@ -159,8 +224,13 @@ void olPartChanges::unifyNormals(olChangedPart &part)
         if (isMesh(face))
             olMeshTools::orientAlike(BRep_Tool::Triangulation(face, location));
     }
-    if (isChanged)
-        apply(part, change);
+    if (!isChanged)
+        return;
+    olChangedPart turned = part;
+    apply(turned, change);
+    // Where neighbours cannot face the same way, the library leaves some out.
+    if (facesOf(turned.shape).size() == facesOf(part.shape).size())
+        part = turned;
 }
 
 void olPartChanges::mergeMeshes(olChangedPart &part, const std::function<std::string(const TopoDS_Shape &)> &lookOf)

@@ -15,8 +15,10 @@ struct Kinds {
 /// Takes the kinds out that are not wanted; the shape becomes null where nothing is left.
 void keepOnly(olChangedPart &part, const Kinds &wanted);
 
-/// Joins faces whose borders lie within the tolerance of each other, in millimetres. Solids are joined already.
-void stitch(olChangedPart &part, double tolerance);
+/// Joins faces whose borders lie within the tolerance of each other, in millimetres. Solids are joined already. Goes by
+/// a smaller tolerance, or by none, where faces would be lost, or the part be no longer what it was: `trianglesOf`
+/// counts the triangles that draw a shape, of which a distorted one needs many more. Returns the tolerance, 0 for none.
+double stitch(olChangedPart &part, double tolerance, const std::function<unsigned(const TopoDS_Shape &)> &trianglesOf);
 
 /// Repairs what the check finds broken in surfaces.
 void repair(olChangedPart &part);

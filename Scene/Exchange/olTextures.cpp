@@ -2,18 +2,25 @@
 
 #include "Kernel/olTexSearch.h"
 
-#include <Image_Texture.hxx>
+#include <NCollection_Buffer.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
 #include <QRegularExpression>
+#include <QUrl>
+
+#include <cstring>
 
 namespace
 {
@@ -45,20 +52,24 @@ public:
 
     void find(Texture &texture)
     {
-        // A picture may also be a part of the model's own file.
-        const bool isNamed = !texture.IsNull() && !texture->FilePath().IsEmpty() && texture->FileOffset() < 0;
-        if (!isNamed)
+        if (texture.IsNull())
             return;
-        const QString name = nameOf(texture);
-        const QString file = fileOf(name);
-        if (file.isEmpty()) {
-            const QString remark = QCoreApplication::translate("olImport", "The texture %1 was not found.").arg(name);
-            if (!m_remarks.contains(remark))
-                m_remarks << remark;
+        const Handle(NCollection_Buffer) &bytes = texture->DataBuffer();
+        const QString name = bytes.IsNull() ? nameOf(texture) : QCoreApplication::translate("olImport", "in the file");
+        if (!bytes.IsNull())
+            return check(texture,
+                         QByteArray::fromRawData(reinterpret_cast<const char *>(bytes->Data()), int(bytes->Size())),
+                         name);
+        const QString place = fileOf(name);
+        if (place.isEmpty()) {
+            remark(QCoreApplication::translate("olImport", "The texture %1 was not found.").arg(name));
             texture.Nullify();
             return;
         }
-        texture = new Image_Texture(QFile::encodeName(file).constData());
+        texture = new Image_Texture(QFile::encodeName(place).constData());
+        QFile file(place);
+        if (file.open(QIODevice::ReadOnly))
+            check(texture, file.readAll(), name);
     }
 
 private:
@@ -76,12 +87,47 @@ private:
 
     [[nodiscard]] QString fileOf(const QString &name) const
     {
-        const QString beside = m_folder.filePath(name);
-        if (QFileInfo(beside).isFile())
-            return beside;
+        for (const QString &each : {name, QUrl::fromPercentEncoding(name.toUtf8())}) {
+            const QString beside = m_folder.filePath(each);
+            if (QFileInfo(beside).isFile())
+                return beside;
+        }
         return QString::fromStdString(olTexSearch::findIn(m_directories, name.toStdString()));
     }
 
+    /// The view decodes pictures where a fault takes everything down, so they are looked at here.
+    void check(Texture &texture, const QByteArray &bytes, const QString &name)
+    {
+        QBuffer buffer;
+        buffer.setData(bytes);
+        QImageReader reader(&buffer);
+        const QSize size = reader.size();
+        if (qMax(size.width(), size.height()) > longestSide) {
+            remark(QCoreApplication::translate("olImport", "The texture %1 is too large, with %2 by %3 pixels.")
+                       .arg(name)
+                       .arg(size.width())
+                       .arg(size.height()));
+            texture.Nullify();
+            return;
+        }
+        const QImage picture = reader.read();
+        if (picture.isNull()) {
+            remark(QCoreApplication::translate("olImport", "The texture %1 cannot be read: %2.")
+                       .arg(name, reader.errorString()));
+            texture.Nullify();
+        } else if (picture.colorCount() > 0) {
+            // The view shows palettes black.
+            texture = olTextureOf(picture);
+        }
+    }
+
+    void remark(const QString &text)
+    {
+        if (!m_remarks.contains(text))
+            m_remarks << text;
+    }
+
+    static constexpr int longestSide = 16384;
     QDir m_folder;
     const std::vector<std::string> &m_directories;
     QStringList &m_remarks;
@@ -112,4 +158,23 @@ void olFindTextures(const olImportJob &job, const olScene::Document &document, Q
             material->SetPbrMaterial(pbr);
         }
     }
+}
+
+Handle(Image_Texture) olTextureOf(const QByteArray &bytes)
+{
+    const Handle(NCollection_Buffer) buffer =
+        new NCollection_Buffer(NCollection_BaseAllocator::CommonBaseAllocator(), std::size_t(bytes.size()));
+    std::memcpy(buffer->ChangeData(), bytes.constData(), std::size_t(bytes.size()));
+    // What is drawn with one picture is told from others by its name.
+    return new Image_Texture(buffer, QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex().constData());
+}
+
+Handle(Image_Texture) olTextureOf(const QImage &picture)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    const bool isOpaque = !picture.hasAlphaChannel();
+    picture.convertToFormat(isOpaque ? QImage::Format_RGB888 : QImage::Format_RGBA8888).save(&buffer, "PNG");
+    return olTextureOf(bytes);
 }

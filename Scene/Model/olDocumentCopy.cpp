@@ -2,17 +2,20 @@
 
 #include <BRepTools_ReShape.hxx>
 #include <Quantity_ColorRGBA.hxx>
-#include <TColStd_HSequenceOfExtendedString.hxx>
+#include <TCollection_HAsciiString.hxx>
 #include <TDF_Label.hxx>
 #include <TDF_LabelDataMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
+#include <TDataStd_TreeNode.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopLoc_Location.hxx>
 #include <TopoDS_Iterator.hxx>
+#include <XCAFDoc.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_LayerTool.hxx>
+#include <XCAFDoc_MaterialTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
@@ -37,7 +40,8 @@ struct Tools {
         : shapes(XCAFDoc_DocumentTool::ShapeTool(document->Main())),
           colors(XCAFDoc_DocumentTool::ColorTool(document->Main())),
           layers(XCAFDoc_DocumentTool::LayerTool(document->Main())),
-          materials(XCAFDoc_DocumentTool::VisMaterialTool(document->Main()))
+          materials(XCAFDoc_DocumentTool::VisMaterialTool(document->Main())),
+          substances(XCAFDoc_DocumentTool::MaterialTool(document->Main()))
     {
     }
 
@@ -45,6 +49,7 @@ struct Tools {
     Handle(XCAFDoc_ColorTool) colors;
     Handle(XCAFDoc_LayerTool) layers;
     Handle(XCAFDoc_VisMaterialTool) materials;
+    Handle(XCAFDoc_MaterialTool) substances;
 };
 
 /// A location that moves nothing is none. The STEP writer falls over those that merely amount to nothing.
@@ -184,6 +189,28 @@ private:
             m_to.colors->SetVisibility(to, Standard_False);
         copyLayers(from, to);
         copyMaterial(from, to);
+        copySubstance(from, to);
+    }
+
+    /// What it is made of, as opposed to what it looks like.
+    void copySubstance(const TDF_Label &from, const TDF_Label &to)
+    {
+        Handle(TDataStd_TreeNode) node;
+        if (!from.FindAttribute(XCAFDoc::MaterialRefGUID(), node) || !node->HasFather())
+            return;
+        const TDF_Label source = node->Father()->Label();
+        TDF_Label target;
+        if (const TDF_Label *known = m_done.Seek(source)) {
+            target = *known;
+        } else {
+            Handle(TCollection_HAsciiString) texts[4];
+            double density = 0;
+            if (!m_from.substances->GetMaterial(source, texts[0], texts[1], density, texts[2], texts[3]))
+                return;
+            target = m_to.substances->AddMaterial(texts[0], texts[1], density, texts[2], texts[3]);
+            m_done.Bind(source, target);
+        }
+        m_to.substances->SetMaterial(to, target);
     }
 
     void copyLayers(const TDF_Label &from, const TDF_Label &to)

@@ -63,6 +63,12 @@ QString olNameOf(const TDF_Label &label)
 {
     Handle(TDataStd_Name) name;
     if (!label.FindAttribute(TDataStd_Name::GetID(), name))
-        return QCoreApplication::translate("olImport", "A part without a name");
+        return {};
     return QString::fromUtf16(name->Get().ToExtString());
+}
+
+QString olShownNameOf(const TDF_Label &label)
+{
+    const QString name = olNameOf(label);
+    return name.isEmpty() ? QCoreApplication::translate("olImport", "A part without a name") : name;
 }

@@ -26,5 +26,8 @@ private:
     olLibraryFailures *m_outer;
 };
 
-/// The name of what a document's label holds, for messages.
+/// The name of what a document's label holds; empty where it has none.
 [[nodiscard]] QString olNameOf(const TDF_Label &label);
+
+/// The same for messages, which say where there is none.
+[[nodiscard]] QString olShownNameOf(const TDF_Label &label);

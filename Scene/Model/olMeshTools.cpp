@@ -1,87 +1,157 @@
 #include "Model/olMeshTools.h"
 
+#include "Model/olColoredMesh.h"
+
 #include <BRep_Builder.hxx>
 #include <BRep_Tool.hxx>
 #include <Poly_Triangulation.hxx>
 #include <StdPrs_ToolTriangulatedShape.hxx>
 #include <TopLoc_Location.hxx>
+#include <gp.hxx>
 #include <gp_Dir.hxx>
 #include <gp_Trsf.hxx>
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <queue>
+#include <cstdint>
+#include <cstring>
+#include <numeric>
+#include <utility>
+#include <vector>
 
 namespace
 {
 
 using Mesh = Handle(Poly_Triangulation);
-using Edge = std::pair<int, int>;
-
-struct Neighbours {
-    int first = 0;
-    int second = 0;
-    bool isManifold = true;
-};
-
-Edge sorted(int from, int to) { return from < to ? Edge{from, to} : Edge{to, from}; }
-
-std::map<Edge, Neighbours> neighboursOf(const Mesh &mesh)
+/// The three nodes of all triangles, from 0 up.
+std::vector<int> cornersOf(const Mesh &mesh)
 {
-    std::map<Edge, Neighbours> edges;
-    for (int index = 1; index <= mesh->NbTriangles(); ++index) {
-        int n[3];
-        mesh->Triangle(index).Get(n[0], n[1], n[2]);
-        for (int side = 0; side < 3; ++side) {
-            Neighbours &edge = edges[sorted(n[side], n[(side + 1) % 3])];
-            if (edge.first == 0)
-                edge.first = index;
-            else if (edge.second == 0)
-                edge.second = index;
-            else
-                edge.isManifold = false;
+    std::vector<int> corners(3 * std::size_t(mesh->NbTriangles()));
+    for (int triangle = 1; triangle <= mesh->NbTriangles(); ++triangle) {
+        int *at = &corners[3 * std::size_t(triangle - 1)];
+        mesh->Triangle(triangle).Get(at[0], at[1], at[2]);
+        for (int corner = 0; corner < 3; ++corner)
+            --at[corner];
+    }
+    return corners;
+}
+
+/// One number for all nodes that lie in one place.
+std::vector<int> placesOf(const Mesh &mesh)
+{
+    const auto count = std::size_t(mesh->NbNodes());
+    std::size_t size = 16;
+    while (size < 2 * count)
+        size *= 2;
+    std::vector<int> table(size, -1);
+    std::vector<int> places(count);
+    for (std::size_t node = 0; node < count; ++node) {
+        const gp_Pnt point = mesh->Node(int(node) + 1);
+        std::uint64_t hash = 0;
+        for (const double part : {point.X() + 0.0, point.Y() + 0.0, point.Z() + 0.0}) {
+            std::uint64_t bits = 0;
+            std::memcpy(&bits, &part, sizeof(bits));
+            hash = (hash ^ bits) * 0x9e3779b97f4a7c15u;
+            hash ^= hash >> 32;
+        }
+        std::size_t slot = hash & (size - 1);
+        while (table[slot] >= 0 && !mesh->Node(table[slot] + 1).IsEqual(point, 0.0))
+            slot = (slot + 1) & (size - 1);
+        if (table[slot] < 0)
+            table[slot] = int(node);
+        places[node] = table[slot];
+    }
+    return places;
+}
+
+/// For each side of each triangle the side of another that lies along it; -1 at borders, and where more than two meet.
+/// Found in a time that grows with the triangles only.
+std::vector<int> neighboursOf(const std::vector<int> &corners, const std::vector<int> &places)
+{
+    constexpr int none = -1;
+    constexpr int several = -2;
+    // Sides are sorted by the lower of their places; few begin in the same.
+    const auto low = [&](std::size_t side) {
+        return std::min(places[std::size_t(corners[side])],
+                        places[std::size_t(corners[side - side % 3 + (side + 1) % 3])]);
+    };
+    const auto high = [&](std::size_t side) {
+        return std::max(places[std::size_t(corners[side])],
+                        places[std::size_t(corners[side - side % 3 + (side + 1) % 3])]);
+    };
+    std::vector<int> starts(places.size() + 1, 0);
+    for (std::size_t side = 0; side < corners.size(); ++side)
+        ++starts[std::size_t(low(side)) + 1];
+    for (std::size_t place = 0; place < places.size(); ++place)
+        starts[place + 1] += starts[place];
+    std::vector<int> sorted(corners.size());
+    std::vector<int> next(starts.begin(), starts.end() - 1);
+    for (std::size_t side = 0; side < corners.size(); ++side)
+        sorted[std::size_t(next[std::size_t(low(side))]++)] = int(side);
+
+    std::vector<int> neighbours(corners.size(), none);
+    for (std::size_t place = 0; place < places.size(); ++place) {
+        const auto first = sorted.begin() + starts[place];
+        const auto last = sorted.begin() + starts[place + 1];
+        // Many may begin in the middle of a fan.
+        std::sort(first, last, [&](int one, int other) {
+            return std::make_pair(high(std::size_t(one)), one) < std::make_pair(high(std::size_t(other)), other);
+        });
+        for (auto begin = first; begin != last;) {
+            auto end = begin + 1;
+            while (end != last && high(std::size_t(*end)) == high(std::size_t(*begin)))
+                ++end;
+            if (end - begin == 2) {
+                neighbours[std::size_t(begin[0])] = begin[1];
+                neighbours[std::size_t(begin[1])] = begin[0];
+            } else if (end - begin > 2) {
+                std::for_each(begin, end, [&](int side) { neighbours[std::size_t(side)] = several; });
+            }
+            begin = end;
         }
     }
-    return edges;
+    return neighbours;
 }
 
-bool runsAlong(const Poly_Triangle &triangle, int from, int to)
+/// Across a triangle, as long as twice its area.
+std::vector<gp_XYZ> crossesOf(const Mesh &mesh, const std::vector<int> &corners)
 {
-    int n[3];
-    triangle.Get(n[0], n[1], n[2]);
-    return (n[0] == from && n[1] == to) || (n[1] == from && n[2] == to) || (n[2] == from && n[0] == to);
+    std::vector<gp_XYZ> crosses(corners.size() / 3);
+    for (std::size_t triangle = 0; triangle < crosses.size(); ++triangle) {
+        const gp_XYZ one = mesh->Node(corners[3 * triangle] + 1).XYZ();
+        crosses[triangle] = (mesh->Node(corners[3 * triangle + 1] + 1).XYZ() - one)
+                                .Crossed(mesh->Node(corners[3 * triangle + 2] + 1).XYZ() - one);
+    }
+    return crosses;
 }
+
+/// Corners that share what lies in one place, in groups that grow together.
+class Groups
+{
+public:
+    explicit Groups(std::size_t count) : m_parents(count) { std::iota(m_parents.begin(), m_parents.end(), 0); }
+
+    int find(int member)
+    {
+        while (m_parents[std::size_t(member)] != member) {
+            int &parent = m_parents[std::size_t(member)];
+            parent = m_parents[std::size_t(parent)];
+            member = parent;
+        }
+        return member;
+    }
+
+    void join(int one, int other) { m_parents[std::size_t(find(one))] = find(other); }
+
+private:
+    std::vector<int> m_parents;
+};
 
 void turn(const Mesh &mesh, int index)
 {
     int n[3];
     mesh->Triangle(index).Get(n[0], n[1], n[2]);
     mesh->SetTriangle(index, Poly_Triangle(n[0], n[2], n[1]));
-}
-
-/// Turns the neighbours of a triangle that is right already, and notes those that were not reached before.
-bool turnNeighbours(const Mesh &mesh, int index, const std::map<Edge, Neighbours> &edges, std::vector<char> &isDone,
-                    std::queue<int> &next)
-{
-    bool isTurned = false;
-    int n[3];
-    mesh->Triangle(index).Get(n[0], n[1], n[2]);
-    for (int side = 0; side < 3; ++side) {
-        const int from = n[side];
-        const int to = n[(side + 1) % 3];
-        const Neighbours &edge = edges.at(sorted(from, to));
-        const int other = edge.first == index ? edge.second : edge.first;
-        if (other == 0 || !edge.isManifold || isDone[std::size_t(other)])
-            continue;
-        isDone[std::size_t(other)] = 1;
-        next.push(other);
-        if (!runsAlong(mesh->Triangle(other), from, to))
-            continue;
-        turn(mesh, other);
-        isTurned = true;
-    }
-    return isTurned;
 }
 
 TopoDS_Face faceOf(const Mesh &mesh)
@@ -96,7 +166,7 @@ TopoDS_Face faceOf(const Mesh &mesh)
 bool olMeshTools::isWhole(const Mesh &mesh)
 {
     // No model is larger than this, and what is cannot be computed with.
-    constexpr double farthest = 1e30;
+    constexpr double farthest = 1e15;
     for (int index = 1; index <= mesh->NbNodes(); ++index) {
         const gp_Pnt point = mesh->Node(index);
         // Written so that what is no number fails too.
@@ -114,19 +184,112 @@ bool olMeshTools::isWhole(const Mesh &mesh)
 
 void olMeshTools::orientAlike(const Mesh &mesh)
 {
-    const std::map<Edge, Neighbours> edges = neighboursOf(mesh);
-    std::vector<char> isDone(std::size_t(mesh->NbTriangles()) + 1, 0);
-    bool isTurned = false;
-    for (int seed = 1; seed <= mesh->NbTriangles(); ++seed) {
-        if (isDone[std::size_t(seed)])
+    const std::vector<int> corners = cornersOf(mesh);
+    const std::vector<int> places = placesOf(mesh);
+    const std::vector<int> neighbours = neighboursOf(corners, places);
+    const auto placeOf = [&](int side) { return places[std::size_t(corners[std::size_t(side)])]; };
+    const auto count = std::size_t(mesh->NbTriangles());
+    std::vector<char> isDone(count, 0);
+    std::vector<char> isTurned(count, 0);
+    std::vector<int> next;
+    bool isAnyTurned = false;
+    for (std::size_t seed = 0; seed < count; ++seed) {
+        if (isDone[seed])
             continue;
-        isDone[std::size_t(seed)] = 1;
-        std::queue<int> next;
-        for (next.push(seed); !next.empty(); next.pop())
-            isTurned = turnNeighbours(mesh, next.front(), edges, isDone, next) || isTurned;
+        isDone[seed] = 1;
+        next.push_back(int(seed));
+        while (!next.empty()) {
+            const int triangle = next.back();
+            next.pop_back();
+            for (int side = 3 * triangle; side < 3 * triangle + 3; ++side) {
+                const int opposite = neighbours[std::size_t(side)];
+                if (opposite < 0 || isDone[std::size_t(opposite / 3)])
+                    continue;
+                // Neighbours that face the same way run along their side in opposite directions.
+                const bool runsAlong = placeOf(side) == placeOf(opposite);
+                const auto other = std::size_t(opposite / 3);
+                isDone[other] = 1;
+                isTurned[other] = char(isTurned[std::size_t(triangle)] != char(runsAlong));
+                isAnyTurned = isAnyTurned || isTurned[other];
+                next.push_back(int(other));
+            }
+        }
     }
-    if (isTurned && mesh->HasNormals())
+    for (std::size_t triangle = 0; isAnyTurned && triangle < count; ++triangle) {
+        if (isTurned[triangle])
+            turn(mesh, int(triangle) + 1);
+    }
+    if (isAnyTurned && mesh->HasNormals())
         mesh->ComputeNormals();
+}
+
+Mesh olMeshTools::withNormals(const Mesh &mesh, double creaseAngle)
+{
+    const std::vector<int> corners = cornersOf(mesh);
+    const std::vector<int> neighbours = neighboursOf(corners, placesOf(mesh));
+    const std::vector<gp_XYZ> crosses = crossesOf(mesh, corners);
+    const double least = std::cos(creaseAngle);
+    const auto isSmooth = [&](std::size_t one, std::size_t other) {
+        const double lengths = crosses[one].Modulus() * crosses[other].Modulus();
+        return !(lengths > 0) || crosses[one].Dot(crosses[other]) >= least * lengths;
+    };
+    const auto after = [](int side) { return side - side % 3 + (side + 1) % 3; };
+    Groups smooth(corners.size());
+    for (int side = 0; side < int(corners.size()); ++side) {
+        const int opposite = neighbours[std::size_t(side)];
+        if (opposite > side && isSmooth(std::size_t(side / 3), std::size_t(opposite / 3))) {
+            smooth.join(side, after(opposite));
+            smooth.join(after(side), opposite);
+        }
+    }
+    // A node for each group, and another where a group has several nodes: they differ in more than their place.
+    std::vector<int> firstOf(corners.size(), -1);
+    std::vector<int> nodes;
+    std::vector<gp_XYZ> sums;
+    std::vector<int> groups;
+    std::vector<int> nextOf;
+    std::vector<int> triangles(corners.size());
+    for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+        const auto root = std::size_t(smooth.find(int(corner)));
+        int node = firstOf[root];
+        while (node >= 0 && nodes[std::size_t(node)] != corners[corner])
+            node = nextOf[std::size_t(node)];
+        if (node < 0) {
+            node = int(nodes.size());
+            nodes.push_back(corners[corner]);
+            nextOf.push_back(firstOf[root]);
+            groups.push_back(firstOf[root] < 0 ? int(sums.size()) : groups[std::size_t(firstOf[root])]);
+            if (firstOf[root] < 0)
+                sums.emplace_back();
+            firstOf[root] = node;
+        }
+        sums[std::size_t(groups[std::size_t(node)])] += crosses[corner / 3];
+        triangles[corner] = node;
+    }
+
+    const auto *from = dynamic_cast<const olColoredMesh *>(mesh.get());
+    Handle(olColoredMesh) colored;
+    if (from)
+        colored = new olColoredMesh(int(nodes.size()), mesh->NbTriangles(), mesh->HasUVNodes(), Standard_True);
+    const Mesh result =
+        from ? Mesh(colored)
+             : new Poly_Triangulation(int(nodes.size()), mesh->NbTriangles(), mesh->HasUVNodes(), Standard_True);
+    for (std::size_t node = 0; node < nodes.size(); ++node) {
+        const int index = int(node) + 1;
+        const int before = nodes[node] + 1;
+        const gp_XYZ &sum = sums[std::size_t(groups[node])];
+        result->SetNode(index, mesh->Node(before));
+        result->SetNormal(index, sum.Modulus() > 0 ? gp_Dir(sum) : gp::DZ());
+        if (mesh->HasUVNodes())
+            result->SetUVNode(index, mesh->UVNode(before));
+        if (from)
+            colored->colors.push_back(from->colors[std::size_t(before - 1)]);
+    }
+    for (int triangle = 0; triangle < mesh->NbTriangles(); ++triangle) {
+        const int *at = &triangles[3 * std::size_t(triangle)];
+        result->SetTriangle(triangle + 1, Poly_Triangle(at[0] + 1, at[1] + 1, at[2] + 1));
+    }
+    return result;
 }
 
 TopoDS_Face olMeshTools::merged(const std::vector<TopoDS_Face> &faces)
@@ -135,6 +298,7 @@ TopoDS_Face olMeshTools::merged(const std::vector<TopoDS_Face> &faces)
     int triangles = 0;
     bool hasNormals = true;
     bool hasTexture = true;
+    bool isColored = true;
     TopLoc_Location location;
     for (const TopoDS_Face &face : faces) {
         const Mesh mesh = BRep_Tool::Triangulation(face, location);
@@ -142,8 +306,12 @@ TopoDS_Face olMeshTools::merged(const std::vector<TopoDS_Face> &faces)
         triangles += mesh->NbTriangles();
         hasNormals = hasNormals && mesh->HasNormals();
         hasTexture = hasTexture && mesh->HasUVNodes();
+        isColored = isColored && mesh->IsKind(STANDARD_TYPE(olColoredMesh));
     }
-    const Mesh all = new Poly_Triangulation(nodes, triangles, hasTexture, hasNormals);
+    Handle(olColoredMesh) colored;
+    if (isColored)
+        colored = new olColoredMesh(nodes, triangles, hasTexture, hasNormals);
+    const Mesh all = isColored ? Mesh(colored) : new Poly_Triangulation(nodes, triangles, hasTexture, hasNormals);
     int node = 0;
     int triangle = 0;
     for (const TopoDS_Face &face : faces) {
@@ -151,6 +319,10 @@ TopoDS_Face olMeshTools::merged(const std::vector<TopoDS_Face> &faces)
         const gp_Trsf where = location.Transformation();
         const bool isReversed = face.Orientation() == TopAbs_REVERSED;
         const int before = node;
+        if (isColored) {
+            const std::vector<std::uint32_t> &colors = Handle(olColoredMesh)::DownCast(mesh)->colors;
+            colored->colors.insert(colored->colors.end(), colors.begin(), colors.end());
+        }
         for (int index = 1; index <= mesh->NbNodes(); ++index) {
             all->SetNode(++node, mesh->Node(index).Transformed(where));
             if (hasNormals) {

@@ -18,6 +18,10 @@ namespace olMeshTools
 /// piece stays. Normals are computed anew where something was turned.
 void orientAlike(const opencascade::handle<Poly_Triangulation> &mesh);
 
+/// The triangles with normals: smooth where neighbours meet at less than the angle, in radians, and sharp elsewhere.
+[[nodiscard]] opencascade::handle<Poly_Triangulation> withNormals(const opencascade::handle<Poly_Triangulation> &mesh,
+                                                                  double creaseAngle);
+
 /// One face with the triangles of all, which have no surfaces.
 [[nodiscard]] TopoDS_Face merged(const std::vector<TopoDS_Face> &faces);
 

@@ -41,14 +41,6 @@ XCAFDoc_VisMaterialCommon commonOf(const Quantity_ColorRGBA &color)
     return common;
 }
 
-/// Formats that keep one colour keep the diffuse one, so that it stands there whole.
-XCAFDoc_VisMaterialCommon bareOf(const Quantity_ColorRGBA &color)
-{
-    XCAFDoc_VisMaterialCommon common = commonOf(color);
-    common.DiffuseColor = color.GetRGB();
-    return common;
-}
-
 bool isBare(const XCAFDoc_VisMaterial &material)
 {
     if (material.HasPbrMaterial() || !material.HasCommonMaterial())
@@ -110,7 +102,7 @@ private:
         TDF_Label &label = m_made[key.str()];
         if (label.IsNull()) {
             const Handle(XCAFDoc_VisMaterial) material = new XCAFDoc_VisMaterial;
-            material->SetCommonMaterial(bareOf(color));
+            material->SetCommonMaterial(olPlainLook::bareLook(color));
             material->SetPbrMaterial(dullOf(color));
             label = m_materials->AddMaterial(material, TCollection_AsciiString());
         }
@@ -125,6 +117,14 @@ private:
 } // namespace
 
 Quantity_Color olPlainLook::bare() { return {0.86, 0.88, 0.9, Quantity_TOC_sRGB}; }
+
+XCAFDoc_VisMaterialCommon olPlainLook::bareLook(const Quantity_ColorRGBA &color)
+{
+    XCAFDoc_VisMaterialCommon common = commonOf(color);
+    // Formats that keep one colour keep the diffuse one, so that it stands there whole.
+    common.DiffuseColor = color.GetRGB();
+    return common;
+}
 
 void olPlainLook::addTo(const olScene::Document &document)
 {

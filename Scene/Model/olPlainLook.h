@@ -3,6 +3,7 @@
 #include "Model/olScene.h"
 
 #include <Quantity_Color.hxx>
+#include <XCAFDoc_VisMaterialCommon.hxx>
 
 /// A colour without a material, and a material that is no more than a colour, look the same in the view and in every
 /// format.
@@ -11,6 +12,9 @@ namespace olPlainLook
 
 /// The colour of what has none.
 [[nodiscard]] Quantity_Color bare();
+
+/// The look of a material that says nothing but its colour.
+[[nodiscard]] XCAFDoc_VisMaterialCommon bareLook(const Quantity_ColorRGBA &color);
 
 /// Makes colours of materials that are no more than that, and gives those that only say how metallic and rough they are
 /// the look of their base colour: the view does not compute the reflections that would make them more than white.

@@ -1,20 +1,49 @@
 #include "View/olPart.h"
 
+#include "Model/olColoredMesh.h"
 #include "Model/olLevelsOfDetail.h"
 #include "Model/olPlainLook.h"
 
+#include <AIS_ColoredDrawer.hxx>
 #include <AIS_DisplayMode.hxx>
+#include <BRep_Tool.hxx>
+#include <Graphic3d_ArrayOfTriangles.hxx>
 #include <Graphic3d_AspectFillArea3d.hxx>
 #include <Graphic3d_Group.hxx>
+#include <Prs3d_LineAspect.hxx>
+#include <Prs3d_ShadingAspect.hxx>
 #include <PrsMgr_Presentation.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopLoc_Location.hxx>
+#include <TopoDS.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFPrs_DocumentNode.hxx>
+#include <gp_Trsf.hxx>
+
+#include <algorithm>
 
 namespace
 {
 
 /// Behind those that the library knows.
 constexpr int firstLevelMode = 100;
+
+Handle(olColoredMesh) coloredMeshOf(const TopoDS_Face &face, TopLoc_Location &location)
+{
+    return Handle(olColoredMesh)::DownCast(BRep_Tool::Triangulation(face, location));
+}
+
+/// The library computes with light, files say how screens show it.
+Graphic3d_Vec4ub lightOf(std::uint32_t color)
+{
+    Graphic3d_Vec4ub light;
+    for (int part = 0; part < 4; ++part) {
+        const float value = float(color >> (8 * part) & 0xff) / 255.0f;
+        light[part] =
+            Standard_Byte((part < 3 ? Quantity_Color::Convert_sRGB_To_LinearRGB(value) : value) * 255.0f + 0.5f);
+    }
+    return light;
+}
 
 } // namespace
 
@@ -28,6 +57,11 @@ olPart::olPart(const XCAFPrs_DocumentNode &node)
     // The scene is triangulated as its import wanted; displaying it must not do that again.
     Attributes()->SetAutoTriangulation(Standard_False);
     SetLocalTransformation(node.Location);
+    TopLoc_Location location;
+    for (TopExp_Explorer each(m_source, TopAbs_FACE); each.More(); each.Next()) {
+        if (!coloredMeshOf(TopoDS::Face(each.Current()), location).IsNull())
+            m_colored.push_back(TopoDS::Face(each.Current()));
+    }
 }
 
 bool olPart::isFullyTransparent() const
@@ -52,7 +86,61 @@ void olPart::Compute(const Handle(PrsMgr_PresentationManager) & manager,
 {
     const int level = levelOf(mode);
     const olLevelsOfDetail::InUse used(m_source, level);
-    XCAFPrs_AISObject::Compute(manager, presentation, level > 0 ? int(AIS_Shaded) : mode);
+    const bool isShaded = level > 0 || mode == int(AIS_Shaded);
+    if (isShaded && !m_colored.empty()) {
+        DispatchStyles(Standard_True);
+        for (const TopoDS_Face &face : m_colored)
+            CustomAspects(face)->SetHidden(true);
+    }
+    XCAFPrs_AISObject::Compute(manager, presentation, isShaded ? int(AIS_Shaded) : mode);
+    for (const TopoDS_Face &face : m_colored) {
+        if (isShaded)
+            addColored(presentation, face);
+    }
+}
+
+void olPart::addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face)
+{
+    TopLoc_Location location;
+    const Handle(olColoredMesh) mesh = coloredMeshOf(face, location);
+    if (!mesh->HasNormals())
+        mesh->ComputeNormals();
+    const Handle(Graphic3d_AspectFillArea3d) aspect =
+        new Graphic3d_AspectFillArea3d(*CustomAspects(face)->ShadingAspect()->Aspect());
+    aspect->SetInteriorColor(Quantity_NOC_WHITE);
+    const bool isTextured = mesh->HasUVNodes() && aspect->ToMapTexture();
+    int content = Graphic3d_ArrayFlags_VertexNormal | Graphic3d_ArrayFlags_VertexColor;
+    if (isTextured)
+        content |= Graphic3d_ArrayFlags_VertexTexel;
+    const Handle(Graphic3d_ArrayOfTriangles) array =
+        new Graphic3d_ArrayOfTriangles(mesh->NbNodes(), 3 * mesh->NbTriangles(), content);
+    const gp_Trsf where = location.Transformation();
+    const bool isReversed = face.Orientation() == TopAbs_REVERSED;
+    for (int node = 1; node <= mesh->NbNodes(); ++node) {
+        const gp_Dir normal = mesh->Normal(node).Transformed(where);
+        array->AddVertex(mesh->Node(node).Transformed(where), isReversed ? normal.Reversed() : normal,
+                         isTextured ? mesh->UVNode(node) : gp_Pnt2d());
+        array->SetVertexColor(node, lightOf(mesh->colors[std::size_t(node - 1)]));
+    }
+    for (int triangle = 1; triangle <= mesh->NbTriangles(); ++triangle) {
+        int corner[3];
+        mesh->Triangle(triangle).Get(corner[0], corner[1], corner[2]);
+        array->AddEdges(corner[0], corner[isReversed ? 2 : 1], corner[isReversed ? 1 : 2]);
+    }
+    const bool isOpaque =
+        std::all_of(mesh->colors.begin(), mesh->colors.end(), [](std::uint32_t color) { return color >> 24 == 0xff; });
+    if (!isOpaque)
+        aspect->SetAlphaMode(Graphic3d_AlphaMode_Blend);
+    const Handle(Graphic3d_Group) group = presentation->NewGroup();
+    group->SetGroupPrimitivesAspect(aspect);
+    group->AddPrimitiveArray(array);
+}
+
+void olPart::setEdges(bool on)
+{
+    Attributes()->SetFaceBoundaryDraw(on);
+    if (on)
+        Attributes()->SetFaceBoundaryAspect(new Prs3d_LineAspect(Quantity_NOC_BLACK, Aspect_TOL_SOLID, 1.0));
 }
 
 bool olPart::isTransparent() const

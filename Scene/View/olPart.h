@@ -1,9 +1,12 @@
 #pragma once
 
+#include <TopoDS_Face.hxx>
 #include <XCAFPrs_AISObject.hxx>
 #include <XCAFPrs_Style.hxx>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 struct XCAFPrs_DocumentNode;
 
@@ -32,8 +35,14 @@ public:
     /// Which level is drawn now.
     int shownLevel = 0;
 
+    /// With which of the host's values, for depth and for selection, it is shown; nothing where that is to be done.
+    std::optional<std::pair<bool, bool>> applied;
+
     /// Which level is selected where it is not the whole part.
     std::optional<int> selectedLevel;
+
+    /// Whether the borders of its surfaces are drawn; takes effect when it is displayed anew.
+    void setEdges(bool on);
 
     /// Whether one sees through any of what is displayed of it.
     [[nodiscard]] bool isTransparent() const;
@@ -49,9 +58,13 @@ protected:
 
 private:
     [[nodiscard]] static int levelOf(int displayMode);
+    void addColored(const Handle(Prs3d_Presentation) & presentation, const TopoDS_Face &face);
 
     TCollection_AsciiString m_id;
     XCAFPrs_Style m_style;
     TopoDS_Shape m_source;
+
+    /// Faces whose nodes have colours of their own, which the library does not draw.
+    std::vector<TopoDS_Face> m_colored;
     int m_levels;
 };

@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <utility>
 
 namespace
 {
@@ -112,12 +113,14 @@ public:
     Handle(olCornerMarks) marks;
     std::vector<Handle(olPart)> parts;
     std::vector<Handle(olPart)> selected;
+    std::vector<Handle(olPart)> highlighted;
     Bnd_Box box;
     std::vector<osg::Color3f> shownColors;
     std::vector<float> shownPositions;
     int shownRows = 0;
     bool isZUp = true;
     bool isRaytraced = false;
+    bool hasEdges = false;
     bool hasTransparency = false;
 };
 
@@ -181,6 +184,7 @@ void olSceneView::Private::showPart(const Handle(olPart) & part, bool shown)
 {
     if (shown == bool(context->IsDisplayed(part)))
         return;
+    part->applied.reset();
     if (shown)
         context->Display(part, olPart::displayModeOf(part->shownLevel), 0, Standard_False);
     else
@@ -205,12 +209,14 @@ void olSceneView::Private::showParts(const olScene::Document &document, const QS
         context->Remove(part, Standard_False);
     parts.clear();
     selected.clear();
+    highlighted.clear();
 
     std::vector<TopLoc_Location> joints;
     for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
          explorer.Next()) {
         const XCAFPrs_DocumentNode &node = explorer.Current();
         const Handle(olPart) part = new olPart(node);
+        part->setEdges(hasEdges);
         const bool shown = !hidden.contains(QString::fromLatin1(node.Id.ToCString()));
         showPart(part, shown);
         parts.push_back(part);
@@ -317,9 +323,11 @@ void olSceneView::Private::applySelectionStyle()
 void olSceneView::Private::applyParts()
 {
     const olHostState &state = olHostState::the();
+    const auto wanted = std::make_pair(state.zWriteTransparency.get(), state.transparentObjectSelection.get());
     for (const Handle(olPart) & part : parts) {
-        if (!context->IsDisplayed(part))
+        if (part->applied == wanted || !context->IsDisplayed(part))
             continue;
+        part->applied = wanted;
         part->setWritesDepth(state.zWriteTransparency);
         if (part->isFullyTransparent() && !state.transparentObjectSelection)
             context->Deactivate(part);
@@ -335,14 +343,17 @@ void olSceneView::Private::showSelection()
     const Graphic3d_ZLayerId layer = inFront ? Graphic3d_ZLayerId_Topmost : Graphic3d_ZLayerId_Default;
     const Handle(Prs3d_Drawer) style = wireStyle(state.selectionColor, layer);
     std::vector<Bnd_Box> boxes;
-    for (const Handle(olPart) & part : parts)
+    for (const Handle(olPart) & part : highlighted)
         context->Unhilight(part, Standard_False);
+    highlighted.clear();
     for (const Handle(olPart) & part : selected) {
         const bool isDrawn = part->selectedLevel.value_or(part->shownLevel) == part->shownLevel;
         if (!isDrawn || !context->IsDisplayed(part))
             continue;
-        if (state.wireframeSelection)
+        if (state.wireframeSelection) {
             context->HilightWithColor(part, style, Standard_False);
+            highlighted.push_back(part);
+        }
         boxes.push_back(boxOf({part}));
     }
     if (boxes.empty()) {
@@ -391,6 +402,19 @@ void olSceneView::setRaytracing(bool on)
 {
     d->isRaytraced = on;
     applyState();
+}
+
+void olSceneView::setEdges(bool on)
+{
+    if (d->hasEdges == on)
+        return;
+    d->hasEdges = on;
+    for (const Handle(olPart) & part : d->parts) {
+        part->setEdges(on);
+        part->applied.reset();
+        d->context->Redisplay(part, Standard_False);
+    }
+    d->applyParts();
 }
 
 olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
@@ -456,6 +480,31 @@ Handle(Graphic3d_Camera) olSceneView::Private::fitted(const Bnd_Box &what) const
 }
 
 Handle(Graphic3d_Camera) olSceneView::cameraForAll() const { return d->fitted(d->box); }
+
+Handle(Graphic3d_Camera) olSceneView::cameraFilling(double aspect) const
+{
+    const Handle(Graphic3d_Camera) result = d->fitted(d->box);
+    if (d->box.IsVoid())
+        return result;
+    const gp_Vec ahead(result->Direction());
+    const gp_Vec up(result->Up());
+    const gp_Vec right = ahead.Crossed(up);
+    const gp_Pnt middle = result->Center();
+    // The angle is that of the shorter side.
+    const double half = std::tan(result->FOVy() * M_PI / 360.0);
+    const double halfWidth = half * std::max(aspect, 1.0);
+    const double halfHeight = half * std::max(1.0 / aspect, 1.0);
+    double distance = 0;
+    const gp_Pnt corners[] = {d->box.CornerMin(), d->box.CornerMax()};
+    for (int corner = 0; corner < 8; ++corner) {
+        const gp_Vec place(middle,
+                           gp_Pnt(corners[corner & 1].X(), corners[corner >> 1 & 1].Y(), corners[corner >> 2 & 1].Z()));
+        distance = std::max({distance, std::abs(place * right) / halfWidth - place * ahead,
+                             std::abs(place * up) / halfHeight - place * ahead});
+    }
+    result->SetEyeAndCenter(middle.Translated(ahead * (-distance * (1.0 + fitMargin / 2))), middle);
+    return result;
+}
 
 Handle(Graphic3d_Camera) olSceneView::cameraForSelection() const
 {

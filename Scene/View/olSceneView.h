@@ -47,6 +47,9 @@ public:
     /// Whether rays are traced; the host knows nothing of it.
     void setRaytracing(bool on);
 
+    /// Whether faces of surfaces show their borders; the host knows nothing of it either.
+    void setEdges(bool on);
+
     /// By how much each of the pictures is shifted whose mean a frame is, in pixels.
     [[nodiscard]] std::vector<QPointF> shifts(bool isMoving) const;
 
@@ -58,6 +61,9 @@ public:
     /// The camera as it would look at the whole scene, or at what is selected.
     [[nodiscard]] opencascade::handle<Graphic3d_Camera> cameraForAll() const;
     [[nodiscard]] opencascade::handle<Graphic3d_Camera> cameraForSelection() const;
+
+    /// The camera as it sees all of the scene as large as a picture of these proportions holds it.
+    [[nodiscard]] opencascade::handle<Graphic3d_Camera> cameraFilling(double aspect) const;
 
     /// Looks at the scene from its front, top and right at once.
     void resetCamera();

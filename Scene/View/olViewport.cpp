@@ -76,6 +76,7 @@ public:
     bool isStateStale = true;
     bool isAnaglyph = false;
     bool isRaytraced = false;
+    bool hasEdges = false;
 
     Action action = Action::None;
     bool isDragging = false;
@@ -176,6 +177,7 @@ void olViewport::initializeGL()
     guarded([this] {
         d->navigator.setCamera(d->view->camera());
         d->view->setRaytracing(d->isRaytraced);
+        d->view->setEdges(d->hasEdges);
         takeScene();
     });
 }
@@ -399,6 +401,14 @@ void olViewport::select(const QStringList &parts)
 
 void olViewport::showAll() { glideTo(false); }
 
+void olViewport::fillPicture(const QSize &size)
+{
+    withContext([&] {
+        takeState();
+        d->view->camera()->Copy(d->view->cameraFilling(double(size.width()) / size.height()));
+    });
+}
+
 void olViewport::zoomToSelection() { glideTo(true); }
 
 void olViewport::glideTo(bool selectionOnly)
@@ -598,6 +608,13 @@ void olViewport::leaveEvent(QEvent *event)
 void olViewport::setAnaglyph(bool on)
 {
     d->isAnaglyph = on;
+    redraw();
+}
+
+void olViewport::setEdges(bool on)
+{
+    d->hasEdges = on;
+    withContext([&] { d->view->setEdges(on); });
     redraw();
 }
 

@@ -57,10 +57,14 @@ public:
 public slots:
     /// The camera glides there where the host wants that.
     void showAll();
+
+    /// The same at once, and as large as a picture of this size holds it.
+    void fillPicture(const QSize &size);
     void zoomToSelection();
 
     void setAnaglyph(bool on);
     void setRaytracing(bool on);
+    void setEdges(bool on);
 
 signals:
     /// The user selected something in the view.

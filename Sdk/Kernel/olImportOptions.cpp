@@ -22,8 +22,7 @@ void tellMaxChordLengths()
     std::vector<std::string> lengths;
     for (const auto &[type, record] : host.importRecords)
         lengths.push_back(type + ' ' + QString::number(record.maxChordLength).toStdString());
-    if (lengths != host.maxChordLengths.get())
-        host.maxChordLengths = lengths;
+    host.maxChordLengths = lengths;
 }
 
 } // namespace

@@ -2,6 +2,11 @@
 
 #include "State/olHostState.h"
 #include "State/olJournal.h"
+#include "Utilities/olLog.h"
+
+#include <QString>
+
+#include <cmath>
 
 namespace
 {
@@ -53,8 +58,17 @@ void olOSGWidget::setCameraZUp(bool zUp, bool openViews)
 void olOSGWidget::setNearFarPlaneLimit(bool limit, float nearest, float farthest)
 {
     olJournal::call("olOSGWidget::setNearFarPlaneLimit", limit, nearest, farthest);
+    // Empty fields of a page arrive as zeros. No camera has such planes, so it goes on without a limit.
+    const bool isPossible = std::isfinite(nearest) && std::isfinite(farthest) && nearest > 0.0f && farthest > nearest;
+    if (limit && !isPossible)
+        olLog::error(QStringLiteral("The clipping planes %1 and %2 are refused: expected two numbers above 0, the far "
+                                    "one greater than the near one. Nothing is clipped.")
+                         .arg(double(nearest))
+                         .arg(double(farthest)));
     olHostState &state = olHostState::the();
-    state.limitNearFarPlane = limit;
+    state.limitNearFarPlane = limit && isPossible;
+    if (!isPossible)
+        return;
     state.nearPlane = nearest;
     state.farPlane = farthest;
 }

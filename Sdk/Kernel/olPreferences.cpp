@@ -31,7 +31,7 @@ public:
     void preferencesNewScene() override { m_module.preferencesNewScene(record()); }
     void preferencesLoaded() override { m_module.preferencesLoaded(record()); }
     void preferencesInitialApply() override { m_module.preferencesInitialApply(record()); }
-    void settle() override { unchanged.clear(); }
+    void markClean() override { unchanged.clear(); }
 
     [[nodiscard]] olHome home() const override { return olHome::Record; }
     [[nodiscard]] boost::any value(const std::string &key) const override { return record().get(key); }
@@ -46,7 +46,7 @@ public:
             unchanged.insert(key);
     }
 
-    /// What the module reported since the last settle().
+    /// What the module reported since the last markClean().
     std::set<std::string> unchanged;
 
 protected:

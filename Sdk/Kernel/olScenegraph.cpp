@@ -2,6 +2,7 @@
 
 #include "State/olHostState.h"
 #include "State/olJournal.h"
+#include "State/olSceneLoaders.h"
 
 #include <OpenSG/OSGNode.h>
 
@@ -10,12 +11,8 @@ namespace
 
 osg::NodePtr makeHeadlight()
 {
-#if defined(ORLO_OPENSG_STANDIN)
-    static osg::Node node("headlight");
-    return osg::NodePtr(node);
-#else
+    olStartOpenSG();
     return osg::Node::create();
-#endif
 }
 
 } // namespace

@@ -33,7 +33,7 @@ public:
     void preferencesNewScene() override { m_module.preferencesNewScene(record()); }
     void preferencesLoaded() override { m_module.preferencesLoaded(record()); }
     void preferencesInitialApply() override { m_module.preferencesInitialApply(record()); }
-    void settle() override { service().settle(); }
+    void markClean() override { service().markClean(); }
 
     [[nodiscard]] olHome home() const override { return olHome::Service; }
     [[nodiscard]] boost::any value(const std::string &key) const override { return service().get(key); }

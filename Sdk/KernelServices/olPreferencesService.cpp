@@ -32,7 +32,7 @@ void olPreferencesService::setDefault(const std::string &key, const boost::any &
     m_defaults[key] = value;
 }
 
-bool olPreferencesService::isChanged(const std::string &key) const { return !m_settled || m_changed.count(key) != 0; }
+bool olPreferencesService::isChanged(const std::string &key) const { return !m_wasClean || m_changed.count(key) != 0; }
 
 boost::any olPreferencesService::get(const std::string &key) const
 {
@@ -59,9 +59,9 @@ void olPreferencesService::remove(const std::string &key)
         m_changed.insert(key);
 }
 
-void olPreferencesService::settle()
+void olPreferencesService::markClean()
 {
-    m_settled = true;
+    m_wasClean = true;
     m_changed.clear();
 }
 

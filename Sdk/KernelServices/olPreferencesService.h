@@ -26,20 +26,20 @@ public:
     void setDefaultFloat(const std::string &key, float value);
     void setDefaultBool(const std::string &key, bool value);
 
-    /// Whether another value came since the last settle(), also where the former one is back. Before the first settle()
-    /// every key counts as changed.
+    /// Whether another value came since the last markClean(), also where the former one is back. Before the first
+    /// markClean() every key counts as changed.
     [[nodiscard]] bool isChanged(const std::string &key) const;
 
     /// For the host: the value or the default beneath it, empty when there is neither; and what it stores and loads.
     [[nodiscard]] boost::any get(const std::string &key) const;
     void set(const std::string &key, const boost::any &value);
     void remove(const std::string &key);
-    void settle();
+    void markClean();
 
-    /// For the host, which may undo a change: what isChanged() answers, from the first settle() on.
+    /// For the host, which may undo a change: what isChanged() answers, from the first markClean() on.
     void setChanged(const std::string &key, bool changed);
 
-    /// Back to an empty service that was never settled.
+    /// Back to an empty service that was never marked clean.
     void clear();
 
 private:
@@ -49,5 +49,5 @@ private:
     std::map<std::string, boost::any> m_values;
     std::map<std::string, boost::any> m_defaults;
     std::set<std::string> m_changed;
-    bool m_settled = false;
+    bool m_wasClean = false;
 };

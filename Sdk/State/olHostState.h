@@ -26,7 +26,7 @@ public:
     olEdition edition = olEdition::Professional;
     QString applicationName = QStringLiteral("orlo");
 
-    static constexpr auto Fact = olHostValueBase::Origin::Fact;
+    static constexpr auto Fact = olHostValueBase::Kind::Fact;
 
     /// Settings that the host cannot follow as they are, by their keys, with a sentence for people that says why.
     olHostValue<std::map<std::string, QString>> refusals{*this, "refusals", {}};
@@ -48,7 +48,7 @@ public:
     olHostValue<double> windowOpacity{*this, "windowOpacity", 1.0};
     olHostValue<bool> mainWindowDocking{*this, "mainWindowDocking", true};
     olHostValue<bool> buttonTextShown{*this, "buttonTextShown", true};
-    olHostValue<bool> simpleToolclips{*this, "simpleToolclips", false};
+    olRecordedValue<bool> simpleToolclips{*this, "simpleToolclips", false};
 
     // Web interface: its port and pipe as given from outside the preferences, whether the object exists, whether
     // the server shall run and whether it does
@@ -63,9 +63,9 @@ public:
     olHostValue<float> fov{*this, "fov", 45.0f};
     olHostValue<float> eyeSeparation{*this, "eyeSeparation", 63.0f};
     olHostValue<float> zeroParallaxDistance{*this, "zeroParallaxDistance", 1500.0f};
-    olHostValue<float> powerwallWidth{*this, "powerwallWidth", 1600.0f};
-    olHostValue<float> powerwallHeight{*this, "powerwallHeight", 1200.0f};
-    olHostValue<float> powerwallDistance{*this, "powerwallDistance", 1000.0f};
+    olRecordedValue<float> powerwallWidth{*this, "powerwallWidth", 1600.0f};
+    olRecordedValue<float> powerwallHeight{*this, "powerwallHeight", 1200.0f};
+    olRecordedValue<float> powerwallDistance{*this, "powerwallDistance", 1000.0f};
     olHostValue<bool> cameraZUp{*this, "cameraZUp", true};
     olHostValue<bool> limitNearFarPlane{*this, "limitNearFarPlane", false};
     olHostValue<float> nearPlane{*this, "nearPlane", 10.0f};
@@ -79,20 +79,20 @@ public:
     olHostValue<std::vector<float>> backgroundPositions{*this, "backgroundPositions", {1.0f, 0.0f}};
     olHostValue<bool> sortTransparency{*this, "sortTransparency", true};
     olHostValue<bool> zWriteTransparency{*this, "zWriteTransparency", false};
-    olHostValue<bool> occlusionCulling{*this, "occlusionCulling", false};
+    olRecordedValue<bool> occlusionCulling{*this, "occlusionCulling", false};
     olHostValue<bool> raytracingDownscale{*this, "raytracingDownscale", false};
     olHostValue<unsigned> raytracingDownscaleFactor{*this, "raytracingDownscaleFactor", 2};
     olHostValue<int> fixedRenderWindowWidth{*this, "fixedRenderWindowWidth", -1};
     olHostValue<int> fixedRenderWindowHeight{*this, "fixedRenderWindowHeight", -1};
-    olHostValue<bool> interactiveMaterialPreview{*this, "interactiveMaterialPreview", true};
+    olRecordedValue<bool> interactiveMaterialPreview{*this, "interactiveMaterialPreview", true};
 
     // Buffers and graphics cards
-    olHostValue<bool> rgb10{*this, "rgb10", false};
+    olRecordedValue<bool> rgb10{*this, "rgb10", false};
     olHostValue<bool> rgb16F{*this, "rgb16F", false};
-    olHostValue<bool> singlePassStereo{*this, "singlePassStereo", false};
+    olRecordedValue<bool> singlePassStereo{*this, "singlePassStereo", false};
     olHostValue<bool> forceGLFinish{*this, "forceGLFinish", false};
-    olHostValue<bool> sli{*this, "sli", false};
-    olHostValue<int> sliMode{*this, "sliMode", 1};
+    olRecordedValue<bool> sli{*this, "sli", false};
+    olRecordedValue<int> sliMode{*this, "sliMode", 1};
 
     // Antialiasing
     struct AntialiasingPreset {
@@ -137,7 +137,7 @@ public:
     // What is drawn beside the scene
     olHostValue<bool> coordinateSystem{*this, "coordinateSystem", false};
     olHostValue<bool> viewCube{*this, "viewCube", true};
-    olHostValue<bool> logo{*this, "logo", true};
+    olRecordedValue<bool> logo{*this, "logo", true};
     olHostValue<bool> camerasVisible{*this, "camerasVisible", true, Fact};
     olHostValue<bool> lightsVisible{*this, "lightsVisible", true, Fact};
     olHostValue<bool> jointsVisible{*this, "jointsVisible", false, Fact};
@@ -184,7 +184,7 @@ public:
     olHostValue<bool> spacemouseWanted{*this, "spacemouseWanted", false};
     olHostValue<bool> spacemouseConnected{*this, "spacemouseConnected", false};
     olHostValue<std::vector<float>> spacemouseMotion{*this, "spacemouseMotion", std::vector<float>(6, 0.0f)};
-    olHostValue<unsigned> spacemouseButtons{*this, "spacemouseButtons", 0};
+    olRecordedValue<unsigned> spacemouseButtons{*this, "spacemouseButtons", 0};
     olHostValue<int> spacemouseViewMode{*this, "spacemouseViewMode", 0};
     olHostValue<int> spacemousePivotMode{*this, "spacemousePivotMode", 0};
     olHostValue<bool> spacemouseTwoAxis{*this, "spacemouseTwoAxis", false};
@@ -199,25 +199,25 @@ public:
     // Displays
     olHostValue<int> displayType{*this, "displayType", 0, Fact};
     olHostValue<bool> starVRHandler{*this, "starVRHandler", false, Fact};
-    olHostValue<bool> starVRFoveatedRendering{*this, "starVRFoveatedRendering", false};
-    olHostValue<float> starVRFoveatedFovFactor{*this, "starVRFoveatedFovFactor", 0.35f};
-    olHostValue<float> starVRFoveatedResolutionScale{*this, "starVRFoveatedResolutionScale", 0.6f};
-    olHostValue<float> starVRNonFoveatedResolutionScale{*this, "starVRNonFoveatedResolutionScale", 0.4f};
-    olHostValue<float> starVRFrontViewResolutionScale{*this, "starVRFrontViewResolutionScale", 1.0f};
-    olHostValue<float> starVRSideViewResolutionScale{*this, "starVRSideViewResolutionScale", 1.0f};
-    olHostValue<bool> starVRSingleTexture{*this, "starVRSingleTexture", false};
+    olRecordedValue<bool> starVRFoveatedRendering{*this, "starVRFoveatedRendering", false};
+    olRecordedValue<float> starVRFoveatedFovFactor{*this, "starVRFoveatedFovFactor", 0.35f};
+    olRecordedValue<float> starVRFoveatedResolutionScale{*this, "starVRFoveatedResolutionScale", 0.6f};
+    olRecordedValue<float> starVRNonFoveatedResolutionScale{*this, "starVRNonFoveatedResolutionScale", 0.4f};
+    olRecordedValue<float> starVRFrontViewResolutionScale{*this, "starVRFrontViewResolutionScale", 1.0f};
+    olRecordedValue<float> starVRSideViewResolutionScale{*this, "starVRSideViewResolutionScale", 1.0f};
+    olRecordedValue<bool> starVRSingleTexture{*this, "starVRSingleTexture", false};
 
     // Immersive sessions
-    olHostValue<int> teleportGroundMode{*this, "teleportGroundMode", 1};
-    olHostValue<float> teleportRange{*this, "teleportRange", 15000.0f};
-    olHostValue<int> visualiseHands{*this, "visualiseHands", 1};
-    olHostValue<bool> autoCreateCollisionObjects{*this, "autoCreateCollisionObjects", true};
-    olHostValue<bool> showTooltipsOnStart{*this, "showTooltipsOnStart", true};
+    olRecordedValue<int> teleportGroundMode{*this, "teleportGroundMode", 1};
+    olRecordedValue<float> teleportRange{*this, "teleportRange", 15000.0f};
+    olRecordedValue<int> visualiseHands{*this, "visualiseHands", 1};
+    olRecordedValue<bool> autoCreateCollisionObjects{*this, "autoCreateCollisionObjects", true};
+    olRecordedValue<bool> showTooltipsOnStart{*this, "showTooltipsOnStart", true};
 
     // Import and export
     olHostValue<bool> verifyGeometry{*this, "verifyGeometry", true};
     olHostValue<bool> optimizeGeometry{*this, "optimizeGeometry", false};
-    olHostValue<bool> optimizeTransparencies{*this, "optimizeTransparencies", false};
+    olRecordedValue<bool> optimizeTransparencies{*this, "optimizeTransparencies", false};
     olHostValue<bool> fileIOProgressShown{*this, "fileIOProgressShown", true};
     olHostValue<int> maxParallelImportTasks{*this, "maxParallelImportTasks", 4};
     olHostValue<bool> importOptionsShown{*this, "importOptionsShown", true};
@@ -229,17 +229,18 @@ public:
     /// What the importers of the type go by; null before anything was written.
     [[nodiscard]] const olImportRecord *importRecord(const std::string &type) const;
     /// Each with its type, in millimetres: "STEP 200".
-    olHostValue<std::vector<std::string>> maxChordLengths{*this, "maxChordLengths", {}};
-    olHostValue<bool> legacyJtLoader{*this, "legacyJtLoader", false};
-    olHostValue<bool> legacyRhinoLoader{*this, "legacyRhinoLoader", false};
+    olRecordedValue<std::vector<std::string>> maxChordLengths{*this, "maxChordLengths", {}};
+    olRecordedValue<bool> legacyJtLoader{*this, "legacyJtLoader", false};
+    olRecordedValue<bool> legacyRhinoLoader{*this, "legacyRhinoLoader", false};
     olHostValue<int> stlExportFormat{*this, "stlExportFormat", 0};
 
     // Geometry optimiser
-    olHostValue<float> topologyTolerance{*this, "topologyTolerance", 0.005f};
-    olHostValue<int> topologyMethod{*this, "topologyMethod", 0};
-    olHostValue<float> offsetFactor{*this, "offsetFactor", 1.0f};
-    olHostValue<std::vector<float>> tessellationQuality{*this, "tessellationQuality", {0.01f, 0.05f, 0.1f, 0.5f, 1.0f}};
-    olHostValue<bool> checkOrientation{*this, "checkOrientation", true};
+    olRecordedValue<float> topologyTolerance{*this, "topologyTolerance", 0.005f};
+    olRecordedValue<int> topologyMethod{*this, "topologyMethod", 0};
+    olRecordedValue<float> offsetFactor{*this, "offsetFactor", 1.0f};
+    olRecordedValue<std::vector<float>> tessellationQuality{
+        *this, "tessellationQuality", {0.01f, 0.05f, 0.1f, 0.5f, 1.0f}};
+    olRecordedValue<bool> checkOrientation{*this, "checkOrientation", true};
 
 private:
     olHostState() = default;

@@ -5,8 +5,8 @@
 
 olHostObserver::~olHostObserver() = default;
 
-olHostValueBase::olHostValueBase(olHostValues &owner, const char *name, Origin origin)
-    : m_owner(owner), m_name(name), m_origin(origin)
+olHostValueBase::olHostValueBase(olHostValues &owner, const char *name, Kind kind)
+    : m_owner(owner), m_name(name), m_kind(kind)
 {
     owner.m_values.push_back(this);
 }

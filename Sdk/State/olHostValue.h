@@ -13,16 +13,18 @@ class olHostValues;
 class ORLO_SDK_EXPORT olHostValueBase
 {
 public:
-    /// Where a value comes from: the host's calls alone, or also from outside, as a fact that the host is asked for.
-    enum class Origin { Calls, Fact };
+    /// What a value is: set by calls, and something in the host goes by it; set by calls and only recorded; or a fact
+    /// that the host is asked for, which can also be set from outside.
+    enum class Kind { Used, Recorded, Fact };
 
-    olHostValueBase(olHostValues &owner, const char *name, Origin origin);
+    olHostValueBase(olHostValues &owner, const char *name, Kind kind);
     virtual ~olHostValueBase();
     olHostValueBase(const olHostValueBase &) = delete;
     olHostValueBase &operator=(const olHostValueBase &) = delete;
 
     [[nodiscard]] const char *name() const { return m_name; }
-    [[nodiscard]] bool isFact() const { return m_origin == Origin::Fact; }
+    [[nodiscard]] bool isFact() const { return m_kind == Kind::Fact; }
+    [[nodiscard]] bool isRecordedOnly() const { return m_kind == Kind::Recorded; }
 
     [[nodiscard]] virtual boost::any any() const = 0;
 
@@ -37,7 +39,7 @@ protected:
 private:
     olHostValues &m_owner;
     const char *m_name;
-    Origin m_origin;
+    Kind m_kind;
 };
 
 /// Told whenever a value of the host's state is set, also to what it was: a call made twice is told twice. Every call
@@ -74,19 +76,17 @@ private:
     int m_telling = 0;
 };
 
-/// A value of the host's state: reads like a plain variable, and tells its observers when it is set.
-template <class T> class olHostValue : public olHostValueBase
+/// A value that calls set and nothing acts on: neither the view nor the importers, the devices or the window can do
+/// what it asks for. It can be shown, but it cannot be read as what it is; so what is called only recorded here is.
+template <class T> class olRecordedValue : public olHostValueBase
 {
 public:
-    olHostValue(olHostValues &owner, const char *name, T initial, Origin origin = Origin::Calls)
-        : olHostValueBase(owner, name, origin), m_initial(std::move(initial)), m_value(m_initial)
+    olRecordedValue(olHostValues &owner, const char *name, T initial)
+        : olRecordedValue(owner, name, std::move(initial), Kind::Recorded)
     {
     }
 
-    operator const T &() const { return m_value; } // NOLINT(google-explicit-constructor): reads like a variable
-    [[nodiscard]] const T &get() const { return m_value; }
-
-    olHostValue &operator=(const T &value)
+    olRecordedValue &operator=(const T &value)
     {
         m_value = value;
         changed();
@@ -103,7 +103,31 @@ public:
     }
     void reset() override { *this = m_initial; }
 
+protected:
+    olRecordedValue(olHostValues &owner, const char *name, T initial, Kind kind)
+        : olHostValueBase(owner, name, kind), m_initial(std::move(initial)), m_value(m_initial)
+    {
+    }
+
+    [[nodiscard]] const T &value() const { return m_value; }
+
 private:
     T m_initial;
     T m_value;
+};
+
+/// A value of the host's state: reads like a plain variable, and tells its observers when it is set.
+template <class T> class olHostValue : public olRecordedValue<T>
+{
+public:
+    olHostValue(olHostValues &owner, const char *name, T initial,
+                olHostValueBase::Kind kind = olHostValueBase::Kind::Used)
+        : olRecordedValue<T>(owner, name, std::move(initial), kind)
+    {
+    }
+
+    using olRecordedValue<T>::operator=;
+
+    operator const T &() const { return this->value(); } // NOLINT(google-explicit-constructor): reads like a variable
+    [[nodiscard]] const T &get() const { return this->value(); }
 };

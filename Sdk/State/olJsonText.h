@@ -14,14 +14,17 @@ namespace olJsonText
 {
 
 /// In double quotes with JSON's escapes.
-[[nodiscard]] std::string quoted(std::string_view text);
-[[nodiscard]] std::string quoted(const QString &text);
+[[nodiscard]] ORLO_SDK_EXPORT std::string quoted(std::string_view text);
+[[nodiscard]] ORLO_SDK_EXPORT std::string quoted(const QString &text);
 
 /// The bytes that quoted() would have been given; nothing for a lone surrogate that stands for no byte.
-[[nodiscard]] std::optional<std::string> bytes(const QString &text);
+[[nodiscard]] ORLO_SDK_EXPORT std::optional<std::string> bytes(const QString &text);
 
 } // namespace olJsonText
 
+/// The one reader of JSON here. None of the libraries serves: they refuse or replace lone surrogates, round numbers, or
+/// let the last of two members of one name count.
+///
 /// Takes a JSON text apart from its beginning, without ever rounding a number: what a number is to be, its taker knows.
 /// Blanks before what is asked for are passed over. What is not there leaves the position after those blanks.
 class ORLO_SDK_EXPORT olJsonReader

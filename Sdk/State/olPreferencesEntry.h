@@ -61,7 +61,7 @@ public:
     virtual void preferencesInitialApply() = 0;
 
     /// What the host does after an apply: from here on only what differs counts as changed.
-    virtual void settle() = 0;
+    virtual void markClean() = 0;
 
     [[nodiscard]] virtual olHome home() const = 0;
 
@@ -70,7 +70,7 @@ public:
     virtual void setValue(const std::string &key, const boost::any &value) = 0;
     virtual void removeValue(const std::string &key) = 0;
 
-    /// What the module's isChanged() answers for the key until the next settle().
+    /// What the module's isChanged() answers for the key until the next markClean().
     virtual void setChanged(const std::string &key, bool changed) = 0;
 
 protected:

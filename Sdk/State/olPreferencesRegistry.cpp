@@ -3,6 +3,8 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 olPreferencesRegistry &olPreferencesRegistry::the()
@@ -14,6 +16,13 @@ olPreferencesRegistry &olPreferencesRegistry::the()
 olPreferencesRegistry::olPreferencesRegistry() { m_record.setObserver(this); }
 
 olPreferencesRegistry::~olPreferencesRegistry() = default;
+
+olRegistryNews &olPreferencesRegistry::news()
+{
+    if (!m_news)
+        m_news = new olRegistryNews(QCoreApplication::instance());
+    return *m_news;
+}
 
 olPreferencesEntry *olPreferencesRegistry::find(const QString &name) const
 {
@@ -74,19 +83,29 @@ void olPreferencesRegistry::add(olPreferencesEntry &entry)
     if (m_hook)
         m_hook(entry.name());
     m_entries.push_back(&entry);
-    emit changed();
+    tellOfChange();
 }
 
 void olPreferencesRegistry::remove(olPreferencesEntry &entry)
 {
     m_entries.erase(std::remove(m_entries.begin(), m_entries.end(), &entry), m_entries.end());
     forgetOffers();
-    emit changed();
+    tellOfChange();
 }
 
-void olPreferencesRegistry::pageAdded(olPreferencesEntry &) { emit changed(); }
+void olPreferencesRegistry::pageAdded(olPreferencesEntry &) { tellOfChange(); }
 
-void olPreferencesRegistry::pageRemoved(olPreferencesEntry &entry) { emit pageAboutToGo(entry.page()); }
+void olPreferencesRegistry::pageRemoved(olPreferencesEntry &entry)
+{
+    if (m_news)
+        emit m_news->pageAboutToGo(entry.page());
+}
+
+void olPreferencesRegistry::tellOfChange()
+{
+    if (m_news)
+        emit m_news->changed();
+}
 
 olPreferencesRegistry::Recording::Recording(olPreferencesEntry &entry)
 {

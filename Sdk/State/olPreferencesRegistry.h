@@ -4,6 +4,7 @@
 #include "Utilities/olMessage.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -20,14 +21,28 @@ struct olOffer {
     const olOfferedDefault *offered;
 };
 
-/// The host's index of all modules, in the order of their registration, and the record that they share.
-class ORLO_SDK_EXPORT olPreferencesRegistry : public QObject, private olMessageObserver
+/// Tells of modules and pages that come and go. It goes with the application object, which the registry outlives.
+class ORLO_SDK_EXPORT olRegistryNews : public QObject
 {
     Q_OBJECT
 
 public:
+    using QObject::QObject;
+
+signals:
+    void pageAboutToGo(QWidget *page);
+    void changed();
+};
+
+/// The host's index of all modules, in the order of their registration, and the record that they share.
+class ORLO_SDK_EXPORT olPreferencesRegistry : private olMessageObserver
+{
+public:
     static olPreferencesRegistry &the();
     ~olPreferencesRegistry() override;
+
+    /// To be asked while there is an application object, which owns it.
+    [[nodiscard]] olRegistryNews &news();
 
     [[nodiscard]] olMessage &record() { return m_record; }
 
@@ -65,10 +80,6 @@ public:
     /// For the stores of values, which tell what they are offered.
     void offered(const std::string &key, const boost::any &value) override;
 
-signals:
-    void pageAboutToGo(QWidget *page);
-    void changed();
-
 private:
     friend class olPreferencesEntry;
 
@@ -78,7 +89,9 @@ private:
     void pageAdded(olPreferencesEntry &entry);
     void pageRemoved(olPreferencesEntry &entry);
     void forgetOffers() { m_offers.clear(); }
+    void tellOfChange();
 
+    QPointer<olRegistryNews> m_news;
     olMessage m_record;
     std::vector<olPreferencesEntry *> m_entries;
     mutable Offers m_offers;

@@ -4,9 +4,10 @@
 
 #include <OpenSG/OSGColor.h>
 
-#include <QJsonArray>
-#include <QJsonValue>
+#include <QByteArray>
+#include <QMetaType>
 #include <QString>
+#include <QVariant>
 
 #include <algorithm>
 #include <charconv>
@@ -68,24 +69,6 @@ template <class Element> std::string json(const std::vector<Element> &list)
     std::string text = "[";
     for (const Element &element : list)
         text += (text.size() > 1 ? ", " : "") + json(element);
-    return text + ']';
-}
-
-/// A JSON value as text, for which there is only one reader.
-std::string textOf(const QJsonValue &json)
-{
-    if (json.isBool())
-        return json.toBool() ? "true" : "false";
-    if (json.isDouble())
-        return shortest(json.toDouble());
-    if (json.isString())
-        return olJsonText::quoted(json.toString());
-    if (!json.isArray())
-        return "null";
-    std::string text = "[";
-    const QJsonArray array = json.toArray();
-    for (const QJsonValue &item : array)
-        text += (text.size() > 1 ? "," : "") + textOf(item);
     return text + ']';
 }
 
@@ -177,6 +160,65 @@ template <> std::optional<Color> parse(olJsonReader &json)
 }
 template <> std::optional<std::vector<Color>> parse(olJsonReader &json) { return parseList<Color>(json); }
 
+/// Nothing is converted: a variant of another type gives nothing.
+template <class T> std::optional<T> fromVariant(const QVariant &variant)
+{
+    return variant.userType() == qMetaTypeId<T>() ? std::optional<T>(variant.value<T>()) : std::nullopt;
+}
+
+template <> std::optional<std::string> fromVariant(const QVariant &variant)
+{
+    const auto bytes = fromVariant<QByteArray>(variant);
+    return bytes ? std::optional<std::string>(bytes->toStdString()) : std::nullopt;
+}
+
+template <class Element> std::optional<std::vector<Element>> listFromVariant(const QVariant &variant)
+{
+    if (variant.userType() != QMetaType::QVariantList)
+        return std::nullopt;
+    std::vector<Element> list;
+    const QVariantList items = variant.toList();
+    for (const QVariant &item : items) {
+        const auto element = fromVariant<Element>(item);
+        if (!element)
+            return std::nullopt;
+        list.push_back(*element);
+    }
+    return list;
+}
+
+template <> std::optional<Color> fromVariant(const QVariant &variant)
+{
+    const auto channels = listFromVariant<float>(variant);
+    if (!channels || channels->size() != 3)
+        return std::nullopt;
+    return Color((*channels)[0], (*channels)[1], (*channels)[2]);
+}
+
+template <> std::optional<std::vector<std::string>> fromVariant(const QVariant &variant)
+{
+    return listFromVariant<std::string>(variant);
+}
+template <> std::optional<std::vector<float>> fromVariant(const QVariant &variant)
+{
+    return listFromVariant<float>(variant);
+}
+template <> std::optional<std::vector<Color>> fromVariant(const QVariant &variant)
+{
+    return listFromVariant<Color>(variant);
+}
+
+template <class T> QVariant variantOf(const T &value) { return value; }
+QVariant variantOf(const std::string &value) { return QByteArray::fromStdString(value); }
+QVariant variantOf(const Color &value) { return QVariantList{value.red(), value.green(), value.blue()}; }
+template <class Element> QVariant variantOf(const std::vector<Element> &list)
+{
+    QVariantList items;
+    for (const Element &element : list)
+        items.append(variantOf(element));
+    return items;
+}
+
 template <class T> bool same(const T &left, const T &right) { return left == right; }
 bool same(const Color &left, const Color &right)
 {
@@ -214,6 +256,8 @@ struct Type {
     const std::type_info *id;
     std::string (*toJson)(const boost::any &);
     boost::any (*fromJson)(olJsonReader &);
+    boost::any (*fromVariant)(const QVariant &);
+    QVariant (*toVariant)(const boost::any &);
     bool (*equal)(const boost::any &, const boost::any &);
     bool (*identical)(const boost::any &, const boost::any &);
     boost::any (*adopted)(const boost::any &);
@@ -227,6 +271,11 @@ template <class T> Type type(const char *name, const char *expectation)
                 const auto value = parse<T>(json);
                 return value && json.atEnd() ? boost::any(*value) : boost::any();
             },
+            [](const QVariant &variant) {
+                const auto value = fromVariant<T>(variant);
+                return value ? boost::any(*value) : boost::any();
+            },
+            [](const boost::any &value) { return variantOf(boost::any_cast<const T &>(value)); },
             [](const boost::any &left, const boost::any &right) {
                 return same(boost::any_cast<const T &>(left), boost::any_cast<const T &>(right));
             },
@@ -237,6 +286,7 @@ template <class T> Type type(const char *name, const char *expectation)
             [](const boost::any &value) { return boost::any(T(boost::any_cast<const T &>(value))); }};
 }
 
+/// In this order, a list of three numbers of which nothing says that it is a colour counts as the list.
 const std::vector<Type> &types()
 {
     static const std::vector<Type> all{
@@ -285,6 +335,14 @@ std::string typeName(const boost::any &value)
     return type ? type->name : "";
 }
 
+std::vector<std::string> typeNames()
+{
+    std::vector<std::string> names;
+    for (const Type &type : types())
+        names.emplace_back(type.name);
+    return names;
+}
+
 bool isTypeName(const std::string &type) { return typeNamed(type) != nullptr; }
 
 std::string expectation(const std::string &name)
@@ -299,17 +357,33 @@ std::string toJson(const boost::any &value)
     return type ? type->toJson(value) : "null";
 }
 
-boost::any fromJson(const std::string &type, const QJsonValue &json)
-{
-    const std::string text = textOf(json);
-    return fromJson(type, QByteArray::fromRawData(text.data(), int(text.size())));
-}
-
 boost::any fromJson(const std::string &name, const QByteArray &text)
 {
     const Type *type = typeNamed(name);
     olJsonReader json({text.constData(), std::size_t(text.size())});
     return type ? type->fromJson(json) : boost::any();
+}
+
+boost::any fromVariant(const std::string &name, const QVariant &variant)
+{
+    if (!name.empty()) {
+        const Type *type = typeNamed(name);
+        return type ? type->fromVariant(variant) : boost::any();
+    }
+    if (variant.userType() == QMetaType::QVariantList && variant.toList().isEmpty())
+        return {};
+    for (const Type &type : types()) {
+        boost::any value = type.fromVariant(variant);
+        if (!value.empty())
+            return value;
+    }
+    return {};
+}
+
+QVariant toVariant(const boost::any &value)
+{
+    const Type *type = typeOf(value);
+    return type ? type->toVariant(value) : QVariant();
 }
 
 boost::any fromTyped(const std::string &type, const QString &typed)

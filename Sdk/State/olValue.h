@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-class QJsonValue;
+class QString;
+class QVariant;
 
 /// The eleven types that settings may have, with their names, texts and comparison. The texts are exact: what is
 /// written reads back as the same value.
@@ -18,6 +19,9 @@ namespace olValue
 
 /// `bool int uint float double qstring string strings floats color colors`; empty for a value of any other type.
 ORLO_SDK_EXPORT std::string typeName(const boost::any &value);
+
+/// All of them, in the order above.
+ORLO_SDK_EXPORT std::vector<std::string> typeNames();
 
 /// Whether a type of that name exists.
 ORLO_SDK_EXPORT bool isTypeName(const std::string &type);
@@ -29,11 +33,18 @@ ORLO_SDK_EXPORT std::string expectation(const std::string &type);
 /// Bytes of a text that are no UTF-8 are escaped as quoted() does, and read back as the same bytes.
 ORLO_SDK_EXPORT std::string toJson(const boost::any &value);
 
-/// A value of exactly that type; empty when the JSON does not fit it: nothing is converted or cut.
-ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QJsonValue &json);
-
-/// As above from JSON text, with every digit as it stands; empty also where the text is no JSON.
+/// A value of exactly that type from JSON text, with every digit as it stands. Empty where the text is no JSON or does
+/// not fit the type: nothing is converted or cut.
 ORLO_SDK_EXPORT boost::any fromJson(const std::string &type, const QByteArray &text);
+
+/// The value of a setting from the variant in which a page hands it over: byte texts are byte arrays, a colour is a
+/// list of three floats, and lists are lists of these. Empty where the variant is not of that type; nothing is
+/// converted. Without a type's name the variant tells the type itself; an empty list tells none and gives an empty
+/// value.
+ORLO_SDK_EXPORT boost::any fromVariant(const std::string &type, const QVariant &variant);
+
+/// The way back: the variant of a value of a setting; invalid for a value of any other type.
+ORLO_SDK_EXPORT QVariant toVariant(const boost::any &value);
 
 /// From what somebody typed: JSON, or for a text setting the text as it is, so that nobody has to quote within quotes.
 ORLO_SDK_EXPORT boost::any fromTyped(const std::string &type, const QString &typed);

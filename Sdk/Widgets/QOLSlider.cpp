@@ -3,6 +3,8 @@
 #include "Widgets/olInnerParts.h"
 #include "Widgets/olNumberField.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -15,11 +17,48 @@ namespace
 
 constexpr int handlePositions = 10000;
 
+/// Says the number to a screen reader, not how far along its way the handle is.
+class SpokenHandle : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit SpokenHandle(QOLSlider &slider, QWidget *handle)
+        : QAccessibleWidget(handle, QAccessible::Slider), m_slider(slider)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface *>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+    [[nodiscard]] QString text(QAccessible::Text what) const override
+    {
+        return what == QAccessible::Value ? QString::number(m_slider.value()) : QAccessibleWidget::text(what);
+    }
+    [[nodiscard]] QVariant currentValue() const override { return m_slider.value(); }
+    void setCurrentValue(const QVariant &value) override { m_slider.setValue(value.toDouble()); }
+    [[nodiscard]] QVariant maximumValue() const override { return m_slider.maximum(); }
+    [[nodiscard]] QVariant minimumValue() const override { return m_slider.minimum(); }
+    [[nodiscard]] QVariant minimumStepSize() const override { return {}; }
+
+private:
+    QOLSlider &m_slider;
+};
+
+QAccessibleInterface *spokenHandle(const QString &, QObject *object)
+{
+    auto *handle = qobject_cast<QSlider *>(object);
+    auto *slider = handle ? qobject_cast<QOLSlider *>(handle->parentWidget()) : nullptr;
+    return slider ? new SpokenHandle(*slider, handle) : nullptr;
+}
+
 } // namespace
 
 QOLSlider::QOLSlider(QWidget *parent)
     : QWidget(parent), m_handle(new QSlider(Qt::Horizontal, this)), m_field(new olNumberField(this))
 {
+    static const bool isSpoken = (QAccessible::installFactory(spokenHandle), true);
+    Q_UNUSED(isSpoken)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_handle, 1);

@@ -16,7 +16,7 @@ constexpr int significantDigits = 6;
 constexpr int anyDecimals = 1000;
 
 /// Refuses a key stroke as soon as no further typing could lead into the range; the toolkit's validator lets any
-/// number with few enough digits stand.
+/// number with few enough digits stand. A decimal comma becomes a point at once.
 class NumberValidator : public QDoubleValidator
 {
 public:
@@ -24,6 +24,8 @@ public:
 
     State validate(QString &text, int &) const override
     {
+        if (text.count(QLatin1Char('.')) + text.count(QLatin1Char(',')) == 1)
+            text.replace(QLatin1Char(','), QLatin1Char('.'));
         static const QRegularExpression number(
             QStringLiteral("^([+-]?)[0-9]*(?:\\.([0-9]*))?(?<exponent>[eE][+-]?[0-9]*)?$"));
         const QRegularExpressionMatch match = number.match(text);
@@ -53,6 +55,8 @@ olNumberField::olNumberField(QWidget *parent) : QLineEdit(parent), m_validator(n
     m_validator->setRange(-unbounded, unbounded, anyDecimals);
     m_validator->setLocale(QLocale::c());
     setValidator(m_validator);
+    // A text that the validator rewrites counts as set and not as typed.
+    connect(this, &QLineEdit::textEdited, this, [this] { setModified(true); });
     setInputMethodHints(Qt::ImhFormattedNumbersOnly);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setValue(0.0);

@@ -5,7 +5,8 @@
 class QDoubleValidator;
 
 /// A line that holds a number exactly: what was set comes back untouched until somebody edits it. Typed numbers are
-/// those of the C locale, whatever the user's, so that what can be typed is what is read.
+/// those of the C locale, whatever the user's, so that what can be typed is what is read; a decimal comma becomes a
+/// point as it is typed.
 class olNumberField : public QLineEdit
 {
     Q_OBJECT

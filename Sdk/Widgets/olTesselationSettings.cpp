@@ -50,15 +50,15 @@ olTesselationSettings::olTesselationSettings(QWidget *parent) : QWidget(parent)
     rows->setContentsMargins(0, 0, 0, 0);
 
     // Made from the top down, which is also the order of the Tab key.
-    m_tessellation = new QCheckBox(tr("Tessellation"), this);
+    m_tessellation = new QCheckBox(tr("T&essellation"), this);
     rows->addRow(m_tessellation);
     addQuality(*rows);
-    m_chordDeviation = addField(*rows, tr("Chord Deviation"), tr("mm"));
-    m_normalTolerance = addField(*rows, tr("Normal Tolerance"), tr("\302\260"));
-    m_maxChordLength = addField(*rows, tr("Max Chord Length"), tr("mm"));
-    m_stitching = new QCheckBox(tr("Stitching"), this);
+    m_chordDeviation = addField(*rows, "chordDeviation", tr("Chord &Deviation"), tr("mm"));
+    m_normalTolerance = addField(*rows, "normalTolerance", tr("&Normal Tolerance"), tr("\302\260"));
+    m_maxChordLength = addField(*rows, "maxChordLength", tr("Ma&x Chord Length"), tr("mm"));
+    m_stitching = new QCheckBox(tr("&Stitching"), this);
     rows->addRow(m_stitching);
-    m_stitchingTolerance = addField(*rows, tr("Stitching Tolerance"), tr("mm"));
+    m_stitchingTolerance = addField(*rows, "stitchingTolerance", tr("St&itching Tolerance"), tr("mm"));
 
     m_chordDeviation.number->setRange(smallestLength, 1000.0);
     m_chordDeviation.number->setSteps(0.005, 0.05);
@@ -88,6 +88,13 @@ void olTesselationSettings::setConnections()
     connect(m_tessellation, &QCheckBox::toggled, this, &olTesselationSettings::updateEnabled, once);
     connect(m_stitching, &QCheckBox::toggled, this, &olTesselationSettings::updateEnabled, once);
     updateEnabled();
+}
+
+void olTesselationSettings::setQualityEnds(QWidget &lowest, QWidget &highest)
+{
+    auto *row = static_cast<QHBoxLayout *>(m_qualityRow->layout());
+    row->insertWidget(0, &lowest);
+    row->addWidget(&highest);
 }
 
 void olTesselationSettings::enableGroups(unsigned groups)
@@ -167,30 +174,33 @@ void olTesselationSettings::Field::setEnabled(bool enabled) const
 
 void olTesselationSettings::addQuality(QFormLayout &rows)
 {
-    m_qualityLabel = new QLabel(tr("Quality"), this);
+    m_qualityLabel = new QLabel(tr("&Quality"), this);
     m_qualityRow = new QWidget(this);
     m_quality = new QSlider(Qt::Horizontal, m_qualityRow);
     m_quality->setRange(0, int(presets.size()) - 1);
     m_quality->setPageStep(1);
     m_quality->setTickPosition(QSlider::TicksBothSides);
     m_quality->setToolTip(tr("Sets chord deviation, normal tolerance and max chord length together."));
-    m_quality->setAccessibleName(m_qualityLabel->text());
+    m_quality->setAccessibleName(tr("Quality"));
     m_qualityLabel->setBuddy(m_quality);
+    // Where one of them may not be changed, this may not be used.
+    m_quality->setProperty("olCompanionOf",
+                           QStringList{QStringLiteral("chordDeviation"), QStringLiteral("normalTolerance"),
+                                       QStringLiteral("maxChordLength")});
 
     auto *row = new QHBoxLayout(m_qualityRow);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(new QLabel(tr("Lowest"), m_qualityRow));
     row->addWidget(m_quality, 1);
-    row->addWidget(new QLabel(tr("Highest"), m_qualityRow));
     rows.addRow(m_qualityLabel, m_qualityRow);
 }
 
-olTesselationSettings::Field olTesselationSettings::addField(QFormLayout &rows, const QString &name,
-                                                             const QString &unit)
+olTesselationSettings::Field olTesselationSettings::addField(QFormLayout &rows, const char *objectName,
+                                                             const QString &name, const QString &unit)
 {
     const Field field{new QLabel(name, this), new olNumberField(this), new QLabel(unit, this)};
     field.label->setBuddy(field.number);
-    field.number->setAccessibleName(name);
+    field.number->setObjectName(QLatin1String(objectName));
+    field.number->setAccessibleName(QString(name).remove(QLatin1Char('&')));
 
     auto *row = new QHBoxLayout;
     row->addWidget(field.number);

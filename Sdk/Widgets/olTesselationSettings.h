@@ -36,6 +36,9 @@ public:
     /// what they switch. A second call does nothing.
     void setConnections();
 
+    /// Takes what names the ends of the quality slider from the form, and puts it there.
+    void setQualityEnds(QWidget &lowest, QWidget &highest);
+
     /// Enables the groups whose bits are set and disables the others; further bits mean nothing. At first all are
     /// enabled.
     void enableGroups(unsigned groups);
@@ -78,7 +81,7 @@ private:
     };
 
     void addQuality(QFormLayout &rows);
-    [[nodiscard]] Field addField(QFormLayout &rows, const QString &name, const QString &unit);
+    [[nodiscard]] Field addField(QFormLayout &rows, const char *objectName, const QString &name, const QString &unit);
 
     void applyQualityPreset(int preset);
     void updateEnabled();

@@ -2,6 +2,8 @@
 
 import json
 import os
+import sqlite3
+import subprocess
 import unittest
 
 import tool_test
@@ -40,13 +42,31 @@ class Batch(tool_test.ToolTest):
         for suffix, count in counts.items():
             self.assertLess(abs(count - whole), 600, suffix)
 
+    def test_a_model_becomes_one_of_another_format(self):
+        step = self.sample_as("step")
+        converted = self.folder / "converted.obj"
+        written = self.stored(step, "--save", converted)
+        self.assertEqual((written.stdout, written.stderr, written.returncode),
+                         ("", "orlo: OBJ knows no groups of parts; they are not written.\n", 0))
+        # Triangles without area, as they come about at the poles of a ball, are not kept.
+        self.assertLess(abs(self.triangles(converted) - self.triangles(step)), 60)
+        self.assert_refused(self.stored(self.folder / "none.step", "--save", converted),
+                            f"orlo: Cannot read {self.folder}/none.step: there is no such file.")
+
+    def test_questions_are_answered_without_a_display(self):
+        del self.environment["DISPLAY"]
+        for question, answer in (("--help", "--render"), ("--version", "orlo ")):
+            result = self.tool(question)
+            self.assertEqual((result.stderr, result.returncode), ("", 0))
+            self.assertIn(answer, result.stdout)
+
     def test_settings_hold_for_one_run(self):
         model = self.sample_as("step")
         fine = self.triangles(model)
         self.assertLess(self.triangles(model, *COARSE), fine / 3)
         self.assertEqual(self.triangles(model), fine)
         self.assert_refused(self.stored("--render", model, "--output", "p.png", "--set", "Camera fov=500"),
-                            'orlo: 500 is no value for "Camera fov": expected a number from 1 to 100')
+                            'orlo: "Camera fov" cannot be 500: expected a number from 1 to 100')
 
     @unittest.skipUnless(os.geteuid() == 0, "a site's file counts only where it is root's")
     def test_locks_hold_always(self):
@@ -65,7 +85,7 @@ class Batch(tool_test.ToolTest):
         model.write_text("no model")
         self.assert_refused(self.stored("--render", model, "--output", "p.png"),
                             f"orlo: Cannot read {model}: there is no reader for .jt files. These can be read: "
-                            "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb.")
+                            "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb, ply, 3mf, dae, off.")
         self.assertFalse((self.folder / "p.png").exists())
         self.assert_refused(self.stored("--render", self.folder, "--output", "p.png"),
                             f"orlo: Cannot read {self.folder}: this is a folder.")
@@ -76,14 +96,35 @@ class Batch(tool_test.ToolTest):
                 (output, "--output needs --render"),
                 (["--set", "Camera fov=60"], "--set needs --render or --save"),
                 (["--render", "m.step", "--sample", *output], "--sample does not go with --render"),
-                (["--render", "m.step", *output, "n.step"], "n.step does not go with --render and --save"),
+                (["--render", "m.step", *output, "n.step"], "n.step does not go with --render"),
                 (["--sample", "--save", "m.step", "--tour", "t"],
                  "--tour needs a window, which --render and --save do without"),
                 (["--render", "m.step", *output, "--size", "8193x1"],
                  "8193x1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192"),
+                (["--save", "m.step"], "--save needs either a model or --sample"),
+                (["--aids"], "--aids needs --render"),
                 (["--nonsense"], "Unknown option 'nonsense'.")):
             with self.subTest(arguments=arguments):
                 self.assert_refused(self.stored(*arguments), f"orlo: {message}")
+    def test_a_start_that_fails_shows_a_window_where_there_is_somebody_to_ask(self):
+        foreign = sqlite3.connect(self.folder / "foreign.db")
+        foreign.execute("CREATE TABLE t (x)")
+        foreign.commit()
+        foreign.close()
+        for arguments in (["--store", self.folder / "foreign.db"], ["--plugin", "/missing.so"]):
+            with self.subTest(arguments=arguments):
+                with subprocess.Popen(self.command(*arguments), env=self.environment, stderr=subprocess.PIPE) as viewer:
+                    self.addCleanup(viewer.kill)
+                    self.assertTrue(viewer.stderr.readline().startswith(b"orlo: "))
+                    with self.assertRaises(subprocess.TimeoutExpired, msg="nobody was asked"):
+                        viewer.wait(timeout=3)
+                    viewer.kill()
+                for unattended in (["--tour", self.folder / "tour"], ["--sample", "--save", self.folder / "m.step"]):
+                    result = self.tool(*arguments, *unattended)
+                    self.assertEqual((result.stdout, result.returncode), ("", 1))
+                    self.assertIn("orlo: ", result.stderr)
+
+    def test_a_missing_plugin_is_told_with_status_1(self):
         missing = self.stored("--sample", "--save", "m.step", plugin="/missing.so")
         self.assertIn("/missing.so", missing.stderr)
         self.assertEqual(missing.returncode, 1)

@@ -14,6 +14,8 @@ import stat
 import subprocess
 import unittest
 
+import jsonschema
+
 from tool_test import SECONDS, ToolTest, main
 
 CAMERA_KEYS = ["Camera fov", "Stereo eye separation", "Stereo zero plane parallaxe", "Powerwall width",
@@ -32,7 +34,36 @@ class List(ToolTest):
         self.assertEqual(list(camera), ["name", "category", "class", "page", "settings"])
         self.assertEqual((camera["category"], camera["class"], camera["page"]), ("", "olCameraPreferencesGUII", True))
         self.assertEqual([setting["key"] for setting in camera["settings"]], CAMERA_KEYS)
-        self.assertEqual(camera["settings"][0], {"key": "Camera fov", "type": "float", "default": 45, "value": 45})
+        self.assertEqual(camera["settings"][0], {
+            "key": "Camera fov", "type": "float", "default": 45, "value": 45, "minimum": 1, "maximum": 100, "unit": "°",
+            "effect": "now", "label": "Field of View", "tooltip": "Vertical opening angle of the camera, in degrees",
+            "path": ["Base"], "recorded": False, "locked": False, "origin": "default"})
+
+    def test_json_tells_all_that_a_setting_knows_of_itself(self):
+        settings = {setting["key"]: setting for module in self.modules().values() for setting in module["settings"]}
+        self.assertEqual(settings["Interaction mode"]["choices"],
+                         [{"value": 0, "text": "ORLO"}, {"value": 1, "text": "Contura"}, {"value": 2, "text": "Mirra"}])
+        self.assertEqual(settings["Navigator dolly speed"]["decimals"], 2)
+        self.assertEqual(settings["MainWindow user language"]["effect"], "next start")
+        self.assertEqual(settings["STEPOptions chord deviation"]["effect"], "next import")
+        for key, recorded in {"Powerwall width": True, "STEPOptions max chord length": True, "JTOptions LOADBREPS": True,
+                              "STEPOptions chord deviation": False, "BCADOptions max parallel tasks": False}.items():
+            self.assertEqual(settings[key]["recorded"], recorded, key)
+        # Without a default it stands last in its module.
+        paths = self.modules()["FileIO"]["settings"][-1]
+        self.assertEqual((paths["key"], paths["type"], paths["default"], paths["value"]), (PATHS, "strings", None, None))
+
+    def test_json_tells_where_a_value_comes_from(self):
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        site.write_text(json.dumps({"Powerwall width": {"value": 7}, "Camera fov": {"value": 60, "locked": True,
+                                                                                   "reason": "One camera."}}))
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        self.stored("set", "Powerwall height", "5")
+        settings = {setting["key"]: setting for setting in self.modules()["Camera"]["settings"]}
+        self.assertEqual([settings[key]["origin"] for key in ("Powerwall width", "Powerwall height", "Powerwall distance",
+                                                              "Camera fov")], ["site", "stored", "default", "site"])
+        self.assertEqual((settings["Camera fov"]["locked"], settings["Camera fov"]["reason"]), (True, "One camera."))
 
     def test_the_smallest_edition_has_the_module_but_not_the_page(self):
         self.assertFalse(self.modules("--edition", "essentials")["Camera"]["page"])
@@ -96,9 +127,9 @@ class GetAndSet(ToolTest):
         self.assert_refused(self.stored("get", "something else"), 'there is no setting "something else"')
 
     def test_a_value_of_the_wrong_type_is_not_stored(self):
-        for value in ("wide", "true"):
+        for value, shown in (("wide", '"wide"'), ("true", "true")):
             self.assert_refused(self.stored("set", "Camera fov", value),
-                                f'{value} is no value for "Camera fov": expected a number')
+                                f'"Camera fov" cannot be {shown}: expected a number from 1 to 100')
         self.assertFalse(self.store.exists())
 
     def test_a_store_that_cannot_be_used_is_named(self):
@@ -122,7 +153,7 @@ class Bounds(ToolTest):
                 ("BCADOptions max parallel tasks", "32769", "a whole number from -1 to 32768")):
             with self.subTest(key):
                 self.assert_refused(self.stored("set", key, value),
-                                    f'{value} is no value for "{key}": expected {expected}')
+                                    f'"{key}" cannot be {value}: expected {expected}')
         self.assert_printed(self.stored("diff"), "")
 
     def test_what_it_could_is_stored_as_it_was_given(self):
@@ -131,9 +162,49 @@ class Bounds(ToolTest):
             self.assert_printed(self.stored("set", key, value), "")
             self.assert_printed(self.stored("get", key), value + "\n")
 
-        # Where the edition has no page only the type counts.
+        # A setting knows its range where the edition has no page for it, too.
         edition = ["--store", str(self.store), "--edition", "essentials"]
-        self.assert_printed(self.tool("set", "Camera fov", "500", options=edition), "")
+        self.assert_refused(self.tool("set", "Camera fov", "500", options=edition),
+                            '"Camera fov" cannot be 500: expected a number from 1 to 100')
+
+    def test_every_door_refuses_with_the_same_words(self):
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        site = self.folder / "site/orlo/site.json"
+        site.parent.mkdir(parents=True)
+        for key, type, value, words in (
+                ("Camera fov", "float", 500, "cannot be 500: expected a number from 1 to 100"),
+                ("Navigator dolly axis", "int", 3, "cannot be 3: expected one of 0, 1, 2"),
+                ("Devices joystick id", "int", 100, "cannot be 100: expected a whole number from 0 to 99"),
+                ("FileIO tmp path", "qstring", "x" * 40000,
+                 'cannot be "' + 78 * "x" + "…: expected at most 32767 characters")):
+            with self.subTest(key):
+                site.write_text("{}")
+                self.assert_refused(self.stored("set", key, value), f'"{key}" {words}')
+                result = self.stored("import", "-", input=json.dumps(
+                    {"format": 1, "settings": {key: {"type": type, "value": value}}}))
+                self.assertEqual(result.stderr, f'skipped: "{key}" {words}\n')
+                site.write_text(json.dumps({key: {"value": value}}))
+                self.assertIn(f'line 1: "{key}" {words}.', self.stored("list").stderr)
+        site.write_text("{}")
+        self.assert_printed(self.stored("diff"), "")
+
+    def test_what_the_page_asks_about_takes_a_yes(self):
+        server = "WebInterface enable web server2"
+        refusal = (f'"{server}" is only set with --yes: Do you really want to enable the Web Server? '
+                   'The Web Server allows the execution of Python commands from remote locations!')
+        self.assert_refused(self.stored("set", server, "true"), refusal)
+        file = self.folder / "open.json"
+        file.write_text(json.dumps({"format": 1, "settings": {server: {"type": "bool", "value": True},
+                                                              "Powerwall width": {"type": "float", "value": 7}}}))
+        self.assert_refused(self.stored("import", file), refusal)
+        self.assert_printed(self.stored("diff"), "")
+        self.assert_printed(self.stored("import", "--dry-run", file),
+                            f"Powerwall width                  1600 -> 7\n{server}  false -> true\n")
+        agreed = ["--store", str(self.store), "--yes"]
+        self.assert_printed(self.tool("import", file, options=agreed), "")
+        self.assert_printed(self.stored("set", server, "true"), "")
+        self.assert_printed(self.stored("set", server, "false"), "")
+        self.assert_printed(self.tool("set", server, "true", options=agreed), "")
 
 
 class Differences(ToolTest):
@@ -151,14 +222,13 @@ class Differences(ToolTest):
     def test_a_list_that_no_module_has_a_default_for_is_a_setting_like_any(self):
         self.assert_printed(self.stored("get", PATHS), "[]\n")
         self.assert_refused(self.stored("set", PATHS, "[1]"),
-                            f'[1] is no value for "{PATHS}": expected a list of texts, as ["a", "b"]')
+                            f'"{PATHS}" cannot be [1]: expected a list of texts, as ["a", "b"]')
         self.assert_printed(self.stored("set", PATHS, '["/a", "b c"]'), "")
         self.assert_printed(self.stored("diff"), f'{PATHS}  [] -> ["/a", "b c"]\n')
         file = self.folder / "kept.json"
         self.assert_printed(self.stored("export", file), "")
         exported = file.read_text("utf-8")
         self.assertEqual(self.stored("export").stdout, exported)
-        self.assertNotIn(PATHS, self.stored("list", "--json").stdout)
         self.assert_printed(self.stored("set", PATHS, "[]"), "")
         self.assertNotIn(PATHS, self.stored("export").stdout)
         self.assert_printed(self.stored("import", "-", input=exported), "")
@@ -340,6 +410,22 @@ class Site(ToolTest):
         self.assertEqual(result.stderr, 'skipped: "Camera fov" is locked: One camera for all.\n')
         self.assert_printed(self.stored("get", "Camera fov"), "60\n")
 
+    def test_profiles_of_the_site_are_applied_but_not_changed(self):
+        folder = self.file.parent / "profiles"
+        folder.mkdir()
+        settings = {"Powerwall height": {"type": "float", "value": 9}, "Camera fov": {"type": "float", "value": 70}}
+        (folder / "hall.json").write_text(json.dumps({"format": 1, "settings": settings}))
+        self.assert_printed(self.stored("profile", "list"), "hall  (site)\n")
+        result = self.stored("profile", "apply", "hall")
+        self.assertEqual((result.stderr, result.returncode),
+                         ('skipped: "Camera fov" is locked: One camera for all.\n', 0))
+        self.assert_printed(self.stored("get", "Powerwall height"), "9\n")
+        self.assert_refused(self.stored("profile", "delete", "hall"),
+                            'The profile "hall" is the site\'s and cannot be deleted.')
+        self.assert_printed(self.stored("profile", "save", "hall", "--changed"), "")
+        self.assert_printed(self.stored("profile", "list"), "hall\n")
+        self.assertEqual(json.loads((folder / "hall.json").read_text())["settings"], settings)
+
     def test_check_tells_of_the_store_and_of_the_site(self):
         self.stored("set", "Powerwall height", "1")
         self.assert_printed(self.stored("check"), "")
@@ -362,8 +448,21 @@ class Site(ToolTest):
         self.assertEqual((result.stdout, result.stderr, result.returncode), (reason, "", 1))
         self.assertEqual(self.stored("get", "Camera fov").stderr, reason)
 
+    def test_a_file_is_judged_before_it_is_installed(self):
+        self.write({"Camera fob": {"value": 1}})
+        draft = self.folder / "draft.json"
+        draft.write_text('{"Camera fov": {"value": 60, "locked": true}}')
+        self.assert_printed(self.stored("check", "--site", draft), "")
+        draft.write_text('{"Camera fov": {"value": "wide"},\n "Camera foz": {"locked": true}}')
+        result = self.stored("check", "--site", draft)
+        self.assertEqual((result.stderr, result.returncode), ("", 1))
+        self.assertRegex(result.stdout, r'^.*draft.json.*line 1.*"Camera fov".*\n.*line 2.*"Camera foz"\.\n$')
+        missing = self.folder / "missing.json"
+        self.assert_refused(self.stored("check", "--site", missing), f"Cannot check {missing}: there is no such file.")
+
     def test_the_examples_of_the_document_are_taken(self):
         text = (pathlib.Path(__file__).resolve().parents[2] / "docs/site-defaults.md").read_text()
+        text = re.sub(r"(?s)```.*?```", "", text)
         examples = re.findall(r"(?m)(?:^    .*\n)+", text)
         self.assertTrue(examples)
         for example in examples:
@@ -401,13 +500,41 @@ class Completion(ToolTest):
                 self.assertEqual(self.completed(*words), expected)
 
 
+class Schema(ToolTest):
+    def test_it_tells_good_files_from_bad_ones(self):
+        validator = jsonschema.Draft7Validator(json.loads(self.stored("schema").stdout))
+        jsonschema.Draft7Validator.check_schema(validator.schema)
+        self.stored("set", PATHS, '["/a"]')
+        self.stored("set", "MainWindow user language", "2")
+        exported = json.loads(self.stored("export").stdout)
+        self.assertEqual(list(validator.iter_errors(exported)), [])
+
+        def settings(key, **members):
+            return {"format": 1, "settings": {key: members}}
+
+        for good in ({}, {"Camera fov": {"value": 60, "locked": True, "reason": "Ours."}},
+                     {"WebInterface enable web server2": {"locked": True}},
+                     settings("MainWindow user language", type="int", value=-1),
+                     settings("MirraFileIO units", type="string", value="furlong")):
+            self.assertTrue(validator.is_valid(good), good)
+        for bad in ({"Camera foz": {"value": 60}}, {"Camera fov": {"value": 500}}, {"Camera fov": {"locked": False}},
+                    {"Camera fov": {"value": 60, "why": "x"}}, {"format": 2, "settings": {}}, {"format": 1},
+                    settings("Camera fov", type="int", value=60), settings("Camera fov", type="float"),
+                    settings("Camera fov", type="float", value="60"), settings("Camera foz", type="float", value=60),
+                    settings("Interaction mode", type="int", value=9),
+                    settings("MainWindow user language", type="int", value=9),
+                    settings("Selection preselection color", type="color", value=[0, 0, 1.5]),
+                    settings("BCADOptions max parallel tasks", type="int", value=1.5)):
+            self.assertFalse(validator.is_valid(bad), bad)
+
+
 class Manual(ToolTest):
     page = pathlib.Path(__file__).resolve().parents[2] / "docs/orlo-prefs.1"
 
     def test_it_tells_of_every_command_and_option(self):
         text = self.page.read_text().replace("\\-", "-")
         words = re.findall(r"(?m)^  ([a-z]+|--[a-z-]+) ", self.tool("--help").stdout)
-        for word in [*words, "--dry-run", "--all", "--json", "--markdown", "--changed", "--module"]:
+        for word in [*words, "--dry-run", "--all", "--json", "--markdown"]:
             self.assertRegex(text, rf"(?<![\w-]){word}(?![\w-])")
 
     @unittest.skipUnless(shutil.which("groff"), "needs groff")
@@ -449,9 +576,11 @@ class CommandLine(ToolTest):
         self.assertRegex(self.tool("--version").stdout, r"^orlo-prefs \d+\.\d+")
 
     def test_what_is_not_understood_is_named(self):
-        commands = "only list, get, set, reset, diff, export, import, profile, log, undo, check and script; see --help"
+        commands = ("only list, get, set, reset, diff, export, import, profile, log, undo, check, schema and script; "
+                    "see --help")
         for arguments, message in {
-                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check or script; see --help",
+                (): "a command is missing: list, get, set, reset, diff, export, import, profile, log, undo, check, schema "
+                    "or script; see --help",
                 ("lst",): f"there is no command lst, {commands}",
                 ("--stroe", "x", "list"): 'there is no option --stroe; did you mean "--store"?',
                 ("--edition", "gold", "list"):
@@ -474,7 +603,7 @@ class CommandLine(ToolTest):
 
     def test_each_command_has_a_help_of_its_own(self):
         listed = re.findall(r"(?m)^  ([a-z]+) ", self.tool("--help").stdout)
-        self.assertEqual(listed, "list get set reset diff export import profile log undo check script".split())
+        self.assertEqual(listed, "list get set reset diff export import profile log undo check schema script".split())
         for command in listed:
             help_text = self.tool(command, "--help").stdout
             self.assertTrue(help_text.startswith(f"Usage: orlo-prefs [OPTIONS] {command}"), help_text)

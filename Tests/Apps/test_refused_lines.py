@@ -43,7 +43,7 @@ CONTROLS = {
         "0.001 cannot be entered: expected a number from 0 to 1000 with at most 2 decimals",
     'edit Selection "Preselection Color" [0, 0, 1.5]':
         "[0, 0, 1.5] cannot be entered: expected three numbers from 0 to 1, as [1, 0.5, 0]",
-    'edit Camera "Eye Separation" "63,5"': '"63,5" cannot be entered: expected what the field\'s validator lets through',
+    'edit Camera "Eye Separation" "1.000,5"': '"1.000,5" cannot be entered: expected what the field\'s validator lets through',
     'edit FileIO "Texture Search Paths" 0': "a table or tree is not edited; select in it and press its buttons",
     'select Camera "Field of View" 0': "it is neither a table nor a tree",
     'select FileIO "Texture Search Paths" 0': "there is no row 0: it has 0 rows",

@@ -123,9 +123,9 @@ ModelSession::ModelSession(unsigned seed, const QString &plugin, const QString &
     qunsetenv(forbidding);
     if (isForbidden)
         qputenv(forbidding, "1");
-    const QString error = m_session.loadPlugin(plugin);
-    if (!error.isEmpty())
-        throw ModelFailure(error.toStdString());
+    const olResult<> loaded = m_session.loadPlugin(plugin);
+    if (!loaded.isOk())
+        throw ModelFailure(loaded.error().toStdString());
     m_runner = std::make_unique<olScriptRunner>(m_session, m_nowhere);
     for (olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
         DrivenModule module{entry, entry->name().toStdString(), typesOf(*entry), {}};

@@ -30,9 +30,6 @@ QByteArray quoted(const QByteArray &word)
 
 QByteArray quoted(const std::string &word) { return quoted(QByteArray::fromStdString(word)); }
 
-const char *const types[] = {"bool",   "int",     "uint",   "float", "double", "qstring",
-                             "string", "strings", "floats", "color", "colors"};
-
 } // namespace
 
 QByteArray RandomLines::next(const DrivenModule *&module)
@@ -79,7 +76,8 @@ QByteArray RandomLines::put(const DrivenModule &module, bool anyType)
     if (module.types.empty())
         return "put int \"Nobody's\" " + number(true);
     const std::string &key = keyOf(module);
-    const std::string type = anyType ? types[below(int(std::size(types)))] : module.types.at(key);
+    const std::vector<std::string> types = olValue::typeNames();
+    const std::string type = anyType ? types[std::size_t(below(int(types.size())))] : module.types.at(key);
     const QByteArray command = module.entry->home() == olHome::Record ? "put " : "service put ";
     return command + QByteArray::fromStdString(type) + ' ' + quoted(key) + ' ' + json(type);
 }

@@ -5,36 +5,33 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QGroupBox>
 
 #include <algorithm>
 #include <map>
 #include <set>
+#include <stdexcept>
 
 namespace
 {
 
 /// With a module of their own each, in the order of registration; and what their keys begin with.
-const std::vector<std::pair<const char *, const char *>> formats{
-    {"Catia V4", "CatiaV4"},
-    {"Catia V5", "CatiaV5"},
-    {"Contura", "Wire"},
-    {"Iges", "IGES"},
-    {"NX", "NX"},
-    {"Step", "STEP"},
-    {"Draftix", "Draftix"},
-    {"Partwright", "Partwright"},
-    {"SolidWorks", "SolidWorks"},
-    {"SolidEdge", "SolidEdge"},
-    {"STL", "STL"},
-    {"ProE / Creo", "ProE"},
-    {"JT", "JT"},
-    {"Rhino", "Rhino"},
-    {"Base CAD", "BCAD"},
-    {"KBX", "Kbx"},
-    {"DGN", "DGN"},
-    {"PLM XML", "PLMXML"},
-};
+const std::vector<std::pair<std::string, std::string>> &formats()
+{
+    static const auto formats = [] {
+        std::vector<std::pair<std::string, std::string>> rows;
+        QFile file(sourceOfTest(QStringLiteral("Tests/Plugins/cad-formats.txt")));
+        if (!file.open(QIODevice::ReadOnly))
+            throw std::runtime_error("there is no table of formats");
+        for (const QByteArray &line : file.readAll().trimmed().split('\n')) {
+            const QList<QByteArray> columns = line.split('\t');
+            rows.emplace_back(columns.value(0).toStdString(), columns.value(1).toStdString());
+        }
+        return rows;
+    }();
+    return formats;
+}
 
 bool isShownOn(const QWidget &page, const QWidget *widget)
 {
@@ -70,14 +67,14 @@ class CadFormats : public PluginTest
 protected:
     static void forAll(void (olPreferencesEntry::*operation)())
     {
-        for (const auto &format : formats)
-            (module(format.first).*operation)();
+        for (const auto &format : formats())
+            (module(format.first.c_str()).*operation)();
     }
 
     static void startAfresh()
     {
-        for (const auto &format : formats)
-            module(format.first).setDefaults(true);
+        for (const auto &format : formats())
+            module(format.first.c_str()).setDefaults(true);
         forAll(&olPreferencesEntry::updateGUI);
     }
 
@@ -95,11 +92,11 @@ protected:
 
 TEST_F(CadFormats, HandTheirPageOverWithTheirOwnGroupsOnIt)
 {
-    const auto &registry = olPreferencesRegistry::the();
+    auto &registry = olPreferencesRegistry::the();
     std::map<QString, int> groupsAtHandOver;
     QObject context;
     plugin.unload();
-    QObject::connect(&registry, &olPreferencesRegistry::changed, &context, [&registry, &groupsAtHandOver] {
+    QObject::connect(&registry.news(), &olRegistryNews::changed, &context, [&registry, &groupsAtHandOver] {
         for (const olPreferencesEntry *entry : registry.entries()) {
             if (!entry->page() || groupsAtHandOver.count(entry->name()))
                 continue;
@@ -116,35 +113,35 @@ TEST_F(CadFormats, HandTheirPageOverWithTheirOwnGroupsOnIt)
 
 TEST_F(CadFormats, NeverLeakIntoEachOther)
 {
-    for (const auto &[name, prefix] : formats) {
+    for (const auto &[name, prefix] : formats()) {
         startAfresh();
         const olMessage::Entries before = record().entries();
-        editEverything(*module(name).page());
+        editEverything(*module(name.c_str()).page());
         forAll(&olPreferencesEntry::updateData);
 
         const std::set<std::string> changed = keysThatDiffer(before);
         for (const std::string &key : changed)
-            EXPECT_EQ(key.rfind(prefix + std::string("Options "), 0), 0u) << name << " changed " << key;
+            EXPECT_EQ(key.rfind(prefix + "Options ", 0), 0u) << name << " changed " << key;
 
         // One step further, each of the three choices changes one setting of its pair; two settings have no control.
-        const std::size_t unchanged = qstrcmp(name, "KBX") == 0 ? 0 : 3 + 2;
-        EXPECT_EQ(changed.size(), module(name).defaults().size() - unchanged) << name;
+        const std::size_t unchanged = name == "KBX" ? 0 : 3 + 2;
+        EXPECT_EQ(changed.size(), module(name.c_str()).defaults().size() - unchanged) << name;
     }
 }
 
 TEST_F(CadFormats, SettingThatAllWriteStaysUntilItsOwnerIsGone)
 {
     startAfresh();
-    const auto &registry = olPreferencesRegistry::the();
+    auto &registry = olPreferencesRegistry::the();
     int checks = 0;
     QObject context;
-    QObject::connect(&registry, &olPreferencesRegistry::changed, &context, [&registry, &checks] {
+    QObject::connect(&registry.news(), &olRegistryNews::changed, &context, [&registry, &checks] {
         ++checks;
         EXPECT_EQ(record().get("PLMXML load referenced files").empty(), !registry.find(QStringLiteral("PLM XML")));
         EXPECT_EQ(record().get("BCADOptions use ATF").empty(), !registry.find(QStringLiteral("Base CAD")));
     });
     plugin.unload();
-    EXPECT_GE(checks, int(formats.size()));
+    EXPECT_GE(checks, int(formats().size()));
 }
 
 } // namespace

@@ -39,7 +39,7 @@ protected:
         QByteArrayList lines;
         for (olPreferencesEntry *module : modules()) {
             SettingWalk::setAll(*module, true);
-            module->settle();
+            module->markClean();
             lines += module->name().toUtf8() + ": " + withNothingChanged(*module);
             for (const olOfferedDefault &offered : module->defaults())
                 lines += "  " + QByteArray::fromStdString(offered.key) + ofSetting(*module, offered.key);

@@ -44,15 +44,6 @@ QVariant onPage(const olPreferencesEntry &module, const std::string &key)
     return value;
 }
 
-bool showOnPage(const olPreferencesEntry &module, const std::string &key, const QVariant &value)
-{
-    auto *access = module.page()->findChild<QObject *>("olSettingAccess");
-    bool shown = false;
-    QMetaObject::invokeMethod(access, "setValue", Q_RETURN_ARG(bool, shown),
-                              Q_ARG(QString, QString::fromStdString(key)), Q_ARG(QVariant, value));
-    return shown;
-}
-
 class Contract : public PluginTest, public testing::WithParamInterface<olEdition>
 {
 protected:
@@ -73,21 +64,6 @@ TEST_P(Contract, DefaultsShownAndTakenBackChangeNothing)
         for (int turn = 0; turn < 2; ++turn) {
             module->updateData();
             expectSame(before, valuesOf(*module));
-        }
-    }
-}
-
-TEST_P(Contract, WhatASettingsControlHoldsCanBeShownInItAgain)
-{
-    for (olPreferencesEntry *module : modules()) {
-        module->updateGUI();
-        for (const olOfferedDefault &offered : module->defaults()) {
-            const QVariant value = onPage(*module, offered.key);
-            if (!value.isValid())
-                continue;
-            EXPECT_TRUE(showOnPage(*module, offered.key, value)) << module->className() << ' ' << offered.key;
-            EXPECT_EQ(onPage(*module, offered.key), value) << module->className() << ' ' << offered.key;
-            EXPECT_FALSE(showOnPage(*module, offered.key, QVariant())) << "nothing is no value of " << offered.key;
         }
     }
 }

@@ -7,16 +7,29 @@
 #include "KernelServices/olPreferencesService.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olValue.h"
+#include "Widgets/QOLCollapsibleFrame.h"
+#include "Widgets/olTesselationSettings.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QKeySequence>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QSlider>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <map>
+#include <vector>
 
 namespace
 {
@@ -55,10 +68,15 @@ protected:
         auto *view = dialog->findChild<olChangesView *>();
         ASSERT_NE(view, nullptr);
         EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItemCount(), 0);
+        const auto untick =
+            view->findChild<QTreeWidget *>(QStringLiteral("changes"))->findItems(unticked, Qt::MatchExactly);
+        for (QTreeWidgetItem *item : untick)
+            item->setCheckState(0, Qt::Unchecked);
         view->accept();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    QString unticked;
     QTemporaryDir folder;
     olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
     std::unique_ptr<olPreferencesDialog> dialog;
@@ -76,6 +94,124 @@ TEST_F(DialogWithModules, LookingAtEveryPageLeavesNothingPending)
     dialog->restoreAll();
     EXPECT_EQ(pending(), "No Changes") << "everything has its default already";
     EXPECT_EQ(calls.take(), std::vector<std::string>());
+}
+
+TEST_F(DialogWithModules, TabGoesFromTheHeaderThroughThePageToTheButtons)
+{
+    const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
+    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+    QWidget *search = named("search");
+    const std::vector<QWidget *> before{search, named("changedOnly"), named("more"), dialog->findChild<QTreeWidget *>(),
+                                        named("restorePage")};
+    const std::vector<QWidget *> after{buttons->button(QDialogButtonBox::Ok),
+                                       buttons->button(QDialogButtonBox::Cancel)};
+    QApplication::setActiveWindow(dialog.get());
+    for (olPreferencesEntry *entry : modules()) {
+        dialog->open(entry->name());
+        search->setFocus();
+        for (int round = 0; round < 2; ++round) {
+            std::vector<QWidget *> reached;
+            do {
+                QWidget *stop = dialog->focusWidget();
+                // Whatever stops on the page are, they stand together.
+                if (!entry->page()->isAncestorOf(stop))
+                    reached.push_back(stop);
+                else if (reached.empty() || reached.back() != entry->page())
+                    reached.push_back(entry->page());
+                QTest::keyClick(stop, Qt::Key_Tab);
+            } while (dialog->focusWidget() != search && reached.size() < 100);
+            std::vector<QWidget *> expected = before;
+            if (!olPageIndex(*entry->page()).controls().empty())
+                expected.push_back(entry->page());
+            expected.insert(expected.end(), after.begin(), after.end());
+            EXPECT_EQ(reached, expected) << entry->name().toStdString();
+        }
+    }
+}
+
+TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
+{
+    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel, QDialogButtonBox::Apply})
+        EXPECT_FALSE(QKeySequence::mnemonic(buttons->button(button)->text()).isEmpty());
+    for (olPreferencesEntry *entry : modules()) {
+        dialog->open(entry->name());
+        for (QOLCollapsibleFrame *frame : entry->page()->findChildren<QOLCollapsibleFrame *>())
+            frame->setFolded(false);
+        // With something pending the dialog offers the most.
+        auto *box = entry->page()->findChild<QCheckBox *>();
+        if (box && box->isEnabled() && entry->name() != QLatin1String("WebInterface"))
+            box->toggle();
+        auto *tabs = entry->page()->findChild<QTabWidget *>();
+        for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
+            if (tabs)
+                tabs->setCurrentIndex(tab);
+            QCoreApplication::processEvents();
+            std::map<QString, QString> owners;
+            int onPage = 0;
+            for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
+                QStringList texts{widget->property("text").toString(), widget->property("title").toString()};
+                const auto *bar = qobject_cast<const QTabBar *>(widget);
+                for (int index = 0; bar && index < bar->count(); ++index)
+                    texts << bar->tabText(index);
+                if (!widget->isVisible() || widget->inherits("QLineEdit"))
+                    continue;
+                for (const QString &text : texts) {
+                    const QString key = QKeySequence::mnemonic(text).toString();
+                    if (key.isEmpty())
+                        continue;
+                    onPage += entry->page()->isAncestorOf(widget) ? 1 : 0;
+                    const auto [known, isNew] = owners.emplace(key, text);
+                    EXPECT_TRUE(isNew) << entry->name().toStdString() << ", " << key.toStdString() << ": "
+                                       << known->second.toStdString() << " and " << text.toStdString();
+                }
+            }
+            EXPECT_EQ(onPage > 0, !olPageIndex(*entry->page()).controls().empty())
+                << entry->name().toStdString() << ", tab " << tab << " has none";
+        }
+    }
+    dialog->restoreAll();
+}
+
+TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsThroughIsPutBack)
+{
+    dialog.reset();
+    QFile site(folder.filePath(QStringLiteral("site.json")));
+    ASSERT_TRUE(site.open(QIODevice::WriteOnly));
+    site.write(R"({"STEPOptions chord deviation": {"locked": true},
+                   "RenderOptions background colors": {"locked": true}})");
+    site.close();
+    olPreferencesSession locking(folder.filePath(QStringLiteral("other.db")), {site.fileName()});
+    ASSERT_EQ(locking.loadStore().error(), QString());
+    locking.start();
+    olPreferencesDialog locked(locking);
+
+    locked.open(QStringLiteral("Step"));
+    auto &block = control<olTesselationSettings>("Step", "tesselation");
+    auto *quality = qobject_cast<QSlider *>(block.control(olTesselationSettings::Control::Quality));
+    EXPECT_FALSE(quality->isEnabled());
+    const double kept = block.chordDeviation();
+    quality->setValue(quality->maximum());
+    QTest::qWait(1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(block.chordDeviation(), kept);
+    auto *changes = locked.findChild<QPushButton *>(QStringLiteral("changes"));
+    EXPECT_EQ(changes->text(), "2 Chan&ges...") << "the two tolerances that are free, not the one that is locked";
+    ASSERT_TRUE(locked.apply());
+    EXPECT_EQ(block.chordDeviation(), kept);
+    EXPECT_EQ(boost::any_cast<double>(record().get("STEPOptions chord deviation")), kept);
+
+    locked.open(QStringLiteral("Render Options"));
+    for (const char *button : {"addColor", "deleteColor", "chooseColor"})
+        EXPECT_FALSE(control<QWidget>("Render Options", button).isEnabled()) << button;
+    auto &table = control<QTableWidget>("Render Options", "backgroundTable");
+    const int rows = table.rowCount();
+    control<QAbstractButton>("Render Options", "addColor").setEnabled(true);
+    table.insertRow(0);
+    QTest::qWait(1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(table.rowCount(), rows);
+    EXPECT_EQ(changes->text(), "No Changes");
 }
 
 TEST_F(DialogWithModules, EverySettingWithAControlIsFoundByItsKey)
@@ -121,7 +257,7 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
     dialog->reject();
     dialog->open(QStringLiteral("FileIO"));
     dialog->restoreAll();
-    EXPECT_EQ(pending(), "6 Changes...");
+    EXPECT_EQ(pending(), "6 Chan&ges...");
     EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.5f);
     EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), 5.0f);
     EXPECT_EQ(calls.take(), std::vector<std::string>());
@@ -140,11 +276,10 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
 TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
 {
     import(R"("Interaction mode": {"type": "int", "value": 1}, "Navigator orbit mode": {"type": "bool", "value": true},
-        "WebInterface enable web server2": {"type": "bool", "value": true},
         "texture search paths": {"type": "strings", "value": ["/textures"]},
         "VR Teleport Range": {"type": "float", "value": 12.5}, "Camera fov": {"type": "float", "value": 60.123457})");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_EQ(pending(), "6 Changes...") << "a preset would have changed more";
+    EXPECT_EQ(pending(), "5 Chan&ges...") << "a preset would have changed more";
     EXPECT_TRUE(control<QWidget>("Navigator", "orbitDetectionArea").isEnabled()) << "the page's rules did run";
     EXPECT_EQ(calls.take(), std::vector<std::string>());
 
@@ -152,9 +287,33 @@ TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
     EXPECT_EQ(pending(), "No Changes");
     EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.123457f);
     EXPECT_EQ(boost::any_cast<int>(record().get("Interaction mode")), 1);
-    EXPECT_TRUE(boost::any_cast<bool>(record().get("WebInterface enable web server2")));
     EXPECT_TRUE(olValue::equal(record().get("texture search paths"), std::vector<std::string>{"/textures"}));
     EXPECT_EQ(olKernelServiceFactory::the<olPreferencesService>()->getFloat("VR Teleport Range", 0.0f), 12.5f);
+}
+
+TEST_F(DialogWithModules, AnImportBringsWhatIsTickedAndAsksWhatThePageWouldAsk)
+{
+    const auto answer = [](QMessageBox::ButtonRole role) {
+        QTimer::singleShot(0, [role] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            for (QAbstractButton *button : box->buttons()) {
+                if (box->buttonRole(button) == role)
+                    return button->click();
+            }
+        });
+    };
+    const QByteArray settings = R"("WebInterface enable web server2": {"type": "bool", "value": true},
+        "Camera fov": {"type": "float", "value": 60}, "Powerwall width": {"type": "float", "value": 1})";
+    unticked = QStringLiteral("Camera: Field of View");
+    answer(QMessageBox::RejectRole);
+    import(settings);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(pending(), "1 Chan&ge...") << "neither what is not ticked nor what is not agreed to";
+    answer(QMessageBox::AcceptRole);
+    import(settings);
+    EXPECT_EQ(pending(), "2 Chan&ges...");
+    dialog->restoreAll();
 }
 
 TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllAndCountsOnce)
@@ -164,7 +323,7 @@ TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllA
     dialog->restorePage();
     EXPECT_EQ(pending(), "No Changes") << "it is none of any one page";
     dialog->restoreAll();
-    EXPECT_EQ(pending(), "1 Change...");
+    EXPECT_EQ(pending(), "1 Chan&ge...");
     ASSERT_TRUE(dialog->apply());
     EXPECT_FALSE(boost::any_cast<bool>(record().get("BCADOptions use ATF")));
 }
@@ -179,4 +338,21 @@ TEST_F(DialogWithModules, TheModulesMayGoWhileTheirPagesAreShown)
     EXPECT_EQ(dialog->findChild<QTreeWidget *>()->topLevelItemCount(), 0);
     dialog->reject();
     EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(DialogWithModules, AnImportRefusesWithTheWordsOfTheSession)
+{
+    QFile file(folder.filePath(QStringLiteral("import.json")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"format": 1, "settings": {"Camera fov": {"type": "float", "value": 500},
+        "Interaction mode": {"type": "int", "value": 9}, "Powerwall width": {"type": "int", "value": 3}}})");
+    file.close();
+    dialog->importFrom(file.fileName());
+    const auto *skipped = dialog->findChild<olChangesView *>()->findChild<QTreeWidget *>(QStringLiteral("skipped"));
+    ASSERT_EQ(skipped->topLevelItemCount(), 3);
+    const auto reason = [skipped](int row) { return skipped->topLevelItem(row)->text(1); };
+    EXPECT_EQ(reason(0), session.whyNot("Camera fov", 500.0f));
+    EXPECT_EQ(reason(0), QStringLiteral("cannot be 500: expected a number from 1 to 100"));
+    EXPECT_EQ(reason(1), QStringLiteral("cannot be 9: expected one of 0, 1, 2"));
+    EXPECT_EQ(reason(2), QStringLiteral("is of the type int, not float"));
 }

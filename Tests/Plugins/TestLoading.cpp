@@ -48,7 +48,7 @@ TEST_F(Loading, EveryModuleHasItsPageButEssentialsLacksTheTessellationAndTheCame
     const auto all = registrations();
     for (const olEdition edition : {olEdition::Design, olEdition::Professional, olEdition::Enterprise}) {
         restart(edition);
-        EXPECT_EQ(plugin.enter(), QString()) << "entering twice registers nothing twice";
+        EXPECT_EQ(plugin.enter().error(), QString()) << "entering twice registers nothing twice";
         EXPECT_EQ(registrations(), all);
         for (const olPreferencesEntry *entry : modules())
             EXPECT_TRUE(entry->page()) << entry->className();
@@ -65,7 +65,7 @@ TEST_F(Loading, EveryModuleHasItsPageButEssentialsLacksTheTessellationAndTheCame
 
     // The edition is asked at each call, so a later one makes up for what was left out.
     olHostState::the().edition = olEdition::Professional;
-    EXPECT_EQ(plugin.enter(), QString());
+    EXPECT_EQ(plugin.enter().error(), QString());
     expected.push_back(tessellation);
     EXPECT_EQ(registrations(), expected);
 }
@@ -81,13 +81,13 @@ TEST_F(Loading, APageIsHandedOverWithAllOfItsSettings)
 {
     plugin.unload();
     std::map<const olPreferencesEntry *, int> atHandOver;
-    const auto watch = QObject::connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, [&atHandOver] {
+    const auto watch = QObject::connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, [&atHandOver] {
         for (const olPreferencesEntry *entry : modules()) {
             if (entry->page())
                 atHandOver.emplace(entry, taggedControls(*entry->page()));
         }
     });
-    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)), QString());
+    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
     QObject::disconnect(watch);
     ASSERT_EQ(atHandOver.size(), modules().size());
     for (const auto &[entry, count] : atHandOver)
@@ -131,7 +131,7 @@ TEST_F(Loading, UnloadingDestroysTheModulesLastFirst)
 
     // Each departure must take the last of those still there.
     auto expected = registered();
-    const auto watch = QObject::connect(&olPreferencesRegistry::the(), &olPreferencesRegistry::changed, [&expected] {
+    const auto watch = QObject::connect(&olPreferencesRegistry::the().news(), &olRegistryNews::changed, [&expected] {
         expected.pop_back();
         EXPECT_EQ(registered(), expected);
     });
@@ -181,7 +181,7 @@ TEST_F(Loading, TheLoaderReportsAModuleThatCannotBeBuilt)
     plugin.unload();
     olPreferencesRegistry::the().setRegistrationHook(
         [](const QString &) { throw std::runtime_error("no room for it"); });
-    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
+    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error();
     olPreferencesRegistry::the().setRegistrationHook({});
     EXPECT_TRUE(error.contains("libKernelPreferences.so") && error.contains("no room for it")) << error.toStdString();
     EXPECT_FALSE(isMapped("libKernelPreferences.so"));
@@ -192,7 +192,7 @@ TEST_F(Loading, ALibraryThatLacksItsFunctionsIsReportedInOneSentence)
 {
     plugin.unload();
     const QString file = QStringLiteral(ORLO_UNRESOLVED_LIBRARY);
-    const QString error = plugin.load(file);
+    const QString error = plugin.load(file).error();
     EXPECT_TRUE(error.startsWith(QStringLiteral("Cannot load the preferences plug-in ") + file)) << error.toStdString();
     EXPECT_TRUE(error.contains(QStringLiteral("functionThatNoHostHas"))) << error.toStdString();
     EXPECT_FALSE(error.contains(QLatin1Char('\n')));

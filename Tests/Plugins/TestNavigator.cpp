@@ -1,3 +1,5 @@
+#include "Editing/olEditedPage.h"
+#include "Editing/olPendingChanges.h"
 #include "Support/PluginTest.h"
 
 #include <QAbstractButton>
@@ -57,13 +59,12 @@ TEST_F(Navigator, AnIndexWithoutPresetChangesNothing)
 
 TEST_F(Navigator, ResettingTheInteractionModeAloneSetsOffNoPreset)
 {
+    olPreferencesSession session{QString(), QStringList()};
+    olPendingChanges changes(session);
+    changes.page(module("Navigator"));
     control<QComboBox>("Navigator", "interactionMode").setCurrentIndex(2);
     check("dollyToPivot");
-    auto &access = control<QObject>("Navigator", "olSettingAccess");
-    bool shown = false;
-    QMetaObject::invokeMethod(&access, "setValue", Q_RETURN_ARG(bool, shown), Q_ARG(QString, "Interaction mode"),
-                              Q_ARG(QVariant, 0));
-    EXPECT_TRUE(shown);
+    changes.put({{"Interaction mode", 0}});
     EXPECT_EQ(indexOf("interactionMode"), 0);
     EXPECT_TRUE(isChecked("dollyToPivot"));
     EXPECT_TRUE(isChecked("pivotBasedPanning"));

@@ -1,3 +1,5 @@
+#include "Editing/olEditedPage.h"
+#include "Editing/olPendingChanges.h"
 #include "Support/PluginTest.h"
 
 #include "Widgets/QOLColorDialog.h"
@@ -86,15 +88,13 @@ TEST_F(RenderOptions, TheColourGoesToTheRowThatIsSelectedWhenItIsAccepted)
 
 TEST_F(RenderOptions, ResettingOneColumnLeavesTheOther)
 {
+    olPreferencesSession session{QString(), QStringList()};
+    olPendingChanges changes(session);
+    changes.page(module("Render Options"));
     table().item(0, 0)->setText("1 0 0");
     table().item(0, 1)->setText("0.9");
-    auto *access = page().findChild<QObject *>("olSettingAccess");
-    ASSERT_TRUE(access);
-    bool shown = false;
-    const QVariant colors = QVariantList{QVariantList{0.0f, 1.0f, 0.0f}, QVariantList{0.0f, 0.0f, 1.0f}};
-    ASSERT_TRUE(QMetaObject::invokeMethod(access, "setValue", Q_RETURN_ARG(bool, shown),
-                                          Q_ARG(QString, "RenderOptions background colors"), Q_ARG(QVariant, colors)));
-    EXPECT_TRUE(shown);
+    const std::vector<osg::Color3f> colors{{0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f}};
+    changes.put({{"RenderOptions background colors", colors}});
     EXPECT_EQ((Cells{"0.000000 1.000000 0.000000", "0.000000 0.000000 1.000000"}), column(0));
     EXPECT_EQ((Cells{"0.9", "0"}), column(1));
 }

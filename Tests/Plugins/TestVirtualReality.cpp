@@ -34,7 +34,7 @@ protected:
     {
         calls.take();
         vr().applyPreferences();
-        vr().settle();
+        vr().markClean();
         return calls.take();
     }
 

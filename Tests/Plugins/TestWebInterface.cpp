@@ -182,7 +182,7 @@ TEST_F(WebInterface, OnARenderServerNodeThePageIsThereButNeitherAsksNorExcludes)
     // The process must be one before the library comes.
     plugin.unload();
     host.renderServerNode = true;
-    ASSERT_TRUE(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).isEmpty());
+    ASSERT_TRUE(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).isOk());
     ASSERT_NE(webInterface().page(), nullptr);
 
     const Answer answer("Do Not Enable");

@@ -7,6 +7,13 @@
 
 #include <stdexcept>
 
+QString pluginUnderTest() { return qEnvironmentVariable("ORLO_TEST_PLUGIN", QStringLiteral(ORLO_PLUGIN_FILE)); }
+
+QString sourceOfTest(const QString &file)
+{
+    return qEnvironmentVariable("ORLO_TEST_SOURCE", QStringLiteral(ORLO_SOURCE_DIR)) + QLatin1Char('/') + file;
+}
+
 PluginTest::PluginTest(olEdition edition) { restart(edition); }
 
 PluginTest::~PluginTest() { plugin.unload(); }
@@ -22,9 +29,9 @@ void PluginTest::restart(olEdition edition)
     host.reset();
     host.edition = edition;
 
-    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE));
-    if (!error.isEmpty())
-        throw std::runtime_error(error.toStdString());
+    const olResult<> loaded = plugin.load(pluginUnderTest());
+    if (!loaded.isOk())
+        throw std::runtime_error(loaded.error().toStdString());
     calls.take();
 }
 
@@ -46,5 +53,5 @@ void PluginTest::apply(const char *moduleName, const char *key, const boost::any
     entry.setValue(key, value);
     entry.setChanged(key, true);
     entry.applyPreferences();
-    entry.settle();
+    entry.markClean();
 }

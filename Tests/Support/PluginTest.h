@@ -6,6 +6,7 @@
 #include "State/olPreferencesEntry.h"
 #include "Utilities/olMessage.h"
 
+#include <QString>
 #include <QTemporaryDir>
 #include <QWidget>
 #include <gtest/gtest.h>
@@ -29,6 +30,11 @@ private:
     olJournalObserver *m_before;
     std::vector<std::string> m_calls;
 };
+
+/// The plug-in under test, and a file of the sources that goes with it: those of this build, or others that the
+/// environment names in ORLO_TEST_PLUGIN and ORLO_TEST_SOURCE.
+QString pluginUnderTest();
+QString sourceOfTest(const QString &file);
 
 /// A test on the real plug-in, loaded into a host whose record, service and state are as new. Nothing of the start
 /// sequence has run.

@@ -1,12 +1,14 @@
 #include "Support/Transcript.h"
 
+#include "Support/PluginTest.h"
+
 #include <QFile>
 #include <QTemporaryFile>
 #include <gtest/gtest.h>
 
 void expectTranscript(const char *name, const QByteArray &printed)
 {
-    QFile expected(QStringLiteral(ORLO_SOURCE_DIR "/Tests/Plugins/%1.expected").arg(QLatin1String(name)));
+    QFile expected(sourceOfTest(QStringLiteral("Tests/Plugins/%1.expected").arg(QLatin1String(name))));
     ASSERT_TRUE(expected.open(QIODevice::ReadOnly)) << expected.fileName().toStdString();
     if (expected.readAll() == printed)
         return;

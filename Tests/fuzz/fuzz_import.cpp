@@ -9,9 +9,15 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray text(reinterpret_cast<const char *>(data), int(size));
-    const auto read = olPreferencesFile::fromJson(text).settings;
+    const auto contents = olPreferencesFile::fromJson(text);
+    if (!contents.isOk())
+        return 0;
+    const auto &read = contents->settings;
     // What was understood reads back as the same.
-    const auto again = olPreferencesFile::fromJson(olPreferencesFile::toJson(read)).settings;
+    const auto written = olPreferencesFile::fromJson(olPreferencesFile::toJson(read));
+    if (!written.isOk())
+        std::abort();
+    const auto &again = written->settings;
     if (again.size() != read.size())
         std::abort();
     for (const auto &[key, value] : read) {

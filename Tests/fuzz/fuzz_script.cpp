@@ -19,7 +19,8 @@ void read(const QByteArray &text)
     const olScriptValue written = line.value();
     line.end();
     const boost::any value = olValue::fromJson(type, written.written);
-    (void)olValue::fromJson(type, written.json);
+    (void)written.text();
+    (void)written.number();
     // What was understood reads back as the same.
     const std::string json = olValue::toJson(value);
     if (!value.empty() && !olValue::identical(value, olValue::fromJson(type, QByteArray::fromStdString(json))))

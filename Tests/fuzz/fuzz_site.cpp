@@ -1,5 +1,6 @@
 // A site's file of defaults and locks, held against modules whose keys begin with the name of their type.
 
+#include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
 #include "State/olValue.h"
 
@@ -23,6 +24,13 @@ boost::any defaultOf(const std::string &key)
     return {};
 }
 
+QString whyNot(const std::string &key, const boost::any &value)
+{
+    olSettingDescription setting;
+    setting.type = key.substr(0, key.find(' '));
+    return setting.whyNot(value);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -37,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     olSiteDefaults site({name}, olSiteOwner::Anyone);
     site.read();
     (void)site.early("int language", "int");
-    site.settle(defaultOf);
+    site.settle(defaultOf, whyNot);
     for (const auto &[key, setting] : site.settings()) {
         if (olValue::typeName(setting.value) != olValue::typeName(defaultOf(key)))
             std::abort();

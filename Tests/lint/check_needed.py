@@ -18,7 +18,7 @@ def needed(library):
 
 def main():
     sdk, plugin, opensg = sys.argv[1:]
-    own = r"|libOSG\w+" if opensg == "SYSTEM" else ""
+    own = r"|libOSG\w+|libGLU?" if opensg == "SYSTEM" else ""
     faults = []
     for library, allowed in ((sdk, own), (plugin, own + "|libOrloSdk")):
         names = needed(library)

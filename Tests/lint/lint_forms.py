@@ -1,5 +1,5 @@
 """Looks through Designer forms for what a person would trip over: labels of no field, inputs without a name for screen
-readers, an accidental tab order, mnemonics that two controls share, and fixed geometry instead of layouts."""
+readers, an accidental tab order, and fixed geometry instead of layouts."""
 
 import sys
 import xml.etree.ElementTree as ElementTree
@@ -22,12 +22,6 @@ def text_of(widget, name):
 def is_true(widget, name):
     element = widget.find(f"property[@name='{name}']/bool")
     return element is not None and element.text == "true"
-
-
-def mnemonic_of(text):
-    plain = text.replace("&&", "")
-    position = plain.find("&")
-    return plain[position + 1].lower() if 0 <= position < len(plain) - 1 else ""
 
 
 class Form:
@@ -53,7 +47,6 @@ class Form:
         yield from self.label_faults()
         yield from self.input_faults()
         yield from self.tab_order_faults()
-        yield from self.mnemonic_faults()
 
     def page_faults(self):
         if not text_of(self.page, "windowTitle"):
@@ -107,18 +100,6 @@ class Form:
         if ordered != expected:
             first = next(pair for pair in zip(ordered, expected) if pair[0] != pair[1])
             yield f"the tab order is not top-down: {first[0]} comes before {first[1]}"
-
-    def mnemonic_faults(self):
-        # Controls on different tabs are never there together.
-        tabs = list(self.page.iter("widget"))
-        places = [tab for tabs_widget in tabs if tabs_widget.get("class") == "QTabWidget"
-                  for tab in tabs_widget.findall("widget")] or [self.page]
-        for place in places:
-            used = Counter(mnemonic_of(text_of(widget, "text") or text_of(widget, "title"))
-                           for widget in place.iter("widget"))
-            for letter, count in used.items():
-                if letter and count > 1:
-                    yield f"{count} controls share the mnemonic {letter.upper()}"
 
 
 def main():

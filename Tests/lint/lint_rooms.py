@@ -24,9 +24,9 @@ ROOMS = {
     # the embedded host
     "Host": "",
     "Host/Store": "Host Sdk/Utilities Sdk/State",
-    "Host/Session": "Host Host/Store Sdk/Utilities Sdk/State Sdk/KernelServices",
-    "Host/Editing": "Host Host/Session Sdk/Utilities Sdk/State Sdk/Widgets",
-    "Host/Dialog": "Host Host/Editing Host/Session Sdk/Utilities Sdk/State Sdk/Widgets",
+    "Host/Session": "Host Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices",
+    "Host/Editing": "Host Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",
+    "Host/Dialog": "Host Host/Editing Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",
     "Host/WebServer": "Host Host/Store Sdk/Utilities Sdk/State",
     "Host/Devices": "Host Sdk/Utilities Sdk/State",
     # the scene
@@ -36,8 +36,9 @@ ROOMS = {
     # the programs
     "Apps/orlo-prefs": "Host Host/Editing Host/Session Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices"
                        " Sdk/Widgets",
-    "Apps/orlo": "Host Host/Devices Host/Dialog Host/Editing Host/Session Host/Store Scene/Model Scene/Exchange Scene/View Host/WebServer"
-                 " Sdk/Utilities Sdk/State Sdk/Kernel Sdk/Widgets",
+    "Apps/orlo-reader": "Scene/Exchange",
+    "Apps/orlo": "Host Host/Devices Host/Dialog Host/Editing Host/Session Host/Store Host/WebServer"
+                 " Scene/Model Scene/Exchange Scene/View Sdk/Utilities Sdk/State Sdk/Kernel Sdk/Widgets",
 }
 # Where includes begin to be looked up, besides the folder of the file itself.
 ROOTS = ["Sdk", "Sdk/OpenSG", "Host", "Scene", "Plugins/KernelPreferences"]

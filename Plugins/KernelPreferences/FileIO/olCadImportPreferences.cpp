@@ -7,8 +7,8 @@
 #include "Kernel/olImportOptions.h"
 #include "ui_olFileTypePreferencesGUI.h"
 
-const olSetting<bool> olCadImportPreferences::useAtf{"BCADOptions use ATF", false};
-const olSetting<bool> olCadImportPreferences::loadReferencedFiles{"PLMXML load referenced files", true};
+const olSetting<bool> olCadImportPreferences::useAtf{"BCADOptions use ATF", false, atNextImport()};
+const olSetting<bool> olCadImportPreferences::loadReferencedFiles{"PLMXML load referenced files", true, atNextImport()};
 
 olCadImportPreferences::olCadImportPreferences(int fileType, const char *displayName, Extend extend)
     : olFileTypePreferences(displayName), m_import(std::make_unique<olImportSettings>(olFileType::name(fileType)))

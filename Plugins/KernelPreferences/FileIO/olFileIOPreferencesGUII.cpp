@@ -18,18 +18,19 @@ namespace
 
 using Paths = std::vector<std::string>;
 
-const olSetting<Paths> searchPaths{"texture search paths", Paths()};
-const olSetting<bool> verifyGeometry{"Loader verify geometry only", true};
-const olSetting<int> compressionMode{"Loader compress texture mode", 1};
-const olSetting<int> compressionSize{"Loader compress texture size", 128};
-const olSetting<bool> optimizeGeometry{"Loader optimize geometry", false};
-const olSetting<bool> parallelLoading{"Loader parallel loading", false};
-const olSetting<QString> tmpPath{"FileIO tmp path", QString()};
-const olSetting<bool> showDialog{"FileIO show dialog", true};
-const olSetting<bool> closeDialog{"FileIO close dialog on successful import", true};
-const olSetting<bool> centerToOrigin{"FileIO dialog center in origin", false};
-const olSetting<bool> placeOnGround{"FileIO dialog put on ground", false};
-const olSetting<int> maxParallelTasks{"BCADOptions max parallel tasks", 4};
+const olSetting<Paths> searchPaths{"texture search paths", Paths(), atNextImport()};
+const olSetting<bool> verifyGeometry{"Loader verify geometry only", true, atNextImport()};
+const olSetting<int> compressionMode{"Loader compress texture mode", 1, atNextImport()};
+const olSetting<int> compressionSize{"Loader compress texture size", 128, atNextImport()};
+const olSetting<bool> optimizeGeometry{"Loader optimize geometry", false, atNextImport()};
+const olSetting<bool> parallelLoading{"Loader parallel loading", false, atNextImport()};
+const olSetting<QString> tmpPath{"FileIO tmp path", QString(), atNextImport()};
+const olSetting<bool> showDialog{"FileIO show dialog", true, atNextImport()};
+const olSetting<bool> closeDialog{"FileIO close dialog on successful import", true, atNextImport()};
+const olSetting<bool> centerToOrigin{"FileIO dialog center in origin", false, atNextImport()};
+const olSetting<bool> placeOnGround{"FileIO dialog put on ground", false, atNextImport()};
+const olSetting<int> maxParallelTasks{"BCADOptions max parallel tasks", 4,
+                                      between(-1, 32768).effective(olEffect::NextImport)};
 
 /// The table of search paths as a control.
 struct SearchPathRows {

@@ -1,11 +1,11 @@
 #include "FileIO/olFileIOPreferencesGUIW.h"
 
+#include "Framework/olChooseDirectory.h"
 #include "Kernel/olController.h"
 #include "Utilities/olPlatform.h"
 #include "ui_olFileIOPreferencesGUI.h"
 
 #include <QCoreApplication>
-#include <QFileDialog>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -50,8 +50,7 @@ std::vector<std::string> olFileIOPreferencesGUIW::searchPaths() const
 
 void olFileIOPreferencesGUIW::clickedAdd()
 {
-    const QString directory = QFileDialog::getExistingDirectory(this, tr("Select Texture Search Directory"), QString(),
-                                                                QFileDialog::ShowDirsOnly);
+    const QString directory = olChooseDirectory(this, tr("Select Texture Search Directory"), QString());
     if (directory.isEmpty())
         return;
     if (hasSearchPath(directory)) {
@@ -76,8 +75,7 @@ void olFileIOPreferencesGUIW::clickedSub()
 
 void olFileIOPreferencesGUIW::clickedGetTmpPath()
 {
-    const QString directory =
-        QFileDialog::getExistingDirectory(this, tr("Select Temporary File Path"), QString(), QFileDialog::ShowDirsOnly);
+    const QString directory = olChooseDirectory(this, tr("Select Temporary File Path"), QString());
     if (!directory.isEmpty())
         m_form->tmpPath->setText(directory);
 }

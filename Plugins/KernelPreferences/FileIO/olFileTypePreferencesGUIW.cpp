@@ -6,6 +6,7 @@ olFileTypePreferencesGUIW::olFileTypePreferencesGUIW() : m_form(std::make_unique
 {
     m_form->setupUi(this);
     m_form->tesselation->setConnections();
+    m_form->tesselation->setQualityEnds(*m_form->lowestQuality, *m_form->highestQuality);
     for (QWidget *group : {m_form->jtLoader, m_form->jtBreps, m_form->rhino, m_form->stl, m_form->kbx})
         group->hide();
     orderTabKey();

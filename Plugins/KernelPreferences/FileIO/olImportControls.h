@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Framework/olControls.h"
 #include "Widgets/olTesselationSettings.h"
 
 #include <QCheckBox>
@@ -23,11 +24,7 @@ olTesselationValue<Value> valueOf(olTesselationSettings *block, olTesselationSet
 }
 template <class Value> void showOn(const olTesselationValue<Value> &part, Value value)
 {
-    const bool differs = (part.block->*part.get)() != value;
     (part.block->*part.set)(value);
-    // A single value may be shown alone; the quality belongs to it all the same.
-    if (differs)
-        part.block->updateQualityPreset();
 }
 template <class Value> void takeFrom(const olTesselationValue<Value> &part, Value &value)
 {
@@ -71,3 +68,7 @@ struct olMeshLevels {
 inline olMeshLevels meshLevels(QCheckBox *box) { return {box}; }
 inline void showOn(const olMeshLevels &box, int levels) { box.widget->setChecked(levels != 0); }
 inline void takeFrom(const olMeshLevels &box, int &levels) { levels = box.widget->isChecked() ? 2 : 0; }
+inline void tellChoices(const olMeshLevels &, olChoices<int> &choices)
+{
+    choices = {{0, olPlainText::of(false)}, {2, olPlainText::of(true)}};
+}

@@ -10,9 +10,9 @@
 namespace
 {
 
-const olSetting<bool> useLegacyLoader{"JTOptions USEPLUGIN", false};
-const olSetting<bool> useActiveLayerFilter{"JTOptions ACTIVELAYERFILTER", true};
-const olSetting<int> loadBreps{"JTOptions LOADBREPS", 0};
+const olSetting<bool> useLegacyLoader{"JTOptions USEPLUGIN", false, atNextImport()};
+const olSetting<bool> useActiveLayerFilter{"JTOptions ACTIVELAYERFILTER", true, atNextImport()};
+const olSetting<int> loadBreps{"JTOptions LOADBREPS", 0, atNextImport()};
 
 void extend(olSettingList &settings, olFileTypePreferencesGUIW &page)
 {

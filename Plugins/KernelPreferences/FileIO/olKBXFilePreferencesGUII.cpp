@@ -21,11 +21,11 @@ struct KnownData {
 };
 void showOn(const KnownData &combo, int data)
 {
-    const int index = combo.widget->findData(data);
-    if (index >= 0)
-        combo.widget->setCurrentIndex(index);
+    if (combo.widget->findData(data) >= 0)
+        showOn(byData(combo.widget), data);
 }
-void takeFrom(const KnownData &combo, int &data) { data = combo.widget->currentData().toInt(); }
+void takeFrom(const KnownData &combo, int &data) { takeFrom(byData(combo.widget), data); }
+void tellChoices(const KnownData &combo, olChoices<int> &choices) { tellChoices(byData(combo.widget), choices); }
 
 /// What the writer calls a version.
 std::string versionToken(int year)

@@ -16,15 +16,16 @@ namespace
 
 bool isNotEssentials() { return !olController::isOrloEssentials(); }
 
-const olSetting<bool> multitextureEnvCombiner{"MirraFileIO multitexture env combiner", false};
-const olSetting<bool> forceGrayscaleShadows{"MirraFileIO force grayscale shadow texture", isNotEssentials};
-const olSetting<QString> location{"MirraFileIO mirra location", QString()};
-const olSetting<bool> autoloadShadowGeometry{"MirraFileIO autoload shadow geometry", true};
-const olSetting<bool> shadowGeometry{"MirraFileIO shadow geometry", false};
-const olSetting<bool> shadowMerge{"MirraFileIO shadow merge", true};
-const olSetting<bool> localMaterialLibrary{"MirraFileIO local material library", isNotEssentials};
-const olSetting<std::string> units{"MirraFileIO units", "millimeter"};
-const olSetting<std::string> importUnits{"MirraFileIO import units", "millimeter"};
+const olSetting<bool> multitextureEnvCombiner{"MirraFileIO multitexture env combiner", false, atNextImport()};
+const olSetting<bool> forceGrayscaleShadows{"MirraFileIO force grayscale shadow texture", isNotEssentials,
+                                            atNextImport()};
+const olSetting<QString> location{"MirraFileIO mirra location", QString(), atNextImport()};
+const olSetting<bool> autoloadShadowGeometry{"MirraFileIO autoload shadow geometry", true, atNextImport()};
+const olSetting<bool> shadowGeometry{"MirraFileIO shadow geometry", false, atNextImport()};
+const olSetting<bool> shadowMerge{"MirraFileIO shadow merge", true, atNextImport()};
+const olSetting<bool> localMaterialLibrary{"MirraFileIO local material library", isNotEssentials, atNextImport()};
+const olSetting<std::string> units{"MirraFileIO units", "millimeter", atNextImport()};
+const olSetting<std::string> importUnits{"MirraFileIO import units", "millimeter", atNextImport()};
 
 std::string trueOrFalse(bool value) { return value ? "true" : "false"; }
 

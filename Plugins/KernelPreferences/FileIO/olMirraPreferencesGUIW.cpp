@@ -1,10 +1,9 @@
 #include "FileIO/olMirraPreferencesGUIW.h"
 
+#include "Framework/olChooseDirectory.h"
 #include "Utilities/olFile.h"
 #include "Utilities/olPlatform.h"
 #include "ui_olMirraPreferencesGUI.h"
-
-#include <QFileDialog>
 
 olMirraPreferencesGUIW::olMirraPreferencesGUIW() : m_form(std::make_unique<Ui::olMirraPreferencesGUI>())
 {
@@ -17,8 +16,7 @@ olMirraPreferencesGUIW::~olMirraPreferencesGUIW() = default;
 
 void olMirraPreferencesGUIW::clickedSetMirraLocation()
 {
-    const QString directory = QFileDialog::getExistingDirectory(this, tr("Set Mirra Location"),
-                                                                m_form->location->text(), QFileDialog::ShowDirsOnly);
+    const QString directory = olChooseDirectory(this, tr("Set Mirra Location"), m_form->location->text());
     if (!directory.isEmpty())
         m_form->location->setText(olFile::convertSeparators(directory));
 }

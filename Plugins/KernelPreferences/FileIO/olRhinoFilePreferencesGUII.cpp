@@ -11,8 +11,8 @@
 namespace
 {
 
-const olSetting<bool> useLegacyLoader{"RhinoOptions USEPLUGIN", false};
-const olSetting<bool> importNurbs{"RhinoOptions import nurbs", true};
+const olSetting<bool> useLegacyLoader{"RhinoOptions USEPLUGIN", false, atNextImport()};
+const olSetting<bool> importNurbs{"RhinoOptions import nurbs", true, atNextImport()};
 
 void extend(olSettingList &settings, olFileTypePreferencesGUIW &page)
 {

@@ -12,12 +12,13 @@ namespace
 
 using Tolerances = std::vector<float>;
 
-const olSetting<float> topologyTolerance{"Optimizer Topology Tolerance", 0.005f};
-const olSetting<int> topologyMethod{"Optimizer Topology Method", 0};
-const olSetting<float> offsetFactor{"Optimizer Offset Factor", 1.0f};
+const olSetting<float> topologyTolerance{"Optimizer Topology Tolerance", 0.005f, atNextImport().inUnit("mm")};
+const olSetting<int> topologyMethod{"Optimizer Topology Method", 0, atNextImport()};
+const olSetting<float> offsetFactor{"Optimizer Offset Factor", 1.0f, atNextImport()};
 /// In millimetres, finest first. The misspelt key is the one that stored preferences hold.
-const olSetting<Tolerances> qualities{"Optimizer Teselation Quality", {0.01f, 0.05f, 0.1f, 0.5f, 1.0f}};
-const olSetting<bool> checkOrientation{"Optimizer Check Orientation", true};
+const olSetting<Tolerances> qualities{
+    "Optimizer Teselation Quality", {0.01f, 0.05f, 0.1f, 0.5f, 1.0f}, atNextImport().inUnit("mm")};
+const olSetting<bool> checkOrientation{"Optimizer Check Orientation", true, atNextImport()};
 
 /// The list of qualities as a control.
 struct QualityRows {

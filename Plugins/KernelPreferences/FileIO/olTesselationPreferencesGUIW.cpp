@@ -1,7 +1,6 @@
 #include "FileIO/olTesselationPreferencesGUIW.h"
 
 #include "FileIO/olTesselationListViewItem.h"
-#include "Framework/olValidators.h"
 #include "ui_olTesselationPreferencesGUI.h"
 
 #include <QMessageBox>
@@ -19,8 +18,6 @@ olTesselationPreferencesGUIW::olTesselationPreferencesGUIW()
     : m_form(std::make_unique<Ui::olTesselationPreferencesGUI>())
 {
     m_form->setupUi(this);
-    acceptNumbers(m_form->topologyTolerance);
-    acceptNumbers(m_form->offsetFactor);
     setQualities({});
 
     connect(m_form->qualities, SIGNAL(itemSelectionChanged()), this, SLOT(selectionChanged()));

@@ -14,7 +14,7 @@ namespace
 {
 
 const olSetting<bool> inlineTextures{"WrlFileIO inline textures", false};
-const olSetting<int> readerOptimization{"WrlFileIO reader optimization", 0};
+const olSetting<int> readerOptimization{"WrlFileIO reader optimization", 0, atNextImport()};
 
 std::string writerOptions() { return readOr(inlineTextures, false) ? "inlineTextures=true" : "inlineTextures=false"; }
 

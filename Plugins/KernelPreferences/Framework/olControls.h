@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Framework/olPlainText.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
 #include "Widgets/QOLWheelPrec.h"
@@ -14,9 +15,24 @@
 
 #include <string>
 #include <type_traits>
+#include <vector>
 
-// How a value reaches a kind of control and comes back: one pair of functions for each kind. What is special about a
-// control is named where a module lists it, by one of the small wrappers.
+// How a value reaches a kind of control and comes back: one pair of functions for each kind, and for one with a few
+// states a third that tells the values they stand for. What is special about a control is named where a module lists
+// it, by one of the small wrappers.
+
+/// A value that a control can stand for, and what it calls it.
+template <class T> struct olChoice {
+    T value;
+    QString text;
+};
+template <class T> using olChoices = std::vector<olChoice<T>>;
+
+/// Most controls have no list of what they can stand for.
+template <class Control, class T> void tellChoices(const Control &, olChoices<T> &) {}
+
+/// Whether a control of two states stands for the opposite of its setting. Hardly one does.
+template <class Control> bool isInverted(const Control &) { return false; }
 
 /// A combo box that stands for the data of its items. A value that no item has selects none; without a current item it
 /// stores 0.
@@ -70,26 +86,50 @@ inline void takeFrom(const QGroupBox *box, bool &value) { value = box->isChecked
 
 inline void showOn(QComboBox *combo, int index) { combo->setCurrentIndex(index); }
 inline void takeFrom(const QComboBox *combo, int &index) { index = combo->currentIndex(); }
+inline void tellChoices(QComboBox *combo, olChoices<int> &choices)
+{
+    for (int index = 0; index < combo->count(); ++index)
+        choices.push_back({index, combo->itemText(index)});
+}
 
 inline void showOn(const olByData &combo, int data) { combo.widget->setCurrentIndex(combo.widget->findData(data)); }
 inline void takeFrom(const olByData &combo, int &data) { data = combo.widget->currentData().toInt(); }
+inline void tellChoices(const olByData &combo, olChoices<int> &choices)
+{
+    for (int index = 0; index < combo.widget->count(); ++index)
+        choices.push_back({combo.widget->itemData(index).toInt(), combo.widget->itemText(index)});
+}
 
 inline void showOn(const olByNumber &combo, int number)
 {
     combo.widget->setCurrentIndex(combo.widget->findText(QString::number(number), Qt::MatchFixedString));
 }
 inline void takeFrom(const olByNumber &combo, int &number) { number = combo.widget->currentText().toInt(); }
+inline void tellChoices(const olByNumber &combo, olChoices<int> &choices)
+{
+    for (int index = 0; index < combo.widget->count(); ++index)
+        choices.push_back({combo.widget->itemText(index).toInt(), combo.widget->itemText(index)});
+}
 
 inline void showOn(const olByText &combo, const std::string &text)
 {
     combo.widget->setCurrentText(QString::fromStdString(text));
 }
 inline void takeFrom(const olByText &combo, std::string &text) { text = combo.widget->currentText().toStdString(); }
+inline void tellChoices(const olByText &combo, olChoices<std::string> &choices)
+{
+    for (int index = 0; index < combo.widget->count(); ++index)
+        choices.push_back({combo.widget->itemText(index).toStdString(), combo.widget->itemText(index)});
+}
 
 template <class Number> void showOn(const olZeroOrOne &box, Number value) { box.widget->setChecked(value != 0); }
 template <class Number> void takeFrom(const olZeroOrOne &box, Number &value)
 {
     value = box.widget->isChecked() ? 1 : 0;
+}
+template <class Number> void tellChoices(const olZeroOrOne &, olChoices<Number> &choices)
+{
+    choices = {{0, olPlainText::of(false)}, {1, olPlainText::of(true)}};
 }
 
 inline void showOn(QSpinBox *box, int value) { box->setValue(value); }
@@ -141,4 +181,8 @@ template <class Control, class T> void showOn(const olQuiet<Control> &quiet, con
 template <class Control, class T> void takeFrom(const olQuiet<Control> &quiet, T &value)
 {
     takeFrom(quiet.control, value);
+}
+template <class Control, class T> void tellChoices(const olQuiet<Control> &quiet, olChoices<T> &choices)
+{
+    tellChoices(quiet.control, choices);
 }

@@ -1,11 +1,22 @@
 #pragma once
 
+#include "Framework/olControlLimits.h"
+#include "Framework/olControlPlace.h"
 #include "Framework/olControls.h"
 #include "Framework/olRecordStore.h"
 #include "Framework/olSetting.h"
 #include "Framework/olVariant.h"
 
 #include <QVariant>
+#include <QVariantMap>
+
+#include <algorithm>
+#include <optional>
+#include <type_traits>
+
+/// What a setting tells of itself, apart from its type, and of its control; see olSettingAccess.
+[[nodiscard]] QVariantMap describeTraits(const olSettingTraits &traits);
+void describeControl(const QWidget &control, QVariantMap &description);
 
 /// A setting in a module's list, whatever its type and control. It has the declaration for its own, as some are members
 /// of a module and gone before its list.
@@ -35,9 +46,14 @@ public:
     [[nodiscard]] virtual bool takeIfChanged() const { return true; }
     virtual void take() const {}
 
-    /// The control alone.
+    /// What the control holds.
     [[nodiscard]] virtual QVariant value() const { return {}; }
-    [[nodiscard]] virtual bool setValue(const QVariant &) const { return false; }
+
+    /// What the setting is; see olSettingAccess. Empty for one that is no more than a key.
+    [[nodiscard]] virtual QVariantMap describe() const { return {}; }
+
+    /// How a value reads for a person; empty for one of another type.
+    [[nodiscard]] virtual QString text(const QVariant &) const { return {}; }
 };
 
 /// A setting that no control shows: defaulted and removed, never shown or taken.
@@ -49,6 +65,33 @@ public:
     [[nodiscard]] const olSetting<T> &setting() const override { return m_setting; }
     void writeDefault(bool flag) const override { Store::writeDefault(m_setting, flag); }
     void forget() const override { Store::forget(m_setting); }
+
+    [[nodiscard]] QVariantMap describe() const override
+    {
+        QVariantMap description = describeTraits(m_setting.traits());
+        description.insert(QLatin1String("type"), typeName(T()));
+        if (const auto standard = defaultValue())
+            description.insert(QLatin1String("default"), toVariant(*standard));
+        return description;
+    }
+
+    [[nodiscard]] QString text(const QVariant &variant) const override
+    {
+        T value{};
+        return fromVariant(variant, value) ? textOf(value) : QString();
+    }
+
+protected:
+    /// Nothing for what is absent by default.
+    [[nodiscard]] virtual std::optional<T> defaultValue() const { return m_setting.defaultValue(); }
+
+    [[nodiscard]] virtual QString textOf(const T &value) const
+    {
+        const QString text = olPlainText::of(value);
+        if constexpr (std::is_arithmetic_v<T>)
+            return olPlainText::withUnit(text, QString::fromUtf8(m_setting.traits().unit));
+        return text;
+    }
 
 private:
     const olSetting<T> m_setting;
@@ -80,6 +123,12 @@ public:
     olPairing(const olSetting<T> &setting, Control control, Live live)
         : olUnshownSetting<T, Store>(setting), m_control(control), m_live(live)
     {
+        if constexpr (std::is_same_v<Control, QLineEdit *> && std::is_floating_point_v<T>)
+            olControlLimits::acceptNumbers(*control);
+        olControlLimits::push(setting.traits(), *widgetOf(control));
+        // So that a page that could not be filled does no harm when it is taken back.
+        if (!setting.traits().isFormsAtFirst)
+            showOn(m_control, setting.defaultValue());
     }
 
     [[nodiscard]] QWidget *widget() const override { return widgetOf(m_control); }
@@ -96,16 +145,33 @@ public:
     void take() const override { Store::write(this->setting(), taken()); }
 
     [[nodiscard]] QVariant value() const override { return toVariant(taken()); }
-    [[nodiscard]] bool setValue(const QVariant &variant) const override
+    [[nodiscard]] QVariantMap describe() const override
     {
-        T value{};
-        if (!fromVariant(variant, value))
-            return false;
-        showOn(m_control, value);
-        return true;
+        QVariantMap description = olUnshownSetting<T, Store>::describe();
+        describeControl(*widget(), description);
+        if constexpr (std::is_same_v<T, bool>)
+            description.insert(QLatin1String("inverted"), isInverted(m_control));
+        const olChoices<T> known = choices();
+        QVariantList list;
+        for (const olChoice<T> &choice : known)
+            list << QVariantMap{{QLatin1String("value"), toVariant(choice.value)},
+                                {QLatin1String("text"), choice.text}};
+        if (!list.isEmpty())
+            description.insert(QLatin1String("choices"), list);
+        return description;
     }
 
 protected:
+    /// In the words of the control, where it has some.
+    [[nodiscard]] QString textOf(const T &value) const override
+    {
+        const olChoices<T> known = choices();
+        const auto choice = std::find_if(known.begin(), known.end(), [&value](const olChoice<T> &candidate) {
+            return isSameValue(candidate.value, value);
+        });
+        return choice == known.end() ? olUnshownSetting<T, Store>::textOf(value) : choice->text;
+    }
+
     [[nodiscard]] T taken() const
     {
         T value{};
@@ -114,6 +180,13 @@ protected:
     }
 
 private:
+    [[nodiscard]] olChoices<T> choices() const
+    {
+        olChoices<T> known;
+        tellChoices(m_control, known);
+        return known;
+    }
+
     void showLive() const
     {
         if constexpr (!std::is_same_v<Live, olNoLiveValue>)
@@ -143,4 +216,7 @@ public:
                             : olRecordStore::writeIfChanged(this->setting(), list);
     }
     void take() const override { (void)takeIfChanged(); }
+
+protected:
+    [[nodiscard]] std::optional<List> defaultValue() const override { return std::nullopt; }
 };

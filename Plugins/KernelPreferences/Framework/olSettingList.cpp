@@ -38,6 +38,14 @@ void olSettingList::append(std::unique_ptr<olListedSetting> setting)
 
 void olSettingList::own(const olSettingBase &shared) { m_foreign.erase(shared.key()); }
 
+QVariantMap olSettingList::describe(const olListedSetting &setting) const
+{
+    QVariantMap description = setting.describe();
+    if (!m_asks)
+        description.remove(QLatin1String("warning"));
+    return description;
+}
+
 const olListedSetting *olSettingList::find(const std::string &key) const
 {
     const auto found = std::find_if(m_settings.begin(), m_settings.end(),

@@ -92,6 +92,17 @@ public:
 
     void removeKeys() const;
 
+    /// From here on no setting has a question to be asked first: for a module whose page asks none.
+    void askNothing() { m_asks = false; }
+
+    [[nodiscard]] QVariantMap describe(const olListedSetting &setting) const;
+
+    template <class Visit> void each(Visit &&visit) const
+    {
+        for (const auto &setting : m_settings)
+            visit(*setting);
+    }
+
     /// Null where no setting of the list bears the key.
     [[nodiscard]] const olListedSetting *find(const std::string &key) const;
 
@@ -102,4 +113,5 @@ private:
     std::vector<std::unique_ptr<olListedSetting>> m_settings;
     std::set<std::string> m_foreign;
     std::unique_ptr<olSettingAccess> m_access;
+    bool m_asks = true;
 };

@@ -33,6 +33,19 @@ template <class Element> QVariant toVariant(const std::vector<Element> &list)
     return variants;
 }
 
+/// What the host calls the type.
+inline QString typeName(bool) { return QLatin1String("bool"); }
+inline QString typeName(int) { return QLatin1String("int"); }
+inline QString typeName(unsigned) { return QLatin1String("uint"); }
+inline QString typeName(float) { return QLatin1String("float"); }
+inline QString typeName(double) { return QLatin1String("double"); }
+inline QString typeName(const QString &) { return QLatin1String("qstring"); }
+inline QString typeName(const std::string &) { return QLatin1String("string"); }
+inline QString typeName(const std::vector<std::string> &) { return QLatin1String("strings"); }
+inline QString typeName(const std::vector<float> &) { return QLatin1String("floats"); }
+inline QString typeName(const osg::Color3f &) { return QLatin1String("color"); }
+inline QString typeName(const std::vector<osg::Color3f> &) { return QLatin1String("colors"); }
+
 /// False with `value` untouched where the variant is not of the type that toVariant() makes: nothing is converted.
 template <class T> bool fromVariant(const QVariant &variant, T &value)
 {

@@ -9,7 +9,7 @@
 namespace
 {
 
-const olSetting<float> fov{"Camera fov", 45.0f};
+const olSetting<float> fov{"Camera fov", 45.0f, between(1.0, 100.0).inUnit("°")};
 const olSetting<float> eyeSeparation{"Stereo eye separation", 63.0f};
 const olSetting<float> zeroParallaxDistance{"Stereo zero plane parallaxe", 1500.0f};
 const olSetting<float> powerwallWidth{"Powerwall width", 1600.0f};

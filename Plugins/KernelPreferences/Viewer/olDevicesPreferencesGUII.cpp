@@ -21,7 +21,7 @@ const olSetting<bool> helicopter{"Devices spacemouse helicopter", &olController:
 const olSetting<bool> fixedHeight{"Devices spacemouse fixed height", false};
 const olSetting<float> height{"Devices spacemouse height", 0.0f};
 const olSetting<bool> joystick{"Devices joystick", false};
-const olSetting<int> joystickId{"Devices joystick id", 0};
+const olSetting<int> joystickId{"Devices joystick id", 0, between(0, 99)};
 
 /// A check box that stores true in Essentials, whatever it shows.
 struct olTrueInEssentials {

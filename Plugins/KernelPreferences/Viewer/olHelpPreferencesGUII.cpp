@@ -14,7 +14,7 @@ namespace
 QString installedHelp() { return "file:///" + olPlatform::getDataDir() + "\\ToolClip\\Help"; }
 
 const olSetting<int> location{"Help Location", 0};
-const olSetting<QString> path{"Help Path", &installedHelp};
+const olSetting<QString> path{"Help Path", &installedHelp, asFormHasIt()};
 const olSetting<int> popup{"Help Popup", 0};
 
 constexpr int simpleToolclips = 1;

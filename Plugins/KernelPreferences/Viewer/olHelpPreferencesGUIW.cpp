@@ -1,9 +1,8 @@
 #include "Viewer/olHelpPreferencesGUIW.h"
 
+#include "Framework/olChooseDirectory.h"
 #include "Utilities/olPlatform.h"
 #include "ui_olHelpPreferencesGUI.h"
-
-#include <QFileDialog>
 
 namespace
 {
@@ -42,8 +41,7 @@ void olHelpPreferencesGUIW::indexChangedLocation(int)
 void olHelpPreferencesGUIW::clickedGetHelpPath()
 {
     // Deliberately without a parent, and the caption is not translated.
-    const QString directory =
-        QFileDialog::getExistingDirectory(nullptr, "Help Path", olPlatform::getDataDir(), QFileDialog::ShowDirsOnly);
+    const QString directory = olChooseDirectory(nullptr, "Help Path", olPlatform::getDataDir());
     if (!directory.isEmpty())
         m_form->path->setText("file:///" + directory);
 }

@@ -12,13 +12,15 @@ namespace
 
 bool isDesignOrEssentials() { return olController::isOrloDesign() || olController::isOrloEssentials(); }
 
-const olSetting<bool> showToolButtonsText{"MainWindow show tool buttons text", &isDesignOrEssentials};
-const olSetting<bool> showButtonText{"MainWindow show button text", true};
+const olSetting<bool> showToolButtonsText{"MainWindow show tool buttons text", &isDesignOrEssentials, atNextStart()};
+const olSetting<bool> showButtonText{"MainWindow show button text", true, atNextStart()};
 const olSetting<bool> showFps{"MainWindow show fps", false};
-const olSetting<bool> redirectOsgLog{"MainWindow redirect osg log", false};
-const olSetting<double> windowOpacity{"MainWindow window opacity", 1.0};
+const olSetting<bool> redirectOsgLog{"MainWindow redirect osg log", false, atNextStart()};
+// A window that lets everything shine through could not be found again.
+const olSetting<double> windowOpacity{"MainWindow window opacity", 1.0, between(0.1, 1.0)};
 const olSetting<bool> disableDocking{"MainWindow disable docking", false};
-const olSetting<int> userLanguage{"MainWindow user language", -1};
+// On a page that was never filled no language was chosen: it must not be taken for a change.
+const olSetting<int> userLanguage{"MainWindow user language", -1, atNextStart().asFormHasIt()};
 
 constexpr int english = 0;
 

@@ -1,6 +1,5 @@
 #include "Viewer/olMarkerPreferencesGUIW.h"
 
-#include "Framework/olValidators.h"
 #include "Kernel/olController.h"
 #include "ui_olMarkerPreferencesGUI.h"
 
@@ -9,7 +8,6 @@
 olMarkerPreferencesGUIW::olMarkerPreferencesGUIW() : m_form(std::make_unique<Ui::olMarkerPreferencesGUI>())
 {
     m_form->setupUi(this);
-    acceptNumbers(m_form->markerSize);
 
     // Essentials selects in one way only; how that shows remains the user's choice.
     m_form->selectionModes->setVisible(!olController::isOrloEssentials());

@@ -9,21 +9,26 @@
 namespace
 {
 
+// The numbers that a box or another setting enables stand as the form has them until the page is filled.
+const olSettingTraits speedTraits = between(0.0, 1000.0).withDecimals(2);
+
 const olSetting<int> navigationMode{"Navigator mode", olOSGWidget::TwoAxis};
 const olSetting<bool> autoCenter{"Navigator auto center", false};
 const olSetting<bool> invertZoom{"Navigator invert zoom", false};
 const olSetting<bool> invertWheelZoom{"Navigator invert wheel zoom", false};
-const olSetting<bool> animateCamera{"Navigator animate camera", true};
-const olSetting<float> animationDuration{"Navigator animate camera duration", 20.0f};
+const olSetting<bool> animateCamera{"Navigator animate camera", true, asFormHasIt()};
+const olSetting<float> animationDuration{"Navigator animate camera duration", 20.0f, atLeast(0.0).asFormHasIt()};
 const olSetting<bool> pivotBasedPanning{"Navigator pivot based panning", false};
-const olSetting<float> panningSpeed{"Navigator panning speed", 1.0f};
+const olSetting<float> panningSpeed{"Navigator panning speed", 1.0f, speedTraits.asFormHasIt()};
 const olSetting<int> speedMode{"Navigator speed mode", 1};
-const olSetting<float> dollySpeed{"Navigator dolly speed", 1.0f};
+const olSetting<float> dollySpeed{"Navigator dolly speed", 1.0f, speedTraits};
 const olSetting<int> dollyAxis{"Navigator dolly axis", 0};
 const olSetting<bool> dollyToPivot{"Navigator dolly to pivot", false};
 const olSetting<bool> orbitMode{"Navigator orbit mode", false};
-const olSetting<int> orbitDetectionArea{"Navigator orbit detection area", 40};
-const olSetting<int> orbitDetectionTime{"Navigator orbit detection time", 100};
+const olSetting<int> orbitDetectionArea{"Navigator orbit detection area", 40,
+                                        between(0, 99999).inUnit("px").asFormHasIt()};
+const olSetting<int> orbitDetectionTime{"Navigator orbit detection time", 100,
+                                        between(0, 99999).inUnit("ms").asFormHasIt()};
 
 // Without the prefix of the others, on purpose: users' stored preferences hold it so.
 const olSetting<int> interactionMode{"Interaction mode", olOSGWidget::Orlo};

@@ -31,18 +31,11 @@ constexpr std::array<Preset, 3> presets = {{
     {false, true, Limited, true, HorizontalAndVertical, false},
 }};
 
-constexpr double fastest = 1000.0;
-
 } // namespace
 
 olNavigatorPreferencesGUIW::olNavigatorPreferencesGUIW() : m_form(std::make_unique<Ui::olNavigatorPreferencesGUI>())
 {
     m_form->setupUi(this);
-    for (QOLWheelPrec *speed : {m_form->dollySpeed, m_form->panningSpeed}) {
-        speed->setRange(0.0, fastest);
-        speed->setDecimals(2);
-    }
-    m_form->duration->setMinimum(0.0);
     if (olController::isOrloEssentials())
         hideRow(*m_form->autoCenter);
 

@@ -27,11 +27,13 @@ Colors defaultBackground()
     return {{0.207843f, 0.207843f, 0.207843f}, {0.74902f, 0.74902f, 0.74902f}};
 }
 
+constexpr double lowestPlane = 0.000001;
+
 const olSetting<bool> stillframeAntialiasing{"RenderOptions enable antialiase", false};
 const olSetting<unsigned> postprocessAntialiasing{"RenderOptions enable postprocess antialias", 0u};
 const olSetting<float> antialiaseDistance{"RenderOptions antialiase distance", 0.2f};
 const olSetting<float> antialiaseScale{"RenderOptions antialiase scale", 2.0f};
-const olSetting<double> antialiaseTime{"RenderOptions antialiase time", 1.0};
+const olSetting<double> antialiaseTime{"RenderOptions antialiase time", 1.0, inUnit("s")};
 const olSetting<bool> highQualityAntialiasing{"RenderOptions antialiase high quality", false};
 const olSetting<Colors> backgroundColors{"RenderOptions background colors", &defaultBackground};
 const olSetting<Positions> backgroundPositions{"RenderOptions background ints", {1.0f, 0.0f}};
@@ -83,18 +85,18 @@ const Preset ultra{{"RenderOptions multisample quality ultra", 4},
                    {"RenderOptions raytracing supersampling quality ultra", 16}};
 
 const olSetting<bool> enableSli{"RenderOptions nvidia sli enable", false};
-const olSetting<int> sliMode{"RenderOptions nvidia sli mode", 1};
+const olSetting<int> sliMode{"RenderOptions nvidia sli mode", 1, atNextStart()};
 const olSetting<bool> disableSleep{"RenderOptions disable sleep", false};
 const olSetting<bool> limitNearFarPlane{"RenderOptions limit near far plane", false};
-const olSetting<float> nearPlane{"RenderOptions near plane", 10.0f};
-const olSetting<float> farPlane{"RenderOptions far plane", 100000.0f};
+const olSetting<float> nearPlane{"RenderOptions near plane", 10.0f, atLeast(lowestPlane)};
+const olSetting<float> farPlane{"RenderOptions far plane", 100000.0f, atLeast(lowestPlane)};
 const olSetting<bool> downscale{"RenderOptions downscale", false};
 const olSetting<int> downscaleQuality{"RenderOptions downscale quality", 0};
 const olSetting<bool> fixedResolution{"RenderOptions fixed res", false};
-const olSetting<int> fixedWidth{"RenderOptions fixed resx", 1280};
-const olSetting<int> fixedHeight{"RenderOptions fixed resy", 720};
+const olSetting<int> fixedWidth{"RenderOptions fixed resx", 1280, atLeast(0).inUnit("px")};
+const olSetting<int> fixedHeight{"RenderOptions fixed resy", 720, atLeast(0).inUnit("px")};
 const olSetting<bool> materialPreview{"RenderOptions interactive material preview", true};
-const olSetting<int> progressSize{"RenderOptions progress cursor size", 32};
+const olSetting<int> progressSize{"RenderOptions progress cursor size", 32, atLeast(0)};
 const olSetting<bool> progressStatic{"RenderOptions progress cursor static", false};
 const olSetting<bool> progressVisible{"RenderOptions progress cursor visible", true};
 const olSetting<bool> showCameras{"RenderOptions show cameras", true};

@@ -1,7 +1,6 @@
 #include "Viewer/olRenderOptionsPreferencesGUIW.h"
 
 #include "Framework/olPageLayout.h"
-#include "Framework/olValidators.h"
 #include "Kernel/olController.h"
 #include "Utilities/olPlatform.h"
 #include "Viewer/olBackgroundTable.h"
@@ -11,7 +10,6 @@
 namespace
 {
 
-constexpr double lowestPlane = 0.000001;
 constexpr int largestSide = 16384;
 constexpr int largestWidthInEssentials = 1920;
 constexpr int largestHeightInEssentials = 1080;
@@ -32,7 +30,6 @@ olRenderOptionsPreferencesGUIW::olRenderOptionsPreferencesGUIW()
     : m_form(std::make_unique<Ui::olRenderOptionsPreferencesGUI>())
 {
     m_form->setupUi(this);
-    addValidators();
     fillSampleCombos();
     hideWithheldControls();
     adaptToEdition();
@@ -66,14 +63,6 @@ void olRenderOptionsPreferencesGUIW::acceptedChooseColor()
 }
 
 void olRenderOptionsPreferencesGUIW::rejectedChooseColor() { colorDialog().hide(); }
-
-void olRenderOptionsPreferencesGUIW::addValidators()
-{
-    acceptNumbersFrom(m_form->nearPlane, lowestPlane);
-    acceptNumbersFrom(m_form->farPlane, lowestPlane);
-    for (QLineEdit *field : {m_form->antialiaseDistance, m_form->antialiaseScale, m_form->antialiaseTime})
-        acceptNumbers(field);
-}
 
 void olRenderOptionsPreferencesGUIW::fillSampleCombos()
 {

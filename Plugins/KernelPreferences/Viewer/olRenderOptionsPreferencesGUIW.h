@@ -30,7 +30,6 @@ public slots:
     void rejectedChooseColor();
 
 private:
-    void addValidators();
     void fillSampleCombos();
     void hideWithheldControls();
     void adaptToEdition();

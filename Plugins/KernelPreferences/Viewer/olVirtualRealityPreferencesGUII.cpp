@@ -14,7 +14,7 @@ namespace
 {
 
 const olServiceSetting<int> groundMode{"VR Teleport Ground Mode", 1};
-const olServiceSetting<float> teleportRange{"VR Teleport Range", 15000.0f};
+const olServiceSetting<float> teleportRange{"VR Teleport Range", 15000.0f, atLeast(0.0)};
 const olServiceSetting<int> visualiseHands{"VR Visualise Hands", 1};
 const olServiceSetting<bool> createCollisionObjects{"VR Auto Create Collision Objects", true};
 const olServiceSetting<bool> showTooltips{"VR Show Tooltips on start", true};
@@ -50,6 +50,13 @@ void showOn(const RenderMode &mode, bool foveated)
 }
 
 void takeFrom(const RenderMode &mode, bool &foveated) { foveated = mode.widget->currentIndex() == 0; }
+
+void tellChoices(const RenderMode &mode, olChoices<bool> &choices)
+{
+    choices = {{true, mode.widget->itemText(0)}, {false, mode.widget->itemText(1)}};
+}
+
+bool isInverted(const RenderMode &) { return true; }
 
 } // namespace
 

@@ -6,7 +6,6 @@ olVirtualRealityPreferencesGUIW::olVirtualRealityPreferencesGUIW()
     : m_form(std::make_unique<Ui::olVirtualRealityPreferencesGUI>())
 {
     m_form->setupUi(this);
-    m_form->range->setMinimum(0.0);
 
     connect(m_form->renderMode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &olVirtualRealityPreferencesGUIW::followRenderMode);

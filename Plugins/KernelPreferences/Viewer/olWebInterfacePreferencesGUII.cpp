@@ -10,10 +10,11 @@ namespace
 {
 
 // The 2 keeps the value of a former generation from opening a server.
-const olSetting<bool> enableWebServer{"WebInterface enable web server2", false};
-const olSetting<int> port{"WebInterface port", 8888};
-const olSetting<int> sslPort{"WebInterface ssl port", 8444};
-const olSetting<bool> localhostOnly{"WebInterface localhost only", false};
+const olSetting<bool> enableWebServer{"WebInterface enable web server2", false,
+                                      warned(&olWebInterfacePreferencesGUIW::enablingQuestion).asFormHasIt()};
+const olSetting<int> port{"WebInterface port", 8888, atLeast(0)};
+const olSetting<int> sslPort{"WebInterface ssl port", 8444, atLeast(0)};
+const olSetting<bool> localhostOnly{"WebInterface localhost only", false, atNextStart()};
 const olSetting<bool> debugMode{"WebInterface debug mode", false};
 const olSetting<bool> useWhiteList{"WebInterface use white list", false};
 const olSetting<std::string> whiteList{"WebInterface white list", std::string()};
@@ -60,11 +61,14 @@ olWebInterfacePreferencesGUII::olWebInterfacePreferencesGUII()
     // What the environment forbids is not offered: the page exists, but stays away from the dialog.
     if (m_disabledByEnvironment) {
         page().neverAsk();
+        settings().askNothing();
         return;
     }
     handOverPage();
     // On a render server node the server runs in any case: there is nothing to confirm.
-    if (!olController::isOServerNode())
+    if (olController::isOServerNode())
+        settings().askNothing();
+    else
         page().connectSlots();
 }
 

@@ -38,18 +38,25 @@ void olWebInterfacePreferencesGUIW::toggledEnable(bool checked)
     m_form->enableWebServer->setChecked(false);
 }
 
+olWarning olWebInterfacePreferencesGUIW::enablingQuestion()
+{
+    return {tr("Enable Web Server"),
+            tr("Do you really want to enable the Web Server?\n"
+               "The Web Server allows the execution of Python commands from remote locations!"),
+            tr("Choosing \"Enable\" enables the Web Server.\n"
+               "You are advised to set up a local firewall to protect yourself from unauthorized "
+               "access.\n\n"
+               "Choosing \"Do Not Enable\" leaves the Web Server disabled."),
+            tr("Enable"), tr("Do Not Enable")};
+}
+
 bool olWebInterfacePreferencesGUIW::confirmsServer()
 {
-    QMessageBox box(QMessageBox::Warning, tr("Enable Web Server"),
-                    tr("Do you really want to enable the Web Server?\n"
-                       "The Web Server allows the execution of Python commands from remote locations!"),
-                    QMessageBox::NoButton, this);
-    box.setInformativeText(tr("Choosing \"Enable\" enables the Web Server.\n"
-                              "You are advised to set up a local firewall to protect yourself from unauthorized "
-                              "access.\n\n"
-                              "Choosing \"Do Not Enable\" leaves the Web Server disabled."));
-    box.addButton(tr("Enable"), QMessageBox::AcceptRole);
-    QPushButton *doNotEnable = box.addButton(tr("Do Not Enable"), QMessageBox::RejectRole);
+    const olWarning question = enablingQuestion();
+    QMessageBox box(QMessageBox::Warning, question.title, question.text, QMessageBox::NoButton, this);
+    box.setInformativeText(question.informative);
+    box.addButton(question.accept, QMessageBox::AcceptRole);
+    QPushButton *doNotEnable = box.addButton(question.reject, QMessageBox::RejectRole);
     // Nobody opens a server by pressing Enter too fast.
     box.setDefaultButton(doNotEnable);
     box.setEscapeButton(doNotEnable);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Framework/olPageWidget.h"
+#include "Framework/olSettingTraits.h"
 
 #include <memory>
 
@@ -20,6 +21,9 @@ public:
     ~olWebInterfacePreferencesGUIW() override;
 
     [[nodiscard]] const Ui::olWebInterfacePreferencesGUI &form() const { return *m_form; }
+
+    /// What is asked before the server is switched on.
+    [[nodiscard]] static olWarning enablingQuestion();
 
     /// Until then the page neither asks nor keeps the two restrictions apart.
     void connectSlots();

@@ -1,22 +1,18 @@
 #pragma once
 
-#include <string>
+#include "Utilities/olExport.h"
+#include <OpenSG/OSGNodePtr.h>
 
 namespace osg
 {
 inline namespace standin
 {
 
-/// A node of the scene graph. The stand-in knows a node by its name and, for a light, by its kind.
+/// A node of the scene graph, of which the stand-in knows nothing but that it is one. It lives to the end.
 class Node
 {
 public:
-    explicit Node(std::string name) : m_name(std::move(name)) {}
-
-    [[nodiscard]] const std::string &getName() const { return m_name; }
-
-private:
-    std::string m_name;
+    [[nodiscard]] ORLO_SDK_EXPORT static NodePtr create();
 };
 
 } // namespace standin

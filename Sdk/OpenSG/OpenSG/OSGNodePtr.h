@@ -1,11 +1,11 @@
 #pragma once
 
-#include <OpenSG/OSGNode.h>
-
 namespace osg
 {
 inline namespace standin
 {
+
+class Node;
 
 /// The null value of every field container pointer.
 struct NullFieldContainerPtr {

@@ -3,8 +3,7 @@
 #include "Utilities/olExport.h"
 #include <OpenSG/OSGSceneFileType.h>
 
-#include <memory>
-#include <vector>
+#include <map>
 
 namespace osg
 {
@@ -17,6 +16,9 @@ class ORLO_SDK_EXPORT SceneFileHandler
 public:
     static SceneFileHandler &the();
 
+    /// The loader of a suffix; null where none has registered.
+    [[nodiscard]] SceneFileType *getFileType(const char *suffix);
+
     /// Options belong to the registered loader: for a suffix that no loader has registered nothing is remembered and
     /// the answer is false.
     bool setOptions(const char *suffix, const char *options);
@@ -25,14 +27,11 @@ public:
     [[nodiscard]] const char *getOptions(const char *suffix);
 
 private:
-    friend ORLO_SDK_EXPORT void registerSceneLoader(const char *suffix);
-    friend ORLO_SDK_EXPORT void resetSceneOptions();
+    friend ORLO_SDK_EXPORT bool osgInit(int argumentCount, char **arguments);
 
     SceneFileHandler() = default;
-    [[nodiscard]] SceneFileType *find(const char *suffix) const;
 
-    // Kept by pointer: the texts that getOptions() hands out stay where they are when another loader registers.
-    std::vector<std::unique_ptr<SceneFileType>> m_types;
+    std::map<std::string, SceneFileType> m_types;
 };
 
 } // namespace standin

@@ -7,10 +7,15 @@ namespace osg
 inline namespace standin
 {
 
-/// What one loader of scene files holds: its suffix and the options it works with.
-struct SceneFileType {
-    std::string suffix;
-    std::string options;
+/// A loader of scene files, as far as the options go that it works with.
+class SceneFileType
+{
+public:
+    void setOptions(const char *options) { m_options = options; }
+    [[nodiscard]] const char *getOptions() const { return m_options.c_str(); }
+
+private:
+    std::string m_options;
 };
 
 } // namespace standin

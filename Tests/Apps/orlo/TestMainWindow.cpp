@@ -2,6 +2,7 @@
 
 #include "olHostStatePanel.h"
 #include "olImportDialog.h"
+#include "olStartFault.h"
 
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
@@ -10,13 +11,17 @@
 
 #include <TDocStd_Document.hxx>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QWindow>
 
@@ -78,6 +83,28 @@ TEST_F(MainWindow, TheHostStateSaysWhatIsOnlyRecorded)
     const QString lengths = value(QStringLiteral("maxChordLengths"));
     EXPECT_TRUE(lengths.contains(QStringLiteral("STEP 50")) && lengths.endsWith(QStringLiteral("(only recorded)")))
         << lengths.toStdString();
+}
+
+TEST_F(MainWindow, PanelsForIntegratorsAreOffUntilAskedForAndTheWindowIsRemembered)
+{
+    const auto panel = [](const olMainWindow &of, const char *name) {
+        return of.findChild<QDockWidget *>(QLatin1String(name));
+    };
+    for (const char *name : {"hostStateDock", "hostCallsDock"})
+        EXPECT_FALSE(panel(window, name)->isVisible()) << name;
+    EXPECT_TRUE(panel(window, "sceneDock")->isVisible());
+    EXPECT_GT(view.width(), window.width() / 2);
+
+    action("Host State").trigger();
+    EXPECT_TRUE(panel(window, "hostStateDock")->isVisible());
+    window.setGeometry(60, 80, 1111, 777);
+    QTest::qWait(20);
+    window.close();
+    olMainWindow again(session);
+    again.show();
+    EXPECT_EQ(again.geometry(), QRect(60, 80, 1111, 777));
+    EXPECT_TRUE(panel(again, "hostStateDock")->isVisible());
+    EXPECT_FALSE(panel(again, "hostCallsDock")->isVisible());
 }
 
 TEST_F(MainWindow, OpacityNeverMakesTheWindowVanish)
@@ -182,6 +209,29 @@ TEST_F(MainWindow, DevicesMoveTheCameraWhileTheyAreDeflected)
     state.joystickNavigation = true;
     EXPECT_TRUE(QTest::qWaitFor([&] { return !isLike(moved); }, 10000));
     state.joystickNavigation = false;
+}
+
+TEST(StartFault, NamesTheFaultAndDoesWhatIsChosen)
+{
+    const auto press = [](const char *text) {
+        QTimer::singleShot(0, [text] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_TRUE(box->informativeText().startsWith(QStringLiteral("It is broken.")));
+            for (QAbstractButton *button : box->buttons()) {
+                if (button->text() == QLatin1String(text))
+                    return button->click();
+            }
+            box->reject();
+        });
+    };
+    const QString fault = QStringLiteral("It is broken.");
+    press("&Defaults for This Run");
+    EXPECT_EQ(olAskAboutStore(fault).kind, olStartRemedy::DefaultsForThisRun);
+    press("&Quit");
+    EXPECT_EQ(olAskAboutStore(fault).kind, olStartRemedy::Quit);
+    press("&Quit");
+    EXPECT_EQ(olAskAboutPlugin(fault).kind, olStartRemedy::Quit);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "Session/olPreferencesSession.h"
 
 #include <QAction>
+#include <QSettings>
 #include <QTreeWidget>
 
 /// The viewer's window with the sample open, as it is after a first start.
@@ -34,6 +35,8 @@ protected:
     [[nodiscard]] QString path(const QString &name) const { return folder.filePath(name); }
 
     QTemporaryDir folder;
+    const bool remembersNothing =
+        (QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path()), true);
     olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
     olMainWindow window{session};
     QTreeWidget &tree = *window.findChild<QTreeWidget *>(QStringLiteral("sceneTree"));

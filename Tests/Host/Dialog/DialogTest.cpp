@@ -56,7 +56,23 @@ QVariant StudioAccess::value(const QString &key) const
     return {};
 }
 
-bool StudioAccess::setValue(const QString &, const QVariant &) const { return false; }
+QVariantMap StudioAccess::describe(const QString &key) const
+{
+    if (key == QLatin1String(samplesKey))
+        return {{"type", "int"}, {"default", 4}, {"minimum", 0}, {"maximum", 99}};
+    if (key == QLatin1String(modeKey)) {
+        QVariantList choices;
+        for (int item = 0; item < m_page.mode->count(); ++item)
+            choices << QVariantMap{{"value", item}, {"text", m_page.mode->itemText(item)}};
+        return {{"type", "int"}, {"default", 0}, {"choices", choices}};
+    }
+    return {};
+}
+
+QString StudioAccess::text(const QString &key, const QVariant &value) const
+{
+    return key == QLatin1String(modeKey) ? m_page.mode->itemText(value.toInt()) : QString();
+}
 
 StudioPage::StudioPage()
 {
@@ -174,7 +190,7 @@ void DialogTest::start(const QByteArray &site)
         file.write(site);
     }
     session = std::make_unique<olPreferencesSession>(store, QStringList{siteFile});
-    ASSERT_EQ(session->loadStore(), QString());
+    ASSERT_EQ(session->loadStore().error(), QString());
     session->start();
     module.applied = 0;
     dialog = std::make_unique<olPreferencesDialog>(*session);

@@ -32,7 +32,8 @@ public:
     explicit StudioAccess(StudioPage &page);
 
     [[nodiscard]] Q_INVOKABLE QVariant value(const QString &key) const;
-    [[nodiscard]] Q_INVOKABLE bool setValue(const QString &key, const QVariant &value) const;
+    [[nodiscard]] Q_INVOKABLE QVariantMap describe(const QString &key) const;
+    [[nodiscard]] Q_INVOKABLE QString text(const QString &key, const QVariant &value) const;
 
 private:
     StudioPage &m_page;

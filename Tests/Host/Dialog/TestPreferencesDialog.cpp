@@ -1,15 +1,20 @@
 #include "Dialog/olChangesView.h"
 #include "Dialog/olDialogMemory.h"
+#include "Dialog/olWindowPlace.h"
 #include "DialogTest.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFile>
+#include <QHeaderView>
+#include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QWheelEvent>
 
@@ -19,19 +24,19 @@ TEST_F(PreferencesDialog, ApplyIsOfferedOnlyWhileThePageDiffersFromItsFilling)
 {
     start();
     EXPECT_FALSE(canApply());
-    EXPECT_FALSE(changes()->isEnabled());
+    EXPECT_FALSE(changes()->isVisible());
 
     module.page.samples->setFocus();
     QTest::keyClick(module.page.samples, Qt::Key_Up);
     EXPECT_TRUE(canApply());
-    EXPECT_EQ(changes()->text(), "1 Change...");
+    EXPECT_EQ(changes()->text(), "1 Chan&ge...");
     QTest::keyClick(module.page.samples, Qt::Key_Down);
     EXPECT_FALSE(canApply()) << "edited back is not changed";
 
     module.page.mode->setCurrentIndex(1);
     module.page.title->setText(QStringLiteral("Front"));
     EXPECT_TRUE(canApply());
-    EXPECT_EQ(changes()->text(), "2 Changes...");
+    EXPECT_EQ(changes()->text(), "2 Chan&ges...");
     QTest::mouseClick(button(QDialogButtonBox::Apply), Qt::LeftButton);
     EXPECT_FALSE(canApply());
     EXPECT_EQ(module.changed, (std::vector<std::string>{"Studio mode", "Studio title"}));
@@ -57,10 +62,46 @@ TEST_F(PreferencesDialog, TheListOfChangesNamesSettingOldAndNewValue)
     EXPECT_EQ(row(0), (QStringList{"Studio: Cast Shadows", "on", "off"}));
     EXPECT_EQ(row(1), (QStringList{"Studio: Mode", "Hasty", "Accurate"}));
 
-    list->setCurrentItem(list->topLevelItem(1));
-    emit list->itemActivated(list->topLevelItem(1), 0);
+    EXPECT_EQ(list->header()->length(), list->viewport()->width()) << "old and new are both in sight";
+
+    QTest::mouseClick(view->findChild<QPushButton *>(QStringLiteral("copyAsText")), Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text(), "Studio: Cast Shadows (Studio shadows): on -> off\n"
+                                                 "Studio: Mode (Studio mode): Hasty -> Accurate\n");
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_FALSE(view->isVisible());
     EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "a change chosen is shown on its page";
     EXPECT_EQ(dialog->focusWidget(), module.page.mode);
+}
+
+TEST_F(PreferencesDialog, ChangesAreTakenBackOneByOneOrAllTogether)
+{
+    start();
+    module.page.samples->setValue(9);
+    module.page.mode->setCurrentIndex(1);
+    module.page.title->setText(QStringLiteral("Front"));
+    ASSERT_TRUE(canApply());
+    QTest::mouseClick(changes(), Qt::LeftButton);
+    auto *view = opened<olChangesView>();
+    ASSERT_NE(view, nullptr);
+    auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    const auto press = [view](const char *name) {
+        QTest::mouseClick(view->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+    };
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    press("takeBack");
+    EXPECT_EQ(module.page.mode->currentIndex(), 0);
+    EXPECT_EQ(module.page.samples->value(), 9);
+    ASSERT_EQ(list->topLevelItemCount(), 2);
+    EXPECT_EQ(list->currentItem()->text(0), "Studio: Title") << "the next one is at hand";
+    press("takeAllBack");
+    EXPECT_EQ(module.page.samples->value(), 4);
+    EXPECT_EQ(module.page.title->text(), "");
+    EXPECT_FALSE(view->isVisible()) << "nothing is left to work on";
+    EXPECT_FALSE(canApply());
+    EXPECT_EQ(module.page.questions, 0);
 }
 
 TEST_F(PreferencesDialog, LeavingWithEditsAloneAsksToApplyDiscardOrStay)
@@ -92,6 +133,63 @@ TEST_F(PreferencesDialog, LeavingWithEditsAloneAsksToApplyDiscardOrStay)
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(module.value<int>("Studio samples"), 9);
     EXPECT_EQ(module.applied, 1);
+}
+
+TEST_F(PreferencesDialog, EnterOnTheQuestionBeforeLeavingStaysAndTheQuestionNamesWhatWouldBeLost)
+{
+    start();
+    module.page.samples->setValue(9);
+    QString question;
+    QTimer::singleShot(0, dialog.get(), [&question] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        question = box->text();
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    QTest::mouseClick(button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(module.applied, 0);
+    EXPECT_EQ(module.page.samples->value(), 9);
+    EXPECT_TRUE(question.contains(QStringLiteral("Studio: Samples"))) << question.toStdString();
+}
+
+TEST_F(PreferencesDialog, EnterInAFieldAppliesNothingAndClosesNothing)
+{
+    start();
+    for (QWidget *field :
+         std::initializer_list<QWidget *>{module.page.samples, module.page.mode, module.page.shadows}) {
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_TRUE(dialog->isVisible());
+    }
+    module.page.samples->setFocus();
+    QTest::keyClicks(module.page.samples, QStringLiteral("7"));
+    QTest::keyClick(module.page.samples, Qt::Key_Enter);
+    EXPECT_TRUE(canApply());
+    EXPECT_EQ(module.applied, 0);
+    button(QDialogButtonBox::Ok)->setFocus();
+    QTest::keyClick(button(QDialogButtonBox::Ok), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(module.applied, 1);
+}
+
+TEST_F(PreferencesDialog, AfterApplyTheFocusIsWhereOneWorked)
+{
+    start();
+    for (const bool byMouse : {true, false}) {
+        module.page.samples->setFocus();
+        QTest::keyClick(module.page.samples, Qt::Key_Up);
+        ASSERT_TRUE(canApply());
+        QPushButton *apply = button(QDialogButtonBox::Apply);
+        if (byMouse) {
+            QTest::mouseClick(apply, Qt::LeftButton);
+        } else {
+            apply->setFocus();
+            QTest::keyClick(apply, Qt::Key_Space);
+        }
+        EXPECT_FALSE(canApply());
+        EXPECT_TRUE(module.page.samples->hasFocus()) << (byMouse ? "mouse" : "keys");
+    }
 }
 
 TEST_F(PreferencesDialog, WhenStoringFailsTheEditsStayAndOkCanBePressedAgain)
@@ -167,27 +265,52 @@ TEST_F(PreferencesDialog, RemembersItsSizeAndPageAndNeverOutgrowsTheScreen)
     StudioModule other(QStringLiteral("Other"));
     start();
     dialog->open(QStringLiteral("Other"));
-    dialog->resize(611, 433);
+    dialog->setGeometry(41, 83, 611, 433);
     dialog->reject();
     dialog = std::make_unique<olPreferencesDialog>(*session);
     dialog->open(QString());
-    EXPECT_EQ(dialog->size(), QSize(611, 433));
+    EXPECT_EQ(dialog->geometry(), QRect(41, 83, 611, 433));
     EXPECT_TRUE(other.page.isVisible());
+    EXPECT_TRUE(dialog->openAt(QStringLiteral("Studio title")));
+    EXPECT_EQ(dialog->focusWidget()->window(), dialog.get());
+    EXPECT_TRUE(dialog->focusWidget() == module.page.title || dialog->focusWidget() == other.page.title);
+    EXPECT_FALSE(dialog->openAt(QStringLiteral("Studio seed"))) << "no page has it";
+    dialog->open(QStringLiteral("Other"));
     EXPECT_LE(dialog->minimumSizeHint().width(), 400);
     EXPECT_LE(dialog->minimumSizeHint().height(), 300);
 
     dialog->reject();
     olDialogMemory memory = olDialogMemory::recall();
-    memory.size = QSize(5000, 4000);
+    memory.place = QRect(-300, -20, 5000, 4000);
     memory.keep();
     dialog.reset();
     memory.keep();
     dialog = std::make_unique<olPreferencesDialog>(*session);
     dialog->open(QString());
-    const QSize room = dialog->screen()->availableSize();
-    EXPECT_LE(dialog->width(), room.width());
-    EXPECT_LE(dialog->height(), room.height());
+    EXPECT_TRUE(dialog->screen()->availableGeometry().contains(dialog->geometry().adjusted(0, -30, 0, 0)))
+        << "also the title bar";
     EXPECT_FALSE(dialog->isModal());
+}
+
+TEST(WindowPlace, IsBesideItsNeighbourOrLeavesItWhatItCan)
+{
+    const QRect wide(0, 0, 2560, 1440);
+    const QRect narrow(0, 27, 1366, 741);
+    const QSize size(900, 700);
+    const auto isApart = [](const QRect &left, const QRect &right) { return !left.intersects(right); };
+    const QRect leftHalf(0, 0, 1280, 1440);
+    const QRect rightHalf(1280, 0, 1280, 1440);
+    for (const QRect &neighbour : {leftHalf, rightHalf}) {
+        const QRect place = olWindowPlace::beside(neighbour, size, wide);
+        EXPECT_TRUE(isApart(place, neighbour)) << neighbour.left();
+        EXPECT_EQ(place.size(), size);
+    }
+    // A maximised window begins above the screen with some window managers.
+    for (const QRect &maximised : {narrow, narrow.adjusted(-4, -24, 4, 4)}) {
+        const QRect place = olWindowPlace::beside(maximised, size, narrow);
+        EXPECT_TRUE(narrow.contains(place.adjusted(-4, -30, 4, 4)));
+        EXPECT_GE(place.left(), narrow.width() * 3 / 8) << "the model is not covered whole";
+    }
 }
 
 TEST_F(PreferencesDialog, WhatTheHostSaysAboutASaveIsReadBeforeTheDialogCloses)

@@ -1,8 +1,11 @@
 #include "Dialog/olSettingMarks.h"
 #include "DialogTest.h"
 
-#include <QElapsedTimer>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QTest>
+#include <QTreeView>
 #include <QTreeWidget>
 
 namespace
@@ -41,8 +44,35 @@ protected:
         return names;
     }
 
+    [[nodiscard]] QTreeView &found() const { return *dialog->findChild<QTreeView *>(QStringLiteral("found")); }
+
+    /// The rows of the list of what was found, cells apart by bars.
+    [[nodiscard]] QStringList rows() const
+    {
+        QStringList rows;
+        const QAbstractItemModel &model = *found().model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model.columnCount(); ++column)
+                cells << model.index(row, column).data().toString();
+            rows << cells.join(QStringLiteral(" | "));
+        }
+        return found().isVisible() ? rows : QStringList();
+    }
+
+    /// The action of that name in the menu of a row.
+    [[nodiscard]] QAction *rowAction(int row, const char *name) const
+    {
+        const QPoint place = found().visualRect(found().model()->index(row, 0)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, found().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(found().viewport(), &event);
+        const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        return menu ? menu->findChild<QAction *>(QLatin1String(name)) : nullptr;
+    }
+
     void type(const QString &text) const
     {
+        search()->setFocus();
         search()->clear();
         QTest::keyClicks(search(), text);
     }
@@ -72,26 +102,60 @@ TEST_F(PreferencesDialogSearch, FindsByLabelTooltipChoiceAndKeyAndMarksWhatItFou
     }
     type(QStringLiteral("untagged"));
     EXPECT_EQ(listed(), (QStringList{"Family", "Plain"}));
-    EXPECT_TRUE(plain.page.isVisible()) << "the first page with a hit is shown";
+    EXPECT_EQ(rows(), QStringList{"Untagged | Plain |  | "});
     type(QStringLiteral("hidden away"));
     EXPECT_EQ(listed(), QStringList()) << "what the page hides is not found";
 }
 
-TEST_F(PreferencesDialogSearch, BringsTheTabWithTheHitToTheFront)
+TEST_F(PreferencesDialogSearch, ListsSettingsWithTheirValuesAndGoesThereByEnterOrClick)
 {
     start();
-    type(QStringLiteral("title"));
+    type(QStringLiteral("s"));
+    const QStringList all = rows();
+    EXPECT_EQ(all.first(), "Cast Shadows | Studio \u203a Picture | on | default");
+    EXPECT_TRUE(all.contains(QStringLiteral("Mode | Studio \u203a Picture | Hasty | default"))) << "found by its key";
+    const auto *tree = dialog->findChild<QTreeWidget *>();
+    EXPECT_EQ(tree->currentItem()->text(1).toInt(), all.size()) << "the tree says how many";
+
+    type(QStringLiteral("texts"));
+    EXPECT_EQ(rows().size(), 2) << "the tab's title counts for what is on it";
+    QTest::keyClick(search(), Qt::Key_Down);
+    EXPECT_TRUE(found().hasFocus());
+    QTest::keyClick(&found(), Qt::Key_Down);
+    QTest::keyClick(&found(), Qt::Key_Return);
+    EXPECT_TRUE(module.page.title->hasFocus());
     EXPECT_EQ(module.page.tabs->currentIndex(), 1);
+    EXPECT_EQ(search()->text(), "texts") << "the others are still there";
+
+    type(QStringLiteral("samples"));
+    QTest::mouseClick(found().viewport(), Qt::LeftButton, Qt::NoModifier,
+                      found().visualRect(found().model()->index(0, 0)).center());
+    EXPECT_TRUE(module.page.samples->hasFocus());
+    type(QStringLiteral("title"));
     QTest::keyClick(search(), Qt::Key_Return);
     EXPECT_TRUE(module.page.title->hasFocus());
     EXPECT_TRUE(dialog->isVisible()) << "Enter in the search is no OK";
+}
+
+TEST_F(PreferencesDialogSearch, ForgivesSlipsAndHyphensInLongerWords)
+{
+    start();
+    for (const char *text : {"accurrate", "acurate", "accu-rate", "shadwos cast"}) {
+        type(QString::fromLatin1(text));
+        EXPECT_EQ(rows().size(), 1) << text;
+    }
+    for (const char *text : {"mdoe", "accordion"}) {
+        type(QString::fromLatin1(text));
+        EXPECT_EQ(rows().size(), 0) << text;
+    }
 }
 
 TEST_F(PreferencesDialogSearch, EscapeClearsTheSearchBeforeItCloses)
 {
     start();
     type(QStringLiteral("title"));
-    module.page.title->setFocus();
+    QTest::keyClick(search(), Qt::Key_Return);
+    ASSERT_TRUE(module.page.title->hasFocus());
     QTest::keyClick(module.page.title, Qt::Key_Escape);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(search()->text(), QString());
@@ -103,23 +167,65 @@ TEST_F(PreferencesDialogSearch, EscapeClearsTheSearchBeforeItCloses)
     EXPECT_FALSE(dialog->isVisible());
 }
 
-TEST_F(PreferencesDialogSearch, ChangedOnlyShowsThePagesThatDifferFromTheirDefaults)
+TEST_F(PreferencesDialogSearch, ChangedOnlyIsOneListOfAllThatDiffersAndIsAlwaysCurrent)
 {
     const PlainModule plain;
     start();
+    module.page.mode->setCurrentIndex(1);
+    ASSERT_TRUE(dialog->apply());
     auto *changedOnly = dialog->findChild<QCheckBox *>(QStringLiteral("changedOnly"));
     changedOnly->setChecked(true);
-    EXPECT_EQ(listed(), QStringList());
-    changedOnly->setChecked(false);
-    EXPECT_EQ(listed(), (QStringList{"Studio", "Family", "Plain"}));
-    dialog->open(QStringLiteral("Studio"));
+    EXPECT_EQ(listed(), QStringList{"Studio"});
+    EXPECT_EQ(rows(), QStringList{"Mode | Studio \u203a Picture | Accurate | yours"});
 
     module.page.samples->setValue(9);
-    changedOnly->setChecked(true);
-    EXPECT_EQ(listed(), QStringList{"Studio"});
-    EXPECT_EQ(hits(), QStringList{"Samples"});
+    QCoreApplication::processEvents();
+    const QStringList both{"Samples | Studio \u203a Picture | 9 | pending",
+                           "Mode | Studio \u203a Picture | Accurate | yours"};
+    EXPECT_EQ(rows(), both);
+    EXPECT_EQ(hits(), (QStringList{"Samples", "Mode"}));
+
+    QAction *takeBack = rowAction(0, "takeBack");
+    ASSERT_NE(takeBack, nullptr);
+    takeBack->trigger();
+    QApplication::activePopupWidget()->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(rows(), QStringList{both[1]});
+    rowAction(0, "reset")->trigger();
+    QApplication::activePopupWidget()->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(rows(), QStringList());
+    EXPECT_EQ(module.page.mode->currentIndex(), 0);
+    ASSERT_TRUE(dialog->apply());
+
+    module.page.samples->setValue(9);
+    QCoreApplication::processEvents();
     type(QStringLiteral("title"));
     EXPECT_EQ(listed(), QStringList()) << "both filters hold";
+    search()->clear();
+    changedOnly->setChecked(false);
+    EXPECT_EQ(listed(), (QStringList{"Studio", "Family", "Plain"}));
+}
+
+TEST_F(PreferencesDialogSearch, ACategoryStaysFoldedUntilItIsOpenedAndIsRemembered)
+{
+    const PlainModule plain;
+    start();
+    const auto family = [this] {
+        return dialog->findChild<QTreeWidget *>()->findItems(QStringLiteral("Family"), Qt::MatchExactly).value(0);
+    };
+    EXPECT_FALSE(family()->isExpanded());
+    type(QStringLiteral("untagged"));
+    EXPECT_TRUE(family()->isExpanded()) << "what was found is in sight";
+    search()->clear();
+    EXPECT_FALSE(family()->isExpanded());
+    family()->setExpanded(true);
+    dialog->reject();
+    dialog = std::make_unique<olPreferencesDialog>(*session);
+    EXPECT_TRUE(family()->isExpanded());
+    family()->setExpanded(false);
+    dialog->open({});
+    dialog->reject();
 }
 
 TEST_F(PreferencesDialogSearch, FindsModulesThatComeWhileTheDialogIsOpen)
@@ -132,30 +238,50 @@ TEST_F(PreferencesDialogSearch, FindsModulesThatComeWhileTheDialogIsOpen)
     EXPECT_EQ(listed(), (QStringList{"Family", "Plain"}));
 }
 
-TEST_F(PreferencesDialogSearch, TheWholeDialogIsReachedByTabInAReadersOrder)
+TEST_F(PreferencesDialogSearch, TheTreeShowsWhetherItHasTheKeys)
 {
     start();
+    auto *tree = dialog->findChild<QTreeWidget *>();
+    const QRect row = tree->visualItemRect(tree->currentItem());
+    const QImage without = tree->viewport()->grab(row).toImage();
+    QTest::keyClick(search(), Qt::Key_Down);
+    ASSERT_TRUE(tree->hasFocus());
+    EXPECT_NE(tree->viewport()->grab(row).toImage(), without);
+}
+
+TEST_F(PreferencesDialogSearch, TabGoesRoundTheWholeDialogInAReadersOrder)
+{
+    StudioModule other(QStringLiteral("Other"));
+    start(R"({"Studio title": {"locked": true}})");
+    // The order must not depend on which pages were looked at before.
+    dialog->open(QStringLiteral("Other"));
+    dialog->open(QStringLiteral("Studio"));
     module.page.samples->setValue(9);
-    EXPECT_TRUE(canApply());
+    ASSERT_TRUE(canApply());
     const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
-    const std::vector<QWidget *> order{search(),
+    const std::vector<QWidget *> round{search(),
                                        named("changedOnly"),
+                                       named("more"),
                                        dialog->findChild<QTreeWidget *>(),
                                        named("restorePage"),
+                                       named("locked"),
+                                       module.page.tabs->findChild<QTabBar *>(),
                                        module.page.shadows,
                                        module.page.samples,
                                        module.page.mode,
                                        changes(),
-                                       button(QDialogButtonBox::Ok)};
+                                       button(QDialogButtonBox::Ok),
+                                       button(QDialogButtonBox::Cancel),
+                                       button(QDialogButtonBox::Apply)};
     search()->setFocus();
-    std::vector<QWidget *> reached;
-    for (int step = 0; step < 30; ++step) {
-        reached.push_back(dialog->focusWidget());
+    for (int step = 0; step < int(2 * round.size()); ++step) {
+        ASSERT_EQ(dialog->focusWidget(), round[step % round.size()])
+            << "step " << step << " came to " << dialog->focusWidget()->metaObject()->className() << " "
+            << dialog->focusWidget()->objectName().toStdString();
         QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
     }
-    auto next = reached.begin();
-    for (QWidget *widget : order) {
-        next = std::find(next, reached.end(), widget);
-        ASSERT_NE(next, reached.end()) << widget->objectName().toStdString();
+    for (int step = int(2 * round.size()); step > 0; --step) {
+        ASSERT_EQ(dialog->focusWidget(), round[step % round.size()]) << "back, step " << step;
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Backtab);
     }
 }

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFormLayout>
 #include <QMenu>
 #include <QTest>
 
@@ -34,12 +35,53 @@ TEST_F(PreferencesDialogSettings, MarksWhatDiffersFromItsDefaultAsItIsEdited)
     EXPECT_EQ(marked(), QStringList());
     module.page.mode->setCurrentIndex(1);
     EXPECT_EQ(marked(), QStringList{"Mode"});
+    module.page.samples->setValue(9);
+    EXPECT_EQ(marked(), (QStringList{"Samples", "Mode"}));
+    EXPECT_EQ(module.page.samples->accessibleDescription(),
+              "Differs from its default. How often each pixel is computed");
+    module.page.samples->setValue(4);
+    EXPECT_EQ(marked(), QStringList{"Mode"});
+    EXPECT_EQ(module.page.samples->accessibleDescription(), QString());
     EXPECT_FALSE(module.page.mode->accessibleDescription().isEmpty());
     EXPECT_TRUE(dialog->apply());
     EXPECT_EQ(marked(), QStringList{"Mode"}) << "applied, it still differs";
     module.page.mode->setCurrentIndex(0);
     EXPECT_EQ(marked(), QStringList());
     EXPECT_TRUE(module.page.mode->accessibleDescription().isEmpty());
+}
+
+TEST_F(PreferencesDialogSettings, TheMarkTellsPendingFromAppliedAndFromLockedAndOpensTheCard)
+{
+    start(R"({"Studio mode": {"locked": true}})");
+    auto &page = module.page;
+    auto *marks = page.findChild<olSettingMarks *>();
+    const auto margin = [&](const QWidget &control, const QWidget &label) {
+        QCoreApplication::processEvents();
+        const QRect row(label.mapTo(&page, QPoint()) - QPoint(9, 0), QSize(9, control.height()));
+        QImage picture(row.size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        marks->render(&picture, QPoint(), row, QWidget::RenderFlags());
+        return picture;
+    };
+    const QImage nothing = margin(*page.samples, *page.samplesLabel);
+    page.samples->setValue(9);
+    const QImage pending = margin(*page.samples, *page.samplesLabel);
+    EXPECT_NE(pending, nothing);
+    ASSERT_TRUE(dialog->apply());
+    const QImage applied = margin(*page.samples, *page.samplesLabel);
+    EXPECT_NE(applied, nothing);
+    EXPECT_NE(applied, pending);
+
+    // The mark is before the label, on the tab's page.
+    QWidget *tab = page.samplesLabel->parentWidget();
+    QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, page.samplesLabel->geometry().topLeft() + QPoint(-4, 4));
+    auto *card = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_NE(card, nullptr);
+    EXPECT_NE(card->findChild<QAction *>(QStringLiteral("copyKey")), nullptr);
+    card->close();
+    EXPECT_EQ(marks->markedAt(page.shadows->mapTo(&page, QPoint(-4, 4))), nullptr) << "a default has no mark";
+    const auto *modeLabel = qobject_cast<QFormLayout *>(tab->layout())->labelForField(page.mode);
+    EXPECT_EQ(marks->markedAt(modeLabel->mapTo(&page, QPoint(-4, modeLabel->height() / 2))), page.mode);
 }
 
 TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
@@ -73,6 +115,38 @@ TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
     dialog->reject();
 }
 
+TEST_F(PreferencesDialogSettings, TheMenuIsACardThatTellsOriginAndTakesBack)
+{
+    start(R"({"Studio title": {"value": "Ours"}})");
+    module.page.mode->setCurrentIndex(1);
+    ASSERT_TRUE(dialog->apply());
+    const auto origin = [this](QWidget &control) {
+        const QAction *fact = menuAction(control, QStringLiteral("origin"));
+        const QString text = fact ? fact->text() : QString();
+        QApplication::activePopupWidget()->close();
+        return text;
+    };
+    EXPECT_EQ(origin(*module.page.shadows), "The default");
+    EXPECT_EQ(origin(*module.page.mode), "Set by you");
+    module.page.tabs->setCurrentIndex(1);
+    EXPECT_EQ(origin(*module.page.title), "Set by the site");
+    module.page.title->setText(QStringLiteral("Mine"));
+    EXPECT_EQ(origin(*module.page.title), "Changed, not applied yet");
+
+    menuAction(*module.page.title, QStringLiteral("copyJson"))->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_TRUE(QApplication::clipboard()->text().contains(
+        QStringLiteral(R"("Studio title": {"type": "qstring", "value": "Mine"})")));
+    QAction *takeBack = menuAction(*module.page.title, QStringLiteral("takeBack"));
+    ASSERT_NE(takeBack, nullptr);
+    takeBack->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(module.page.title->text(), "Ours");
+    EXPECT_FALSE(canApply());
+    EXPECT_FALSE(menuAction(*module.page.title, QStringLiteral("takeBack"))->isEnabled());
+    QApplication::activePopupWidget()->close();
+}
+
 TEST_F(PreferencesDialogSettings, TheMenuOpensByKeyboardAndCopiesTheKey)
 {
     start();
@@ -103,7 +177,7 @@ TEST_F(PreferencesDialogSettings, RestoringIsPendingUntilItIsApplied)
     EXPECT_EQ(module.page.samples->value(), 4);
     EXPECT_EQ(module.page.scale->text(), "1.5");
     EXPECT_TRUE(canApply());
-    EXPECT_EQ(changes()->text(), "3 Changes...") << "the one without a control counts";
+    EXPECT_EQ(changes()->text(), "3 Chan&ges...") << "the one without a control counts";
     EXPECT_EQ(module.value<int>("Studio seed"), 8);
 
     answer(QStringLiteral("Discard"));
@@ -157,9 +231,21 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     EXPECT_TRUE(locked->isVisible()) << "by keyboard, which cannot reach what is disabled";
     ASSERT_EQ(locked->menu()->actions().size(), 1);
     EXPECT_TRUE(locked->menu()->actions().first()->text().contains(QStringLiteral("The farm needs it.")));
+    module.page.tabs->setCurrentIndex(1);
+    locked->menu()->actions().first()->trigger();
+    EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "it leads to the setting";
+    auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
+    EXPECT_TRUE(message->isVisible());
+    QTest::mouseClick(message->findChild<QWidget *>(QStringLiteral("closeMessage")), Qt::LeftButton);
+    EXPECT_FALSE(message->isVisible());
 
     module.page.samples->setValue(3);
+    EXPECT_TRUE(canApply());
+    EXPECT_EQ(changes()->text(), "1 Chan&ge...") << "what was edited before";
+    EXPECT_EQ(module.page.samples->value(), 16) << "it is put back at once";
+    module.page.samples->setValue(3);
     ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(module.page.samples->value(), 16);
     EXPECT_EQ(module.value<int>("Studio samples"), 16);
     dialog.reset();
     EXPECT_TRUE(module.page.samples->isEnabled()) << "the page goes back as it came";

@@ -183,7 +183,7 @@ TEST_F(Following, AChangedFileOfTheSiteIsTold)
 std::string runHost(const QString &store, const std::string &own, int saves)
 {
     olPreferencesSession session(store, {});
-    if (!session.loadStore().isEmpty())
+    if (!session.loadStore().isOk())
         return "cannot load";
     int saved = 0;
     const auto last = [] {
@@ -196,7 +196,7 @@ std::string runHost(const QString &store, const std::string &own, int saves)
         session.takeOver();
         if (saved < saves) {
             olPreferences::getData().set(own, ++saved, true);
-            if (!session.save().isEmpty())
+            if (!session.save().isOk())
                 return "cannot save";
         }
         ::usleep(2000);

@@ -29,7 +29,7 @@ std::string applyFileIO()
     QElapsedTimer clock;
     clock.start();
     olPreferencesSession session(QString(), {});
-    const QString error = session.loadPlugin(pluginFile);
+    const QString error = session.loadPlugin(pluginFile).error();
     if (!error.isEmpty())
         return error.toStdString();
     olPreferencesEntry *module = olPreferencesRegistry::the().find(QStringLiteral("FileIO"));
@@ -50,7 +50,7 @@ TEST(PluginLoader, AModuleThatThrowsAnythingIsReported)
 {
     olPreferencesRegistry::the().setRegistrationHook([](const QString &) { throw 42; });
     olPluginLoader plugin;
-    const QString error = plugin.load(pluginFile);
+    const QString error = plugin.load(pluginFile).error();
     olPreferencesRegistry::the().setRegistrationHook({});
     EXPECT_TRUE(error.contains(pluginFile) && error.contains("a module could not be built")) << error.toStdString();
     EXPECT_FALSE(plugin.isLoaded());
@@ -65,7 +65,7 @@ TEST(PluginLoader, AFileThatWasCutIsRefusedAndNotMapped)
     const qint64 size = QFileInfo(cut).size();
     const auto load = [&cut] {
         olPluginLoader plugin;
-        const QString error = plugin.load(cut);
+        const QString error = plugin.load(cut).error();
         return error.contains(cut) && !plugin.isLoaded() ? std::string() : "loaded: " + error.toStdString();
     };
     for (const qint64 left : {size - 1, size / 2, size / 10, qint64(4096), qint64(64), qint64(63), qint64(0)}) {

@@ -101,7 +101,7 @@ protected:
     {
         clear();
         session = std::make_unique<olPreferencesSession>(file);
-        ASSERT_EQ(session->loadStore(), QString());
+        ASSERT_EQ(session->loadStore().error(), QString());
     }
 
     QTemporaryDir folder;
@@ -123,7 +123,7 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
     CountingModule other("Other");
     session->start();
     module.page.setValue(7);
-    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_EQ(session->commit(shown).error(), QString());
     EXPECT_TRUE(module.appliedChange);
 
     nextRun();
@@ -134,11 +134,11 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
 
     // Chosen again, the default is a choice; restored, it is none.
     module.page.setValue(3);
-    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_EQ(session->commit(shown).error(), QString());
     nextRun();
     EXPECT_EQ(boost::any_cast<int>(olPreferences::getData().get("Counter")), 3);
     session->start();
-    EXPECT_EQ(session->confirm(shown, {}, {"Counter"}), QString());
+    EXPECT_EQ(session->commit(shown, {}, {"Counter"}).error(), QString());
     nextRun();
     EXPECT_TRUE(olPreferences::getData().get("Counter").empty());
 }
@@ -147,14 +147,14 @@ TEST_F(Session, KeepsAChoiceThatIsADefaultInTheEditionOfThisRun)
 {
     session->start();
     module.page.setValue(7);
-    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_EQ(session->commit(shown).error(), QString());
 
     CountingModule other("Other");
     module.defaultValue = 7;
     nextRun();
     session->start();
     other.page.setValue(8);
-    EXPECT_EQ(session->confirm({olPreferencesRegistry::the().find(QStringLiteral("Other"))}), QString());
+    EXPECT_EQ(session->commit({olPreferencesRegistry::the().find(QStringLiteral("Other"))}).error(), QString());
 
     module.defaultValue = 3;
     nextRun();
@@ -165,7 +165,7 @@ TEST_F(Session, KeepsAChoiceThatIsADefaultInTheEditionOfThisRun)
 TEST_F(Session, AConfirmationWithoutAnEditChangesNothing)
 {
     session->start();
-    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_EQ(session->commit(shown).error(), QString());
     EXPECT_FALSE(module.appliedChange);
     EXPECT_FALSE(QFile::exists(file)) << "there was nothing to store";
 }
@@ -178,14 +178,14 @@ TEST_F(Session, WhenStoringFailsEverythingIsAsItWasAndNothingIsApplied)
     module.told.clear();
     module.page.setValue(7);
 
-    const QString error = session->confirm(shown);
+    const QString error = session->commit(shown).error();
     EXPECT_TRUE(error.contains(file)) << error.toStdString();
     EXPECT_EQ(module.told, Told{"data"});
     EXPECT_EQ(module.value(), 3);
     EXPECT_EQ(module.page.value(), 7) << "the edit is still there to be confirmed again";
 
     inTheWay.remove();
-    EXPECT_EQ(session->confirm(shown), QString());
+    EXPECT_EQ(session->commit(shown).error(), QString());
     EXPECT_TRUE(module.appliedChange);
     EXPECT_EQ(module.value(), 7);
 }
@@ -200,7 +200,7 @@ TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)
     nextRun();
     session->start();
     module.page.setValue(7);
-    ASSERT_EQ(session->confirm(shown), QString());
+    ASSERT_EQ(session->commit(shown).error(), QString());
 
     olPreferencesStore::Values values;
     ASSERT_EQ(store.load(values), QString());

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTableWidget>
 
 #include <functional>
 #include <limits>
@@ -125,12 +126,12 @@ protected:
         if (!site.isEmpty())
             write(siteFile, site);
         session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile, lesserFile});
-        ASSERT_EQ(session->loadStore(), QString());
+        ASSERT_EQ(session->loadStore().error(), QString());
         session->start();
         notices = session->takeNotices();
     }
 
-    void confirm() { ASSERT_EQ(session->confirm(olPreferencesRegistry::the().entries()), QString()); }
+    void confirm() { ASSERT_EQ(session->commit(olPreferencesRegistry::the().entries()).error(), QString()); }
 
     template <class T> static T inRecord(const char *key)
     {
@@ -193,7 +194,7 @@ TEST_F(Site, ALockedSettingKeepsItsValueWhateverPageAndStoreSay)
 
     // As a tool would.
     olPreferences::getData().set("Camera fov", 10.0f, true);
-    EXPECT_EQ(session->save(), QString());
+    EXPECT_EQ(session->save().error(), QString());
     EXPECT_EQ(inRecord<float>("Camera fov"), 60);
 
     // What the person had chosen was only covered.
@@ -274,7 +275,7 @@ TEST_F(Site, AFileCountsOnlyWhereRootAloneCanReadAndChangeWhatItSays)
     const auto faults = [&] {
         olSiteDefaults site({name});
         site.read();
-        site.settle([](const std::string &) { return 45.0f; });
+        site.settle([](const std::string &) { return 45.0f; }, [](auto &, auto &) { return QString(); });
         QStringList found = site.takeFaults();
         EXPECT_EQ(site.settings().size(), found.isEmpty() ? 1u : 0u) << found.join(' ').toStdString();
         return found.join(' ').remove("The site's preferences " + name + " are ignored: ").toStdString();
@@ -356,7 +357,7 @@ TEST_F(Site, TheLanguageStandsBeforeTheModulesUnlessThePersonChoseOne)
 {
     write(siteFile, R"({"MainWindow user language": {"value": 2}})");
     session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
-    ASSERT_EQ(session->loadStore(), QString());
+    ASSERT_EQ(session->loadStore().error(), QString());
     EXPECT_EQ(int(olHostState::the().displayLanguage), 2);
     save({{key("MainWindow user language"), 1}});
     run(R"({"MainWindow user language": {"value": 2}})");
@@ -410,6 +411,43 @@ TEST_F(Site, ValuesThatEqualOnlyThemselvesAreNotStoredAgainAndAgain)
     const QByteArray before = bytesOf(file);
     confirm();
     EXPECT_EQ(bytesOf(file), before);
+}
+
+TEST_F(Site, AListWithoutADefaultIsASettingLikeAnyOther)
+{
+    constexpr auto name = "texture search paths";
+    using Paths = std::vector<std::string>;
+    write(siteFile, R"({"texture search paths": {"value": ["/site"]}})");
+    const auto start = [&] {
+        session.reset();
+        clear();
+        session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
+        EXPECT_EQ(session->loadStore().error(), QString());
+        EXPECT_EQ(session->loadPlugin(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
+        session->start();
+        EXPECT_EQ(session->takeNotices(), QStringList());
+        EXPECT_EQ(session->check(), QStringList());
+    };
+    const auto paths = [] { return olPreferencesRegistry::the().find(QStringLiteral("FileIO")); };
+    const auto rows = [&] { return paths()->page()->findChild<QTableWidget *>(QStringLiteral("searchPaths")); };
+    start();
+    EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
+    ASSERT_EQ(rows()->rowCount(), 1);
+    EXPECT_EQ(session->commit({paths()}).error(), QString());
+    EXPECT_EQ(stored().count(key(name)), 0u) << "the site's own is not stored";
+
+    rows()->removeRow(0);
+    EXPECT_EQ(session->commit({paths()}).error(), QString());
+    start();
+    EXPECT_EQ(rows()->rowCount(), 0) << "what a person took out does not come back";
+
+    write(siteFile, R"({"texture search paths": {"value": ["/site"], "locked": true}})");
+    start();
+    EXPECT_TRUE(session->lockReason(name));
+    rows()->removeRow(0);
+    EXPECT_EQ(session->commit({paths()}).error(), QString());
+    EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
+    session.reset();
 }
 
 } // namespace

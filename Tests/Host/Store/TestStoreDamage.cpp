@@ -105,8 +105,8 @@ TEST_F(StoreDamage, RowsThatWereChangedOrTakenAwayOutsideAreNoticed)
          {"UPDATE setting SET value = '61' WHERE key = 'Camera fov'", "DELETE FROM setting WHERE key = 'Row 7'",
           "UPDATE setting SET key = 'Camera for' WHERE key = 'Camera fov'",
           "UPDATE setting SET value = CAST(value AS BLOB) WHERE key = 'Path'", "DELETE FROM seal",
-          "DELETE FROM setting", "DROP TABLE setting",
-          "CREATE TRIGGER t AFTER INSERT ON setting BEGIN SELECT 1; END"}) {
+          "DELETE FROM setting", "DROP TABLE setting", "UPDATE history SET value_after = '76' WHERE key = 'Camera fov'",
+          "DROP TABLE history", "CREATE TRIGGER t AFTER INSERT ON setting BEGIN SELECT 1; END"}) {
         write(file, sound);
         tamper(sql);
         Values values;

@@ -26,6 +26,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace
 {
 
@@ -280,6 +282,28 @@ TEST_F(WebServer, AnswersWhateverNumberOfOthersHoldsOnToIt)
     EXPECT_EQ(get("/").status, 200) << "after they have gone";
     hold("127.0.0.1", 40, "GET /");
     EXPECT_EQ(get("/").status, 200) << "although they come from where the client is";
+}
+
+TEST_F(WebServer, AnswersAfterWhateverItWasSent)
+{
+    olController::enableWebInterface(true);
+    std::mt19937 random(1);
+    const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
+    for (int round = 0; round < 100; ++round) {
+        QByteArray sent = "GET /state.json?a=b HTTP/1.1\r\nHost: localhost\r\nAccept: */*\r\n\r\n";
+        for (int count = below(6); count >= 0; --count)
+            sent[below(sent.size())] = char(below(256));
+        if (round % 5 == 0)
+            sent.insert(below(sent.size()), QByteArray(below(100000), char(below(256))));
+        if (round % 3 == 0)
+            sent.truncate(below(sent.size()));
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, quint16(port));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; })) << round;
+        socket.write(sent);
+        (void)QTest::qWaitFor([&] { return socket.bytesAvailable() > 0; }, 5);
+    }
+    EXPECT_EQ(get("/").status, 200);
 }
 
 TEST_F(WebServer, RefusesWhatWouldKeepTheInterfaceWaiting)

@@ -33,6 +33,36 @@ QByteArray gltf(const char *buffer, const char *points)
            points + R"(,"componentType":5126,"type":"VEC3","min":[0,0,0],"max":[1,1,0]}]})";
 }
 
+QByteArray nodes(const char *all)
+{
+    return QByteArray(R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],"nodes":[)") + all + "]}";
+}
+
+QByteArray step(const QByteArray &instances)
+{
+    return "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('X'));\nENDSEC;\nDATA;\n" + instances +
+           "\nENDSEC;\nEND-ISO-10303-21;\n";
+}
+
+QByteArray stl(const char *one, const char *two, const char *three)
+{
+    QByteArray text = "solid s\nfacet normal 0 0 1\nouter loop\n";
+    for (const char *corner : {one, two, three})
+        text += QByteArray("vertex ") + corner + '\n';
+    return text + "endloop\nendfacet\nendsolid s\n";
+}
+
+/// Each group holds the one before twice.
+QByteArray doubled(int times)
+{
+    QByteArray text = "DEF G0 Shape { geometry Box {} }\n";
+    for (int index = 0; index < times; ++index) {
+        const QByteArray before = 'G' + QByteArray::number(index);
+        text = "DEF G" + QByteArray::number(index + 1) + " Group { children [ " + text + " USE " + before + " ] }\n";
+    }
+    return vrml(text.constData());
+}
+
 const char points[] = "v 0 0 0\nv 1 0 0\nv 1 1 0\n";
 
 const QVector<Broken> &brokenFiles()
@@ -48,19 +78,30 @@ const QVector<Broken> &brokenFiles()
         {"number.stl", "solid\nfacet normal 0 0 1\nouter loop\nvertex a b c\nendsolid\n", "Cannot read"},
         {"index.wrl", triangle("0,1,7,-1"), "refers to a point that is not there"},
         {"below.wrl", triangle("0,1,-9,-1"), "Cannot read"},
-        {"open.wrl", vrml("Group { children [\n"), "line"},
-        {"inline.wrl", vrml("Inline { url \"none.wrl\" }\n"), "a file that it refers to cannot be opened"},
-        {"old.wrl", "#VRML V1.0 ascii\n", "version 1"},
+        {"open.wrl", vrml("Group { children [\n"), "damaged"},
+        {"inline.wrl", vrml("Inline { url \"none.wrl\" }\n"), "no geometry"},
+        {"old.wrl",
+         "#VRML V1.0 ascii\nSeparator { Coordinate3 { point [0 0 0, 1 0 0, 1 1 0] } IndexedFaceSet { coordIndex [0, 1, "
+         "7, -1] } }\n",
+         "refers to a point that is not there"},
+        {"itself.wrl", vrml("DEF A Group { children [ USE A ] }\n"), "Cannot read"},
+        {"again.wrl", vrml("Inline { url \"again.wrl\" }\n"), "refers to itself through again.wrl"},
+        {"doubled.wrl", doubled(30), "more than a million parts"},
+        {"nested.step", step("#1=SHAPE(" + QByteArray(100000, '(') + QByteArray(100000, ')') + ");"),
+         "parentheses are nested too deeply"},
+        {"line.igs", QByteArray(72, ' ') + "S      1\n" + "xyz" + QByteArray(69, ' ') + "D      1\n", "in line 2"},
+        {"word.stl", stl("0 0 0", "1 0 0", "0 1.K5 0"), "damaged in line 6"},
+        {"far.stl", stl("0 0 0", "1e21 0 0", "0 1 0"), "beyond all measure"},
+        {"cycle.gltf", nodes(R"({"children":[1]},{"children":[0]})"), "nested too deeply"},
+        {"required.gltf", R"({"asset":{"version":"2.0"},"extensionsRequired":["EXT_none"]})", "extension EXT_none"},
         {"part.gltf", gltf(R"("uri":"none.bin","byteLength":36)", "3"), "the file none.bin"},
         {"short.gltf", gltf(R"("uri":"part.gltf","byteLength":1e9)", "3"),
          "the file part.gltf that it refers to is cut"},
         {"count.gltf", gltf(R"("uri":"data:;base64,AAAA","byteLength":36)", "4000000000"), "announces more"},
         {"view.gltf", gltf(R"("uri":"data:;base64,AAAA","byteLength":3)", "3"), "beyond its end"},
         {"data.gltf", gltf(R"("uri":"data:application/octet-stream;base64,AAAA","byteLength":36)", "3"), "damaged"},
-        {"bare.step", "ISO-10303-21;\nHEADER;\nENDSEC;\nDATA;\nENDSEC;\nEND-ISO-10303-21;\n", "Cannot read"},
-        {"link.step",
-         "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('X'));\nENDSEC;\nDATA;\n#1=SHAPE(#9,#8);\nENDSEC;\nEND-ISO-10303-21;\n",
-         "Cannot read"},
+        {"bare.step", step({}), "Cannot read"},
+        {"link.step", step("#1=SHAPE('#7',/* #6 */#9);"), "#1 refers to #9, which is not there"},
         {"bare.igs", QByteArray(72, ' ') + "S      1\n" + QByteArray(72, ' ') + "T      1\n", "Cannot read"},
     };
     return files;
@@ -107,9 +148,10 @@ TEST_F(Fault, OtherSuffixesHaveNoReaderAndTheMessageSaysWhichHave)
 {
     for (const char *suffix : {"mrb", "kbx", "osb", "opb", "jt", "CATPart", "3dm", "prt", "dgn", "plmxml"}) {
         const QString file = written(QStringLiteral("m.") + QLatin1String(suffix), "content");
-        EXPECT_EQ(faultOf(file), QStringLiteral("Cannot read %1: there is no reader for .%2 files. These can be read: "
-                                                "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb.")
-                                     .arg(file, QLatin1String(suffix)));
+        EXPECT_EQ(faultOf(file),
+                  QStringLiteral("Cannot read %1: there is no reader for .%2 files. These can be read: "
+                                 "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb, ply, 3mf, dae, off.")
+                      .arg(file, QLatin1String(suffix)));
     }
     EXPECT_TRUE(faultOf(written(QStringLiteral("none"), "content")).contains(QStringLiteral("without a suffix")));
 }

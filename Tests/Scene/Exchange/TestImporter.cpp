@@ -1,6 +1,5 @@
 #include "Scene/Exchange/ImportTest.h"
 
-#include "Exchange/olImportReaders.h"
 #include "Exchange/olImporter.h"
 #include "State/olHostState.h"
 
@@ -12,7 +11,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <future>
 
 namespace
 {
@@ -114,28 +112,4 @@ TEST_F(Importer, TheGuiThreadGoesOnWhileFilesAreRead)
     EXPECT_LT(longest, 1000);
     EXPECT_GT(percents.size(), 2);
     EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end()));
-}
-
-TEST_F(Importer, OnlyOneStepOrIgesFileIsReadAtATime)
-{
-    const std::vector<olImportJob> files = jobs({"a.step", "b.igs", "c.stl"});
-    const auto read = [](const olImportJob &job) {
-        return std::async(std::launch::async, [job] { return olImport(job).isGood(); });
-    };
-    std::vector<std::future<bool>> all;
-    {
-        const olExchangeLock lock;
-        all.push_back(read(files[0]));
-        all.push_back(read(files[1]));
-        EXPECT_TRUE(read(files[2]).get());
-        for (const std::future<bool> &each : all)
-            EXPECT_EQ(each.wait_for(std::chrono::seconds(1)), std::future_status::timeout);
-    }
-    // At once and over and over: without the lock this crashes.
-    for (int round = 0; round < 4; ++round) {
-        all.push_back(read(files[0]));
-        all.push_back(read(files[1]));
-    }
-    for (std::future<bool> &each : all)
-        EXPECT_TRUE(each.get());
 }

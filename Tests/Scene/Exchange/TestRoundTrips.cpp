@@ -1,8 +1,16 @@
 #include "Scene/Exchange/ImportTest.h"
 
+#include "Exchange/olExportScene.h"
 #include "State/olHostState.h"
 
+#include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
+
+#include <QDir>
+#include <QImage>
 
 namespace
 {
@@ -16,7 +24,41 @@ constexpr unsigned meshTriangles = 512;
 // The curved surfaces stand off their exact place by no more than this, in millimetres.
 constexpr double near = 0.2;
 
+int textures(const olScene::Document &document)
+{
+    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
+    TDF_LabelSequence labels;
+    tool->GetMaterials(labels);
+    int count = 0;
+    for (const TDF_Label &label : labels) {
+        const Handle(XCAFDoc_VisMaterial) look = tool->GetMaterial(label);
+        count += int((look->HasCommonMaterial() && !look->CommonMaterial().DiffuseTexture.IsNull()) ||
+                     (look->HasPbrMaterial() && !look->PbrMaterial().BaseColorTexture.IsNull()));
+    }
+    return count;
+}
+
 } // namespace
+
+TEST_F(RoundTrip, TexturesComeBackAlthoughTheFirstOnesAreGone)
+{
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(path(QStringLiteral("red.png"))));
+    (void)written(QStringLiteral("m.mtl"), "newmtl m\nmap_Kd red.png\n");
+    const olScene::Document model = imported(olImportJob::of(
+        written(QStringLiteral("m.obj"),
+                "mtllib m.mtl\nusemtl m\nvt 0 0\nvt 1 0\nvt 1 1\nv 0 0 0\nv 1 0 0\nv 1 1 0\nf 1/1 2/2 3/3\n")));
+    ASSERT_EQ(textures(model), 1);
+    for (const char *suffix : {"obj", "gltf", "glb"})
+        EXPECT_EQ(olExportScene(model, path(QLatin1String("out.") + QLatin1String(suffix))).error, QString());
+    QDir().remove(path(QStringLiteral("red.png")));
+    for (const char *suffix : {"obj", "gltf", "glb"}) {
+        const olImportResult result = olImport(olImportJob::of(path(QLatin1String("out.") + QLatin1String(suffix))));
+        ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
+        EXPECT_EQ(textures(result.document), 1) << suffix << qPrintable(result.remarks.join(QLatin1Char(' ')));
+    }
+}
 
 TEST_F(RoundTrip, FormatsOfTrianglesBringAllPartsBack)
 {

@@ -9,7 +9,7 @@ ViewTest::ViewTest()
     for (olPreferencesEntry *entry : modules()) {
         entry->setDefaults(true);
         entry->applyPreferences();
-        entry->settle();
+        entry->markClean();
     }
     scene.loadSample();
     view.setScene(&scene);

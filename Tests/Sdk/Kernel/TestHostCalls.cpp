@@ -1,17 +1,119 @@
+#include "Kernel/olController.h"
+#include "Kernel/olOSGWidget.h"
 #include "State/olHostState.h"
+#include "Utilities/olLog.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <memory>
 #include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace
 {
+
+/// Does something whenever a value is set, while it lives.
+class Observer : public olHostObserver
+{
+public:
+    explicit Observer(std::function<void(const olHostValueBase &)> told) : m_told(std::move(told))
+    {
+        olHostState::the().addObserver(*this);
+    }
+    ~Observer() override { olHostState::the().removeObserver(*this); }
+    Observer(const Observer &) = delete;
+    Observer &operator=(const Observer &) = delete;
+
+private:
+    void stateChanged(const olHostValueBase &value) override { m_told(value); }
+
+    std::function<void(const olHostValueBase &)> m_told;
+};
 
 TEST(HostState, NoTwoValuesShareAName)
 {
     std::set<std::string> names;
     for (const olHostValueBase *value : olHostState::the().values())
         EXPECT_TRUE(names.insert(value->name()).second) << value->name();
+}
+
+TEST(HostState, EveryCallIsToldBeforeItReturnsAlsoOneThatChangesNothing)
+{
+    const olHostState &host = olHostState::the();
+    std::vector<bool> told;
+    const Observer server([&](const olHostValueBase &value) {
+        if (&value == &host.webInterfaceWanted)
+            told.push_back(host.webInterfaceWanted);
+    });
+    olController::enableWebInterface(false);
+    olController::enableWebInterface(true);
+    EXPECT_EQ(told, (std::vector<bool>{false, true}));
+    olController::enableWebInterface(true);
+    EXPECT_EQ(told.size(), 3u) << "a server starts anew";
+}
+
+TEST(HostState, ObserversMayComeAndGoWhileTheyAreTold)
+{
+    int count = 0;
+    const auto counts = [&count](const olHostValueBase &) { ++count; };
+    std::unique_ptr<Observer> guest;
+    std::unique_ptr<Observer> neighbour;
+    std::unique_ptr<Observer> newcomer;
+    const Observer host([&](const olHostValueBase &) {
+        guest.reset();
+        neighbour.reset();
+        if (!newcomer)
+            newcomer = std::make_unique<Observer>(counts);
+    });
+    guest = std::make_unique<Observer>(counts);
+    neighbour = std::make_unique<Observer>(counts);
+    const Observer last(counts);
+    olController::showFPS(true);
+    EXPECT_EQ(count, 2) << "the last one and the newcomer, but nobody who is gone";
+    olController::showFPS(false);
+    EXPECT_EQ(count, 4);
+}
+
+class LoggedErrors : public olLogObserver
+{
+public:
+    LoggedErrors() : m_before(olLog::observe(this)) {}
+    ~LoggedErrors() override { olLog::observe(m_before); }
+
+    void logged(olLogLevel level, const QString &text) override
+    {
+        if (level == olLogLevel::Error)
+            errors << text;
+    }
+
+    QStringList errors;
+
+private:
+    olLogObserver *m_before;
+};
+
+TEST(HostCalls, PlanesThatNoCameraHasAreRefusedAloud)
+{
+    const olHostState &state = olHostState::the();
+    LoggedErrors log;
+    olOSGWidget::setNearFarPlaneLimit(true, 2.0f, 50.0f);
+    for (const auto &[nearest, farthest] : {std::pair{0.0f, 0.0f}, std::pair{-1.0f, 5.0f}, std::pair{9.0f, 9.0f}}) {
+        log.errors.clear();
+        olOSGWidget::setNearFarPlaneLimit(true, nearest, farthest);
+        EXPECT_EQ(log.errors.size(), 1);
+        EXPECT_FALSE(state.limitNearFarPlane);
+        EXPECT_EQ(state.nearPlane, 2.0f);
+        EXPECT_EQ(state.farPlane, 50.0f);
+    }
+    log.errors.clear();
+    olOSGWidget::setNearFarPlaneLimit(false, 0.0f, 0.0f);
+    EXPECT_EQ(log.errors, QStringList()) << "without a limit they do not count";
+    olOSGWidget::setNearFarPlaneLimit(true, 2.0f, 50.0f);
+    EXPECT_TRUE(state.limitNearFarPlane);
 }
 
 } // namespace

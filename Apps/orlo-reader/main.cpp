@@ -1,0 +1,9 @@
+#include "Exchange/olReaderMain.h"
+
+#include <QCoreApplication>
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    olReaderMain();
+}

@@ -1,0 +1,38 @@
+#include "Session/olNumberText.h"
+
+#include "State/olValue.h"
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace
+{
+
+QString translated(const char *text) { return QCoreApplication::translate("olNumberText", text); }
+
+QString bound(double value) { return QString::fromStdString(olNumberText(value)); }
+
+} // namespace
+
+std::string olNumberText(double value)
+{
+    const auto narrow = float(value);
+    return double(narrow) == value ? olValue::number(narrow) : olValue::number(value);
+}
+
+QString olNumbersBetween(double lowest, double highest)
+{
+    if (std::isinf(lowest) && std::isinf(highest))
+        return translated("a number");
+    if (std::isinf(highest))
+        return translated("a number from %1").arg(bound(lowest));
+    if (std::isinf(lowest))
+        return translated("a number up to %1").arg(bound(highest));
+    return translated("a number from %1 to %2").arg(bound(lowest), bound(highest));
+}
+
+QString olWholeNumbersBetween(int lowest, int highest)
+{
+    return translated("a whole number from %1 to %2").arg(lowest).arg(highest);
+}

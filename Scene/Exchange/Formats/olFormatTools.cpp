@@ -1,0 +1,30 @@
+#include "Exchange/Formats/olFormatTools.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+QString olFormatTools::reason(const char *text) { return QCoreApplication::translate("olImport", text); }
+
+QString olFormatTools::cutOff() { return reason("the file is cut off or damaged"); }
+
+QString olFormatTools::damaged() { return reason("the file is damaged or of another format"); }
+
+QString olFormatTools::noTemporary() { return reason("the temporary directory cannot be written to"); }
+
+TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
+
+QByteArray olFormatTools::tailOf(QFile &file)
+{
+    constexpr qint64 enough = 4096;
+    file.seek(qMax<qint64>(0, file.size() - enough));
+    return file.readAll();
+}
+
+olFormatTools::Secluded::Secluded(const olImportJob &job)
+    : m_folder(QDir(job.temporaryDirectory).filePath(QStringLiteral("orlo-import-XXXXXX")))
+{
+    m_file = m_folder.filePath(QFileInfo(job.file).fileName());
+    m_isReady = m_folder.isValid() && QFile::link(job.file, m_file);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Exchange/olImportJob.h"
+
+#include <TCollection_AsciiString.hxx>
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+class QFile;
+
+/// What the files of the formats share.
+namespace olFormatTools
+{
+
+/// Translated; half sentences of the messages on files that cannot be read.
+[[nodiscard]] QString reason(const char *text);
+[[nodiscard]] QString cutOff();
+[[nodiscard]] QString damaged();
+[[nodiscard]] QString noTemporary();
+
+/// The name as the library wants it: the bytes that the system has.
+[[nodiscard]] TCollection_AsciiString path(const QString &file);
+
+/// The last few kilobytes of the file.
+[[nodiscard]] QByteArray tailOf(QFile &file);
+
+/// Where the file is seen without those that lie beside it, so that a reader finds nothing that it refers to.
+class Secluded
+{
+public:
+    explicit Secluded(const olImportJob &job);
+
+    [[nodiscard]] bool isReady() const { return m_isReady; }
+    [[nodiscard]] const QString &file() const { return m_file; }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_file;
+    bool m_isReady = false;
+};
+
+} // namespace olFormatTools

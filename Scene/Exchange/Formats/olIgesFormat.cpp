@@ -1,0 +1,256 @@
+#include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/olModelFormat.h"
+#include "Model/olLibraryMessages.h"
+
+#include <BRepBuilderAPI_Transform.hxx>
+#include <IFSelect_ReturnStatus.hxx>
+#include <IGESCAFControl_Reader.hxx>
+#include <IGESCAFControl_Writer.hxx>
+#include <IGESControl_Controller.hxx>
+#include <Interface_Static.hxx>
+#include <Message_ProgressRange.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDataStd_Name.hxx>
+#include <TDocStd_Document.hxx>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFPrs_DocumentExplorer.hxx>
+#include <XCAFPrs_Style.hxx>
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <algorithm>
+
+using namespace olFormatTools;
+
+olModelFormat olIgesFormat();
+
+namespace
+{
+
+/// Lines are 80 characters: 72 of content, a letter that names the section, and a number.
+class Lines
+{
+public:
+    /// Whether the line is as one of its section must be.
+    bool take(const QByteArray &line)
+    {
+        constexpr int sectionAt = 72;
+        if (line.size() <= sectionAt)
+            return false;
+        const int section = sections.indexOf(line.at(sectionAt));
+        // Sections follow each other; compressed files have one of their own, which is not counted.
+        if (section < m_section)
+            return line.at(sectionAt) == 'C';
+        m_section = section;
+        ++m_counts[section];
+        if (line.at(sectionAt) == 'D')
+            return isDirectory(line);
+        if (line.at(sectionAt) == 'P')
+            return isParameter(line);
+        if (line.at(sectionAt) == 'T')
+            m_terminate = line;
+        return true;
+    }
+
+    /// Whether there are as many lines as the last one says.
+    [[nodiscard]] bool isWhole() const
+    {
+        if (m_terminate.isEmpty())
+            return false;
+        for (int section = 0; section < 4; ++section) {
+            const QByteArray field = m_terminate.mid(8 * section, 8);
+            if (field.trimmed().isEmpty() || m_terminate.left(32).trimmed().isEmpty())
+                continue;
+            if (field.at(0) != sections.at(section) || field.mid(1).trimmed().toInt() != m_counts[section])
+                return false;
+        }
+        return true;
+    }
+
+private:
+    bool isDirectory(const QByteArray &line) const
+    {
+        // The second line of each entry ends with a label, which is any text.
+        const bool isSecond = m_counts[2] % 2 == 0;
+        const int numbers = isSecond ? 40 : 72;
+        for (int at = 0; at < 72; ++at) {
+            const char letter = line.at(at);
+            const bool isNumber = (letter >= '0' && letter <= '9') || letter == ' ' || letter == '-' || letter == '+';
+            if (at < numbers ? !isNumber : letter < ' ')
+                return false;
+        }
+        return true;
+    }
+
+    /// Ends with the number of the entry that it belongs to.
+    [[nodiscard]] bool isParameter(const QByteArray &line) const
+    {
+        bool isNumber = false;
+        const QByteArray owner = line.mid(64, 8).trimmed();
+        const int number = owner.toInt(&isNumber);
+        const bool isOwned = owner.isEmpty() || (isNumber && number % 2 == 1 && number <= m_counts[2]);
+        return isOwned && std::none_of(line.cbegin(), line.cbegin() + 64, [](char letter) {
+                   return (letter >= 0 && letter < ' ' && letter != '\t') || letter == 127;
+               });
+    }
+
+    static inline const QByteArray sections = QByteArrayLiteral("SGDPT");
+    int m_section = 0;
+    int m_counts[5] = {};
+    QByteArray m_terminate;
+};
+
+QString check(QFile &file, QStringList &)
+{
+    const QByteArray first = file.readLine(256);
+    if (first.size() < 73 || (first.at(72) != 'S' && first.at(72) != 'C' && first.at(72) != 'B'))
+        return reason("this is no IGES file");
+    file.seek(0);
+    Lines lines;
+    for (int number = 1; !file.atEnd(); ++number) {
+        QByteArray line = file.readLine();
+        while (line.endsWith('\n') || line.endsWith('\r'))
+            line.chop(1);
+        if (!line.trimmed().isEmpty() && !lines.take(line))
+            return reason("the file is damaged in line %1").arg(number);
+    }
+    return lines.isWhole() ? QString() : cutOff();
+}
+
+QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+             QStringList &)
+{
+    IGESControl_Controller::Init();
+    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    IGESCAFControl_Reader reader;
+    reader.SetColorMode(Standard_True);
+    reader.SetNameMode(Standard_True);
+    reader.SetLayerMode(Standard_True);
+    reader.SetReadVisible(!job.options.importInvisibleSurfaces && !job.options.importInvisibleCurves);
+    if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
+        return damaged();
+    olScene::Document target = document;
+    return reader.Transfer(target, progress) ? QString() : reason("its content cannot be taken over");
+}
+
+constexpr float barelyTransparent = 0.999f;
+
+/// Takes the instances of a document apart.
+class Bodies
+{
+public:
+    Bodies(const olScene::Document &document, QStringList &remarks)
+        : m_from(document),
+          m_to(olScene::newDocument()),
+          m_fromColors(XCAFDoc_DocumentTool::ColorTool(document->Main())),
+          m_shapes(XCAFDoc_DocumentTool::ShapeTool(m_to->Main())),
+          m_colors(XCAFDoc_DocumentTool::ColorTool(m_to->Main())),
+          m_remarks(remarks)
+    {
+    }
+
+    [[nodiscard]] olScene::Document take()
+    {
+        for (XCAFPrs_DocumentExplorer node(m_from, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); node.More();
+             node.Next())
+            add(node.Current());
+        return m_to;
+    }
+
+private:
+    void add(const XCAFPrs_DocumentNode &node)
+    {
+        const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(node.RefLabel);
+        // A copy of its own for each instance: the writer finds colours by shape, and knows one colour of each.
+        const TopoDS_Shape body =
+            BRepBuilderAPI_Transform(shape, node.Location.Transformation(), Standard_True).Shape();
+        const TDF_Label label = m_shapes->AddShape(body, Standard_False);
+        name(label, node);
+        color(label, node.Style);
+
+        TopTools_IndexedMapOfShape before;
+        TopTools_IndexedMapOfShape after;
+        TopExp::MapShapes(shape, before);
+        TopExp::MapShapes(body, after);
+        TDF_LabelSequence pieces;
+        XCAFDoc_ShapeTool::GetSubShapes(node.RefLabel, pieces);
+        for (const TDF_Label &piece : pieces) {
+            const int index = before.FindIndex(XCAFDoc_ShapeTool::GetShape(piece));
+            if (index > 0 && index <= after.Extent())
+                colorPiece(piece, m_shapes->AddSubShape(label, after(index)));
+        }
+    }
+
+    /// The name of the instance, else that of its part.
+    static void name(const TDF_Label &label, const XCAFPrs_DocumentNode &node)
+    {
+        Handle(TDataStd_Name) name;
+        if (node.Label.FindAttribute(TDataStd_Name::GetID(), name) ||
+            node.RefLabel.FindAttribute(TDataStd_Name::GetID(), name))
+            TDataStd_Name::Set(label, name->Get());
+    }
+
+    void color(const TDF_Label &label, const XCAFPrs_Style &style)
+    {
+        if (!style.Material().IsNull())
+            set(label, style.Material()->BaseColor(), XCAFDoc_ColorSurf);
+        else if (style.IsSetColorSurf())
+            set(label, style.GetColorSurfRGBA(), XCAFDoc_ColorSurf);
+        if (style.IsSetColorCurv())
+            m_colors->SetColor(label, style.GetColorCurv(), XCAFDoc_ColorCurv);
+    }
+
+    void colorPiece(const TDF_Label &from, const TDF_Label &to)
+    {
+        for (const XCAFDoc_ColorType kind : {XCAFDoc_ColorGen, XCAFDoc_ColorSurf, XCAFDoc_ColorCurv}) {
+            Quantity_ColorRGBA color;
+            if (!to.IsNull() && m_fromColors->GetColor(from, kind, color))
+                set(to, color, kind);
+        }
+    }
+
+    void set(const TDF_Label &label, const Quantity_ColorRGBA &color, XCAFDoc_ColorType kind)
+    {
+        m_colors->SetColor(label, color.GetRGB(), kind);
+        if (color.Alpha() < barelyTransparent)
+            m_remarks << QCoreApplication::translate("olExport", "%1 is opaque in the file; IGES knows no opacity.")
+                             .arg(olShownNameOf(label));
+    }
+
+    olScene::Document m_from;
+    olScene::Document m_to;
+    Handle(XCAFDoc_ColorTool) m_fromColors;
+    Handle(XCAFDoc_ShapeTool) m_shapes;
+    Handle(XCAFDoc_ColorTool) m_colors;
+    QStringList &m_remarks;
+};
+
+bool write(const olScene::Document &document, const QString &file, QStringList &remarks)
+{
+    const olScene::Document bodies = Bodies(document, remarks).take();
+    IGESControl_Controller::Init();
+    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    // Solids stay solids; else they become loose faces, more of which lose their colour.
+    Interface_Static::SetCVal("write.iges.brep.mode", "BRep");
+    IGESCAFControl_Writer writer;
+    return writer.Transfer(bodies) && writer.Write(path(file).ToCString());
+}
+
+} // namespace
+
+olModelFormat olIgesFormat()
+{
+    return {"IGES",
+            "IGES",
+            {QStringLiteral("iges"), QStringLiteral("igs")},
+            olModelFormat::Surfaces | olModelFormat::Colors,
+            check,
+            read,
+            write};
+}

@@ -1,0 +1,256 @@
+#include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/olModelFormat.h"
+#include "Model/olPlainLook.h"
+
+#include <IFSelect_ReturnStatus.hxx>
+#include <Interface_Static.hxx>
+#include <Message_ProgressScope.hxx>
+#include <STEPCAFControl_Controller.hxx>
+#include <STEPCAFControl_Reader.hxx>
+#include <STEPCAFControl_Writer.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDataStd_Name.hxx>
+#include <TDocStd_Document.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstddef>
+#include <istream>
+#include <streambuf>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+using namespace olFormatTools;
+
+olModelFormat olStepFormat();
+
+namespace
+{
+
+/// Goes through the instances of a file without understanding them: what each is called, and what it refers to. The
+/// library crashes over what is not there, and over nesting without end.
+class Instances
+{
+public:
+    explicit Instances(const QByteArray &text) : m_at(text.constData()), m_end(text.constData() + text.size()) {}
+
+    /// What is wrong, in half a sentence.
+    QString fault()
+    {
+        while (m_at < m_end && !m_isEnded) {
+            const QString found = statement();
+            if (!found.isEmpty())
+                return found;
+        }
+        if (!m_isEnded)
+            return cutOff();
+        std::sort(m_defined.begin(), m_defined.end());
+        for (const auto &[from, to] : m_references) {
+            if (!std::binary_search(m_defined.begin(), m_defined.end(), to))
+                return reason("the file is damaged: #%1 refers to #%2, which is not there").arg(from).arg(to);
+        }
+        return {};
+    }
+
+    /// Where the file ends; what comes behind signs it.
+    [[nodiscard]] const char *end() const { return m_at; }
+
+private:
+    /// Up to the semicolon.
+    QString statement()
+    {
+        constexpr int deepest = 500;
+        int depth = 0;
+        bool isDefinition = false;
+        quint64 number = 0;
+        const char *start = nullptr;
+        for (; m_at < m_end && *m_at != ';'; ++m_at) {
+            if (*m_at == '\'') {
+                m_at = std::find(m_at + 1, m_end, '\'');
+            } else if (*m_at == '/' && m_at + 1 < m_end && m_at[1] == '*') {
+                static const char close[] = "*/";
+                m_at = std::search(m_at + 2, m_end, close, close + 2) + 1;
+            } else if (*m_at == '(' && ++depth > deepest) {
+                return reason("the file is damaged: its parentheses are nested too deeply");
+            } else if (*m_at == ')') {
+                --depth;
+            } else if (*m_at == '#' && m_at + 1 < m_end && m_at[1] >= '0' && m_at[1] <= '9') {
+                const quint64 name = takeNumber();
+                isDefinition = isDefinition || !start;
+                if (!start)
+                    number = name;
+                else if (isDefinition)
+                    m_references.emplace_back(number, name);
+            }
+            if (m_at >= m_end)
+                return cutOff();
+            if (!start && static_cast<unsigned char>(*m_at) > ' ' && *m_at != '/')
+                start = m_at;
+        }
+        if (m_at >= m_end)
+            return start ? cutOff() : QString();
+        if (isDefinition)
+            m_defined.push_back(number);
+        const std::string_view keyword =
+            start ? std::string_view(start, std::size_t(m_at - start)) : std::string_view();
+        m_isEnded = keyword.substr(0, 16) == "END-ISO-10303-21";
+        ++m_at;
+        return {};
+    }
+
+    /// Stays on its last digit.
+    quint64 takeNumber()
+    {
+        quint64 number = 0;
+        for (; m_at + 1 < m_end && m_at[1] >= '0' && m_at[1] <= '9'; ++m_at)
+            number = 10 * number + quint64(m_at[1] - '0');
+        return number;
+    }
+
+    const char *m_at;
+    const char *m_end;
+    bool m_isEnded = false;
+    std::vector<quint64> m_defined;
+    std::vector<std::pair<quint64, quint64>> m_references;
+};
+
+QString check(QFile &file, QStringList &)
+{
+    const uchar *bytes = file.map(0, file.size());
+    if (!bytes)
+        return file.errorString();
+    const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
+    if (!text.left(4096).contains("ISO-10303-21"))
+        return reason("this is no STEP file");
+    const QString fault = Instances(text).fault();
+    file.unmap(const_cast<uchar *>(bytes));
+    return fault;
+}
+
+/// The file up to its end without what signs it, in blocks, so that one sees how far the library is.
+class Source : public std::streambuf
+{
+public:
+    Source(const char *bytes, std::size_t count, const Message_ProgressRange &progress)
+        : m_at(bytes), m_end(bytes + count), m_scope(progress, "File", double(count))
+    {
+    }
+
+private:
+    int_type underflow() override
+    {
+        constexpr std::ptrdiff_t block = 1 << 18;
+        const std::ptrdiff_t count = std::min(block, m_end - m_at);
+        if (count <= 0)
+            return traits_type::eof();
+        auto *start = const_cast<char *>(m_at);
+        setg(start, start, start + count);
+        m_at += count;
+        m_scope.Next(double(count));
+        return traits_type::to_int_type(*start);
+    }
+
+    const char *m_at;
+    const char *m_end;
+    Message_ProgressScope m_scope;
+};
+
+bool isNumber(const TCollection_ExtendedString &text)
+{
+    bool isDigits = !text.IsEmpty();
+    for (int index = 1; index <= text.Length(); ++index)
+        isDigits = isDigits && QChar(text.Value(index)).isDigit();
+    return isDigits;
+}
+
+/// An instance without a name bears its number in the file; the name of what stands there says more.
+void nameNumberedInstances(const olScene::Document &document)
+{
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
+    for (const TDF_Label &label : labels) {
+        TDF_LabelSequence components;
+        XCAFDoc_ShapeTool::GetComponents(label, components);
+        for (const TDF_Label &component : components) {
+            Handle(TDataStd_Name) own;
+            Handle(TDataStd_Name) referred;
+            TDF_Label target;
+            const bool isNumbered = component.FindAttribute(TDataStd_Name::GetID(), own) && isNumber(own->Get());
+            if (isNumbered && XCAFDoc_ShapeTool::GetReferredShape(component, target) &&
+                target.FindAttribute(TDataStd_Name::GetID(), referred))
+                own->Set(referred->Get());
+        }
+    }
+}
+
+QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+             QStringList &)
+{
+    STEPCAFControl_Controller::Init();
+    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    STEPCAFControl_Reader reader;
+    reader.SetColorMode(Standard_True);
+    reader.SetNameMode(Standard_True);
+    reader.SetLayerMode(Standard_True);
+    reader.SetSHUOMode(Standard_True);
+    reader.SetMatMode(Standard_True);
+    QFile file(job.fileToRead());
+    const uchar *bytes = file.open(QIODevice::ReadOnly) ? file.map(0, file.size()) : nullptr;
+    if (!bytes)
+        return file.errorString();
+    const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
+    Instances instances(text);
+    (void)instances.fault();
+    Message_ProgressScope scope(progress, "STEP", 10);
+    Source source(text.constData(), std::size_t(instances.end() - text.constData()), scope.Next(2));
+    std::istream stream(&source);
+    if (reader.ChangeReader().ReadStream(path(job.fileToRead()).ToCString(), stream) != IFSelect_RetDone)
+        return damaged();
+    olScene::Document target = document;
+    if (!reader.Transfer(target, scope.Next(8)))
+        return reason("its content cannot be taken over");
+    nameNumberedInstances(document);
+    return {};
+}
+
+/// The writer falls over an instance with a look of its own whose part has none.
+void colorBareParts(const olScene::Document &document)
+{
+    const Handle(XCAFDoc_ColorTool) colors = XCAFDoc_DocumentTool::ColorTool(document->Main());
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
+    for (const TDF_Label &label : labels) {
+        if (!XCAFDoc_ShapeTool::IsAssembly(label) && !colors->IsSet(label, XCAFDoc_ColorSurf) &&
+            !colors->IsSet(label, XCAFDoc_ColorGen))
+            colors->SetColor(label, olPlainLook::bare(), XCAFDoc_ColorSurf);
+    }
+}
+
+/// Of a document of its own, whose looks it completes.
+bool write(const olScene::Document &document, const QString &file, QStringList &)
+{
+    colorBareParts(document);
+    STEPCAFControl_Controller::Init();
+    Interface_Static::SetCVal("xstep.cascade.unit", "MM");
+    Interface_Static::SetCVal("write.step.unit", "MM");
+    STEPCAFControl_Writer writer;
+    return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
+}
+
+} // namespace
+
+olModelFormat olStepFormat()
+{
+    return {"STEP",
+            "STEP",
+            {QStringLiteral("step"), QStringLiteral("stp")},
+            olModelFormat::Surfaces | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure,
+            check,
+            read,
+            write};
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Exchange/olImportJob.h"
+#include "Model/olScene.h"
+
+#include <QStringList>
+
+class Message_ProgressRange;
+
+/// Reads a file with assimp, which knows many formats of meshes, into an empty document.
+namespace olAssimpReader
+{
+
+/// What a format leaves open.
+struct Manner {
+    /// The length of the file's unit in millimetres.
+    double unit = 1.0;
+
+    /// Whether y goes up in it; else z does.
+    bool isYUp = false;
+
+    /// Whether its scene may have one node at the top that is a part or group like others.
+    bool hasOwnRoot = false;
+
+    /// Whether its colours are proportional to light; else they are as screens show them.
+    bool isLinear = false;
+};
+
+/// Returns why it could not, in half a sentence; empty on success.
+[[nodiscard]] QString read(const olImportJob &job, const Manner &manner, const olScene::Document &document,
+                           const Message_ProgressRange &progress, QStringList &remarks);
+
+} // namespace olAssimpReader

@@ -1,0 +1,376 @@
+#include "Exchange/olReadModel.h"
+
+#include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/olImportFileCheck.h"
+#include "Exchange/olModelFormat.h"
+#include "Exchange/olPartChanges.h"
+#include "Exchange/olTextures.h"
+#include "Model/olDocumentCopy.h"
+#include "Model/olLibraryMessages.h"
+#include "Model/olMeshTools.h"
+#include "Model/olPlainLook.h"
+#include "Model/olTriangles.h"
+
+#include <BRepBndLib.hxx>
+#include <BRepTools_ReShape.hxx>
+#include <BRep_Builder.hxx>
+#include <BRep_Tool.hxx>
+#include <Bnd_Box.hxx>
+#include <Message_ProgressScope.hxx>
+#include <Poly_Triangulation.hxx>
+#include <Quantity_ColorRGBA.hxx>
+#include <Standard_Failure.hxx>
+#include <TDF_LabelIndexedMap.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDocStd_Document.hxx>
+#include <TopExp.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopLoc_Location.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_LayerTool.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <XCAFDoc_VisMaterialTool.hxx>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <sstream>
+#include <vector>
+
+namespace
+{
+
+QString translated(const char *text) { return QCoreApplication::translate("olImport", text); }
+
+/// Applies the options of the import to what the reader left.
+class Treatment
+{
+public:
+    Treatment(const olImportJob &job, const olScene::Document &raw, QStringList &remarks)
+        : m_job(job),
+          m_raw(raw),
+          m_remarks(remarks),
+          m_colors(XCAFDoc_DocumentTool::ColorTool(raw->Main())),
+          m_layers(XCAFDoc_DocumentTool::LayerTool(raw->Main())),
+          m_shapes(XCAFDoc_DocumentTool::ShapeTool(raw->Main()))
+    {
+    }
+
+    [[nodiscard]] olScene::Document run(const Message_ProgressRange &progress)
+    {
+        Message_ProgressScope scope(progress, "Parts", partCount());
+        olDocumentCopy copy;
+        copy.keepEmptyGroups = !m_job.options.removeEmptyGroups;
+        copy.isWanted = [this](const TDF_Label &instance) {
+            return !XCAFDoc_ShapeTool::IsReference(instance) || m_job.options.importInvisibleInstances ||
+                   m_colors->IsVisible(instance);
+        };
+        copy.changePart = [this, &scope](const TDF_Label &label, olChangedPart &part) {
+            if (scope.UserBreak()) {
+                part.shape.Nullify();
+                return;
+            }
+            change(label, part, scope.Next());
+        };
+        return copy.copy(m_raw);
+    }
+
+private:
+    [[nodiscard]] int partCount() const
+    {
+        TDF_LabelSequence labels;
+        m_shapes->GetShapes(labels);
+        return qMax(1, labels.Length());
+    }
+
+    [[nodiscard]] bool isVisible(const TDF_Label &label) const
+    {
+        if (!m_colors->IsVisible(label))
+            return false;
+        TDF_LabelSequence layers;
+        m_layers->GetLayers(label, layers);
+        return std::all_of(layers.begin(), layers.end(),
+                           [this](const TDF_Label &layer) { return m_layers->IsVisible(layer); });
+    }
+
+    void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
+    {
+        const olImportRecord &options = m_job.options;
+        const bool visible = isVisible(label);
+        olPartChanges::keepOnly(part, {options.importSurfaces && (visible || options.importInvisibleSurfaces),
+                                       options.importMeshes && (visible || options.importInvisibleMeshes),
+                                       options.importCurves && (visible || options.importInvisibleCurves)});
+        if (part.shape.IsNull())
+            return;
+        if (m_job.verify && !olPartChanges::isSound(part.shape))
+            m_remarks << translated("%1 has faulty surfaces.").arg(olShownNameOf(label));
+        if (m_job.optimize)
+            olPartChanges::repair(part);
+        if (options.stitching)
+            stitch(label, part);
+        if (m_job.verify)
+            dropDegenerate(part.shape);
+        if (options.mergeGeometries)
+            olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
+        if (options.unifySurfaceNormals)
+            olPartChanges::unifyNormals(part);
+        olTriangles::mesh(part.shape, fineness(), progress);
+        sharpen(part.shape);
+        const int missing = facesWithoutTriangles(part.shape);
+        if (missing > 0)
+            m_remarks << translated("%1 of the faces of %2 cannot be drawn.").arg(missing).arg(olShownNameOf(label));
+        if (!options.keepSurfaceData)
+            olPartChanges::dropSurfaces(part);
+    }
+
+    /// Sewing may rebuild faces so that their colours would have nowhere to go; then the part stays as it was read.
+    void stitch(const TDF_Label &label, olChangedPart &part) const
+    {
+        olChangedPart stitched = part;
+        const double wanted = m_job.options.stitchingTolerance;
+        const double used = olPartChanges::stitch(stitched, wanted, [this](const TopoDS_Shape &shape) {
+            olTriangles::mesh(shape, fineness());
+            return olTriangles::count(shape);
+        });
+        if (used < wanted)
+            m_remarks << (used > 0 ? translated("Gaps of %1 up to %2 mm are closed; %3 would distort it.")
+                                         .arg(olShownNameOf(label))
+                                         .arg(used)
+                                         .arg(wanted)
+                                   : translated("The faces of %1 are not joined; that would distort it.")
+                                         .arg(olShownNameOf(label)));
+        TopTools_IndexedMapOfShape pieces;
+        TopExp::MapShapes(stitched.shape, pieces);
+        TDF_LabelSequence labels;
+        XCAFDoc_ShapeTool::GetSubShapes(label, labels);
+        for (const TDF_Label &piece : labels) {
+            if (!pieces.Contains(stitched.follow(XCAFDoc_ShapeTool::GetShape(piece))))
+                return;
+        }
+        part = stitched;
+    }
+
+    /// Without tessellation values of its own an import goes by the usual ones.
+    [[nodiscard]] olTriangles::Fineness fineness() const
+    {
+        if (!m_job.options.tessellation)
+            return {};
+        return {m_job.options.chordDeviation, m_job.options.normalTolerance};
+    }
+
+    /// Meshes that say nothing of their normals are smooth where they are nearly so.
+    static void sharpen(const TopoDS_Shape &shape)
+    {
+        constexpr double creaseAngle = 30.0 * 0.017453292519943295;
+        eachMesh(shape, [](const TopoDS_Face &face, const Handle(Poly_Triangulation) & mesh) {
+            if (!mesh->HasNormals())
+                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, creaseAngle));
+        });
+    }
+
+    static int facesWithoutTriangles(const TopoDS_Shape &shape)
+    {
+        int missing = 0;
+        for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
+            TopLoc_Location location;
+            if (BRep_Tool::Triangulation(TopoDS::Face(faces.Current()), location).IsNull())
+                ++missing;
+        }
+        return missing;
+    }
+
+    /// Triangles that have no surface.
+    template <class Visitor> static void eachMesh(const TopoDS_Shape &shape, const Visitor &visit)
+    {
+        for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
+            const TopoDS_Face &face = TopoDS::Face(faces.Current());
+            TopLoc_Location location;
+            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+            if (!mesh.IsNull() && BRep_Tool::Surface(face, location).IsNull())
+                visit(face, mesh);
+        }
+    }
+
+    static void dropDegenerate(const TopoDS_Shape &shape)
+    {
+        eachMesh(shape, [](const TopoDS_Face &face, const Handle(Poly_Triangulation) & mesh) {
+            const Handle(Poly_Triangulation) cleaned = olMeshTools::withoutDegenerate(mesh);
+            if (!cleaned.IsNull() && cleaned != mesh)
+                BRep_Builder().UpdateFace(face, cleaned);
+        });
+    }
+
+    [[nodiscard]] std::string lookOf(const TopoDS_Shape &face) const
+    {
+        std::ostringstream look;
+        for (const XCAFDoc_ColorType kind : {XCAFDoc_ColorGen, XCAFDoc_ColorSurf}) {
+            Quantity_ColorRGBA color;
+            if (m_colors->GetColor(face, kind, color))
+                look << color.GetRGB().Red() << ' ' << color.GetRGB().Green() << ' ' << color.GetRGB().Blue() << ' '
+                     << color.Alpha();
+            look << ';';
+        }
+        const Handle(XCAFDoc_VisMaterialTool) materials = XCAFDoc_DocumentTool::VisMaterialTool(m_raw->Main());
+        look << materials->GetShapeMaterial(face).get();
+        return look.str();
+    }
+
+    const olImportJob &m_job;
+    olScene::Document m_raw;
+    QStringList &m_remarks;
+    Handle(XCAFDoc_ColorTool) m_colors;
+    Handle(XCAFDoc_LayerTool) m_layers;
+    Handle(XCAFDoc_ShapeTool) m_shapes;
+};
+
+Bnd_Box boundsOf(const olScene::Document &document)
+{
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
+    Bnd_Box box;
+    for (const TDF_Label &label : labels)
+        BRepBndLib::Add(XCAFDoc_ShapeTool::GetShape(label), box);
+    box.SetGap(0);
+    return box;
+}
+
+/// Whether the triangles that were read can be worked with.
+bool isWhole(const olScene::Document &document)
+{
+    TDF_LabelSequence labels;
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(labels);
+    TopLoc_Location location;
+    for (const TDF_Label &label : labels) {
+        for (TopExp_Explorer faces(XCAFDoc_ShapeTool::GetShape(label), TopAbs_FACE); faces.More(); faces.Next()) {
+            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(TopoDS::Face(faces.Current()), location);
+            if (!mesh.IsNull() && !olMeshTools::isWhole(mesh))
+                return false;
+        }
+    }
+    return true;
+}
+
+/// How often parts stand in the document, however they are nested. A few lines can say what no machine can draw.
+class Instances
+{
+public:
+    explicit Instances(const olScene::Document &document)
+    {
+        TDF_LabelSequence labels;
+        XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
+        for (const TDF_Label &label : labels)
+            m_count += countOf(label);
+    }
+
+    [[nodiscard]] double count() const { return m_count; }
+
+private:
+    double countOf(const TDF_Label &label)
+    {
+        TDF_Label referred;
+        if (XCAFDoc_ShapeTool::GetReferredShape(label, referred))
+            return countOf(referred);
+        if (!XCAFDoc_ShapeTool::IsAssembly(label))
+            return 1;
+        if (const int known = m_known.FindIndex(label))
+            return m_counts[std::size_t(known - 1)];
+        // What stands in itself would be counted for ever.
+        const int index = m_known.Add(label);
+        m_counts.push_back(std::numeric_limits<double>::infinity());
+        TDF_LabelSequence components;
+        XCAFDoc_ShapeTool::GetComponents(label, components);
+        double count = 0;
+        for (const TDF_Label &component : components)
+            count += countOf(component);
+        m_counts[std::size_t(index - 1)] = count;
+        return count;
+    }
+
+    TDF_LabelIndexedMap m_known;
+    std::vector<double> m_counts;
+    double m_count = 0;
+};
+
+bool hasGeometry(const olScene::Document &document) { return !boundsOf(document).IsVoid(); }
+
+/// The centre goes to the origin, and what stands on the ground begins at height 0.
+olScene::Document placed(const olScene::Document &document, const olImportJob &job)
+{
+    if (!job.centerInOrigin && !job.putOnGround)
+        return document;
+    const Bnd_Box box = boundsOf(document);
+    const gp_Pnt low = box.CornerMin();
+    const gp_Pnt high = box.CornerMax();
+    olDocumentCopy copy;
+    if (job.centerInOrigin)
+        copy.offset = gp_Vec(-(low.X() + high.X()) / 2, -(low.Y() + high.Y()) / 2, -(low.Z() + high.Z()) / 2);
+    if (job.putOnGround)
+        copy.offset.SetZ(-low.Z());
+    return copy.offset.Magnitude() > 0 ? copy.copy(document) : document;
+}
+
+QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImportResult &result,
+                     const Message_ProgressRange &progress)
+{
+    constexpr double readingShare = 60;
+    constexpr double treatmentShare = 40;
+    Message_ProgressScope scope(progress, "Import", readingShare + treatmentShare);
+    const olScene::Document raw = olScene::newDocument();
+    const QString fault = format.read(job, raw, scope.Next(readingShare), result.remarks);
+    result.isCancelled = scope.UserBreak();
+    if (!fault.isEmpty() || result.isCancelled)
+        return fault;
+    constexpr double mostInstances = 1e6;
+    if (Instances(raw).count() > mostInstances)
+        return translated("it has more than a million parts");
+    if (!isWhole(raw))
+        return translated("the file is damaged: it has triangles without their points, or points beyond all measure");
+    if (!hasGeometry(raw))
+        return translated("there is no geometry in it");
+    olFindTextures(job, raw, result.remarks);
+    olPlainLook::addTo(raw);
+
+    const olScene::Document treated = Treatment(job, raw, result.remarks).run(scope.Next(treatmentShare));
+    result.isCancelled = scope.UserBreak();
+    if (result.isCancelled)
+        return {};
+    if (!hasGeometry(treated))
+        return translated("the import options leave nothing of it");
+    result.document = placed(treated, job);
+    return {};
+}
+
+/// What went wrong, in half a sentence; empty on success.
+QString attempt(const olImportJob &job, const olModelFormat &format, olImportResult &result,
+                const Message_ProgressRange &progress)
+{
+    try {
+        const QString fault = olImportFileCheck(job.file, format, result.remarks);
+        return fault.isEmpty() ? readAndTreat(job, format, result, progress) : fault;
+    } catch (const Standard_Failure &failure) {
+        return translated("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+    } catch (const std::bad_alloc &) {
+        return translated("there is not enough memory for it");
+    } catch (const std::exception &failure) {
+        return translated("the reader failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+    }
+}
+
+} // namespace
+
+olImportResult olReadModel(const olImportJob &job, const Message_ProgressRange &progress)
+{
+    olSilenceLibrary();
+    olImportResult result;
+    const olModelFormat *format = olModelFormat::ofFile(job.file);
+    result.error = format ? attempt(job, *format, result, progress) : olFormatTools::damaged();
+    if (!result.isGood())
+        result.document.Nullify();
+    return result;
+}

@@ -1,0 +1,94 @@
+"""What manual pages and completions of the shells tell of both programs."""
+
+import os
+import pathlib
+import pty
+import re
+import select
+import shutil
+import subprocess
+import unittest
+
+import tool_test
+
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
+COMPLETIONS = SOURCE / "tools/completion"
+# What is typed before the tabulator, and the words that stand on the line after it.
+TYPED = [("--ed", ["--edition"]), ("--edition de", ["--edition", "design"]), ("list --ma", ["list", "--markdown"]),
+         ("reset Camera", ["reset", "Camera fov"]),
+         ("--edition design set Camera", ["--edition", "design", "set", "Camera fov"])]
+
+
+class Shells(tool_test.ToolTest):
+    def setUp(self):
+        super().setUp()
+        self.folder_of_programs = pathlib.Path(self.program).parent
+        self.environment["PATH"] = f"{self.folder_of_programs}:{os.environ['PATH']}"
+
+    def test_every_option_and_command_is_told_of_everywhere(self):
+        for program in ("orlo", "orlo-prefs"):
+            listed = subprocess.run([self.folder_of_programs / program, "--help"], env=self.environment, check=True,
+                                    capture_output=True, encoding="utf-8").stdout
+            words = set(re.findall(r"(?m)^ .*?(--[a-z-]+)|^  ([a-z]+) ", listed))
+            words = {option or command for option, command in words} - {"--help-all", "model"}
+            words |= {"--json", "--markdown", "--all", "--dry-run", "--site", "--changed", "--module"} if program == "orlo-prefs" else set()
+            self.assertIn("--edition", words)
+            for file, dashes in ((SOURCE / f"docs/{program}.1", "--"), (COMPLETIONS / program, "--"),
+                                 (COMPLETIONS / f"_{program}", "--"), (COMPLETIONS / f"{program}.fish", "-l ")):
+                text = file.read_text().replace("\\-", "-")
+                for word in words:
+                    with self.subTest(file=file.name, word=word):
+                        self.assertRegex(text, rf"(?<![\w-]){word.replace('--', dashes)}(?![\w-])")
+
+    @unittest.skipUnless(shutil.which("groff"), "needs groff")
+    def test_manual_pages_are_typeset_without_a_warning(self):
+        for page in sorted(SOURCE.glob("docs/*.1")):
+            result = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", page], capture_output=True,
+                                    encoding="utf-8", check=False)
+            self.assertEqual((result.stderr, result.returncode), ("", 0))
+
+    @unittest.skipUnless(shutil.which("fish"), "needs fish")
+    def test_fish_completes_commands_options_and_keys(self):
+        for typed, words in TYPED:
+            script = f"source {COMPLETIONS}/orlo-prefs.fish; complete -C 'orlo-prefs {typed}'"
+            result = subprocess.run(["fish", "--no-config", "-c", script], env=self.environment, capture_output=True,
+                                    encoding="utf-8", check=False)
+            with self.subTest(typed):
+                offered = [line.split("\t")[0] for line in result.stdout.splitlines()]
+                self.assertEqual(offered, words[-1:], result.stderr)
+
+    @unittest.skipUnless(shutil.which("zsh"), "needs zsh")
+    def test_zsh_completes_commands_options_and_keys(self):
+        for typed, words in TYPED:
+            with self.subTest(typed):
+                self.assertEqual(self.completed_by_zsh(f"orlo-prefs {typed}"), ["orlo-prefs", *words])
+
+    def completed_by_zsh(self, typed):
+        """Types into a shell as a person does, and has it print what then stands on its line."""
+        process, terminal = pty.fork()
+        if process == 0:
+            os.execvpe("zsh", ["zsh", "-f", "-i"], {**self.environment, "TERM": "dumb"})
+        try:
+            start = f"fpath=({COMPLETIONS} $fpath); autoload -U compinit; compinit -u -D; print READ''Y\n"
+            os.write(terminal, start.encode())
+            self.read(terminal, "READY")
+            # Home, and then a command before what was typed.
+            os.write(terminal, f"{typed}\t\x01print -rl -- WORD''S: \x05 EN''D\n".encode())
+            printed = self.read(terminal, "\nEND").replace("\r", "")
+            return printed[printed.index("WORDS:"):printed.index("\nEND")].split("\n")[1:]
+        finally:
+            os.close(terminal)
+            os.waitpid(process, 0)
+
+    @staticmethod
+    def read(terminal, until):
+        printed = ""
+        while until not in printed.replace("\r", ""):
+            if not select.select([terminal], [], [], tool_test.SECONDS)[0]:
+                raise AssertionError(f"no {until} in {printed}")
+            printed += os.read(terminal, 4096).decode()
+        return printed
+
+
+if __name__ == "__main__":
+    tool_test.main()

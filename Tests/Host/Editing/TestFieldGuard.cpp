@@ -1,0 +1,48 @@
+#include "Editing/olFieldGuard.h"
+#include "Session/olPluginLoader.h"
+#include "State/olHostState.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTest>
+#include <gtest/gtest.h>
+
+TEST(FieldGuard, WhatTheHostRefusesIsMarkedAtItsFieldUntilItIsFollowed)
+{
+    olPluginLoader plugin;
+    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
+    const auto *module = olPreferencesRegistry::the().find(QStringLiteral("WebInterface"));
+    const auto fieldOf = [module](const char *key) {
+        for (QSpinBox *box : module->page()->findChildren<QSpinBox *>()) {
+            if (box->property("olSettingKeys").toStringList().contains(QLatin1String(key)))
+                return box->findChild<QLineEdit *>();
+        }
+        return static_cast<QLineEdit *>(nullptr);
+    };
+    QLineEdit *port = fieldOf("WebInterface port");
+    ASSERT_NE(port, nullptr);
+    const auto told = [](const QLineEdit *field) {
+        const auto *mark = field->findChild<QAction *>(QStringLiteral("refused"));
+        return mark ? mark->toolTip() : QString();
+    };
+    const QString reason = QStringLiteral("The web server does not listen on port 70000.");
+    olHostState &host = olHostState::the();
+    host.refuse("WebInterface port", reason);
+    {
+        const olFieldGuard guard(*module);
+        EXPECT_EQ(told(port), reason);
+        EXPECT_EQ(told(fieldOf("WebInterface ssl port")), QString());
+        host.refuse("WebInterface port", {});
+        EXPECT_EQ(told(port), QString());
+        host.refuse("WebInterface port", reason);
+        EXPECT_EQ(told(port), reason);
+        QTest::keyClicks(port, QStringLiteral("1"));
+        EXPECT_EQ(told(port), QString()) << "it is being mended";
+        host.refuse("WebInterface port", reason);
+    }
+    EXPECT_EQ(told(port), QString());
+    host.refuse("WebInterface port", {});
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <OSGNodePtr.h>
+
+namespace osg
+{
+
+class Node
+{
+public:
+    static NodePtr create();
+};
+
+} // namespace osg
