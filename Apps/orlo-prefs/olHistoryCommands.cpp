@@ -109,6 +109,10 @@ void olPrefsCommands::undo(olPrefsTool &tool)
         changes.push_back(
             {change.key.second, undo.value(change.key, change.before), undo.value(change.key, change.after)});
     if (!isDryRun) {
+        for (const olPreferencesImport::Change &change : changes) {
+            if (const auto warning = tool.session().warning(change.key, change.after))
+                tool.requireConsent(change.key, *warning);
+        }
         const QString error = undo.save();
         if (!error.isEmpty())
             throw olToolError(error);

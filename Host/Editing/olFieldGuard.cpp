@@ -105,15 +105,16 @@ void olFieldGuard::watch(QLineEdit &field)
     connect(&field, &QObject::destroyed, this, [this, gone = &field] { m_fields.remove(gone); });
     connect(&field, &QLineEdit::inputRejected, this, [this, &field] { markExpectation(field); });
     connect(&field, &QLineEdit::textEdited, this, [this, &field](const QString &text) { edited(field, text); });
+    // A spin box takes the keys and hands them on; what it shows by itself it does not tell.
+    if (QWidget *box = spinBoxOf(field))
+        return box->installEventFilter(this);
+    field.installEventFilter(this);
     connect(&field, &QLineEdit::textChanged, this, [this, &field](const QString &text) {
         Field &known = m_fields[&field];
         known.isTyped = std::exchange(known.isTold, false);
         if (!known.isTyped)
             known.before = text;
     });
-    // A spin box takes the keys and hands them on.
-    QWidget *receiver = spinBoxOf(field);
-    (receiver ? receiver : &field)->installEventFilter(this);
 }
 
 bool olFieldGuard::eventFilter(QObject *watched, QEvent *event)
@@ -125,6 +126,8 @@ bool olFieldGuard::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (event->type() == QEvent::KeyPress)
         return takesKey(*field, static_cast<QKeyEvent *>(event)->text());
+    if (event->type() == QEvent::FocusIn && spinBoxOf(*field))
+        m_fields[field].before = field->text();
     if (event->type() == QEvent::FocusOut && isLeaving(*static_cast<QFocusEvent *>(event)))
         restore(*field);
     return false;
@@ -160,6 +163,8 @@ void olFieldGuard::refuse(QLineEdit &field)
 {
     Field &known = m_fields[&field];
     field.setText(known.before);
+    if (QAbstractSpinBox *box = spinBoxOf(field))
+        box->interpretText();
     field.selectAll();
     known.refused.start();
     markExpectation(field);
