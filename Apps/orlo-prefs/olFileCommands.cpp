@@ -58,12 +58,6 @@ void take(olPrefsTool &tool, const olPreferencesFile::Contents &contents, bool i
     tool.save();
 }
 
-void requireSuccess(const QString &error)
-{
-    if (!error.isEmpty())
-        throw olToolError(error);
-}
-
 void requireModule(const QString &name, const olKnownSettings &settings)
 {
     QStringList modules;
@@ -103,10 +97,9 @@ void applyProfile(olPrefsTool &tool, const olProfiles &profiles, QStringList arg
     const bool isDryRun = arguments.removeOne(QStringLiteral("--dry-run"));
     if (arguments.size() != 1)
         tool.failUsage();
-    QString error;
-    const QString file = profiles.fileOf(arguments.first(), error);
-    requireSuccess(error);
-    take(tool, read(file), isDryRun);
+    const olResult<QString> file = profiles.fileOf(arguments.first());
+    olPrefsTool::requireSuccess(file);
+    take(tool, read(*file), isDryRun);
 }
 
 } // namespace
@@ -144,12 +137,12 @@ void olPrefsCommands::profile(olPrefsTool &tool)
     if (action == QLatin1String("apply"))
         return applyProfile(tool, profiles, arguments);
     if (action == QLatin1String("delete") && arguments.size() == 1)
-        return requireSuccess(profiles.remove(arguments.first()));
+        return olPrefsTool::requireSuccess(profiles.remove(arguments.first()));
     const bool isAll = arguments.size() == 1;
     const bool isChanged = arguments.size() == 2 && which == QLatin1String("--changed");
     const bool isModules = arguments.size() == 3 && which == QLatin1String("--module");
     if (action != QLatin1String("save") || !(isAll || isChanged || isModules))
         tool.failUsage();
     tool.open(olStoreUse::LookAt);
-    requireSuccess(profiles.save(arguments.first(), valuesToKeep(arguments.mid(1))));
+    olPrefsTool::requireSuccess(profiles.save(arguments.first(), valuesToKeep(arguments.mid(1))));
 }

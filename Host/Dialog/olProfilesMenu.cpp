@@ -44,11 +44,11 @@ void olProfilesMenu::saveAs(const olSettingValues &settings)
         QInputDialog::getText(parentWidget(), tr("Save Profile"), tr("&Name:"), QLineEdit::Normal, {}, &isGiven);
     if (!isGiven || !isReplaceAgreed(name))
         return;
-    const QString error = m_profiles.save(name, settings);
-    if (error.isEmpty())
+    const olResult<> saved = m_profiles.save(name, settings);
+    if (saved.isOk())
         emit done(tr("The settings in force were saved as profile \"%1\".").arg(name));
     else
-        emit failed(error);
+        emit failed(saved.error());
 }
 
 bool olProfilesMenu::isReplaceAgreed(const QString &name)
@@ -67,9 +67,9 @@ void olProfilesMenu::remove(const QString &name)
     if (QMessageBox::question(parentWidget(), tr("Delete Profile"), tr("Delete the profile \"%1\"?").arg(name)) !=
         QMessageBox::Yes)
         return;
-    const QString error = m_profiles.remove(name);
-    if (error.isEmpty())
+    const olResult<> removed = m_profiles.remove(name);
+    if (removed.isOk())
         emit done(tr("The profile \"%1\" was deleted.").arg(name));
     else
-        emit failed(error);
+        emit failed(removed.error());
 }

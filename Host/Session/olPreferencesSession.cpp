@@ -8,6 +8,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
+#include "olHostSettings.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -23,7 +24,7 @@ namespace
 
 using Values = olPreferencesStore::Values;
 
-constexpr auto languageKey = "MainWindow user language";
+const std::string languageKey = olHostSettings::language.key;
 
 // Somebody who has just changed something elsewhere waits for it.
 constexpr int followMilliseconds = 400;
@@ -140,8 +141,8 @@ olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>(
 
 void setDisplayLanguage()
 {
-    const int *language = boost::any_cast<int>(&record().get(languageKey));
-    olHostState::the().displayLanguage = language && *language >= 1 && *language <= 3 ? *language : 0;
+    const int language = olHostSettings::language.value();
+    olHostState::the().displayLanguage = language >= 1 && language <= 3 ? language : 0;
 }
 
 /// Calls with each module that has the setting.

@@ -58,40 +58,40 @@ std::vector<olProfiles::Profile> olProfiles::list() const
 
 QString olProfiles::ownFile(const QString &name) const { return QDir(m_own).filePath(name + suffix); }
 
-QString olProfiles::noProfile(const QString &name) const
+olFailure olProfiles::noProfile(const QString &name) const
 {
     const QString wrong = fault(name);
-    return wrong.isEmpty() ? translated("There is no profile \"%1\".").arg(name) : wrong;
+    return {wrong.isEmpty() ? translated("There is no profile \"%1\".").arg(name) : wrong};
 }
 
-QString olProfiles::fileOf(const QString &name, QString &error) const
+olResult<QString> olProfiles::fileOf(const QString &name) const
 {
     for (const Profile &profile : list()) {
         if (profile.name == name)
             return profile.file;
     }
-    error = noProfile(name);
-    return {};
+    return noProfile(name);
 }
 
-QString olProfiles::save(const QString &name, const olSettingValues &settings) const
+olResult<> olProfiles::save(const QString &name, const olSettingValues &settings) const
 {
     const QString wrong = fault(name);
     if (!wrong.isEmpty())
-        return wrong;
+        return olFailure{wrong};
     if (!olStoreFile::makeFolder(m_own))
-        return translated("Cannot make the folder %1.").arg(m_own);
-    return olPreferencesFile::write(ownFile(name), settings).error();
+        return olFailure{translated("Cannot make the folder %1.").arg(m_own)};
+    return olPreferencesFile::write(ownFile(name), settings);
 }
 
-QString olProfiles::remove(const QString &name) const
+olResult<> olProfiles::remove(const QString &name) const
 {
     QFile file(ownFile(name));
     if (!fault(name).isEmpty() || !file.exists()) {
-        QString error;
-        const bool isSites = !fileOf(name, error).isEmpty();
-        return isSites ? translated("The profile \"%1\" is the site's and cannot be deleted.").arg(name) : error;
+        if (fileOf(name).isOk())
+            return olFailure{translated("The profile \"%1\" is the site's and cannot be deleted.").arg(name)};
+        return noProfile(name);
     }
-    return file.remove() ? QString()
-                         : translated("Cannot delete the profile %1: %2.").arg(file.fileName(), file.errorString());
+    if (file.remove())
+        return {};
+    return olFailure{translated("Cannot delete the profile %1: %2.").arg(file.fileName(), file.errorString())};
 }

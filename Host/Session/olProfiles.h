@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Session/olPreferencesSession.h"
+#include "State/olResult.h"
 #include "olHostExport.h"
 
 #include <QString>
@@ -24,17 +25,16 @@ public:
     /// By name. One of the person's stands for the site's of the same name.
     [[nodiscard]] std::vector<Profile> list() const;
 
-    /// The file of a profile; empty, with one sentence that says why, where there is none of that name.
-    [[nodiscard]] QString fileOf(const QString &name, QString &error) const;
+    /// The file of a profile.
+    [[nodiscard]] olResult<QString> fileOf(const QString &name) const;
 
-    /// Keeps these settings under the name, in place of what the person kept under it before. These return an empty
-    /// text or one sentence that says why not.
-    [[nodiscard]] QString save(const QString &name, const olSettingValues &settings) const;
-    [[nodiscard]] QString remove(const QString &name) const;
+    /// Keeps these settings under the name, in place of what the person kept under it before.
+    olResult<> save(const QString &name, const olSettingValues &settings) const;
+    olResult<> remove(const QString &name) const;
 
 private:
     [[nodiscard]] QString ownFile(const QString &name) const;
-    [[nodiscard]] QString noProfile(const QString &name) const;
+    [[nodiscard]] olFailure noProfile(const QString &name) const;
 
     QString m_own;
     QStringList m_sites;

@@ -1,12 +1,12 @@
 #include "WebServer/olWebServer.h"
 
 #include "State/olHostState.h"
-#include "State/olPreferencesRegistry.h"
 #include "Store/olPreferencesStore.h"
 #include "Utilities/olLog.h"
 #include "WebServer/olWebAccess.h"
 #include "WebServer/olWebPages.h"
 #include "WebServer/olWebPort.h"
+#include "olHostSettings.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,17 +16,9 @@
 namespace
 {
 
-constexpr auto portKey = "WebInterface port";
-constexpr auto securePortKey = "WebInterface ssl port";
 constexpr qint64 maxFileSize = 1 << 20;
 
 QString translated(const char *text) { return QCoreApplication::translate("olWebServer", text); }
-
-template <class T> T setting(const char *key, T fallback)
-{
-    const T *value = boost::any_cast<T>(&olPreferencesRegistry::the().record().get(key));
-    return value ? *value : fallback;
-}
 
 /// Reads a file of the certificate. Returns why it cannot be used; empty where it can.
 QString read(QFile &file, bool isSecret, QByteArray &content)
@@ -103,17 +95,17 @@ void olWebServer::stateChanged(const olHostValueBase &value)
 void olWebServer::start()
 {
     stop();
-    // What cannot be read restricts rather than opens.
-    const bool localhostOnly = setting("WebInterface localhost only", true);
+    using namespace olHostSettings;
+    const bool localhostOnly = webLocalhostOnly.value();
     m_access = std::make_unique<olWebAccess>();
     if (localhostOnly)
         m_access->allowLoopbackNamesOnly();
-    if (setting("WebInterface use white list", true))
-        m_access->allowOnly(setting("WebInterface white list", std::string()));
+    if (webUseWhiteList.value())
+        m_access->allowOnly(webWhiteList.value());
 
-    m_plain = open(portKey, 8888, localhostOnly, std::nullopt);
+    m_plain = open(webPort, localhostOnly, std::nullopt);
     if (const auto certificate = installedCertificate())
-        m_secure = open(securePortKey, 8444, localhostOnly, certificate);
+        m_secure = open(webSslPort, localhostOnly, certificate);
     olHostState::the().webInterfaceRunning = m_plain || m_secure;
 }
 
@@ -122,15 +114,15 @@ void olWebServer::stop()
     m_plain.reset();
     m_secure.reset();
     m_access.reset();
-    for (const char *key : {portKey, securePortKey})
-        olHostState::the().refuse(key, {});
+    for (const auto &setting : {olHostSettings::webPort, olHostSettings::webSslPort})
+        olHostState::the().refuse(setting.key, {});
     olHostState::the().webInterfaceRunning = false;
 }
 
-std::unique_ptr<olWebPort> olWebServer::open(const char *key, int standard, bool loopbackOnly,
+std::unique_ptr<olWebPort> olWebServer::open(const olHostSetting<int> &setting, bool loopbackOnly,
                                              const std::optional<olWebCertificate> &certificate)
 {
-    const int port = setting(key, standard);
+    const int port = setting.value();
     if (port == 0)
         return nullptr;
     auto opened = std::make_unique<olWebPort>([this](const olWebRequest &request) { return answer(request); });
@@ -142,7 +134,7 @@ std::unique_ptr<olWebPort> olWebServer::open(const char *key, int standard, bool
                                       : translated("port %1").arg(port);
     const QString sentence = translated("The web server does not listen on %1: %2").arg(place, reason);
     olLog::error(sentence);
-    olHostState::the().refuse(key, sentence);
+    olHostState::the().refuse(setting.key, sentence);
     return nullptr;
 }
 

@@ -8,6 +8,7 @@
 
 class olWebAccess;
 class olWebPort;
+template <class T> struct olHostSetting;
 struct olWebAnswer;
 struct olWebCertificate;
 struct olWebRequest;
@@ -35,7 +36,7 @@ private:
     /// Closes the ports and every connection before it returns.
     void stop();
 
-    std::unique_ptr<olWebPort> open(const char *key, int standard, bool loopbackOnly,
+    std::unique_ptr<olWebPort> open(const olHostSetting<int> &setting, bool loopbackOnly,
                                     const std::optional<olWebCertificate> &certificate);
     [[nodiscard]] olWebAnswer answer(const olWebRequest &request) const;
 

@@ -306,7 +306,7 @@ QByteArray PageText::name(const QWidget &page, const QWidget &widget)
         if (control.widget == &widget)
             return control.path().toUtf8();
     }
-    const QString text = ownText(widget);
+    const QString text = olPageIndex::withoutMnemonic(ownText(widget));
     return widget.metaObject()->className() + (text.isEmpty() ? QByteArray() : ' ' + quoted(text));
 }
 

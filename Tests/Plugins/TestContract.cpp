@@ -2,6 +2,7 @@
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
 #include "Support/PluginTest.h"
+#include "olHostSettings.h"
 
 #include <QMetaObject>
 #include <QVariant>
@@ -81,6 +82,21 @@ TEST_P(Contract, AKeyHasOneOwner)
                 << offered.key << " of " << module->className() << " is also " << owner->second << "'s";
         }
     }
+}
+
+template <class T> bool isOffered(const olHostSetting<T> &setting)
+{
+    const olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(setting.key);
+    return owner && boost::any_cast<T>(&owner->findDefault(setting.key)->value);
+}
+
+TEST_P(Contract, TheSettingsThatTheHostGoesByAreThereWithTheirTypes)
+{
+    for (const auto &number : {olHostSettings::language, olHostSettings::webPort, olHostSettings::webSslPort})
+        EXPECT_TRUE(isOffered(number)) << number.key;
+    for (const auto &flag : {olHostSettings::webLocalhostOnly, olHostSettings::webUseWhiteList})
+        EXPECT_TRUE(isOffered(flag)) << flag.key;
+    EXPECT_TRUE(isOffered(olHostSettings::webWhiteList));
 }
 
 TEST_P(Contract, DefaultsWithoutTheFlagOverwriteNothing)

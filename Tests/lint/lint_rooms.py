@@ -22,7 +22,7 @@ ROOMS = {
     "Plugins/KernelPreferences": SDK + " Plugins/KernelPreferences/Framework Plugins/KernelPreferences/Viewer"
                                        " Plugins/KernelPreferences/FileIO",
     # the embedded host
-    "Host": "",
+    "Host": "Sdk/Utilities Sdk/State",
     "Host/Store": "Host Sdk/Utilities Sdk/State",
     "Host/Session": "Host Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices",
     "Host/Editing": "Host Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",

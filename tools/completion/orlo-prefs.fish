@@ -45,12 +45,13 @@ complete -c orlo-prefs -n __orlo_prefs_needs_command -l edition -x -a 'essential
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l app-name -x -d 'The name of the application'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l store -r -F -d 'Where the preferences are kept'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l plugin -r -F -d 'The preferences plug-in'
+complete -c orlo-prefs -n __orlo_prefs_needs_command -l yes -d 'Agree to what would be asked'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l version -d 'Print the version'
 complete -c orlo-prefs -l help -d 'Tell more'
 for command in 'list	Show all settings' 'get	Print a value' 'set	Store a value' 'reset	Back to the default' \
     'diff	What differs from the defaults' 'export	Write all settings' 'import	Store settings of a file' \
     'profile	Keep settings under a name' 'log	What was changed when' 'undo	Take saves back' \
-    'check	Find faults' 'script	Run a script'
+    'check	Find faults' 'schema	Print a schema for editors' 'script	Run a script'
     complete -c orlo-prefs -n __orlo_prefs_needs_command -a "$(string escape -- $command)"
 end
 complete -c orlo-prefs -n '__orlo_prefs_after get set reset log' -a '(__orlo_prefs_keys)'

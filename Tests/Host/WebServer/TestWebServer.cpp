@@ -241,8 +241,9 @@ TEST_F(WebServer, AnswersUnderNamesOfThisMachineAloneSoThatNoPageFromElsewhereRe
     record.set("WebInterface localhost only", true);
     EXPECT_EQ(statuses(local), yes);
     EXPECT_EQ(statuses(listed), no.mid(0, 1));
-    if (own != "127.0.0.1")
+    if (own != "127.0.0.1") {
         EXPECT_EQ(statuses(ours), no.mid(0, 2));
+    }
 }
 
 TEST_F(WebServer, AnswersWhateverNumberOfOthersHoldsOnToIt)

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "State/olPreferencesRegistry.h"
+
+#include <boost/any.hpp>
+
+#include <string>
+
+/// A setting that the host itself goes by. Key and type are those of a module, which a test holds together.
+template <class T> struct olHostSetting {
+    const char *key;
+    /// What counts where the record does not hold it as that type: it restricts rather than opens.
+    T unreadable;
+
+    [[nodiscard]] T value() const
+    {
+        const T *value = boost::any_cast<T>(&olPreferencesRegistry::the().record().get(key));
+        return value ? *value : unreadable;
+    }
+};
+
+/// All of them.
+namespace olHostSettings
+{
+
+inline const olHostSetting<int> language{"MainWindow user language", 0};
+inline const olHostSetting<int> webPort{"WebInterface port", 0};
+inline const olHostSetting<int> webSslPort{"WebInterface ssl port", 0};
+inline const olHostSetting<bool> webLocalhostOnly{"WebInterface localhost only", true};
+inline const olHostSetting<bool> webUseWhiteList{"WebInterface use white list", true};
+inline const olHostSetting<std::string> webWhiteList{"WebInterface white list", {}};
+
+} // namespace olHostSettings
