@@ -54,8 +54,9 @@ protected:
         session.start();
         dialog = std::make_unique<olPreferencesDialog>(session);
         const QFontMetrics metrics = dialog->fontMetrics();
-        dialog->resize(metrics.averageCharWidth() * 130, metrics.height() * 36);
         dialog->open({});
+        // On a small screen it opens narrower than it likes to be.
+        dialog->resize(metrics.averageCharWidth() * 130, metrics.height() * 36);
     }
     ~Forms() override
     {
