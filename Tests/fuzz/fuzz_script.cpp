@@ -4,6 +4,8 @@
 #include "olScriptParser.h"
 #include "olToolError.h"
 
+#include <QList>
+
 #include <cstdint>
 #include <cstdlib>
 

@@ -1,6 +1,5 @@
 // A site's file of defaults and locks, held against modules whose keys begin with the name of their type.
 
-#include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
 #include "State/olValue.h"
 
@@ -26,9 +25,8 @@ boost::any defaultOf(const std::string &key)
 
 QString whyNot(const std::string &key, const boost::any &value)
 {
-    olSettingDescription setting;
-    setting.type = key.substr(0, key.find(' '));
-    return setting.whyNot(value);
+    const bool isOfItsType = olValue::typeName(value) == key.substr(0, key.find(' '));
+    return isOfItsType ? QString() : QStringLiteral("is of another type");
 }
 
 } // namespace
