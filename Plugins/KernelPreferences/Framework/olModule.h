@@ -35,6 +35,8 @@ public:
             // A category sees for itself what changed.
             if constexpr (std::is_base_of_v<olPreferences, Host>)
                 this->addUnchanged(key.c_str());
+            else
+                static_cast<void>(this); // captured for the others
         });
     }
 
