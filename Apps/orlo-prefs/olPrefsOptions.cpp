@@ -1,6 +1,7 @@
 #include "olPrefsOptions.h"
 
 #include "Session/olFileArgument.h"
+#include "Session/olTranslations.h"
 #include "olNearest.h"
 #include "olToolError.h"
 
@@ -60,13 +61,21 @@ olEdition edition(const QString &name)
     return *edition;
 }
 
+QString language(const QString &name)
+{
+    if (name != QLatin1String(olPrefsOptions::ofUser) && !olTranslations::languages().contains(name))
+        throw olToolError(olToolError::tr("there is no language %1, only %2 or user")
+                              .arg(name, olTranslations::languages().join(QStringLiteral(", "))));
+    return name;
+}
+
 } // namespace
 
 olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
 {
     static const QStringList known{QStringLiteral("--edition"), QStringLiteral("--app-name"), QStringLiteral("--store"),
-                                   QStringLiteral("--plugin"),  QStringLiteral("--yes"),      QStringLiteral("--help"),
-                                   QStringLiteral("--version")};
+                                   QStringLiteral("--plugin"),  QStringLiteral("--language"), QStringLiteral("--yes"),
+                                   QStringLiteral("--help"),    QStringLiteral("--version")};
     olPrefsOptions options;
     Reader reader(arguments);
     while (reader.atOption()) {
@@ -79,6 +88,8 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
             options.store = olFileArgument(reader.value(option));
         else if (option == QLatin1String("--plugin"))
             options.plugin = olFileArgument(reader.value(option));
+        else if (option == QLatin1String("--language"))
+            options.language = language(reader.value(option));
         else if (option == QLatin1String("--yes"))
             options.isAgreed = true;
         else if (option == QLatin1String("--help") || option == QLatin1String("-h"))
@@ -106,6 +117,8 @@ std::string olPrefsOptions::optionsHelp()
            "                     begins empty without it, and never writes)\n"
            "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
            "                     installed plug-in folder)\n"
+           "  --language NAME    of the messages: en, zh, ja, ko, or user for the one that is stored\n"
+           "                     (default en)\n"
            "  --yes              agrees to what the page would ask before it takes a value\n"
            "  --help, --version\n";
 }

@@ -9,11 +9,15 @@
 
 /// The command line of the tool taken apart.
 struct olPrefsOptions {
+    /// The language that is stored.
+    static constexpr auto ofUser = "user";
+
     olEdition edition = olEdition::Professional;
     QString applicationName = QStringLiteral("orlo");
-    QString store;         ///< empty: the user's own
-    QString plugin;        ///< empty: where the program finds it
-    bool isAgreed = false; ///< to the questions that go with some values
+    QString store;                           ///< empty: the user's own
+    QString plugin;                          ///< empty: where the program finds it
+    QString language = QStringLiteral("en"); ///< of the messages: one of olTranslations::languages(), or ofUser
+    bool isAgreed = false;                   ///< to the questions that go with some values
     bool help = false;
     bool version = false;
     QString command;

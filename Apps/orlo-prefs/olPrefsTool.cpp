@@ -32,6 +32,8 @@ olPrefsTool::olPrefsTool(const olPrefsOptions &options)
 int olPrefsTool::run()
 {
     m_command = &olPrefsCommands::named(m_options.command);
+    if (isForPeople())
+        m_session.translate(qMax(0, olTranslations::languages().indexOf(m_options.language)));
     // Only in the first place: later it may be a value.
     const QString first = m_options.arguments.value(0);
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
@@ -39,6 +41,12 @@ int olPrefsTool::run()
     else
         m_command->run(*this);
     return m_status;
+}
+
+bool olPrefsTool::isForPeople() const
+{
+    return m_command->name != std::string("script") && m_command->name != std::string("schema") &&
+           !m_options.arguments.contains(QStringLiteral("--json"));
 }
 
 void olPrefsTool::requireArguments(int count) const
@@ -55,6 +63,8 @@ void olPrefsTool::failUsage() const
 void olPrefsTool::loadStore(olStoreUse use)
 {
     requireSuccess(m_session.loadStore(use));
+    if (isForPeople() && m_options.language == QLatin1String(olPrefsOptions::ofUser))
+        m_session.translate(olHostState::the().displayLanguage);
     printNotices();
 }
 

@@ -63,6 +63,9 @@ public:
     static void print(const std::string &text);
 
 private:
+    /// Programs and scripts go by the English texts, whatever language is asked for.
+    [[nodiscard]] bool isForPeople() const;
+
     void printNotices();
 
     olPrefsOptions m_options;

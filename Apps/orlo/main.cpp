@@ -217,6 +217,7 @@ int run(const QCommandLineParser &options)
     if (!loaded)
         return 1;
     olPreferencesSession &session = *loaded;
+    session.translate(host.displayLanguage);
     if (isBatch(options))
         return startAndRunBatch(session, options);
 

@@ -1,6 +1,7 @@
 #include "Editing/olSettingsSearch.h"
 
 #include "Editing/olPlainText.h"
+#include "Session/olTranslations.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
@@ -60,6 +61,13 @@ bool isNearly(const QString &text, const QString &word)
                        [&](const QStringRef &part) { return distance(word, part.toString(), most) <= most; });
 }
 
+/// Empty where that is what the person sees.
+QString inEnglish(const QString &text)
+{
+    const QString english = olTranslations::english(text);
+    return english == text ? QString() : olPlainText(english);
+}
+
 olFoundControl indexed(const olPageControl &control)
 {
     olFoundControl found;
@@ -68,8 +76,10 @@ olFoundControl indexed(const olPageControl &control)
         found.labels.emplace_back(label);
     found.name = control.names.value(0);
     found.keys = control.settingKeys;
-    const QStringList texts = control.names + control.captions + control.choices + control.settingKeys +
-                              QStringList{olPlainText(control.toolTip)};
+    const QStringList shown = control.names + control.captions + control.choices + QStringList{control.toolTip};
+    QStringList texts = control.settingKeys;
+    for (const QString &text : shown)
+        texts << olPlainText(text) << inEnglish(text);
     found.captions = control.captions;
     found.searched = folded(texts.join(border));
     return found;
@@ -112,7 +122,8 @@ std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
                 if (isHit(*entry, control, words, compare))
                     result.hits.push_back(&control);
             }
-            if (!result.hits.empty() || (entry->page() && hasAll(folded(entry->name()), words, compare)))
+            const QString name = entry->name() + border + inEnglish(entry->name());
+            if (!result.hits.empty() || (entry->page() && hasAll(folded(name), words, compare)))
                 results.push_back(std::move(result));
         }
         if (!results.empty())

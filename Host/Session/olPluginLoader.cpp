@@ -1,6 +1,7 @@
 #include "Session/olPluginLoader.h"
 
 #include "Session/olLibraryFault.h"
+#include "Session/olTranslations.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olSceneLoaders.h"
 
@@ -34,7 +35,7 @@ QStringList standardPlaces()
 
 olPluginLoader::~olPluginLoader() { unload(); }
 
-olResult<> olPluginLoader::load(const QString &given)
+olResult<> olPluginLoader::load(const QString &given, olTranslations *translations)
 {
     unload();
     const QStringList places = given.isEmpty() ? standardPlaces() : QStringList(given);
@@ -58,6 +59,8 @@ olResult<> olPluginLoader::load(const QString &given)
     if (!m_library.load())
         return failure(m_library.errorString());
     olStartOpenSG();
+    if (translations)
+        translations->loadOfPlugin(m_library.fileName());
     olResult<> entered = enter();
     if (!entered.isOk())
         unload();

@@ -6,6 +6,8 @@
 #include <QLibrary>
 #include <QString>
 
+class olTranslations;
+
 /// Loads the preferences plug-in, enters it and unloads it again. To be unloaded before the application object goes,
 /// because the pages of the modules are destroyed with the library.
 class ORLO_HOST_EXPORT olPluginLoader
@@ -18,8 +20,8 @@ public:
 
     /// Loads `given`, where it is not empty, else the plug-in beside the program, else the installed one, and calls its
     /// entry function. Where that fails the sentence names the file, or all places looked at, and the reason, and
-    /// nothing of the library stays loaded.
-    olResult<> load(const QString &given);
+    /// nothing of the library stays loaded. Its texts are in the language of the translations, where there are such.
+    olResult<> load(const QString &given, olTranslations *translations = nullptr);
 
     /// Calls the entry function once more. The library must be loaded. Fails as load() does.
     olResult<> enter();

@@ -232,7 +232,7 @@ olResult<> olPreferencesSession::loadPlugin(const QString &given)
     const QString notice = olRemoveAbandonedLock();
     if (!notice.isEmpty())
         m_notices << notice;
-    return m_plugin.load(given);
+    return m_plugin.load(given, &m_translations);
 }
 
 void olPreferencesSession::fillDefaults()

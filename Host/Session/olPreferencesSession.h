@@ -3,6 +3,7 @@
 #include "Session/olPluginLoader.h"
 #include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
+#include "Session/olTranslations.h"
 #include "State/olResult.h"
 #include "Store/olPreferencesStore.h"
 #include "olHostExport.h"
@@ -55,6 +56,10 @@ public:
     /// What the person at the screen is to be told, each once: a damaged store and where it is now, faults in a site
     /// file. To be asked after the start and after each save.
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
+
+    /// Has all texts that are made from now on in a language, the plug-in's too where it is not loaded yet. 0 is
+    /// English; the language that the person chose is the host's display language once the store is loaded.
+    void translate(int language) { m_translations.load(language); }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
     olResult<> loadPlugin(const QString &given);
@@ -170,6 +175,7 @@ private:
     olSiteDefaults m_site;
     QStringList m_siteFiles;
     QStringList m_notices;
+    olTranslations m_translations;
     olPluginLoader m_plugin;
     QTimer m_following;
     QStringList m_siteStamps;

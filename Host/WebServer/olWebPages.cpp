@@ -99,7 +99,7 @@ olWebAnswer statusPage()
     }
 
     const QString page =
-        QStringLiteral("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
+        QStringLiteral("<!DOCTYPE html>\n<html lang=\"%5\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
                        "<meta name=\"viewport\" content=\"width=device-width\">\n"
                        "<style>body{font-family:sans-serif;margin:2em auto;max-width:50em;padding:0 1em;color:#222;"
                        "background:#fff}th,td{padding:.2em 1em .2em 0;text-align:left;vertical-align:top;"
@@ -109,7 +109,8 @@ olWebAnswer statusPage()
                        "<p><a href=\"/settings.json\">%3</a> &middot; <a href=\"/state.json\">%4</a></p>\n"
                        "<h2>%4</h2>\n<table>\n")
             .arg(host.appVersionName.get().toHtmlEscaped(), Words::tr("The application is running.").toHtmlEscaped(),
-                 Words::tr("Settings").toHtmlEscaped(), Words::tr("State of the host").toHtmlEscaped()) +
+                 Words::tr("Settings").toHtmlEscaped(), Words::tr("State of the host").toHtmlEscaped(),
+                 Words::tr("en", "code of the language")) +
         rows + QStringLiteral("</table>\n</body>\n</html>\n");
     return {200, "text/html; charset=utf-8", page.toUtf8()};
 }

@@ -124,7 +124,10 @@ private:
         posix_spawn_file_actions_adddup2(&files, writing.number(), olReaderProtocol::progressFile);
         posix_spawn_file_actions_adddup2(&files, m_result.number(), olReaderProtocol::resultFile);
         QByteArray program = readerProgram();
-        char *arguments[] = {program.data(), nullptr};
+        // It says what is wrong with a file in the language of this program.
+        QByteArray translations =
+            QFile::encodeName(QCoreApplication::instance()->property("olTranslationFiles").toStringList().join(u'\n'));
+        char *arguments[] = {program.data(), translations.data(), nullptr};
         const int error = posix_spawn(&m_process, program.constData(), &files, nullptr, arguments, environ);
         posix_spawn_file_actions_destroy(&files);
         if (error == 0)

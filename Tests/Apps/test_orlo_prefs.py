@@ -141,6 +141,22 @@ class GetAndSet(ToolTest):
 
 
 class Bounds(ToolTest):
+    def test_people_are_answered_in_the_language_they_ask_for_and_programs_in_english(self):
+        def answered(*options, arguments=("set", "Camera fov", "much")):
+            return self.tool(*arguments, options=["--store", str(self.store), *options])
+
+        english = answered()
+        self.stored("set", "MainWindow user language", "2")
+        japanese = answered("--language", "ja")
+        self.assertEqual((english.returncode, japanese.returncode), (2, 2))
+        self.assertNotEqual(english.stderr, japanese.stderr)
+        self.assertIn("Camera fov", japanese.stderr)
+        self.assertEqual(answered("--language=user").stderr, japanese.stderr)
+        self.assertEqual(answered().stderr, english.stderr)
+        for command in (["list", "--json"], ["schema"], ["export"]):
+            self.assertEqual(answered("--language", "ko", arguments=command).stdout, answered(arguments=command).stdout)
+        self.assert_refused(answered("--language", "fr"), "there is no language fr, only en, zh, ja, ko or user")
+
     def test_what_the_control_could_not_hold_is_refused_with_what_it_could(self):
         for key, value, expected in (
                 ("Camera fov", "100.5", "a number from 1 to 100"),

@@ -176,6 +176,19 @@ QStringList FormFaults::clipped(const QWidget &window)
     return faults;
 }
 
+QStringList FormFaults::withoutLetters(const QWidget &window)
+{
+    QStringList faults;
+    for (const QWidget *widget : visibleIn(window)) {
+        const QString text = widget->property("text").toString() + widget->property("title").toString();
+        for (const uint letter : text.toUcs4()) {
+            if (letter > ' ' && !widget->fontMetrics().inFontUcs4(letter))
+                faults << QStringLiteral("%1 has no letter %2").arg(nameOf(*widget), QString::fromUcs4(&letter, 1));
+        }
+    }
+    return faults;
+}
+
 QStringList FormFaults::misplaced(const QWidget &window)
 {
     // From right to left a splitter's last part stands one pixel too far.

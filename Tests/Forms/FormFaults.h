@@ -11,6 +11,9 @@ namespace FormFaults
 /// Texts that have less room than they need and cannot be read otherwise.
 QStringList clipped(const QWidget &window);
 
+/// Texts with letters that no font has.
+QStringList withoutLetters(const QWidget &window);
+
 /// Widgets beyond the edge of their parent, without any size, or over one another.
 QStringList misplaced(const QWidget &window);
 

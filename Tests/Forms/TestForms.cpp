@@ -2,6 +2,7 @@
 #include "Forms/FormFaults.h"
 #include "Forms/Pictures.h"
 #include "Session/olPreferencesSession.h"
+#include "Session/olTranslations.h"
 #include "Support/PluginTest.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 
@@ -35,6 +36,7 @@ struct Look {
     const char *name;
     bool isLonger;
     Qt::LayoutDirection direction;
+    int language = 0;
 };
 
 void PrintTo(const Look &look, std::ostream *out) { *out << look.name; }
@@ -45,6 +47,8 @@ class Forms : public PluginTest, public testing::WithParamInterface<Look>
 protected:
     Forms()
     {
+        translations.load(GetParam().language);
+        translations.loadOfPlugin(QStringLiteral(ORLO_PLUGIN_FILE));
         if (GetParam().isLonger)
             QCoreApplication::installTranslator(&translator);
         QApplication::setLayoutDirection(GetParam().direction); // a new language brings its own direction
@@ -88,6 +92,7 @@ protected:
 
     QTemporaryDir folder;
     LongerTexts translator;
+    olTranslations translations;
     olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
     std::unique_ptr<olPreferencesDialog> dialog;
 };
@@ -128,5 +133,24 @@ INSTANTIATE_TEST_SUITE_P(Looks, Forms,
                          [](const auto &look) {
                              return QString::fromLatin1(look.param.name).remove('-').toStdString();
                          });
+
+/// The languages that people choose.
+using FormsInLanguages = Forms;
+
+TEST_P(FormsInLanguages, EveryTextHasItsRoomAndItsLetters)
+{
+    eachView([this](QWidget &, const std::string &name) {
+        Pictures::take(*dialog,
+                       QStringLiteral("%1 %2").arg(QLatin1String(GetParam().name), QString::fromStdString(name)));
+        expectNone(FormFaults::clipped(*dialog), name);
+        expectNone(FormFaults::misplaced(*dialog), name);
+        expectNone(FormFaults::withoutLetters(*dialog), name);
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, FormsInLanguages,
+                         testing::Values(Look{"zh", false, Qt::LeftToRight, 1}, Look{"ja", false, Qt::LeftToRight, 2},
+                                         Look{"ko", false, Qt::LeftToRight, 3}),
+                         [](const auto &look) { return std::string(look.param.name); });
 
 } // namespace

@@ -6,7 +6,7 @@ function __orlo_prefs_words
     set -e words[1]
     while set -q words[1]
         switch $words[1]
-            case --edition --app-name --store --plugin
+            case --edition --app-name --store --plugin --language
                 set -e words[1]
                 set -q words[1]; and set -e words[1]
             case '-*'
@@ -45,6 +45,7 @@ complete -c orlo-prefs -n __orlo_prefs_needs_command -l edition -x -a 'essential
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l app-name -x -d 'The name of the application'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l store -r -F -d 'Where the preferences are kept'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l plugin -r -F -d 'The preferences plug-in'
+complete -c orlo-prefs -n __orlo_prefs_needs_command -l language -x -a 'en zh ja ko user' -d 'The language of the messages'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l yes -d 'Agree to what would be asked'
 complete -c orlo-prefs -n __orlo_prefs_needs_command -l version -d 'Print the version'
 complete -c orlo-prefs -l help -d 'Tell more'

@@ -1,0 +1,98 @@
+#include "Session/olTranslations.h"
+
+#include "Utilities/olLog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+namespace
+{
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olTranslations)
+};
+
+// Of the application: the programs that it starts speak its language.
+constexpr auto filesProperty = "olTranslationFiles";
+
+/// English by translation. Whoever knows a setting by its English name finds it in any language.
+QHash<QString, QString> &sources()
+{
+    static QHash<QString, QString> texts;
+    return texts;
+}
+
+QString withoutMnemonic(QString text) { return text.remove(QLatin1Char('&')); }
+
+/// Remembers what it translated from.
+class Translator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *text, const char *comment, int count) const override
+    {
+        const QString translated = QTranslator::translate(context, text, comment, count);
+        if (!translated.isEmpty())
+            sources().insert(withoutMnemonic(translated), withoutMnemonic(QString::fromUtf8(text)));
+        return translated;
+    }
+};
+
+} // namespace
+
+olTranslations::olTranslations() = default;
+
+olTranslations::~olTranslations() { load(0); }
+
+const QStringList &olTranslations::languages()
+{
+    static const QStringList names{QStringLiteral("en"), QStringLiteral("zh"), QStringLiteral("ja"),
+                                   QStringLiteral("ko")};
+    return names;
+}
+
+void olTranslations::load(int language)
+{
+    m_translators.clear();
+    sources().clear();
+    if (QCoreApplication::instance())
+        QCoreApplication::instance()->setProperty(filesProperty, QVariant());
+    m_language = language;
+    if (language == 0)
+        return;
+    const QString &code = languages().at(language);
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    add(QStringLiteral("orlo_") + code, {programFolder.filePath(QStringLiteral("translations")),
+                                         programFolder.filePath(QStringLiteral(ORLO_TRANSLATIONS_FROM_BIN))});
+    add(QStringLiteral("qtbase_") + (code == QLatin1String("zh") ? QStringLiteral("zh_CN") : code),
+        {QLibraryInfo::location(QLibraryInfo::TranslationsPath)});
+}
+
+void olTranslations::loadOfPlugin(const QString &library)
+{
+    if (m_language != 0)
+        add(QStringLiteral("preferences_") + languages().at(m_language),
+            {QFileInfo(library).dir().filePath(QStringLiteral("translations"))});
+}
+
+QString olTranslations::english(const QString &text) { return sources().value(withoutMnemonic(text), text); }
+
+void olTranslations::add(const QString &name, const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        const QString file = QDir(folder).filePath(name + QStringLiteral(".qm"));
+        auto translator = std::make_unique<Translator>();
+        if (!translator->load(file))
+            continue;
+        QCoreApplication::installTranslator(translator.get());
+        m_translators.push_back(std::move(translator));
+        QCoreApplication *application = QCoreApplication::instance();
+        application->setProperty(filesProperty, application->property(filesProperty).toStringList() << file);
+        return;
+    }
+    olLog::error(Words::tr("There is no usable translation %1.qm in %2: its texts stay English.")
+                     .arg(name, folders.join(QStringLiteral(", "))));
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "olHostExport.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QTranslator;
+
+/// The texts of host, toolkit and plug-in in one language. They hold for what is made while this exists; English is
+/// what everything is written in.
+class ORLO_HOST_EXPORT olTranslations
+{
+public:
+    olTranslations();
+    ~olTranslations();
+    olTranslations(const olTranslations &) = delete;
+    olTranslations &operator=(const olTranslations &) = delete;
+
+    /// "en", "zh", "ja" and "ko", in the order of the setting's values.
+    [[nodiscard]] static const QStringList &languages();
+
+    /// Takes the texts of the host and the toolkit, in place of those of another language. A file that is missing or
+    /// broken leaves its texts English, and a line in the log.
+    void load(int language);
+
+    /// Takes the texts of a plug-in, which lie in the folder "translations" beside its library, in the same language.
+    void loadOfPlugin(const QString &library);
+
+    /// What a translated text is in English, both without the mark of a mnemonic; the text itself where it was not
+    /// translated.
+    [[nodiscard]] static QString english(const QString &text);
+
+private:
+    void add(const QString &name, const QStringList &folders);
+
+    int m_language = 0;
+    std::vector<std::unique_ptr<QTranslator>> m_translators;
+};

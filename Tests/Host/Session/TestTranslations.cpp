@@ -1,0 +1,71 @@
+#include "Session/olTranslations.h"
+#include "Utilities/olLog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class Translations : public testing::Test, private olLogObserver
+{
+protected:
+    Translations() : before(olLog::observe(this)) {}
+    ~Translations() override { olLog::observe(before); }
+
+    void logged(olLogLevel, const QString &text) override
+    {
+        // What the toolkit has of its own need not be installed here.
+        if (!text.contains(QLatin1String("qtbase")))
+            lines << text;
+    }
+
+    static QString changes() { return QCoreApplication::translate("olChangesView", "Changes"); }
+
+    olLogObserver *before;
+    QStringList lines;
+};
+
+TEST_F(Translations, AreOfOneLanguageAsLongAsTheyStandAndKnowTheirEnglish)
+{
+    QStringList seen;
+    {
+        olTranslations translations;
+        for (int language = 0; language < olTranslations::languages().size(); ++language) {
+            translations.load(language);
+            seen << changes();
+            EXPECT_EQ(olTranslations::english(seen.last()), "Changes");
+        }
+    }
+    EXPECT_EQ(seen.first(), "Changes");
+    EXPECT_EQ(seen.removeDuplicates(), 0);
+    EXPECT_EQ(changes(), "Changes");
+    EXPECT_EQ(lines, QStringList());
+}
+
+TEST_F(Translations, ThatAreMissingOrBrokenLeaveEnglishAndALineInTheLog)
+{
+    const QTemporaryDir plugin;
+    const QString library = plugin.filePath("libKernelPreferences.so");
+    olTranslations translations;
+    translations.load(2);
+    translations.loadOfPlugin(library);
+    ASSERT_EQ(lines.size(), 1);
+    EXPECT_TRUE(lines[0].contains("preferences_ja.qm") && lines[0].contains(plugin.path())) << lines[0].toStdString();
+
+    ASSERT_TRUE(QDir(plugin.path()).mkdir("translations"));
+    QFile broken(plugin.filePath("translations/preferences_ja.qm"));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write(QByteArray(3000, 'x')) == 3000);
+    broken.close();
+    translations.loadOfPlugin(library);
+    EXPECT_EQ(lines.size(), 2);
+    // Who wants English needs no files.
+    translations.load(0);
+    translations.loadOfPlugin(library);
+    EXPECT_EQ(lines.size(), 2);
+}
+
+} // namespace
