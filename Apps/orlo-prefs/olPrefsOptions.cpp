@@ -89,7 +89,7 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
         else if (option == QLatin1String("--plugin"))
             options.plugin = olFileArgument(reader.value(option));
         else if (option == QLatin1String("--language"))
-            options.language = language(reader.value(option));
+            options.language = ::language(reader.value(option));
         else if (option == QLatin1String("--yes"))
             options.isAgreed = true;
         else if (option == QLatin1String("--help") || option == QLatin1String("-h"))
