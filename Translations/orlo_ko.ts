@@ -98,10 +98,6 @@
 <context>
     <name>olExport</name>
     <message>
-        <source>%1 is opaque in the file; IGES knows no opacity.</source>
-        <translation>%1은(는) 파일에서 불투명합니다. IGES는 불투명도를 지원하지 않습니다.</translation>
-    </message>
-    <message>
         <source>%1 stands twice in the same place; it is written once.</source>
         <translation>%1이(가) 같은 위치에 두 번 있어 한 번만 저장합니다.</translation>
     </message>
@@ -120,14 +116,6 @@
     <message>
         <source>groups of parts</source>
         <translation>부품 그룹</translation>
-    </message>
-    <message>
-        <source>%1 knows no %2; they are not written.</source>
-        <translation>%1 형식은 다음을 지원하지 않으므로 저장하지 않습니다: %2.</translation>
-    </message>
-    <message>
-        <source> and no </source>
-        <translation> 및 </translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
@@ -152,6 +140,58 @@
     <message>
         <source>Cannot write %1: %2.</source>
         <translation>%1에 쓸 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>%1 names are written with other letters or a number, as names of VRML have no blanks and stand for one thing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 parts of several looks are groups of parts in the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>curves</source>
+        <translation type="unfinished">곡선</translation>
+    </message>
+    <message>
+        <source>names of parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>colours of corners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>opacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>physical materials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hidden parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 knows no exact surfaces; their triangles are written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are not in the file, as %1 does not know them: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The texture %1 is not there any more; it is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The texture %1 cannot be written: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -212,6 +252,10 @@
     <message>
         <source>&quot;%1&quot; is only set where somebody can be asked: %2</source>
         <translation>&quot;%1&quot;은(는) 사용자에게 확인할 수 있는 곳에서만 설정됩니다: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1492,10 @@
         <source>the file is too large: %1 GB, of which 2 can be read</source>
         <translation>파일이 너무 큽니다: %1 GB 중 2 GB까지 읽을 수 있습니다</translation>
     </message>
+    <message>
+        <source>%1 parts are one in the file, as binary STL knows no parts.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olRgbFields</name>
@@ -1692,6 +1740,10 @@
     <message>
         <source>The site&apos;s preferences %1, line %2: %3.</source>
         <translation>사이트 환경 설정 %1, 줄 %2: %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2259,6 +2311,21 @@
         <source>&quot;%1&quot; holds a value of a type that settings do not have</source>
         <translation>&quot;%1&quot;의 값은 설정에 없는 유형입니다</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no language %1, only %2 or user</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>olTranslations</name>
+    <message>
+        <source>There is no usable translation %1.qm in %2: its texts stay English.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olUndo</name>
@@ -2380,6 +2447,11 @@
     <message>
         <source>This host is not allowed.</source>
         <translation>이 호스트는 허용되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>code of the language</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@ void olPrefsCommands::set(olPrefsTool &tool)
     const boost::any value = olPreferencesSession::description(setting.key).fromTyped(tool.arguments().at(1));
     const QString reason = tool.session().whyNot(setting.key, value);
     if (!reason.isEmpty())
-        throw olToolError(QStringLiteral("\"%1\" %2").arg(QString::fromStdString(setting.key), reason));
+        throw olToolError(olToolError::tr("\"%1\" %2").arg(QString::fromStdString(setting.key), reason));
     if (const auto warning = tool.session().warning(setting.key, value))
         tool.requireConsent(setting.key, *warning);
     setting.setValue(value);

@@ -33,7 +33,7 @@ int olPrefsTool::run()
 {
     m_command = &olPrefsCommands::named(m_options.command);
     if (isForPeople())
-        m_session.translate(qMax(0, olTranslations::languages().indexOf(m_options.language)));
+        m_session.translations().load(qMax(0, olTranslations::languages().indexOf(m_options.language)));
     // Only in the first place: later it may be a value.
     const QString first = m_options.arguments.value(0);
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
@@ -64,7 +64,7 @@ void olPrefsTool::loadStore(olStoreUse use)
 {
     requireSuccess(m_session.loadStore(use));
     if (isForPeople() && m_options.language == QLatin1String(olPrefsOptions::ofUser))
-        m_session.translate(olHostState::the().displayLanguage);
+        m_session.translations().load(olHostState::the().displayLanguage);
     printNotices();
 }
 

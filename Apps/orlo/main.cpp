@@ -217,7 +217,8 @@ int run(const QCommandLineParser &options)
     if (!loaded)
         return 1;
     olPreferencesSession &session = *loaded;
-    session.translate(host.displayLanguage);
+    session.translations().load(host.displayLanguage);
+    session.translations().loadOfToolkit();
     if (isBatch(options))
         return startAndRunBatch(session, options);
 

@@ -26,7 +26,7 @@ QString setOne(const olPreferencesSession &session, const QString &setting)
     const boost::any value = olPreferencesSession::description(key).fromTyped(setting.mid(equals + 1).trimmed());
     const QString reason = session.whyNot(key, value);
     if (!reason.isEmpty())
-        return QStringLiteral("\"%1\" %2").arg(name, reason);
+        return Words::tr("\"%1\" %2").arg(name, reason);
     if (const auto warning = session.warning(key, value))
         return Words::tr("\"%1\" is only set where somebody can be asked: %2").arg(name, warning->text);
     owner->setValue(key, value);

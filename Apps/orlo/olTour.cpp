@@ -52,7 +52,7 @@ int olTour::run(const QString &folder)
     }
 
     m_window.showIntegratorPanels();
-    olPreferencesDialog &preferences = m_window.openPreferences(QStringLiteral("Camera"));
+    olPreferencesDialog &preferences = m_window.openPreferences();
     settle();
     QOLSlider *slider = sliderFor(preferences, QStringLiteral("Camera fov"));
     if (!slider) {

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
 
@@ -65,6 +66,12 @@ void olModuleTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option
 QSize olModuleTree::minimumSizeHint() const
 {
     return {fontMetrics().averageCharWidth() * 14, fontMetrics().height() * 4};
+}
+
+QSize olModuleTree::sizeHint() const
+{
+    const int names = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    return {std::max(names, minimumSizeHint().width()), QTreeWidget::sizeHint().height()};
 }
 
 template <class Use> void olModuleTree::eachItem(Use &&use) const

@@ -41,6 +41,9 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+    /// Wide enough for every name.
+    [[nodiscard]] QSize sizeHint() const override;
+
 protected:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 

@@ -253,7 +253,7 @@ void olPreferencesDialog::recall()
     m_place = memory.place;
     const int character = fontMetrics().averageCharWidth();
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
-        m_splitter->setSizes({character * 26, character * 104});
+        m_splitter->setSizes({std::max(character * 26, m_tree->sizeHint().width()), character * 104});
     m_splitter->setChildrenCollapsible(false);
     m_tree->setOpenCategories(memory.openCategories);
     m_tree->choose(memory.page);

@@ -17,6 +17,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -293,8 +294,12 @@ bool olPageIndex::isShown(const QWidget &page, const QWidget &control)
     return true;
 }
 
-QString olPageIndex::withoutMnemonic(const QString &text)
+QString olPageIndex::withoutMnemonic(const QString &marked)
 {
+    // East Asian texts have it in brackets of its own.
+    static const QRegularExpression inBrackets(QStringLiteral("\\(&\\w\\)"));
+    QString text = marked;
+    text.remove(inBrackets);
     QString plain;
     for (int index = 0; index < text.size(); ++index) {
         // A doubled one stands for itself.

@@ -59,7 +59,7 @@ public:
 
     /// Has all texts that are made from now on in a language, the plug-in's too where it is not loaded yet. 0 is
     /// English; the language that the person chose is the host's display language once the store is loaded.
-    void translate(int language) { m_translations.load(language); }
+    [[nodiscard]] olTranslations &translations() { return m_translations; }
 
     /// Loads the plug-in and enters it; see olPluginLoader.
     olResult<> loadPlugin(const QString &given);

@@ -123,7 +123,7 @@ void olSiteDefaults::readFile(const QString &name)
         for (const olJsonMember &part : parts) {
             const QString what = takePart(part.key, part.text(), line);
             if (!what.isEmpty())
-                fault(name, part.line, QStringLiteral("\"%1\" %2").arg(member.key, what));
+                fault(name, part.line, Words::tr("\"%1\" %2").arg(member.key, what));
         }
         if (line.value.isNull() && !line.isLocked)
             fault(name, line.number, Words::tr("\"%1\" has neither a \"value\" nor a lock").arg(member.key));
@@ -192,7 +192,7 @@ void olSiteDefaults::settleLine(const QString &file, const Line &line, const boo
     boost::any value = line.value.isNull() ? offered : valueOf(line.value, olValue::typeName(offered));
     const QString reason = whyNot(line.key, value);
     if (!reason.isEmpty()) {
-        fault(file, line.number, QStringLiteral("\"%1\" %2").arg(key, reason));
+        fault(file, line.number, Words::tr("\"%1\" %2").arg(key, reason));
         value = offered;
     }
     // What a more important file said before stays.

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QLibraryInfo>
+#include <QRegularExpression>
 #include <QTranslator>
 
 namespace
@@ -26,7 +27,12 @@ QHash<QString, QString> &sources()
     return texts;
 }
 
-QString withoutMnemonic(QString text) { return text.remove(QLatin1Char('&')); }
+/// East Asian texts have it in brackets of its own.
+QString withoutMnemonic(QString text)
+{
+    static const QRegularExpression mark(QStringLiteral("\\(&\\w\\)|&"));
+    return text.remove(mark);
+}
 
 /// Remembers what it translated from.
 class Translator : public QTranslator
@@ -67,6 +73,13 @@ void olTranslations::load(int language)
     const QDir programFolder(QCoreApplication::applicationDirPath());
     add(QStringLiteral("orlo_") + code, {programFolder.filePath(QStringLiteral("translations")),
                                          programFolder.filePath(QStringLiteral(ORLO_TRANSLATIONS_FROM_BIN))});
+}
+
+void olTranslations::loadOfToolkit()
+{
+    if (m_language == 0)
+        return;
+    const QString &code = languages().at(m_language);
     add(QStringLiteral("qtbase_") + (code == QLatin1String("zh") ? QStringLiteral("zh_CN") : code),
         {QLibraryInfo::location(QLibraryInfo::TranslationsPath)});
 }

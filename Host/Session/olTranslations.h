@@ -23,9 +23,12 @@ public:
     /// "en", "zh", "ja" and "ko", in the order of the setting's values.
     [[nodiscard]] static const QStringList &languages();
 
-    /// Takes the texts of the host and the toolkit, in place of those of another language. A file that is missing or
+    /// Takes the texts of the host, in place of those of another language. A file that is missing or
     /// broken leaves its texts English, and a line in the log.
     void load(int language);
+
+    /// Takes those of the toolkit, in the same language: its buttons and dialogs.
+    void loadOfToolkit();
 
     /// Takes the texts of a plug-in, which lie in the folder "translations" beside its library, in the same language.
     void loadOfPlugin(const QString &library);

@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QSlider>
 
@@ -200,7 +201,7 @@ olTesselationSettings::Field olTesselationSettings::addField(QFormLayout &rows, 
     const Field field{new QLabel(name, this), new olNumberField(this), new QLabel(unit, this)};
     field.label->setBuddy(field.number);
     field.number->setObjectName(QLatin1String(objectName));
-    field.number->setAccessibleName(QString(name).remove(QLatin1Char('&')));
+    field.number->setAccessibleName(QString(name).remove(QRegularExpression(QStringLiteral("\\(&\\w\\)|&"))));
 
     auto *row = new QHBoxLayout;
     row->addWidget(field.number);

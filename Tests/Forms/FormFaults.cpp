@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGlyphRun>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -17,6 +18,7 @@
 #include <QStyleOption>
 #include <QTabBar>
 #include <QTest>
+#include <QTextLayout>
 #include <QToolButton>
 
 #include <algorithm>
@@ -180,11 +182,15 @@ QStringList FormFaults::withoutLetters(const QWidget &window)
 {
     QStringList faults;
     for (const QWidget *widget : visibleIn(window)) {
-        const QString text = widget->property("text").toString() + widget->property("title").toString();
-        for (const uint letter : text.toUcs4()) {
-            if (letter > ' ' && !widget->fontMetrics().inFontUcs4(letter))
-                faults << QStringLiteral("%1 has no letter %2").arg(nameOf(*widget), QString::fromUcs4(&letter, 1));
+        QTextLayout layout(widget->property("text").toString() + widget->property("title").toString(), widget->font());
+        layout.beginLayout();
+        while (layout.createLine().isValid()) {
         }
+        layout.endLayout();
+        // A font draws its glyph 0 for what it does not have.
+        const QList<QGlyphRun> runs = layout.glyphRuns();
+        if (std::any_of(runs.begin(), runs.end(), [](const QGlyphRun &run) { return run.glyphIndexes().contains(0); }))
+            faults << nameOf(*widget) + QStringLiteral(" has letters that no font has");
     }
     return faults;
 }

@@ -7,14 +7,18 @@
 #include <QAbstractItemView>
 #include <QGroupBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTabWidget>
 
 namespace
 {
 
-QString withoutMnemonic(const QString &text)
+QString withoutMnemonic(QString text)
 {
+    // East Asian texts have it in brackets of its own.
+    static const QRegularExpression inBrackets(QStringLiteral("\\(&\\w\\)"));
+    text.remove(inBrackets);
     QString plain;
     for (int index = 0; index < text.size(); ++index) {
         // A doubled one stands for itself.

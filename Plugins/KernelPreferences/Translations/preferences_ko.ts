@@ -280,10 +280,6 @@
         <translation>임시 경로</translation>
     </message>
     <message>
-        <source>tmpPath</source>
-        <translation>tmpPath</translation>
-    </message>
-    <message>
         <source>Select Temporary File Path</source>
         <translation>임시 파일 경로 선택</translation>
     </message>
@@ -346,10 +342,6 @@
     <message>
         <source>Texture Search Paths</source>
         <translation>텍스처 검색 경로</translation>
-    </message>
-    <message>
-        <source>searchPaths</source>
-        <translation>searchPaths</translation>
     </message>
     <message>
         <source>D&amp;elete</source>
@@ -728,10 +720,6 @@
         <translation>도움말 경로</translation>
     </message>
     <message>
-        <source>path</source>
-        <translation>path</translation>
-    </message>
-    <message>
         <source>Browse</source>
         <translation>찾아보기</translation>
     </message>
@@ -1007,10 +995,6 @@
     <message>
         <source>Mirra Location</source>
         <translation>Mirra 위치</translation>
-    </message>
-    <message>
-        <source>location</source>
-        <translation>location</translation>
     </message>
     <message>
         <source>Set Mirra Location</source>
@@ -1761,10 +1745,6 @@
         <translation>배경</translation>
     </message>
     <message>
-        <source>backgroundTable</source>
-        <translation>backgroundTable</translation>
-    </message>
-    <message>
         <source>A&amp;dd</source>
         <translation>추가(&amp;D)</translation>
     </message>
@@ -1960,10 +1940,6 @@
     <message>
         <source>Tolerance (mm)</source>
         <translation>공차(mm)</translation>
-    </message>
-    <message>
-        <source>qualities</source>
-        <translation>qualities</translation>
     </message>
     <message>
         <source>A&amp;dd</source>
