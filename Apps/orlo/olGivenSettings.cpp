@@ -4,6 +4,8 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QCoreApplication>
+
 namespace
 {
 
@@ -22,12 +24,18 @@ QString setOne(const olPreferencesSession &session, const QString &setting)
     if (!reason.isEmpty())
         return QStringLiteral("\"%1\" %2").arg(name, reason);
     if (const auto warning = session.warning(key, value))
-        return QStringLiteral("\"%1\" is only set where somebody can be asked: %2").arg(name, warning->text);
+        return olRefusalUnasked(key, *warning);
     owner->setValue(key, value);
     return {};
 }
 
 } // namespace
+
+QString olRefusalUnasked(const std::string &key, const olSettingWarning &question)
+{
+    return QCoreApplication::translate("olGivenSettings", "\"%1\" is only set where somebody can be asked: %2")
+        .arg(QString::fromStdString(key), QString(question.text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
+}
 
 QString olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings)
 {

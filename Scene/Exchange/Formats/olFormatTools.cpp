@@ -25,6 +25,6 @@ QByteArray olFormatTools::tailOf(QFile &file)
 olFormatTools::Secluded::Secluded(const olImportJob &job)
     : m_folder(QDir(job.temporaryDirectory).filePath(QStringLiteral("orlo-import-XXXXXX")))
 {
-    m_file = m_folder.filePath(QFileInfo(job.file).fileName());
+    m_file = m_folder.path() + QLatin1Char('/') + QFileInfo(job.file).fileName();
     m_isReady = m_folder.isValid() && QFile::link(job.file, m_file);
 }
