@@ -44,7 +44,7 @@ QStringList arguments(int count, char **values)
     for (int index = 1; index < count; ++index) {
         const std::optional<QString> text = olArguments::text(values[index]);
         if (!text)
-            throw olToolError(QStringLiteral("\"%1\" is no UTF-8").arg(QString::fromUtf8(values[index])));
+            throw olToolError(olToolError::tr("\"%1\" is no UTF-8").arg(QString::fromUtf8(values[index])));
         list << *text;
     }
     return list;

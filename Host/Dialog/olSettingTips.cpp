@@ -29,7 +29,8 @@ QString rangeText(const olSettingDescription &setting)
                                               : QString();
     if (range.isEmpty() && !setting.unit.isEmpty())
         return olSettingTips::tr("Unit: %1").arg(setting.unit);
-    return (range + QLatin1Char(' ') + setting.unit).trimmed();
+    return setting.unit == QStringLiteral("°") ? range + setting.unit
+                                               : (range + QLatin1Char(' ') + setting.unit).trimmed();
 }
 
 QString effectText(const QString &effect)

@@ -468,7 +468,7 @@ TEST_F(DialogWithModules, ATipTellsRangeDefaultAndEffectBesidesWhatTheFormHas)
     };
     auto &fov = control<QWidget>("Camera", "fieldOfView");
     const QString own = fov.toolTip();
-    EXPECT_EQ(told(fov), own + "\nRange: 1 to 100 °\nDefault: 45°\nTakes effect at once");
+    EXPECT_EQ(told(fov), own + "\nRange: 1 to 100°\nDefault: 45°\nTakes effect at once");
     EXPECT_EQ(told(control<QWidget>("Camera", "fieldOfViewLabel")), told(fov)) << "its label tells the same";
     EXPECT_EQ(fov.toolTip(), own);
     dialog->open(QStringLiteral("Step"));
