@@ -79,9 +79,10 @@ class Batch(tool_test.ToolTest):
         self.environment["LC_ALL"] = "C"
         names = [":sample.stl", "M\u00fcller \u65e5.stl"]
         for name in names:
-            self.assert_printed(self.stored("--sample", "--save", name), "")
-            self.assert_printed(self.stored(name, "--save", name + ".obj"), "")
-            self.assertTrue(self.stored("--render", name, "--output", name + ".png", "--size", "9x9").stdout)
+            for arguments in (["--sample", "--save", name], [name, "--save", name + ".obj"],
+                              ["--render", name + ".obj", "--output", name + ".png", "--size", "9x9"]):
+                result = self.stored(*arguments)
+                self.assertEqual(result.returncode, 0, result.stderr)
             self.assertTrue((self.folder / (name + ".png")).exists())
         for arguments in (["--save", b"M\xfcller.stl", "--sample"], ["--set", b"FileIO tmp path=\xfc"], [b"\xfc.stl"]):
             refused = self.stored(*arguments)
