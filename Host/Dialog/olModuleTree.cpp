@@ -68,16 +68,20 @@ QSize olModuleTree::minimumSizeHint() const
     return {fontMetrics().averageCharWidth() * 14, fontMetrics().height() * 4};
 }
 
-QSize olModuleTree::sizeHint() const
-{
-    const int names = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-    return {std::max(names, minimumSizeHint().width()), QTreeWidget::sizeHint().height()};
-}
-
 template <class Use> void olModuleTree::eachItem(Use &&use) const
 {
     for (QTreeWidgetItemIterator item(const_cast<olModuleTree *>(this)); *item; ++item)
         use(**item);
+}
+
+QSize olModuleTree::sizeHint() const
+{
+    int widest = 0;
+    eachItem([&](const QTreeWidgetItem &item) {
+        const int depth = item.parent() ? 2 : 1;
+        widest = std::max(widest, depth * indentation() + sizeHintForIndex(indexFromItem(&item)).width());
+    });
+    return {widest + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(), QTreeWidget::sizeHint().height()};
 }
 
 void olModuleTree::list()
