@@ -22,6 +22,8 @@ struct olModelFormat {
         Opacity = 1 << 3,
         Textures = 1 << 4,
         Structure = 1 << 5,
+        /// How long its unit is, and which way is up.
+        UnitAndUp = 1 << 12,
     };
 
     const char *name;

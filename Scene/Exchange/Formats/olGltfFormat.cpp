@@ -199,7 +199,7 @@ olModelFormat olGltfFormat()
             "GLTF",
             {QStringLiteral("gltf"), QStringLiteral("glb")},
             olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
-                olModelFormat::Structure,
+                olModelFormat::Structure | olModelFormat::UnitAndUp,
             check,
             read,
             write};

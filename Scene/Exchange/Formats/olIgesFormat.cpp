@@ -249,7 +249,7 @@ olModelFormat olIgesFormat()
     return {"IGES",
             "IGES",
             {QStringLiteral("iges"), QStringLiteral("igs")},
-            olModelFormat::Surfaces | olModelFormat::Colors,
+            olModelFormat::Surfaces | olModelFormat::Colors | olModelFormat::UnitAndUp,
             check,
             read,
             write};

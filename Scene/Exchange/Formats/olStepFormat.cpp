@@ -249,7 +249,8 @@ olModelFormat olStepFormat()
     return {"STEP",
             "STEP",
             {QStringLiteral("step"), QStringLiteral("stp")},
-            olModelFormat::Surfaces | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure,
+            olModelFormat::Surfaces | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure |
+                olModelFormat::UnitAndUp,
             check,
             read,
             write};
