@@ -11,6 +11,8 @@
 #include "View/olViewAids.h"
 #include "View/olViewLights.h"
 
+#include <QCoreApplication>
+
 #include <AIS_InteractiveContext.hxx>
 #include <AIS_ViewCube.hxx>
 #include <Graphic3d_GraphicDriver.hxx>
@@ -31,6 +33,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSceneView)
+};
 
 // Beyond these the projection degenerates.
 constexpr double smallestAngle = 1.0;
@@ -140,7 +146,7 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
 {
     const Handle(Graphic3d_GraphicDriver) driver = olGlBinding::makeDriver();
     if (driver.IsNull()) {
-        error = QStringLiteral("The 3D view needs an X display.");
+        error = Words::tr("The 3D view needs an X display.");
         return nullptr;
     }
     std::unique_ptr<olSceneView> made(new olSceneView);
@@ -149,7 +155,7 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
     d.view = d.viewer->CreateView();
     d.view->SetImmediateUpdate(Standard_False);
     if (!olGlBinding::attach(d.view, window, size)) {
-        error = QStringLiteral("The OpenGL context of this display cannot be used for the 3D view.");
+        error = Words::tr("The OpenGL context of this display cannot be used for the 3D view.");
         return nullptr;
     }
     d.view->Camera()->SetProjectionType(Graphic3d_Camera::Projection_Perspective);

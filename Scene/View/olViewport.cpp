@@ -151,7 +151,7 @@ void olViewport::guarded(const std::function<void()> &work)
     try {
         work();
     } catch (const Standard_Failure &failure) {
-        olLog::error(QStringLiteral("The 3D view: %1").arg(QString::fromLatin1(failure.GetMessageString())));
+        olLog::error(tr("The 3D view: %1").arg(QString::fromLatin1(failure.GetMessageString())));
     }
 }
 
