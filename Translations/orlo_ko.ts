@@ -195,6 +195,99 @@
     </message>
 </context>
 <context>
+    <name>olFactsPanel</name>
+    <message>
+        <source>(%1, %2, %3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along x, y and z, in millimetres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its lowest and its highest corner, in millimetres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the surfaces themselves; of meshes, of their triangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Area:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triangles:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With which it is drawn and exported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each as often as it stands in the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>measuring...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is open.</source>
+        <translation type="unfinished">열려 있는 모델이 없습니다.</translation>
+    </message>
+    <message>
+        <source>What is selected:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The whole scene:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 × %3 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm³</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none: it is not closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1; %n of the parts are not closed and not in it</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 mm²</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>olFieldGuard</name>
     <message>
         <source>Only %1 can be entered here.</source>
@@ -464,6 +557,70 @@
         <source>Outcome of the import</source>
         <translation>가져오기 결과</translation>
     </message>
+    <message>
+        <source>&amp;Replace the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add to the scene</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>z is up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>y is up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Unit of length:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>U&amp;p axis:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import is done, with remarks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import is done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>
@@ -722,6 +879,24 @@
         <source>&amp;About ORLO</source>
         <translation>ORLO 정보(&amp;A)</translation>
     </message>
+    <message>
+        <source>Facts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 - ORLO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>olMessageLine</name>
@@ -755,6 +930,36 @@
     <message>
         <source>ORLO</source>
         <translation>ORLO</translation>
+    </message>
+    <message>
+        <source>The export failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was written, with remarks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read %1: there is no such file any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files were read.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The import is done, with remarks.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -817,8 +1022,8 @@
 <context>
     <name>olOSGWidget</name>
     <message>
-        <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one. Nothing is clipped.</source>
-        <translation>클리핑 평면 %1 및 %2은(는) 사용할 수 없습니다. 0보다 큰 두 숫자가 필요하며 원거리가 근거리보다 커야 합니다. 클리핑하지 않습니다.</translation>
+        <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1498,6 +1703,21 @@
     </message>
 </context>
 <context>
+    <name>olRecentModels</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  %2 (%3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>olRgbFields</name>
     <message>
         <source>Red</source>
@@ -1682,6 +1902,41 @@
     <message>
         <source>&amp;Why Is This Locked?</source>
         <translation>잠긴 이유(&amp;W)</translation>
+    </message>
+</context>
+<context>
+    <name>olSettingTips</name>
+    <message>
+        <source>Range: %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range: from %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range: up to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes effect at the next import</source>
+        <translation type="unfinished">다음 가져오기에 적용됩니다</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start</source>
+        <translation type="unfinished">다음에 시작할 때 적용됩니다</translation>
+    </message>
+    <message>
+        <source>Takes effect at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2538,6 +2793,22 @@
     <message>
         <source>no page has the setting &quot;%1&quot;</source>
         <translation>설정 &quot;%1&quot;이(가) 있는 페이지가 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 has stored this.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program</source>
+        <translation type="unfinished">다른 프로그램</translation>
+    </message>
+    <message>
+        <source>expected --unit mm, cm, m, in or ft, and --up y or z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no UTF-8</source>
+        <translation type="unfinished">&quot;%1&quot;은(는) UTF-8이 아닙니다</translation>
     </message>
 </context>
 </TS>
