@@ -3,6 +3,7 @@
 #include "olHostExport.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 
 struct olSettingWarning;
 

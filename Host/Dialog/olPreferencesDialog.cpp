@@ -255,8 +255,9 @@ void olPreferencesDialog::recall()
     const olDialogMemory memory = olDialogMemory::recall();
     m_place = memory.place;
     const int character = fontMetrics().averageCharWidth();
+    const int list = std::max(character * 26, m_tree->sizeHint().width());
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
-        m_splitter->setSizes({std::max(character * 26, m_tree->sizeHint().width()), character * 104});
+        m_splitter->setSizes({list, character * 130 - list});
     m_splitter->setChildrenCollapsible(false);
     m_tree->setOpenCategories(memory.openCategories);
     m_tree->choose(memory.page);
