@@ -136,9 +136,6 @@ QStringList stampsOf(const QStringList &files)
     return stamps;
 }
 
-/// From a sentence that is empty where all went well.
-olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
-
 void setDisplayLanguage()
 {
     const int language = olHostSettings::language.value();
@@ -202,9 +199,12 @@ olPreferencesSession::~olPreferencesSession() { stop(); }
 
 olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
-    const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
-    if (!opening.notice.isEmpty())
-        m_notices << opening.notice;
+    const olResult<olStoreOpening> opened = m_store.open(use);
+    if (opened.isOk()) {
+        m_stored = opened->values;
+        if (!opened->notice.isEmpty())
+            m_notices << opened->notice;
+    }
     for (const auto &[key, value] : m_stored) {
         if (key.first == olHome::Record)
             record().set(key.second, value, true);
@@ -218,7 +218,7 @@ olResult<> olPreferencesSession::loadStore(olStoreUse use)
     if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
     setDisplayLanguage();
-    return resultOf(opening.error);
+    return opened.isOk() ? olResult<>() : olFailure{opened.error()};
 }
 
 void olPreferencesSession::stop()
@@ -367,37 +367,35 @@ olResult<> olPreferencesSession::save()
     keepEmptied();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
-    QString error = m_store.save(changes.changed, changes.removed);
-    if (!error.isEmpty() && m_store.isBroken())
-        error = saveIntoMended(error, kept);
-    if (error.isEmpty() && !(changes.changed.empty() && changes.removed.empty())) {
-        for (const auto &[key, value] : changes.changed)
-            m_stored[key] = olValue::adopted(value);
-        for (const olPreferencesStore::Key &key : changes.removed)
-            m_stored.erase(key);
-    }
-    if (error.isEmpty()) {
-        m_chosen.clear();
-        m_restored.clear();
-    }
-    return resultOf(error);
+    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    if (!saved.isOk() && m_store.isBroken())
+        saved = saveIntoMended({saved.error()}, kept);
+    if (!saved.isOk())
+        return saved;
+    for (const auto &[key, value] : changes.changed)
+        m_stored[key] = olValue::adopted(value);
+    for (const olPreferencesStore::Key &key : changes.removed)
+        m_stored.erase(key);
+    m_chosen.clear();
+    m_restored.clear();
+    return saved;
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
-QString olPreferencesSession::saveIntoMended(const QString &error, const Values &kept)
+olResult<> olPreferencesSession::saveIntoMended(const olFailure &failure, const Values &kept)
 {
-    Values mended;
-    const olStoreOpening opening = m_store.open(mended);
-    if (!opening.error.isEmpty())
-        return error;
+    const olResult<olStoreOpening> opened = m_store.open();
+    if (!opened.isOk())
+        return failure;
     // What another program has mended may hold newer values of its own.
-    const bool isOthers = opening.notice.isEmpty() && !mended.empty();
-    const Changes changes = changesTo(isOthers ? m_stored : mended, kept);
-    QString newError = m_store.save(changes.changed, changes.removed);
-    if (newError.isEmpty() && !opening.notice.isEmpty())
-        m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",
-                                                                  " All settings of this run were then saved into it.");
-    return newError;
+    const bool isOthers = opened->notice.isEmpty() && !opened->values.empty();
+    const Changes changes = changesTo(isOthers ? m_stored : opened->values, kept);
+    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    if (saved.isOk() && !opened->notice.isEmpty())
+        m_notices << opened->notice + QLatin1Char(' ') +
+                         QCoreApplication::translate("olPreferencesSession",
+                                                     "All settings of this run were then saved into it.");
+    return saved;
 }
 
 olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
@@ -456,16 +454,15 @@ void olPreferencesSession::takeOver()
     // What is gone or damaged is the next save's to tell.
     if (m_isChanging || !m_store.mayHaveChanged() || !QFileInfo::exists(m_store.file()))
         return;
-    Values stored;
-    olStoreRows::History history;
-    if (!m_store.load(stored, &history).isEmpty())
+    const olResult<olStoreRows::Contents> contents = m_store.load();
+    if (!contents.isOk())
         return;
     const QScopedValueRollback<bool> changing(m_isChanging, true);
-    std::vector<olOutsideChange> changes = replaceStored(stored);
+    std::vector<olOutsideChange> changes = replaceStored(contents->values);
     if (changes.empty())
         return;
     for (olOutsideChange &change : changes) {
-        for (const olStoreRows::Save &save : history) {
+        for (const olStoreRows::Save &save : contents->history) {
             const bool isIn = std::any_of(save.changes.begin(), save.changes.end(),
                                           [&change](const auto &changed) { return changed.key.second == change.key; });
             if (isIn)

@@ -24,10 +24,6 @@ class olPreferencesEntry;
 /// Values of settings by their keys, wherever they are kept.
 using olSettingValues = std::map<std::string, boost::any>;
 
-/// What a run does to the store that it loads: a run of its own keeps it in order, one that only looks leaves the disk
-/// as it is.
-enum class olStoreUse { Own, LookAt };
-
 /// A setting that another program has given another value.
 struct olOutsideChange {
     std::string key;
@@ -157,7 +153,7 @@ private:
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
-    [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
+    olResult<> saveIntoMended(const olFailure &failure, const olPreferencesStore::Values &kept);
     void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;

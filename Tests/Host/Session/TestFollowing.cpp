@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QTest>
 #include <QTreeWidget>
-#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,9 +23,16 @@ protected:
 
     static olPreferencesStore::Key key(const std::string &name) { return {olHome::Record, name}; }
 
+    [[nodiscard]] Values stored()
+    {
+        const olResult<olStoreRows::Contents> contents = other.load();
+        EXPECT_EQ(contents.error(), QString());
+        return contents.isOk() ? contents->values : Values();
+    }
+
     void saveOutside(const Values &changed, const std::vector<olPreferencesStore::Key> &removed = {})
     {
-        ASSERT_EQ(other.save(changed, removed), QString());
+        ASSERT_EQ(other.save(changed, removed).error(), QString());
     }
 
     [[nodiscard]] QWidget &line() const { return *dialog->findChild<QWidget *>(QStringLiteral("outsideChanges")); }
@@ -104,8 +110,7 @@ TEST_F(Following, ASaveWritesNoOlderValueOfWhatWasNotChangedHere)
     saveOutside({{key("Studio samples"), 12}});
     module.page.mode->setCurrentIndex(1);
     ASSERT_TRUE(dialog->apply()) << "before the other one's save was seen";
-    Values values;
-    ASSERT_EQ(other.load(values), QString());
+    Values values = stored();
     EXPECT_TRUE(olValue::identical(values[key("Studio samples")], 12));
     EXPECT_TRUE(olValue::identical(values[key("Studio mode")], 1));
     session->takeOver();
@@ -121,11 +126,12 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     }
     saveOutside({{key("WebInterface white list"), std::string("secret")}, {key("Studio mode"), 1}});
     session->takeOver();
-    const olUndo undo(*session, 2);
-    ASSERT_EQ(undo.history().size(), 3u);
-    EXPECT_EQ(undo.history().back().changes.size(), 1u) << "what is confidential is not remembered";
-    EXPECT_EQ(undo.history().front().changes.front().after->value, "8");
-    ASSERT_EQ(undo.changes().size(), 2u);
+    const olResult<olUndo> undo = olUndo::of(*session, 2);
+    ASSERT_TRUE(undo.isOk());
+    ASSERT_EQ(undo->history().size(), 3u);
+    EXPECT_EQ(undo->history().back().changes.size(), 1u) << "what is confidential is not remembered";
+    EXPECT_EQ(undo->history().front().changes.front().after->value, "8");
+    ASSERT_EQ(undo->changes().size(), 2u);
 
     dialog->showHistory();
     auto *view = opened<QDialog>();
@@ -148,22 +154,18 @@ TEST_F(Following, UndoLeavesWhatChangedSinceOrIsLocked)
 {
     start(R"({"Studio title": {"locked": true}})");
     saveOutside({{key("Studio samples"), 8}, {key("Studio seed"), 3}, {key("Studio title"), QStringLiteral("x")}});
-    saveOutside({{key("Studio mode"), 1}});
+    saveOutside({{key("Studio samples"), 9}, {key("Studio mode"), 1}});
+    olUndo undo = *olUndo::of(*session, 2);
+    EXPECT_EQ(undo.changes().size(), 3u);
     saveOutside({{key("Studio samples"), 20}});
-    sqlite3 *database = nullptr;
-    sqlite3_open(QFile::encodeName(store).constData(), &database);
-    sqlite3_exec(database, "DELETE FROM history WHERE save = 3", nullptr, nullptr, nullptr);
-    sqlite3_close(database);
-    olUndo undo(*session, 2);
+    ASSERT_EQ(undo.save().error(), QString());
     ASSERT_EQ(undo.left().size(), 2u);
-    EXPECT_EQ(undo.left().front().key, "Studio samples");
-    EXPECT_EQ(undo.left().back().key, "Studio title");
-    ASSERT_EQ(undo.save(), QString());
-    Values values;
-    ASSERT_EQ(other.load(values), QString());
+    EXPECT_EQ(undo.left().front().key, "Studio title");
+    EXPECT_EQ(undo.left().back().key, "Studio samples");
+    Values values = stored();
     EXPECT_EQ(values.size(), 2u);
     EXPECT_TRUE(olValue::identical(values[key("Studio samples")], 20));
-    EXPECT_EQ(olUndo(*session, 1).changes().size(), 2u) << "what was taken back can be taken back";
+    EXPECT_EQ(olUndo::of(*session, 1)->changes().size(), 2u) << "what was taken back can be taken back";
 }
 
 TEST_F(Following, AChangedFileOfTheSiteIsTold)
@@ -231,17 +233,13 @@ TEST_F(Following, ProgramsThatSaveAtTheSameTimeEndWithTheSameValuesAndLoseNone)
     for (int number = 1; number <= saves; ++number)
         saveOutside({{key("shared"), number}, {key("outside " + std::to_string(number)), number}});
     for (const std::string &name : names) {
-        const auto isDone = [&] {
-            Values values;
-            return other.load(values).isEmpty() && olValue::identical(values[key(name)], saves);
-        };
+        const auto isDone = [&] { return olValue::identical(stored()[key(name)], saves); };
         ASSERT_TRUE(QTest::qWaitFor(isDone, 20000));
     }
     saveOutside({{key("last"), 1}});
     for (const pid_t child : children)
         ::waitpid(child, nullptr, 0);
-    Values values;
-    ASSERT_EQ(other.load(values), QString());
+    Values values = stored();
     std::string expected;
     for (const auto &[name, value] : values)
         expected += name.second + '=' + olValue::toJson(value) + '\n';

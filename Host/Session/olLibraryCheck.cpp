@@ -1,8 +1,7 @@
-#include "Session/olLibraryFault.h"
+#include "Session/olLibraryCheck.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QString>
 
 #include <cstdint>
 #include <cstring>
@@ -14,8 +13,6 @@ namespace
 
 using Header = ElfW(Ehdr);
 using Segment = ElfW(Phdr);
-
-QString translated(const char *text) { return QCoreApplication::translate("olLibraryFault", text); }
 
 template <class T> bool read(QFile &file, std::uint64_t position, T &structure)
 {
@@ -44,16 +41,18 @@ bool isWhole(QFile &file, const Header &header)
 
 } // namespace
 
-QString olLibraryFault(const QString &name)
+olResult<> olCheckLibrary(const QString &name)
 {
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return olFailure{file.errorString()};
     Header header;
     if (!read(file, 0, header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
-        return translated("it is no library");
+        return olFailure{QCoreApplication::translate("olLibraryCheck", "it is no library")};
     // Of another kind of machine: that the loader tells best itself.
     const bool isOurs = header.e_ident[EI_CLASS] == (sizeof(void *) == 8 ? ELFCLASS64 : ELFCLASS32) &&
                         header.e_phentsize == sizeof(Segment);
-    return !isOurs || isWhole(file, header) ? QString() : translated("its end is missing");
+    if (isOurs && !isWhole(file, header))
+        return olFailure{QCoreApplication::translate("olLibraryCheck", "its end is missing")};
+    return {};
 }
