@@ -14,6 +14,10 @@ namespace
 using Header = ElfW(Ehdr);
 using Segment = ElfW(Phdr);
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olLibraryCheck)
+};
+
 template <class T> bool read(QFile &file, std::uint64_t position, T &structure)
 {
     return file.seek(qint64(position)) &&
@@ -48,11 +52,11 @@ olResult<> olCheckLibrary(const QString &name)
         return olFailure{file.errorString()};
     Header header;
     if (!read(file, 0, header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
-        return olFailure{QCoreApplication::translate("olLibraryCheck", "it is no library")};
+        return olFailure{Words::tr("it is no library")};
     // Of another kind of machine: that the loader tells best itself.
     const bool isOurs = header.e_ident[EI_CLASS] == (sizeof(void *) == 8 ? ELFCLASS64 : ELFCLASS32) &&
                         header.e_phentsize == sizeof(Segment);
     if (isOurs && !isWhole(file, header))
-        return olFailure{QCoreApplication::translate("olLibraryCheck", "its end is missing")};
+        return olFailure{Words::tr("its end is missing")};
     return {};
 }

@@ -18,7 +18,7 @@ using namespace olStoreRows;
 using Kind = olStoreError::Kind;
 using Text = olSqlite::Text;
 
-struct Tables {
+struct Words {
     Q_DECLARE_TR_FUNCTIONS(olStoreTables)
 };
 
@@ -67,12 +67,12 @@ std::optional<Row> rowOf(const Text &type, const Text &value)
 void requireOurs(olSqlite &database)
 {
     if (database.number("PRAGMA application_id") != applicationId)
-        throw olStoreError(Kind::Foreign, Tables::tr("it is another program's database"));
+        throw olStoreError(Kind::Foreign, Words::tr("it is another program's database"));
     const int format = database.number("PRAGMA user_version");
     if (format > currentFormat)
-        throw olStoreError(Kind::Newer, Tables::tr("it was written by a newer version"));
+        throw olStoreError(Kind::Newer, Words::tr("it was written by a newer version"));
     if (format < earlierFormat)
-        throw olStoreError(Kind::Damaged, Tables::tr("its format is unknown"));
+        throw olStoreError(Kind::Damaged, Words::tr("its format is unknown"));
     const auto count = [&database](const olSqlite::Row &texts) {
         int found = 0;
         database.run("SELECT sql FROM sqlite_schema WHERE sql IN (?, ?, ?) OR type = 'trigger'", texts,
@@ -80,9 +80,9 @@ void requireOurs(olSqlite &database)
         return found;
     };
     if (count({settingTable, sealTable, historyTable}) != (format == earlierFormat ? 1 : 3))
-        throw olStoreError(Kind::Damaged, Tables::tr("its tables are not what they were"));
+        throw olStoreError(Kind::Damaged, Words::tr("its tables are not what they were"));
     if (database.text("PRAGMA quick_check(1)") != "ok")
-        throw olStoreError(Kind::Damaged, Tables::tr("its structure is broken"));
+        throw olStoreError(Kind::Damaged, Words::tr("its structure is broken"));
 }
 
 /// What the seal over the rows must be.
@@ -129,7 +129,7 @@ std::string olStoreTables::readRows(olSqlite &database, Values *values)
     requireOurs(database);
     std::string seal = sealOf(database, values);
     if (database.text("SELECT group_concat(rows) FROM seal") != seal)
-        throw olStoreError(Kind::Damaged, Tables::tr("rows were changed or are missing"));
+        throw olStoreError(Kind::Damaged, Words::tr("rows were changed or are missing"));
     return seal;
 }
 
@@ -142,7 +142,7 @@ History olStoreTables::readHistory(olSqlite &database)
         const Text proof = row.back();
         row.pop_back();
         if (proof != checksum(row))
-            throw olStoreError(Kind::Damaged, Tables::tr("its history was changed"));
+            throw olStoreError(Kind::Damaged, Words::tr("its history was changed"));
         const int number = std::atoi(row[0].value_or("").c_str());
         if (history.empty() || history.back().number != number)
             history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});

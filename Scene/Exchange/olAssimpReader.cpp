@@ -58,7 +58,7 @@ public:
     {
         const QStringList files = found(name);
         if (files.isEmpty()) {
-            m_remarks << reason("The file %1 that it refers to was not found.")
+            m_remarks << olReason::tr("The file %1 that it refers to was not found.")
                              .arg(QFileInfo(QFile::decodeName(name)).fileName());
             return nullptr;
         }
@@ -479,12 +479,12 @@ QString olAssimpReader::read(const olImportJob &job, const Manner &manner, const
                           aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices);
     if (!scene || !scene->mRootNode) {
         const QString fault = QString::fromUtf8(importer.GetErrorString()).section(QLatin1Char('\n'), 0, 0).trimmed();
-        return fault.isEmpty() ? damaged() : reason("the file is damaged (%1)").arg(fault);
+        return fault.isEmpty() ? damaged() : olReason::tr("the file is damaged (%1)").arg(fault);
     }
     Conversion conversion(*scene, manner, document, QFileInfo(job.file).completeBaseName());
     if (!conversion.run())
-        return reason("its groups are nested too deeply");
+        return olReason::tr("its groups are nested too deeply");
     if (conversion.leftOut() > 0)
-        remarks << reason("%1 of its meshes are lines or points, which are left out.").arg(conversion.leftOut());
+        remarks << olReason::tr("%1 of its meshes are lines or points, which are left out.").arg(conversion.leftOut());
     return {};
 }

@@ -32,7 +32,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olExport", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olExport)
+};
 
 /// What stands where in which group, as a key.
 std::string placeOf(const TDF_Label &instance)
@@ -63,14 +65,14 @@ olScene::Document withoutMeshes(const olScene::Document &document, QStringList &
     copy.isWanted = [&places, &remarks](const TDF_Label &instance) {
         if (!XCAFDoc_ShapeTool::IsComponent(instance) || places.insert(placeOf(instance)).second)
             return true;
-        remarks << translated("%1 stands twice in the same place; it is written once.").arg(olShownNameOf(instance));
+        remarks << Words::tr("%1 stands twice in the same place; it is written once.").arg(olShownNameOf(instance));
         return false;
     };
     copy.changePart = [&remarks](const TDF_Label &label, olChangedPart &part) {
         olPartChanges::keepOnly(part, {true, false, true});
         if (part.shape.IsNull())
             remarks
-                << translated("%1 is a mesh, which this format cannot hold; it is left out.").arg(olShownNameOf(label));
+                << Words::tr("%1 is a mesh, which this format cannot hold; it is left out.").arg(olShownNameOf(label));
     };
     return copy.copy(document);
 }
@@ -107,14 +109,14 @@ QString lossOf(const olScene::Document &document, const olModelFormat &format)
                                        [](const TDF_Label &label) { return XCAFDoc_ShapeTool::IsAssembly(label); });
     QStringList lost;
     if (!format.holds(olModelFormat::Colors) && !(colors.IsEmpty() && looks.IsEmpty()))
-        lost << translated("colours");
+        lost << Words::tr("colours");
     if (!format.holds(olModelFormat::Textures) && hasTextures(document))
-        lost << translated("textures");
+        lost << Words::tr("textures");
     if (!format.holds(olModelFormat::Structure) && hasGroups)
-        lost << translated("groups of parts");
+        lost << Words::tr("groups of parts");
     return lost.isEmpty() ? QString()
-                          : translated("%1 knows no %2; they are not written.")
-                                .arg(QLatin1String(format.name), lost.join(translated(" and no ")));
+                          : Words::tr("%1 knows no %2; they are not written.")
+                                .arg(QLatin1String(format.name), lost.join(Words::tr(" and no ")));
 }
 
 /// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
@@ -141,19 +143,19 @@ QString writeThroughTemporary(const olScene::Document &document, const olModelFo
     const QTemporaryDir folder(
         QDir(olImportJob::of(file).temporaryDirectory).filePath(QStringLiteral("orlo-export-XXXXXX")));
     if (!folder.isValid())
-        return translated("the temporary directory cannot be written to");
+        return Words::tr("the temporary directory cannot be written to");
     const QFileInfo target(file);
     if (!format.write(document, folder.filePath(target.fileName()), remarks))
-        return translated("the writer failed");
+        return Words::tr("the writer failed");
     if (!QFileInfo(folder.filePath(target.fileName())).isFile())
-        return translated("the writer failed");
+        return Words::tr("the writer failed");
     // Textures stand in a folder of their own.
     const QDir from(folder.path());
     for (QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
         const QString written = each.next();
         const QString place = target.absoluteDir().filePath(from.relativeFilePath(written));
         if (!QDir().mkpath(QFileInfo(place).path()))
-            return translated("the folder %1 cannot be made").arg(QFileInfo(place).path());
+            return Words::tr("the folder %1 cannot be made").arg(QFileInfo(place).path());
         const QString fault = putInPlace(written, place);
         if (!fault.isEmpty())
             return fault;
@@ -168,15 +170,15 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
         const olScene::Document content =
             format.holds(olModelFormat::Meshes) ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
-            return translated("there is nothing that this format can hold");
+            return Words::tr("there is nothing that this format can hold");
         const QString loss = lossOf(content, format);
         if (!loss.isEmpty())
             remarks << loss;
         return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
-        return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+        return Words::tr("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
     } catch (const std::exception &failure) {
-        return translated("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+        return Words::tr("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
     }
 }
 
@@ -193,6 +195,6 @@ olExportResult olExportScene(const olScene::Document &document, const QString &f
     }
     const QString fault = attempt(document, *format, file, result.remarks);
     if (!fault.isEmpty())
-        result.error = translated("Cannot write %1: %2.").arg(file, fault);
+        result.error = Words::tr("Cannot write %1: %2.").arg(file, fault);
     return result;
 }

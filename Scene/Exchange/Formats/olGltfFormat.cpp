@@ -57,9 +57,9 @@ QString bufferFault(const QJsonObject &buffer, const QDir &folder)
     const QString name = QUrl::fromPercentEncoding(uri.toUtf8());
     const QFileInfo info(folder.filePath(name));
     if (!info.isFile() || !info.isReadable())
-        return reason("the file %1 that it refers to cannot be read").arg(name);
+        return olReason::tr("the file %1 that it refers to cannot be read").arg(name);
     return double(info.size()) < value(buffer, "byteLength")
-               ? reason("the file %1 that it refers to is cut off").arg(name)
+               ? olReason::tr("the file %1 that it refers to is cut off").arg(name)
                : QString();
 }
 
@@ -84,7 +84,7 @@ QString extensionFault(const QJsonObject &model)
     const QJsonArray required = model.value(QLatin1String("extensionsRequired")).toArray();
     for (const QJsonValue &each : required) {
         if (!known.contains(each.toString()))
-            return reason("it requires the extension %1, which is not supported").arg(each.toString());
+            return olReason::tr("it requires the extension %1, which is not supported").arg(each.toString());
     }
     return {};
 }
@@ -100,7 +100,7 @@ QString nestingFault(const QJsonObject &model)
         for (const QJsonValue &child : children) {
             const int number = child.toInt(-1);
             if (number < 0 || number >= nodes.size())
-                return reason("the file is damaged: a node refers to one that is not there");
+                return olReason::tr("the file is damaged: a node refers to one that is not there");
             parents[std::size_t(number)] = index;
         }
     }
@@ -108,7 +108,7 @@ QString nestingFault(const QJsonObject &model)
         int depth = 0;
         for (int up = node; up >= 0; up = parents[std::size_t(up)]) {
             if (++depth > deepest)
-                return reason("its groups are nested too deeply");
+                return olReason::tr("its groups are nested too deeply");
         }
     }
     return {};
@@ -131,7 +131,7 @@ QString contentFault(const QJsonObject &model, const QDir &folder)
         const QJsonObject view = each.toObject();
         const QJsonObject buffer = buffers.at(int(value(view, "buffer"))).toObject();
         if (value(view, "byteOffset") + value(view, "byteLength") > value(buffer, "byteLength"))
-            return reason("the file is damaged: a part of it lies beyond its end");
+            return olReason::tr("the file is damaged: a part of it lies beyond its end");
     }
     const QJsonArray accessors = model.value(QLatin1String("accessors")).toArray();
     for (const QJsonValue &each : accessors) {
@@ -141,7 +141,7 @@ QString contentFault(const QJsonObject &model, const QDir &folder)
         const QJsonObject view = views.at(accessor.value(QLatin1String("bufferView")).toInt(-1)).toObject();
         const double needed = value(accessor, "byteOffset") + value(accessor, "count") * elementSize(accessor);
         if (needed > value(view, "byteLength"))
-            return reason("the file is damaged: it announces more than it holds");
+            return olReason::tr("the file is damaged: it announces more than it holds");
     }
     return {};
 }
@@ -153,7 +153,8 @@ QString modelFault(const QByteArray &text, const QString &file)
     if (error.error == QJsonParseError::NoError)
         return contentFault(model.object(), QFileInfo(file).absoluteDir());
     // The parser has a limit of its own, which the reader does not share.
-    return error.error == QJsonParseError::DocumentTooLarge ? QString() : reason("the file is cut off or damaged");
+    return error.error == QJsonParseError::DocumentTooLarge ? QString()
+                                                            : olReason::tr("the file is cut off or damaged");
 }
 
 QString check(QFile &file, QStringList &)
@@ -162,11 +163,11 @@ QString check(QFile &file, QStringList &)
     if (!head.startsWith("glTF")) {
         file.seek(0);
         return head.trimmed().startsWith('{') ? modelFault(file.readAll(), file.fileName())
-                                              : reason("this is no glTF file");
+                                              : olReason::tr("this is no glTF file");
     }
     if (head.size() < binaryHead + chunkHead || file.size() < number(head, 8) ||
         file.size() < qint64(binaryHead + chunkHead) + number(head, binaryHead))
-        return reason("the file is cut off or damaged");
+        return olReason::tr("the file is cut off or damaged");
     return modelFault(file.read(number(head, binaryHead)), file.fileName());
 }
 

@@ -110,7 +110,7 @@ QString check(QFile &file, QStringList &)
 {
     const QByteArray first = file.readLine(256);
     if (first.size() < 73 || (first.at(72) != 'S' && first.at(72) != 'C' && first.at(72) != 'B'))
-        return reason("this is no IGES file");
+        return olReason::tr("this is no IGES file");
     file.seek(0);
     Lines lines;
     for (int number = 1; !file.atEnd(); ++number) {
@@ -118,7 +118,7 @@ QString check(QFile &file, QStringList &)
         while (line.endsWith('\n') || line.endsWith('\r'))
             line.chop(1);
         if (!line.trimmed().isEmpty() && !lines.take(line))
-            return reason("the file is damaged in line %1").arg(number);
+            return olReason::tr("the file is damaged in line %1").arg(number);
     }
     return lines.isWhole() ? QString() : cutOff();
 }
@@ -136,7 +136,7 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
         return damaged();
     olScene::Document target = document;
-    return reader.Transfer(target, progress) ? QString() : reason("its content cannot be taken over");
+    return reader.Transfer(target, progress) ? QString() : olReason::tr("its content cannot be taken over");
 }
 
 constexpr float barelyTransparent = 0.999f;

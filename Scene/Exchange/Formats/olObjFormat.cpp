@@ -60,7 +60,7 @@ private:
         ++number;
         for (int index = 1; index <= needed; ++index) {
             if (index >= words.size() || !isNumber(words.at(index)))
-                return reason("a point lacks a coordinate");
+                return olReason::tr("a point lacks a coordinate");
         }
         return {};
     }
@@ -68,11 +68,11 @@ private:
     QString face(const QList<QByteArray> &words)
     {
         if (words.size() < 4)
-            return reason("a face has fewer than three corners");
+            return olReason::tr("a face has fewer than three corners");
         for (int index = 1; index < words.size(); ++index) {
             const QList<QByteArray> corner = words.at(index).split('/');
             if (!refers(corner, 0, m_points) || !refers(corner, 1, m_textures) || !refers(corner, 2, m_normals))
-                return reason("a face refers to a point that is not there");
+                return olReason::tr("a face refers to a point that is not there");
         }
         return {};
     }
@@ -108,15 +108,15 @@ QString check(QFile &file, QStringList &remarks)
         while (line.endsWith("\\\n") || line.endsWith("\\\r\n"))
             line = line.left(line.lastIndexOf('\\')) + ' ' + file.readLine();
         if (line.contains('\0'))
-            return reason("this is no OBJ file");
+            return olReason::tr("this is no OBJ file");
         const QString fault = lines.take(line);
         if (!fault.isEmpty())
-            return reason("the file is cut off or damaged: in line %1 %2").arg(number).arg(fault);
+            return olReason::tr("the file is cut off or damaged: in line %1 %2").arg(number).arg(fault);
     }
     if (!endsWithLine && lines.endsWithPoints())
-        return reason("the file is cut off or damaged: it ends within its points");
+        return olReason::tr("the file is cut off or damaged: it ends within its points");
     if (lines.endsWithPoints())
-        remarks << reason("The model ends with points that no face uses; the file may be cut off.");
+        remarks << olReason::tr("The model ends with points that no face uses; the file may be cut off.");
     const QString materials = lines.materials();
     const QDir folder = QFileInfo(file).absoluteDir();
     const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -125,7 +125,7 @@ QString check(QFile &file, QStringList &remarks)
                              return QFileInfo::exists(folder.filePath(word));
                          });
     if (!materials.isEmpty() && !isThere)
-        remarks << reason("The materials file %1 is not there; the model has no colours.").arg(materials);
+        remarks << olReason::tr("The materials file %1 is not there; the model has no colours.").arg(materials);
     return {};
 }
 

@@ -66,13 +66,13 @@ QString check(QFile &file, QStringList &remarks)
         if (file.size() == size)
             return {};
         if (!isText(start) && file.size() > size && size > binaryHead) {
-            remarks << reason("%1 bytes behind its end were passed over.").arg(file.size() - size);
+            remarks << olReason::tr("%1 bytes behind its end were passed over.").arg(file.size() - size);
             return {};
         }
     }
     if (isText(start))
         return tailOf(file).toLower().contains("endsolid") ? QString() : cutOff();
-    return start.size() < binaryHead ? reason("this is no STL file") : cutOff();
+    return start.size() < binaryHead ? olReason::tr("this is no STL file") : cutOff();
 }
 
 /// Corners that lie in one place become one node.
@@ -240,7 +240,7 @@ bool readFacet(Words &words, Solid &solid)
 QString readText(const QByteArray &text, std::vector<Solid> &solids, Message_ProgressScope &scope, QStringList &remarks)
 {
     Words words(text);
-    const auto damagedHere = [&] { return reason("the file is damaged in line %1").arg(words.line(text)); };
+    const auto damagedHere = [&] { return olReason::tr("the file is damaged in line %1").arg(words.line(text)); };
     std::size_t told = words.left();
     for (std::string_view word = words.next(); !word.empty(); word = words.next()) {
         const bool isSolid = word.size() == 5 && QByteArray::fromRawData(word.data(), 5).toLower() == "solid";
@@ -263,7 +263,7 @@ QString readText(const QByteArray &text, std::vector<Solid> &solids, Message_Pro
         words.rest();
     }
     if (words.wordsForNumbers() > 0)
-        remarks << reason("%1 of its numbers are words, which count as 0.").arg(words.wordsForNumbers());
+        remarks << olReason::tr("%1 of its numbers are words, which count as 0.").arg(words.wordsForNumbers());
     return {};
 }
 
@@ -323,14 +323,14 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     std::vector<olMeshDocument::Member> parts;
     for (const Solid &solid : solids) {
         if (solid.triangles.empty()) {
-            remarks << reason("The solid %1 is empty.").arg(solid.name);
+            remarks << olReason::tr("The solid %1 is empty.").arg(solid.name);
             continue;
         }
         const TDF_Label part = target.addPart(solids.size() == 1 ? name : solid.name, {{meshOf(solid), {}}});
         parts.push_back({part, {}, solid.name});
     }
     if (parts.empty())
-        return reason("there is no geometry in it");
+        return olReason::tr("there is no geometry in it");
     if (solids.size() > 1)
         target.addGroup(name, parts);
     target.finish();

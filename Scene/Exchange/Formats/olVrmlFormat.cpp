@@ -86,7 +86,8 @@ namespace
 QString check(QFile &file, QStringList &)
 {
     const QByteArray head = file.read(64);
-    return head.startsWith("#VRML V2") || head.startsWith("#VRML V1") ? QString() : reason("this is no VRML file");
+    return head.startsWith("#VRML V2") || head.startsWith("#VRML V1") ? QString()
+                                                                      : olReason::tr("this is no VRML file");
 }
 
 /// The first fault that Coin finds in a file; it goes on reading all the same, or not.
@@ -412,8 +413,8 @@ QString faultOfText()
     const QString what = firstFault().section(QLatin1Char('\n'), 0, 0).section(QStringLiteral(": "), 1).trimmed();
     if (what.isEmpty())
         return damaged();
-    return line.isEmpty() ? reason("the file is damaged (%1)").arg(what)
-                          : reason("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
+    return line.isEmpty() ? olReason::tr("the file is damaged (%1)").arg(what)
+                          : olReason::tr("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
 }
 
 /// Builds a document from Coin's scene.
@@ -448,7 +449,8 @@ public:
         m_target.addGroup(m_name, members);
         m_target.finish();
         if (m_lineSets > 0)
-            m_remarks << reason("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
+            m_remarks
+                << olReason::tr("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
         return m_fault;
     }
 
@@ -518,8 +520,8 @@ private:
         if (!node || !m_fault.isEmpty())
             return;
         if (depth > deepest || m_open.count(node) > 0) {
-            m_fault =
-                depth > deepest ? reason("its groups are nested too deeply") : reason("a group in it holds itself");
+            m_fault = depth > deepest ? olReason::tr("its groups are nested too deeply")
+                                      : olReason::tr("a group in it holds itself");
             return;
         }
         const olMeshDocument::Placement placement =
@@ -576,7 +578,7 @@ private:
         if (!geometry)
             return {};
         if (!hasItsPoints(geometry)) {
-            m_fault = reason("the file is damaged: a face refers to a point that is not there");
+            m_fault = olReason::tr("the file is damaged: a face refers to a point that is not there");
             return {};
         }
         SoNode *node = shape->appearance.getValue();
@@ -668,14 +670,14 @@ private:
         const QString url = firstThere(m_links[std::size_t(number)]);
         const QFileInfo file(m_folder.filePath(url));
         if (!file.isFile()) {
-            const QString remark = reason("The file %1 that it refers to was not found.").arg(url);
+            const QString remark = olReason::tr("The file %1 that it refers to was not found.").arg(url);
             if (!m_remarks.contains(remark))
                 m_remarks << remark;
             return nullptr;
         }
         const QString name = file.canonicalFilePath();
         if (m_openFiles.contains(name)) {
-            m_fault = reason("it refers to itself through %1").arg(url);
+            m_fault = olReason::tr("it refers to itself through %1").arg(url);
             return nullptr;
         }
         if (SoSeparator *known = m_roots.value(name))
@@ -683,7 +685,7 @@ private:
         bool isOld = false;
         SoSeparator *content = readRoot(name, m_links, isOld);
         if (!content) {
-            m_fault = reason("the file %1 that it refers to cannot be read").arg(url);
+            m_fault = olReason::tr("the file %1 that it refers to cannot be read").arg(url);
             return nullptr;
         }
         m_roots.insert(name, content);
@@ -744,7 +746,7 @@ private:
             return SoCallbackAction::CONTINUE;
         if (refersToPoints(static_cast<const SoIndexedShape &>(shape).coordIndex, at.getNumCoordinates()))
             return SoCallbackAction::CONTINUE;
-        m_fault = reason("the file is damaged: a face refers to a point that is not there");
+        m_fault = olReason::tr("the file is damaged: a face refers to a point that is not there");
         return SoCallbackAction::ABORT;
     }
 
