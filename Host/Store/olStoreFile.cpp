@@ -174,7 +174,6 @@ olStoreRows::Contents olStoreFile::read() const
     olStoreRows::Contents contents;
     if (!exists())
         return contents;
-    const QByteArray header = this->header();
     try {
         look([&contents](olSqlite &database) {
             database.run("BEGIN");
@@ -184,11 +183,13 @@ olStoreRows::Contents olStoreFile::read() const
         });
         if (contents.seal.empty() && m_wasStore)
             throw olStoreError(Kind::Damaged, tr("there is nothing in it"));
-        if (!contents.seal.empty() && versionsIn(header) != "\1\1" && versionsIn(header) != "\2\2")
+        // Only now: another program may just have filled the file.
+        const QByteArray versions = versionsIn(header());
+        if (!contents.seal.empty() && versions != "\1\1" && versions != "\2\2")
             throw olStoreError(Kind::Damaged, tr("its header is not what it was"));
         return contents;
     } catch (const olStoreError &error) {
-        if (error.kind() == Kind::Damaged && !m_wasStore && !looksLikeAStore(header))
+        if (error.kind() == Kind::Damaged && !m_wasStore && !looksLikeAStore(header()))
             throw olStoreError(Kind::Foreign, tr("it is no preferences file"));
         if (error.kind() == Kind::Foreign && m_wasStore)
             throw olStoreError(Kind::Damaged, error.reason());

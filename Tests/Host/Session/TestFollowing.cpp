@@ -2,12 +2,9 @@
 #include "Session/olUndo.h"
 #include "State/olValue.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 #include <QTreeWidget>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <string>
 #include <vector>
@@ -179,76 +176,6 @@ TEST_F(Following, AChangedFileOfTheSiteIsTold)
     site.close();
     EXPECT_TRUE(QTest::qWaitFor([this] { return session->takeNotices().join(QString()).contains(siteFile); }, 1000));
     EXPECT_EQ(module.value<int>("Studio samples"), 4) << "it counts from the next start";
-}
-
-/// In a process of its own: a host that follows the store, and now and then saves a value of its own.
-std::string runHost(const QString &store, const std::string &own, int saves)
-{
-    olPreferencesSession session(store, {});
-    if (!session.loadStore().isOk())
-        return "cannot load";
-    int saved = 0;
-    const auto last = [] {
-        const int *value = boost::any_cast<int>(&olPreferences::getData().get("last"));
-        return value ? *value : 0;
-    };
-    QElapsedTimer timer;
-    timer.start();
-    while (saved < saves || last() == 0) {
-        session.takeOver();
-        if (saved < saves) {
-            olPreferences::getData().set(own, ++saved, true);
-            if (!session.save().isOk())
-                return "cannot save";
-        }
-        ::usleep(2000);
-        if (timer.elapsed() > 20000)
-            return own + " waits in vain";
-    }
-    session.takeOver();
-    std::string text;
-    for (const auto &[key, value] : olPreferences::getData().entries())
-        text += key + '=' + olValue::toJson(value) + '\n';
-    return text;
-}
-
-TEST_F(Following, ProgramsThatSaveAtTheSameTimeEndWithTheSameValuesAndLoseNone)
-{
-    constexpr int saves = 30;
-    const std::vector<std::string> names{"one", "two"};
-    std::vector<QString> results;
-    std::vector<pid_t> children;
-    for (const std::string &name : names) {
-        results.push_back(folder.filePath(QString::fromStdString(name)));
-        children.push_back(::fork());
-        if (children.back() == 0) {
-            const std::string text = runHost(store, name, saves);
-            QFile result(results.back());
-            result.open(QIODevice::WriteOnly);
-            result.write(text.data(), qint64(text.size()));
-            result.close();
-            ::_exit(0);
-        }
-    }
-    for (int number = 1; number <= saves; ++number)
-        saveOutside({{key("shared"), number}, {key("outside " + std::to_string(number)), number}});
-    for (const std::string &name : names) {
-        const auto isDone = [&] { return olValue::identical(stored()[key(name)], saves); };
-        ASSERT_TRUE(QTest::qWaitFor(isDone, 20000));
-    }
-    saveOutside({{key("last"), 1}});
-    for (const pid_t child : children)
-        ::waitpid(child, nullptr, 0);
-    Values values = stored();
-    std::string expected;
-    for (const auto &[name, value] : values)
-        expected += name.second + '=' + olValue::toJson(value) + '\n';
-    EXPECT_EQ(values.size(), std::size_t(saves) + 4);
-    for (const QString &result : results) {
-        QFile file(result);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_EQ(file.readAll().toStdString(), expected);
-    }
 }
 
 } // namespace
