@@ -211,7 +211,8 @@ private:
     /// Names that the library makes up for what has none.
     static QString ownName(const aiString &text)
     {
-        static const QRegularExpression madeUp(QStringLiteral("^(nodes|meshes|materials)[_[]\\d+\\]?$"));
+        static const QRegularExpression madeUp(
+            QStringLiteral("^(?:(?:nodes|meshes|materials)[_[]\\d+\\]?|default|defaultobject)$"));
         const QString name = textOf(text);
         return madeUp.match(name).hasMatch() ? QString() : name;
     }
@@ -371,7 +372,18 @@ private:
             setPhysical(*look, material);
         else
             setCommon(*look, material);
+        if (ownName(name).isEmpty() && saysNothing(*look))
+            return {};
         return m_document.addLook(look, ownName(name));
+    }
+
+    /// The library makes one up for what has none.
+    static bool saysNothing(const XCAFDoc_VisMaterial &look)
+    {
+        XCAFDoc_VisMaterialPBR nothing;
+        nothing.IsDefined = Standard_True;
+        return look.HasPbrMaterial() && look.PbrMaterial().IsEqual(nothing) &&
+               look.AlphaMode() == Graphic3d_AlphaMode_Opaque;
     }
 
     void setPhysical(XCAFDoc_VisMaterial &look, const aiMaterial &material) const
@@ -422,12 +434,11 @@ private:
         material.Get(AI_MATKEY_COLOR_EMISSIVE, emissive);
         material.Get(AI_MATKEY_OPACITY, opacity);
         material.Get(AI_MATKEY_SHININESS, shininess);
-        constexpr float shiniest = 1000;
         XCAFDoc_VisMaterialCommon common =
             olPlainLook::bareLook(Quantity_ColorRGBA(colorOf(diffuse), float(part(opacity))));
         common.SpecularColor = colorOf(specular);
         common.EmissiveColor = colorOf(emissive);
-        common.Shininess = float(part(shininess / shiniest));
+        common.Shininess = float(part(shininess / olPlainLook::shiniest));
         common.DiffuseTexture = textureOf(material, aiTextureType_DIFFUSE);
         look.SetCommonMaterial(common);
     }

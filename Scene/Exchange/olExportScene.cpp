@@ -1,5 +1,6 @@
 #include "Exchange/olExportScene.h"
 
+#include "Exchange/olDocumentContent.h"
 #include "Exchange/olImportJob.h"
 #include "Exchange/olModelFormat.h"
 #include "Exchange/olPartChanges.h"
@@ -10,21 +11,19 @@
 #include <TDF_LabelSequence.hxx>
 #include <TDF_Tool.hxx>
 #include <TDocStd_Document.hxx>
-#include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
-#include <XCAFDoc_VisMaterial.hxx>
-#include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QPair>
 #include <QSaveFile>
 #include <QTemporaryDir>
+#include <QVector>
 
-#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -84,39 +83,34 @@ bool isEmpty(const olScene::Document &document)
     return labels.IsEmpty();
 }
 
-bool hasTextures(const olScene::Document &document)
+/// What of the document a file of the format will not have, in a sentence or two.
+QStringList lossesOf(const olScene::Document &document, const olModelFormat &format)
 {
-    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
-    TDF_LabelSequence labels;
-    tool->GetMaterials(labels);
-    return std::any_of(labels.begin(), labels.end(), [&tool](const TDF_Label &label) {
-        const Handle(XCAFDoc_VisMaterial) look = tool->GetMaterial(label);
-        return !look.IsNull() && ((look->HasCommonMaterial() && !look->CommonMaterial().DiffuseTexture.IsNull()) ||
-                                  (look->HasPbrMaterial() && !look->PbrMaterial().BaseColorTexture.IsNull()));
-    });
-}
-
-/// What of the document a file of the format will not have, in one sentence; empty where it has all.
-QString lossOf(const olScene::Document &document, const olModelFormat &format)
-{
-    TDF_LabelSequence colors;
-    TDF_LabelSequence looks;
-    TDF_LabelSequence shapes;
-    XCAFDoc_DocumentTool::ColorTool(document->Main())->GetColors(colors);
-    XCAFDoc_DocumentTool::VisMaterialTool(document->Main())->GetMaterials(looks);
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(shapes);
-    const bool hasGroups = std::any_of(shapes.begin(), shapes.end(),
-                                       [](const TDF_Label &label) { return XCAFDoc_ShapeTool::IsAssembly(label); });
-    QStringList lost;
-    if (!format.holds(olModelFormat::Colors) && !(colors.IsEmpty() && looks.IsEmpty()))
-        lost << Words::tr("colours");
-    if (!format.holds(olModelFormat::Textures) && hasTextures(document))
-        lost << Words::tr("textures");
-    if (!format.holds(olModelFormat::Structure) && hasGroups)
-        lost << Words::tr("groups of parts");
-    return lost.isEmpty() ? QString()
-                          : Words::tr("%1 knows no %2; they are not written.")
-                                .arg(QLatin1String(format.name), lost.join(Words::tr(" and no ")));
+    const unsigned lost = olDocumentContent(document) & ~format.content;
+    const QVector<QPair<unsigned, QString>> kinds{
+        {olModelFormat::Curves, Words::tr("curves")},
+        {olModelFormat::Names, Words::tr("names of parts")},
+        {olModelFormat::Structure, Words::tr("groups of parts")},
+        {olModelFormat::Colors, Words::tr("colours")},
+        {olModelFormat::CornerColors, Words::tr("colours of corners")},
+        {olModelFormat::Opacity, Words::tr("opacity")},
+        {olModelFormat::Textures, Words::tr("textures")},
+        {olModelFormat::Substances, Words::tr("physical materials")},
+        {olModelFormat::Layers, Words::tr("layers")},
+        {olModelFormat::Hidden, Words::tr("hidden parts")},
+    };
+    QStringList names;
+    for (const auto &[kind, name] : kinds) {
+        if (lost & kind)
+            names << name;
+    }
+    QStringList losses;
+    if (lost & olModelFormat::Surfaces)
+        losses << Words::tr("%1 knows no exact surfaces; their triangles are written.").arg(QLatin1String(format.name));
+    if (!names.isEmpty())
+        losses << Words::tr("These are not in the file, as %1 does not know them: %2.")
+                      .arg(QLatin1String(format.name), names.join(QStringLiteral(", ")));
+    return losses;
 }
 
 /// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
@@ -171,9 +165,7 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
             format.holds(olModelFormat::Meshes) ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
             return Words::tr("there is nothing that this format can hold");
-        const QString loss = lossOf(content, format);
-        if (!loss.isEmpty())
-            remarks << loss;
+        remarks << lossesOf(content, format);
         return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
         return Words::tr("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));

@@ -169,10 +169,9 @@ private:
     /// Meshes that say nothing of their normals are smooth where they are nearly so.
     static void sharpen(const TopoDS_Shape &shape)
     {
-        constexpr double creaseAngle = 30.0 * 0.017453292519943295;
         eachMesh(shape, [](const TopoDS_Face &face, const Handle(Poly_Triangulation) & mesh) {
             if (!mesh->HasNormals())
-                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, creaseAngle));
+                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, olMeshTools::usualCrease));
         });
     }
 

@@ -249,7 +249,9 @@ olModelFormat olStepFormat()
     return {"STEP",
             "STEP",
             {QStringLiteral("step"), QStringLiteral("stp")},
-            olModelFormat::Surfaces | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure,
+            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Opacity |
+                olModelFormat::Structure | olModelFormat::Names | olModelFormat::Substances | olModelFormat::Layers |
+                olModelFormat::Hidden,
             check,
             read,
             write};
