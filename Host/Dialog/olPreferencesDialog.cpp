@@ -128,7 +128,7 @@ QWidget *olPreferencesDialog::buildLeft()
     menu->addSeparator();
     auto *profiles = new olProfilesMenu({m_session.store().file(), m_session.siteFiles()}, this);
     menu->addMenu(profiles);
-    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_pending->inForce()); });
+    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_session, *m_pending); });
     connect(profiles, &olProfilesMenu::done, m_message, &olMessageLine::showNote);
     connect(profiles, &olProfilesMenu::failed, m_message, &olMessageLine::showError);
     connect(profiles, &olProfilesMenu::chosen, this, [this](const QString &name, const QString &file) {

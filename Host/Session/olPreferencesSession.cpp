@@ -241,7 +241,7 @@ void olPreferencesSession::fillDefaults()
     for (olPreferencesEntry *entry : entries())
         entry->setDefaults(false);
 
-    settleSite(m_site);
+    resolveSite(m_site);
     m_notices << m_site.takeFaults();
     for (const auto &[key, list] : optionalLists()) {
         // At this site it has a default like any other.
@@ -259,14 +259,14 @@ void olPreferencesSession::fillDefaults()
     restoreLocked();
 }
 
-void olPreferencesSession::settleSite(olSiteDefaults &site) const
+void olPreferencesSession::resolveSite(olSiteDefaults &site) const
 {
     const auto optional = optionalLists();
     const auto defaultOf = [this, &optional](const std::string &key) {
         const auto list = optional.find(key);
         return list == optional.end() ? defaultValue(key) : list->second.none;
     };
-    site.settle(defaultOf,
+    site.resolve(defaultOf,
                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
@@ -633,7 +633,7 @@ QStringList olPreferencesSession::check() const
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
-        settleSite(site);
+        resolveSite(site);
     return m_store.check() << site.takeFaults() << site.unknown();
 }
 

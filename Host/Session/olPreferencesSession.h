@@ -92,7 +92,7 @@ public:
     void stop();
 
     /// Holds a site's files against the settings there are, in force here or not.
-    void settleSite(olSiteDefaults &site) const;
+    void resolveSite(olSiteDefaults &site) const;
 
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
     [[nodiscard]] boost::any defaultValue(const std::string &key) const;
