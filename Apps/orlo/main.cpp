@@ -1,15 +1,17 @@
 #include "olBatch.h"
 #include "olFormerSettings.h"
 #include "olGivenSettings.h"
+#include "olImportChoice.h"
 #include "olMainWindow.h"
 #include "olStartFault.h"
 #include "olTour.h"
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olConsentBox.h"
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
-#include "Session/olFileArgument.h"
+#include "Session/olArguments.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
@@ -26,7 +28,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -66,6 +70,45 @@ void tell(const QStringList &notices, QWidget *window)
     box->setModal(false);
     box->show();
 }
+
+/// How the model is meant, where its format does not say it; nothing where an option makes no sense.
+std::optional<olImportChoice> choiceOf(const QCommandLineParser &options)
+{
+    static const std::map<QString, double> units{{QStringLiteral("mm"), 1.0},
+                                                 {QStringLiteral("cm"), 10.0},
+                                                 {QStringLiteral("m"), 1000.0},
+                                                 {QStringLiteral("in"), 25.4},
+                                                 {QStringLiteral("ft"), 304.8}};
+    const auto unit = units.find(options.value(QStringLiteral("unit")));
+    const QString up = options.value(QStringLiteral("up"));
+    if (unit == units.end() || (up != QLatin1String("y") && up != QLatin1String("z")))
+        return std::nullopt;
+    return olImportChoice{false, unit->second, up == QLatin1String("y")};
+}
+
+/// Whether another program's value shall hold here, too.
+void ask(olPreferencesSession &session, const olOutsideChange &change, const olSettingWarning &question,
+         QWidget &window)
+{
+    auto *box = new olConsentBox(question, &window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->setInformativeText(
+        QCoreApplication::translate("orlo", "%1 has stored this.")
+            .arg(change.program.isEmpty() ? QCoreApplication::translate("orlo", "Another program") : change.program) +
+        QStringLiteral("\n\n") + question.informative);
+    QObject::connect(box, &QDialog::finished, &session,
+                     [&session, box, key = change.key] { session.answer(key, box->isAgreed()); });
+    box->show();
+}
+
+/// What was given for an option that takes the name of a file or folder.
+QString fileOf(const QCommandLineParser &options, const char *option)
+{
+    return olArguments::file(options.value(QLatin1String(option)));
+}
+
+QString modelOf(const QCommandLineParser &options) { return olArguments::file(options.positionalArguments().value(0)); }
 
 bool isBatch(const QCommandLineParser &options)
 {
@@ -113,6 +156,8 @@ QString misuse(const QCommandLineParser &options)
         return Words::tr("%1 does not go with --render").arg(models.first());
     if (models.size() > 1)
         return Words::tr("only one model can be opened at a time");
+    if (!choiceOf(options))
+        return Words::tr("expected --unit mm, cm, m, in or ft, and --up y or z");
     return {};
 }
 
@@ -120,12 +165,12 @@ QString misuse(const QCommandLineParser &options)
 int runBatch(const QCommandLineParser &options)
 {
     if (options.isSet(QStringLiteral("render")))
-        return olBatch::render(options.value(QStringLiteral("render")), options.value(QStringLiteral("output")),
+        return olBatch::render(fileOf(options, "render"), fileOf(options, "output"),
                                *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
-                               options.isSet(QStringLiteral("edges")));
-    const QString target = options.value(QStringLiteral("save"));
+                               options.isSet(QStringLiteral("edges")), *choiceOf(options));
+    const QString target = fileOf(options, "save");
     if (!options.positionalArguments().isEmpty())
-        return olBatch::convert(options.positionalArguments().first(), target);
+        return olBatch::convert(modelOf(options), target, *choiceOf(options));
     olScene scene;
     scene.loadSample();
     return olBatch::save(scene, target);
@@ -134,7 +179,7 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    const olResult<> loaded = session.loadPlugin(fileOf(options, "plugin"));
     if (!loaded.isOk())
         return fail(loaded.error());
     session.fillDefaults();
@@ -163,7 +208,7 @@ bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !op
 /// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
 std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
 {
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    const QString given = fileOf(options, "store");
     QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
     while (true) {
         auto session = std::make_unique<olPreferencesSession>(file);
@@ -181,7 +226,7 @@ std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &op
 
 bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    QString file = options.value(QStringLiteral("plugin"));
+    QString file = fileOf(options, "plugin");
     while (true) {
         const olResult<> loaded = session.loadPlugin(file);
         if (loaded.isOk())
@@ -225,14 +270,11 @@ int run(const QCommandLineParser &options)
     if (!loadPlugin(session, options))
         return 1;
     session.start();
-    if (options.isSet(QStringLiteral("sample"))) {
-        window.scene().loadSample();
-        session.newScene();
-    }
+    if (options.isSet(QStringLiteral("sample")))
+        window.openSample();
     window.show();
-    const QStringList models = options.positionalArguments();
-    if (!models.isEmpty())
-        window.openModel(models.first());
+    if (!options.positionalArguments().isEmpty())
+        window.openModel(modelOf(options), *choiceOf(options));
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -242,10 +284,17 @@ int run(const QCommandLineParser &options)
         return refuse(Words::tr("no page has the setting \"%1\"").arg(setting));
     }
 
-    const QString tourFolder = options.value(QStringLiteral("tour"));
+    const QString tourFolder = fileOf(options, "tour");
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
     QObject::connect(&session, &olPreferencesSession::noticed, &window,
                      [&session, &window] { tell(session.takeNotices(), &window); });
+    QObject::connect(&session, &olPreferencesSession::consentWanted, &window,
+                     [&](const olOutsideChange &change, const olSettingWarning &question) {
+                         if (canAsk(options))
+                             ask(session, change, question, window);
+                         else
+                             tell({olRefusalUnasked(change.key, question)}, nullptr);
+                     });
     session.follow();
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
@@ -295,6 +344,11 @@ void describe(QCommandLineParser &options)
     options.addOption({QStringLiteral("aids"),
                        QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
     options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
+    options.addOption({QStringLiteral("unit"),
+                       QStringLiteral("The unit of a model that does not say it: mm, cm, m, in or ft."),
+                       QStringLiteral("unit"), QStringLiteral("mm")});
+    options.addOption({QStringLiteral("up"), QStringLiteral("What is up in a model that does not say it: y or z."),
+                       QStringLiteral("axis"), QStringLiteral("z")});
     options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
                        QStringLiteral("WxH"), QStringLiteral("1280x720")});
     options.addOption({QStringLiteral("set"),
@@ -322,6 +376,12 @@ bool asksOnly(const std::vector<std::string> &arguments)
 
 int main(int argc, char *argv[])
 {
+    olArguments::useUtf8();
+    for (int index = 1; index < argc; ++index) {
+        if (!olArguments::text(argv[index]))
+            return refuse(
+                QCoreApplication::translate("orlo", "\"%1\" is no UTF-8").arg(QString::fromUtf8(argv[index])));
+    }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();
