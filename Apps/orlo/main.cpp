@@ -8,6 +8,7 @@
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olFileNames.h"
 #include "Model/olScene.h"
 #include "Session/olFileArgument.h"
 #include "Session/olPreferencesSession.h"
@@ -325,6 +326,7 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();
+    olKeepFileNames();
     std::vector<std::string> arguments = withOwnPlugin(argc, argv);
     std::vector<char *> argumentTexts;
     argumentTexts.reserve(arguments.size() + 1);

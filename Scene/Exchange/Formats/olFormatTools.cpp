@@ -12,6 +12,13 @@ QString olFormatTools::noTemporary() { return olReason::tr("the temporary direct
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 
+QString olFormatTools::listed(const QStringList &names)
+{
+    constexpr int most = 4;
+    const QString first = QStringList(names.mid(0, most)).join(QStringLiteral(", "));
+    return names.size() > most ? olReason::tr("%1 and %2 more").arg(first).arg(names.size() - most) : first;
+}
+
 QByteArray olFormatTools::tailOf(QFile &file)
 {
     constexpr qint64 enough = 4096;

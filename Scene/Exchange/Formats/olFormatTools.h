@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 class QFile;
@@ -27,6 +28,9 @@ namespace olFormatTools
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);
+
+/// The names in one text: the first few, and how many more there are.
+[[nodiscard]] QString listed(const QStringList &names);
 
 /// The last few kilobytes of the file.
 [[nodiscard]] QByteArray tailOf(QFile &file);
