@@ -12,6 +12,12 @@ QString olFormatTools::noTemporary() { return olReason::tr("the temporary direct
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 
+bool olFormatTools::writePlainly(const QString &file, const std::function<bool(const char *)> &write)
+{
+    const QString plain = QFileInfo(file).path() + QStringLiteral("/model");
+    return write(QFile::encodeName(plain).constData()) && QFile::rename(plain, file);
+}
+
 QString olFormatTools::listed(const QStringList &names)
 {
     constexpr int most = 4;

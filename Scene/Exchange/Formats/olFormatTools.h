@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
 class QFile;
 
 /// Half sentences of the messages on files that cannot be read.
@@ -28,6 +30,9 @@ namespace olFormatTools
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);
+
+/// Lets a writer of the library write under a plain name, as it takes no others, and gives the file its own then.
+[[nodiscard]] bool writePlainly(const QString &file, const std::function<bool(const char *plainFile)> &write);
 
 /// The names in one text: the first few, and how many more there are.
 [[nodiscard]] QString listed(const QStringList &names);

@@ -252,7 +252,8 @@ bool write(const olScene::Document &document, const QString &file, QStringList &
     // Solids stay solids; else they become loose faces, more of which lose their colour.
     Interface_Static::SetCVal("write.iges.brep.mode", "BRep");
     IGESCAFControl_Writer writer;
-    return writer.Transfer(bodies) && writer.Write(path(file).ToCString());
+    return writer.Transfer(bodies) &&
+           writePlainly(file, [&writer](const char *plain) { return bool(writer.Write(plain)); });
 }
 
 } // namespace

@@ -275,7 +275,8 @@ bool write(const olScene::Document &document, const QString &file, QStringList &
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
     Interface_Static::SetCVal("write.step.unit", "MM");
     STEPCAFControl_Writer writer;
-    return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
+    return writer.Transfer(document, STEPControl_AsIs) &&
+           writePlainly(file, [&writer](const char *plain) { return writer.Write(plain) == IFSelect_RetDone; });
 }
 
 } // namespace
