@@ -32,6 +32,7 @@ class olPendingChanges;
 class olPreferencesEntry;
 class olPreferencesSession;
 class olSettingMenu;
+class olSettingTips;
 struct olListedChange;
 struct olSettingWarning;
 struct olPendingChange;
@@ -143,6 +144,7 @@ private:
     std::unique_ptr<olPendingChanges> m_pending;
     std::unique_ptr<olSettingsSearch> m_search;
     std::unique_ptr<olSettingMenu> m_menu;
+    std::unique_ptr<olSettingTips> m_tips;
     QLineEdit *m_searchField;
     QCheckBox *m_changedOnly;
     QPushButton *m_more;

@@ -25,6 +25,11 @@ QString olFormatTools::listed(const QStringList &names)
     return names.size() > most ? olReason::tr("%1 and %2 more").arg(first).arg(names.size() - most) : first;
 }
 
+QString olFormatTools::fileIn(const QDir &folder, const QString &name)
+{
+    return folder.filePath(name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name);
+}
+
 QByteArray olFormatTools::tailOf(QFile &file)
 {
     constexpr qint64 enough = 4096;
@@ -35,6 +40,6 @@ QByteArray olFormatTools::tailOf(QFile &file)
 olFormatTools::Secluded::Secluded(const olImportJob &job)
     : m_folder(QDir(job.temporaryDirectory).filePath(QStringLiteral("orlo-import-XXXXXX")))
 {
-    m_file = m_folder.filePath(QFileInfo(job.file).fileName());
+    m_file = fileIn(QDir(m_folder.path()), QFileInfo(job.file).fileName());
     m_isReady = m_folder.isValid() && QFile::link(job.file, m_file);
 }

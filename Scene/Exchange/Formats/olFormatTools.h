@@ -12,6 +12,7 @@
 
 #include <functional>
 
+class QDir;
 class QFile;
 
 /// Half sentences of the messages on files that cannot be read.
@@ -36,6 +37,9 @@ namespace olFormatTools
 
 /// The names in one text: the first few, and how many more there are.
 [[nodiscard]] QString listed(const QStringList &names);
+
+/// The file of that name in the folder; one that begins with a colon is no resource of the program.
+[[nodiscard]] QString fileIn(const QDir &folder, const QString &name);
 
 /// The last few kilobytes of the file.
 [[nodiscard]] QByteArray tailOf(QFile &file);
