@@ -1,6 +1,7 @@
 #include "olBatch.h"
 #include "olFormerSettings.h"
 #include "olGivenSettings.h"
+#include "olImportChoice.h"
 #include "olMainWindow.h"
 #include "olStartFault.h"
 #include "olTour.h"
@@ -28,7 +29,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -67,6 +70,21 @@ void tell(const QStringList &notices, QWidget *window)
     box->setTextFormat(Qt::PlainText);
     box->setModal(false);
     box->show();
+}
+
+/// How the model is meant, where its format does not say it; nothing where an option makes no sense.
+std::optional<olImportChoice> choiceOf(const QCommandLineParser &options)
+{
+    static const std::map<QString, double> units{{QStringLiteral("mm"), 1.0},
+                                                 {QStringLiteral("cm"), 10.0},
+                                                 {QStringLiteral("m"), 1000.0},
+                                                 {QStringLiteral("in"), 25.4},
+                                                 {QStringLiteral("ft"), 304.8}};
+    const auto unit = units.find(options.value(QStringLiteral("unit")));
+    const QString up = options.value(QStringLiteral("up"));
+    if (unit == units.end() || (up != QLatin1String("y") && up != QLatin1String("z")))
+        return std::nullopt;
+    return olImportChoice{false, unit->second, up == QLatin1String("y")};
 }
 
 /// Whether another program's value shall hold here, too.
@@ -147,6 +165,8 @@ QString misuse(const QCommandLineParser &options)
         return Words::tr("%1 does not go with --render").arg(models.first());
     if (models.size() > 1)
         return Words::tr("only one model can be opened at a time");
+    if (!choiceOf(options))
+        return Words::tr("expected --unit mm, cm, m, in or ft, and --up y or z");
     return {};
 }
 
@@ -156,10 +176,10 @@ int runBatch(const QCommandLineParser &options)
     if (options.isSet(QStringLiteral("render")))
         return olBatch::render(fileOf(options, "render"), fileOf(options, "output"),
                                *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
-                               options.isSet(QStringLiteral("edges")));
+                               options.isSet(QStringLiteral("edges")), *choiceOf(options));
     const QString target = fileOf(options, "save");
     if (!options.positionalArguments().isEmpty())
-        return olBatch::convert(modelOf(options), target);
+        return olBatch::convert(modelOf(options), target, *choiceOf(options));
     olScene scene;
     scene.loadSample();
     return olBatch::save(scene, target);
@@ -259,13 +279,11 @@ int run(const QCommandLineParser &options)
     if (!loadPlugin(session, options))
         return 1;
     session.start();
-    if (options.isSet(QStringLiteral("sample"))) {
-        window.scene().loadSample();
-        session.newScene();
-    }
+    if (options.isSet(QStringLiteral("sample")))
+        window.openSample();
     window.show();
     if (!options.positionalArguments().isEmpty())
-        window.openModel(modelOf(options));
+        window.openModel(modelOf(options), *choiceOf(options));
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -335,6 +353,11 @@ void describe(QCommandLineParser &options)
     options.addOption({QStringLiteral("aids"),
                        QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
     options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
+    options.addOption({QStringLiteral("unit"),
+                       QStringLiteral("The unit of a model that does not say it: mm, cm, m, in or ft."),
+                       QStringLiteral("unit"), QStringLiteral("mm")});
+    options.addOption({QStringLiteral("up"), QStringLiteral("What is up in a model that does not say it: y or z."),
+                       QStringLiteral("axis"), QStringLiteral("z")});
     options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
                        QStringLiteral("WxH"), QStringLiteral("1280x720")});
     options.addOption({QStringLiteral("set"),

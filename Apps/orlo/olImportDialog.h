@@ -1,14 +1,18 @@
 #pragma once
 
+#include "olImportChoice.h"
+
 #include "Exchange/olImporter.h"
 
 #include <QDialog>
 
 class QCheckBox;
+class QComboBox;
 class QDialogButtonBox;
 class QLabel;
 class QPlainTextEdit;
 class QProgressBar;
+class QRadioButton;
 
 /// One import from the question to the outcome: what it will go by, how far it is, and what came of it. Nothing else
 /// has to wait for it.
@@ -17,18 +21,23 @@ class olImportDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent = nullptr);
+    /// How well an import went.
+    enum class Success { Good, WithRemarks, Failed };
+
+    /// What is open can only be added to where `hasScene`.
+    olImportDialog(const std::vector<olImportJob> &jobs, bool hasScene, QWidget *parent = nullptr);
 
     /// As the boxes are now.
     [[nodiscard]] bool centersInOrigin() const;
     [[nodiscard]] bool putsOnGround() const;
+    [[nodiscard]] olImportChoice choice() const;
 
     /// From the question to the progress.
     void showReading();
     void setPercent(int percent);
 
     /// From the progress to the outcome; the dialog stays until it is closed.
-    void showOutcome(const QString &text);
+    void showOutcome(Success success, const QString &text);
 
     void reject() override;
 
@@ -42,13 +51,22 @@ signals:
 private:
     enum class Stage { Asking, Reading, Done };
 
+    void addChoices(bool isUnitOpen, bool hasScene);
     void setStage(Stage stage);
 
     Stage m_stage = Stage::Asking;
+    QWidget *m_question;
     QLabel *m_options;
     QCheckBox *m_center;
     QCheckBox *m_ground;
+    QComboBox *m_unit;
+    QComboBox *m_up;
+    QRadioButton *m_replace;
+    QRadioButton *m_add;
     QProgressBar *m_progress;
+    QWidget *m_verdict;
+    QLabel *m_sign;
+    QLabel *m_headline;
     QPlainTextEdit *m_outcome;
     QDialogButtonBox *m_buttons;
 };

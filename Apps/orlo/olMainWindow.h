@@ -9,6 +9,7 @@
 class QDockWidget;
 class QLabel;
 class QToolBar;
+class olFactsPanel;
 class olHostStatePanel;
 class olJournalPanel;
 class olModelFiles;
@@ -17,6 +18,7 @@ class olPreferencesSession;
 class olScene;
 class olSceneTree;
 class olViewport;
+struct olImportChoice;
 
 /// The viewer's window: the scene as the host's state shows it, what the host holds and what it was told, and the way
 /// to the preferences.
@@ -38,7 +40,8 @@ public:
     [[nodiscard]] olScene &scene() { return *m_scene; }
 
     /// Reads a model into the scene, and says so where it cannot.
-    void openModel(const QString &file);
+    void openModel(const QString &file, const olImportChoice &choice);
+    void openSample();
 
     /// Null where the display cannot show a 3D view.
     [[nodiscard]] olViewport *viewport() { return m_viewport; }
@@ -55,6 +58,7 @@ private:
     void stateChanged(const olHostValueBase &value) override;
     void addCentre();
     void addDocks();
+    void showTitle(const QString &open);
     void addMenus();
     void addViewActions();
     void addHelp();
@@ -70,6 +74,7 @@ private:
     QToolBar *m_tools = nullptr;
     QLabel *m_frameRate = nullptr;
     olSceneTree *m_tree;
+    olFactsPanel *m_facts;
     olHostStatePanel *m_state;
     olJournalPanel *m_journal;
     std::unique_ptr<olPreferencesDialog> m_preferences;

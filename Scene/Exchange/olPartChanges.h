@@ -35,6 +35,9 @@ void unifyNormals(olChangedPart &part);
 /// Makes one mesh of all meshes of the part that look the same: `lookOf` gives equal texts for equal looks.
 void mergeMeshes(olChangedPart &part, const std::function<std::string(const TopoDS_Shape &)> &lookOf);
 
+/// Multiplies all lengths of meshes and curves; surfaces stay as they are.
+void scale(olChangedPart &part, double factor);
+
 /// Leaves the triangles only.
 void dropSurfaces(olChangedPart &part);
 

@@ -34,12 +34,16 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
+#include <gp.hxx>
+#include <gp_Ax1.hxx>
+#include <gp_Vec.hxx>
 
 #include <QCoreApplication>
 #include <QPair>
 #include <QVector>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <new>
 #include <sstream>
@@ -360,12 +364,32 @@ olScene::Document placed(const olScene::Document &document, const olImportJob &j
     const Bnd_Box box = boundsOf(document);
     const gp_Pnt low = box.CornerMin();
     const gp_Pnt high = box.CornerMax();
-    olDocumentCopy copy;
+    gp_Vec offset;
     if (job.centerInOrigin)
-        copy.offset = gp_Vec(-(low.X() + high.X()) / 2, -(low.Y() + high.Y()) / 2, -(low.Z() + high.Z()) / 2);
+        offset = gp_Vec(-(low.X() + high.X()) / 2, -(low.Y() + high.Y()) / 2, -(low.Z() + high.Z()) / 2);
     if (job.putOnGround)
-        copy.offset.SetZ(-low.Z());
-    return copy.offset.Magnitude() > 0 ? copy.copy(document) : document;
+        offset.SetZ(-low.Z());
+    if (offset.Magnitude() == 0)
+        return document;
+    olDocumentCopy copy;
+    copy.placement.SetTranslation(offset);
+    return copy.copy(document);
+}
+
+/// In millimetres and with z up, where the format leaves open how its numbers are meant.
+olScene::Document interpreted(const olScene::Document &raw, const olImportJob &job, const olModelFormat &format)
+{
+    const bool isScaled = std::isfinite(job.unit) && job.unit > 0 && job.unit != 1.0;
+    if (format.holds(olModelFormat::UnitAndUp) || (!isScaled && !job.isYUp))
+        return raw;
+    olDocumentCopy copy;
+    if (job.isYUp)
+        copy.placement.SetRotation(gp::OX(), M_PI_2);
+    if (isScaled) {
+        copy.scale = job.unit;
+        copy.changePart = [&job](const TDF_Label &, olChangedPart &part) { olPartChanges::scale(part, job.unit); };
+    }
+    return copy.copy(raw);
 }
 
 QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImportResult &result,
@@ -374,16 +398,17 @@ QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImpo
     constexpr double readingShare = 60;
     constexpr double treatmentShare = 40;
     Message_ProgressScope scope(progress, "Import", readingShare + treatmentShare);
-    const olScene::Document raw = olScene::newDocument();
-    const QString fault = format.read(job, raw, scope.Next(readingShare), result.remarks);
+    const olScene::Document file = olScene::newDocument();
+    const QString fault = format.read(job, file, scope.Next(readingShare), result.remarks);
     result.isCancelled = scope.UserBreak();
     if (!fault.isEmpty() || result.isCancelled)
         return fault;
     constexpr double mostInstances = 1e6;
-    if (Instances(raw).count() > mostInstances)
+    if (Instances(file).count() > mostInstances)
         return Words::tr("it has more than a million parts");
-    if (!isWhole(raw))
+    if (!isWhole(file))
         return Words::tr("the file is damaged: it has triangles without their points, or points beyond all measure");
+    const olScene::Document raw = interpreted(file, job, format);
     if (!hasGeometry(raw))
         return Words::tr("there is no geometry in it");
     olFindTextures(job, raw, result.remarks);

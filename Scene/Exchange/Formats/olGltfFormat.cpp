@@ -521,7 +521,8 @@ olModelFormat olGltfFormat()
             "GLTF",
             {QStringLiteral("gltf"), QStringLiteral("glb")},
             olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
-                olModelFormat::CornerColors | olModelFormat::Structure | olModelFormat::Names,
+                olModelFormat::CornerColors | olModelFormat::Structure | olModelFormat::Names |
+                olModelFormat::UnitAndUp,
             check,
             read,
             write};

@@ -263,7 +263,8 @@ olModelFormat olIgesFormat()
     return {"IGES",
             "IGES",
             {QStringLiteral("iges"), QStringLiteral("igs")},
-            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Names,
+            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Names |
+                olModelFormat::UnitAndUp,
             check,
             read,
             write};

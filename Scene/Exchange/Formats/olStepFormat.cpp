@@ -288,7 +288,7 @@ olModelFormat olStepFormat()
             {QStringLiteral("step"), QStringLiteral("stp")},
             olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Opacity |
                 olModelFormat::Structure | olModelFormat::Names | olModelFormat::Substances | olModelFormat::Layers |
-                olModelFormat::Hidden,
+                olModelFormat::Hidden | olModelFormat::UnitAndUp,
             check,
             read,
             write};
