@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <cstring>
 #include <numeric>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -247,6 +248,71 @@ void olMeshTools::orientAlike(const Mesh &mesh)
     Net net(mesh);
     if (orient(mesh, net) && mesh->HasNormals())
         mesh->ComputeNormals();
+}
+
+Mesh olMeshTools::coarser(const Mesh &mesh, double triangles)
+{
+    struct Cluster {
+        gp_XYZ place;
+        gp_XYZ normal;
+        int count = 0;
+        int first = 0;
+    };
+    if (!mesh->HasNormals())
+        mesh->ComputeNormals();
+    const std::vector<int> corners = cornersOf(mesh);
+    double area = 0;
+    for (std::size_t at = 0; at < corners.size(); at += 3) {
+        const gp_XYZ first = mesh->Node(corners[at] + 1).XYZ();
+        area += (mesh->Node(corners[at + 1] + 1).XYZ() - first)
+                    .CrossMagnitude(mesh->Node(corners[at + 2] + 1).XYZ() - first) /
+                2;
+    }
+    // A cube of space that a surface passes has two triangles.
+    const double cube = std::max(std::sqrt(2 * area / std::max(triangles, 1.0)), gp::Resolution());
+    const auto step = [cube](double value) { return std::uint64_t(std::int64_t(std::floor(value / cube))) & 0xfffff; };
+    constexpr int directions = 3;
+    std::vector<std::uint64_t> cubes;
+    std::vector<int> clusterOf;
+    std::vector<Cluster> clusters;
+    std::unordered_map<std::uint64_t, int> known;
+    for (int node = 1; node <= mesh->NbNodes(); ++node) {
+        const gp_XYZ place = mesh->Node(node).XYZ();
+        const gp_XYZ normal = mesh->Normal(node).XYZ();
+        cubes.push_back((step(place.X()) << 40 | step(place.Y()) << 20 | step(place.Z())) << directions);
+        const std::uint64_t facing = (normal.X() > 0 ? 1 : 0) | (normal.Y() > 0 ? 2 : 0) | (normal.Z() > 0 ? 4 : 0);
+        const auto [found, isNew] = known.emplace(cubes.back() | facing, int(clusters.size()));
+        if (isNew)
+            clusters.push_back({{}, {}, 0, node});
+        Cluster &cluster = clusters[std::size_t(found->second)];
+        cluster.place += place;
+        cluster.normal += normal;
+        ++cluster.count;
+        clusterOf.push_back(found->second + 1);
+    }
+    std::vector<Poly_Triangle> kept;
+    for (std::size_t at = 0; at < corners.size(); at += 3) {
+        const auto a = std::size_t(corners[at]);
+        const auto b = std::size_t(corners[at + 1]);
+        const auto c = std::size_t(corners[at + 2]);
+        if (cubes[a] != cubes[b] && cubes[b] != cubes[c] && cubes[c] != cubes[a])
+            kept.emplace_back(clusterOf[a], clusterOf[b], clusterOf[c]);
+    }
+    if (kept.empty())
+        return mesh;
+    const Mesh result =
+        new Poly_Triangulation(int(clusters.size()), int(kept.size()), mesh->HasUVNodes(), Standard_True);
+    for (int node = 1; node <= int(clusters.size()); ++node) {
+        const Cluster &cluster = clusters[std::size_t(node - 1)];
+        result->SetNode(node, gp_Pnt(cluster.place / cluster.count));
+        const bool isFlat = cluster.normal.Modulus() <= gp::Resolution();
+        result->SetNormal(node, isFlat ? mesh->Normal(cluster.first) : gp_Dir(cluster.normal));
+        if (mesh->HasUVNodes())
+            result->SetUVNode(node, mesh->UVNode(cluster.first));
+    }
+    for (int index = 1; index <= int(kept.size()); ++index)
+        result->SetTriangle(index, kept[std::size_t(index - 1)]);
+    return result;
 }
 
 Mesh olMeshTools::withNormals(const Mesh &mesh, double creaseAngle, bool isUnified)

@@ -26,6 +26,11 @@ void orientAlike(const opencascade::handle<Poly_Triangulation> &mesh);
 [[nodiscard]] opencascade::handle<Poly_Triangulation> withNormals(const opencascade::handle<Poly_Triangulation> &mesh,
                                                                   double creaseAngle, bool isUnified = false);
 
+/// About so many triangles in place of many more, for as long as speed counts: nodes that are near each other and face
+/// alike become one.
+[[nodiscard]] opencascade::handle<Poly_Triangulation> coarser(const opencascade::handle<Poly_Triangulation> &mesh,
+                                                              double triangles);
+
 /// One face with the triangles of all, which have no surfaces.
 [[nodiscard]] TopoDS_Face merged(const std::vector<TopoDS_Face> &faces);
 
