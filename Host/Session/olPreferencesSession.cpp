@@ -268,7 +268,7 @@ void olPreferencesSession::resolveSite(olSiteDefaults &site) const
         return list == optional.end() ? defaultValue(key) : list->second.none;
     };
     site.resolve(defaultOf,
-                [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
+                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
 void olPreferencesSession::start()
