@@ -1,3 +1,4 @@
+#include "Exchange/olFileNames.h"
 #include "Exchange/olReaderMain.h"
 
 #include <QCoreApplication>
@@ -8,6 +9,7 @@
 
 int main(int argc, char *argv[])
 {
+    olKeepFileNames();
     const QCoreApplication application(argc, argv);
     // Its sentences are in the language of the program that started it, which names the files.
     std::list<QTranslator> translators;

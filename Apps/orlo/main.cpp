@@ -10,6 +10,7 @@
 #include "Devices/olSpacemouseLink.h"
 #include "Dialog/olConsentBox.h"
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olFileNames.h"
 #include "Model/olScene.h"
 #include "Session/olArguments.h"
 #include "Session/olPreferencesSession.h"
@@ -142,6 +143,14 @@ QString misuse(const QCommandLineParser &options)
     const QString useless = uselessOption(options);
     if (!useless.isEmpty())
         return useless;
+    // Names of files may have any bytes, which stand in the text as they can; the rest is text.
+    for (const char *option : {"set", "setting", "edition", "app-name"}) {
+        const QStringList values = options.values(QLatin1String(option));
+        for (const QString &value : values) {
+            if (!olArguments::text(value.toLocal8Bit().constData()))
+                return Words::tr("\"%1\" is no UTF-8").arg(QString::fromUtf8(value.toLocal8Bit()));
+        }
+    }
     const bool isRendering = options.isSet(QStringLiteral("render"));
     if (isRendering && !options.isSet(QStringLiteral("output")))
         return Words::tr("--render needs --output PICTURE");
@@ -378,12 +387,7 @@ bool asksOnly(const std::vector<std::string> &arguments)
 
 int main(int argc, char *argv[])
 {
-    olArguments::useUtf8();
-    for (int index = 1; index < argc; ++index) {
-        if (!olArguments::text(argv[index]))
-            return refuse(
-                QCoreApplication::translate("orlo", "\"%1\" is no UTF-8").arg(QString::fromUtf8(argv[index])));
-    }
+    olKeepFileNames();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();

@@ -81,7 +81,9 @@ QSize olModuleTree::sizeHint() const
         const int depth = item.parent() ? 2 : 1;
         widest = std::max(widest, depth * indentation() + sizeHintForIndex(indexFromItem(&item)).width());
     });
-    return {widest + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(), QTreeWidget::sizeHint().height()};
+    const int count = std::max(header()->minimumSectionSize(), sizeHintForColumn(CountColumn));
+    return {widest + count + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
+            QTreeWidget::sizeHint().height()};
 }
 
 void olModuleTree::list()

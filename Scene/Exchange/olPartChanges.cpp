@@ -141,6 +141,13 @@ void apply(olChangedPart &part, const Handle(BRepTools_ReShape) & change)
 
 } // namespace
 
+olPartChanges::Kinds olPartChanges::kindsOf(const TopoDS_Shape &shape)
+{
+    const std::vector<TopoDS_Face> faces = facesOf(shape);
+    return {!std::all_of(faces.begin(), faces.end(), isMesh), hasMeshes(faces),
+            TopExp_Explorer(shape, TopAbs_EDGE, TopAbs_FACE).More() == Standard_True};
+}
+
 void olPartChanges::keepOnly(olChangedPart &part, const Kinds &wanted)
 {
     const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
@@ -223,8 +230,10 @@ void olPartChanges::unifyNormals(olChangedPart &part)
     }
     for (const TopoDS_Face &face : facesOf(part.shape)) {
         TopLoc_Location location;
-        if (isMesh(face))
-            olMeshTools::orientAlike(BRep_Tool::Triangulation(face, location));
+        const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+        // Those without normals are turned when they get them: that takes the same look at their neighbours.
+        if (isMesh(face) && mesh->HasNormals())
+            olMeshTools::orientAlike(mesh);
     }
     if (!isChanged)
         return;

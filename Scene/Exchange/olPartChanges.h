@@ -12,6 +12,9 @@ struct Kinds {
     bool curves = true;
 };
 
+/// The kinds that a shape has.
+[[nodiscard]] Kinds kindsOf(const TopoDS_Shape &shape);
+
 /// Takes the kinds out that are not wanted; the shape becomes null where nothing is left.
 void keepOnly(olChangedPart &part, const Kinds &wanted);
 

@@ -109,7 +109,10 @@ QStringList clippedCells(const QAbstractItemView &view)
             const bool isRead =
                 cell.data(Qt::ToolTipRole).isValid() || text.isEmpty() || view.visualRect(cell).isEmpty();
             if (!isRead && view.visualRect(cell).width() < view.sizeHintForIndex(cell).width())
-                faults << QStringLiteral("%1 cuts the cell \"%2\": %3 of %4").arg(nameOf(view), text).arg(view.visualRect(cell).width()).arg(view.sizeHintForIndex(cell).width());
+                faults << QStringLiteral("%1 cuts the cell \"%2\": %3 of %4")
+                              .arg(nameOf(view), text)
+                              .arg(view.visualRect(cell).width())
+                              .arg(view.sizeHintForIndex(cell).width());
         }
     }
     return faults;

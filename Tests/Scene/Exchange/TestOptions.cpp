@@ -231,7 +231,12 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
     meshes.options.importSurfaces = false;
     EXPECT_EQ(Outline(imported(meshes)).triangles, 2u);
     meshes.options.importMeshes = false;
-    EXPECT_TRUE(olImport(meshes).error.contains(QStringLiteral("leave nothing")));
+    EXPECT_TRUE(olImport(meshes).error.contains(QStringLiteral("leave nothing of it (no meshes are imported)")));
+    kinds.options.importSurfaces = true;
+    kinds.options.importInvisibleSurfaces = kinds.options.importInvisibleCurves = kinds.options.importCurves = false;
+    Model hidden;
+    hidden.hide(hidden.part("Hidden box", box(20)));
+    EXPECT_TRUE(olImport(job("hidden.step", hidden)).error.contains(QStringLiteral("(no invisible surfaces are")));
 }
 
 TEST_F(ImportOption, HiddenInstancesComeInHiddenOrNotAtAll)
