@@ -7,6 +7,7 @@
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olPageStyle.h"
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
 #include "Session/olFileArgument.h"
@@ -20,6 +21,7 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -107,8 +109,8 @@ QString misuse(const QCommandLineParser &options)
         return QStringLiteral("--save needs either a model or --sample");
     if (isRendering && !models.isEmpty())
         return QStringLiteral("%1 does not go with --render").arg(models.first());
-    if (models.size() > 1)
-        return QStringLiteral("only one model can be opened at a time");
+    if (models.size() > 1 && isBatch(options))
+        return QStringLiteral("only one model can be converted at a time");
     return {};
 }
 
@@ -190,8 +192,20 @@ bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options
     }
 }
 
-/// From the options of the command line to the end of the run.
-int run(const QCommandLineParser &options)
+/// Which host this is, for another run of the same.
+QStringList hostArguments(const QCommandLineParser &options)
+{
+    QStringList arguments;
+    for (const char *option : {"edition", "app-name", "store", "plugin"}) {
+        if (options.isSet(QLatin1String(option)))
+            arguments << QStringLiteral("--%1=%2").arg(QLatin1String(option), options.value(QLatin1String(option)));
+    }
+    return arguments;
+}
+
+/// From the options of the command line to the end of the run. Where another run shall follow, `again` gets what that
+/// is to be started with.
+int run(const QCommandLineParser &options, QStringList &again)
 {
     olHostState &host = olHostState::the();
     const auto edition = olEditionNamed(options.value(QStringLiteral("edition")));
@@ -222,14 +236,12 @@ int run(const QCommandLineParser &options)
     if (!loadPlugin(session, options))
         return 1;
     session.start();
-    if (options.isSet(QStringLiteral("sample"))) {
-        window.scene().loadSample();
-        session.newScene();
-    }
+    if (options.isSet(QStringLiteral("sample")))
+        window.openSample();
     window.show();
     const QStringList models = options.positionalArguments();
-    if (!models.isEmpty())
-        window.openModel(models.first());
+    for (const QString &model : models)
+        window.openModel(model);
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -250,6 +262,8 @@ int run(const QCommandLineParser &options)
     const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
+    if (!window.restartArguments().isEmpty())
+        again = hostArguments(options) + window.restartArguments();
     return saved.isOk() ? result : fail(saved.error());
 }
 
@@ -339,10 +353,15 @@ int main(int argc, char *argv[])
         options.process(application);
     }
     QApplication application(argumentCount, argumentTexts.data());
+    QApplication::setStyle(new olPageStyle); // owned by the application
     QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
     if (!options.parse(QApplication::arguments()))
         return refuse(options.errorText());
     options.process(application);
-    return run(options);
+    QStringList again;
+    const int result = run(options, again);
+    if (!again.isEmpty())
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), again);
+    return result;
 }

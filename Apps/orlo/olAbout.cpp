@@ -1,7 +1,10 @@
 #include "olAbout.h"
 
+#include "Dialog/olDocumentView.h"
+
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <Standard_Version.hxx>
 
@@ -18,9 +21,20 @@ void olShowAbout(QWidget &parent)
              "<li>Boost: Boost Software License 1.0</li></ul>"
              "Their notices are in <i>third-party.md</i>, beside the documents of this program.")
             .arg(QStringLiteral(OCC_VERSION_COMPLETE), QString::fromLatin1(qVersion()));
-    QMessageBox box(QMessageBox::NoIcon, text("About ORLO"),
-                    QStringLiteral("<h3>ORLO %1</h3><p>%2</p>").arg(QApplication::applicationVersion(), libraries),
-                    QMessageBox::Close, &parent);
+    const QString what = text("A desktop application to view, render and review CAD models in 3D.");
+    QMessageBox box(
+        QMessageBox::NoIcon, text("About ORLO"),
+        QStringLiteral("<h3>ORLO %1</h3><p>%2</p><p>%3</p>").arg(QApplication::applicationVersion(), what, libraries),
+        QMessageBox::Close, &parent);
     box.setTextFormat(Qt::RichText);
+    QPushButton *notices = box.addButton(text("&Notices"), QMessageBox::ActionRole);
+    const QString file = olDocumentView::find(QStringLiteral("third-party.md"));
+    notices->setEnabled(!file.isEmpty());
     box.exec();
+    if (box.clickedButton() != notices)
+        return;
+    auto *view = new olDocumentView(&parent);
+    view->setAttribute(Qt::WA_DeleteOnClose);
+    if (!view->show(file))
+        delete view;
 }

@@ -151,6 +151,8 @@ void olModelFiles::finish(int import, const QVector<olImportReport> &reports)
         if (report.isCancelled)
             continue;
         isGood = isGood || report.error.isEmpty();
+        if (report.error.isEmpty())
+            m_opened << report.file;
         texts << (report.error.isEmpty() ? tr("%1 was read.").arg(QFileInfo(report.file).fileName()) : report.error);
         texts << report.remarks;
     }

@@ -28,6 +28,12 @@ public:
     /// Imports a file without asking.
     void openAtOnce(const QString &file);
 
+    /// Files that were read into the scene as it is, in the order of their reading.
+    [[nodiscard]] const QStringList &opened() const { return m_opened; }
+
+    /// For a scene that starts anew.
+    void forgetOpened() { m_opened.clear(); }
+
 signals:
     /// At least one file was read well, and the scene is another one.
     void imported();
@@ -47,4 +53,5 @@ private:
     olScene &m_scene;
     olImporter m_importer;
     QHash<int, QPointer<olImportDialog>> m_dialogs;
+    QStringList m_opened;
 };

@@ -552,6 +552,12 @@ olSettingDescription olPreferencesSession::description(const std::string &key)
     return module ? olSettingDescription::of(*module, key) : olSettingDescription();
 }
 
+QString olPreferencesSession::siteFile(const std::string &key) const
+{
+    const auto found = m_site.settings().find(key);
+    return found == m_site.settings().end() ? QString() : found->second.file;
+}
+
 QString olPreferencesSession::origin(const std::string &key) const
 {
     const auto site = m_site.settings().find(key);

@@ -104,6 +104,9 @@ public:
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
+    /// The site's file that speaks of the setting; empty where none does.
+    [[nodiscard]] QString siteFile(const std::string &key) const;
+
     /// The module that has a setting, be it without a default; null for an unknown key.
     [[nodiscard]] static olPreferencesEntry *moduleOf(const std::string &key);
 
