@@ -23,3 +23,12 @@ if(ORLO_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+
+# The translations in the folder, in the form in which they are loaded: beside the programs, and where they are installed.
+function(orlo_add_translations target destination)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Translations/*.ts)
+    set_source_files_properties(${sources} PROPERTIES OUTPUT_LOCATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/translations)
+    qt5_add_translation(translations ${sources} OPTIONS -silent)
+    add_custom_target(${target} ALL DEPENDS ${translations})
+    install(FILES ${translations} DESTINATION ${destination})
+endfunction()

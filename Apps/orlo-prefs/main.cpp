@@ -42,7 +42,7 @@ QString text(const char *argument)
 {
     QString text = QString::fromUtf8(argument);
     if (text.toUtf8() != argument)
-        throw olToolError(QStringLiteral("\"%1\" is no UTF-8").arg(text));
+        throw olToolError(olToolError::tr("\"%1\" is no UTF-8").arg(text));
     return text;
 }
 

@@ -12,7 +12,7 @@ namespace
 void requireUnlocked(const olPreferencesSession &session, const std::string &key)
 {
     if (const auto reason = session.lockReason(key))
-        throw olToolError(QStringLiteral("\"%1\" is locked: %2").arg(QString::fromStdString(key), *reason));
+        throw olToolError(olToolError::tr("\"%1\" is locked: %2").arg(QString::fromStdString(key), *reason));
 }
 
 void restore(olPrefsTool &tool, const olKnownSetting &setting)

@@ -13,7 +13,7 @@ namespace
 QStringList siteFindings(const olPreferencesSession &session, const QString &file)
 {
     if (!QFileInfo(file).isFile())
-        throw olToolError(QStringLiteral("Cannot check %1: there is no such file.").arg(file));
+        throw olToolError(olToolError::tr("Cannot check %1: there is no such file.").arg(file));
     olSiteDefaults site({file}, olSiteOwner::Anyone);
     site.read();
     session.settleSite(site);

@@ -39,14 +39,14 @@ std::string json(double value) { return olNumberText(value); }
 [[noreturn]] void refuse(const Value &value, const QString &expected)
 {
     throw olToolError(
-        QStringLiteral("%1 cannot be entered: expected %2").arg(QString::fromUtf8(value.written), expected));
+        olToolError::tr("%1 cannot be entered: expected %2").arg(QString::fromUtf8(value.written), expected));
 }
 
 bool asBool(const Value &value)
 {
     const auto flag = value.boolean();
     if (!flag)
-        refuse(value, QStringLiteral("true or false"));
+        refuse(value, olToolError::tr("true or false"));
     return *flag;
 }
 
@@ -73,7 +73,7 @@ QString asTyped(const Value &value)
     if (const auto text = value.text())
         return *text;
     if (!value.number())
-        refuse(value, QStringLiteral("a text or a number"));
+        refuse(value, olToolError::tr("a text or a number"));
     return QString::fromUtf8(value.written);
 }
 
@@ -108,7 +108,7 @@ std::string read(const QAbstractButton &button)
 void write(QAbstractButton &button, const Value &value)
 {
     if (!button.isCheckable())
-        throw olToolError(QStringLiteral("a button is not edited but pressed, by click"));
+        throw olToolError(olToolError::tr("a button is not edited but pressed, by click"));
     if (button.isChecked() == asBool(value))
         return;
     button.click();
@@ -116,7 +116,7 @@ void write(QAbstractButton &button, const Value &value)
     // cannot be switched off by anybody.
     const bool isOneOfSeveral = button.autoExclusive() || (button.group() && button.group()->exclusive());
     if (isOneOfSeveral && button.isChecked() != asBool(value))
-        refuse(value, QStringLiteral("true, as another one must be chosen instead"));
+        refuse(value, olToolError::tr("true, as another one must be chosen instead"));
 }
 
 std::string read(const QGroupBox &group) { return json(group.isChecked()); }
@@ -141,7 +141,7 @@ int itemOf(const QComboBox &combo, const Value &value)
         QStringList texts;
         for (int index = 0; index < combo.count(); ++index)
             texts << QString::fromStdString(json(combo.itemText(index)));
-        refuse(value, QStringLiteral("an item by its number or its text: ") + texts.join(QStringLiteral(", ")));
+        refuse(value, olToolError::tr("an item by its number or its text: %1").arg(texts.join(QStringLiteral(", "))));
     }
     return item;
 }
@@ -151,7 +151,7 @@ void write(QComboBox &combo, const Value &value)
     const int item = itemOf(combo, value);
     const QModelIndex index = combo.model()->index(item, combo.modelColumn(), combo.rootModelIndex());
     if (!index.flags().testFlag(Qt::ItemIsEnabled))
-        throw olToolError(QStringLiteral("the item \"%1\" is disabled").arg(combo.itemText(item)));
+        throw olToolError(olToolError::tr("the item \"%1\" is disabled").arg(combo.itemText(item)));
     combo.setCurrentIndex(item);
     Q_EMIT combo.activated(item);
     Q_EMIT combo.textActivated(combo.itemText(item));
@@ -163,14 +163,14 @@ void write(QLineEdit &field, const Value &value)
 {
     QString text = asTyped(value);
     if (field.isReadOnly())
-        throw olToolError(QStringLiteral("the field is only to be read"));
+        throw olToolError(olToolError::tr("the field is only to be read"));
     if (judged(field, text) == QValidator::Invalid)
-        refuse(value, QStringLiteral("what the field's validator lets through"));
+        refuse(value, olToolError::tr("what the field's validator lets through"));
     const QString before = field.text();
     type(field, text);
     if (field.text() != text) {
         field.setText(before);
-        refuse(value, QStringLiteral("at most %1 characters").arg(field.maxLength()));
+        refuse(value, olToolError::tr("at most %1 characters").arg(field.maxLength()));
     }
     enter(field);
 }
@@ -190,7 +190,7 @@ void write(QDoubleSpinBox &spin, const Value &value)
     const QString expected = olNumbersBetween(spin.minimum(), spin.maximum());
     const double number = asNumber(value, spin.minimum(), spin.maximum(), expected);
     if (QString::number(number, 'f', spin.decimals()).toDouble() != number)
-        refuse(value, QStringLiteral("%1 with at most %2 decimals").arg(expected).arg(spin.decimals()));
+        refuse(value, olToolError::tr("%1 with at most %2 decimals").arg(expected).arg(spin.decimals()));
     spin.setValue(number);
     Q_EMIT spin.editingFinished();
 }
@@ -208,7 +208,7 @@ template <class Widget> void typeIntoFieldOf(Widget &widget, const Value &value)
 {
     QString expected = olNumbersBetween(widget.minimum(), widget.maximum());
     if (widget.decimals() >= 0)
-        expected += QStringLiteral(" with at most %1 decimals").arg(widget.decimals());
+        expected = olToolError::tr("%1 with at most %2 decimals").arg(expected).arg(widget.decimals());
     if (!value.number() && !value.text())
         refuse(value, expected);
     QString text = asTyped(value);
@@ -233,7 +233,7 @@ void write(QOLColorManipulator &colors, const Value &value)
     const auto *color = boost::any_cast<osg::Color3f>(&any);
     const auto inRange = [](float channel) { return channel >= 0.0f && channel <= 1.0f; };
     if (!color || !inRange(color->red()) || !inRange(color->green()) || !inRange(color->blue()))
-        refuse(value, QStringLiteral("three numbers from 0 to 1, as [1, 0.5, 0]"));
+        refuse(value, olToolError::tr("three numbers from 0 to 1, as [1, 0.5, 0]"));
     colors.setColor(*color);
 }
 
@@ -241,7 +241,7 @@ QString asText(const Value &value)
 {
     const auto text = value.text();
     if (!text)
-        refuse(value, QStringLiteral("a text in double quotes"));
+        refuse(value, olToolError::tr("a text in double quotes"));
     return *text;
 }
 
@@ -253,7 +253,7 @@ template <class Editor> void replaceText(Editor &editor, const Value &value)
 {
     const QString text = asText(value);
     if (editor.isReadOnly())
-        throw olToolError(QStringLiteral("the text is only to be read"));
+        throw olToolError(olToolError::tr("the text is only to be read"));
     editor.selectAll();
     editor.insertPlainText(text);
 }
@@ -294,7 +294,7 @@ std::string read(const QAbstractItemView &view)
 
 void write(QAbstractItemView &, const Value &)
 {
-    throw olToolError(QStringLiteral("a table or tree is not edited; select in it and press its buttons"));
+    throw olToolError(olToolError::tr("a table or tree is not edited; select in it and press its buttons"));
 }
 
 /// Calls `use` with the control as the first of these kinds that it is; false where it is none of them.
@@ -314,22 +314,17 @@ template <class Use> void useControl(QWidget &control, Use &&use)
                             QOLSlider, QOLWheelPrec, QOLColorManipulator, QPlainTextEdit, QTextEdit, QAbstractItemView>(
         control, std::forward<Use>(use));
     if (!used)
-        throw olToolError(QStringLiteral("a control of its kind is not known"));
+        throw olToolError(olToolError::tr("a control of its kind is not known"));
 }
 
 QAbstractItemView &viewOf(QWidget &control)
 {
     auto *view = qobject_cast<QAbstractItemView *>(&control);
     if (!view)
-        throw olToolError(QStringLiteral("it is neither a table nor a tree"));
+        throw olToolError(olToolError::tr("it is neither a table nor a tree"));
     if (view->selectionMode() == QAbstractItemView::NoSelection)
-        throw olToolError(QStringLiteral("nothing can be selected in it"));
+        throw olToolError(olToolError::tr("nothing can be selected in it"));
     return *view;
-}
-
-QString available(int count, const char *what)
-{
-    return QStringLiteral("%1 %2").arg(count).arg(QLatin1String(what)) + QLatin1String(count == 1 ? "" : "s");
 }
 
 } // namespace
@@ -352,7 +347,7 @@ void edit(QWidget &control, const olScriptValue &value)
 void click(QWidget &control)
 {
     if (!useAs<QPushButton, QToolButton>(control, [](QAbstractButton &button) { button.click(); }))
-        throw olToolError(QStringLiteral("it is no button"));
+        throw olToolError(olToolError::tr("it is no button"));
 }
 
 void select(QWidget &control, int row, std::optional<int> column)
@@ -360,12 +355,17 @@ void select(QWidget &control, int row, std::optional<int> column)
     QAbstractItemView &view = viewOf(control);
     const QList<QModelIndex> rows = rowsOf(view);
     if (row < 0 || row >= rows.size())
-        throw olToolError(QStringLiteral("there is no row %1: it has %2").arg(row).arg(available(rows.size(), "row")));
+        throw olToolError(
+            olToolError::tr("there is no row %1: it has %2")
+                .arg(row)
+                .arg(rows.size() == 1 ? olToolError::tr("1 row") : olToolError::tr("%1 rows").arg(rows.size())));
     const QModelIndex cell = rows.at(row).siblingAtColumn(column.value_or(0));
     if (!cell.isValid()) {
         const int columns = view.model()->columnCount(rows.at(row).parent());
         throw olToolError(
-            QStringLiteral("there is no column %1: it has %2").arg(*column).arg(available(columns, "column")));
+            olToolError::tr("there is no column %1: it has %2")
+                .arg(*column)
+                .arg(columns == 1 ? olToolError::tr("1 column") : olToolError::tr("%1 columns").arg(columns)));
     }
     const bool manyCells = view.selectionMode() != QAbstractItemView::SingleSelection;
     if (column || !manyCells || view.selectionBehavior() != QAbstractItemView::SelectItems)

@@ -31,10 +31,10 @@ olPreferencesFile::Contents read(const QString &name)
     }
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
-        throw olToolError(QStringLiteral("Cannot read the standard input: %1.").arg(input.errorString()));
+        throw olToolError(olToolError::tr("Cannot read the standard input: %1.").arg(input.errorString()));
     const auto contents = olPreferencesFile::fromJson(input.readAll());
     if (!contents.isOk())
-        throw olToolError(QStringLiteral("Cannot import the standard input. ") + contents.error());
+        throw olToolError(olToolError::tr("Cannot import the standard input. %1").arg(contents.error()));
     return *contents;
 }
 
@@ -48,7 +48,9 @@ void take(olPrefsTool &tool, const olPreferencesFile::Contents &contents, bool i
         return setting ? setting->value() : boost::any();
     });
     for (const olSkippedSetting &skipped : import.skipped)
-        std::fprintf(stderr, "skipped: \"%s\" %s\n", skipped.key.c_str(), qPrintable(skipped.reason));
+        std::fprintf(
+            stderr, "%s\n",
+            qPrintable(olToolError::tr("skipped: \"%1\" %2").arg(QString::fromStdString(skipped.key), skipped.reason)));
     if (isDryRun)
         return tool.print(olSettingsList::changes(import.changes));
     for (const olPreferencesImport::Warning &warning : import.warnings)
@@ -64,7 +66,7 @@ void requireModule(const QString &name, const olKnownSettings &settings)
     for (const olKnownSetting &setting : settings.all())
         modules << setting.entry->name();
     if (!modules.contains(name))
-        throw olToolError(QStringLiteral("there is no module \"%1\"%2").arg(name, olDidYouMean(name, modules)));
+        throw olToolError(olToolError::tr("there is no module \"%1\"%2").arg(name, olDidYouMean(name, modules)));
 }
 
 /// All settings, those that differ from their defaults, or those of one module.

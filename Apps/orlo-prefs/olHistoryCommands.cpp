@@ -103,7 +103,7 @@ void olPrefsCommands::undo(olPrefsTool &tool)
     requireReadable(undo);
     if (undo.history().size() < std::size_t(count))
         throw olToolError(
-            QStringLiteral("%1 saves cannot be taken back: there are only %2").arg(count).arg(undo.history().size()));
+            olToolError::tr("%1 saves cannot be taken back: there are only %2").arg(count).arg(undo.history().size()));
     std::vector<olPreferencesImport::Change> changes;
     for (const Change &change : undo.changes())
         changes.push_back(
@@ -119,7 +119,8 @@ void olPrefsCommands::undo(olPrefsTool &tool)
     }
     tool.print(olSettingsList::changes(changes));
     for (const olSkippedSetting &left : undo.left())
-        std::fprintf(stderr, "left: \"%s\" %s\n", left.key.c_str(), qPrintable(left.reason));
+        std::fprintf(stderr, "%s\n",
+                     qPrintable(olToolError::tr("left: \"%1\" %2").arg(QString::fromStdString(left.key), left.reason)));
     if (!undo.left().empty())
-        throw olToolError(QStringLiteral("Some settings were left as they are."), 1);
+        throw olToolError(olToolError::tr("Some settings were left as they are."), 1);
 }

@@ -3,6 +3,7 @@
 #include "Editing/olPageIndex.h"
 #include "State/olValue.h"
 #include "Widgets/QOLColorDialog.h"
+#include "olToolError.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -64,11 +65,11 @@ QString nameOf(const olModalAnswer &answer)
 {
     switch (answer.kind) {
     case Kind::Button:
-        return QStringLiteral("the button \"%1\"").arg(answer.text);
+        return olToolError::tr("the button \"%1\"").arg(answer.text);
     case Kind::Directory:
-        return QStringLiteral("a directory");
+        return olToolError::tr("a directory");
     case Kind::Color:
-        return QStringLiteral("a colour");
+        return olToolError::tr("a colour");
     case Kind::Cancel:
         break;
     }
@@ -77,7 +78,7 @@ QString nameOf(const olModalAnswer &answer)
 
 QString misfit(const QString &dialog, const olModalAnswer &answer)
 {
-    return QStringLiteral("%1 opened, but the answer queued for it is %2").arg(dialog, nameOf(answer));
+    return olToolError::tr("%1 opened, but the answer queued for it is %2").arg(dialog, nameOf(answer));
 }
 
 } // namespace
@@ -141,7 +142,7 @@ void olModalAnswers::answerBox(QMessageBox &box)
     if (answer.kind == Kind::Cancel)
         return escape(box);
     if (answer.kind != Kind::Button) {
-        fail(misfit(QStringLiteral("the box \"%1\"").arg(box.windowTitle()), answer));
+        fail(misfit(olToolError::tr("the box \"%1\"").arg(box.windowTitle()), answer));
         return escape(box);
     }
     QStringList texts;
@@ -152,7 +153,7 @@ void olModalAnswers::answerBox(QMessageBox &box)
             return button->click();
         texts << QLatin1Char('"') + text + QLatin1Char('"');
     }
-    fail(QStringLiteral("the box \"%1\" has no button \"%2\"; it has %3")
+    fail(olToolError::tr("the box \"%1\" has no button \"%2\"; it has %3")
              .arg(box.windowTitle(), answer.text, texts.join(QStringLiteral(", "))));
     escape(box);
 }
@@ -165,7 +166,7 @@ void olModalAnswers::answerColors(QOLColorDialog &dialog)
         return dialog.accept();
     }
     if (answer.kind != Kind::Cancel)
-        fail(misfit(QStringLiteral("a colour dialog"), answer));
+        fail(misfit(olToolError::tr("a colour dialog"), answer));
     dialog.reject();
 }
 
@@ -177,7 +178,7 @@ QString olModalAnswers::chooseDirectory(const QString &caption, const QString &s
     if (answer.kind == Kind::Directory)
         return answer.text;
     if (answer.kind != Kind::Cancel)
-        fail(misfit(QStringLiteral("the directory chooser \"%1\"").arg(caption), answer));
+        fail(misfit(olToolError::tr("the directory chooser \"%1\"").arg(caption), answer));
     return {};
 }
 

@@ -1,5 +1,7 @@
 #include "olNearest.h"
 
+#include "olToolError.h"
+
 #include <algorithm>
 #include <numeric>
 #include <vector>
@@ -35,5 +37,5 @@ QString olDidYouMean(const QString &written, const QStringList &names)
     const int farthest = std::max(2, written.size() / 3);
     if (nearest == names.end() || distance(written, *nearest) > farthest)
         return {};
-    return QStringLiteral("; did you mean \"%1\"?").arg(*nearest);
+    return olToolError::tr("; did you mean \"%1\"?").arg(*nearest);
 }

@@ -75,13 +75,13 @@ const olPrefsCommand commands[] = {
 };
 
 /// The names as a sentence has them.
-QString names(const char *lastConjunction)
+QString names(const QString &ofTwo)
 {
     QStringList names;
     for (const olPrefsCommand &command : commands)
         names << QLatin1String(command.name);
     const QString last = names.takeLast();
-    return names.join(QLatin1String(", ")) + QLatin1String(lastConjunction) + last;
+    return ofTwo.arg(names.join(QLatin1String(", ")), last);
 }
 
 } // namespace
@@ -89,12 +89,14 @@ QString names(const char *lastConjunction)
 const olPrefsCommand &olPrefsCommands::named(const QString &name)
 {
     if (name.isEmpty())
-        throw olToolError(QStringLiteral("a command is missing: %1; see --help").arg(names(" or ")));
+        throw olToolError(
+            olToolError::tr("a command is missing: %1; see --help").arg(names(olToolError::tr("%1 or %2"))));
     const auto *found = std::find_if(std::begin(commands), std::end(commands), [&name](const olPrefsCommand &command) {
         return name == QLatin1String(command.name);
     });
     if (found == std::end(commands))
-        throw olToolError(QStringLiteral("there is no command %1, only %2; see --help").arg(name, names(" and ")));
+        throw olToolError(olToolError::tr("there is no command %1, only %2; see --help")
+                              .arg(name, names(olToolError::tr("%1 and %2"))));
     return *found;
 }
 

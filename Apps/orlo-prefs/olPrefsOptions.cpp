@@ -7,7 +7,7 @@
 namespace
 {
 
-const QString editionNames = QStringLiteral("essentials, design, professional or enterprise");
+QString editionNames() { return olToolError::tr("essentials, design, professional or enterprise"); }
 
 /// `--name VALUE` and `--name=VALUE`, from the front of a list.
 class Reader
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] QString value(const QString &option)
     {
         if (m_arguments.isEmpty())
-            throw olToolError(QStringLiteral("%1 needs a value").arg(option));
+            throw olToolError(olToolError::tr("%1 needs a value").arg(option));
         m_attached = false;
         return m_arguments.takeFirst();
     }
@@ -42,7 +42,7 @@ public:
     void requireNoValue(const QString &option) const
     {
         if (m_attached)
-            throw olToolError(QStringLiteral("%1 takes no value").arg(option));
+            throw olToolError(olToolError::tr("%1 takes no value").arg(option));
     }
 
     [[nodiscard]] QStringList rest() const { return m_arguments; }
@@ -56,7 +56,7 @@ olEdition edition(const QString &name)
 {
     const std::optional<olEdition> edition = olEditionNamed(name);
     if (!edition)
-        throw olToolError(QStringLiteral("there is no edition %1, only %2").arg(name, editionNames));
+        throw olToolError(olToolError::tr("there is no edition %1, only %2").arg(name, editionNames()));
     return *edition;
 }
 
@@ -86,7 +86,7 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
         else if (option == QLatin1String("--version"))
             options.version = true;
         else
-            throw olToolError(QStringLiteral("there is no option %1%2").arg(option, olDidYouMean(option, known)));
+            throw olToolError(olToolError::tr("there is no option %1%2").arg(option, olDidYouMean(option, known)));
         reader.requireNoValue(option);
     }
     options.arguments = reader.rest();
@@ -99,7 +99,7 @@ std::string olPrefsOptions::optionsHelp()
 {
     return "Options, before the command\n"
            "  --edition NAME     " +
-           editionNames.toStdString() +
+           editionNames().toStdString() +
            " (default professional)\n"
            "  --app-name NAME    the application's name (default orlo)\n"
            "  --store FILE       where the preferences are kept (default the user's store; a script\n"

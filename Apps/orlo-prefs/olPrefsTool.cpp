@@ -2,6 +2,7 @@
 
 #include "State/olHostState.h"
 #include "olPrefsCommands.h"
+#include "olToolError.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -48,7 +49,7 @@ void olPrefsTool::requireArguments(int count) const
 
 void olPrefsTool::failUsage() const
 {
-    throw olToolError(QStringLiteral("usage: orlo-prefs [OPTIONS] %1").arg(QLatin1String(m_command->usage)));
+    throw olToolError(olToolError::tr("usage: orlo-prefs [OPTIONS] %1").arg(QLatin1String(m_command->usage)));
 }
 
 void olPrefsTool::loadStore(olStoreUse use)
@@ -78,7 +79,7 @@ void olPrefsTool::requireConsent(const std::string &key, const olSettingWarning 
 {
     if (!m_options.isAgreed)
         throw olToolError(
-            QStringLiteral("\"%1\" is only set with --yes: %2")
+            olToolError::tr("\"%1\" is only set with --yes: %2")
                 .arg(QString::fromStdString(key), QString(warning.text).replace(QLatin1Char('\n'), QLatin1Char(' '))));
 }
 
@@ -93,7 +94,7 @@ void olPrefsTool::print(const std::string &text)
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
     if (!isWritten)
         throw olToolError(
-            QStringLiteral("Cannot write the output: %1.").arg(QString::fromLocal8Bit(std::strerror(errno))));
+            olToolError::tr("Cannot write the output: %1.").arg(QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 void olPrefsTool::printNotices()

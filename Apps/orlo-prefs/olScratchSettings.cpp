@@ -43,7 +43,7 @@ olScratchSettings::olScratchSettings()
 {
     if (!m_directory.isValid())
         throw olToolError(
-            QStringLiteral("Cannot make a directory for scratch settings: %1.").arg(m_directory.errorString()));
+            olToolError::tr("Cannot make a directory for scratch settings: %1.").arg(m_directory.errorString()));
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_directory.path());
     QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, m_directory.filePath(QStringLiteral("system")));

@@ -17,7 +17,7 @@ void olPrefsCommands::script(olPrefsTool &tool)
     const bool isOpen =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen)
-        throw olToolError(QStringLiteral("Cannot read the script %1: %2.").arg(name, file.errorString()));
+        throw olToolError(olToolError::tr("Cannot read the script %1: %2.").arg(name, file.errorString()));
     if (!tool.options().store.isEmpty())
         tool.loadStore(olStoreUse::LookAt);
     // The language that was stored is that of a start, which a script does not run; its controls go by the names of

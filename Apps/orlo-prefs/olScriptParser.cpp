@@ -47,7 +47,7 @@ olScriptParser::olScriptParser(const QByteArray &line) : m_line(withoutComment(l
 olScriptWord olScriptParser::word(const char *what)
 {
     if (atEnd())
-        fail(QStringLiteral("%1 is missing").arg(QLatin1String(what)));
+        fail(olToolError::tr("%1 is missing").arg(QLatin1String(what)));
     olScriptWord word;
     if (m_line.at(m_position) == '"') {
         word = quotedWord();
@@ -57,7 +57,7 @@ olScriptWord olScriptParser::word(const char *what)
             ++m_position;
         word.written = m_line.mid(start, m_position - start);
         if (word.written.contains('"'))
-            fail(QStringLiteral("a quote stands within the word %1").arg(QString::fromUtf8(word.written)));
+            fail(olToolError::tr("a quote stands within the word %1").arg(QString::fromUtf8(word.written)));
         word.text = QString::fromUtf8(word.written);
     }
     skipBlanks();
@@ -76,36 +76,36 @@ olScriptWord olScriptParser::quotedWord()
         text += m_line.at(m_position);
     }
     if (atEnd())
-        fail(QStringLiteral("a quote is not closed"));
+        fail(olToolError::tr("a quote is not closed"));
     ++m_position;
     if (!atEnd() && !isBlank(m_line.at(m_position)))
-        fail(QStringLiteral("a blank is missing behind \"%1\"").arg(QString::fromUtf8(text)));
+        fail(olToolError::tr("a blank is missing behind \"%1\"").arg(QString::fromUtf8(text)));
     return {QString::fromUtf8(text), m_line.mid(start, m_position - start), true};
 }
 
 olScriptValue olScriptParser::value()
 {
     if (atEnd())
-        fail(QStringLiteral("VALUE is missing"));
+        fail(olToolError::tr("VALUE is missing"));
     const QByteArray written = m_line.mid(m_position);
     m_position = m_line.size();
     olJsonReader json({written.constData(), std::size_t(written.size())});
     if (!json.value() || !json.atEnd())
-        fail(QStringLiteral("%1 is no JSON value").arg(QString::fromUtf8(written)));
+        fail(olToolError::tr("%1 is no JSON value").arg(QString::fromUtf8(written)));
     return {written};
 }
 
 void olScriptParser::end() const
 {
     if (!atEnd())
-        fail(QStringLiteral("\"%1\" is too much").arg(QString::fromUtf8(m_line.mid(m_position))));
+        fail(olToolError::tr("\"%1\" is too much").arg(QString::fromUtf8(m_line.mid(m_position))));
 }
 
 void olScriptParser::fail(const QString &why) const
 {
     if (!m_usage)
         throw olToolError(why);
-    throw olToolError(QStringLiteral("%1; usage: %2").arg(why, QLatin1String(m_usage)));
+    throw olToolError(olToolError::tr("%1; usage: %2").arg(why, QLatin1String(m_usage)));
 }
 
 void olScriptParser::skipBlanks()

@@ -42,16 +42,17 @@ TypedValue typedValue(olScriptParser &line)
 {
     const std::string type = line.word("TYPE").text.toStdString();
     if (!olValue::isTypeName(type)) {
-        std::string names;
+        QStringList names;
         for (const std::string &name : olValue::typeNames())
-            names += ' ' + name;
-        line.fail(QString::fromStdString("there is no type " + type + ", only" + names));
+            names << QString::fromStdString(name);
+        line.fail(olToolError::tr("there is no type %1, only %2")
+                      .arg(QString::fromStdString(type), names.join(QLatin1Char(' '))));
     }
     const std::string key = line.word("KEY").text.toStdString();
     const olScriptValue written = line.value();
     const boost::any value = written.as(type);
     if (value.empty())
-        throw olToolError(QStringLiteral("%1 is no value of type %2: expected %3")
+        throw olToolError(olToolError::tr("%1 is no value of type %2: expected %3")
                               .arg(QString::fromUtf8(written.written), QString::fromStdString(type),
                                    QString::fromStdString(olValue::expectation(type))));
     return {key, value};
@@ -62,7 +63,7 @@ int count(const olScriptWord &word)
     bool isNumber = false;
     const int number = word.text.toInt(&isNumber);
     if (!isNumber || number < 0)
-        throw olToolError(QStringLiteral("%1 is no number counted from 0").arg(word.text));
+        throw olToolError(olToolError::tr("%1 is no number counted from 0").arg(word.text));
     return number;
 }
 
@@ -100,7 +101,7 @@ void olScriptRunner::run(QIODevice &script)
         try {
             runLine(line);
         } catch (const olToolError &error) {
-            throw olToolError(QStringLiteral("line %1: %2").arg(number).arg(QString::fromUtf8(error.what())));
+            throw olToolError(olToolError::tr("line %1: %2").arg(number).arg(QString::fromUtf8(error.what())));
         }
     }
 }
@@ -124,7 +125,7 @@ void olScriptRunner::runLine(const QByteArray &text)
             throw olToolError(error);
         return;
     }
-    throw olToolError(QStringLiteral("there is no command %1%2").arg(name, olDidYouMean(name, names)));
+    throw olToolError(olToolError::tr("there is no command %1%2").arg(name, olDidYouMean(name, names)));
 }
 
 const std::vector<olScriptRunner::Command> &olScriptRunner::commands()
@@ -169,7 +170,7 @@ void olScriptRunner::defaults(olScriptParser &line)
     if (!line.atEnd() && !keep) {
         keep = isKeep(line.word("keep"));
         if (!keep)
-            line.fail(QStringLiteral("behind the module only keep may follow"));
+            line.fail(olToolError::tr("behind the module only keep may follow"));
     }
     line.end();
     for (olPreferencesEntry *entry : modules(module))
@@ -225,7 +226,7 @@ void olScriptRunner::service(olScriptParser &line)
         const std::string asked = key(line);
         printValue(asked, preferencesService().get(asked));
     } else {
-        line.fail(QStringLiteral("%1 is neither put nor get").arg(what));
+        line.fail(olToolError::tr("%1 is neither put nor get").arg(what));
     }
 }
 
@@ -253,7 +254,7 @@ void olScriptRunner::select(olScriptParser &line)
     if (row.text != QLatin1String("none"))
         olControlDriver::select(*view.control, count(row), column);
     else if (column)
-        line.fail(QStringLiteral("no column goes with none"));
+        line.fail(olToolError::tr("no column goes with none"));
     else
         olControlDriver::selectNothing(*view.control);
 }
@@ -285,7 +286,7 @@ void olScriptRunner::answer(olScriptParser &line)
         const olScriptValue value = line.value();
         const boost::any color = value.as("color");
         if (color.empty())
-            line.fail(QStringLiteral("%1 is no colour").arg(QString::fromUtf8(value.written)));
+            line.fail(olToolError::tr("%1 is no colour").arg(QString::fromUtf8(value.written)));
         answer.kind = Kind::Color;
         answer.color = boost::any_cast<const osg::Color3f &>(color);
     }
@@ -298,12 +299,12 @@ void olScriptRunner::host(olScriptParser &line)
     const QString name = line.word("FACT").text;
     olHostValueBase *fact = olHostState::the().find(name.toLatin1());
     if (!fact || !fact->isFact())
-        throw olToolError(QStringLiteral("there is no fact %1%2").arg(name, olDidYouMean(name, factNames())));
+        throw olToolError(olToolError::tr("there is no fact %1%2").arg(name, olDidYouMean(name, factNames())));
     const olScriptValue value = line.value();
     const std::string type = olValue::typeName(fact->any());
     if (!fact->setAny(value.as(type)))
         throw olToolError(
-            QStringLiteral("%1 does not fit the fact %2: expected %3")
+            olToolError::tr("%1 does not fit the fact %2: expected %3")
                 .arg(QString::fromUtf8(value.written), name, QString::fromStdString(olValue::expectation(type))));
 }
 
@@ -312,7 +313,7 @@ void olScriptRunner::env(olScriptParser &line)
     const olScriptWord name = line.word("NAME");
     const QByteArray variable = name.text.toLocal8Bit();
     if (variable.contains('='))
-        line.fail(QStringLiteral("no variable can be called %1").arg(name.text));
+        line.fail(olToolError::tr("no variable can be called %1").arg(name.text));
     if (line.atEnd()) {
         const std::string value = qgetenv(variable).toStdString();
         m_transcript.print("env " + variable.toStdString() +
@@ -322,7 +323,7 @@ void olScriptRunner::env(olScriptParser &line)
     const olScriptValue value = line.value();
     const auto text = value.text();
     if (!text && !value.number() && !value.boolean())
-        line.fail(QStringLiteral("%1 is no text").arg(QString::fromUtf8(value.written)));
+        line.fail(olToolError::tr("%1 is no text").arg(QString::fromUtf8(value.written)));
     qputenv(variable, text ? text->toUtf8() : value.written);
 }
 
@@ -358,13 +359,13 @@ std::vector<olPreferencesEntry *> olScriptRunner::modules(const std::optional<ol
     olPreferencesEntry *entry = olPreferencesRegistry::the().find(name->text);
     if (entry)
         return {entry};
-    throw olToolError(QStringLiteral("there is no module \"%1\"; there is: %2").arg(name->text, moduleNames()));
+    throw olToolError(olToolError::tr("there is no module \"%1\"; there is: %2").arg(name->text, moduleNames()));
 }
 
 void olScriptRunner::requireLibrary() const
 {
     if (!m_session.plugin().isLoaded())
-        throw olToolError(QStringLiteral("the library is unloaded"));
+        throw olToolError(olToolError::tr("the library is unloaded"));
 }
 
 olScriptRunner::Target olScriptRunner::target(olScriptParser &line) const
@@ -373,7 +374,7 @@ olScriptRunner::Target olScriptRunner::target(olScriptParser &line) const
     const olScriptWord control = line.word("CONTROL");
     QWidget *page = modules(module).front()->page();
     if (!page)
-        throw olToolError(QStringLiteral("%1 has no page").arg(module.text));
+        throw olToolError(olToolError::tr("%1 has no page").arg(module.text));
     const olPageIndex index(*page);
     const olPageControlFound found = index.find(control.text);
     if (!found.control)
@@ -386,8 +387,8 @@ olScriptRunner::Target olScriptRunner::usableTarget(olScriptParser &line) const
     Target found = target(line);
     const bool enabled = found.control->isEnabled();
     if (!enabled || !olPageIndex::isShown(*found.page, *found.control))
-        throw olToolError(QStringLiteral("%1 is %2")
-                              .arg(QString::fromUtf8(found.written), QLatin1String(enabled ? "hidden" : "disabled")));
+        throw olToolError((enabled ? olToolError::tr("%1 is hidden") : olToolError::tr("%1 is disabled"))
+                              .arg(QString::fromUtf8(found.written)));
     return found;
 }
 
@@ -399,6 +400,6 @@ void olScriptRunner::printValue(const std::string &key, const boost::any &value)
     else if (!type.empty())
         m_transcript.print("value " + quoted(key) + ' ' + type + ' ' + olValue::toJson(value));
     else
-        throw olToolError(QStringLiteral("\"%1\" holds a value of a type that settings do not have")
+        throw olToolError(olToolError::tr("\"%1\" holds a value of a type that settings do not have")
                               .arg(QString::fromStdString(key)));
 }

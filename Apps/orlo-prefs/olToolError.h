@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <stdexcept>
@@ -8,6 +9,8 @@
 /// call of the plug-in's.
 class olToolError : public std::runtime_error
 {
+    Q_DECLARE_TR_FUNCTIONS(olToolError)
+
 public:
     explicit olToolError(const QString &why, int status = 2) : std::runtime_error(why.toStdString()), m_status(status)
     {

@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QMessageBox>
 #include <QProcess>
@@ -33,6 +34,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(orlo)
+};
 
 int fail(const QString &error)
 {
@@ -56,8 +61,8 @@ void tell(const QStringList &notices, QWidget *window)
         std::fprintf(stderr, "orlo: %s\n", qPrintable(notice));
     if (!window)
         return;
-    auto *box = new QMessageBox(QMessageBox::Warning, QCoreApplication::translate("orlo", "Preferences"),
-                                notices.join(QStringLiteral("\n\n")), QMessageBox::Ok, window);
+    auto *box = new QMessageBox(QMessageBox::Warning, Words::tr("Preferences"), notices.join(QStringLiteral("\n\n")),
+                                QMessageBox::Ok, window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->setModal(false);
@@ -75,18 +80,17 @@ QString uselessOption(const QCommandLineParser &options)
     const bool isRendering = options.isSet(QStringLiteral("render"));
     for (const char *option : {"output", "size", "aids", "edges"}) {
         if (!isRendering && options.isSet(QLatin1String(option)))
-            return QStringLiteral("--%1 needs --render").arg(QLatin1String(option));
+            return Words::tr("--%1 needs --render").arg(QLatin1String(option));
     }
     if (!isBatch(options) && options.isSet(QStringLiteral("set")))
-        return QStringLiteral("--set needs --render or --save");
+        return Words::tr("--set needs --render or --save");
     for (const char *option : {"sample", "save"}) {
         if (isRendering && options.isSet(QLatin1String(option)))
-            return QStringLiteral("--%1 does not go with --render").arg(QLatin1String(option));
+            return Words::tr("--%1 does not go with --render").arg(QLatin1String(option));
     }
     for (const char *option : {"preferences", "setting", "tour"}) {
         if (isBatch(options) && options.isSet(QLatin1String(option)))
-            return QStringLiteral("--%1 needs a window, which --render and --save do without")
-                .arg(QLatin1String(option));
+            return Words::tr("--%1 needs a window, which --render and --save do without").arg(QLatin1String(option));
     }
     return {};
 }
@@ -99,18 +103,18 @@ QString misuse(const QCommandLineParser &options)
         return useless;
     const bool isRendering = options.isSet(QStringLiteral("render"));
     if (isRendering && !options.isSet(QStringLiteral("output")))
-        return QStringLiteral("--render needs --output PICTURE");
+        return Words::tr("--render needs --output PICTURE");
     if (isRendering && !olBatch::sizeFrom(options.value(QStringLiteral("size"))))
-        return QStringLiteral("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192")
+        return Words::tr("%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192")
             .arg(options.value(QStringLiteral("size")));
     const QStringList models = options.positionalArguments();
     const bool isSample = options.isSet(QStringLiteral("sample"));
     if (options.isSet(QStringLiteral("save")) && isSample == !models.isEmpty())
-        return QStringLiteral("--save needs either a model or --sample");
+        return Words::tr("--save needs either a model or --sample");
     if (isRendering && !models.isEmpty())
-        return QStringLiteral("%1 does not go with --render").arg(models.first());
+        return Words::tr("%1 does not go with --render").arg(models.first());
     if (models.size() > 1 && isBatch(options))
-        return QStringLiteral("only one model can be converted at a time");
+        return Words::tr("only one model can be converted at a time");
     return {};
 }
 
@@ -210,9 +214,8 @@ int run(const QCommandLineParser &options, QStringList &again)
     olHostState &host = olHostState::the();
     const auto edition = olEditionNamed(options.value(QStringLiteral("edition")));
     if (!edition)
-        return refuse(
-            QStringLiteral("there is no edition %1; there are essentials, design, professional and enterprise")
-                .arg(options.value(QStringLiteral("edition"))));
+        return refuse(Words::tr("there is no edition %1; there are essentials, design, professional and enterprise")
+                          .arg(options.value(QStringLiteral("edition"))));
     const QString wrong = misuse(options);
     if (!wrong.isEmpty())
         return refuse(wrong);
@@ -248,7 +251,7 @@ int run(const QCommandLineParser &options, QStringList &again)
     if (!setting.isEmpty() && !window.openPreferences().openAt(setting)) {
         window.closePreferences();
         session.stop();
-        return refuse(QStringLiteral("no page has the setting \"%1\"").arg(setting));
+        return refuse(Words::tr("no page has the setting \"%1\"").arg(setting));
     }
 
     const QString tourFolder = options.value(QStringLiteral("tour"));

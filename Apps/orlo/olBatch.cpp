@@ -7,6 +7,7 @@
 
 #include <TDocStd_Document.hxx>
 
+#include <QCoreApplication>
 #include <QImage>
 #include <QImageWriter>
 #include <QRegularExpression>
@@ -15,6 +16,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olBatch)
+};
 
 /// As in the window: a larger picture does not fit into a graphics card together with all that it needs to draw it.
 constexpr int longestSide = 8192;
@@ -42,7 +47,7 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
     olScene scene;
     scene.setDocument(result.document);
     if (!olViewport::isSupported())
-        return fail(QStringLiteral("The 3D view needs an X display, or XWayland, with OpenGL."), 1);
+        return fail(Words::tr("The 3D view needs an X display, or XWayland, with OpenGL."), 1);
 
     olViewport view;
     view.setAttribute(Qt::WA_DontShowOnScreen);
@@ -53,10 +58,10 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
     view.fillPicture(size);
     const QImage picture = view.stillPicture(size);
     if (picture.isNull())
-        return fail(QStringLiteral("The model %1 cannot be drawn: %2").arg(model, view.error()), 1);
+        return fail(Words::tr("The model %1 cannot be drawn: %2").arg(model, view.error()), 1);
     QImageWriter writer(pictureFile);
     if (!writer.write(picture))
-        return fail(QStringLiteral("Cannot write %1: %2.").arg(pictureFile, writer.errorString()), 1);
+        return fail(Words::tr("Cannot write %1: %2.").arg(pictureFile, writer.errorString()), 1);
     std::printf("triangles %u\n", scene.triangleCount());
     return 0;
 }

@@ -4,25 +4,31 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
+#include <QCoreApplication>
+
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olGivenSettings)
+};
 
 QString setOne(const olPreferencesSession &session, const QString &setting)
 {
     const int equals = setting.indexOf(QLatin1Char('='));
     if (equals < 1)
-        return QStringLiteral("\"%1\" is no setting: expected \"KEY=VALUE\"").arg(setting);
+        return Words::tr("\"%1\" is no setting: expected \"KEY=VALUE\"").arg(setting);
     const QString name = setting.left(equals).trimmed();
     const std::string key = name.toStdString();
     olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key);
     if (!owner)
-        return QStringLiteral("there is no setting \"%1\"").arg(name);
+        return Words::tr("there is no setting \"%1\"").arg(name);
     const boost::any value = olPreferencesSession::description(key).fromTyped(setting.mid(equals + 1).trimmed());
     const QString reason = session.whyNot(key, value);
     if (!reason.isEmpty())
         return QStringLiteral("\"%1\" %2").arg(name, reason);
     if (const auto warning = session.warning(key, value))
-        return QStringLiteral("\"%1\" is only set where somebody can be asked: %2").arg(name, warning->text);
+        return Words::tr("\"%1\" is only set where somebody can be asked: %2").arg(name, warning->text);
     owner->setValue(key, value);
     return {};
 }

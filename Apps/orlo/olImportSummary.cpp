@@ -8,34 +8,38 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olImportSummary", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olImportSummary)
+};
 
 QString row(const QString &name, const QString &value)
 {
     return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>").arg(name, value.toHtmlEscaped());
 }
 
-QString kind(const char *name, bool isWanted, bool isInvisibleWanted)
+QString kind(const QString &name, bool isWanted, bool isInvisibleWanted)
 {
-    const char *which = !isWanted ? "%1: none" : isInvisibleWanted ? "%1: all" : "%1: visible";
-    return translated(which).arg(translated(name));
+    const QString which = !isWanted           ? Words::tr("%1: none")
+                          : isInvisibleWanted ? Words::tr("%1: all")
+                                              : Words::tr("%1: visible");
+    return which.arg(name);
 }
 
-QString list(const QVector<QPair<bool, const char *>> &items)
+QString list(const QVector<QPair<bool, QString>> &items)
 {
     QStringList texts;
     for (const auto &[isOn, text] : items) {
         if (isOn)
-            texts << translated(text);
+            texts << text;
     }
-    return texts.isEmpty() ? translated("nothing") : texts.join(QStringLiteral(", "));
+    return texts.isEmpty() ? Words::tr("nothing") : texts.join(QStringLiteral(", "));
 }
 
 QString fineness(const olImportRecord &options)
 {
     if (!options.tessellation)
-        return translated("the usual one");
-    return translated("chords within %1 mm, normals within %2\u00b0")
+        return Words::tr("the usual one");
+    return Words::tr("chords within %1 mm, normals within %2\u00b0")
         .arg(options.chordDeviation)
         .arg(options.normalTolerance);
 }
@@ -48,24 +52,25 @@ QString olImportSummary(const olImportJob &job)
     if (!format)
         return olModelFormat::noReader(job.file).toHtmlEscaped();
     const olImportRecord &options = job.options;
-    QString rows = row(translated("Format"), QLatin1String(format->name));
+    QString rows = row(Words::tr("Format"), QLatin1String(format->name));
     if (format->holds(olModelFormat::Surfaces)) {
-        rows += row(translated("Fineness"), fineness(options));
+        rows += row(Words::tr("Fineness"), fineness(options));
         rows +=
-            row(translated("Stitching"),
-                options.stitching ? translated("gaps up to %1 mm").arg(options.stitchingTolerance) : translated("off"));
+            row(Words::tr("Stitching"),
+                options.stitching ? Words::tr("gaps up to %1 mm").arg(options.stitchingTolerance) : Words::tr("off"));
     }
-    const QStringList kinds{kind("surfaces", options.importSurfaces, options.importInvisibleSurfaces),
-                            kind("curves", options.importCurves, options.importInvisibleCurves),
-                            kind("meshes", options.importMeshes, options.importInvisibleMeshes)};
-    rows += row(translated("Kinds"), kinds.join(QStringLiteral(", ")));
-    rows += row(translated("Tidied up"), list({{options.mergeGeometries, "meshes merged"},
-                                               {options.removeEmptyGroups, "empty groups removed"},
-                                               {options.unifySurfaceNormals, "normals unified"}}));
-    rows += row(translated("Checks"), list({{job.verify, "geometry verified"}, {job.optimize, "faults repaired"}}));
-    rows += row(translated("Textures"),
+    const QStringList kinds{kind(Words::tr("surfaces"), options.importSurfaces, options.importInvisibleSurfaces),
+                            kind(Words::tr("curves"), options.importCurves, options.importInvisibleCurves),
+                            kind(Words::tr("meshes"), options.importMeshes, options.importInvisibleMeshes)};
+    rows += row(Words::tr("Kinds"), kinds.join(QStringLiteral(", ")));
+    rows += row(Words::tr("Tidied up"), list({{options.mergeGeometries, Words::tr("meshes merged")},
+                                              {options.removeEmptyGroups, Words::tr("empty groups removed")},
+                                              {options.unifySurfaceNormals, Words::tr("normals unified")}}));
+    rows += row(Words::tr("Checks"),
+                list({{job.verify, Words::tr("geometry verified")}, {job.optimize, Words::tr("faults repaired")}}));
+    rows += row(Words::tr("Textures"),
                 job.textureDirectories.empty()
-                    ? translated("beside the model")
-                    : translated("beside the model, and in %1 directories").arg(job.textureDirectories.size()));
+                    ? Words::tr("beside the model")
+                    : Words::tr("beside the model, and in %1 directories").arg(job.textureDirectories.size()));
     return QStringLiteral("<table>%1</table>").arg(rows);
 }

@@ -1,6 +1,6 @@
 #include "olStartFault.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -8,7 +8,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QApplication::translate("olStartFault", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olStartFault)
+};
 
 /// Another file of that kind; quits where none is chosen.
 olStartRemedy otherFile(const QString &title, const QString &filter)
@@ -21,31 +23,31 @@ olStartRemedy otherFile(const QString &title, const QString &filter)
 
 olStartRemedy olAskAboutStore(const QString &fault)
 {
-    QMessageBox box(QMessageBox::Critical, translated("Preferences"), translated("The preferences cannot be loaded."));
+    QMessageBox box(QMessageBox::Critical, Words::tr("Preferences"), Words::tr("The preferences cannot be loaded."));
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(fault + QLatin1String("\n\n") +
-                           translated("The file is left as it is. With the defaults nothing of this run is kept."));
-    const QPushButton *other = box.addButton(translated("Another &Store..."), QMessageBox::ActionRole);
-    QPushButton *defaults = box.addButton(translated("&Defaults for This Run"), QMessageBox::AcceptRole);
-    box.addButton(translated("&Quit"), QMessageBox::RejectRole);
+                           Words::tr("The file is left as it is. With the defaults nothing of this run is kept."));
+    const QPushButton *other = box.addButton(Words::tr("Another &Store..."), QMessageBox::ActionRole);
+    QPushButton *defaults = box.addButton(Words::tr("&Defaults for This Run"), QMessageBox::AcceptRole);
+    box.addButton(Words::tr("&Quit"), QMessageBox::RejectRole);
     box.setDefaultButton(defaults);
     box.exec();
     if (box.clickedButton() == other)
-        return otherFile(translated("Another Store"), translated("Preferences (*.db);;All files (*)"));
+        return otherFile(Words::tr("Another Store"), Words::tr("Preferences (*.db);;All files (*)"));
     return {box.clickedButton() == defaults ? olStartRemedy::DefaultsForThisRun : olStartRemedy::Quit, {}};
 }
 
 olStartRemedy olAskAboutPlugin(const QString &fault)
 {
-    QMessageBox box(QMessageBox::Critical, translated("Preferences"),
-                    translated("The plug-in with the preferences cannot be loaded."));
+    QMessageBox box(QMessageBox::Critical, Words::tr("Preferences"),
+                    Words::tr("The plug-in with the preferences cannot be loaded."));
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(fault);
-    const QPushButton *other = box.addButton(translated("Another &Plug-In..."), QMessageBox::ActionRole);
-    QPushButton *quit = box.addButton(translated("&Quit"), QMessageBox::RejectRole);
+    const QPushButton *other = box.addButton(Words::tr("Another &Plug-In..."), QMessageBox::ActionRole);
+    QPushButton *quit = box.addButton(Words::tr("&Quit"), QMessageBox::RejectRole);
     box.setDefaultButton(quit);
     box.exec();
     if (box.clickedButton() == other)
-        return otherFile(translated("Another Plug-In"), translated("Plug-ins (*.so);;All files (*)"));
+        return otherFile(Words::tr("Another Plug-In"), Words::tr("Plug-ins (*.so);;All files (*)"));
     return {};
 }

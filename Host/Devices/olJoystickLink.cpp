@@ -3,6 +3,7 @@
 #include "State/olHostState.h"
 #include "Utilities/olLog.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -17,6 +18,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olJoystickLink)
+};
 
 constexpr float fullDeflection = 32767.0f;
 
@@ -56,16 +61,15 @@ void olJoystickLink::open(int id)
     const QString file = QStringLiteral("%1/js%2").arg(m_folder).arg(id);
     m_device = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (m_device < 0) {
-        olLog::info(QStringLiteral("There is no joystick %1: %2: %3.")
-                        .arg(id)
-                        .arg(file, QString::fromLocal8Bit(strerror(errno))));
+        olLog::info(
+            Words::tr("There is no joystick %1: %2: %3.").arg(id).arg(file, QString::fromLocal8Bit(strerror(errno))));
         return;
     }
     m_id = id;
     m_notifier = std::make_unique<QSocketNotifier>(m_device, QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readEvents(); });
     olHostState::the().joystickConnected = true;
-    olLog::info(QStringLiteral("Joystick %1 is in use.").arg(id));
+    olLog::info(Words::tr("Joystick %1 is in use.").arg(id));
 }
 
 void olJoystickLink::readEvents()
@@ -77,7 +81,7 @@ void olJoystickLink::readEvents()
         if (got < 0 && (errno == EAGAIN || errno == EINTR))
             return;
         if (got != ssize_t(sizeof event)) {
-            olLog::info(QStringLiteral("Joystick %1 has gone.").arg(m_id));
+            olLog::info(Words::tr("Joystick %1 has gone.").arg(m_id));
             close();
             return;
         }

@@ -3,6 +3,7 @@
 #include "State/olHostState.h"
 #include "Utilities/olLog.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cerrno>
@@ -18,6 +19,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSpacemouseLink)
+};
 
 /// How long the GUI thread waits for a daemon that is there and in good health, or for the news that there is none.
 constexpr std::chrono::milliseconds patience{50};
@@ -94,7 +99,7 @@ void olSpacemouseLink::open()
         m_opener = std::thread(std::move(task));
     } catch (const std::system_error &error) {
         m_opening = {};
-        olLog::error(QStringLiteral("Cannot look for a 3D mouse: %1").arg(QString::fromLocal8Bit(error.what())));
+        olLog::error(Words::tr("Cannot look for a 3D mouse: %1").arg(QString::fromLocal8Bit(error.what())));
         return;
     }
 
@@ -117,10 +122,10 @@ void olSpacemouseLink::finishOpening()
         return;
     }
     if (!opened) {
-        olLog::info(QStringLiteral("There is no 3D mouse: its daemon, spacenavd, is not running."));
+        olLog::info(Words::tr("There is no 3D mouse: its daemon, spacenavd, is not running."));
         return;
     }
-    olLog::info(QStringLiteral("Connected to the daemon of the 3D mouse."));
+    olLog::info(Words::tr("Connected to the daemon of the 3D mouse."));
     listen();
 }
 
@@ -153,7 +158,7 @@ void olSpacemouseLink::readEvents()
 
     // No event and no daemon look the same to the library.
     if (m_notifier && isHungUp(spnav_fd())) {
-        olLog::info(QStringLiteral("The daemon of the 3D mouse has gone."));
+        olLog::info(Words::tr("The daemon of the 3D mouse has gone."));
         close();
     }
 }

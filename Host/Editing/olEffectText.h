@@ -2,12 +2,16 @@
 
 #include "olHostExport.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <string>
 
 /// When a setting's value has its effect here, in the words of the dialog; all empty for one that has it at once.
 struct ORLO_HOST_EXPORT olEffectText {
+    Q_DECLARE_TR_FUNCTIONS(olEffectText)
+
+public:
     QString brief;    ///< beside the setting
     QString sentence; ///< about the setting
     QString page;     ///< about a page all of whose settings are like that

@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -28,6 +29,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olPageIndex)
+};
 
 constexpr auto innerPartProperty = "olInnerPart";
 constexpr auto keysProperty = "olSettingKeys";
@@ -268,12 +273,12 @@ olPageControlFound olPageIndex::find(const QString &text) const
     if (found.size() == 1)
         return {found.front(), QString()};
     if (!found.empty())
-        return {nullptr, QStringLiteral("%1 controls answer to \"%2\": %3").arg(found.size()).arg(text, listed(found))};
+        return {nullptr, Words::tr("%1 controls answer to \"%2\": %3").arg(found.size()).arg(text, listed(found))};
 
     found = chosen(m_controls, [&](const olPageControl &control) { return resembles(control, text); });
     if (found.empty())
         found = chosen(m_controls, [](const olPageControl &) { return true; });
-    return {nullptr, QStringLiteral("there is no control \"%1\"; there is: %2").arg(text, listed(found))};
+    return {nullptr, Words::tr("there is no control \"%1\"; there is: %2").arg(text, listed(found))};
 }
 
 bool olPageIndex::isShown(const QWidget &page, const QWidget &control)

@@ -10,12 +10,14 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olValueText", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olValueText)
+};
 
 QString plain(const boost::any &value)
 {
     if (const auto *flag = boost::any_cast<bool>(&value))
-        return *flag ? translated("on") : translated("off");
+        return *flag ? Words::tr("on") : Words::tr("off");
     if (const auto *characters = boost::any_cast<QString>(&value))
         return *characters;
     return QString::fromStdString(olValue::toJson(value));
@@ -26,11 +28,11 @@ QString plain(const boost::any &value)
 QString olValueText(const std::string &key, const boost::any &value)
 {
     if (value.empty())
-        return translated("none");
+        return Words::tr("none");
     const olPreferencesEntry *module = olPreferencesSession::moduleOf(key);
     const QString told = module ? olModuleAccess(*module).text(key, value) : QString();
     const QString text = told.isEmpty() ? plain(value) : told;
-    return text.isEmpty() ? translated("none") : text;
+    return text.isEmpty() ? Words::tr("none") : text;
 }
 
 QString olShortValueText(const std::string &key, const boost::any &value)

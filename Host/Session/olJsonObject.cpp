@@ -11,7 +11,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olJsonObject", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olJsonObject)
+};
 
 /// Counts the lines of a text, in one walk along it.
 class Lines
@@ -40,9 +42,9 @@ std::optional<olJsonFault> olReadObject(std::string_view text, int firstLine, st
     olJsonReader json(text);
     Lines lines(text, firstLine);
     const auto here = [&] { return lines.at(json.position()); };
-    const auto noJson = [&] { return olJsonFault{here(), translated("here or just before, this is no JSON")}; };
+    const auto noJson = [&] { return olJsonFault{here(), Words::tr("here or just before, this is no JSON")}; };
     if (!json.take("{"))
-        return olJsonFault{here(), translated("an object is expected, as {\"key\": {\"value\": 1}}")};
+        return olJsonFault{here(), Words::tr("an object is expected, as {\"key\": {\"value\": 1}}")};
     QSet<QString> keys;
     bool isDone = json.take("}");
     while (!isDone) {
@@ -54,7 +56,7 @@ std::optional<olJsonFault> olReadObject(std::string_view text, int firstLine, st
         if (!value)
             return noJson();
         if (keys.contains(*key))
-            return olJsonFault{line, translated("\"%1\" stands here a second time").arg(*key)};
+            return olJsonFault{line, Words::tr("\"%1\" stands here a second time").arg(*key)};
         keys.insert(*key);
         members.push_back({*key, line, *value});
         isDone = !json.take(",");

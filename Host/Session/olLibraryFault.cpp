@@ -15,7 +15,9 @@ namespace
 using Header = ElfW(Ehdr);
 using Segment = ElfW(Phdr);
 
-QString translated(const char *text) { return QCoreApplication::translate("olLibraryFault", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olLibraryFault)
+};
 
 template <class T> bool read(QFile &file, std::uint64_t position, T &structure)
 {
@@ -51,9 +53,9 @@ QString olLibraryFault(const QString &name)
         return file.errorString();
     Header header;
     if (!read(file, 0, header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
-        return translated("it is no library");
+        return Words::tr("it is no library");
     // Of another kind of machine: that the loader tells best itself.
     const bool isOurs = header.e_ident[EI_CLASS] == (sizeof(void *) == 8 ? ELFCLASS64 : ELFCLASS32) &&
                         header.e_phentsize == sizeof(Segment);
-    return !isOurs || isWhole(file, header) ? QString() : translated("its end is missing");
+    return !isOurs || isWhole(file, header) ? QString() : Words::tr("its end is missing");
 }

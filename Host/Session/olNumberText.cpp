@@ -9,7 +9,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olNumberText", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olNumberText)
+};
 
 QString bound(double value) { return QString::fromStdString(olNumberText(value)); }
 
@@ -24,15 +26,15 @@ std::string olNumberText(double value)
 QString olNumbersBetween(double lowest, double highest)
 {
     if (std::isinf(lowest) && std::isinf(highest))
-        return translated("a number");
+        return Words::tr("a number");
     if (std::isinf(highest))
-        return translated("a number from %1").arg(bound(lowest));
+        return Words::tr("a number from %1").arg(bound(lowest));
     if (std::isinf(lowest))
-        return translated("a number up to %1").arg(bound(highest));
-    return translated("a number from %1 to %2").arg(bound(lowest), bound(highest));
+        return Words::tr("a number up to %1").arg(bound(highest));
+    return Words::tr("a number from %1 to %2").arg(bound(lowest), bound(highest));
 }
 
 QString olWholeNumbersBetween(int lowest, int highest)
 {
-    return translated("a whole number from %1 to %2").arg(lowest).arg(highest);
+    return Words::tr("a whole number from %1 to %2").arg(lowest).arg(highest);
 }

@@ -18,7 +18,9 @@ namespace
 constexpr auto entryName = "initPreferencesPlugin";
 constexpr auto fileName = "libKernelPreferences.so";
 
-QString translated(const char *text) { return QCoreApplication::translate("olPluginLoader", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olPluginLoader)
+};
 
 /// Beside the program, and installed.
 QStringList standardPlaces()
@@ -40,16 +42,16 @@ olResult<> olPluginLoader::load(const QString &given)
         std::find_if(places.begin(), places.end(), [](const QString &place) { return QFileInfo::exists(place); });
     if (found == places.end() && given.isEmpty())
         return olFailure{
-            translated("Cannot load the preferences plug-in: there is neither %1 nor %2.").arg(places[0], places[1])};
+            Words::tr("Cannot load the preferences plug-in: there is neither %1 nor %2.").arg(places[0], places[1])};
     // A bare name would be searched for in the system's folders.
     m_library.setFileName(QFileInfo(found == places.end() ? given : *found).absoluteFilePath());
     m_library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
 
     const QFileInfo info(m_library.fileName());
     if (!info.exists())
-        return failure(translated("there is no such file"));
+        return failure(Words::tr("there is no such file"));
     if (!info.isFile())
-        return failure(translated("it is not a file"));
+        return failure(Words::tr("it is not a file"));
     const QString fault = olLibraryFault(m_library.fileName());
     if (!fault.isEmpty())
         return failure(fault);
@@ -66,13 +68,13 @@ olResult<> olPluginLoader::enter()
 {
     const auto entry = reinterpret_cast<void (*)()>(m_library.resolve(entryName));
     if (!entry)
-        return failure(translated("it has no entry function %1").arg(entryName));
+        return failure(Words::tr("it has no entry function %1").arg(entryName));
     try {
         entry();
     } catch (const std::exception &exception) {
-        return failure(translated("a module could not be built: %1").arg(QString::fromLocal8Bit(exception.what())));
+        return failure(Words::tr("a module could not be built: %1").arg(QString::fromLocal8Bit(exception.what())));
     } catch (...) {
-        return failure(translated("a module could not be built, and does not say why"));
+        return failure(Words::tr("a module could not be built, and does not say why"));
     }
     return {};
 }
@@ -88,5 +90,5 @@ void olPluginLoader::unload()
 
 olFailure olPluginLoader::failure(const QString &reason) const
 {
-    return {translated("Cannot load the preferences plug-in %1: %2.").arg(m_library.fileName(), reason)};
+    return {Words::tr("Cannot load the preferences plug-in %1: %2.").arg(m_library.fileName(), reason)};
 }

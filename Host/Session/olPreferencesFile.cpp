@@ -17,7 +17,9 @@ namespace
 
 constexpr int currentFormat = 1;
 
-QString translated(const char *text) { return QCoreApplication::translate("olPreferencesFile", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olPreferencesFile)
+};
 
 const olJsonMember *find(const std::vector<olJsonMember> &members, const char *key)
 {
@@ -29,12 +31,12 @@ const olJsonMember *find(const std::vector<olJsonMember> &members, const char *k
 QString formatError(const olJsonMember *format)
 {
     if (!format)
-        return translated("It is no file of preferences: it names no format.");
+        return Words::tr("It is no file of preferences: it names no format.");
     const boost::any number = olValue::fromJson("double", format->text());
     if (number.empty() || !(boost::any_cast<double>(number) >= currentFormat))
-        return translated("It is no file of preferences: its format is not known.");
+        return Words::tr("It is no file of preferences: its format is not known.");
     if (boost::any_cast<double>(number) > currentFormat)
-        return translated("It was written by a newer version.");
+        return Words::tr("It was written by a newer version.");
     return {};
 }
 
@@ -45,13 +47,13 @@ olResult<boost::any> valueOf(const std::vector<olJsonMember> &parts)
     const olJsonMember *written = find(parts, "value");
     const boost::any type = named && written ? olValue::fromJson("string", named->text()) : boost::any();
     if (type.empty())
-        return olFailure{translated("has no type or no value")};
+        return olFailure{Words::tr("has no type or no value")};
     const auto &name = boost::any_cast<const std::string &>(type);
     if (!olValue::isTypeName(name))
-        return olFailure{translated("is of the unknown type \"%1\"").arg(QString::fromStdString(name))};
+        return olFailure{Words::tr("is of the unknown type \"%1\"").arg(QString::fromStdString(name))};
     boost::any value = olValue::fromJson(name, written->text());
     if (value.empty())
-        return olFailure{translated("is not %1, as its type %2 asks for")
+        return olFailure{Words::tr("is not %1, as its type %2 asks for")
                              .arg(QString::fromStdString(olValue::expectation(name)), QString::fromStdString(name))};
     return value;
 }
@@ -92,7 +94,7 @@ QByteArray olPreferencesFile::toJson(const olSettingValues &settings)
 olResult<olPreferencesFile::Contents> olPreferencesFile::fromJson(const QByteArray &text)
 {
     const auto faultIn = [](const std::optional<olJsonFault> &fault) {
-        return olFailure{translated("Line %1: %2.").arg(fault->line).arg(fault->what)};
+        return olFailure{Words::tr("Line %1: %2.").arg(fault->line).arg(fault->what)};
     };
     std::vector<olJsonMember> members;
     if (const auto fault = olReadObject({text.constData(), std::size_t(text.size())}, 1, members))
@@ -102,7 +104,7 @@ olResult<olPreferencesFile::Contents> olPreferencesFile::fromJson(const QByteArr
         return olFailure{wrongFormat};
     const olJsonMember *listed = find(members, "settings");
     if (!listed)
-        return olFailure{translated("It lists no settings.")};
+        return olFailure{Words::tr("It lists no settings.")};
     std::vector<olJsonMember> settings;
     if (const auto fault = olReadObject(listed->value, listed->line, settings))
         return faultIn(fault);
@@ -131,7 +133,7 @@ olResult<> olPreferencesFile::write(const QString &file, const olSettingValues &
     const auto result = [&file](const QFileDevice &out, bool isWritten) -> olResult<> {
         if (isWritten)
             return {};
-        return olFailure{translated("Cannot write the preferences to %1: %2.").arg(file, out.errorString())};
+        return olFailure{Words::tr("Cannot write the preferences to %1: %2.").arg(file, out.errorString())};
     };
     if (place.exists() && !place.isFile()) {
         QFile out(file);
@@ -146,9 +148,9 @@ olResult<olPreferencesFile::Contents> olPreferencesFile::read(const QString &fil
     QFile in(file);
     const QByteArray text = in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     if (in.error() != QFile::NoError)
-        return olFailure{translated("Cannot read the preferences from %1: %2.").arg(file, in.errorString())};
+        return olFailure{Words::tr("Cannot read the preferences from %1: %2.").arg(file, in.errorString())};
     auto contents = fromJson(text);
     if (!contents.isOk())
-        return olFailure{translated("Cannot import %1. %2").arg(file, contents.error())};
+        return olFailure{Words::tr("Cannot import %1. %2").arg(file, contents.error())};
     return contents;
 }

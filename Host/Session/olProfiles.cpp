@@ -15,7 +15,9 @@ namespace
 
 constexpr QLatin1String suffix(".json");
 
-QString translated(const char *text) { return QCoreApplication::translate("olProfiles", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olProfiles)
+};
 
 QString folderBeside(const QString &file) { return QFileInfo(file).absoluteDir().filePath(QStringLiteral("profiles")); }
 
@@ -26,7 +28,7 @@ QString fault(const QString &name)
                         !name.contains(QChar(0));
     return isName
                ? QString()
-               : translated(
+               : Words::tr(
                      "\"%1\" is no name for a profile: it must not be empty, have a slash in it or begin with a dot.")
                      .arg(name);
 }
@@ -61,7 +63,7 @@ QString olProfiles::ownFile(const QString &name) const { return QDir(m_own).file
 olFailure olProfiles::noProfile(const QString &name) const
 {
     const QString wrong = fault(name);
-    return {wrong.isEmpty() ? translated("There is no profile \"%1\".").arg(name) : wrong};
+    return {wrong.isEmpty() ? Words::tr("There is no profile \"%1\".").arg(name) : wrong};
 }
 
 olResult<QString> olProfiles::fileOf(const QString &name) const
@@ -79,7 +81,7 @@ olResult<> olProfiles::save(const QString &name, const olSettingValues &settings
     if (!wrong.isEmpty())
         return olFailure{wrong};
     if (!olStoreFile::makeFolder(m_own))
-        return olFailure{translated("Cannot make the folder %1.").arg(m_own)};
+        return olFailure{Words::tr("Cannot make the folder %1.").arg(m_own)};
     return olPreferencesFile::write(ownFile(name), settings);
 }
 
@@ -88,10 +90,10 @@ olResult<> olProfiles::remove(const QString &name) const
     QFile file(ownFile(name));
     if (!fault(name).isEmpty() || !file.exists()) {
         if (fileOf(name).isOk())
-            return olFailure{translated("The profile \"%1\" is the site's and cannot be deleted.").arg(name)};
+            return olFailure{Words::tr("The profile \"%1\" is the site's and cannot be deleted.").arg(name)};
         return noProfile(name);
     }
     if (file.remove())
         return {};
-    return olFailure{translated("Cannot delete the profile %1: %2.").arg(file.fileName(), file.errorString())};
+    return olFailure{Words::tr("Cannot delete the profile %1: %2.").arg(file.fileName(), file.errorString())};
 }

@@ -15,7 +15,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olSettingDescription", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSettingDescription)
+};
 
 QString json(const boost::any &value) { return QString::fromStdString(olValue::toJson(value)); }
 
@@ -110,13 +112,13 @@ QString olSettingDescription::expectation() const
         QStringList values;
         for (const olSettingChoice &choice : choices)
             values << json(choice.value);
-        return translated("one of %1").arg(values.join(QStringLiteral(", ")));
+        return Words::tr("one of %1").arg(values.join(QStringLiteral(", ")));
     }
     if (maximumLength)
-        return translated("at most %1 characters").arg(*maximumLength);
+        return Words::tr("at most %1 characters").arg(*maximumLength);
     const bool isBounded = !std::isinf(minimum) || !std::isinf(maximum);
     if (type == "color" && isBounded)
-        return translated("three numbers from %1 to %2")
+        return Words::tr("three numbers from %1 to %2")
             .arg(QString::fromStdString(olNumberText(minimum)), QString::fromStdString(olNumberText(maximum)));
     if (type == "int" && isBounded) {
         constexpr auto limits = std::numeric_limits<int>();
@@ -133,9 +135,8 @@ QString olSettingDescription::whyNot(const boost::any &value) const
     // A value that only calls itself by another type would not be understood from its text alone.
     const std::string actual = olValue::typeName(value);
     if (actual != type && !olValue::fromJson(type, json(value).toUtf8()).empty())
-        return translated("is of the type %1, not %2")
-            .arg(QString::fromStdString(actual), QString::fromStdString(type));
-    const QString refusal = translated("cannot be %1: expected %2").arg(shortened(json(value)), expectation());
+        return Words::tr("is of the type %1, not %2").arg(QString::fromStdString(actual), QString::fromStdString(type));
+    const QString refusal = Words::tr("cannot be %1: expected %2").arg(shortened(json(value)), expectation());
     if (actual != type)
         return refusal;
     if (isChoice()) {

@@ -16,7 +16,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olSiteDefaults", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSiteDefaults)
+};
 
 /// Whether nobody but root can change it.
 bool isRootsAlone(const struct stat &status)
@@ -53,15 +55,15 @@ std::optional<QString> open(QFile &file, olSiteOwner owner)
     // Whatever it is, nobody waits for it.
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
-        return translated("it cannot be read: %1").arg(qt_error_string(errno));
+        return Words::tr("it cannot be read: %1").arg(qt_error_string(errno));
     const bool isKnown = ::fstat(descriptor, &status) == 0;
     file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
     if (!isKnown || !S_ISREG(status.st_mode))
-        return translated("it is no regular file");
+        return Words::tr("it is no regular file");
     // What it is a link to must not lie where others can replace it either.
     const bool isSafe = owner == olSiteOwner::Anyone || (isRootsAlone(status) && isInFolderOfRoots(fileName) &&
                                                          isInFolderOfRoots(QFileInfo(fileName).canonicalFilePath()));
-    return isSafe ? QString() : translated("only root may own and write the file and its folder");
+    return isSafe ? QString() : Words::tr("only root may own and write the file and its folder");
 }
 
 } // namespace
@@ -97,13 +99,13 @@ void olSiteDefaults::readFile(const QString &name)
         return reject(name, *reason);
     QByteArray json = file.readAll();
     if (file.error() != QFile::NoError)
-        return reject(name, translated("it cannot be read: %1").arg(file.errorString()));
+        return reject(name, Words::tr("it cannot be read: %1").arg(file.errorString()));
     // Some editors put a mark before the text.
     if (json.startsWith("\xef\xbb\xbf"))
         json.remove(0, 3);
 
     const auto rejectFor = [&](const olJsonFault &found) {
-        reject(name, translated("line %1: %2").arg(found.line).arg(found.what));
+        reject(name, Words::tr("line %1: %2").arg(found.line).arg(found.what));
     };
     std::vector<olJsonMember> members;
     if (const auto found = olReadObject({json.constData(), std::size_t(json.size())}, 1, members))
@@ -124,7 +126,7 @@ void olSiteDefaults::readFile(const QString &name)
                 fault(name, part.line, QStringLiteral("\"%1\" %2").arg(member.key, what));
         }
         if (line.value.isNull() && !line.isLocked)
-            fault(name, line.number, translated("\"%1\" has neither a \"value\" nor a lock").arg(member.key));
+            fault(name, line.number, Words::tr("\"%1\" has neither a \"value\" nor a lock").arg(member.key));
         else
             read.lines.push_back(std::move(line));
     }
@@ -142,14 +144,14 @@ QString olSiteDefaults::takePart(const QString &name, const QByteArray &value, L
         const boost::any locked = olValue::fromJson("bool", value);
         // What cannot be read restricts.
         line.isLocked = locked.empty() || boost::any_cast<bool>(locked);
-        return locked.empty() ? translated("takes true or false for \"locked\"") : QString();
+        return locked.empty() ? Words::tr("takes true or false for \"locked\"") : QString();
     }
     if (name == QLatin1String("reason")) {
         const boost::any reason = olValue::fromJson("qstring", value);
         line.reason = reason.empty() ? QString() : boost::any_cast<QString>(reason);
-        return reason.empty() ? translated("takes a text for \"reason\"") : QString();
+        return reason.empty() ? Words::tr("takes a text for \"reason\"") : QString();
     }
-    return translated("has \"%1\", where only \"value\", \"locked\" and \"reason\" can stand").arg(name);
+    return Words::tr("has \"%1\", where only \"value\", \"locked\" and \"reason\" can stand").arg(name);
 }
 
 olSiteSetting olSiteDefaults::early(const std::string &key, const std::string &type) const
@@ -167,7 +169,7 @@ olSiteSetting olSiteDefaults::settingOf(const QString &file, const Line &line, c
 {
     if (!line.isLocked)
         return {value, std::nullopt, file};
-    return {value, line.reason.isEmpty() ? translated("This setting is fixed for your site.") : line.reason, file};
+    return {value, line.reason.isEmpty() ? Words::tr("This setting is fixed for your site.") : line.reason, file};
 }
 
 void olSiteDefaults::settle(const DefaultOf &defaultOf, const WhyNot &whyNot)
@@ -184,7 +186,7 @@ void olSiteDefaults::settleLine(const QString &file, const Line &line, const boo
 {
     const QString key = QString::fromStdString(line.key);
     if (offered.empty()) {
-        m_unknown << translated("%1, line %2: no module has a setting \"%3\".").arg(file).arg(line.number).arg(key);
+        m_unknown << Words::tr("%1, line %2: no module has a setting \"%3\".").arg(file).arg(line.number).arg(key);
         return;
     }
     boost::any value = line.value.isNull() ? offered : valueOf(line.value, olValue::typeName(offered));
@@ -199,10 +201,10 @@ void olSiteDefaults::settleLine(const QString &file, const Line &line, const boo
 
 void olSiteDefaults::reject(const QString &file, const QString &why)
 {
-    m_faults << translated("The site's preferences %1 are ignored: %2.").arg(file, why);
+    m_faults << Words::tr("The site's preferences %1 are ignored: %2.").arg(file, why);
 }
 
 void olSiteDefaults::fault(const QString &file, int line, const QString &what)
 {
-    m_faults << translated("The site's preferences %1, line %2: %3.").arg(file).arg(line).arg(what);
+    m_faults << Words::tr("The site's preferences %1, line %2: %3.").arg(file).arg(line).arg(what);
 }

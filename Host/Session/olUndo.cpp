@@ -12,7 +12,9 @@ using namespace olStoreRows;
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olUndo", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olUndo)
+};
 
 } // namespace
 
@@ -42,9 +44,9 @@ void olUndo::add(const Key &key, const std::optional<Change> &change, const Rows
     const auto found = rows.find(key);
     const std::optional<Row> now = found == rows.end() ? std::nullopt : std::optional<Row>(found->second);
     if (const auto reason = m_session.lockReason(key.second))
-        m_left.push_back({key.second, translated("is locked: %1").arg(*reason)});
+        m_left.push_back({key.second, Words::tr("is locked: %1").arg(*reason)});
     else if (!change || change->after != now)
-        m_left.push_back({key.second, translated("was changed since")});
+        m_left.push_back({key.second, Words::tr("was changed since")});
     else if (change->before != now)
         m_changes.push_back({key, now, change->before});
 }

@@ -27,7 +27,9 @@ constexpr int lockMilliseconds = 3000;
 // Clocks of files go in steps, some of whole seconds.
 constexpr qint64 settledMilliseconds = 2000;
 
-QString translated(const char *text) { return QCoreApplication::translate("olPreferencesStore", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olPreferencesStore)
+};
 
 const char *nameOf(olHome home) { return home == olHome::Record ? "record" : "service"; }
 
@@ -87,7 +89,7 @@ olStoreFile olPreferencesStore::store() const { return {m_file, m_hadRows || cop
 
 QString olPreferencesStore::cannotRead(const olStoreError &error) const
 {
-    return translated("Cannot read the preferences %1: %2.").arg(m_file, error.reason()) + wayOut(error);
+    return Words::tr("Cannot read the preferences %1: %2.").arg(m_file, error.reason()) + wayOut(error);
 }
 
 /// A file of a newer version is not ours to touch; but it may also be damaged just where its version stands.
@@ -96,9 +98,9 @@ QString olPreferencesStore::wayOut(const olStoreError &error) const
     if (error.kind() != Kind::Newer)
         return {};
     const QString fresh =
-        translated(" Use that version. If there is none, the file is damaged: move it away to start with defaults");
+        Words::tr(" Use that version. If there is none, the file is damaged: move it away to start with defaults");
     return fresh +
-           (copy().exists() ? translated(", or rename its copy %1 to it.").arg(copy().name()) : QStringLiteral("."));
+           (copy().exists() ? Words::tr(", or rename its copy %1 to it.").arg(copy().name()) : QStringLiteral("."));
 }
 
 olStoreRows::Key olPreferencesStore::rowKey(const Key &key) { return {nameOf(key.first), key.second}; }
@@ -174,7 +176,7 @@ olStoreOpening olPreferencesStore::lookAt(Values &values)
             return {cannotRead(error), {}};
         QString remark;
         (void)readCopy(values, remark);
-        return {{}, translated("The preferences file %1 is damaged: %2. %3").arg(m_file, error.reason(), remark)};
+        return {{}, Words::tr("The preferences file %1 is damaged: %2. %3").arg(m_file, error.reason(), remark)};
     }
 }
 
@@ -184,13 +186,13 @@ bool olPreferencesStore::readCopy(Values &values, QString &remark)
     try {
         if (copy().exists()) {
             take(copy().read(), values);
-            remark = translated("The copy of %1 was loaded; what was changed after that is not in it.")
+            remark = Words::tr("The copy of %1 was loaded; what was changed after that is not in it.")
                          .arg(QLocale().toString(QFileInfo(copy().name()).lastModified(), QLocale::ShortFormat));
             return true;
         }
-        remark = translated("There is no copy of it yet, so all settings are at their defaults.");
+        remark = Words::tr("There is no copy of it yet, so all settings are at their defaults.");
     } catch (const olStoreError &error) {
-        remark = translated("Its copy cannot be read either (%1), so all settings are at their defaults.")
+        remark = Words::tr("Its copy cannot be read either (%1), so all settings are at their defaults.")
                      .arg(error.reason());
     }
     m_hadRows = false;
@@ -211,15 +213,15 @@ olStoreOpening olPreferencesStore::repair(const QString &reason, Values &values)
 
     QString remark;
     const bool hasCopy = readCopy(values, remark);
-    const QString found = translated("The preferences file %1 is damaged: %2. ").arg(m_file, reason);
+    const QString found = Words::tr("The preferences file %1 is damaged: %2. ").arg(m_file, reason);
     try {
         if (!lock.isHeld())
-            throw olStoreError(Kind::Access, translated("its folder is read-only, or another program keeps it busy"));
+            throw olStoreError(Kind::Access, Words::tr("its folder is read-only, or another program keeps it busy"));
         const olStoreFile good = copy();
         const QString aside = store().setAside(hasCopy ? &good : nullptr);
-        return {{}, found + translated("It is now kept as %1. ").arg(aside) + remark};
+        return {{}, found + Words::tr("It is now kept as %1. ").arg(aside) + remark};
     } catch (const olStoreError &error) {
-        return {{}, found + translated("It could not be set aside: %1. ").arg(error.reason()) + remark};
+        return {{}, found + Words::tr("It could not be set aside: %1. ").arg(error.reason()) + remark};
     }
 }
 
@@ -270,7 +272,7 @@ QString olPreferencesStore::save(const olStoreRows::Changes &changes)
         return {};
     } catch (const olStoreError &error) {
         m_isBroken = error.kind() == Kind::Damaged;
-        return translated("Cannot save the preferences to %1: %2. What it held before is unchanged.")
+        return Words::tr("Cannot save the preferences to %1: %2. What it held before is unchanged.")
                    .arg(m_file, error.reason()) +
                wayOut(error);
     }
@@ -293,7 +295,7 @@ QStringList olPreferencesStore::check() const
         try {
             (void)file.read();
         } catch (const olStoreError &error) {
-            findings << translated("%1: %2.").arg(file.name(), error.reason());
+            findings << Words::tr("%1: %2.").arg(file.name(), error.reason());
         }
     }
     return findings;

@@ -23,13 +23,15 @@ constexpr int writeMilliseconds = 3000;
 
 constexpr int headerSize = 100;
 
-QString translated(const char *text) { return QCoreApplication::translate("olSqlite", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSqlite)
+};
 
 /// With what the system said, where it said anything.
 olStoreError accessError(const QString &reason, int systemError, Kind kind = Kind::Access)
 {
     if (systemError == ENOSPC || systemError == EDQUOT)
-        return {kind, translated("no space left on the device")};
+        return {kind, Words::tr("no space left on the device")};
     const QString said = QString::fromLocal8Bit(std::strerror(systemError));
     return {kind, systemError == 0 ? reason : QStringLiteral("%1 (%2)").arg(reason, said)};
 }
@@ -41,26 +43,26 @@ olStoreError errorOf(int code, int systemError, const QString &message)
                             code == SQLITE_IOERR_CHECKRESERVEDLOCK || code == SQLITE_PERM ||
                             (code == SQLITE_BUSY && systemError == ENOLCK);
     if (hasNoLocks)
-        return accessError(translated("its file system refuses locks"), systemError, Kind::NoLocks);
+        return accessError(Words::tr("its file system refuses locks"), systemError, Kind::NoLocks);
     // What a killed program left has to be rolled back, which who only looks cannot wait for.
     if (code == SQLITE_READONLY_ROLLBACK)
         return {Kind::Busy, message};
     switch (code & 0xff) {
     case SQLITE_FULL:
-        return {Kind::Access, translated("no space left on the device")};
+        return {Kind::Access, Words::tr("no space left on the device")};
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return {Kind::Busy, translated("another program keeps it busy")};
+        return {Kind::Busy, Words::tr("another program keeps it busy")};
     case SQLITE_READONLY:
-        return {Kind::Access, translated("it or its folder is read-only")};
+        return {Kind::Access, Words::tr("it or its folder is read-only")};
     case SQLITE_CANTOPEN:
-        return accessError(translated("it cannot be opened"), systemError);
+        return accessError(Words::tr("it cannot be opened"), systemError);
     case SQLITE_IOERR:
-        return accessError(translated("input or output failed"), systemError);
+        return accessError(Words::tr("input or output failed"), systemError);
     case SQLITE_CORRUPT:
-        return {Kind::Damaged, translated("its structure is broken")};
+        return {Kind::Damaged, Words::tr("its structure is broken")};
     case SQLITE_NOTADB:
-        return {Kind::Damaged, translated("its content is no database")};
+        return {Kind::Damaged, Words::tr("its content is no database")};
     case SQLITE_ERROR:
     case SQLITE_MISMATCH:
     case SQLITE_TOOBIG:
@@ -134,7 +136,7 @@ void olSqlite::run(const std::string &sql, const Row &parameters, const std::fun
         for (int column = 0; column < int(row.size()); ++column) {
             const int type = sqlite3_column_type(handle, column);
             if (type == SQLITE_BLOB)
-                throw olStoreError(Kind::Damaged, translated("a row is not what it was"));
+                throw olStoreError(Kind::Damaged, Words::tr("a row is not what it was"));
             const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(handle, column));
             if (type != SQLITE_NULL)
                 row[std::size_t(column)] = std::string(bytes, std::size_t(sqlite3_column_bytes(handle, column)));

@@ -28,7 +28,9 @@ constexpr const char *journals[] = {"-journal", "-wal"};
 
 constexpr int copyAttempts = 20;
 
-QString translated(const char *text) { return QCoreApplication::translate("olStoreFile", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olStoreFile)
+};
 
 QByteArray pathOf(const QString &file) { return QFile::encodeName(file); }
 
@@ -73,7 +75,7 @@ void copyPart(const QString &from, const QString &to)
     if (QFileInfo(from).size() == 0)
         return;
     if (!source.open(QIODevice::ReadOnly) || !source.copy(to))
-        throw olStoreError(Kind::Access, translated("%1 cannot be read: %2").arg(from, source.errorString()));
+        throw olStoreError(Kind::Access, Words::tr("%1 cannot be read: %2").arg(from, source.errorString()));
     QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
 }
 
@@ -119,7 +121,7 @@ void olStoreFile::look(const std::function<void(olSqlite &)> &work) const
 {
     const QFileInfo info(m_file);
     if (info.exists() && !info.isFile())
-        throw olStoreError(Kind::Access, translated("it is no regular file"));
+        throw olStoreError(Kind::Access, Words::tr("it is no regular file"));
     if (!hasPart("-wal")) {
         try {
             olSqlite database(m_file, olSqlite::Access::Look);
@@ -153,7 +155,7 @@ void olStoreFile::lookAtACopy(const std::function<void(olSqlite &)> &work) const
         }
         ::usleep(10000);
     }
-    throw olStoreError(Kind::Busy, translated("another program keeps it busy"));
+    throw olStoreError(Kind::Busy, Words::tr("another program keeps it busy"));
 }
 
 olStoreRows::Rows olStoreFile::read(olStoreRows::History *history) const
@@ -173,13 +175,13 @@ olStoreRows::Rows olStoreFile::read(olStoreRows::History *history) const
                 if (history)
                     *history = std::move(found);
             } else if (m_wasStore) {
-                olStoreTables::damaged("there is nothing in it");
+                olStoreTables::damaged(Words::tr("there is nothing in it"));
             }
         });
         return rows;
     } catch (const olStoreError &error) {
         if (error.kind() == Kind::Damaged && !isStore)
-            throw olStoreError(Kind::Foreign, translated("it is no preferences file"));
+            throw olStoreError(Kind::Foreign, Words::tr("it is no preferences file"));
         if (error.kind() == Kind::Foreign && m_wasStore)
             throw olStoreError(Kind::Damaged, error.reason());
         throw;
@@ -189,10 +191,10 @@ olStoreRows::Rows olStoreFile::read(olStoreRows::History *history) const
 void olStoreFile::change(const olStoreRows::Changes &changes, const std::string &program) const
 {
     if (!exists() && m_wasStore)
-        olStoreTables::damaged("it is gone");
+        olStoreTables::damaged(Words::tr("it is gone"));
     if (!exists()) {
         if (!makeFolder(QFileInfo(m_file).absolutePath()))
-            throw olStoreError(Kind::Access, translated("its folder cannot be created"));
+            throw olStoreError(Kind::Access, Words::tr("its folder cannot be created"));
         makeFile(m_file, 0600);
     }
     // What the database would work in from another file is proved on a copy before.
@@ -200,14 +202,14 @@ void olStoreFile::change(const olStoreRows::Changes &changes, const std::string 
         olStoreTables::usesALog(olSqlite(m_file, olSqlite::Access::Look).header()))
         (void)read();
     olSqlite database(m_file, olSqlite::Access::Write);
-    const olStoreError busy(Kind::Busy, translated("another program keeps it busy"));
+    const olStoreError busy(Kind::Busy, Words::tr("another program keeps it busy"));
     if (database.text("PRAGMA journal_mode = DELETE") != "delete")
         throw busy;
     database.run("PRAGMA synchronous = EXTRA");
     database.run("BEGIN IMMEDIATE");
     olStoreTables tables(database);
     if (m_wasStore && !tables.exist())
-        olStoreTables::damaged("there is nothing in it");
+        olStoreTables::damaged(Words::tr("there is nothing in it"));
     tables.change(changes, program);
     // Another program may just have set it aside.
     if (database.wasMoved())

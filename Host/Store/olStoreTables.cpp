@@ -34,7 +34,9 @@ constexpr auto historyTable =
     "TEXT NOT NULL, type_before TEXT, value_before TEXT, type_after TEXT, value_after TEXT, checksum TEXT NOT NULL, "
     "PRIMARY KEY (save, home, key)) WITHOUT ROWID";
 
-QString translated(const char *text) { return QCoreApplication::translate("olStoreFile", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olStoreFile)
+};
 
 /// 64 bits of a digest over the parts, each with its length, so that no two lists of parts look the same.
 std::string checksum(const std::vector<Text> &parts)
@@ -62,7 +64,7 @@ std::optional<Row> rowOf(const Text &type, const Text &value)
 
 } // namespace
 
-void olStoreTables::damaged(const char *reason) { throw olStoreError(Kind::Damaged, translated(reason)); }
+void olStoreTables::damaged(const QString &reason) { throw olStoreError(Kind::Damaged, reason); }
 
 bool olStoreTables::looksLikeAStore(const QByteArray &header)
 {
@@ -88,15 +90,15 @@ bool olStoreTables::exist()
 void olStoreTables::requireOurs()
 {
     if (m_database.number("PRAGMA application_id") != applicationId)
-        throw olStoreError(Kind::Foreign, translated("it is another program's database"));
+        throw olStoreError(Kind::Foreign, Words::tr("it is another program's database"));
     const int format = m_database.number("PRAGMA user_version");
     if (format > currentFormat)
-        throw olStoreError(Kind::Newer, translated("it was written by a newer version"));
+        throw olStoreError(Kind::Newer, Words::tr("it was written by a newer version"));
     if (format < earlierFormat)
-        damaged("its format is unknown");
+        damaged(Words::tr("its format is unknown"));
     const QByteArray versions = m_database.header().mid(18, 2);
     if (versions != QByteArray("\1\1") && versions != QByteArray("\2\2"))
-        damaged("its header is not what it was");
+        damaged(Words::tr("its header is not what it was"));
     std::vector<std::string> expected{earlierSettingTable, sealTable};
     if (format == currentFormat)
         expected = {settingTable, sealTable, historyTable};
@@ -106,9 +108,9 @@ void olStoreTables::requireOurs()
         expected.erase(std::remove(expected.begin(), expected.end(), part[1].value_or("")), expected.end());
     });
     if (hasTrigger || !expected.empty())
-        damaged("its tables are not what they were");
+        damaged(Words::tr("its tables are not what they were"));
     if (m_database.text("PRAGMA quick_check(1)") != "ok")
-        damaged("its structure is broken");
+        damaged(Words::tr("its structure is broken"));
 }
 
 Rows olStoreTables::rows()
@@ -119,7 +121,7 @@ Rows olStoreTables::rows()
         rows[{row[0].value_or(""), row[1].value_or("")}] = {row[2].value_or(""), row[3].value_or("")};
     });
     if (m_database.text("SELECT group_concat(rows) FROM seal") != sealOf(rows))
-        damaged("rows were changed or are missing");
+        damaged(Words::tr("rows were changed or are missing"));
     return rows;
 }
 
@@ -135,7 +137,7 @@ History olStoreTables::history()
             const Text proof = row.back();
             row.pop_back();
             if (proof != checksum(row))
-                damaged("its history was changed");
+                damaged(Words::tr("its history was changed"));
             const int number = std::stoi(row[0].value_or("0"));
             if (history.empty() || history.back().number != number)
                 history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});

@@ -15,7 +15,7 @@ class olStoreTables
 public:
     explicit olStoreTables(olSqlite &database) : m_database(database) {}
 
-    [[noreturn]] static void damaged(const char *reason);
+    [[noreturn]] static void damaged(const QString &reason);
 
     /// What the beginning of a file tells: whether it was a store, perhaps before it was damaged, and whether it is one
     /// of the earlier form, which kept its saves in a log.

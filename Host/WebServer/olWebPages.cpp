@@ -22,7 +22,9 @@ using Values = std::map<std::string, boost::any>;
 constexpr std::size_t maxRows = 5000;
 constexpr std::size_t maxSize = std::size_t(1) << 20;
 
-QString translated(const char *text) { return QCoreApplication::translate("olWebPages", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olWebPages)
+};
 
 bool isPublic(const std::string &key, const boost::any &value)
 {
@@ -67,7 +69,7 @@ olWebAnswer message(unsigned status, const QString &text)
     return {status, "text/plain; charset=utf-8", text.toUtf8() + '\n'};
 }
 
-olWebAnswer tooLarge() { return message(503, translated("The answer would be too large.")); }
+olWebAnswer tooLarge() { return message(503, Words::tr("The answer would be too large.")); }
 
 olWebAnswer json(const Values &values, std::string (*text)(const boost::any &))
 {
@@ -106,8 +108,8 @@ olWebAnswer statusPage()
                        "<body>\n<h1>%1</h1>\n<p>%2</p>\n"
                        "<p><a href=\"/settings.json\">%3</a> &middot; <a href=\"/state.json\">%4</a></p>\n"
                        "<h2>%4</h2>\n<table>\n")
-            .arg(host.appVersionName.get().toHtmlEscaped(), translated("The application is running.").toHtmlEscaped(),
-                 translated("Settings").toHtmlEscaped(), translated("State of the host").toHtmlEscaped()) +
+            .arg(host.appVersionName.get().toHtmlEscaped(), Words::tr("The application is running.").toHtmlEscaped(),
+                 Words::tr("Settings").toHtmlEscaped(), Words::tr("State of the host").toHtmlEscaped()) +
         rows + QStringLiteral("</table>\n</body>\n</html>\n");
     return {200, "text/html; charset=utf-8", page.toUtf8()};
 }
@@ -117,14 +119,14 @@ olWebAnswer statusPage()
 olWebAnswer olWebPages::answer(const olWebRequest &request)
 {
     if (request.method != "GET" && request.method != "HEAD")
-        return message(405, translated("Nothing can be changed here; ask with GET."));
+        return message(405, Words::tr("Nothing can be changed here; ask with GET."));
     if (request.path == "/")
         return statusPage();
     if (request.path == "/settings.json")
         return json(settings(), withType);
     if (request.path == "/state.json")
         return json(state(), olValue::toJson);
-    return message(404, translated("There is no such page."));
+    return message(404, Words::tr("There is no such page."));
 }
 
-olWebAnswer olWebPages::refusal() { return message(403, translated("This host is not allowed.")); }
+olWebAnswer olWebPages::refusal() { return message(403, Words::tr("This host is not allowed.")); }

@@ -18,7 +18,9 @@ namespace
 
 constexpr qint64 maxFileSize = 1 << 20;
 
-QString translated(const char *text) { return QCoreApplication::translate("olWebServer", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olWebServer)
+};
 
 /// Reads a file of the certificate. Returns why it cannot be used; empty where it can.
 QString read(QFile &file, bool isSecret, QByteArray &content)
@@ -26,15 +28,15 @@ QString read(QFile &file, bool isSecret, QByteArray &content)
     const QFileInfo info(file);
     // Opening anything else might never end.
     if (info.exists() && !info.isFile())
-        return translated("it is no regular file");
+        return Words::tr("it is no regular file");
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     if (isSecret && (file.permissions() & (QFile::ReadGroup | QFile::ReadOther)))
-        return translated("others than its owner can read it");
+        return Words::tr("others than its owner can read it");
     content = file.read(maxFileSize);
     if (file.error() != QFile::NoError)
         return file.errorString();
-    return content.isEmpty() ? translated("it is empty") : QString();
+    return content.isEmpty() ? Words::tr("it is empty") : QString();
 }
 
 /// Empty, and told in the log, where it cannot be used.
@@ -45,7 +47,7 @@ QByteArray contentOf(const QString &name, bool isSecret)
     const QString fault = read(file, isSecret, content);
     if (fault.isEmpty())
         return content;
-    olLog::error(translated("The web server cannot use %1: %2").arg(name, fault));
+    olLog::error(Words::tr("The web server cannot use %1: %2").arg(name, fault));
     return {};
 }
 
@@ -126,13 +128,13 @@ std::unique_ptr<olWebPort> olWebServer::open(const olHostSetting<int> &setting, 
     if (port == 0)
         return nullptr;
     auto opened = std::make_unique<olWebPort>([this](const olWebRequest &request) { return answer(request); });
-    const QString reason = port < 0 || port > 65535 ? translated("ports are numbered 1 to 65535")
+    const QString reason = port < 0 || port > 65535 ? Words::tr("ports are numbered 1 to 65535")
                                                     : opened->open(quint16(port), loopbackOnly, certificate);
     if (reason.isEmpty())
         return opened;
-    const QString place = certificate ? translated("port %1 with %2").arg(QString::number(port), certificate->file)
-                                      : translated("port %1").arg(port);
-    const QString sentence = translated("The web server does not listen on %1: %2").arg(place, reason);
+    const QString place = certificate ? Words::tr("port %1 with %2").arg(QString::number(port), certificate->file)
+                                      : Words::tr("port %1").arg(port);
+    const QString sentence = Words::tr("The web server does not listen on %1: %2").arg(place, reason);
     olLog::error(sentence);
     olHostState::the().refuse(setting.key, sentence);
     return nullptr;

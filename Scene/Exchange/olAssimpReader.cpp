@@ -58,7 +58,7 @@ public:
     {
         const QStringList files = found(name);
         if (files.isEmpty()) {
-            m_remarks << reason("The file %1 that it refers to was not found.")
+            m_remarks << olReason::tr("The file %1 that it refers to was not found.")
                              .arg(QFileInfo(QFile::decodeName(name)).fileName());
             return nullptr;
         }
@@ -211,7 +211,8 @@ private:
     /// Names that the library makes up for what has none.
     static QString ownName(const aiString &text)
     {
-        static const QRegularExpression madeUp(QStringLiteral("^(nodes|meshes|materials)[_[]\\d+\\]?$"));
+        static const QRegularExpression madeUp(
+            QStringLiteral("^(?:(?:nodes|meshes|materials)[_[]\\d+\\]?|default|defaultobject)$"));
         const QString name = textOf(text);
         return madeUp.match(name).hasMatch() ? QString() : name;
     }
@@ -371,7 +372,18 @@ private:
             setPhysical(*look, material);
         else
             setCommon(*look, material);
+        if (ownName(name).isEmpty() && saysNothing(*look))
+            return {};
         return m_document.addLook(look, ownName(name));
+    }
+
+    /// The library makes one up for what has none.
+    static bool saysNothing(const XCAFDoc_VisMaterial &look)
+    {
+        XCAFDoc_VisMaterialPBR nothing;
+        nothing.IsDefined = Standard_True;
+        return look.HasPbrMaterial() && look.PbrMaterial().IsEqual(nothing) &&
+               look.AlphaMode() == Graphic3d_AlphaMode_Opaque;
     }
 
     void setPhysical(XCAFDoc_VisMaterial &look, const aiMaterial &material) const
@@ -422,12 +434,11 @@ private:
         material.Get(AI_MATKEY_COLOR_EMISSIVE, emissive);
         material.Get(AI_MATKEY_OPACITY, opacity);
         material.Get(AI_MATKEY_SHININESS, shininess);
-        constexpr float shiniest = 1000;
         XCAFDoc_VisMaterialCommon common =
             olPlainLook::bareLook(Quantity_ColorRGBA(colorOf(diffuse), float(part(opacity))));
         common.SpecularColor = colorOf(specular);
         common.EmissiveColor = colorOf(emissive);
-        common.Shininess = float(part(shininess / shiniest));
+        common.Shininess = float(part(shininess / olPlainLook::shiniest));
         common.DiffuseTexture = textureOf(material, aiTextureType_DIFFUSE);
         look.SetCommonMaterial(common);
     }
@@ -479,12 +490,12 @@ QString olAssimpReader::read(const olImportJob &job, const Manner &manner, const
                           aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices);
     if (!scene || !scene->mRootNode) {
         const QString fault = QString::fromUtf8(importer.GetErrorString()).section(QLatin1Char('\n'), 0, 0).trimmed();
-        return fault.isEmpty() ? damaged() : reason("the file is damaged (%1)").arg(fault);
+        return fault.isEmpty() ? damaged() : olReason::tr("the file is damaged (%1)").arg(fault);
     }
     Conversion conversion(*scene, manner, document, QFileInfo(job.file).completeBaseName());
     if (!conversion.run())
-        return reason("its groups are nested too deeply");
+        return olReason::tr("its groups are nested too deeply");
     if (conversion.leftOut() > 0)
-        remarks << reason("%1 of its meshes are lines or points, which are left out.").arg(conversion.leftOut());
+        remarks << olReason::tr("%1 of its meshes are lines or points, which are left out.").arg(conversion.leftOut());
     return {};
 }

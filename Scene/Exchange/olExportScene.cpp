@@ -1,5 +1,6 @@
 #include "Exchange/olExportScene.h"
 
+#include "Exchange/olDocumentContent.h"
 #include "Exchange/olImportJob.h"
 #include "Exchange/olModelFormat.h"
 #include "Exchange/olPartChanges.h"
@@ -10,21 +11,19 @@
 #include <TDF_LabelSequence.hxx>
 #include <TDF_Tool.hxx>
 #include <TDocStd_Document.hxx>
-#include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
-#include <XCAFDoc_VisMaterial.hxx>
-#include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QPair>
 #include <QSaveFile>
 #include <QTemporaryDir>
+#include <QVector>
 
-#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -32,7 +31,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olExport", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olExport)
+};
 
 /// What stands where in which group, as a key.
 std::string placeOf(const TDF_Label &instance)
@@ -63,14 +64,14 @@ olScene::Document withoutMeshes(const olScene::Document &document, QStringList &
     copy.isWanted = [&places, &remarks](const TDF_Label &instance) {
         if (!XCAFDoc_ShapeTool::IsComponent(instance) || places.insert(placeOf(instance)).second)
             return true;
-        remarks << translated("%1 stands twice in the same place; it is written once.").arg(olShownNameOf(instance));
+        remarks << Words::tr("%1 stands twice in the same place; it is written once.").arg(olShownNameOf(instance));
         return false;
     };
     copy.changePart = [&remarks](const TDF_Label &label, olChangedPart &part) {
         olPartChanges::keepOnly(part, {true, false, true});
         if (part.shape.IsNull())
             remarks
-                << translated("%1 is a mesh, which this format cannot hold; it is left out.").arg(olShownNameOf(label));
+                << Words::tr("%1 is a mesh, which this format cannot hold; it is left out.").arg(olShownNameOf(label));
     };
     return copy.copy(document);
 }
@@ -82,39 +83,34 @@ bool isEmpty(const olScene::Document &document)
     return labels.IsEmpty();
 }
 
-bool hasTextures(const olScene::Document &document)
+/// What of the document a file of the format will not have, in a sentence or two.
+QStringList lossesOf(const olScene::Document &document, const olModelFormat &format)
 {
-    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
-    TDF_LabelSequence labels;
-    tool->GetMaterials(labels);
-    return std::any_of(labels.begin(), labels.end(), [&tool](const TDF_Label &label) {
-        const Handle(XCAFDoc_VisMaterial) look = tool->GetMaterial(label);
-        return !look.IsNull() && ((look->HasCommonMaterial() && !look->CommonMaterial().DiffuseTexture.IsNull()) ||
-                                  (look->HasPbrMaterial() && !look->PbrMaterial().BaseColorTexture.IsNull()));
-    });
-}
-
-/// What of the document a file of the format will not have, in one sentence; empty where it has all.
-QString lossOf(const olScene::Document &document, const olModelFormat &format)
-{
-    TDF_LabelSequence colors;
-    TDF_LabelSequence looks;
-    TDF_LabelSequence shapes;
-    XCAFDoc_DocumentTool::ColorTool(document->Main())->GetColors(colors);
-    XCAFDoc_DocumentTool::VisMaterialTool(document->Main())->GetMaterials(looks);
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetShapes(shapes);
-    const bool hasGroups = std::any_of(shapes.begin(), shapes.end(),
-                                       [](const TDF_Label &label) { return XCAFDoc_ShapeTool::IsAssembly(label); });
-    QStringList lost;
-    if (!format.holds(olModelFormat::Colors) && !(colors.IsEmpty() && looks.IsEmpty()))
-        lost << translated("colours");
-    if (!format.holds(olModelFormat::Textures) && hasTextures(document))
-        lost << translated("textures");
-    if (!format.holds(olModelFormat::Structure) && hasGroups)
-        lost << translated("groups of parts");
-    return lost.isEmpty() ? QString()
-                          : translated("%1 knows no %2; they are not written.")
-                                .arg(QLatin1String(format.name), lost.join(translated(" and no ")));
+    const unsigned lost = olDocumentContent(document) & ~format.content;
+    const QVector<QPair<unsigned, QString>> kinds{
+        {olModelFormat::Curves, Words::tr("curves")},
+        {olModelFormat::Names, Words::tr("names of parts")},
+        {olModelFormat::Structure, Words::tr("groups of parts")},
+        {olModelFormat::Colors, Words::tr("colours")},
+        {olModelFormat::CornerColors, Words::tr("colours of corners")},
+        {olModelFormat::Opacity, Words::tr("opacity")},
+        {olModelFormat::Textures, Words::tr("textures")},
+        {olModelFormat::Substances, Words::tr("physical materials")},
+        {olModelFormat::Layers, Words::tr("layers")},
+        {olModelFormat::Hidden, Words::tr("hidden parts")},
+    };
+    QStringList names;
+    for (const auto &[kind, name] : kinds) {
+        if (lost & kind)
+            names << name;
+    }
+    QStringList losses;
+    if (lost & olModelFormat::Surfaces)
+        losses << Words::tr("%1 knows no exact surfaces; their triangles are written.").arg(QLatin1String(format.name));
+    if (!names.isEmpty())
+        losses << Words::tr("These are not in the file, as %1 does not know them: %2.")
+                      .arg(QLatin1String(format.name), names.join(QStringLiteral(", ")));
+    return losses;
 }
 
 /// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
@@ -141,19 +137,19 @@ QString writeThroughTemporary(const olScene::Document &document, const olModelFo
     const QTemporaryDir folder(
         QDir(olImportJob::of(file).temporaryDirectory).filePath(QStringLiteral("orlo-export-XXXXXX")));
     if (!folder.isValid())
-        return translated("the temporary directory cannot be written to");
+        return Words::tr("the temporary directory cannot be written to");
     const QFileInfo target(file);
     if (!format.write(document, folder.filePath(target.fileName()), remarks))
-        return translated("the writer failed");
+        return Words::tr("the writer failed");
     if (!QFileInfo(folder.filePath(target.fileName())).isFile())
-        return translated("the writer failed");
+        return Words::tr("the writer failed");
     // Textures stand in a folder of their own.
     const QDir from(folder.path());
     for (QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
         const QString written = each.next();
         const QString place = target.absoluteDir().filePath(from.relativeFilePath(written));
         if (!QDir().mkpath(QFileInfo(place).path()))
-            return translated("the folder %1 cannot be made").arg(QFileInfo(place).path());
+            return Words::tr("the folder %1 cannot be made").arg(QFileInfo(place).path());
         const QString fault = putInPlace(written, place);
         if (!fault.isEmpty())
             return fault;
@@ -168,15 +164,13 @@ QString attempt(const olScene::Document &document, const olModelFormat &format, 
         const olScene::Document content =
             format.holds(olModelFormat::Meshes) ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
-            return translated("there is nothing that this format can hold");
-        const QString loss = lossOf(content, format);
-        if (!loss.isEmpty())
-            remarks << loss;
+            return Words::tr("there is nothing that this format can hold");
+        remarks << lossesOf(content, format);
         return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
-        return translated("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+        return Words::tr("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
     } catch (const std::exception &failure) {
-        return translated("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+        return Words::tr("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
     }
 }
 
@@ -193,6 +187,6 @@ olExportResult olExportScene(const olScene::Document &document, const QString &f
     }
     const QString fault = attempt(document, *format, file, result.remarks);
     if (!fault.isEmpty())
-        result.error = translated("Cannot write %1: %2.").arg(file, fault);
+        result.error = Words::tr("Cannot write %1: %2.").arg(file, fault);
     return result;
 }

@@ -31,7 +31,9 @@ using Clock = std::chrono::steady_clock;
 // How soon a cancelled reading ends, in milliseconds.
 constexpr int glance = 50;
 
-QString translated(const char *text) { return QCoreApplication::translate("olImport", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olImport)
+};
 
 /// A number of an open file, which closes with it. Lies above those that the reading process gets.
 class OpenFile
@@ -96,10 +98,10 @@ public:
         waitpid(m_process, &status, 0);
         m_process = 0;
         if (WIFSIGNALED(status))
-            return WTERMSIG(status) == SIGKILL ? translated("the system ended its reader, probably for want of memory")
-                                               : translated("the file is damaged in a way that makes its reader crash");
+            return WTERMSIG(status) == SIGKILL ? Words::tr("the system ended its reader, probably for want of memory")
+                                               : Words::tr("the file is damaged in a way that makes its reader crash");
         if (WEXITSTATUS(status) != 0 || !takeResult(result))
-            return translated("its reader failed");
+            return Words::tr("its reader failed");
         return {};
     }
 
@@ -110,7 +112,7 @@ private:
         int ends[2];
         if (m_input.number() < 0 || m_result.number() < 0 || pipe2(ends, O_CLOEXEC) != 0 ||
             ::write(m_input.number(), job.constData(), std::size_t(job.size())) != job.size())
-            return translated("its reader cannot be started (%1)").arg(qt_error_string(errno));
+            return Words::tr("its reader cannot be started (%1)").arg(qt_error_string(errno));
         lseek(m_input.number(), 0, SEEK_SET);
         const OpenFile writing(ends[1]);
         m_progress.emplace(ends[0]);
@@ -128,7 +130,7 @@ private:
         if (error == 0)
             return {};
         m_process = 0;
-        return translated("its reader %1 cannot be started (%2)")
+        return Words::tr("its reader %1 cannot be started (%2)")
             .arg(QFile::decodeName(program), qt_error_string(error));
     }
 
@@ -146,7 +148,7 @@ private:
             }
             if (!isThere) {
                 if (Clock::now() - heard > std::chrono::milliseconds(m_job.patience))
-                    return translated("reading it made no progress for %1 seconds")
+                    return Words::tr("reading it made no progress for %1 seconds")
                         .arg(QString::number(m_job.patience / 1000.0));
                 continue;
             }
@@ -211,7 +213,7 @@ QString attempt(olImportJob job, const olImportWatch &watch, olImportResult &res
     if (!job.options.importReferencedFiles) {
         alone.emplace(job);
         if (!alone->isReady())
-            return translated("the temporary directory cannot be written to");
+            return Words::tr("the temporary directory cannot be written to");
         job.loneFile = alone->file();
     }
     QString fault = Reader(job, watch).run(result);
@@ -225,13 +227,13 @@ olImportResult olImport(const olImportJob &job, const olImportWatch &watch)
     olSilenceLibrary();
     olImportResult result;
     if (!olModelFormat::ofFile(job.file)) {
-        result.error = QFileInfo(job.file).isDir() ? translated("Cannot read %1: this is a folder.").arg(job.file)
+        result.error = QFileInfo(job.file).isDir() ? Words::tr("Cannot read %1: this is a folder.").arg(job.file)
                                                    : olModelFormat::noReader(job.file);
         return result;
     }
     const QString fault = attempt(job, watch, result);
     result.error =
-        fault.isEmpty() || result.isCancelled ? QString() : translated("Cannot read %1: %2.").arg(job.file, fault);
+        fault.isEmpty() || result.isCancelled ? QString() : Words::tr("Cannot read %1: %2.").arg(job.file, fault);
     if (!result.isGood())
         result.document.Nullify();
     return result;

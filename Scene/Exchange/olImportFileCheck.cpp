@@ -14,7 +14,9 @@ namespace
 // A reader needs several times the size of the file.
 constexpr qint64 memoryPerFile = 4;
 
-QString reason(const char *text) { return QCoreApplication::translate("olImport", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olReason)
+};
 
 qint64 memory() { return qint64(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE); }
 
@@ -26,18 +28,18 @@ QString olImportFileCheck(const QString &name, const olModelFormat &format, QStr
 {
     const QFileInfo info(name);
     if (!info.exists())
-        return reason("there is no such file");
+        return Words::tr("there is no such file");
     if (!info.isFile())
-        return reason("this is no file");
+        return Words::tr("this is no file");
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     if (file.size() == 0)
-        return reason("the file is empty");
+        return Words::tr("the file is empty");
     if (file.size() > memory() / memoryPerFile)
-        return reason("the file is too large for this machine: %1 GB with %2 GB of memory")
+        return Words::tr("the file is too large for this machine: %1 GB with %2 GB of memory")
             .arg(gigabytes(file.size()), gigabytes(memory()));
     if (file.size() > std::numeric_limits<int>::max())
-        return reason("the file is too large: %1 GB, of which 2 can be read").arg(gigabytes(file.size()));
+        return Words::tr("the file is too large: %1 GB, of which 2 can be read").arg(gigabytes(file.size()));
     return format.check(file, remarks);
 }

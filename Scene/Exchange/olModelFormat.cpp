@@ -25,7 +25,9 @@ OL_FORMATS(OL_FORMAT)
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olModelFormat", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olModelFormat)
+};
 
 /// Of all formats that can be read, or of those that can be written.
 QString allSuffixes(const QString &before, const QString &between, bool isWritten)
@@ -43,7 +45,7 @@ QString allSuffixes(const QString &before, const QString &between, bool isWritte
 QString suffixText(const QString &file)
 {
     const QString suffix = QFileInfo(file).suffix();
-    return suffix.isEmpty() ? translated("files without a suffix") : translated(".%1 files").arg(suffix);
+    return suffix.isEmpty() ? Words::tr("files without a suffix") : Words::tr(".%1 files").arg(suffix);
 }
 
 } // namespace
@@ -68,20 +70,20 @@ const olModelFormat *olModelFormat::ofFile(const QString &file)
 
 QString olModelFormat::noReader(const QString &file)
 {
-    return translated("Cannot read %1: there is no reader for %2. These can be read: %3.")
+    return Words::tr("Cannot read %1: there is no reader for %2. These can be read: %3.")
         .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", "), false));
 }
 
 QString olModelFormat::noWriter(const QString &file)
 {
-    return translated("Cannot write %1: there is no writer for %2. These can be written: %3.")
+    return Words::tr("Cannot write %1: there is no writer for %2. These can be written: %3.")
         .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", "), true));
 }
 
 QString olModelFormat::filter(bool isWritten)
 {
     QStringList filters{
-        translated("Models (%1)").arg(allSuffixes(QStringLiteral("*."), QStringLiteral(" "), isWritten))};
+        Words::tr("Models (%1)").arg(allSuffixes(QStringLiteral("*."), QStringLiteral(" "), isWritten))};
     for (const olModelFormat &format : all()) {
         if (!isWritten || format.write)
             filters << QStringLiteral("%1 (*.%2)")

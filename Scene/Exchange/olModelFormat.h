@@ -21,7 +21,18 @@ struct olModelFormat {
         Colors = 1 << 2,
         Opacity = 1 << 3,
         Textures = 1 << 4,
+        /// Groups of parts.
         Structure = 1 << 5,
+        Curves = 1 << 6,
+        /// Corners of triangles with colours of their own.
+        CornerColors = 1 << 7,
+        /// Of parts.
+        Names = 1 << 8,
+        /// What parts are made of, with its density.
+        Substances = 1 << 9,
+        Layers = 1 << 10,
+        /// Parts that are there but not seen.
+        Hidden = 1 << 11,
     };
 
     const char *name;

@@ -46,7 +46,9 @@
 namespace
 {
 
-QString translated(const char *text) { return QCoreApplication::translate("olImport", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olImport)
+};
 
 /// Applies the options of the import to what the reader left.
 class Treatment
@@ -109,7 +111,7 @@ private:
         if (part.shape.IsNull())
             return;
         if (m_job.verify && !olPartChanges::isSound(part.shape))
-            m_remarks << translated("%1 has faulty surfaces.").arg(olShownNameOf(label));
+            m_remarks << Words::tr("%1 has faulty surfaces.").arg(olShownNameOf(label));
         if (m_job.optimize)
             olPartChanges::repair(part);
         if (options.stitching)
@@ -124,7 +126,7 @@ private:
         sharpen(part.shape);
         const int missing = facesWithoutTriangles(part.shape);
         if (missing > 0)
-            m_remarks << translated("%1 of the faces of %2 cannot be drawn.").arg(missing).arg(olShownNameOf(label));
+            m_remarks << Words::tr("%1 of the faces of %2 cannot be drawn.").arg(missing).arg(olShownNameOf(label));
         if (!options.keepSurfaceData)
             olPartChanges::dropSurfaces(part);
     }
@@ -139,11 +141,11 @@ private:
             return olTriangles::count(shape);
         });
         if (used < wanted)
-            m_remarks << (used > 0 ? translated("Gaps of %1 up to %2 mm are closed; %3 would distort it.")
+            m_remarks << (used > 0 ? Words::tr("Gaps of %1 up to %2 mm are closed; %3 would distort it.")
                                          .arg(olShownNameOf(label))
                                          .arg(used)
                                          .arg(wanted)
-                                   : translated("The faces of %1 are not joined; that would distort it.")
+                                   : Words::tr("The faces of %1 are not joined; that would distort it.")
                                          .arg(olShownNameOf(label)));
         TopTools_IndexedMapOfShape pieces;
         TopExp::MapShapes(stitched.shape, pieces);
@@ -167,10 +169,9 @@ private:
     /// Meshes that say nothing of their normals are smooth where they are nearly so.
     static void sharpen(const TopoDS_Shape &shape)
     {
-        constexpr double creaseAngle = 30.0 * 0.017453292519943295;
         eachMesh(shape, [](const TopoDS_Face &face, const Handle(Poly_Triangulation) & mesh) {
             if (!mesh->HasNormals())
-                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, creaseAngle));
+                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, olMeshTools::usualCrease));
         });
     }
 
@@ -328,11 +329,11 @@ QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImpo
         return fault;
     constexpr double mostInstances = 1e6;
     if (Instances(raw).count() > mostInstances)
-        return translated("it has more than a million parts");
+        return Words::tr("it has more than a million parts");
     if (!isWhole(raw))
-        return translated("the file is damaged: it has triangles without their points, or points beyond all measure");
+        return Words::tr("the file is damaged: it has triangles without their points, or points beyond all measure");
     if (!hasGeometry(raw))
-        return translated("there is no geometry in it");
+        return Words::tr("there is no geometry in it");
     olFindTextures(job, raw, result.remarks);
     olPlainLook::addTo(raw);
 
@@ -341,7 +342,7 @@ QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImpo
     if (result.isCancelled)
         return {};
     if (!hasGeometry(treated))
-        return translated("the import options leave nothing of it");
+        return Words::tr("the import options leave nothing of it");
     result.document = placed(treated, job);
     return {};
 }
@@ -354,11 +355,11 @@ QString attempt(const olImportJob &job, const olModelFormat &format, olImportRes
         const QString fault = olImportFileCheck(job.file, format, result.remarks);
         return fault.isEmpty() ? readAndTreat(job, format, result, progress) : fault;
     } catch (const Standard_Failure &failure) {
-        return translated("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+        return Words::tr("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
     } catch (const std::bad_alloc &) {
-        return translated("there is not enough memory for it");
+        return Words::tr("there is not enough memory for it");
     } catch (const std::exception &failure) {
-        return translated("the reader failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+        return Words::tr("the reader failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
     }
 }
 

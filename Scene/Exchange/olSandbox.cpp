@@ -1,5 +1,7 @@
 #include "Exchange/olSandbox.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstdint>
 #include <initializer_list>
@@ -24,6 +26,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSandbox)
+};
 
 /// Lower limits that are there already stay.
 template <class Resource> void limit(Resource resource, rlim_t value)
@@ -174,8 +180,8 @@ QStringList olSandbox::enter()
     limitMemory();
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     if (!restrictFiles())
-        missing << QStringLiteral("The system has no Landlock; models are read without it.");
+        missing << Words::tr("The system has no Landlock; models are read without it.");
     if (!refuseCalls())
-        missing << QStringLiteral("The system takes no seccomp filter; models are read without it.");
+        missing << Words::tr("The system takes no seccomp filter; models are read without it.");
     return missing;
 }

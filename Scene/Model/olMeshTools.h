@@ -11,6 +11,9 @@ class Poly_Triangulation;
 namespace olMeshTools
 {
 
+/// Where meshes say nothing of their normals, neighbours that meet at less than this look smooth; radians.
+constexpr double usualCrease = 30.0 * 0.017453292519943295;
+
 /// Whether every triangle has its points, and all of them lie somewhere.
 [[nodiscard]] bool isWhole(const opencascade::handle<Poly_Triangulation> &mesh);
 

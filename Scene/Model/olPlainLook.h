@@ -10,6 +10,9 @@
 namespace olPlainLook
 {
 
+/// Formats count how much a look shines up to this, the library up to 1.
+constexpr float shiniest = 1000;
+
 /// The colour of what has none.
 [[nodiscard]] Quantity_Color bare();
 

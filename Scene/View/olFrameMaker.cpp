@@ -26,6 +26,7 @@ bool olFrameMaker::draw(olSceneView &view, olPictureTarget &target, const QSize 
 {
     olSceneView::Frame frame;
     frame.isMoving = manner.isMoving;
+    frame.pixelRatio = manner.pixelRatio;
     const std::vector<QPointF> shifts = view.shifts(manner.isMoving);
     const olPictureMean::Finish finish = wantedFinish();
     const bool isPlain = shifts.size() == 1 && !manner.isAnaglyph && !finish.smoothsEdges && !finish.hidesBands;
@@ -52,6 +53,7 @@ bool olFrameMaker::drawStill(olSceneView &view, olPictureTarget &target, const M
     const std::vector<QPointF> shifts = view.shifts(false);
     olSceneView::Frame frame;
     frame.isStill = true;
+    frame.pixelRatio = manner.pixelRatio;
     frame.shift = still.nextShift() + shifts[std::size_t(still.taken()) % shifts.size()];
     if (!addPicture(view, size, manner, frame))
         return false;

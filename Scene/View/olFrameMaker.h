@@ -14,6 +14,7 @@ public:
     struct Manner {
         bool isMoving = false;   ///< The camera is on its way, and speed counts.
         bool isAnaglyph = false; ///< For glasses with a red and a cyan side.
+        double pixelRatio = 1;   ///< As in a frame of the view.
     };
 
     /// Each is false where nothing could be drawn.

@@ -9,6 +9,7 @@
 #include <BRep_Tool.hxx>
 #include <Graphic3d_ArrayOfTriangles.hxx>
 #include <Graphic3d_AspectFillArea3d.hxx>
+#include <Graphic3d_Aspects.hxx>
 #include <Graphic3d_Group.hxx>
 #include <Prs3d_LineAspect.hxx>
 #include <Prs3d_ShadingAspect.hxx>
@@ -31,6 +32,20 @@ constexpr int firstLevelMode = 100;
 Handle(olColoredMesh) coloredMeshOf(const TopoDS_Face &face, TopLoc_Location &location)
 {
     return Handle(olColoredMesh)::DownCast(BRep_Tool::Triangulation(face, location));
+}
+
+/// What is only cut out by its texture is not.
+bool isSeenThrough(const Graphic3d_Aspects &aspects)
+{
+    switch (aspects.AlphaMode()) {
+    case Graphic3d_AlphaMode_Blend:
+    case Graphic3d_AlphaMode_MaskBlend:
+        return true;
+    case Graphic3d_AlphaMode_BlendAuto:
+        return aspects.FrontMaterial().Transparency() > 0.0f;
+    default:
+        return false;
+    }
 }
 
 /// The library computes with light, files say how screens show it.
@@ -148,7 +163,7 @@ bool olPart::isTransparent() const
     for (const Handle(PrsMgr_Presentation) & presentation : myPresentations) {
         for (const Handle(Graphic3d_Group) & group : presentation->Groups()) {
             const Handle(Graphic3d_Aspects) aspects = group->Aspects();
-            if (!aspects.IsNull() && aspects->FrontMaterial().Transparency() > 0.0f)
+            if (!aspects.IsNull() && isSeenThrough(*aspects))
                 return true;
         }
     }
@@ -164,11 +179,12 @@ void olPart::DefaultStyle(XCAFPrs_Style &style) const
 
 void olPart::setWritesDepth(bool writes)
 {
-    const Graphic3d_AlphaMode mode = writes ? Graphic3d_AlphaMode_MaskBlend : Graphic3d_AlphaMode_BlendAuto;
+    const Graphic3d_AlphaMode mode = writes ? Graphic3d_AlphaMode_MaskBlend : Graphic3d_AlphaMode_Blend;
     for (const Handle(PrsMgr_Presentation) & presentation : Presentations()) {
         for (const Handle(Graphic3d_Group) & group : presentation->Groups()) {
             const Handle(Graphic3d_Aspects) aspects = group->Aspects();
-            if (aspects.IsNull() || aspects->AlphaMode() == mode)
+            if (aspects.IsNull() || !isSeenThrough(*aspects) ||
+                writes == (aspects->AlphaMode() == Graphic3d_AlphaMode_MaskBlend))
                 continue;
             aspects->SetAlphaMode(mode, 0.01f);
             group->SetGroupPrimitivesAspect(aspects);

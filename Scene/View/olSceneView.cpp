@@ -7,8 +7,11 @@
 #include "View/olNavigator.h"
 #include "View/olPart.h"
 #include "View/olRenderQuality.h"
+#include "View/olStateInPicture.h"
 #include "View/olViewAids.h"
 #include "View/olViewLights.h"
+
+#include <QCoreApplication>
 
 #include <AIS_InteractiveContext.hxx>
 #include <AIS_ViewCube.hxx>
@@ -30,6 +33,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSceneView)
+};
 
 // Beyond these the projection degenerates.
 constexpr double smallestAngle = 1.0;
@@ -101,6 +108,7 @@ public:
     void applySelectionStyle();
     void applyParts();
     void showSelection();
+    void setPixelRatio(double ratio) const;
     [[nodiscard]] olRenderQuality::Wishes wishes(bool isMoving) const;
     [[nodiscard]] Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
     [[nodiscard]] Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
@@ -138,7 +146,7 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
 {
     const Handle(Graphic3d_GraphicDriver) driver = olGlBinding::makeDriver();
     if (driver.IsNull()) {
-        error = QStringLiteral("The 3D view needs an X display.");
+        error = Words::tr("The 3D view needs an X display.");
         return nullptr;
     }
     std::unique_ptr<olSceneView> made(new olSceneView);
@@ -147,7 +155,7 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
     d.view = d.viewer->CreateView();
     d.view->SetImmediateUpdate(Standard_False);
     if (!olGlBinding::attach(d.view, window, size)) {
-        error = QStringLiteral("The OpenGL context of this display cannot be used for the 3D view.");
+        error = Words::tr("The OpenGL context of this display cannot be used for the 3D view.");
         return nullptr;
     }
     d.view->Camera()->SetProjectionType(Graphic3d_Camera::Projection_Perspective);
@@ -158,7 +166,7 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
     d.aids = std::make_unique<olViewAids>(d.context);
     d.marks = new olCornerMarks();
     d.isZUp = olHostState::the().cameraZUp;
-    made->applyState();
+    made->applyState(olStateInPicture::All);
     made->resetCamera();
     return made;
 }
@@ -166,7 +174,7 @@ std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &s
 void olSceneView::setDocument(const olScene::Document &document, const QSet<QString> &hidden)
 {
     d->showParts(document, hidden);
-    applyState();
+    d->applyParts();
     resetCamera();
 }
 
@@ -240,14 +248,18 @@ Bnd_Box olSceneView::Private::boxOf(const std::vector<Handle(olPart)> &some) con
     return all;
 }
 
-void olSceneView::applyState()
+void olSceneView::applyState(unsigned parts)
 {
-    d->applyCamera();
-    d->lights->apply();
-    d->applySelectionStyle();
-    d->applyParts();
-    d->showSelection();
-    d->view->Invalidate();
+    if (parts & olStateInPicture::Camera)
+        d->applyCamera();
+    if (parts & olStateInPicture::Lights)
+        d->lights->apply();
+    if (parts & olStateInPicture::Hovering)
+        d->applySelectionStyle();
+    if (parts & olStateInPicture::Solidity)
+        d->applyParts();
+    if (parts & olStateInPicture::Selection)
+        d->showSelection();
 }
 
 void olSceneView::Private::applyBackground()
@@ -329,10 +341,12 @@ void olSceneView::Private::applyParts()
             continue;
         part->applied = wanted;
         part->setWritesDepth(state.zWriteTransparency);
-        if (part->isFullyTransparent() && !state.transparentObjectSelection)
-            context->Deactivate(part);
-        else
+        if (!part->isFullyTransparent())
+            continue;
+        if (state.transparentObjectSelection)
             context->Activate(part, 0);
+        else
+            context->Deactivate(part);
     }
 }
 
@@ -398,11 +412,7 @@ bool olSceneView::Private::chooseLevel(const Handle(olPart) & part, int height)
     return true;
 }
 
-void olSceneView::setRaytracing(bool on)
-{
-    d->isRaytraced = on;
-    applyState();
-}
+void olSceneView::setRaytracing(bool on) { d->isRaytraced = on; }
 
 void olSceneView::setEdges(bool on)
 {
@@ -415,6 +425,16 @@ void olSceneView::setEdges(bool on)
         d->context->Redisplay(part, Standard_False);
     }
     d->applyParts();
+}
+
+void olSceneView::Private::setPixelRatio(double ratio) const
+{
+    constexpr int tolerance = 2;
+    // Texts and lines follow the resolution.
+    view->ChangeRenderingParams().Resolution =
+        unsigned(Graphic3d_RenderingParams::THE_DEFAULT_RESOLUTION * ratio + 0.5);
+    context->SetPixelTolerance(int(tolerance * ratio));
+    aids->setPixelRatio(ratio);
 }
 
 olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
@@ -440,6 +460,7 @@ bool olSceneView::draw(const Frame &frame)
 
     olGlBinding::setFloatBuffers(d->view, state.rgb16F);
     olRenderQuality::apply(d->view->ChangeRenderingParams(), d->wishes(frame.isMoving));
+    d->setPixelRatio(frame.pixelRatio);
 
     const Handle(Graphic3d_Camera) &camera = d->view->Camera();
     camera->SetProjectionType(projectionFor(frame.eye));

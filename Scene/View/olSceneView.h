@@ -30,6 +30,7 @@ public:
         bool isMoving = false; ///< The camera is on its way, and speed counts.
         bool isStill = false;  ///< One of the frames of which a still picture is made.
         QPointF shift;         ///< By how much the picture is shifted, in pixels.
+        double pixelRatio = 1; ///< How many of its pixels make one that a person would call a pixel.
     };
 
     /// The window is a real one of the top level. Null where the graphics do not serve; the error then says why.
@@ -41,8 +42,8 @@ public:
     /// Which parts are not drawn; nothing else changes.
     void setHidden(const QSet<QString> &hidden);
 
-    /// Takes over what the host's state says now.
-    void applyState();
+    /// Takes over what the host's state says now of these parts of the picture, in the bits of olStateInPicture.
+    void applyState(unsigned parts);
 
     /// Whether rays are traced; the host knows nothing of it.
     void setRaytracing(bool on);

@@ -12,6 +12,8 @@
 #include <Graphic3d_Camera.hxx>
 #include <Graphic3d_TransformPers.hxx>
 #include <Prs3d_DatumAspect.hxx>
+#include <Prs3d_Drawer.hxx>
+#include <Prs3d_PointAspect.hxx>
 #include <gp_Ax2.hxx>
 
 #include <algorithm>
@@ -20,7 +22,10 @@ namespace
 {
 
 constexpr double cubeSize = 46.0;
+constexpr double textShare = 0.27;
 constexpr double axesSize = 60.0;
+constexpr double toCorner = 90.0;
+constexpr double lampScale = 3.0;
 constexpr double jointShare = 0.1;
 
 Handle(AIS_Trihedron) makeTrihedron(const gp_Ax2 &place, double size)
@@ -60,19 +65,42 @@ Handle(AIS_CameraFrustum) makeCamera(const Bnd_Box &scene)
 olViewAids::olViewAids(const Handle(AIS_InteractiveContext) & context)
     : m_context(context), m_cube(new AIS_ViewCube()), m_coordinateSystem(makeTrihedron(gp::XOY(), axesSize))
 {
-    m_cube->SetSize(cubeSize);
     m_cube->SetBoxColor(Quantity_NOC_GRAY80);
-    m_cube->SetTransformPersistence(
-        new Graphic3d_TransformPers(Graphic3d_TMF_TriedronPers, Aspect_TOTP_RIGHT_UPPER, Graphic3d_Vec2i(90, 90)));
     m_cube->SetDrawAxes(Standard_False);
     m_cube->SetFixedAnimationLoop(false);
     m_cube->SetAutoStartAnimation(false);
 
-    m_coordinateSystem->SetTransformPersistence(
-        new Graphic3d_TransformPers(Graphic3d_TMF_TriedronPers, Aspect_TOTP_LEFT_LOWER, Graphic3d_Vec2i(90, 90)));
     m_coordinateSystem->SetZLayer(Graphic3d_ZLayerId_Topmost);
     m_coordinateSystem->SetInfiniteState(Standard_True);
+    setPixelRatio(1.0);
 }
+
+void olViewAids::setPixelRatio(double ratio)
+{
+    if (m_pixelRatio == ratio)
+        return;
+    m_pixelRatio = ratio;
+    m_cube->SetSize(cubeSize * ratio);
+    // Texts follow the picture's resolution by themselves.
+    m_cube->SetFontHeight(cubeSize * textShare);
+    m_coordinateSystem->SetSize(axesSize * ratio);
+    const auto place = [this](const Handle(AIS_InteractiveObject) & object, Aspect_TypeOfTriedronPosition corner) {
+        const int distance = int(toCorner * m_pixelRatio);
+        object->SetTransformPersistence(
+            new Graphic3d_TransformPers(Graphic3d_TMF_TriedronPers, corner, Graphic3d_Vec2i(distance, distance)));
+        if (m_context->IsDisplayed(object))
+            m_context->Redisplay(object, Standard_False);
+    };
+    place(m_cube, Aspect_TOTP_RIGHT_UPPER);
+    place(m_coordinateSystem, Aspect_TOTP_LEFT_LOWER);
+    if (m_light.IsNull())
+        return;
+    sizeLamp();
+    if (m_context->IsDisplayed(m_light))
+        m_context->Redisplay(m_light, Standard_False);
+}
+
+void olViewAids::sizeLamp() { m_light->Attributes()->PointAspect()->SetScale(float(lampScale * m_pixelRatio)); }
 
 void olViewAids::setScene(const Bnd_Box &scene, const Handle(Graphic3d_CLight) & lamp,
                           const std::vector<TopLoc_Location> &joints)
@@ -97,6 +125,7 @@ void olViewAids::setScene(const Bnd_Box &scene, const Handle(Graphic3d_CLight) &
     light->SetZoomable(true);
     light->SetSwitchOnClick(false);
     m_light = light;
+    sizeLamp();
     for (const TopLoc_Location &place : joints) {
         const Handle(AIS_Trihedron) joint =
             makeTrihedron(gp_Ax2(gp::XOY()).Transformed(place.Transformation()), size * jointShare);

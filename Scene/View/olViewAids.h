@@ -8,6 +8,7 @@
 
 class AIS_InteractiveContext;
 class AIS_InteractiveObject;
+class AIS_Trihedron;
 class AIS_ViewCube;
 class Graphic3d_CLight;
 
@@ -25,17 +26,22 @@ public:
     /// Shows and hides as the host's state wants. Without `handles` only the scene is to be seen.
     void apply(bool handles);
 
+    /// How many pixels of the picture make one of those in which the cube and the axes have their size.
+    void setPixelRatio(double ratio);
+
     /// Whether it is one of the things made here, and nothing of the scene.
     [[nodiscard]] bool contains(const opencascade::handle<AIS_InteractiveObject> &object) const;
 
 private:
+    void sizeLamp();
     void show(const opencascade::handle<AIS_InteractiveObject> &object, bool shown, bool pickable = false);
 
     opencascade::handle<AIS_InteractiveContext> m_context;
     opencascade::handle<AIS_ViewCube> m_cube;
-    opencascade::handle<AIS_InteractiveObject> m_coordinateSystem;
+    opencascade::handle<AIS_Trihedron> m_coordinateSystem;
     opencascade::handle<AIS_InteractiveObject> m_camera;
     opencascade::handle<AIS_InteractiveObject> m_light;
     std::vector<opencascade::handle<AIS_InteractiveObject>> m_joints;
     bool m_isZUp = true;
+    double m_pixelRatio = 0;
 };

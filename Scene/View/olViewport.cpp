@@ -10,6 +10,7 @@
 #include "View/olPictureTarget.h"
 #include "View/olProgressWheel.h"
 #include "View/olSceneView.h"
+#include "View/olStateInPicture.h"
 #include "View/olStillFrame.h"
 #include "View/olX11Display.h"
 
@@ -25,6 +26,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
@@ -73,7 +75,7 @@ public:
     olStillFrame still;
     olProgressWheel wheel;
     QPointer<olScene> scene;
-    bool isStateStale = true;
+    unsigned staleParts = 0;
     bool isAnaglyph = false;
     bool isRaytraced = false;
     bool hasEdges = false;
@@ -149,7 +151,7 @@ void olViewport::guarded(const std::function<void()> &work)
     try {
         work();
     } catch (const Standard_Failure &failure) {
-        olLog::error(QStringLiteral("The 3D view: %1").arg(QString::fromLatin1(failure.GetMessageString())));
+        olLog::error(tr("The 3D view: %1").arg(QString::fromLatin1(failure.GetMessageString())));
     }
 }
 
@@ -226,19 +228,16 @@ void olViewport::takeScene()
 void olViewport::stateChanged(const olHostValueBase &value)
 {
     const olHostState &state = olHostState::the();
-    d->isStateStale = true;
     if (&value == &state.navMode && state.navMode != olOSGWidget::Fly)
         d->flyTimer.stop();
+    const unsigned parts = olStateInPicture::partsOf(value);
+    if (parts == 0)
+        return;
+    d->staleParts |= parts;
     redraw();
 }
 
-void olViewport::takeState()
-{
-    if (!d->isStateStale)
-        return;
-    d->isStateStale = false;
-    d->view->applyState();
-}
+void olViewport::takeState() { d->view->applyState(std::exchange(d->staleParts, 0)); }
 
 void olViewport::redraw()
 {
@@ -301,11 +300,13 @@ void olViewport::startStill(olStillFrame &still) const
     still.start(double(state.antialiasingDistance) * double(state.antialiasingScale));
 }
 
-olFrameMaker::Manner olViewport::manner() const
+olFrameMaker::Manner olViewport::manner(const QSize &size) const
 {
     olFrameMaker::Manner manner;
     manner.isMoving = d->isDragging || d->glideTimer.isActive() || d->devices.isMoving();
     manner.isAnaglyph = d->isAnaglyph;
+    // A picture whose size is given is not for this screen.
+    manner.pixelRatio = size.isValid() ? 1.0 : devicePixelRatioF();
     return manner;
 }
 
@@ -346,7 +347,7 @@ QImage olViewport::picture(const QSize &size)
         olPictureTarget target;
         // A still frame that is on its way is not to be disturbed.
         olFrameMaker frames;
-        if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), manner()))
+        if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), manner(size)))
             result = target.picture();
     });
     return result;
@@ -362,8 +363,8 @@ QImage olViewport::stillPicture(const QSize &size)
         olStillFrame still;
         if (olHostState::the().antialiasing)
             startStill(still);
-        olFrameMaker::Manner rest;
-        rest.isAnaglyph = d->isAnaglyph;
+        olFrameMaker::Manner rest = manner(size);
+        rest.isMoving = false;
         bool isDrawn = frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), rest);
         while (isDrawn && still.isRunning())
             isDrawn = frames.drawStill(*d->view, target, rest, still);

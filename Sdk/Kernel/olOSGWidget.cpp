@@ -4,6 +4,7 @@
 #include "State/olJournal.h"
 #include "Utilities/olLog.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cmath>
@@ -61,8 +62,10 @@ void olOSGWidget::setNearFarPlaneLimit(bool limit, float nearest, float farthest
     // Empty fields of a page arrive as zeros. No camera has such planes, so it goes on without a limit.
     const bool isPossible = std::isfinite(nearest) && std::isfinite(farthest) && nearest > 0.0f && farthest > nearest;
     if (limit && !isPossible)
-        olLog::error(QStringLiteral("The clipping planes %1 and %2 are refused: expected two numbers above 0, the far "
-                                    "one greater than the near one. Nothing is clipped.")
+        olLog::error(QCoreApplication::translate(
+                         "olOSGWidget",
+                         "The clipping planes %1 and %2 are refused: expected two numbers above 0, the far "
+                         "one greater than the near one. Nothing is clipped.")
                          .arg(double(nearest))
                          .arg(double(farthest)));
     olHostState &state = olHostState::the();

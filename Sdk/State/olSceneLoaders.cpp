@@ -5,6 +5,7 @@
 
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGSceneFileHandler.h>
+#include <QCoreApplication>
 #include <QString>
 
 void olStartOpenSG()
@@ -15,7 +16,7 @@ void olStartOpenSG()
         return osg::osgInit(1, arguments);
     }();
     if (!isStarted)
-        olLog::error(QStringLiteral("OpenSG could not be started."));
+        olLog::error(QCoreApplication::translate("olSceneLoaders", "OpenSG could not be started."));
 }
 
 void olResetSceneLoaders()
@@ -36,6 +37,7 @@ ORLO_SDK_EXPORT bool osg::SceneFileHandler::setOptions(const char *suffix, const
         type->setOptions(options);
     else
         olLog::info(
-            QStringLiteral("OpenSG has no loader for %1; options for it are not kept.").arg(QLatin1String(suffix)));
+            QCoreApplication::translate("olSceneLoaders", "OpenSG has no loader for %1; options for it are not kept.")
+                .arg(QLatin1String(suffix)));
     return type != nullptr;
 }

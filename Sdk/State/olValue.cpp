@@ -5,6 +5,7 @@
 #include <OpenSG/OSGColor.h>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QMetaType>
 #include <QString>
 #include <QVariant>
@@ -290,17 +291,18 @@ template <class T> Type type(const char *name, const char *expectation)
 const std::vector<Type> &types()
 {
     static const std::vector<Type> all{
-        type<bool>("bool", "true or false"),
-        type<int>("int", "a whole number from -2147483648 to 2147483647"),
-        type<unsigned>("uint", "a whole number from 0 to 4294967295"),
-        type<float>("float", "a number"),
-        type<double>("double", "a number"),
-        type<QString>("qstring", "a text in double quotes"),
-        type<std::string>("string", "a text in double quotes"),
-        type<std::vector<std::string>>("strings", "a list of texts, as [\"a\", \"b\"]"),
-        type<std::vector<float>>("floats", "a list of numbers, as [1, 0.5]"),
-        type<Color>("color", "three numbers, as [1, 0.5, 0]"),
-        type<std::vector<Color>>("colors", "a list of colours, as [[0, 0, 0], [1, 1, 1]]"),
+        type<bool>("bool", QT_TRANSLATE_NOOP("olValue", "true or false")),
+        type<int>("int", QT_TRANSLATE_NOOP("olValue", "a whole number from -2147483648 to 2147483647")),
+        type<unsigned>("uint", QT_TRANSLATE_NOOP("olValue", "a whole number from 0 to 4294967295")),
+        type<float>("float", QT_TRANSLATE_NOOP("olValue", "a number")),
+        type<double>("double", QT_TRANSLATE_NOOP("olValue", "a number")),
+        type<QString>("qstring", QT_TRANSLATE_NOOP("olValue", "a text in double quotes")),
+        type<std::string>("string", QT_TRANSLATE_NOOP("olValue", "a text in double quotes")),
+        type<std::vector<std::string>>("strings", QT_TRANSLATE_NOOP("olValue", "a list of texts, as [\"a\", \"b\"]")),
+        type<std::vector<float>>("floats", QT_TRANSLATE_NOOP("olValue", "a list of numbers, as [1, 0.5]")),
+        type<Color>("color", QT_TRANSLATE_NOOP("olValue", "three numbers, as [1, 0.5, 0]")),
+        type<std::vector<Color>>("colors",
+                                 QT_TRANSLATE_NOOP("olValue", "a list of colours, as [[0, 0, 0], [1, 1, 1]]")),
     };
     return all;
 }
@@ -348,7 +350,7 @@ bool isTypeName(const std::string &type) { return typeNamed(type) != nullptr; }
 std::string expectation(const std::string &name)
 {
     const Type *type = typeNamed(name);
-    return type ? type->expectation : "";
+    return type ? QCoreApplication::translate("olValue", type->expectation).toStdString() : std::string();
 }
 
 std::string toJson(const boost::any &value)

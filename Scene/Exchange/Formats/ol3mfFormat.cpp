@@ -14,7 +14,10 @@ olModelFormat ol3mfFormat();
 namespace
 {
 
-QString check(QFile &file, QStringList &) { return file.read(2) == "PK" ? QString() : reason("this is no 3MF file"); }
+QString check(QFile &file, QStringList &)
+{
+    return file.read(2) == "PK" ? QString() : olReason::tr("this is no 3MF file");
+}
 
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
              QStringList &remarks)

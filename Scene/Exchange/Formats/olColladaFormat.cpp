@@ -16,7 +16,7 @@ namespace
 
 QString check(QFile &file, QStringList &)
 {
-    return file.read(1 << 16).contains("<COLLADA") ? QString() : reason("this is no COLLADA file");
+    return file.read(1 << 16).contains("<COLLADA") ? QString() : olReason::tr("this is no COLLADA file");
 }
 
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,

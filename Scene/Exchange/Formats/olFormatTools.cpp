@@ -1,17 +1,14 @@
 #include "Exchange/Formats/olFormatTools.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-QString olFormatTools::reason(const char *text) { return QCoreApplication::translate("olImport", text); }
+QString olFormatTools::cutOff() { return olReason::tr("the file is cut off or damaged"); }
 
-QString olFormatTools::cutOff() { return reason("the file is cut off or damaged"); }
+QString olFormatTools::damaged() { return olReason::tr("the file is damaged or of another format"); }
 
-QString olFormatTools::damaged() { return reason("the file is damaged or of another format"); }
-
-QString olFormatTools::noTemporary() { return reason("the temporary directory cannot be written to"); }
+QString olFormatTools::noTemporary() { return olReason::tr("the temporary directory cannot be written to"); }
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 

@@ -5,17 +5,22 @@
 #include <TCollection_AsciiString.hxx>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QTemporaryDir>
 
 class QFile;
 
+/// Half sentences of the messages on files that cannot be read.
+struct olReason {
+    Q_DECLARE_TR_FUNCTIONS(olReason)
+};
+
 /// What the files of the formats share.
 namespace olFormatTools
 {
 
-/// Translated; half sentences of the messages on files that cannot be read.
-[[nodiscard]] QString reason(const char *text);
+/// Reasons that are told by several.
 [[nodiscard]] QString cutOff();
 [[nodiscard]] QString damaged();
 [[nodiscard]] QString noTemporary();

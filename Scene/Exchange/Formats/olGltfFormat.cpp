@@ -1,12 +1,15 @@
 #include "Exchange/Formats/olFormatTools.h"
 #include "Exchange/olAssimpReader.h"
+#include "Exchange/olMeshTree.h"
 #include "Exchange/olModelFormat.h"
-#include "Model/olPlainLook.h"
+#include "Exchange/olTextureFiles.h"
 
+#include <Image_Texture.hxx>
 #include <Message_ProgressRange.hxx>
-#include <RWGltf_CafWriter.hxx>
-#include <TColStd_IndexedDataMapOfStringString.hxx>
+#include <Quantity_Color.hxx>
 #include <TDocStd_Document.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <gp_Mat.hxx>
 
 #include <QDir>
 #include <QFile>
@@ -15,9 +18,18 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPair>
 #include <QUrl>
+#include <QVector>
 #include <QtEndian>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <map>
+#include <utility>
 #include <vector>
 
 using namespace olFormatTools;
@@ -57,9 +69,9 @@ QString bufferFault(const QJsonObject &buffer, const QDir &folder)
     const QString name = QUrl::fromPercentEncoding(uri.toUtf8());
     const QFileInfo info(folder.filePath(name));
     if (!info.isFile() || !info.isReadable())
-        return reason("the file %1 that it refers to cannot be read").arg(name);
+        return olReason::tr("the file %1 that it refers to cannot be read").arg(name);
     return double(info.size()) < value(buffer, "byteLength")
-               ? reason("the file %1 that it refers to is cut off").arg(name)
+               ? olReason::tr("the file %1 that it refers to is cut off").arg(name)
                : QString();
 }
 
@@ -84,7 +96,7 @@ QString extensionFault(const QJsonObject &model)
     const QJsonArray required = model.value(QLatin1String("extensionsRequired")).toArray();
     for (const QJsonValue &each : required) {
         if (!known.contains(each.toString()))
-            return reason("it requires the extension %1, which is not supported").arg(each.toString());
+            return olReason::tr("it requires the extension %1, which is not supported").arg(each.toString());
     }
     return {};
 }
@@ -100,7 +112,7 @@ QString nestingFault(const QJsonObject &model)
         for (const QJsonValue &child : children) {
             const int number = child.toInt(-1);
             if (number < 0 || number >= nodes.size())
-                return reason("the file is damaged: a node refers to one that is not there");
+                return olReason::tr("the file is damaged: a node refers to one that is not there");
             parents[std::size_t(number)] = index;
         }
     }
@@ -108,7 +120,7 @@ QString nestingFault(const QJsonObject &model)
         int depth = 0;
         for (int up = node; up >= 0; up = parents[std::size_t(up)]) {
             if (++depth > deepest)
-                return reason("its groups are nested too deeply");
+                return olReason::tr("its groups are nested too deeply");
         }
     }
     return {};
@@ -131,7 +143,7 @@ QString contentFault(const QJsonObject &model, const QDir &folder)
         const QJsonObject view = each.toObject();
         const QJsonObject buffer = buffers.at(int(value(view, "buffer"))).toObject();
         if (value(view, "byteOffset") + value(view, "byteLength") > value(buffer, "byteLength"))
-            return reason("the file is damaged: a part of it lies beyond its end");
+            return olReason::tr("the file is damaged: a part of it lies beyond its end");
     }
     const QJsonArray accessors = model.value(QLatin1String("accessors")).toArray();
     for (const QJsonValue &each : accessors) {
@@ -141,7 +153,7 @@ QString contentFault(const QJsonObject &model, const QDir &folder)
         const QJsonObject view = views.at(accessor.value(QLatin1String("bufferView")).toInt(-1)).toObject();
         const double needed = value(accessor, "byteOffset") + value(accessor, "count") * elementSize(accessor);
         if (needed > value(view, "byteLength"))
-            return reason("the file is damaged: it announces more than it holds");
+            return olReason::tr("the file is damaged: it announces more than it holds");
     }
     return {};
 }
@@ -153,7 +165,8 @@ QString modelFault(const QByteArray &text, const QString &file)
     if (error.error == QJsonParseError::NoError)
         return contentFault(model.object(), QFileInfo(file).absoluteDir());
     // The parser has a limit of its own, which the reader does not share.
-    return error.error == QJsonParseError::DocumentTooLarge ? QString() : reason("the file is cut off or damaged");
+    return error.error == QJsonParseError::DocumentTooLarge ? QString()
+                                                            : olReason::tr("the file is cut off or damaged");
 }
 
 QString check(QFile &file, QStringList &)
@@ -162,11 +175,11 @@ QString check(QFile &file, QStringList &)
     if (!head.startsWith("glTF")) {
         file.seek(0);
         return head.trimmed().startsWith('{') ? modelFault(file.readAll(), file.fileName())
-                                              : reason("this is no glTF file");
+                                              : olReason::tr("this is no glTF file");
     }
     if (head.size() < binaryHead + chunkHead || file.size() < number(head, 8) ||
         file.size() < qint64(binaryHead + chunkHead) + number(head, binaryHead))
-        return reason("the file is cut off or damaged");
+        return olReason::tr("the file is cut off or damaged");
     return modelFault(file.read(number(head, binaryHead)), file.fileName());
 }
 
@@ -181,14 +194,324 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     return olAssimpReader::read(job, manner, document, progress, remarks);
 }
 
-bool write(const olScene::Document &document, const QString &file, QStringList &)
+QJsonArray arrayOf(std::initializer_list<double> values)
 {
-    const bool isBinary = QFileInfo(file).suffix().compare(QLatin1String("glb"), Qt::CaseInsensitive) == 0;
-    RWGltf_CafWriter writer(path(file), isBinary);
-    writer.ChangeCoordinateSystemConverter().SetInputLengthUnit(meter);
-    writer.ChangeCoordinateSystemConverter().SetInputCoordinateSystem(RWMesh_CoordinateSystem_Zup);
-    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
-                          Message_ProgressRange());
+    QJsonArray array;
+    for (const double value : values)
+        array.append(value);
+    return array;
+}
+
+/// In metres, with y up.
+gp_XYZ turned(const gp_XYZ &point) { return gp_XYZ(point.X(), point.Z(), -point.Y()); }
+
+class Writer
+{
+public:
+    Writer(const olScene::Document &document, const QString &file, QStringList &remarks)
+        : m_tree(document), m_textures(file, remarks), m_file(file), m_isBinary(isBinary(file))
+    {
+    }
+
+    bool write()
+    {
+        for (int part = 0; part < m_tree.parts(); ++part)
+            addMesh(part);
+        QJsonArray top;
+        for (const olMeshTree::Node &node : m_tree.nodes())
+            top.append(addNode(node));
+        QJsonObject model{{QStringLiteral("asset"), QJsonObject{{QStringLiteral("version"), QStringLiteral("2.0")},
+                                                                {QStringLiteral("generator"), QStringLiteral("ORLO")}}},
+                          {QStringLiteral("scene"), 0},
+                          {QStringLiteral("scenes"), QJsonArray{QJsonObject{{QStringLiteral("nodes"), top}}}}};
+        const QString bytesName = QFileInfo(m_file).completeBaseName() + QStringLiteral(".bin");
+        QJsonObject buffer{{QStringLiteral("byteLength"), m_bytes.size()}};
+        if (!m_isBinary)
+            buffer.insert(QStringLiteral("uri"), QString::fromLatin1(QUrl::toPercentEncoding(bytesName)));
+        const QVector<QPair<QString, QJsonArray>> lists{
+            {QStringLiteral("nodes"), m_nodes},         {QStringLiteral("meshes"), m_meshes},
+            {QStringLiteral("materials"), m_materials}, {QStringLiteral("textures"), m_textureNumbers},
+            {QStringLiteral("images"), m_images},       {QStringLiteral("accessors"), m_accessors},
+            {QStringLiteral("bufferViews"), m_views},   {QStringLiteral("buffers"), QJsonArray{buffer}}};
+        for (const auto &[name, list] : lists) {
+            if (!list.isEmpty())
+                model.insert(name, list);
+        }
+        const QByteArray text = QJsonDocument(model).toJson(QJsonDocument::Compact);
+        if (m_isBinary)
+            return writeFile(m_file, packed(text));
+        return writeFile(m_file, text) && writeFile(QFileInfo(m_file).dir().filePath(bytesName), m_bytes);
+    }
+
+private:
+    static bool isBinary(const QString &file)
+    {
+        return QFileInfo(file).suffix().compare(QLatin1String("glb"), Qt::CaseInsensitive) == 0;
+    }
+
+    static bool writeFile(const QString &name, const QByteArray &content)
+    {
+        QFile file(name);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+    }
+
+    [[nodiscard]] QByteArray packed(QByteArray text) const
+    {
+        text.append((4 - text.size() % 4) % 4, ' ');
+        QByteArray file("glTF");
+        const auto put = [&file](quint32 value) {
+            char bytes[4];
+            qToLittleEndian(value, bytes);
+            file.append(bytes, 4);
+        };
+        put(2);
+        put(quint32(binaryHead + chunkHead + text.size() + chunkHead + m_bytes.size()));
+        put(quint32(text.size()));
+        file += "JSON" + text;
+        put(quint32(m_bytes.size()));
+        return file + QByteArray("BIN\0", 4) + m_bytes;
+    }
+
+    int addNode(const olMeshTree::Node &from)
+    {
+        QJsonObject node;
+        if (!from.name.isEmpty())
+            node.insert(QStringLiteral("name"), from.name);
+        if (from.where.Form() != gp_Identity)
+            node.insert(QStringLiteral("matrix"), matrixOf(from.where));
+        if (from.part >= 0 && m_meshNumbers[from.part] >= 0)
+            node.insert(QStringLiteral("mesh"), m_meshNumbers[from.part]);
+        QJsonArray below;
+        for (const olMeshTree::Node &each : from.below)
+            below.append(addNode(each));
+        if (!below.isEmpty())
+            node.insert(QStringLiteral("children"), below);
+        m_nodes.append(node);
+        return m_nodes.size() - 1;
+    }
+
+    static QJsonArray matrixOf(const gp_Trsf &where)
+    {
+        const gp_Mat turn = where.VectorialPart();
+        const gp_XYZ x = turned(turn.Column(1));
+        const gp_XYZ y = turned(turn.Column(3));
+        const gp_XYZ z = turned(turn.Column(2)) * -1;
+        const gp_XYZ move = turned(where.TranslationPart()) * meter;
+        return arrayOf(
+            {x.X(), x.Y(), x.Z(), 0, y.X(), y.Y(), y.Z(), 0, z.X(), z.Y(), z.Z(), 0, move.X(), move.Y(), move.Z(), 1});
+    }
+
+    void addMesh(int part)
+    {
+        QJsonArray primitives;
+        for (const olMeshTree::Piece &piece : m_tree.piecesOf(part))
+            primitives.append(primitiveOf(piece));
+        m_meshNumbers.append(primitives.isEmpty() ? -1 : m_meshes.size());
+        if (primitives.isEmpty())
+            return;
+        QJsonObject mesh{{QStringLiteral("primitives"), primitives}};
+        const QString name = m_tree.partName(part);
+        if (!name.isEmpty())
+            mesh.insert(QStringLiteral("name"), name);
+        m_meshes.append(mesh);
+    }
+
+    QJsonObject primitiveOf(const olMeshTree::Piece &piece)
+    {
+        QJsonObject attributes{{QStringLiteral("POSITION"), addPoints(piece.points)},
+                               {QStringLiteral("NORMAL"), addVectors(piece.normals, 3, [](const gp_Vec3f &normal) {
+                                    return std::array<float, 3>{normal.x(), normal.z(), -normal.y()};
+                                })}};
+        if (!piece.places.empty())
+            attributes.insert(QStringLiteral("TEXCOORD_0"), addVectors(piece.places, 2, [](const gp_Vec2f &place) {
+                                  return std::array<float, 2>{place.x(), 1 - place.y()};
+                              }));
+        if (!piece.colors.empty())
+            attributes.insert(QStringLiteral("COLOR_0"), addVectors(piece.colors, 4, lightOf));
+        const int start = m_bytes.size();
+        for (const int corner : piece.corners)
+            put(quint32(corner));
+        QJsonObject primitive{
+            {QStringLiteral("attributes"), attributes},
+            {QStringLiteral("indices"), addAccessor(start, indices, 5125, 1, int(piece.corners.size()))}};
+        if (!piece.look.IsNull())
+            primitive.insert(QStringLiteral("material"), materialOf(piece.look, !piece.colors.empty()));
+        return primitive;
+    }
+
+    static std::array<float, 4> lightOf(std::uint32_t color)
+    {
+        std::array<float, 4> light{};
+        for (unsigned part = 0; part < 4; ++part) {
+            const float value = float(color >> (8 * part) & 0xff) / 255;
+            light[part] = part < 3 ? Quantity_Color::Convert_sRGB_To_LinearRGB(value) : value;
+        }
+        return light;
+    }
+
+    template <class Value> void put(Value value)
+    {
+        char bytes[sizeof(value)];
+        qToLittleEndian(value, bytes);
+        m_bytes.append(bytes, sizeof(bytes));
+    }
+
+    int addPoints(const std::vector<gp_XYZ> &points)
+    {
+        const int start = m_bytes.size();
+        float low[3] = {INFINITY, INFINITY, INFINITY};
+        float high[3] = {-INFINITY, -INFINITY, -INFINITY};
+        for (const gp_XYZ &point : points) {
+            const gp_XYZ now = turned(point) * meter;
+            for (int axis = 0; axis < 3; ++axis) {
+                const auto value = float(now.Coord(axis + 1));
+                low[axis] = std::min(low[axis], value);
+                high[axis] = std::max(high[axis], value);
+                put(value);
+            }
+        }
+        const int number = addAccessor(start, vertices, 5126, 3, int(points.size()));
+        QJsonObject accessor = m_accessors.last().toObject();
+        accessor.insert(QStringLiteral("min"), arrayOf({low[0], low[1], low[2]}));
+        accessor.insert(QStringLiteral("max"), arrayOf({high[0], high[1], high[2]}));
+        m_accessors.replace(number, accessor);
+        return number;
+    }
+
+    template <class Values, class Parts> int addVectors(const Values &values, int parts, const Parts &partsOf)
+    {
+        const int start = m_bytes.size();
+        for (const auto &value : values) {
+            for (const float part : partsOf(value))
+                put(part);
+        }
+        return addAccessor(start, vertices, 5126, parts, int(values.size()));
+    }
+
+    /// Of the bytes from the start up to what there is now.
+    int addAccessor(int start, int target, int component, int parts, int count)
+    {
+        m_views.append(QJsonObject{{QStringLiteral("buffer"), 0},
+                                   {QStringLiteral("byteOffset"), start},
+                                   {QStringLiteral("byteLength"), m_bytes.size() - start},
+                                   {QStringLiteral("target"), target}});
+        m_accessors.append(QJsonObject{
+            {QStringLiteral("bufferView"), m_views.size() - 1},
+            {QStringLiteral("componentType"), component},
+            {QStringLiteral("count"), count},
+            {QStringLiteral("type"), parts == 1 ? QStringLiteral("SCALAR") : QStringLiteral("VEC%1").arg(parts)}});
+        return m_accessors.size() - 1;
+    }
+
+    int materialOf(const Handle(XCAFDoc_VisMaterial) & look, bool hasColors)
+    {
+        const auto [place, isNew] =
+            m_materialNumbers.emplace(std::make_pair(look.get(), hasColors), m_materials.size());
+        if (!isNew)
+            return place->second;
+        const XCAFDoc_VisMaterialPBR pbr = look->ConvertToPbrMaterial();
+        const Quantity_Color &base = pbr.BaseColor.GetRGB();
+        // Colours of corners are multiplied with it, and they are whole already.
+        QJsonObject surface{{QStringLiteral("baseColorFactor"),
+                             hasColors ? arrayOf({1, 1, 1, 1})
+                                       : arrayOf({base.Red(), base.Green(), base.Blue(), pbr.BaseColor.Alpha()})},
+                            {QStringLiteral("metallicFactor"), look->HasPbrMaterial() ? double(pbr.Metallic) : 0.0},
+                            {QStringLiteral("roughnessFactor"), double(pbr.Roughness)}};
+        const Handle(Image_Texture) &picture =
+            look->HasPbrMaterial() ? pbr.BaseColorTexture : look->CommonMaterial().DiffuseTexture;
+        setTexture(surface, "baseColorTexture", picture);
+        setTexture(surface, "metallicRoughnessTexture", pbr.MetallicRoughnessTexture);
+        QJsonObject material{{QStringLiteral("pbrMetallicRoughness"), surface}};
+        setTexture(material, "normalTexture", pbr.NormalTexture);
+        setTexture(material, "occlusionTexture", pbr.OcclusionTexture);
+        setTexture(material, "emissiveTexture", pbr.EmissiveTexture);
+        material.insert(
+            QStringLiteral("emissiveFactor"),
+            arrayOf({part(pbr.EmissiveFactor.x()), part(pbr.EmissiveFactor.y()), part(pbr.EmissiveFactor.z())}));
+        setTransparency(material, *look);
+        const QString name = m_tree.lookName(look);
+        if (!name.isEmpty())
+            material.insert(QStringLiteral("name"), name);
+        m_materials.append(material);
+        return m_materials.size() - 1;
+    }
+
+    static double part(float value) { return std::clamp(double(value), 0.0, 1.0); }
+
+    static void setTransparency(QJsonObject &material, const XCAFDoc_VisMaterial &look)
+    {
+        const bool isMask = look.AlphaMode() == Graphic3d_AlphaMode_Mask;
+        const bool isBlend = look.AlphaMode() == Graphic3d_AlphaMode_Blend ||
+                             (look.AlphaMode() == Graphic3d_AlphaMode_BlendAuto && look.BaseColor().Alpha() < 1.0f);
+        if (isMask)
+            material.insert(QStringLiteral("alphaCutoff"), double(look.AlphaCutOff()));
+        if (isMask || isBlend)
+            material.insert(QStringLiteral("alphaMode"), isMask ? QStringLiteral("MASK") : QStringLiteral("BLEND"));
+        if (look.FaceCulling() == Graphic3d_TypeOfBackfacingModel_DoubleSided)
+            material.insert(QStringLiteral("doubleSided"), true);
+    }
+
+    void setTexture(QJsonObject &object, const char *key, const Handle(Image_Texture) & picture)
+    {
+        if (picture.IsNull())
+            return;
+        const auto [place, isNew] =
+            m_pictureNumbers.emplace(QByteArray(picture->TextureId().ToCString()), m_textureNumbers.size());
+        if (isNew && !addPicture(picture)) {
+            place->second = -1;
+        }
+        if (place->second >= 0)
+            object.insert(QLatin1String(key), QJsonObject{{QStringLiteral("index"), place->second}});
+    }
+
+    bool addPicture(const Handle(Image_Texture) & picture)
+    {
+        QJsonObject image;
+        if (m_isBinary) {
+            const QByteArray bytes = m_textures.contentOf(*picture);
+            if (bytes.isEmpty())
+                return false;
+            m_views.append(QJsonObject{{QStringLiteral("buffer"), 0},
+                                       {QStringLiteral("byteOffset"), m_bytes.size()},
+                                       {QStringLiteral("byteLength"), bytes.size()}});
+            m_bytes += bytes;
+            m_bytes.append((4 - m_bytes.size() % 4) % 4, '\0');
+            image = {{QStringLiteral("bufferView"), m_views.size() - 1},
+                     {QStringLiteral("mimeType"),
+                      bytes.startsWith('\xff') ? QStringLiteral("image/jpeg") : QStringLiteral("image/png")}};
+        } else {
+            const QString place = m_textures.placeOf(picture);
+            if (place.isEmpty())
+                return false;
+            image = {{QStringLiteral("uri"), QString::fromLatin1(QUrl::toPercentEncoding(place, "/"))}};
+        }
+        m_images.append(image);
+        m_textureNumbers.append(QJsonObject{{QStringLiteral("source"), m_images.size() - 1}});
+        return true;
+    }
+
+    static constexpr int vertices = 34962;
+    static constexpr int indices = 34963;
+    olMeshTree m_tree;
+    olTextureFiles m_textures;
+    QString m_file;
+    bool m_isBinary;
+    QByteArray m_bytes;
+    QJsonArray m_nodes;
+    QJsonArray m_meshes;
+    QJsonArray m_materials;
+    QJsonArray m_textureNumbers;
+    QJsonArray m_images;
+    QJsonArray m_accessors;
+    QJsonArray m_views;
+    QVector<int> m_meshNumbers;
+    std::map<std::pair<const XCAFDoc_VisMaterial *, bool>, int> m_materialNumbers;
+    std::map<QByteArray, int> m_pictureNumbers;
+};
+
+bool write(const olScene::Document &document, const QString &file, QStringList &remarks)
+{
+    return Writer(document, file, remarks).write();
 }
 
 } // namespace
@@ -199,7 +522,7 @@ olModelFormat olGltfFormat()
             "GLTF",
             {QStringLiteral("gltf"), QStringLiteral("glb")},
             olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
-                olModelFormat::Structure,
+                olModelFormat::CornerColors | olModelFormat::Structure | olModelFormat::Names,
             check,
             read,
             write};

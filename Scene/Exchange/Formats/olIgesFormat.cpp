@@ -1,6 +1,5 @@
 #include "Exchange/Formats/olFormatTools.h"
 #include "Exchange/olModelFormat.h"
-#include "Model/olLibraryMessages.h"
 
 #include <BRepBuilderAPI_Transform.hxx>
 #include <IFSelect_ReturnStatus.hxx>
@@ -9,6 +8,7 @@
 #include <IGESControl_Controller.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
+#include <Quantity_Color.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TDocStd_Document.hxx>
@@ -21,7 +21,6 @@
 #include <XCAFPrs_DocumentExplorer.hxx>
 #include <XCAFPrs_Style.hxx>
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -110,7 +109,7 @@ QString check(QFile &file, QStringList &)
 {
     const QByteArray first = file.readLine(256);
     if (first.size() < 73 || (first.at(72) != 'S' && first.at(72) != 'C' && first.at(72) != 'B'))
-        return reason("this is no IGES file");
+        return olReason::tr("this is no IGES file");
     file.seek(0);
     Lines lines;
     for (int number = 1; !file.atEnd(); ++number) {
@@ -118,7 +117,7 @@ QString check(QFile &file, QStringList &)
         while (line.endsWith('\n') || line.endsWith('\r'))
             line.chop(1);
         if (!line.trimmed().isEmpty() && !lines.take(line))
-            return reason("the file is damaged in line %1").arg(number);
+            return olReason::tr("the file is damaged in line %1").arg(number);
     }
     return lines.isWhole() ? QString() : cutOff();
 }
@@ -136,22 +135,19 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
         return damaged();
     olScene::Document target = document;
-    return reader.Transfer(target, progress) ? QString() : reason("its content cannot be taken over");
+    return reader.Transfer(target, progress) ? QString() : olReason::tr("its content cannot be taken over");
 }
-
-constexpr float barelyTransparent = 0.999f;
 
 /// Takes the instances of a document apart.
 class Bodies
 {
 public:
-    Bodies(const olScene::Document &document, QStringList &remarks)
+    explicit Bodies(const olScene::Document &document)
         : m_from(document),
           m_to(olScene::newDocument()),
           m_fromColors(XCAFDoc_DocumentTool::ColorTool(document->Main())),
           m_shapes(XCAFDoc_DocumentTool::ShapeTool(m_to->Main())),
-          m_colors(XCAFDoc_DocumentTool::ColorTool(m_to->Main())),
-          m_remarks(remarks)
+          m_colors(XCAFDoc_DocumentTool::ColorTool(m_to->Main()))
     {
     }
 
@@ -199,9 +195,9 @@ private:
     void color(const TDF_Label &label, const XCAFPrs_Style &style)
     {
         if (!style.Material().IsNull())
-            set(label, style.Material()->BaseColor(), XCAFDoc_ColorSurf);
+            m_colors->SetColor(label, style.Material()->BaseColor().GetRGB(), XCAFDoc_ColorSurf);
         else if (style.IsSetColorSurf())
-            set(label, style.GetColorSurfRGBA(), XCAFDoc_ColorSurf);
+            m_colors->SetColor(label, style.GetColorSurf(), XCAFDoc_ColorSurf);
         if (style.IsSetColorCurv())
             m_colors->SetColor(label, style.GetColorCurv(), XCAFDoc_ColorCurv);
     }
@@ -209,18 +205,10 @@ private:
     void colorPiece(const TDF_Label &from, const TDF_Label &to)
     {
         for (const XCAFDoc_ColorType kind : {XCAFDoc_ColorGen, XCAFDoc_ColorSurf, XCAFDoc_ColorCurv}) {
-            Quantity_ColorRGBA color;
+            Quantity_Color color;
             if (!to.IsNull() && m_fromColors->GetColor(from, kind, color))
-                set(to, color, kind);
+                m_colors->SetColor(to, color, kind);
         }
-    }
-
-    void set(const TDF_Label &label, const Quantity_ColorRGBA &color, XCAFDoc_ColorType kind)
-    {
-        m_colors->SetColor(label, color.GetRGB(), kind);
-        if (color.Alpha() < barelyTransparent)
-            m_remarks << QCoreApplication::translate("olExport", "%1 is opaque in the file; IGES knows no opacity.")
-                             .arg(olShownNameOf(label));
     }
 
     olScene::Document m_from;
@@ -228,12 +216,11 @@ private:
     Handle(XCAFDoc_ColorTool) m_fromColors;
     Handle(XCAFDoc_ShapeTool) m_shapes;
     Handle(XCAFDoc_ColorTool) m_colors;
-    QStringList &m_remarks;
 };
 
-bool write(const olScene::Document &document, const QString &file, QStringList &remarks)
+bool write(const olScene::Document &document, const QString &file, QStringList &)
 {
-    const olScene::Document bodies = Bodies(document, remarks).take();
+    const olScene::Document bodies = Bodies(document).take();
     IGESControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
     // Solids stay solids; else they become loose faces, more of which lose their colour.
@@ -249,7 +236,7 @@ olModelFormat olIgesFormat()
     return {"IGES",
             "IGES",
             {QStringLiteral("iges"), QStringLiteral("igs")},
-            olModelFormat::Surfaces | olModelFormat::Colors,
+            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Names,
             check,
             read,
             write};

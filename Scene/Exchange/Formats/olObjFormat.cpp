@@ -1,19 +1,29 @@
 #include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/Formats/olTextOutput.h"
 #include "Exchange/olAssimpReader.h"
+#include "Exchange/olDocumentContent.h"
+#include "Exchange/olMeshTree.h"
 #include "Exchange/olModelFormat.h"
+#include "Exchange/olTextureFiles.h"
 #include "Model/olPlainLook.h"
 
 #include <Message_ProgressRange.hxx>
-#include <RWObj_CafWriter.hxx>
-#include <TColStd_IndexedDataMapOfStringString.hxx>
+#include <Quantity_ColorRGBA.hxx>
 #include <TDocStd_Document.hxx>
+#include <XCAFDoc_VisMaterial.hxx>
+#include <gp_Mat.hxx>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <map>
+#include <utility>
+#include <vector>
 
 using namespace olFormatTools;
 
@@ -60,7 +70,7 @@ private:
         ++number;
         for (int index = 1; index <= needed; ++index) {
             if (index >= words.size() || !isNumber(words.at(index)))
-                return reason("a point lacks a coordinate");
+                return olReason::tr("a point lacks a coordinate");
         }
         return {};
     }
@@ -68,11 +78,11 @@ private:
     QString face(const QList<QByteArray> &words)
     {
         if (words.size() < 4)
-            return reason("a face has fewer than three corners");
+            return olReason::tr("a face has fewer than three corners");
         for (int index = 1; index < words.size(); ++index) {
             const QList<QByteArray> corner = words.at(index).split('/');
             if (!refers(corner, 0, m_points) || !refers(corner, 1, m_textures) || !refers(corner, 2, m_normals))
-                return reason("a face refers to a point that is not there");
+                return olReason::tr("a face refers to a point that is not there");
         }
         return {};
     }
@@ -108,15 +118,15 @@ QString check(QFile &file, QStringList &remarks)
         while (line.endsWith("\\\n") || line.endsWith("\\\r\n"))
             line = line.left(line.lastIndexOf('\\')) + ' ' + file.readLine();
         if (line.contains('\0'))
-            return reason("this is no OBJ file");
+            return olReason::tr("this is no OBJ file");
         const QString fault = lines.take(line);
         if (!fault.isEmpty())
-            return reason("the file is cut off or damaged: in line %1 %2").arg(number).arg(fault);
+            return olReason::tr("the file is cut off or damaged: in line %1 %2").arg(number).arg(fault);
     }
     if (!endsWithLine && lines.endsWithPoints())
-        return reason("the file is cut off or damaged: it ends within its points");
+        return olReason::tr("the file is cut off or damaged: it ends within its points");
     if (lines.endsWithPoints())
-        remarks << reason("The model ends with points that no face uses; the file may be cut off.");
+        remarks << olReason::tr("The model ends with points that no face uses; the file may be cut off.");
     const QString materials = lines.materials();
     const QDir folder = QFileInfo(file).absoluteDir();
     const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -125,7 +135,7 @@ QString check(QFile &file, QStringList &remarks)
                              return QFileInfo::exists(folder.filePath(word));
                          });
     if (!materials.isEmpty() && !isThere)
-        remarks << reason("The materials file %1 is not there; the model has no colours.").arg(materials);
+        remarks << olReason::tr("The materials file %1 is not there; the model has no colours.").arg(materials);
     return {};
 }
 
@@ -135,11 +145,140 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     return olAssimpReader::read(job, {}, document, progress, remarks);
 }
 
-bool write(const olScene::Document &document, const QString &file, QStringList &)
+/// Names end with their line, and blanks around them do not count.
+QString lineOf(const QString &name) { return name.simplified(); }
+
+class Writer
 {
-    RWObj_CafWriter writer(path(file));
-    return writer.Perform(olPlainLook::asMaterials(document), TColStd_IndexedDataMapOfStringString(),
-                          Message_ProgressRange());
+public:
+    Writer(const olScene::Document &document, const QString &file, QStringList &remarks)
+        : m_tree(document),
+          m_textures(file, remarks),
+          m_file(file),
+          m_out(file),
+          m_isColored(olDocumentContent(document) & olModelFormat::CornerColors)
+    {
+    }
+
+    bool write()
+    {
+        const QString materials = QFileInfo(m_file).completeBaseName() + QStringLiteral(".mtl");
+        m_out << "mtllib " << materials << "\n";
+        m_tree.eachPlaced([this](const olMeshTree::Node &node, const gp_Trsf &where) { writePart(node, where); });
+        return m_out.finish() && writeMaterials(QFileInfo(m_file).dir().filePath(materials));
+    }
+
+private:
+    void writePart(const olMeshTree::Node &node, const gp_Trsf &where)
+    {
+        const std::vector<olMeshTree::Piece> pieces = m_tree.piecesOf(node.part);
+        if (pieces.empty())
+            return;
+        const QString own = lineOf(node.name);
+        const QString name = own.isEmpty() ? QStringLiteral("default") : own;
+        // Two groups of one name would go on as one.
+        if (name == m_group)
+            m_out << "g " << (own.isEmpty() ? "-" : "default") << "\n";
+        m_group = name;
+        m_out << "g " << name << "\n";
+        for (const olMeshTree::Piece &piece : pieces)
+            writePiece(piece, where);
+    }
+
+    void writePiece(const olMeshTree::Piece &piece, const gp_Trsf &where)
+    {
+        for (std::size_t index = 0; index < piece.points.size(); ++index) {
+            gp_XYZ point = piece.points[index];
+            where.Transforms(point);
+            m_out << "v " << point.X() << ' ' << point.Y() << ' ' << point.Z();
+            // Corners have colours in the whole file or nowhere in it.
+            const std::uint32_t color = piece.colors.empty() ? 0xffffffffu : piece.colors[index];
+            for (int part = 0; m_isColored && part < 3; ++part)
+                m_out << ' ' << double(color >> (8 * part) & 0xff) / 255.0;
+            m_out << "\n";
+        }
+        for (const gp_Vec2f &place : piece.places)
+            m_out << "vt " << place.x() << ' ' << place.y() << "\n";
+        const gp_Mat turn = where.VectorialPart();
+        for (const gp_Vec3f &normal : piece.normals) {
+            const gp_XYZ now = turn * gp_XYZ(normal.x(), normal.y(), normal.z());
+            m_out << "vn " << now.X() << ' ' << now.Y() << ' ' << now.Z() << "\n";
+        }
+        m_out << "usemtl " << materialOf(piece.look) << "\n";
+        for (std::size_t corner = 0; corner < piece.corners.size(); ++corner) {
+            const qint64 index = piece.corners[corner] + 1;
+            m_out << (corner % 3 == 0 ? "f " : " ") << m_points + index << '/';
+            if (!piece.places.empty())
+                m_out << m_places + index;
+            m_out << '/' << m_points + index << (corner % 3 == 2 ? "\n" : "");
+        }
+        m_points += qint64(piece.points.size());
+        m_places += qint64(piece.places.size());
+    }
+
+    /// A name of its own for each.
+    QString materialOf(const Handle(XCAFDoc_VisMaterial) & look)
+    {
+        const auto known = m_known.find(look.get());
+        if (known != m_known.end())
+            return known->second;
+        // Readers take no look of their own from a name that no material has.
+        if (look.IsNull())
+            return QStringLiteral("DefaultMaterial");
+        const QString own = lineOf(m_tree.lookName(look)).replace(QLatin1Char(' '), QLatin1Char('_'));
+        QString name = own.isEmpty() ? QStringLiteral("material") : own;
+        const QString wanted = name;
+        for (int number = 2; m_names.contains(name); ++number)
+            name = wanted + QLatin1Char('_') + QString::number(number);
+        m_names.insert(name);
+        m_known.emplace(look.get(), name);
+        m_materials.emplace_back(look, name);
+        return name;
+    }
+
+    bool writeMaterials(const QString &file)
+    {
+        olTextOutput out(file);
+        const auto color = [&out](const char *kind, const Quantity_Color &is) {
+            double red = 0;
+            double green = 0;
+            double blue = 0;
+            is.Values(red, green, blue, Quantity_TOC_sRGB);
+            out << kind << ' ' << red << ' ' << green << ' ' << blue << "\n";
+        };
+        for (const auto &[look, name] : m_materials) {
+            out << "newmtl " << name << "\n";
+            color("Kd", look->BaseColor().GetRGB());
+            out << "d " << look->BaseColor().Alpha() << "\n";
+            if (!look->HasCommonMaterial())
+                continue;
+            const XCAFDoc_VisMaterialCommon &common = look->CommonMaterial();
+            color("Ks", common.SpecularColor);
+            color("Ke", common.EmissiveColor);
+            out << "Ns " << common.Shininess * olPlainLook::shiniest << "\n";
+            const QString texture = m_textures.placeOf(common.DiffuseTexture);
+            if (!texture.isEmpty())
+                out << "map_Kd " << texture << "\n";
+        }
+        return out.finish();
+    }
+
+    olMeshTree m_tree;
+    olTextureFiles m_textures;
+    QString m_file;
+    olTextOutput m_out;
+    bool m_isColored;
+    QString m_group;
+    qint64 m_points = 0;
+    qint64 m_places = 0;
+    std::vector<std::pair<Handle(XCAFDoc_VisMaterial), QString>> m_materials;
+    std::map<const XCAFDoc_VisMaterial *, QString> m_known;
+    QSet<QString> m_names;
+};
+
+bool write(const olScene::Document &document, const QString &file, QStringList &remarks)
+{
+    return Writer(document, file, remarks).write();
 }
 
 } // namespace
@@ -149,7 +288,8 @@ olModelFormat olObjFormat()
     return {"OBJ",
             "OBJ",
             {QStringLiteral("obj")},
-            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures,
+            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
+                olModelFormat::CornerColors | olModelFormat::Names,
             check,
             read,
             write};

@@ -17,7 +17,7 @@ namespace
 QString check(QFile &file, QStringList &)
 {
     const QByteArray head = file.readLine(256);
-    return head.contains("OFF") ? QString() : reason("this is no OFF file");
+    return head.contains("OFF") ? QString() : olReason::tr("this is no OFF file");
 }
 
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,

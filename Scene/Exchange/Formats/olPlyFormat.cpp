@@ -14,7 +14,10 @@ olModelFormat olPlyFormat();
 namespace
 {
 
-QString check(QFile &file, QStringList &) { return file.read(3) == "ply" ? QString() : reason("this is no PLY file"); }
+QString check(QFile &file, QStringList &)
+{
+    return file.read(3) == "ply" ? QString() : olReason::tr("this is no PLY file");
+}
 
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
              QStringList &remarks)

@@ -52,7 +52,7 @@ public:
         std::sort(m_defined.begin(), m_defined.end());
         for (const auto &[from, to] : m_references) {
             if (!std::binary_search(m_defined.begin(), m_defined.end(), to))
-                return reason("the file is damaged: #%1 refers to #%2, which is not there").arg(from).arg(to);
+                return olReason::tr("the file is damaged: #%1 refers to #%2, which is not there").arg(from).arg(to);
         }
         return {};
     }
@@ -76,7 +76,7 @@ private:
                 static const char close[] = "*/";
                 m_at = std::search(m_at + 2, m_end, close, close + 2) + 1;
             } else if (*m_at == '(' && ++depth > deepest) {
-                return reason("the file is damaged: its parentheses are nested too deeply");
+                return olReason::tr("the file is damaged: its parentheses are nested too deeply");
             } else if (*m_at == ')') {
                 --depth;
             } else if (*m_at == '#' && m_at + 1 < m_end && m_at[1] >= '0' && m_at[1] <= '9') {
@@ -126,7 +126,7 @@ QString check(QFile &file, QStringList &)
         return file.errorString();
     const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
     if (!text.left(4096).contains("ISO-10303-21"))
-        return reason("this is no STEP file");
+        return olReason::tr("this is no STEP file");
     const QString fault = Instances(text).fault();
     file.unmap(const_cast<uchar *>(bytes));
     return fault;
@@ -213,7 +213,7 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
         return damaged();
     olScene::Document target = document;
     if (!reader.Transfer(target, scope.Next(8)))
-        return reason("its content cannot be taken over");
+        return olReason::tr("its content cannot be taken over");
     nameNumberedInstances(document);
     return {};
 }
@@ -249,7 +249,9 @@ olModelFormat olStepFormat()
     return {"STEP",
             "STEP",
             {QStringLiteral("step"), QStringLiteral("stp")},
-            olModelFormat::Surfaces | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure,
+            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Opacity |
+                olModelFormat::Structure | olModelFormat::Names | olModelFormat::Substances | olModelFormat::Layers |
+                olModelFormat::Hidden,
             check,
             read,
             write};

@@ -1,24 +1,23 @@
 #include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/Formats/olTextOutput.h"
 #include "Exchange/olMeshDocument.h"
+#include "Exchange/olMeshTree.h"
 #include "Exchange/olModelFormat.h"
 
 #include "State/olHostState.h"
 
-#include <BRep_Builder.hxx>
 #include <Message_ProgressScope.hxx>
 #include <Poly_Triangulation.hxx>
-#include <StlAPI_Writer.hxx>
-#include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
-#include <TopoDS_Compound.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
-#include <XCAFDoc_ShapeTool.hxx>
+#include <gp_Trsf.hxx>
+#include <gp_XYZ.hxx>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -66,13 +65,13 @@ QString check(QFile &file, QStringList &remarks)
         if (file.size() == size)
             return {};
         if (!isText(start) && file.size() > size && size > binaryHead) {
-            remarks << reason("%1 bytes behind its end were passed over.").arg(file.size() - size);
+            remarks << olReason::tr("%1 bytes behind its end were passed over.").arg(file.size() - size);
             return {};
         }
     }
     if (isText(start))
         return tailOf(file).toLower().contains("endsolid") ? QString() : cutOff();
-    return start.size() < binaryHead ? reason("this is no STL file") : cutOff();
+    return start.size() < binaryHead ? olReason::tr("this is no STL file") : cutOff();
 }
 
 /// Corners that lie in one place become one node.
@@ -240,7 +239,7 @@ bool readFacet(Words &words, Solid &solid)
 QString readText(const QByteArray &text, std::vector<Solid> &solids, Message_ProgressScope &scope, QStringList &remarks)
 {
     Words words(text);
-    const auto damagedHere = [&] { return reason("the file is damaged in line %1").arg(words.line(text)); };
+    const auto damagedHere = [&] { return olReason::tr("the file is damaged in line %1").arg(words.line(text)); };
     std::size_t told = words.left();
     for (std::string_view word = words.next(); !word.empty(); word = words.next()) {
         const bool isSolid = word.size() == 5 && QByteArray::fromRawData(word.data(), 5).toLower() == "solid";
@@ -263,7 +262,7 @@ QString readText(const QByteArray &text, std::vector<Solid> &solids, Message_Pro
         words.rest();
     }
     if (words.wordsForNumbers() > 0)
-        remarks << reason("%1 of its numbers are words, which count as 0.").arg(words.wordsForNumbers());
+        remarks << olReason::tr("%1 of its numbers are words, which count as 0.").arg(words.wordsForNumbers());
     return {};
 }
 
@@ -323,43 +322,99 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     std::vector<olMeshDocument::Member> parts;
     for (const Solid &solid : solids) {
         if (solid.triangles.empty()) {
-            remarks << reason("The solid %1 is empty.").arg(solid.name);
+            remarks << olReason::tr("The solid %1 is empty.").arg(solid.name);
             continue;
         }
         const TDF_Label part = target.addPart(solids.size() == 1 ? name : solid.name, {{meshOf(solid), {}}});
         parts.push_back({part, {}, solid.name});
     }
     if (parts.empty())
-        return reason("there is no geometry in it");
+        return olReason::tr("there is no geometry in it");
     if (solids.size() > 1)
         target.addGroup(name, parts);
     target.finish();
     return {};
 }
 
-TopoDS_Compound wholeShape(const olScene::Document &document)
+using Corners = std::array<gp_XYZ, 3>;
+
+/// All triangles of one part that stands somewhere.
+template <class Visitor>
+void eachTriangle(const std::vector<olMeshTree::Piece> &pieces, const gp_Trsf &where, const Visitor &visit)
 {
-    TopoDS_Compound whole;
-    BRep_Builder builder;
-    builder.MakeCompound(whole);
-    TDF_LabelSequence labels;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(labels);
-    for (const TDF_Label &label : labels)
-        builder.Add(whole, XCAFDoc_ShapeTool::GetShape(label));
-    return whole;
+    for (const olMeshTree::Piece &piece : pieces) {
+        for (std::size_t first = 0; first < piece.corners.size(); first += 3) {
+            Corners corners;
+            for (std::size_t corner = 0; corner < 3; ++corner) {
+                corners[corner] = piece.points[std::size_t(piece.corners[first + corner])];
+                where.Transforms(corners[corner]);
+            }
+            const gp_XYZ across = (corners[1] - corners[0]).Crossed(corners[2] - corners[0]);
+            const double length = across.Modulus();
+            visit(corners, length > 0 ? across / length : gp_XYZ(0, 0, 0));
+        }
+    }
+}
+
+/// A solid for each part.
+bool writeText(const olMeshTree &tree, const QString &file)
+{
+    olTextOutput out(file);
+    tree.eachPlaced([&](const olMeshTree::Node &node, const gp_Trsf &where) {
+        // A comment would begin with this sign.
+        const QString name = node.name.simplified().replace(QLatin1Char('#'), QLatin1Char('_'));
+        const std::vector<olMeshTree::Piece> pieces = tree.piecesOf(node.part);
+        if (pieces.empty())
+            return;
+        out << "solid " << name << "\n";
+        eachTriangle(pieces, where, [&out](const Corners &corners, const gp_XYZ &normal) {
+            out << "facet normal " << normal.X() << ' ' << normal.Y() << ' ' << normal.Z() << "\nouter loop\n";
+            for (const gp_XYZ &corner : corners)
+                out << "vertex " << corner.X() << ' ' << corner.Y() << ' ' << corner.Z() << "\n";
+            out << "endloop\nendfacet\n";
+        });
+        out << "endsolid " << name << "\n";
+    });
+    return out.finish();
+}
+
+/// All in one, as this form knows no parts.
+bool writeBinary(const olMeshTree &tree, const QString &file)
+{
+    QByteArray bytes(binaryHead, ' ');
+    tree.eachPlaced([&](const olMeshTree::Node &node, const gp_Trsf &where) {
+        eachTriangle(tree.piecesOf(node.part), where, [&bytes](const Corners &corners, const gp_XYZ &normal) {
+            for (const gp_XYZ &point : {normal, corners[0], corners[1], corners[2]}) {
+                for (const double part : {point.X(), point.Y(), point.Z()}) {
+                    char number[4];
+                    qToLittleEndian(float(part), number);
+                    bytes.append(number, 4);
+                }
+            }
+            bytes.append(2, '\0');
+        });
+    });
+    qToLittleEndian(quint32((bytes.size() - binaryHead) / binaryTriangle), bytes.data() + binaryHead - 4);
+    QFile out(file);
+    return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
 }
 
 /// As text or binary, as the host's state says.
-bool write(const olScene::Document &document, const QString &file, QStringList &)
+bool write(const olScene::Document &document, const QString &file, QStringList &remarks)
 {
-    StlAPI_Writer writer;
-    writer.ASCIIMode() = olHostState::the().stlExportFormat != binaryExport;
-    return writer.Write(wholeShape(document), path(file).ToCString());
+    const olMeshTree tree(document);
+    if (olHostState::the().stlExportFormat != binaryExport)
+        return writeText(tree, file);
+    int placed = 0;
+    tree.eachPlaced([&placed](const olMeshTree::Node &, const gp_Trsf &) { ++placed; });
+    if (placed > 1)
+        remarks << olReason::tr("%1 parts are one in the file, as binary STL knows no parts.").arg(placed);
+    return writeBinary(tree, file);
 }
 
 } // namespace
 
 olModelFormat olStlFormat()
 {
-    return {"STL", "STL", {QStringLiteral("stl")}, olModelFormat::Meshes, check, read, write};
+    return {"STL", "STL", {QStringLiteral("stl")}, olModelFormat::Meshes | olModelFormat::Names, check, read, write};
 }

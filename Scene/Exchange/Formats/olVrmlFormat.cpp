@@ -1,32 +1,20 @@
 #include "Exchange/Formats/olFormatTools.h"
+#include "Exchange/Formats/olVrmlWriter.h"
 #include "Exchange/olMeshDocument.h"
 #include "Exchange/olModelFormat.h"
 #include "Exchange/olTextures.h"
 #include "Model/olColoredMesh.h"
-#include "Model/olLibraryMessages.h"
 #include "Model/olPlainLook.h"
 
-#include <BRep_Tool.hxx>
 #include <Image_Texture.hxx>
 #include <Message_ProgressRange.hxx>
 #include <Poly_Triangulation.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TDF_Label.hxx>
-#include <TDF_LabelIndexedMap.hxx>
-#include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
-#include <TopExp_Explorer.hxx>
-#include <TopLoc_Location.hxx>
-#include <TopoDS.hxx>
-#include <TopoDS_Face.hxx>
-#include <XCAFDoc_ColorTool.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
-#include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
-#include <XCAFDoc_VisMaterialTool.hxx>
 #include <gp_GTrsf.hxx>
 #include <gp_Mat.hxx>
-#include <gp_Quaternion.hxx>
 
 #include <Inventor/SbColor.h>
 #include <Inventor/SbMatrix.h>
@@ -63,9 +51,7 @@
 #include <QHash>
 #include <QImage>
 #include <QRegularExpression>
-#include <QSet>
 #include <QStringList>
-#include <QTextStream>
 
 #include <algorithm>
 #include <cctype>
@@ -86,7 +72,8 @@ namespace
 QString check(QFile &file, QStringList &)
 {
     const QByteArray head = file.read(64);
-    return head.startsWith("#VRML V2") || head.startsWith("#VRML V1") ? QString() : reason("this is no VRML file");
+    return head.startsWith("#VRML V2") || head.startsWith("#VRML V1") ? QString()
+                                                                      : olReason::tr("this is no VRML file");
 }
 
 /// The first fault that Coin finds in a file; it goes on reading all the same, or not.
@@ -412,8 +399,8 @@ QString faultOfText()
     const QString what = firstFault().section(QLatin1Char('\n'), 0, 0).section(QStringLiteral(": "), 1).trimmed();
     if (what.isEmpty())
         return damaged();
-    return line.isEmpty() ? reason("the file is damaged (%1)").arg(what)
-                          : reason("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
+    return line.isEmpty() ? olReason::tr("the file is damaged (%1)").arg(what)
+                          : olReason::tr("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
 }
 
 /// Builds a document from Coin's scene.
@@ -448,7 +435,8 @@ public:
         m_target.addGroup(m_name, members);
         m_target.finish();
         if (m_lineSets > 0)
-            m_remarks << reason("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
+            m_remarks
+                << olReason::tr("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
         return m_fault;
     }
 
@@ -457,7 +445,13 @@ private:
 
     static constexpr int deepest = 200;
 
-    static QString nameOf(SoNode *node) { return QString::fromUtf8(node->getName().getString()); }
+    /// Our own files number what has no name.
+    static QString nameOf(const SoNode *node)
+    {
+        static const QRegularExpression number(QStringLiteral("^_\\d+$"));
+        const QString name = QString::fromUtf8(node->getName().getString());
+        return number.match(name).hasMatch() ? QString() : name;
+    }
 
     static gp_GTrsf transformationOf(SoNode *node)
     {
@@ -518,8 +512,8 @@ private:
         if (!node || !m_fault.isEmpty())
             return;
         if (depth > deepest || m_open.count(node) > 0) {
-            m_fault =
-                depth > deepest ? reason("its groups are nested too deeply") : reason("a group in it holds itself");
+            m_fault = depth > deepest ? olReason::tr("its groups are nested too deeply")
+                                      : olReason::tr("a group in it holds itself");
             return;
         }
         const olMeshDocument::Placement placement =
@@ -576,7 +570,7 @@ private:
         if (!geometry)
             return {};
         if (!hasItsPoints(geometry)) {
-            m_fault = reason("the file is damaged: a face refers to a point that is not there");
+            m_fault = olReason::tr("the file is damaged: a face refers to a point that is not there");
             return {};
         }
         SoNode *node = shape->appearance.getValue();
@@ -595,7 +589,8 @@ private:
         SoCallbackAction action;
         listen(action, triangles);
         action.apply(shape);
-        return partOf(triangles, rest, nameOf(shape), isBare ? m_bare.value(appearance) : texture);
+        const bool hasLook = appearance && (appearance->material.getValue() || !texture.IsNull());
+        return partOf(triangles, rest, nameOf(shape), isBare ? m_bare.value(appearance) : texture, hasLook);
     }
 
     static void listen(SoCallbackAction &action, Triangles &triangles)
@@ -606,12 +601,12 @@ private:
     }
 
     TDF_Label partOf(const Triangles &triangles, const gp_Mat &rest, const QString &name,
-                     const Handle(Image_Texture) & texture)
+                     const Handle(Image_Texture) & texture, bool hasLook)
     {
         m_lineSets += triangles.others;
         if (triangles.points.empty())
             return {};
-        const TDF_Label look = m_target.addLook(lookOf(triangles, texture), QString());
+        const TDF_Label look = hasLook ? m_target.addLook(lookOf(triangles, texture), QString()) : TDF_Label();
         return m_target.addPart(name, {{meshOf(triangles, rest, !texture.IsNull()), look}});
     }
 
@@ -668,14 +663,14 @@ private:
         const QString url = firstThere(m_links[std::size_t(number)]);
         const QFileInfo file(m_folder.filePath(url));
         if (!file.isFile()) {
-            const QString remark = reason("The file %1 that it refers to was not found.").arg(url);
+            const QString remark = olReason::tr("The file %1 that it refers to was not found.").arg(url);
             if (!m_remarks.contains(remark))
                 m_remarks << remark;
             return nullptr;
         }
         const QString name = file.canonicalFilePath();
         if (m_openFiles.contains(name)) {
-            m_fault = reason("it refers to itself through %1").arg(url);
+            m_fault = olReason::tr("it refers to itself through %1").arg(url);
             return nullptr;
         }
         if (SoSeparator *known = m_roots.value(name))
@@ -683,7 +678,7 @@ private:
         bool isOld = false;
         SoSeparator *content = readRoot(name, m_links, isOld);
         if (!content) {
-            m_fault = reason("the file %1 that it refers to cannot be read").arg(url);
+            m_fault = olReason::tr("the file %1 that it refers to cannot be read").arg(url);
             return nullptr;
         }
         m_roots.insert(name, content);
@@ -744,17 +739,17 @@ private:
             return SoCallbackAction::CONTINUE;
         if (refersToPoints(static_cast<const SoIndexedShape &>(shape).coordIndex, at.getNumCoordinates()))
             return SoCallbackAction::CONTINUE;
-        m_fault = reason("the file is damaged: a face refers to a point that is not there");
+        m_fault = olReason::tr("the file is damaged: a face refers to a point that is not there");
         return SoCallbackAction::ABORT;
     }
 
     void endFlat(SoCallbackAction &at, const SoNode &shape)
     {
         const olMeshDocument::Placement placement = olMeshDocument::placementOf(transformationOf(at.getModelMatrix()));
-        QString name = QString::fromUtf8(shape.getName().getString());
+        QString name = nameOf(&shape);
         for (int up = at.getCurPath()->getLength() - 1; name.isEmpty() && up >= 0; --up)
             name = nameOf(at.getCurPath()->getNode(up));
-        const TDF_Label part = partOf(*m_triangles, placement.rest, name, textureOf(m_textures.back()));
+        const TDF_Label part = partOf(*m_triangles, placement.rest, name, textureOf(m_textures.back()), true);
         if (!part.IsNull())
             m_flat->push_back({part, placement.where, name});
     }
@@ -782,187 +777,6 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     return Walk(job, document, remarks).run(job.file);
 }
 
-class Writer
-{
-public:
-    Writer(const olScene::Document &document, QTextStream &out)
-        : m_shapes(XCAFDoc_DocumentTool::ShapeTool(document->Main())),
-          m_colors(XCAFDoc_DocumentTool::ColorTool(document->Main())),
-          m_materials(XCAFDoc_DocumentTool::VisMaterialTool(document->Main())),
-          m_out(out)
-    {
-        m_out.setCodec("UTF-8");
-        m_out.setRealNumberPrecision(9);
-    }
-
-    void write()
-    {
-        m_out << "#VRML V2.0 utf8\n";
-        TDF_LabelSequence labels;
-        m_shapes->GetFreeShapes(labels);
-        for (const TDF_Label &label : labels)
-            writePlaced(label);
-    }
-
-private:
-    /// A name that VRML takes, and that nothing else in the file has.
-    QString uniqueName(const TDF_Label &label)
-    {
-        QString name = olNameOf(label);
-        for (QChar &letter : name) {
-            if (!letter.isLetterOrNumber() || letter.unicode() > 127)
-                letter = QLatin1Char('_');
-        }
-        if (name.isEmpty() || name.at(0).isDigit())
-            name.prepend(QLatin1Char('_'));
-        QString unique = name;
-        for (int number = 2; m_names.contains(unique); ++number)
-            unique = name + QLatin1Char('_') + QString::number(number);
-        m_names.insert(unique);
-        return unique;
-    }
-
-    void writePlaced(const TDF_Label &label)
-    {
-        TDF_Label referred;
-        if (!XCAFDoc_ShapeTool::GetReferredShape(label, referred))
-            return writeShared(label);
-        const gp_Trsf where = XCAFDoc_ShapeTool::GetLocation(label).Transformation();
-        gp_Vec axis(0, 0, 1);
-        double angle = 0;
-        where.GetRotation().GetVectorAndAngle(axis, angle);
-        const gp_XYZ &move = where.TranslationPart();
-        // An instance that is called like its part needs no name of its own.
-        if (olNameOf(label) != olNameOf(referred))
-            m_out << "DEF " << uniqueName(label) << ' ';
-        m_out << "Transform { translation " << move.X() << ' ' << move.Y() << ' ' << move.Z() << " rotation "
-              << axis.X() << ' ' << axis.Y() << ' ' << axis.Z() << ' ' << angle << " children [\n";
-        writeShared(referred);
-        m_out << "] }\n";
-    }
-
-    void writeShared(const TDF_Label &label)
-    {
-        if (const int known = m_written.FindIndex(label)) {
-            m_out << "USE " << m_writtenNames.at(known - 1) << '\n';
-            return;
-        }
-        const QString name = uniqueName(label);
-        if (XCAFDoc_ShapeTool::IsAssembly(label))
-            writeGroup(label, name);
-        else
-            writePart(label, name);
-        m_written.Add(label);
-        m_writtenNames.append(name);
-    }
-
-    void writeGroup(const TDF_Label &label, const QString &name)
-    {
-        m_out << "DEF " << name << " Group { children [\n";
-        TDF_LabelSequence components;
-        XCAFDoc_ShapeTool::GetComponents(label, components);
-        for (const TDF_Label &component : components)
-            writePlaced(component);
-        m_out << "] }\n";
-    }
-
-    void writePart(const TDF_Label &label, const QString &name)
-    {
-        // Faces of one colour make one shape; a part of one colour needs no group.
-        QMap<QString, QVector<TopoDS_Face>> looks;
-        const QString own = lookOf(label);
-        for (TopExp_Explorer faces(XCAFDoc_ShapeTool::GetShape(label), TopAbs_FACE); faces.More(); faces.Next()) {
-            TDF_Label piece;
-            const bool hasOwn = m_shapes->FindSubShape(label, faces.Current(), piece);
-            const QString look = hasOwn ? lookOf(piece) : QString();
-            looks[look.isEmpty() ? own : look] << TopoDS::Face(faces.Current());
-        }
-        if (looks.size() == 1) {
-            m_out << "DEF " << name << ' ';
-            writeFaces(looks.firstKey(), looks.first());
-            return;
-        }
-        m_out << "DEF " << name << " Group { children [\n";
-        for (auto look = looks.cbegin(); look != looks.cend(); ++look)
-            writeFaces(look.key(), look.value());
-        m_out << "] }\n";
-    }
-
-    [[nodiscard]] QString lookOf(const TDF_Label &label) const
-    {
-        Quantity_ColorRGBA color;
-        const Handle(XCAFDoc_VisMaterial) material = m_materials->GetShapeMaterial(label);
-        if (!material.IsNull())
-            color = material->BaseColor();
-        else if (!m_colors->GetColor(label, XCAFDoc_ColorSurf, color) &&
-                 !m_colors->GetColor(label, XCAFDoc_ColorGen, color))
-            return {};
-        double red = 0;
-        double green = 0;
-        double blue = 0;
-        color.GetRGB().Values(red, green, blue, Quantity_TOC_sRGB);
-        return QStringLiteral("diffuseColor %1 %2 %3 transparency %4")
-            .arg(red)
-            .arg(green)
-            .arg(blue)
-            .arg(1.0 - double(color.Alpha()));
-    }
-
-    void writeFaces(const QString &look, const QVector<TopoDS_Face> &faces)
-    {
-        m_out << "Shape { appearance Appearance { material Material { " << look
-              << " } }\n geometry IndexedFaceSet { solid FALSE coord Coordinate { point [\n";
-        TopLoc_Location location;
-        for (const TopoDS_Face &face : faces) {
-            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
-            for (int node = 1; !mesh.IsNull() && node <= mesh->NbNodes(); ++node) {
-                const gp_Pnt point = mesh->Node(node).Transformed(location.Transformation());
-                m_out << point.X() << ' ' << point.Y() << ' ' << point.Z() << ",\n";
-            }
-        }
-        m_out << "] } coordIndex [\n";
-        int first = -1;
-        for (const TopoDS_Face &face : faces) {
-            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
-            if (mesh.IsNull())
-                continue;
-            writeTriangles(*mesh, first, face.Orientation() == TopAbs_REVERSED);
-            first += mesh->NbNodes();
-        }
-        m_out << "] } }\n";
-    }
-
-    void writeTriangles(const Poly_Triangulation &mesh, int first, bool isReversed)
-    {
-        for (int index = 1; index <= mesh.NbTriangles(); ++index) {
-            int n[3];
-            mesh.Triangle(index).Get(n[0], n[1], n[2]);
-            if (isReversed)
-                qSwap(n[1], n[2]);
-            m_out << first + n[0] << ',' << first + n[1] << ',' << first + n[2] << ",-1,\n";
-        }
-    }
-
-    Handle(XCAFDoc_ShapeTool) m_shapes;
-    Handle(XCAFDoc_ColorTool) m_colors;
-    Handle(XCAFDoc_VisMaterialTool) m_materials;
-    QTextStream &m_out;
-    QSet<QString> m_names;
-    TDF_LabelIndexedMap m_written;
-    QStringList m_writtenNames;
-};
-
-bool write(const olScene::Document &document, const QString &name, QStringList &)
-{
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QTextStream out(&file);
-    Writer(document, out).write();
-    out.flush();
-    return out.status() == QTextStream::Ok && file.flush();
-}
-
 } // namespace
 
 olModelFormat olVrmlFormat()
@@ -970,8 +784,9 @@ olModelFormat olVrmlFormat()
     return {"VRML",
             "WRL",
             {QStringLiteral("wrl"), QStringLiteral("vrml")},
-            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Structure,
+            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
+                olModelFormat::CornerColors | olModelFormat::Structure | olModelFormat::Names,
             check,
             read,
-            write};
+            olWriteVrml};
 }

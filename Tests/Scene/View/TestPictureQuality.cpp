@@ -120,7 +120,7 @@ TEST_F(PictureQuality, EachHelpAgainstStepsHelps)
     apply(rendering, "RenderOptions use pixelfilter ultra", false);
     apply(rendering, "RenderOptions supersample factor ultra", true);
     // Without lines and letters, which look a little different in a larger picture.
-    const QRect solid(75, 90, 165, 95);
+    const QRect solid(75, 90, 110, 95);
     EXPECT_LT(distance(smooth.copy(solid), view.picture().copy(solid)), distance(smooth.copy(solid), two.copy(solid)));
 
     const QImage rough = sampled(0);

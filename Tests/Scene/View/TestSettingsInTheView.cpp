@@ -80,6 +80,22 @@ TEST_F(SettingsInTheView, Aids)
     show({"joints", rendering, "RenderOptions show joints", true, 0.0005});
 }
 
+TEST_F(SettingsInTheView, AidsKeepTheirSizeOnFineScreens)
+{
+    apply(rendering, "RenderOptions coordinate system", true);
+    const double ratio = view.devicePixelRatioF();
+    const QImage fine = view.picture();
+    ASSERT_EQ(fine.size(), QSize(width, height) * ratio);
+    const QImage plain = view.picture(QSize(width, height));
+    // The cube, a letter of the axes, the lamp with its name.
+    for (const QRect &place : {QRect(190, 30, 100, 100), QRect(76, 82, 20, 18), QRect(148, 8, 82, 26)}) {
+        const QImage large = fine.copy(QRect(place.topLeft() * ratio, place.size() * ratio));
+        EXPECT_LT(
+            distance(large.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation), plain.copy(place)),
+            18.0);
+    }
+}
+
 TEST_F(SettingsInTheView, ZUp) { show({"z up", rendering, "RenderOptions z-up", false, 0.02}); }
 
 TEST_F(SettingsInTheView, Headlight)
@@ -183,8 +199,11 @@ TEST_F(SettingsInTheView, AStillFrameComesAfterTheSecondsOfRest)
     settle(20);
     const QImage moving = view.shownPicture();
     EXPECT_FALSE(view.isStillFrameDone());
-    for (int tries = 0; tries < 200 && !view.isStillFrameDone(); ++tries)
-        settle(50);
+    const auto waitForStillFrame = [this] {
+        for (int tries = 0; tries < 200 && !view.isStillFrameDone(); ++tries)
+            settle(50);
+    };
+    waitForStillFrame();
     ASSERT_TRUE(view.isStillFrameDone());
     QImage still = view.shownPicture();
     const double smoothed = difference(moving, still);
@@ -198,11 +217,18 @@ TEST_F(SettingsInTheView, AStillFrameComesAfterTheSecondsOfRest)
         still = blurred;
     }
 
+    waitForStillFrame();
+    olHostState &state = olHostState::the();
+    state.navMode = 1;
+    state.teleportRange = 3.0f;
+    settle();
+    EXPECT_TRUE(view.isStillFrameDone()) << "what the picture does not depend on changes nothing";
+    state.viewUpdates = state.viewUpdates + 1;
+    EXPECT_FALSE(view.isStillFrameDone());
     apply("Camera", "Camera fov", 50.0f);
     EXPECT_FALSE(view.isStillFrameDone()) << "a change begins it anew";
     apply(rendering, "RenderOptions auxiliary nodes", false);
-    for (int tries = 0; tries < 200 && !view.isStillFrameDone(); ++tries)
-        settle(50);
+    waitForStillFrame();
     EXPECT_GT(difference(view.shownPicture(), view.picture()), 0.005) << "without the cube";
 }
 
