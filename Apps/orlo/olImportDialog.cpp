@@ -2,6 +2,8 @@
 
 #include "olImportSummary.h"
 
+#include "Exchange/olModelFormat.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -10,6 +12,9 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace
 {
@@ -40,7 +45,8 @@ QString summariesOf(const std::vector<olImportJob> &jobs)
 
 } // namespace
 
-olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent)
+olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent,
+                               const olImportFineness::LockReason &lockReason)
     : QDialog(parent),
       m_options(new QLabel(summariesOf(jobs))),
       m_center(new QCheckBox(tr("Center to Origin"))),
@@ -64,11 +70,20 @@ olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, QWidget *pa
     m_outcome->setReadOnly(true);
     m_outcome->setAccessibleName(tr("Outcome of the import"));
 
+    const auto hasSurfaces = [](const olImportJob &job) {
+        const olModelFormat *format = olModelFormat::ofFile(job.file);
+        return format && format->holds(olModelFormat::Surfaces);
+    };
+    const auto fine = std::find_if(jobs.begin(), jobs.end(), hasSurfaces);
     auto *layout = new QVBoxLayout(this);
-    for (QWidget *widget :
-         {static_cast<QWidget *>(names), static_cast<QWidget *>(m_options), static_cast<QWidget *>(m_center),
-          static_cast<QWidget *>(m_ground), static_cast<QWidget *>(m_progress), static_cast<QWidget *>(m_outcome),
-          static_cast<QWidget *>(m_buttons)})
+    layout->addWidget(names);
+    layout->addWidget(m_options);
+    if (lockReason && fine != jobs.end()) {
+        m_finenessFormat = QLatin1String(olModelFormat::ofFile(fine->file)->optionsType);
+        m_fineness = new olImportFineness(*fine, lockReason);
+        layout->addWidget(m_fineness);
+    }
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_center, m_ground, m_progress, m_outcome, m_buttons})
         layout->addWidget(widget);
     setMinimumWidth(fontMetrics().averageCharWidth() * 60);
     connect(m_buttons, &QDialogButtonBox::accepted, this, [this] {
@@ -79,9 +94,20 @@ olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, QWidget *pa
     setStage(Stage::Asking);
 }
 
-bool olImportDialog::centersInOrigin() const { return m_center->isChecked(); }
+olImportJob olImportDialog::asked(olImportJob job) const
+{
+    job.centerInOrigin = m_center->isChecked();
+    job.putOnGround = m_ground->isChecked();
+    const olModelFormat *format = olModelFormat::ofFile(job.file);
+    if (m_fineness && format && m_finenessFormat == QLatin1String(format->optionsType))
+        m_fineness->changeIn(job.options);
+    return job;
+}
 
-bool olImportDialog::putsOnGround() const { return m_ground->isChecked(); }
+olImportFineness::Values olImportDialog::kept() const
+{
+    return m_fineness ? m_fineness->kept() : olImportFineness::Values();
+}
 
 void olImportDialog::showReading() { setStage(Stage::Reading); }
 
@@ -105,6 +131,8 @@ void olImportDialog::setStage(Stage stage)
     m_stage = stage;
     const bool isAsking = stage == Stage::Asking;
     m_options->setVisible(isAsking);
+    if (m_fineness)
+        m_fineness->setVisible(isAsking);
     m_center->setVisible(isAsking);
     m_ground->setVisible(isAsking);
     m_progress->setVisible(stage == Stage::Reading);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "olImportFineness.h"
+
 #include "Exchange/olImporter.h"
 
 #include <QDialog>
@@ -17,11 +19,14 @@ class olImportDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent = nullptr);
+    explicit olImportDialog(const std::vector<olImportJob> &jobs, QWidget *parent = nullptr,
+                            const olImportFineness::LockReason &lockReason = {});
 
-    /// As the boxes are now.
-    [[nodiscard]] bool centersInOrigin() const;
-    [[nodiscard]] bool putsOnGround() const;
+    /// The job as it was asked for here.
+    [[nodiscard]] olImportJob asked(olImportJob job) const;
+
+    /// The settings that shall be so for later imports, too.
+    [[nodiscard]] olImportFineness::Values kept() const;
 
     /// From the question to the progress.
     void showReading();
@@ -46,6 +51,8 @@ private:
 
     Stage m_stage = Stage::Asking;
     QLabel *m_options;
+    olImportFineness *m_fineness = nullptr; ///< where the format has surfaces
+    QString m_finenessFormat;
     QCheckBox *m_center;
     QCheckBox *m_ground;
     QProgressBar *m_progress;

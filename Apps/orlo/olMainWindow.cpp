@@ -299,6 +299,12 @@ void olMainWindow::addMenus()
     QAction *sample = file->addAction(tr("Open the &Sample"));
     connect(sample, &QAction::triggered, this, &olMainWindow::openSample);
     m_files->addTo(*file);
+    m_files->offerSettings([this](const std::string &key) { return m_session.lockReason(key).value_or(QString()); },
+                           [this](const olImportFineness::Values &values) {
+                               for (const auto &value : values)
+                                   m_session.choose(value.first);
+                               return m_session.commit({}, values).error();
+                           });
     connect(m_files.get(), &olModelFiles::imported, this, [this] { m_session.newScene(); });
     file->addSeparator();
     QAction *quit = file->addAction(tr("&Quit"));

@@ -100,15 +100,17 @@ void olModelFiles::open(const QStringList &files)
         start(jobs, addDialog(jobs));
         return;
     }
-    auto *dialog = new olImportDialog(jobs, &m_window);
+    auto *dialog = new olImportDialog(jobs, &m_window, m_lockReason);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &olImportDialog::confirmed, this, [this, dialog, jobs] {
-        std::vector<olImportJob> asked = jobs;
-        for (olImportJob &job : asked) {
-            job.centerInOrigin = dialog->centersInOrigin();
-            job.putOnGround = dialog->putsOnGround();
-        }
+        std::vector<olImportJob> asked;
+        for (const olImportJob &job : jobs)
+            asked.push_back(dialog->asked(job));
+        const olImportFineness::Values kept = dialog->kept();
         start(asked, dialog);
+        const QString fault = kept.empty() ? QString() : m_keep(kept);
+        if (!fault.isEmpty())
+            tell(fault);
     });
     dialog->show();
 }

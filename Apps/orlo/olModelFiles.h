@@ -1,9 +1,15 @@
 #pragma once
 
+#include "olImportFineness.h"
+
 #include "Exchange/olImporter.h"
 
 #include <QHash>
 #include <QPointer>
+#include <QStringList>
+
+#include <functional>
+#include <utility>
 
 class QMenu;
 class QWidget;
@@ -27,6 +33,15 @@ public:
 
     /// Imports a file without asking.
     void openAtOnce(const QString &file);
+
+    /// Lets who is asked about an import change its settings, for that import or for good. `keep` makes them so and
+    /// returns why it could not; empty where it could.
+    void offerSettings(olImportFineness::LockReason lockReason,
+                       std::function<QString(const olImportFineness::Values &values)> keep)
+    {
+        m_lockReason = std::move(lockReason);
+        m_keep = std::move(keep);
+    }
 
     /// Files that were read into the scene as it is, in the order of their reading.
     [[nodiscard]] const QStringList &opened() const { return m_opened; }
@@ -54,4 +69,6 @@ private:
     olImporter m_importer;
     QHash<int, QPointer<olImportDialog>> m_dialogs;
     QStringList m_opened;
+    olImportFineness::LockReason m_lockReason;
+    std::function<QString(const olImportFineness::Values &values)> m_keep;
 };

@@ -78,7 +78,7 @@ void olModuleTree::paintMark(QPainter &painter, const QStyleOptionViewItem &opti
 
 QSize olModuleTree::minimumSizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 14, fontMetrics().height() * 4};
+    return {fontMetrics().averageCharWidth() * 14, fontMetrics().height() * 2};
 }
 
 template <class Use> void olModuleTree::eachItem(Use &&use) const

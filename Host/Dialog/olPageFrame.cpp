@@ -118,5 +118,5 @@ void olPageFrame::showFromTheLeft(const olFoundControl &control)
 QSize olPageFrame::minimumSizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.averageCharWidth() * 12, metrics.height() * 6};
+    return {metrics.averageCharWidth() * 12, metrics.height() * 4};
 }

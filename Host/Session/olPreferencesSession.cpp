@@ -422,12 +422,16 @@ olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> 
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
-    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
-                  [](auto *entry) { entry->updateGUI(); });
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(), [this](auto *entry) {
+        emit aboutToTakeOver(*entry);
+        entry->updateGUI();
+    });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
         entry->markClean();
     }
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
+                  [this](auto *entry) { emit tookOver(*entry); });
     return saved;
 }
 

@@ -136,8 +136,8 @@ public:
     [[nodiscard]] olPreferencesStore &store() { return m_store; }
 
 signals:
-    /// Around the taking over in each module that has a setting another program changed. In between its page is filled
-    /// with the values in force.
+    /// Around the taking over in each module that has a setting another program, or a commit() besides its page,
+    /// changed. In between its page is filled with the values in force.
     void aboutToTakeOver(olPreferencesEntry &entry);
     void tookOver(olPreferencesEntry &entry);
 

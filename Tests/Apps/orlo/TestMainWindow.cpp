@@ -5,6 +5,7 @@
 #include "olStartFault.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olExportScene.h"
 #include "Model/olScene.h"
 #include "State/olHostState.h"
 #include "Utilities/olLog.h"
@@ -19,6 +20,7 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
@@ -127,6 +129,52 @@ TEST_F(MainWindow, ThePreferencesFitBesideTheViewAsAPanelOnASmallScreen)
     action("Preferences as a Panel").trigger();
     EXPECT_TRUE(preferences.isWindow());
     EXPECT_TRUE(preferences.isVisible());
+}
+
+TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
+{
+    const QString file = path(QStringLiteral("sample.step"));
+    ASSERT_EQ(olExportScene(window.scene().document(), file).error, QString());
+    const auto ask = [&] {
+        delete window.findChild<olImportDialog *>();
+        EXPECT_TRUE(drop({file}));
+        return window.findChild<olImportDialog *>();
+    };
+    const auto stored = [] { return boost::any_cast<double>(record().get("STEPOptions chord deviation")); };
+    olImportDialog *dialog = ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    auto *deviation = dialog->findChild<QDoubleSpinBox *>(QStringLiteral("chord deviation"));
+    ASSERT_NE(deviation, nullptr);
+    const auto words = [&] {
+        QStringList texts;
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            texts << label->text();
+        return texts.join(QLatin1Char('|'));
+    };
+    EXPECT_TRUE(words().contains(QStringLiteral("% of the model"))) << qPrintable(words());
+    EXPECT_FALSE(words().contains(QStringLiteral("coarse")));
+    deviation->setFocus();
+    deviation->selectAll();
+    QTest::keyClicks(deviation, QStringLiteral("50"));
+    EXPECT_TRUE(words().contains(QStringLiteral("coarse"))) << qPrintable(words());
+    emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    EXPECT_EQ(stored(), 0.075) << "for this import alone";
+    QTest::qWaitFor([&] { return !window.findChild<olImportDialog *>()->isVisible(); }, 10000);
+
+    dialog = ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    deviation = dialog->findChild<QDoubleSpinBox *>(QStringLiteral("chord deviation"));
+    EXPECT_EQ(deviation->value(), 0.075);
+    deviation->setFocus();
+    deviation->selectAll();
+    QTest::keyClicks(deviation, QStringLiteral("0.5"));
+    auto *keep = dialog->findChild<QCheckBox *>(QStringLiteral("keep"));
+    QTest::mouseClick(keep, Qt::LeftButton, Qt::NoModifier, QPoint(8, keep->height() / 2));
+    emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    EXPECT_EQ(stored(), 0.5);
+    EXPECT_EQ(olHostState::the().importRecord("STEP")->chordDeviation, 0.5);
+    EXPECT_EQ(session.origin("STEPOptions chord deviation"), "stored");
+    EXPECT_EQ(session.origin("STEPOptions stitching"), "default") << "what was not changed is not kept";
 }
 
 TEST_F(MainWindow, F1ShowsTheSettingsLineInTheDocuments)
