@@ -5,522 +5,523 @@
     <name>QOLColorDialog</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>색상 선택</translation>
     </message>
 </context>
 <context>
     <name>QOLColorManipulator</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>색상 선택</translation>
     </message>
 </context>
 <context>
     <name>olAbout</name>
     <message>
         <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
     </message>
     <message>
         <source>About ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO 정보</translation>
     </message>
 </context>
 <context>
     <name>olBatch</name>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰에는 OpenGL을 지원하는 X 디스플레이 또는 XWayland가 필요합니다.</translation>
     </message>
     <message>
         <source>The model %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>모델 %1을(를) 그릴 수 없습니다: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 쓸 수 없습니다: %2.</translation>
     </message>
 </context>
 <context>
     <name>olChangesView</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Old Value</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 값</translation>
     </message>
     <message>
         <source>New Value</source>
-        <translation type="unfinished"></translation>
+        <translation>새 값</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 사항</translation>
     </message>
     <message>
         <source>&amp;Skipped:</source>
-        <translation type="unfinished"></translation>
+        <translation>건너뜀(&amp;S):</translation>
     </message>
     <message>
         <source>Why</source>
-        <translation type="unfinished"></translation>
+        <translation>이유</translation>
     </message>
     <message>
         <source>Skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>건너뜀</translation>
     </message>
     <message>
         <source>&amp;Go There</source>
-        <translation type="unfinished"></translation>
+        <translation>해당 위치로 이동(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>되돌리기(&amp;T)</translation>
     </message>
     <message>
         <source>Take &amp;All Back</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 되돌리기(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트로 복사(&amp;C)</translation>
     </message>
     <message>
         <source>%1 (%2): %3 -&gt; %4
 </source>
         <comment>place, key, old and new value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2): %3 -&gt; %4
+</translation>
     </message>
 </context>
 <context>
     <name>olExport</name>
     <message>
         <source>%1 is opaque in the file; IGES knows no opacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 파일에서 불투명합니다. IGES는 불투명도를 지원하지 않습니다.</translation>
     </message>
     <message>
         <source>%1 stands twice in the same place; it is written once.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 같은 위치에 두 번 있어 한 번만 저장합니다.</translation>
     </message>
     <message>
         <source>%1 is a mesh, which this format cannot hold; it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 이 형식에 담을 수 없는 메시이므로 제외합니다.</translation>
     </message>
     <message>
         <source>colours</source>
-        <translation type="unfinished"></translation>
+        <translation>색상</translation>
     </message>
     <message>
         <source>textures</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처</translation>
     </message>
     <message>
         <source>groups of parts</source>
-        <translation type="unfinished"></translation>
+        <translation>부품 그룹</translation>
     </message>
     <message>
         <source>%1 knows no %2; they are not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 형식은 다음을 지원하지 않으므로 저장하지 않습니다: %2.</translation>
     </message>
     <message>
         <source> and no </source>
-        <translation type="unfinished"></translation>
+        <translation> 및 </translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>임시 디렉터리에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>the writer failed</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기에 실패했습니다</translation>
     </message>
     <message>
         <source>the folder %1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더 %1을(를) 만들 수 없습니다</translation>
     </message>
     <message>
         <source>there is nothing that this format can hold</source>
-        <translation type="unfinished"></translation>
+        <translation>이 형식에 담을 수 있는 것이 없습니다</translation>
     </message>
     <message>
         <source>the writer failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>쓰기에 실패했습니다(%1)</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 쓸 수 없습니다: %2.</translation>
     </message>
 </context>
 <context>
     <name>olFieldGuard</name>
     <message>
         <source>Only %1 can be entered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>여기에는 %1만 입력할 수 있습니다.</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>숫자</translation>
     </message>
 </context>
 <context>
     <name>olFoldHeader</name>
     <message>
         <source>Folded</source>
-        <translation type="unfinished"></translation>
+        <translation>접힘</translation>
     </message>
     <message>
         <source>Unfolded</source>
-        <translation type="unfinished"></translation>
+        <translation>펼쳐짐</translation>
     </message>
 </context>
 <context>
     <name>olFoundSettings</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>위치</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>값</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>출처</translation>
     </message>
     <message>
         <source>Settings found</source>
-        <translation type="unfinished"></translation>
+        <translation>찾은 설정</translation>
     </message>
 </context>
 <context>
     <name>olGivenSettings</name>
     <message>
         <source>&quot;%1&quot; is no setting: expected &quot;KEY=VALUE&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) 설정이 아닙니다. 필요한 형태: &quot;KEY=VALUE&quot;</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 &quot;%1&quot;이(가) 없습니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is only set where somebody can be asked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) 사용자에게 확인할 수 있는 곳에서만 설정됩니다: %2</translation>
     </message>
 </context>
 <context>
     <name>olHistoryView</name>
     <message>
         <source>&amp;Go Back...</source>
-        <translation type="unfinished"></translation>
+        <translation>돌아가기(&amp;G)...</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>기록</translation>
     </message>
     <message>
         <source>Nothing has been saved yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 저장된 것이 없습니다.</translation>
     </message>
     <message>
         <source>Going back takes back the save that is chosen and all later ones. What that changes is shown first.</source>
-        <translation type="unfinished"></translation>
+        <translation>돌아가면 선택한 저장과 그 이후의 모든 저장을 되돌립니다. 변경될 내용이 먼저 표시됩니다.</translation>
     </message>
     <message>
         <source>Saves</source>
-        <translation type="unfinished"></translation>
+        <translation>저장 목록</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>시간</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 사항</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값</translation>
     </message>
     <message>
         <source>%1: %2 to %3</source>
         <comment>setting, old and new value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 → %3</translation>
     </message>
     <message>
         <source>%1 settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 %1개</translation>
     </message>
 </context>
 <context>
     <name>olHostStatePanel</name>
     <message>
         <source>%1 (only recorded)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (기록만 함)</translation>
     </message>
     <message>
         <source>Host state</source>
-        <translation type="unfinished"></translation>
+        <translation>호스트 상태</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>필터</translation>
     </message>
     <message>
         <source>Filter the host state</source>
-        <translation type="unfinished"></translation>
+        <translation>호스트 상태 필터링</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>값</translation>
     </message>
 </context>
 <context>
     <name>olImport</name>
     <message>
         <source>the system ended its reader, probably for want of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템이 읽기 프로그램을 종료했습니다. 메모리가 부족한 것 같습니다</translation>
     </message>
     <message>
         <source>the file is damaged in a way that makes its reader crash</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 프로그램이 비정상 종료될 만큼 파일이 손상되었습니다</translation>
     </message>
     <message>
         <source>its reader failed</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 프로그램이 실패했습니다</translation>
     </message>
     <message>
         <source>its reader cannot be started (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 프로그램을 시작할 수 없습니다(%1)</translation>
     </message>
     <message>
         <source>its reader %1 cannot be started (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기 프로그램 %1을(를) 시작할 수 없습니다(%2)</translation>
     </message>
     <message>
         <source>reading it made no progress for %1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1초 동안 읽기가 진행되지 않았습니다</translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>임시 디렉터리에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>Cannot read %1: this is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 읽을 수 없습니다: 폴더입니다.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 읽을 수 없습니다: %2.</translation>
     </message>
     <message>
         <source>%1 has faulty surfaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 잘못된 곡면이 있습니다.</translation>
     </message>
     <message>
         <source>%1 of the faces of %2 cannot be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2의 면 중 %1개를 그릴 수 없습니다.</translation>
     </message>
     <message>
         <source>Gaps of %1 up to %2 mm are closed; %3 would distort it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 틈을 %2 mm까지 메웁니다. %3 mm까지 메우면 모양이 왜곡됩니다.</translation>
     </message>
     <message>
         <source>The faces of %1 are not joined; that would distort it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 면을 잇지 않습니다. 이으면 모양이 왜곡됩니다.</translation>
     </message>
     <message>
         <source>it has more than a million parts</source>
-        <translation type="unfinished"></translation>
+        <translation>부품이 백만 개를 넘습니다</translation>
     </message>
     <message>
         <source>the file is damaged: it has triangles without their points, or points beyond all measure</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 점이 없는 삼각형 또는 범위를 크게 벗어난 점이 있습니다</translation>
     </message>
     <message>
         <source>there is no geometry in it</source>
-        <translation type="unfinished"></translation>
+        <translation>지오메트리가 없습니다</translation>
     </message>
     <message>
         <source>the import options leave nothing of it</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기 옵션에 따라 모두 제외되었습니다</translation>
     </message>
     <message>
         <source>the reader failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>읽기에 실패했습니다(%1)</translation>
     </message>
     <message>
         <source>there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>메모리가 부족합니다</translation>
     </message>
     <message>
         <source>in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 내부</translation>
     </message>
     <message>
         <source>The texture %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처를 찾을 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>The texture %1 is too large, with %2 by %3 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처가 너무 큽니다(%2x%3픽셀): %1.</translation>
     </message>
     <message>
         <source>The texture %1 cannot be read: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처를 읽을 수 없습니다: %1: %2.</translation>
     </message>
     <message>
         <source>A part without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 없는 부품</translation>
     </message>
 </context>
 <context>
     <name>olImportDialog</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>외 %n개</numerusform>
         </translation>
     </message>
     <message>
         <source>Center to Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>원점에 중심 맞추기</translation>
     </message>
     <message>
         <source>Place Objects on the Ground</source>
-        <translation type="unfinished"></translation>
+        <translation>개체를 지면에 놓기</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기</translation>
     </message>
     <message>
         <source>Edit &gt; Preferences &gt; FileIO decides over these, format by format.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 옵션은 편집 &gt; 환경 설정 &gt; 파일 입출력에서 형식별로 설정합니다.</translation>
     </message>
     <message>
         <source>Progress of the import</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기 진행률</translation>
     </message>
     <message>
         <source>Outcome of the import</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기 결과</translation>
     </message>
 </context>
 <context>
     <name>olImportSummary</name>
     <message>
         <source>%1: none</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 없음</translation>
     </message>
     <message>
         <source>%1: all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 모두</translation>
     </message>
     <message>
         <source>%1: visible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 보이는 것만</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>없음</translation>
     </message>
     <message>
         <source>the usual one</source>
-        <translation type="unfinished"></translation>
+        <translation>기본</translation>
     </message>
     <message>
         <source>chords within %1 mm, normals within %2°</source>
-        <translation type="unfinished"></translation>
+        <translation>현 편차 %1 mm 이내, 법선 %2° 이내</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>형식</translation>
     </message>
     <message>
         <source>Fineness</source>
-        <translation type="unfinished"></translation>
+        <translation>정밀도</translation>
     </message>
     <message>
         <source>Stitching</source>
-        <translation type="unfinished"></translation>
+        <translation>스티치</translation>
     </message>
     <message>
         <source>gaps up to %1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>틈 %1 mm까지</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>꺼짐</translation>
     </message>
     <message>
         <source>surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>곡면</translation>
     </message>
     <message>
         <source>curves</source>
-        <translation type="unfinished"></translation>
+        <translation>곡선</translation>
     </message>
     <message>
         <source>meshes</source>
-        <translation type="unfinished"></translation>
+        <translation>메시</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>종류</translation>
     </message>
     <message>
         <source>Tidied up</source>
-        <translation type="unfinished"></translation>
+        <translation>정리</translation>
     </message>
     <message>
         <source>meshes merged</source>
-        <translation type="unfinished"></translation>
+        <translation>메시 병합</translation>
     </message>
     <message>
         <source>empty groups removed</source>
-        <translation type="unfinished"></translation>
+        <translation>빈 그룹 제거</translation>
     </message>
     <message>
         <source>normals unified</source>
-        <translation type="unfinished"></translation>
+        <translation>법선 통일</translation>
     </message>
     <message>
         <source>Checks</source>
-        <translation type="unfinished"></translation>
+        <translation>검사</translation>
     </message>
     <message>
         <source>geometry verified</source>
-        <translation type="unfinished"></translation>
+        <translation>지오메트리 검증</translation>
     </message>
     <message>
         <source>faults repaired</source>
-        <translation type="unfinished"></translation>
+        <translation>오류 수정</translation>
     </message>
     <message>
         <source>Textures</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처</translation>
     </message>
     <message>
         <source>beside the model</source>
-        <translation type="unfinished"></translation>
+        <translation>모델과 같은 위치</translation>
     </message>
     <message>
         <source>beside the model, and in %1 directories</source>
-        <translation type="unfinished"></translation>
+        <translation>모델과 같은 위치 및 디렉터리 %1개</translation>
     </message>
 </context>
 <context>
@@ -528,252 +529,252 @@
     <message>
         <source>%1, %2</source>
         <comment>control, part of it</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>olJournalPanel</name>
     <message>
         <source>Host calls</source>
-        <translation type="unfinished"></translation>
+        <translation>호스트 호출</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>지우기(&amp;L)</translation>
     </message>
 </context>
 <context>
     <name>olJoystickLink</name>
     <message>
         <source>There is no joystick %1: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>조이스틱 %1이(가) 없습니다: %2: %3.</translation>
     </message>
     <message>
         <source>Joystick %1 is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>조이스틱 %1을(를) 사용 중입니다.</translation>
     </message>
     <message>
         <source>Joystick %1 has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>조이스틱 %1의 연결이 끊어졌습니다.</translation>
     </message>
 </context>
 <context>
     <name>olJsonObject</name>
     <message>
         <source>here or just before, this is no JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>이 위치 또는 바로 앞부분이 JSON이 아닙니다</translation>
     </message>
     <message>
         <source>an object is expected, as {&quot;key&quot;: {&quot;value&quot;: 1}}</source>
-        <translation type="unfinished"></translation>
+        <translation>{&quot;key&quot;: {&quot;value&quot;: 1}}과 같은 객체가 필요합니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands here a second time</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;이(가) 여기에 두 번째로 나옵니다</translation>
     </message>
 </context>
 <context>
     <name>olLibraryFault</name>
     <message>
         <source>it is no library</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브러리가 아닙니다</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>끝부분이 없습니다</translation>
     </message>
 </context>
 <context>
     <name>olMainWindow</name>
     <message>
         <source>ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO</translation>
     </message>
     <message>
         <source>Edit &gt; Preferences changes what you see here.</source>
-        <translation type="unfinished"></translation>
+        <translation>편집 &gt; 환경 설정에서 여기에 보이는 것을 변경할 수 있습니다.</translation>
     </message>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰에는 OpenGL을 지원하는 X 디스플레이 또는 XWayland가 필요합니다. 환경 설정은 없어도 작동합니다.</translation>
     </message>
     <message>
         <source>%1 frames/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1프레임/초</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>장면</translation>
     </message>
     <message>
         <source>Host State</source>
-        <translation type="unfinished"></translation>
+        <translation>호스트 상태</translation>
     </message>
     <message>
         <source>Host Calls</source>
-        <translation type="unfinished"></translation>
+        <translation>호스트 호출</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>보기(&amp;V)</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>보기</translation>
     </message>
     <message>
         <source>Show &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 표시(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Zoom To</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 항목 확대(&amp;Z)</translation>
     </message>
     <message>
         <source>Brings what is selected near</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 항목을 가까이 보여 줍니다</translation>
     </message>
     <message>
         <source>Stereo for &amp;Red and Cyan Glasses</source>
-        <translation type="unfinished"></translation>
+        <translation>적청 안경용 스테레오(&amp;R)</translation>
     </message>
     <message>
         <source>Trace Ra&amp;ys</source>
-        <translation type="unfinished"></translation>
+        <translation>레이 트레이싱(&amp;Y)</translation>
     </message>
     <message>
         <source>&amp;Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>모서리(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;New Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>새 장면(&amp;N)</translation>
     </message>
     <message>
         <source>Open the &amp;Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>샘플 열기(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>편집(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;About ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO 정보(&amp;A)</translation>
     </message>
 </context>
 <context>
     <name>olMessageLine</name>
     <message>
         <source>Close the message</source>
-        <translation type="unfinished"></translation>
+        <translation>메시지 닫기</translation>
     </message>
 </context>
 <context>
     <name>olModelFiles</name>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기(&amp;E)...</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기</translation>
     </message>
     <message>
         <source>%1 was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 읽었습니다.</translation>
     </message>
     <message>
         <source>ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO</translation>
     </message>
 </context>
 <context>
     <name>olModelFormat</name>
     <message>
         <source>files without a suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>확장자가 없는 파일</translation>
     </message>
     <message>
         <source>.%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>.%1 파일</translation>
     </message>
     <message>
         <source>Cannot read %1: there is no reader for %2. These can be read: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 읽을 수 없습니다: %2을 읽는 기능이 없습니다. 읽을 수 있는 형식: %3.</translation>
     </message>
     <message>
         <source>Cannot write %1: there is no writer for %2. These can be written: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 쓸 수 없습니다: %2을 쓰는 기능이 없습니다. 쓸 수 있는 형식: %3.</translation>
     </message>
     <message>
         <source>Models (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>모델 (%1)</translation>
     </message>
 </context>
 <context>
     <name>olModuleTree</name>
     <message>
         <source>Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈</translation>
     </message>
     <message>
         <source>Has changes that are not applied yet</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 적용되지 않은 변경 사항이 있습니다</translation>
     </message>
 </context>
 <context>
     <name>olNumberText</name>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>숫자</translation>
     </message>
     <message>
         <source>a number from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 이상의 숫자</translation>
     </message>
     <message>
         <source>a number up to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 이하의 숫자</translation>
     </message>
     <message>
         <source>a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 %2 사이의 숫자</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 %2 사이의 정수</translation>
     </message>
 </context>
 <context>
     <name>olOSGWidget</name>
     <message>
         <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one. Nothing is clipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>클리핑 평면 %1 및 %2은(는) 사용할 수 없습니다. 0보다 큰 두 숫자가 필요하며 원거리가 근거리보다 커야 합니다. 클리핑하지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -781,1690 +782,1690 @@
     <message>
         <source>%1 set %2 to %3.</source>
         <comment>program, setting and value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) %2을(를) %3(으)로 설정했습니다.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램</translation>
     </message>
     <message>
         <source>%1 more settings were changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 %1개가 더 변경되었습니다.</translation>
     </message>
     <message>
         <source>Your change to %1 is pending.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(으)로 변경한 내용이 보류 중입니다.</translation>
     </message>
     <message>
         <source>&amp;Use %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 사용(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Keep %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 유지(&amp;K)</translation>
     </message>
 </context>
 <context>
     <name>olPageIndex</name>
     <message>
         <source>%1 controls answer to &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%2&quot;에 해당하는 컨트롤이 %1개 있습니다: %3</translation>
     </message>
     <message>
         <source>there is no control &quot;%1&quot;; there is: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>컨트롤 &quot;%1&quot;이(가) 없습니다. 사용 가능: %2</translation>
     </message>
 </context>
 <context>
     <name>olPluginLoader</name>
     <message>
         <source>Cannot load the preferences plug-in: there is neither %1 nor %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 플러그인을 불러올 수 없습니다: %1도 %2도 없습니다.</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 없습니다</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 아닙니다</translation>
     </message>
     <message>
         <source>it has no entry function %1</source>
-        <translation type="unfinished"></translation>
+        <translation>진입 함수 %1이(가) 없습니다</translation>
     </message>
     <message>
         <source>a module could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈을 만들 수 없습니다: %1</translation>
     </message>
     <message>
         <source>a module could not be built, and does not say why</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈을 만들 수 없으며 이유를 알 수 없습니다</translation>
     </message>
     <message>
         <source>Cannot load the preferences plug-in %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 플러그인 %1을(를) 불러올 수 없습니다: %2.</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesDialog</name>
     <message>
         <source>No Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 없음</translation>
     </message>
     <message>
         <source>1 Chan&amp;ge...</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 1개(&amp;G)...</translation>
     </message>
     <message>
         <source>%1 Chan&amp;ges...</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 %1개(&amp;G)...</translation>
     </message>
     <message>
         <source>Changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>변경된 항목만</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>더 보기</translation>
     </message>
     <message>
         <source>Restore &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지 복원(&amp;P)</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>검색</translation>
     </message>
     <message>
         <source>Search all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정 검색</translation>
     </message>
     <message>
         <source>Finds settings by label, group, tooltip, choice and key (Ctrl+F).</source>
-        <translation type="unfinished"></translation>
+        <translation>레이블, 그룹, 도구 설명, 선택 항목 및 키로 설정을 찾습니다(Ctrl+F).</translation>
     </message>
     <message>
         <source>Lists the settings that differ from their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값과 다른 설정을 나열합니다.</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내기(&amp;E)...</translation>
     </message>
     <message>
         <source>Apply Profile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 %1 적용</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>적용(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;History...</source>
-        <translation type="unfinished"></translation>
+        <translation>기록(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 기본값 복원(&amp;R)</translation>
     </message>
     <message>
         <source>Shows the defaults of this page. Nothing changes before OK or Apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 페이지의 기본값을 표시합니다. 확인 또는 적용을 누르기 전에는 아무것도 변경되지 않습니다.</translation>
     </message>
     <message>
         <source>Lists what OK and Apply will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>확인 및 적용으로 변경될 내용을 나열합니다.</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>확인(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소(&amp;C)</translation>
     </message>
     <message>
         <source>%1 is locked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 잠겨 있습니다: %2</translation>
     </message>
     <message>
         <source>&amp;Stay</source>
-        <translation type="unfinished"></translation>
+        <translation>머무르기(&amp;S)</translation>
     </message>
     <message>
         <source>This change is not applied yet and would be lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 변경은 아직 적용되지 않았으며 없어집니다:</translation>
     </message>
     <message>
         <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 변경 %1개는 아직 적용되지 않았으며 없어집니다:</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>외 %1개</translation>
     </message>
     <message>
         <source>All settings have their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정이 기본값입니다.</translation>
     </message>
     <message>
         <source>All pages show their defaults. OK or Apply makes them count, Cancel takes them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 페이지에 기본값이 표시됩니다. 확인 또는 적용을 누르면 적용되고 취소를 누르면 되돌립니다.</translation>
     </message>
     <message>
         <source>%1 Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>잠김 %1개</translation>
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>잠김</translation>
     </message>
     <message>
         <source>pending</source>
-        <translation type="unfinished"></translation>
+        <translation>보류 중</translation>
     </message>
     <message>
         <source>yours</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자</translation>
     </message>
     <message>
         <source>the site&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>사이트</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
-        <translation type="unfinished"></translation>
+        <translation>모든 설정이 기본값입니다.</translation>
     </message>
     <message>
         <source>Nothing matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;와(과) 일치하는 항목이 없습니다.</translation>
     </message>
     <message>
         <source>1 Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 1개</translation>
     </message>
     <message>
         <source>%1 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 %1개</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>module and setting</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>edited</source>
-        <translation type="unfinished"></translation>
+        <translation>편집됨</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>변경 사항</translation>
     </message>
     <message>
         <source>Import Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 가져오기</translation>
     </message>
     <message>
         <source>Preferences (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 (*.json);;모든 파일 (*)</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기(&amp;I)</translation>
     </message>
     <message>
         <source>Nothing would change.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경될 내용이 없습니다.</translation>
     </message>
     <message>
         <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 설정의 값이 바뀝니다. 확인 또는 적용을 누를 때까지 보류됩니다.</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>돌아가기</translation>
     </message>
     <message>
         <source>&amp;Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>돌아가기(&amp;G)</translation>
     </message>
     <message>
         <source>Export Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 내보내기</translation>
     </message>
     <message>
         <source>preferences.json</source>
-        <translation type="unfinished"></translation>
+        <translation>preferences.json</translation>
     </message>
     <message>
         <source>The preferences were written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정을 %1에 저장했습니다.</translation>
     </message>
     <message>
         <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>보류 중인 변경을 제외하고 현재 적용된 환경 설정을 %1에 저장했습니다.</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesFile</name>
     <message>
         <source>It is no file of preferences: it names no format.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 파일이 아닙니다: 형식이 지정되어 있지 않습니다.</translation>
     </message>
     <message>
         <source>It is no file of preferences: its format is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 파일이 아닙니다: 알 수 없는 형식입니다.</translation>
     </message>
     <message>
         <source>It was written by a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>더 새로운 버전에서 저장한 파일입니다.</translation>
     </message>
     <message>
         <source>has no type or no value</source>
-        <translation type="unfinished"></translation>
+        <translation>유형 또는 값이 없습니다</translation>
     </message>
     <message>
         <source>is of the unknown type &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>유형 &quot;%1&quot;을(를) 알 수 없습니다</translation>
     </message>
     <message>
         <source>is not %1, as its type %2 asks for</source>
-        <translation type="unfinished"></translation>
+        <translation>유형 %2에 필요한 값이 아닙니다. 필요한 값: %1</translation>
     </message>
     <message>
         <source>Line %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>줄 %1: %2.</translation>
     </message>
     <message>
         <source>It lists no settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정이 하나도 없습니다.</translation>
     </message>
     <message>
         <source>Cannot write the preferences to %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정을 %1에 쓸 수 없습니다: %2.</translation>
     </message>
     <message>
         <source>Cannot read the preferences from %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 환경 설정을 읽을 수 없습니다: %2.</translation>
     </message>
     <message>
         <source>Cannot import %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 가져올 수 없습니다. %2</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesSession</name>
     <message>
         <source> All settings of this run were then saved into it.</source>
-        <translation type="unfinished"></translation>
+        <translation> 그런 다음 이번 실행의 모든 설정을 이 파일에 저장했습니다.</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1 were changed. That counts from the next start of the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>사이트 환경 설정 %1이(가) 변경되었습니다. 프로그램을 다음에 시작할 때부터 적용됩니다.</translation>
     </message>
     <message>
         <source>is locked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>잠겨 있습니다: %1</translation>
     </message>
     <message>
         <source>is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 설정입니다</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
     <message>
         <source>Cannot read the preferences %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 %1을(를) 읽을 수 없습니다: %2.</translation>
     </message>
     <message>
         <source> Use that version. If there is none, the file is damaged: move it away to start with defaults</source>
-        <translation type="unfinished"></translation>
+        <translation> 해당 버전을 사용하십시오. 그런 버전이 없다면 파일이 손상된 것입니다. 기본값으로 시작하려면 파일을 다른 곳으로 옮기십시오</translation>
     </message>
     <message>
         <source>, or rename its copy %1 to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>(또는 백업 %1의 이름을 이 파일의 이름으로 바꾸십시오).</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 파일 %1이(가) 손상되었습니다: %2. %3</translation>
     </message>
     <message>
         <source>The copy of %1 was loaded; what was changed after that is not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 백업을 불러왔습니다. 그 이후에 변경한 내용은 들어 있지 않습니다.</translation>
     </message>
     <message>
         <source>There is no copy of it yet, so all settings are at their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>아직 백업이 없으므로 모든 설정이 기본값입니다.</translation>
     </message>
     <message>
         <source>Its copy cannot be read either (%1), so all settings are at their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>백업도 읽을 수 없으므로(%1) 모든 설정이 기본값입니다.</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2. </source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 파일 %1이(가) 손상되었습니다: %2. </translation>
     </message>
     <message>
         <source>its folder is read-only, or another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더가 읽기 전용이거나 다른 프로그램이 사용 중입니다</translation>
     </message>
     <message>
         <source>It is now kept as %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일은 이제 %1(으)로 보관됩니다. </translation>
     </message>
     <message>
         <source>It could not be set aside: %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일을 따로 보관할 수 없습니다: %1. </translation>
     </message>
     <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정을 %1에 저장할 수 없습니다: %2. 이전에 들어 있던 내용은 그대로입니다.</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
 </context>
 <context>
     <name>olProfiles</name>
     <message>
         <source>&quot;%1&quot; is no name for a profile: it must not be empty, have a slash in it or begin with a dot.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) 프로필 이름으로 사용할 수 없습니다. 비어 있거나 슬래시를 포함하거나 점으로 시작하면 안 됩니다.</translation>
     </message>
     <message>
         <source>There is no profile &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 &quot;%1&quot;이(가) 없습니다.</translation>
     </message>
     <message>
         <source>Cannot make the folder %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더 %1을(를) 만들 수 없습니다.</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; is the site&apos;s and cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 &quot;%1&quot;은(는) 사이트의 프로필이므로 삭제할 수 없습니다.</translation>
     </message>
     <message>
         <source>Cannot delete the profile %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 %1을(를) 삭제할 수 없습니다: %2.</translation>
     </message>
 </context>
 <context>
     <name>olProfilesMenu</name>
     <message>
         <source>&amp;Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>삭제(&amp;D)</translation>
     </message>
     <message>
         <source>%1 (site)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (사이트)</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 이름으로 저장(&amp;S)...</translation>
     </message>
     <message>
         <source>Save Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 저장</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>이름(&amp;N):</translation>
     </message>
     <message>
         <source>The settings in force were saved as profile &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>현재 적용된 설정을 프로필 &quot;%1&quot;(으)로 저장했습니다.</translation>
     </message>
     <message>
         <source>There is a profile &quot;%1&quot; already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 &quot;%1&quot;이(가) 이미 있습니다. 바꾸시겠습니까?</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 삭제</translation>
     </message>
     <message>
         <source>Delete the profile &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 &quot;%1&quot;을(를) 삭제하시겠습니까?</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로필 &quot;%1&quot;을(를) 삭제했습니다.</translation>
     </message>
 </context>
 <context>
     <name>olReason</name>
     <message>
         <source>this is no 3MF file</source>
-        <translation type="unfinished"></translation>
+        <translation>3MF 파일이 아닙니다</translation>
     </message>
     <message>
         <source>this is no COLLADA file</source>
-        <translation type="unfinished"></translation>
+        <translation>COLLADA 파일이 아닙니다</translation>
     </message>
     <message>
         <source>the file is cut off or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 잘렸거나 손상되었습니다</translation>
     </message>
     <message>
         <source>the file is damaged or of another format</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었거나 다른 형식입니다</translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>임시 디렉터리에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>the file %1 that it refers to cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>참조하는 파일 %1을(를) 읽을 수 없습니다</translation>
     </message>
     <message>
         <source>the file %1 that it refers to is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>참조하는 파일 %1이(가) 잘렸습니다</translation>
     </message>
     <message>
         <source>it requires the extension %1, which is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>지원되지 않는 확장 %1이(가) 필요합니다</translation>
     </message>
     <message>
         <source>the file is damaged: a node refers to one that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 노드가 존재하지 않는 노드를 참조합니다</translation>
     </message>
     <message>
         <source>its groups are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>그룹이 너무 깊이 중첩되어 있습니다</translation>
     </message>
     <message>
         <source>the file is damaged: a part of it lies beyond its end</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 일부가 파일 끝을 벗어나 있습니다</translation>
     </message>
     <message>
         <source>the file is damaged: it announces more than it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 실제로 들어 있는 것보다 많은 내용이 있다고 되어 있습니다</translation>
     </message>
     <message>
         <source>this is no glTF file</source>
-        <translation type="unfinished"></translation>
+        <translation>glTF 파일이 아닙니다</translation>
     </message>
     <message>
         <source>this is no IGES file</source>
-        <translation type="unfinished"></translation>
+        <translation>IGES 파일이 아닙니다</translation>
     </message>
     <message>
         <source>the file is damaged in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>파일의 줄 %1이(가) 손상되었습니다</translation>
     </message>
     <message>
         <source>its content cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>내용을 가져올 수 없습니다</translation>
     </message>
     <message>
         <source>a point lacks a coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>점에 좌표가 빠져 있습니다</translation>
     </message>
     <message>
         <source>a face has fewer than three corners</source>
-        <translation type="unfinished"></translation>
+        <translation>면의 꼭짓점이 세 개보다 적습니다</translation>
     </message>
     <message>
         <source>a face refers to a point that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>면이 존재하지 않는 점을 참조합니다</translation>
     </message>
     <message>
         <source>this is no OBJ file</source>
-        <translation type="unfinished"></translation>
+        <translation>OBJ 파일이 아닙니다</translation>
     </message>
     <message>
         <source>the file is cut off or damaged: in line %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 잘렸거나 손상되었습니다: 줄 %1: %2</translation>
     </message>
     <message>
         <source>the file is cut off or damaged: it ends within its points</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 잘렸거나 손상되었습니다: 점 데이터 도중에 끝납니다</translation>
     </message>
     <message>
         <source>The model ends with points that no face uses; the file may be cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>모델이 어떤 면에서도 쓰이지 않는 점으로 끝납니다. 파일이 잘렸을 수 있습니다.</translation>
     </message>
     <message>
         <source>The materials file %1 is not there; the model has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>재질 파일 %1이(가) 없어 모델에 색상이 없습니다.</translation>
     </message>
     <message>
         <source>this is no OFF file</source>
-        <translation type="unfinished"></translation>
+        <translation>OFF 파일이 아닙니다</translation>
     </message>
     <message>
         <source>this is no PLY file</source>
-        <translation type="unfinished"></translation>
+        <translation>PLY 파일이 아닙니다</translation>
     </message>
     <message>
         <source>the file is damaged: #%1 refers to #%2, which is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: #%1이(가) 존재하지 않는 #%2을(를) 참조합니다</translation>
     </message>
     <message>
         <source>the file is damaged: its parentheses are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 괄호가 너무 깊이 중첩되어 있습니다</translation>
     </message>
     <message>
         <source>this is no STEP file</source>
-        <translation type="unfinished"></translation>
+        <translation>STEP 파일이 아닙니다</translation>
     </message>
     <message>
         <source>%1 bytes behind its end were passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 끝 뒤의 %1바이트를 건너뛰었습니다.</translation>
     </message>
     <message>
         <source>this is no STL file</source>
-        <translation type="unfinished"></translation>
+        <translation>STL 파일이 아닙니다</translation>
     </message>
     <message>
         <source>%1 of its numbers are words, which count as 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>숫자 중 %1개가 단어여서 0으로 처리합니다.</translation>
     </message>
     <message>
         <source>The solid %1 is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>솔리드 %1이(가) 비어 있습니다.</translation>
     </message>
     <message>
         <source>there is no geometry in it</source>
-        <translation type="unfinished"></translation>
+        <translation>지오메트리가 없습니다</translation>
     </message>
     <message>
         <source>this is no VRML file</source>
-        <translation type="unfinished"></translation>
+        <translation>VRML 파일이 아닙니다</translation>
     </message>
     <message>
         <source>the file is damaged (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다(%1)</translation>
     </message>
     <message>
         <source>the file is damaged: line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 줄 %1을(를) 해석할 수 없습니다(%2)</translation>
     </message>
     <message>
         <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>도형 중 %1개가 선, 점 또는 텍스트이므로 제외합니다.</translation>
     </message>
     <message>
         <source>a group in it holds itself</source>
-        <translation type="unfinished"></translation>
+        <translation>그룹이 자기 자신을 포함합니다</translation>
     </message>
     <message>
         <source>the file is damaged: a face refers to a point that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었습니다: 면이 존재하지 않는 점을 참조합니다</translation>
     </message>
     <message>
         <source>The file %1 that it refers to was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>참조하는 파일 %1을(를) 찾을 수 없습니다.</translation>
     </message>
     <message>
         <source>it refers to itself through %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 통해 자기 자신을 참조합니다</translation>
     </message>
     <message>
         <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>메시 중 %1개가 선 또는 점이므로 제외합니다.</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 없습니다</translation>
     </message>
     <message>
         <source>this is no file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 아닙니다</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 비어 있습니다</translation>
     </message>
     <message>
         <source>the file is too large for this machine: %1 GB with %2 GB of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 이 컴퓨터에 비해 너무 큽니다: 파일 %1 GB, 메모리 %2 GB</translation>
     </message>
     <message>
         <source>the file is too large: %1 GB, of which 2 can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 너무 큽니다: %1 GB 중 2 GB까지 읽을 수 있습니다</translation>
     </message>
 </context>
 <context>
     <name>olRgbFields</name>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>빨강</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>초록</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>파랑</translation>
     </message>
     <message>
         <source>R</source>
         <comment>red</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>G</source>
         <comment>green</comment>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>B</source>
         <comment>blue</comment>
-        <translation type="unfinished"></translation>
+        <translation>B</translation>
     </message>
 </context>
 <context>
     <name>olSandbox</name>
     <message>
         <source>The system has no Landlock; models are read without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템에 Landlock이 없어 Landlock 없이 모델을 읽습니다.</translation>
     </message>
     <message>
         <source>The system takes no seccomp filter; models are read without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템이 seccomp 필터를 허용하지 않아 필터 없이 모델을 읽습니다.</translation>
     </message>
 </context>
 <context>
     <name>olSceneLoaders</name>
     <message>
         <source>OpenSG could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenSG를 시작할 수 없습니다.</translation>
     </message>
     <message>
         <source>OpenSG has no loader for %1; options for it are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenSG에 %1 로더가 없어 해당 옵션을 보관하지 않습니다.</translation>
     </message>
 </context>
 <context>
     <name>olSceneTree</name>
     <message>
         <source>Level %1</source>
-        <translation type="unfinished"></translation>
+        <translation>수준 %1</translation>
     </message>
     <message>
         <source>Unnamed group</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 없는 그룹</translation>
     </message>
     <message>
         <source>Unnamed part</source>
-        <translation type="unfinished"></translation>
+        <translation>이름 없는 부품</translation>
     </message>
     <message>
         <source>Triangles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>삼각형: %1</translation>
     </message>
     <message>
         <source>Colour: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>색상: %1</translation>
     </message>
     <message>
         <source>Opacity: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>불투명도: %1%</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>장면</translation>
     </message>
     <message>
         <source>Nothing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>열려 있는 모델이 없습니다.</translation>
     </message>
 </context>
 <context>
     <name>olSceneView</name>
     <message>
         <source>The 3D view needs an X display.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰에는 X 디스플레이가 필요합니다.</translation>
     </message>
     <message>
         <source>The OpenGL context of this display cannot be used for the 3D view.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 디스플레이의 OpenGL 컨텍스트는 3D 뷰에 사용할 수 없습니다.</translation>
     </message>
 </context>
 <context>
     <name>olSettingDescription</name>
     <message>
         <source>one of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 중 하나</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 %1자</translation>
     </message>
     <message>
         <source>three numbers from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 %2 사이의 숫자 3개</translation>
     </message>
     <message>
         <source>is of the type %1, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>유형이 %2이(가) 아니라 %1입니다</translation>
     </message>
     <message>
         <source>cannot be %1: expected %2</source>
-        <translation type="unfinished"></translation>
+        <translation>값 %1은(는) 사용할 수 없습니다. 필요한 값: %2</translation>
     </message>
 </context>
 <context>
     <name>olSettingMarks</name>
     <message>
         <source>Differs from its default.</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값과 다릅니다.</translation>
     </message>
     <message>
         <source>Differs from its default. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값과 다릅니다. %1</translation>
     </message>
 </context>
 <context>
     <name>olSettingMenu</name>
     <message>
         <source>Set by the site, and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>사이트에서 설정하고 잠금</translation>
     </message>
     <message>
         <source>Changed, not applied yet</source>
-        <translation type="unfinished"></translation>
+        <translation>변경됨, 아직 적용되지 않음</translation>
     </message>
     <message>
         <source>Set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>사용자가 설정</translation>
     </message>
     <message>
         <source>Set by the site</source>
-        <translation type="unfinished"></translation>
+        <translation>사이트에서 설정</translation>
     </message>
     <message>
         <source>The default</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished"></translation>
+        <translation>다음 가져오기에 적용됩니다</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>다음에 시작할 때 적용됩니다</translation>
     </message>
     <message>
         <source>Is only recorded by this host</source>
-        <translation type="unfinished"></translation>
+        <translation>이 호스트에서는 기록만 합니다</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>되돌리기(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Reset to Default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값(%1)으로 재설정(&amp;R)</translation>
     </message>
     <message>
         <source>Copy &amp;Key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>키 &quot;%1&quot; 복사(&amp;K)</translation>
     </message>
     <message>
         <source>Copy as &amp;JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON으로 복사(&amp;J)</translation>
     </message>
     <message>
         <source>&amp;Why Is This Locked?</source>
-        <translation type="unfinished"></translation>
+        <translation>잠긴 이유(&amp;W)</translation>
     </message>
 </context>
 <context>
     <name>olSettingsLock</name>
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 파일 %1이(가) 사용 중입니다: %2(프로세스 %3)이(가) 파일을 잠갔습니다. 이 파일에 저장할 내용은 잠금이 풀릴 때까지 기다립니다.</translation>
     </message>
 </context>
 <context>
     <name>olSiteDefaults</name>
     <message>
         <source>it cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>읽을 수 없습니다: %1</translation>
     </message>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>일반 파일이 아닙니다</translation>
     </message>
     <message>
         <source>only root may own and write the file and its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>파일과 폴더는 root만 소유하고 쓸 수 있어야 합니다</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>줄 %1: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has neither a &quot;value&quot; nor a lock</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;에 &quot;value&quot;도 잠금도 없습니다</translation>
     </message>
     <message>
         <source>takes true or false for &quot;locked&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>항목 &quot;locked&quot;에는 true 또는 false가 필요합니다</translation>
     </message>
     <message>
         <source>takes a text for &quot;reason&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>항목 &quot;reason&quot;에는 텍스트가 필요합니다</translation>
     </message>
     <message>
         <source>has &quot;%1&quot;, where only &quot;value&quot;, &quot;locked&quot; and &quot;reason&quot; can stand</source>
-        <translation type="unfinished"></translation>
+        <translation>항목 &quot;%1&quot;이(가) 있으나 &quot;value&quot;, &quot;locked&quot;, &quot;reason&quot;만 쓸 수 있습니다</translation>
     </message>
     <message>
         <source>This setting is fixed for your site.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 설정은 사이트에서 고정했습니다.</translation>
     </message>
     <message>
         <source>%1, line %2: no module has a setting &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, 줄 %2: 설정 &quot;%3&quot;이(가) 있는 모듈이 없습니다.</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1 are ignored: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>사이트 환경 설정 %1을(를) 무시합니다: %2.</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1, line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>사이트 환경 설정 %1, 줄 %2: %3.</translation>
     </message>
 </context>
 <context>
     <name>olSpacemouseLink</name>
     <message>
         <source>Cannot look for a 3D mouse: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 마우스를 찾을 수 없습니다: %1</translation>
     </message>
     <message>
         <source>There is no 3D mouse: its daemon, spacenavd, is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 마우스가 없습니다: 데몬 spacenavd가 실행 중이 아닙니다.</translation>
     </message>
     <message>
         <source>Connected to the daemon of the 3D mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 마우스 데몬에 연결했습니다.</translation>
     </message>
     <message>
         <source>The daemon of the 3D mouse has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 마우스 데몬과의 연결이 끊어졌습니다.</translation>
     </message>
 </context>
 <context>
     <name>olSqlite</name>
     <message>
         <source>no space left on the device</source>
-        <translation type="unfinished"></translation>
+        <translation>장치에 남은 공간이 없습니다</translation>
     </message>
     <message>
         <source>its file system refuses locks</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 시스템에서 잠금을 지원하지 않습니다</translation>
     </message>
     <message>
         <source>another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램이 사용 중입니다</translation>
     </message>
     <message>
         <source>it or its folder is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 또는 폴더가 읽기 전용입니다</translation>
     </message>
     <message>
         <source>it cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>열 수 없습니다</translation>
     </message>
     <message>
         <source>input or output failed</source>
-        <translation type="unfinished"></translation>
+        <translation>입력 또는 출력에 실패했습니다</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>구조가 깨졌습니다</translation>
     </message>
     <message>
         <source>its content is no database</source>
-        <translation type="unfinished"></translation>
+        <translation>내용이 데이터베이스가 아닙니다</translation>
     </message>
     <message>
         <source>a row is not what it was</source>
-        <translation type="unfinished"></translation>
+        <translation>행이 원래와 다릅니다</translation>
     </message>
 </context>
 <context>
     <name>olStartFault</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정</translation>
     </message>
     <message>
         <source>The preferences cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정을 불러올 수 없습니다.</translation>
     </message>
     <message>
         <source>The file is left as it is. With the defaults nothing of this run is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일은 그대로 둡니다. 기본값을 사용하면 이번 실행의 내용은 저장되지 않습니다.</translation>
     </message>
     <message>
         <source>Another &amp;Store...</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 저장 파일(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Defaults for This Run</source>
-        <translation type="unfinished"></translation>
+        <translation>이번 실행에 기본값 사용(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>Another Store</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 저장 파일</translation>
     </message>
     <message>
         <source>Preferences (*.db);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 (*.db);;모든 파일 (*)</translation>
     </message>
     <message>
         <source>The plug-in with the preferences cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 플러그인을 불러올 수 없습니다.</translation>
     </message>
     <message>
         <source>Another &amp;Plug-In...</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 플러그인(&amp;P)...</translation>
     </message>
     <message>
         <source>Another Plug-In</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 플러그인</translation>
     </message>
     <message>
         <source>Plug-ins (*.so);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>플러그인 (*.so);;모든 파일 (*)</translation>
     </message>
 </context>
 <context>
     <name>olStoreFile</name>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
     </message>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>일반 파일이 아닙니다</translation>
     </message>
     <message>
         <source>another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램이 사용 중입니다</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>아무것도 들어 있지 않습니다</translation>
     </message>
     <message>
         <source>it is no preferences file</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정 파일이 아닙니다</translation>
     </message>
     <message>
         <source>it is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 없어졌습니다</translation>
     </message>
     <message>
         <source>its folder cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더를 만들 수 없습니다</translation>
     </message>
     <message>
         <source>it is another program&apos;s database</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램의 데이터베이스입니다</translation>
     </message>
     <message>
         <source>it was written by a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>더 새로운 버전에서 저장한 파일입니다</translation>
     </message>
     <message>
         <source>its format is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 형식입니다</translation>
     </message>
     <message>
         <source>its header is not what it was</source>
-        <translation type="unfinished"></translation>
+        <translation>헤더가 원래와 다릅니다</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation type="unfinished"></translation>
+        <translation>테이블이 원래와 다릅니다</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>구조가 깨졌습니다</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>행이 변경되었거나 빠졌습니다</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>기록이 변경되었습니다</translation>
     </message>
 </context>
 <context>
     <name>olTesselationSettings</name>
     <message>
         <source>T&amp;essellation</source>
-        <translation type="unfinished"></translation>
+        <translation>테셀레이션(&amp;E)</translation>
     </message>
     <message>
         <source>Chord &amp;Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>현 편차(&amp;D)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>&amp;Normal Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>법선 공차(&amp;N)</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Ma&amp;x Chord Length</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 현 길이(&amp;X)</translation>
     </message>
     <message>
         <source>&amp;Stitching</source>
-        <translation type="unfinished"></translation>
+        <translation>스티치(&amp;S)</translation>
     </message>
     <message>
         <source>St&amp;itching Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>스티치 공차(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>품질(&amp;Q)</translation>
     </message>
     <message>
         <source>Sets chord deviation, normal tolerance and max chord length together.</source>
-        <translation type="unfinished"></translation>
+        <translation>현 편차, 법선 공차 및 최대 현 길이를 함께 설정합니다.</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>품질</translation>
     </message>
 </context>
 <context>
     <name>olToolError</name>
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) UTF-8이 아닙니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is locked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;이(가) 잠겨 있습니다: %2</translation>
     </message>
     <message>
         <source>Cannot check %1: there is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 검사할 수 없습니다: 파일이 없습니다.</translation>
     </message>
     <message>
         <source>%1 cannot be entered: expected %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 입력할 수 없습니다. 필요한 값: %2</translation>
     </message>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>true 또는 false</translation>
     </message>
     <message>
         <source>a text or a number</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트 또는 숫자</translation>
     </message>
     <message>
         <source>a button is not edited but pressed, by click</source>
-        <translation type="unfinished"></translation>
+        <translation>버튼은 편집하지 않고 click으로 누릅니다</translation>
     </message>
     <message>
         <source>true, as another one must be chosen instead</source>
-        <translation type="unfinished"></translation>
+        <translation>true(끄려면 다른 항목을 선택해야 함)</translation>
     </message>
     <message>
         <source>an item by its number or its text: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>항목의 번호 또는 텍스트: %1</translation>
     </message>
     <message>
         <source>the item &quot;%1&quot; is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>항목 &quot;%1&quot;은(는) 사용할 수 없는 상태입니다</translation>
     </message>
     <message>
         <source>the field is only to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>필드는 읽기 전용입니다</translation>
     </message>
     <message>
         <source>what the field&apos;s validator lets through</source>
-        <translation type="unfinished"></translation>
+        <translation>필드의 검사기를 통과하는 값</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>최대 %1자</translation>
     </message>
     <message>
         <source>%1 with at most %2 decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>%1(소수점 이하 최대 %2자리)</translation>
     </message>
     <message>
         <source>three numbers from 0 to 1, as [1, 0.5, 0]</source>
-        <translation type="unfinished"></translation>
+        <translation>[1, 0.5, 0]과 같은 0에서 1 사이의 숫자 3개</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>큰따옴표로 묶은 텍스트</translation>
     </message>
     <message>
         <source>the text is only to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트는 읽기 전용입니다</translation>
     </message>
     <message>
         <source>a table or tree is not edited; select in it and press its buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>테이블이나 트리는 편집하지 않습니다. 항목을 선택하고 버튼을 누르십시오</translation>
     </message>
     <message>
         <source>a control of its kind is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 종류의 컨트롤입니다</translation>
     </message>
     <message>
         <source>it is neither a table nor a tree</source>
-        <translation type="unfinished"></translation>
+        <translation>테이블도 트리도 아닙니다</translation>
     </message>
     <message>
         <source>nothing can be selected in it</source>
-        <translation type="unfinished"></translation>
+        <translation>선택할 수 있는 것이 없습니다</translation>
     </message>
     <message>
         <source>it is no button</source>
-        <translation type="unfinished"></translation>
+        <translation>버튼이 아닙니다</translation>
     </message>
     <message>
         <source>there is no row %1: it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>행 %1이(가) 없습니다. 전체: %2</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>행 1개</translation>
     </message>
     <message>
         <source>%1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>행 %1개</translation>
     </message>
     <message>
         <source>there is no column %1: it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>열 %1이(가) 없습니다. 전체: %2</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>열 1개</translation>
     </message>
     <message>
         <source>%1 columns</source>
-        <translation type="unfinished"></translation>
+        <translation>열 %1개</translation>
     </message>
     <message>
         <source>Cannot read the standard input: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 입력을 읽을 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>Cannot import the standard input. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>표준 입력을 가져올 수 없습니다. %1</translation>
     </message>
     <message>
         <source>skipped: &quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>건너뜀: &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>there is no module &quot;%1&quot;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈 &quot;%1&quot;이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>%1 saves cannot be taken back: there are only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>저장 %1건을 되돌릴 수 없습니다. 전체: %2건</translation>
     </message>
     <message>
         <source>left: &quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>그대로 둠: &quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>Some settings were left as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>일부 설정은 그대로 두었습니다.</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 &quot;%1&quot;이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>the button &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>버튼 &quot;%1&quot;</translation>
     </message>
     <message>
         <source>a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>디렉터리</translation>
     </message>
     <message>
         <source>a colour</source>
-        <translation type="unfinished"></translation>
+        <translation>색상</translation>
     </message>
     <message>
         <source>%1 opened, but the answer queued for it is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 열렸지만 준비된 응답은 %2입니다</translation>
     </message>
     <message>
         <source>the box &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>메시지 상자 &quot;%1&quot;</translation>
     </message>
     <message>
         <source>the box &quot;%1&quot; has no button &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>메시지 상자 &quot;%1&quot;에 버튼 &quot;%2&quot;이(가) 없습니다. 있는 버튼: %3</translation>
     </message>
     <message>
         <source>a colour dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>색상 대화 상자</translation>
     </message>
     <message>
         <source>the directory chooser &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>디렉터리 선택기 &quot;%1&quot;</translation>
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>. 혹시 &quot;%1&quot;입니까?</translation>
     </message>
     <message>
         <source>a command is missing: %1; see --help</source>
-        <translation type="unfinished"></translation>
+        <translation>명령이 없습니다: %1. --help를 참조하십시오</translation>
     </message>
     <message>
         <source>%1 or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 또는 %2</translation>
     </message>
     <message>
         <source>there is no command %1, only %2; see --help</source>
-        <translation type="unfinished"></translation>
+        <translation>명령 %1이(가) 없습니다. 사용 가능: %2. --help를 참조하십시오</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 및 %2</translation>
     </message>
     <message>
         <source>essentials, design, professional or enterprise</source>
-        <translation type="unfinished"></translation>
+        <translation>essentials, design, professional 또는 enterprise</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에는 값이 필요합니다</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에는 값을 지정할 수 없습니다</translation>
     </message>
     <message>
         <source>there is no edition %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>에디션 %1이(가) 없습니다. 사용 가능: %2</translation>
     </message>
     <message>
         <source>there is no option %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>옵션 %1이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>usage: orlo-prefs [OPTIONS] %1</source>
-        <translation type="unfinished"></translation>
+        <translation>사용법: orlo-prefs [OPTIONS] %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is only set with --yes: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) --yes가 있어야만 설정됩니다: %2</translation>
     </message>
     <message>
         <source>Cannot write the output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>출력을 쓸 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>Cannot make a directory for scratch settings: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>임시 설정용 디렉터리를 만들 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>Cannot read the script %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>스크립트 %1을(를) 읽을 수 없습니다: %2.</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 빠졌습니다</translation>
     </message>
     <message>
         <source>a quote stands within the word %1</source>
-        <translation type="unfinished"></translation>
+        <translation>단어 %1 안에 따옴표가 있습니다</translation>
     </message>
     <message>
         <source>a quote is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>따옴표가 닫히지 않았습니다</translation>
     </message>
     <message>
         <source>a blank is missing behind &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; 뒤에 공백이 빠졌습니다</translation>
     </message>
     <message>
         <source>VALUE is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>VALUE가 빠졌습니다</translation>
     </message>
     <message>
         <source>%1 is no JSON value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) JSON 값이 아닙니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too much</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) 불필요한 내용입니다</translation>
     </message>
     <message>
         <source>%1; usage: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. 사용법: %2</translation>
     </message>
     <message>
         <source>there is no type %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>유형 %1이(가) 없습니다. 사용 가능: %2</translation>
     </message>
     <message>
         <source>%1 is no value of type %2: expected %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 유형 %2의 값이 아닙니다. 필요한 값: %3</translation>
     </message>
     <message>
         <source>%1 is no number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 0부터 세는 번호가 아닙니다</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>줄 %1: %2</translation>
     </message>
     <message>
         <source>there is no command %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>명령 %1이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>behind the module only keep may follow</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈 뒤에는 keep만 올 수 있습니다</translation>
     </message>
     <message>
         <source>%1 is neither put nor get</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) put도 get도 아닙니다</translation>
     </message>
     <message>
         <source>no column goes with none</source>
-        <translation type="unfinished"></translation>
+        <translation>none에는 열을 지정할 수 없습니다</translation>
     </message>
     <message>
         <source>%1 is no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 색상이 아닙니다</translation>
     </message>
     <message>
         <source>there is no fact %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>fact %1이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) fact %2에 맞지 않습니다. 필요한 값: %3</translation>
     </message>
     <message>
         <source>no variable can be called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>변수 이름으로 %1을(를) 사용할 수 없습니다</translation>
     </message>
     <message>
         <source>%1 is no text</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 텍스트가 아닙니다</translation>
     </message>
     <message>
         <source>there is no module &quot;%1&quot;; there is: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>모듈 &quot;%1&quot;이(가) 없습니다. 사용 가능: %2</translation>
     </message>
     <message>
         <source>the library is unloaded</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브러리가 언로드되었습니다</translation>
     </message>
     <message>
         <source>%1 has no page</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 페이지가 없습니다</translation>
     </message>
     <message>
         <source>%1 is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>%1이(가) 숨겨져 있습니다</translation>
     </message>
     <message>
         <source>%1 is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 사용할 수 없는 상태입니다</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds a value of a type that settings do not have</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;의 값은 설정에 없는 유형입니다</translation>
     </message>
 </context>
 <context>
     <name>olUndo</name>
     <message>
         <source>is locked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>잠겨 있습니다: %1</translation>
     </message>
     <message>
         <source>was changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>이후에 변경되었습니다</translation>
     </message>
 </context>
 <context>
     <name>olValue</name>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>true 또는 false</translation>
     </message>
     <message>
         <source>a whole number from -2147483648 to 2147483647</source>
-        <translation type="unfinished"></translation>
+        <translation>-2147483648에서 2147483647 사이의 정수</translation>
     </message>
     <message>
         <source>a whole number from 0 to 4294967295</source>
-        <translation type="unfinished"></translation>
+        <translation>0에서 4294967295 사이의 정수</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>숫자</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>큰따옴표로 묶은 텍스트</translation>
     </message>
     <message>
         <source>a list of texts, as [&quot;a&quot;, &quot;b&quot;]</source>
-        <translation type="unfinished"></translation>
+        <translation>[&quot;a&quot;, &quot;b&quot;]와 같은 텍스트 목록</translation>
     </message>
     <message>
         <source>a list of numbers, as [1, 0.5]</source>
-        <translation type="unfinished"></translation>
+        <translation>[1, 0.5]와 같은 숫자 목록</translation>
     </message>
     <message>
         <source>three numbers, as [1, 0.5, 0]</source>
-        <translation type="unfinished"></translation>
+        <translation>[1, 0.5, 0]과 같은 숫자 3개</translation>
     </message>
     <message>
         <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
-        <translation type="unfinished"></translation>
+        <translation>[[0, 0, 0], [1, 1, 1]]과 같은 색상 목록</translation>
     </message>
 </context>
 <context>
     <name>olValueText</name>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>켜짐</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>꺼짐</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>없음</translation>
     </message>
 </context>
 <context>
     <name>olViewport</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰</translation>
     </message>
     <message>
         <source>The 3D view: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰: %1</translation>
     </message>
     <message>
         <source>The renderer of the 3D view cannot be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰의 렌더러를 시작할 수 없습니다.</translation>
     </message>
     <message>
         <source>A frame of the 3D view could not be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 뷰의 프레임을 그릴 수 없습니다.</translation>
     </message>
 </context>
 <context>
     <name>olWebAccess</name>
     <message>
         <source>The web server does not answer %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>웹 서버가 %1에 응답하지 않습니다: %2</translation>
     </message>
 </context>
 <context>
     <name>olWebPages</name>
     <message>
         <source>The answer would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>응답이 너무 큽니다.</translation>
     </message>
     <message>
         <source>The application is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램이 실행 중입니다.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>State of the host</source>
-        <translation type="unfinished"></translation>
+        <translation>호스트 상태</translation>
     </message>
     <message>
         <source>Nothing can be changed here; ask with GET.</source>
-        <translation type="unfinished"></translation>
+        <translation>여기에서는 아무것도 변경할 수 없습니다. GET으로 요청하십시오.</translation>
     </message>
     <message>
         <source>There is no such page.</source>
-        <translation type="unfinished"></translation>
+        <translation>해당 페이지가 없습니다.</translation>
     </message>
     <message>
         <source>This host is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 호스트는 허용되지 않습니다.</translation>
     </message>
 </context>
 <context>
     <name>olWebServer</name>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>일반 파일이 아닙니다</translation>
     </message>
     <message>
         <source>others than its owner can read it</source>
-        <translation type="unfinished"></translation>
+        <translation>소유자가 아닌 사용자도 읽을 수 있습니다</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>비어 있습니다</translation>
     </message>
     <message>
         <source>The web server cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>웹 서버에서 %1을(를) 사용할 수 없습니다: %2</translation>
     </message>
     <message>
         <source>ports are numbered 1 to 65535</source>
-        <translation type="unfinished"></translation>
+        <translation>포트 번호는 1에서 65535 사이입니다</translation>
     </message>
     <message>
         <source>port %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2을(를) 사용하는 포트 %1</translation>
     </message>
     <message>
         <source>port %1</source>
-        <translation type="unfinished"></translation>
+        <translation>포트 %1</translation>
     </message>
     <message>
         <source>The web server does not listen on %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>웹 서버가 %1에서 수신 대기하지 않습니다: %2</translation>
     </message>
 </context>
 <context>
     <name>orlo</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>환경 설정</translation>
     </message>
     <message>
         <source>--%1 needs --render</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1에는 --render가 필요합니다</translation>
     </message>
     <message>
         <source>--set needs --render or --save</source>
-        <translation type="unfinished"></translation>
+        <translation>--set에는 --render 또는 --save가 필요합니다</translation>
     </message>
     <message>
         <source>--%1 does not go with --render</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1은(는) --render와 함께 사용할 수 없습니다</translation>
     </message>
     <message>
         <source>--%1 needs a window, which --render and --save do without</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1에는 창이 필요하지만 --render와 --save는 창 없이 실행됩니다</translation>
     </message>
     <message>
         <source>--render needs --output PICTURE</source>
-        <translation type="unfinished"></translation>
+        <translation>--render에는 --output PICTURE가 필요합니다</translation>
     </message>
     <message>
         <source>%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) 크기가 아닙니다. 필요한 형태: WIDTHxHEIGHT, 각각 1에서 8192 사이</translation>
     </message>
     <message>
         <source>--save needs either a model or --sample</source>
-        <translation type="unfinished"></translation>
+        <translation>--save에는 모델 또는 --sample이 필요합니다</translation>
     </message>
     <message>
         <source>%1 does not go with --render</source>
-        <translation type="unfinished"></translation>
+        <translation>%1은(는) --render와 함께 사용할 수 없습니다</translation>
     </message>
     <message>
         <source>only one model can be opened at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>한 번에 모델 하나만 열 수 있습니다</translation>
     </message>
     <message>
         <source>there is no edition %1; there are essentials, design, professional and enterprise</source>
-        <translation type="unfinished"></translation>
+        <translation>에디션 %1이(가) 없습니다. essentials, design, professional, enterprise가 있습니다</translation>
     </message>
     <message>
         <source>no page has the setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>설정 &quot;%1&quot;이(가) 있는 페이지가 없습니다</translation>
     </message>
 </context>
 </TS>
