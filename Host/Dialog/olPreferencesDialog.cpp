@@ -239,8 +239,6 @@ void olPreferencesDialog::connectParts()
         m_searchField->setFocus(Qt::ShortcutFocusReason);
         m_searchField->selectAll();
     });
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
-            &olPreferencesDialog::showHelp);
     connect(m_menu.get(), &olSettingMenu::lockAsked, this, [this](const olFoundControl &control, const QString &key) {
         m_message->showNote(lockText(control, key.toStdString()));
     });
@@ -356,7 +354,9 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool asksForMenu =
         event->key() == Qt::Key_Menu || (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-    if (event->key() == Qt::Key_Escape && !m_searchField->text().isEmpty())
+    if (event->matches(QKeySequence::HelpContents))
+        showHelp();
+    else if (event->key() == Qt::Key_Escape && !m_searchField->text().isEmpty())
         m_searchField->clear();
     else if (isEnter && m_searchField->hasFocus())
         goToFound(m_foundList->currentRow());

@@ -27,7 +27,6 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTest>
 #include <QTextBrowser>
@@ -72,21 +71,24 @@ TEST_F(MainWindow, RestartsOnTheSamePageWithWhatWasOpen)
     olPreferencesDialog &preferences = window.openPreferences();
     ASSERT_TRUE(preferences.openAt(QStringLiteral("MainWindow show button text")));
     ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QWidget *box = preferences.focusWidget();
+    const auto click = [box] { QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2)); };
+    click();
     auto *apply = preferences.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Apply);
     ASSERT_TRUE(QTest::qWaitFor([apply] { return apply->isEnabled(); }, 2000));
     QTest::mouseClick(apply, Qt::LeftButton);
-    auto *restart = preferences.findChild<QAbstractButton *>(QStringLiteral("messageAction"));
+    auto *restart = preferences.findChild<QWidget *>(QStringLiteral("message"))
+                        ->findChild<QAbstractButton *>(QStringLiteral("messageAction"));
     ASSERT_TRUE(restart->isVisible());
 
     // With an edit that somebody wants to stay with, nothing happens.
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    click();
     QTimer::singleShot(0, &window, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
     QTest::mouseClick(restart, Qt::LeftButton);
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(window.restartArguments(), QStringList());
 
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    click();
     QTest::mouseClick(restart, Qt::LeftButton);
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(window.restartArguments(), (QStringList{"--preferences", "--sample"}));
@@ -104,7 +106,7 @@ TEST_F(MainWindow, ThePreferencesFitBesideTheViewAsAPanelOnASmallScreen)
     ASSERT_TRUE(QTest::qWaitFor([&] { return !preferences.isWindow() && preferences.isVisible(); }, 2000));
     QTest::qWait(100);
     EXPECT_GE(view.width(), 1366 / 3) << "the model stays in sight";
-    const auto *area = qobject_cast<QScrollArea *>(box.window()->findChild<QStackedWidget *>()->currentWidget());
+    const auto *area = qobject_cast<QScrollArea *>(module("Step").page()->parentWidget()->parentWidget());
     ASSERT_NE(area, nullptr);
     EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << "nothing must be scrolled sideways";
     EXPECT_EQ(box.isChecked(), isTicked) << "what is edited stays";
@@ -159,7 +161,7 @@ TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
     EXPECT_TRUE(words().contains(QStringLiteral("coarse"))) << qPrintable(words());
     emit dialog->findChild<QDialogButtonBox *>()->accepted();
     EXPECT_EQ(stored(), 0.075) << "for this import alone";
-    QTest::qWaitFor([&] { return !window.findChild<olImportDialog *>()->isVisible(); }, 10000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window.findChild<olImportDialog *>(); }, 10000));
 
     dialog = ask();
     ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
@@ -182,7 +184,7 @@ TEST_F(MainWindow, F1ShowsTheSettingsLineInTheDocuments)
     olPreferencesDialog &preferences = window.openPreferences();
     ASSERT_TRUE(preferences.openAt(QStringLiteral("Camera fov")));
     ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    QTest::keyClick(preferences.focusWidget(), Qt::Key_F1);
     const auto *document = preferences.findChild<QTextBrowser *>(QStringLiteral("document"));
     ASSERT_NE(document, nullptr);
     EXPECT_TRUE(document->isVisible());
