@@ -7,10 +7,11 @@
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olConsentBox.h"
 #include "Dialog/olPageStyle.h"
 #include "Dialog/olPreferencesDialog.h"
 #include "Model/olScene.h"
-#include "Session/olFileArgument.h"
+#include "Session/olArguments.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
@@ -69,6 +70,30 @@ void tell(const QStringList &notices, QWidget *window)
     box->show();
 }
 
+/// Whether another program's value shall hold here, too.
+void ask(olPreferencesSession &session, const olOutsideChange &change, const olSettingWarning &question,
+         QWidget &window)
+{
+    auto *box = new olConsentBox(question, &window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->setInformativeText(
+        QCoreApplication::translate("orlo", "%1 has stored this.")
+            .arg(change.program.isEmpty() ? QCoreApplication::translate("orlo", "Another program") : change.program) +
+        QStringLiteral("\n\n") + question.informative);
+    QObject::connect(box, &QDialog::finished, &session,
+                     [&session, box, key = change.key] { session.answer(key, box->isAgreed()); });
+    box->show();
+}
+
+/// What was given for an option that takes the name of a file or folder.
+QString fileOf(const QCommandLineParser &options, const char *option)
+{
+    return olArguments::file(options.value(QLatin1String(option)));
+}
+
+QString modelOf(const QCommandLineParser &options) { return olArguments::file(options.positionalArguments().value(0)); }
+
 bool isBatch(const QCommandLineParser &options)
 {
     return options.isSet(QStringLiteral("render")) || options.isSet(QStringLiteral("save"));
@@ -122,12 +147,12 @@ QString misuse(const QCommandLineParser &options)
 int runBatch(const QCommandLineParser &options)
 {
     if (options.isSet(QStringLiteral("render")))
-        return olBatch::render(options.value(QStringLiteral("render")), options.value(QStringLiteral("output")),
+        return olBatch::render(fileOf(options, "render"), fileOf(options, "output"),
                                *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
                                options.isSet(QStringLiteral("edges")));
-    const QString target = options.value(QStringLiteral("save"));
+    const QString target = fileOf(options, "save");
     if (!options.positionalArguments().isEmpty())
-        return olBatch::convert(options.positionalArguments().first(), target);
+        return olBatch::convert(modelOf(options), target);
     olScene scene;
     scene.loadSample();
     return olBatch::save(scene, target);
@@ -136,7 +161,7 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    const olResult<> loaded = session.loadPlugin(fileOf(options, "plugin"));
     if (!loaded.isOk())
         return fail(loaded.error());
     session.fillDefaults();
@@ -165,7 +190,7 @@ bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !op
 /// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
 std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
 {
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    const QString given = fileOf(options, "store");
     QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
     while (true) {
         auto session = std::make_unique<olPreferencesSession>(file);
@@ -183,7 +208,7 @@ std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &op
 
 bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    QString file = options.value(QStringLiteral("plugin"));
+    QString file = fileOf(options, "plugin");
     while (true) {
         const olResult<> loaded = session.loadPlugin(file);
         if (loaded.isOk())
@@ -244,7 +269,7 @@ int run(const QCommandLineParser &options, QStringList &again)
     window.show();
     const QStringList models = options.positionalArguments();
     for (const QString &model : models)
-        window.openModel(model);
+        window.openModel(olArguments::file(model));
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -254,10 +279,17 @@ int run(const QCommandLineParser &options, QStringList &again)
         return refuse(Words::tr("no page has the setting \"%1\"").arg(setting));
     }
 
-    const QString tourFolder = options.value(QStringLiteral("tour"));
+    const QString tourFolder = fileOf(options, "tour");
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
     QObject::connect(&session, &olPreferencesSession::noticed, &window,
                      [&session, &window] { tell(session.takeNotices(), &window); });
+    QObject::connect(&session, &olPreferencesSession::consentWanted, &window,
+                     [&](const olOutsideChange &change, const olSettingWarning &question) {
+                         if (canAsk(options))
+                             ask(session, change, question, window);
+                         else
+                             tell({olRefusalUnasked(change.key, question)}, nullptr);
+                     });
     session.follow();
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
@@ -336,6 +368,12 @@ bool asksOnly(const std::vector<std::string> &arguments)
 
 int main(int argc, char *argv[])
 {
+    olArguments::useUtf8();
+    for (int index = 1; index < argc; ++index) {
+        if (!olArguments::text(argv[index]))
+            return refuse(
+                QCoreApplication::translate("orlo", "\"%1\" is no UTF-8").arg(QString::fromUtf8(argv[index])));
+    }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();

@@ -52,7 +52,7 @@ void olPageFrame::tell(const olPreferencesEntry &entry, const std::vector<olFoun
         const olEffectText text = olEffectText::of(key, setting.effect);
         ++notes[text.page];
         if (!text.brief.isEmpty()) {
-            remarks.push_back({control, text.brief, text.sentence});
+            remarks.push_back({control, text.brief});
             pages << text.page;
         }
     }

@@ -1,6 +1,7 @@
 #include "Dialog/olPreferencesDialog.h"
 
 #include "Dialog/olChangesView.h"
+#include "Dialog/olConsentBox.h"
 #include "Dialog/olDialogMemory.h"
 #include "Dialog/olDocumentView.h"
 #include "Dialog/olHistoryView.h"
@@ -11,6 +12,7 @@
 #include "Dialog/olProfilesMenu.h"
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
+#include "Dialog/olSettingTips.h"
 #include "Dialog/olWindowPlace.h"
 #include "Editing/olPendingChanges.h"
 #include "Editing/olPreferencesImport.h"
@@ -71,6 +73,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_pending(std::make_unique<olPendingChanges>(session)),
       m_search(std::make_unique<olSettingsSearch>()),
       m_menu(std::make_unique<olSettingMenu>(session, *m_pending)),
+      m_tips(std::make_unique<olSettingTips>(session)),
       m_searchField(new QLineEdit),
       m_changedOnly(new QCheckBox(tr("Changed only"))),
       m_more(new QPushButton(tr("More"))),
@@ -549,6 +552,7 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
         frame = new olPageFrame(*entry.page());
         m_pages->addWidget(frame);
         m_menu->addTo(m_search->controls(entry));
+        m_tips->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
         frame->tell(entry, m_search->controls(entry));
         frame->marks().setHits(m_hits.value(&entry));
@@ -990,15 +994,10 @@ void olPreferencesDialog::preview(const QString &title, const QString &action,
 /// A setting whose own box asks before it is set is asked about here, too.
 bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
 {
-    QMessageBox box(QMessageBox::Warning, question.title, question.text, QMessageBox::NoButton, this);
-    box.setInformativeText(question.informative);
+    olConsentBox box(question, this);
     box.setWindowModality(Qt::WindowModal);
-    const QPushButton *accepted = box.addButton(question.accept, QMessageBox::AcceptRole);
-    QPushButton *rejected = box.addButton(question.reject, QMessageBox::RejectRole);
-    box.setDefaultButton(rejected);
-    box.setEscapeButton(rejected);
     box.exec();
-    return box.clickedButton() == accepted;
+    return box.isAgreed();
 }
 
 void olPreferencesDialog::showHistory()

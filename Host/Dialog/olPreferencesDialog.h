@@ -34,6 +34,7 @@ class olPendingChanges;
 class olPreferencesEntry;
 class olPreferencesSession;
 class olSettingMenu;
+class olSettingTips;
 struct olListedChange;
 struct olSettingWarning;
 struct olPendingChange;
@@ -153,6 +154,7 @@ private:
     std::unique_ptr<olPendingChanges> m_pending;
     std::unique_ptr<olSettingsSearch> m_search;
     std::unique_ptr<olSettingMenu> m_menu;
+    std::unique_ptr<olSettingTips> m_tips;
     QLineEdit *m_searchField;
     QCheckBox *m_changedOnly;
     QPushButton *m_more;

@@ -3,14 +3,13 @@
 #include "Editing/olPlainText.h"
 #include "Widgets/olBlended.h"
 
-#include <QHelpEvent>
+#include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -137,8 +136,6 @@ bool olSettingMarks::eventFilter(QObject *watched, QEvent *event)
             emit clicked(marked, global);
         return marked;
     }
-    case QEvent::ToolTip:
-        return showToolTip(watched, static_cast<QHelpEvent *>(event)->globalPos());
     case QEvent::ChildAdded:
         if (watched == parent())
             raise();
@@ -146,18 +143,6 @@ bool olSettingMarks::eventFilter(QObject *watched, QEvent *event)
     default:
         return false;
     }
-}
-
-bool olSettingMarks::showToolTip(const QObject *control, const QPoint &globalPosition) const
-{
-    const auto remark = std::find_if(m_remarks.begin(), m_remarks.end(),
-                                     [control](const Remark &known) { return known.control.widget == control; });
-    if (remark == m_remarks.end())
-        return false;
-    QStringList texts{olPlainText(remark->control.widget->toolTip()), remark->sentence};
-    texts.removeAll(QString());
-    QToolTip::showText(globalPosition, texts.join(QLatin1Char('\n')), remark->control.widget);
-    return true;
 }
 
 /// The control with the labels before it.

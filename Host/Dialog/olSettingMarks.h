@@ -26,11 +26,10 @@ public:
         olSettingState state;
     };
 
-    /// What is worth knowing of a setting besides its value: in short behind its control, in full in its tooltip.
+    /// What is worth knowing of a setting besides its value, in short behind its control.
     struct Remark {
         olFoundControl control;
         QString brief;
-        QString sentence;
     };
 
     /// Becomes a child of the page.
@@ -68,7 +67,6 @@ private:
     void paintTabs(QPainter &painter, const olFoundControl &control) const;
     void paintMark(QPainter &painter, const Mark &mark) const;
     void paintRemark(QPainter &painter, const Remark &remark) const;
-    [[nodiscard]] bool showToolTip(const QObject *control, const QPoint &globalPosition) const;
     void paintPadlock(QPainter &painter, const QRectF &place) const;
 
     std::vector<Mark> m_marks;

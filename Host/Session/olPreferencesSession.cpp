@@ -18,6 +18,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -305,11 +306,11 @@ Values olPreferencesSession::toBeKept() const
         if (offer.entry->home() == olHome::Service)
             keep({olHome::Service, offer.offered->key}, service().get(offer.offered->key));
     }
-    // The record shows all its rows; the service only those of its modules. And under a lock waits what was chosen
-    // before it.
+    // The record shows all its rows; the service only those of its modules. Under a lock waits what was chosen before
+    // it, and another program's choice until it is agreed to.
     for (const auto &[key, value] : m_stored) {
         const bool isUnseen = key.first == olHome::Service && !hasDefault(key);
-        if (isUnseen || isLocked(key.second))
+        if (isUnseen || isLocked(key.second) || isHeldBack(key))
             kept[key] = value;
     }
     return kept;
@@ -319,7 +320,7 @@ Values olPreferencesSession::toBeKept() const
 /// be none. Only what the site gives is the default everywhere.
 bool olPreferencesSession::isChoice(const olPreferencesStore::Key &key, const boost::any &value) const
 {
-    if (isLocked(key.second))
+    if (isLocked(key.second) || isHeldBack(key))
         return false;
     if (!isDefault(key, value))
         return true;
@@ -377,6 +378,8 @@ olResult<> olPreferencesSession::save()
             m_stored.erase(key);
     }
     if (error.isEmpty()) {
+        for (auto held = m_heldBack.begin(); held != m_heldBack.end();)
+            held = isHeldBack(held->first) ? std::next(held) : m_heldBack.erase(held);
         m_chosen.clear();
         m_restored.clear();
     }
@@ -464,10 +467,7 @@ void olPreferencesSession::takeOver()
     olStoreRows::History history;
     if (!m_store.load(stored, &history).isEmpty())
         return;
-    const QScopedValueRollback<bool> changing(m_isChanging, true);
     std::vector<olOutsideChange> changes = replaceStored(stored);
-    if (changes.empty())
-        return;
     for (olOutsideChange &change : changes) {
         for (const olStoreRows::Save &save : history) {
             const bool isIn = std::any_of(save.changes.begin(), save.changes.end(),
@@ -476,6 +476,37 @@ void olPreferencesSession::takeOver()
                 change.program = QString::fromStdString(save.program);
         }
     }
+    const auto unagreed = std::stable_partition(changes.begin(), changes.end(), [this](const olOutsideChange &change) {
+        return !warning(change.key, change.after);
+    });
+    const std::vector<olOutsideChange> asked(unagreed, changes.end());
+    changes.erase(unagreed, changes.end());
+    putIntoForce(changes);
+    for (const olOutsideChange &change : asked) {
+        m_heldBack[{change.home, change.key}] = change;
+        emit consentWanted(change, *warning(change.key, change.after));
+    }
+}
+
+void olPreferencesSession::answer(const std::string &key, bool isAgreed)
+{
+    for (const olHome home : {olHome::Record, olHome::Service}) {
+        const bool isStillAsked = isHeldBack({home, key});
+        const olOutsideChange change = m_heldBack[{home, key}];
+        m_heldBack.erase({home, key});
+        if (isStillAsked && isAgreed)
+            putIntoForce({change});
+    }
+}
+
+/// What another program chose, as if a person had confirmed it on the pages of the modules that have it.
+void olPreferencesSession::putIntoForce(const std::vector<olOutsideChange> &changes)
+{
+    if (changes.empty())
+        return;
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
+    for (const olOutsideChange &change : changes)
+        setValueAt({change.home, change.key}, change.after);
     for (olPreferencesEntry *entry : entries()) {
         const std::set<std::string> keys = keysOf(*entry);
         std::set<std::string> changed;
@@ -489,7 +520,7 @@ void olPreferencesSession::takeOver()
     emit changedOutside(changes);
 }
 
-/// Takes what the store holds now for stored, and puts into force what differs from before and was not changed here.
+/// Takes what the store holds now for stored. Returns what differs from before and was not changed here.
 std::vector<olOutsideChange> olPreferencesSession::replaceStored(const Values &stored)
 {
     const Values before = std::exchange(m_stored, stored);
@@ -508,12 +539,19 @@ std::vector<olOutsideChange> olPreferencesSession::replaceStored(const Values &s
         const boost::any now = valueIn(stored);
         const bool isOurs = !olValue::identical(inForce, valueIn(before)) || isLocked(key.second);
         const bool isUnseen = key.first == olHome::Service && !hasDefault(key);
-        if (isOurs || isUnseen || olValue::identical(inForce, now))
-            continue;
-        changes.push_back({key.second, olValue::adopted(inForce), now, {}});
-        setValueAt(key, now);
+        if (olValue::identical(inForce, now))
+            m_heldBack.erase(key); // the other program took it back itself
+        else if (!isOurs && !isUnseen)
+            changes.push_back({key.first, key.second, olValue::adopted(inForce), now, {}});
     }
     return changes;
+}
+
+/// Whether somebody was asked about the stored value, and neither they nor anybody else have settled it.
+bool olPreferencesSession::isHeldBack(const olPreferencesStore::Key &key) const
+{
+    const auto held = m_heldBack.find(key);
+    return held != m_heldBack.end() && olValue::identical(held->second.before, valueAt(key));
 }
 
 /// As if a person had confirmed these changes on the module's page, and nothing else.

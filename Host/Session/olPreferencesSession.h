@@ -3,6 +3,7 @@
 #include "Session/olPluginLoader.h"
 #include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
+#include "State/olHome.h"
 #include "State/olResult.h"
 #include "Store/olPreferencesStore.h"
 #include "olHostExport.h"
@@ -30,6 +31,7 @@ enum class olStoreUse { Own, LookAt };
 
 /// A setting that another program has given another value.
 struct olOutsideChange {
+    olHome home = olHome::Record;
     std::string key;
     boost::any before;
     boost::any after;
@@ -75,6 +77,10 @@ public:
 
     /// The same once, now.
     void takeOver();
+
+    /// To consentWanted(). Agreed to, the value comes into force like another program's other values. Not agreed to,
+    /// the value in force counts as chosen in this run, and its next save stores that.
+    void answer(const std::string &key, bool isAgreed);
 
     /// Stores what differs from what the store holds. Values equal to their default are kept only where somebody chose
     /// them instead of another one: in another edition the default may be another. A locked setting first gets its
@@ -147,6 +153,10 @@ signals:
     /// After all that.
     void changedOutside(const std::vector<olOutsideChange> &changes);
 
+    /// For a value that is not put into force before somebody agrees to it. Without an answer() this run goes on
+    /// without it and leaves it in the store.
+    void consentWanted(const olOutsideChange &change, const olSettingWarning &question);
+
 private:
     struct Changes {
         olPreferencesStore::Values changed;
@@ -156,6 +166,8 @@ private:
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
     [[nodiscard]] bool isChoice(const olPreferencesStore::Key &key, const boost::any &value) const;
     [[nodiscard]] std::vector<olOutsideChange> replaceStored(const olPreferencesStore::Values &stored);
+    [[nodiscard]] bool isHeldBack(const olPreferencesStore::Key &key) const;
+    void putIntoForce(const std::vector<olOutsideChange> &changes);
     void applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed);
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
@@ -168,6 +180,7 @@ private:
 
     olPreferencesStore m_store;
     olPreferencesStore::Values m_stored;
+    std::map<olPreferencesStore::Key, olOutsideChange> m_heldBack; ///< until somebody agrees to them
     std::set<std::string> m_chosen;
     std::set<std::string> m_restored;
     olSiteDefaults m_site;

@@ -12,6 +12,11 @@ QString olFormatTools::noTemporary() { return olReason::tr("the temporary direct
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 
+QString olFormatTools::fileIn(const QDir &folder, const QString &name)
+{
+    return folder.filePath(name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name);
+}
+
 QByteArray olFormatTools::tailOf(QFile &file)
 {
     constexpr qint64 enough = 4096;
@@ -22,6 +27,6 @@ QByteArray olFormatTools::tailOf(QFile &file)
 olFormatTools::Secluded::Secluded(const olImportJob &job)
     : m_folder(QDir(job.temporaryDirectory).filePath(QStringLiteral("orlo-import-XXXXXX")))
 {
-    m_file = m_folder.filePath(QFileInfo(job.file).fileName());
+    m_file = fileIn(QDir(m_folder.path()), QFileInfo(job.file).fileName());
     m_isReady = m_folder.isValid() && QFile::link(job.file, m_file);
 }

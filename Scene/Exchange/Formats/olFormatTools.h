@@ -9,6 +9,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
+class QDir;
 class QFile;
 
 /// Half sentences of the messages on files that cannot be read.
@@ -27,6 +28,9 @@ namespace olFormatTools
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);
+
+/// The file of that name in the folder; one that begins with a colon is no resource of the program.
+[[nodiscard]] QString fileIn(const QDir &folder, const QString &name);
 
 /// The last few kilobytes of the file.
 [[nodiscard]] QByteArray tailOf(QFile &file);

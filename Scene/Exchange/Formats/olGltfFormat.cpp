@@ -67,7 +67,7 @@ QString bufferFault(const QJsonObject &buffer, const QDir &folder)
     if (uri.isEmpty() || uri.startsWith(QLatin1String("data:")))
         return {};
     const QString name = QUrl::fromPercentEncoding(uri.toUtf8());
-    const QFileInfo info(folder.filePath(name));
+    const QFileInfo info(olFormatTools::fileIn(folder, name));
     if (!info.isFile() || !info.isReadable())
         return olReason::tr("the file %1 that it refers to cannot be read").arg(name);
     return double(info.size()) < value(buffer, "byteLength")
@@ -240,7 +240,7 @@ public:
         const QByteArray text = QJsonDocument(model).toJson(QJsonDocument::Compact);
         if (m_isBinary)
             return writeFile(m_file, packed(text));
-        return writeFile(m_file, text) && writeFile(QFileInfo(m_file).dir().filePath(bytesName), m_bytes);
+        return writeFile(m_file, text) && writeFile(olFormatTools::fileIn(QFileInfo(m_file).dir(), bytesName), m_bytes);
     }
 
 private:

@@ -130,9 +130,9 @@ QString check(QFile &file, QStringList &remarks)
     const QString materials = lines.materials();
     const QDir folder = QFileInfo(file).absoluteDir();
     const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const bool isThere = QFileInfo::exists(folder.filePath(materials)) ||
+    const bool isThere = QFileInfo::exists(olFormatTools::fileIn(folder, materials)) ||
                          std::any_of(words.begin(), words.end(), [&folder](const QString &word) {
-                             return QFileInfo::exists(folder.filePath(word));
+                             return QFileInfo::exists(olFormatTools::fileIn(folder, word));
                          });
     if (!materials.isEmpty() && !isThere)
         remarks << olReason::tr("The materials file %1 is not there; the model has no colours.").arg(materials);
@@ -165,7 +165,7 @@ public:
         const QString materials = QFileInfo(m_file).completeBaseName() + QStringLiteral(".mtl");
         m_out << "mtllib " << materials << "\n";
         m_tree.eachPlaced([this](const olMeshTree::Node &node, const gp_Trsf &where) { writePart(node, where); });
-        return m_out.finish() && writeMaterials(QFileInfo(m_file).dir().filePath(materials));
+        return m_out.finish() && writeMaterials(olFormatTools::fileIn(QFileInfo(m_file).dir(), materials));
     }
 
 private:
