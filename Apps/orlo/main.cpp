@@ -1,6 +1,7 @@
 #include "olBatch.h"
 #include "olFormerSettings.h"
 #include "olGivenSettings.h"
+#include "olImportChoice.h"
 #include "olMainWindow.h"
 #include "olStartFault.h"
 #include "olTour.h"
@@ -10,6 +11,7 @@
 #include "Dialog/olConsentBox.h"
 #include "Dialog/olPageStyle.h"
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olFileNames.h"
 #include "Model/olScene.h"
 #include "Session/olArguments.h"
 #include "Session/olPreferencesSession.h"
@@ -29,7 +31,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -68,6 +72,21 @@ void tell(const QStringList &notices, QWidget *window)
     box->setTextFormat(Qt::PlainText);
     box->setModal(false);
     box->show();
+}
+
+/// How the model is meant, where its format does not say it; nothing where an option makes no sense.
+std::optional<olImportChoice> choiceOf(const QCommandLineParser &options)
+{
+    static const std::map<QString, double> units{{QStringLiteral("mm"), 1.0},
+                                                 {QStringLiteral("cm"), 10.0},
+                                                 {QStringLiteral("m"), 1000.0},
+                                                 {QStringLiteral("in"), 25.4},
+                                                 {QStringLiteral("ft"), 304.8}};
+    const auto unit = units.find(options.value(QStringLiteral("unit")));
+    const QString up = options.value(QStringLiteral("up"));
+    if (unit == units.end() || (up != QLatin1String("y") && up != QLatin1String("z")))
+        return std::nullopt;
+    return olImportChoice{false, unit->second, up == QLatin1String("y")};
 }
 
 /// Whether another program's value shall hold here, too.
@@ -126,6 +145,14 @@ QString misuse(const QCommandLineParser &options)
     const QString useless = uselessOption(options);
     if (!useless.isEmpty())
         return useless;
+    // Names of files may have any bytes, which stand in the text as they can; the rest is text.
+    for (const char *option : {"set", "setting", "edition", "app-name"}) {
+        const QStringList values = options.values(QLatin1String(option));
+        for (const QString &value : values) {
+            if (!olArguments::text(value.toLocal8Bit().constData()))
+                return Words::tr("\"%1\" is no UTF-8").arg(QString::fromUtf8(value.toLocal8Bit()));
+        }
+    }
     const bool isRendering = options.isSet(QStringLiteral("render"));
     if (isRendering && !options.isSet(QStringLiteral("output")))
         return Words::tr("--render needs --output PICTURE");
@@ -140,6 +167,8 @@ QString misuse(const QCommandLineParser &options)
         return Words::tr("%1 does not go with --render").arg(models.first());
     if (models.size() > 1 && isBatch(options))
         return Words::tr("only one model can be converted at a time");
+    if (!choiceOf(options))
+        return Words::tr("expected --unit mm, cm, m, in or ft, and --up y or z");
     return {};
 }
 
@@ -149,10 +178,10 @@ int runBatch(const QCommandLineParser &options)
     if (options.isSet(QStringLiteral("render")))
         return olBatch::render(fileOf(options, "render"), fileOf(options, "output"),
                                *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
-                               options.isSet(QStringLiteral("edges")));
+                               options.isSet(QStringLiteral("edges")), *choiceOf(options));
     const QString target = fileOf(options, "save");
     if (!options.positionalArguments().isEmpty())
-        return olBatch::convert(modelOf(options), target);
+        return olBatch::convert(modelOf(options), target, *choiceOf(options));
     olScene scene;
     scene.loadSample();
     return olBatch::save(scene, target);
@@ -268,8 +297,11 @@ int run(const QCommandLineParser &options, QStringList &again)
         window.openSample();
     window.show();
     const QStringList models = options.positionalArguments();
-    for (const QString &model : models)
-        window.openModel(olArguments::file(model));
+    olImportChoice choice = *choiceOf(options);
+    for (const QString &model : models) {
+        window.openModel(olArguments::file(model), choice);
+        choice.addsToScene = true;
+    }
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -341,6 +373,11 @@ void describe(QCommandLineParser &options)
     options.addOption({QStringLiteral("aids"),
                        QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
     options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
+    options.addOption({QStringLiteral("unit"),
+                       QStringLiteral("The unit of a model that does not say it: mm, cm, m, in or ft."),
+                       QStringLiteral("unit"), QStringLiteral("mm")});
+    options.addOption({QStringLiteral("up"), QStringLiteral("What is up in a model that does not say it: y or z."),
+                       QStringLiteral("axis"), QStringLiteral("z")});
     options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
                        QStringLiteral("WxH"), QStringLiteral("1280x720")});
     options.addOption({QStringLiteral("set"),
@@ -368,12 +405,7 @@ bool asksOnly(const std::vector<std::string> &arguments)
 
 int main(int argc, char *argv[])
 {
-    olArguments::useUtf8();
-    for (int index = 1; index < argc; ++index) {
-        if (!olArguments::text(argv[index]))
-            return refuse(
-                QCoreApplication::translate("orlo", "\"%1\" is no UTF-8").arg(QString::fromUtf8(argv[index])));
-    }
+    olKeepFileNames();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();

@@ -1,7 +1,9 @@
 #include "olMainWindow.h"
 
 #include "olAbout.h"
+#include "olFactsPanel.h"
 #include "olHostStatePanel.h"
+#include "olImportChoice.h"
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
 #include "olSceneTree.h"
@@ -19,6 +21,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -52,10 +55,11 @@ olMainWindow::olMainWindow(olPreferencesSession &session)
       m_scene(std::make_unique<olScene>()),
       m_files(std::make_unique<olModelFiles>(*this, *m_scene)),
       m_tree(new olSceneTree(*m_scene)),
+      m_facts(new olFactsPanel(*m_scene)),
       m_state(new olHostStatePanel),
       m_journal(new olJournalPanel)
 {
-    setWindowTitle(tr("ORLO"));
+    showTitle({});
     addCentre();
     addDocks();
     addMenus();
@@ -115,6 +119,7 @@ void olMainWindow::addCentre()
     connect(m_viewport, &olViewport::selectionChanged, m_tree, &olSceneTree::showSelection);
     connect(m_tree, &olSceneTree::selectionChanged, m_viewport, &olViewport::select);
     connect(m_tree, &olSceneTree::zoomWanted, m_viewport, &olViewport::zoomToSelection);
+    connect(m_viewport, &olViewport::selectionChanged, m_facts, &olFactsPanel::showFacts);
 }
 
 void olMainWindow::addDocks()
@@ -128,11 +133,14 @@ void olMainWindow::addDocks()
         return dock;
     };
     QDockWidget *tree = add(tr("Scene"), "sceneDock", m_tree, Qt::LeftDockWidgetArea);
+    QDockWidget *facts = add(tr("Facts"), "factsDock", m_facts, Qt::LeftDockWidgetArea);
+    connect(m_tree, &olSceneTree::selectionChanged, m_facts, &olFactsPanel::showFacts);
     QDockWidget *state = add(tr("Host State"), "hostStateDock", m_state, Qt::RightDockWidgetArea);
     QDockWidget *calls = add(tr("Host Calls"), "hostCallsDock", m_journal, Qt::BottomDockWidgetArea);
     const QFontMetrics metrics = fontMetrics();
     resizeDocks({tree, state}, {metrics.averageCharWidth() * 32, metrics.averageCharWidth() * 45}, Qt::Horizontal);
-    resizeDocks({calls}, {metrics.height() * 10}, Qt::Vertical);
+    resizeDocks({tree, facts, calls}, {metrics.height() * 20, metrics.height() * 12, metrics.height() * 10},
+                Qt::Vertical);
     // They are for whoever writes modules; everyone else gets the room for the model.
     state->hide();
     calls->hide();
@@ -208,14 +216,20 @@ olPreferencesDialog &olMainWindow::openPreferences(const QString &module)
     return *m_preferences;
 }
 
-void olMainWindow::openModel(const QString &file) { m_files->openAtOnce(file); }
+void olMainWindow::openModel(const QString &file, const olImportChoice &choice) { m_files->openAtOnce(file, choice); }
 
 void olMainWindow::openSample()
 {
     m_scene->loadSample();
-    m_files->forgetOpened();
+    m_files->forgetOpenFiles();
     m_isSampleOpen = true;
+    showTitle(tr("Sample"));
     m_session.newScene();
+}
+
+void olMainWindow::showTitle(const QString &open)
+{
+    setWindowTitle(open.isEmpty() ? tr("ORLO") : tr("%1 - ORLO").arg(open));
 }
 
 void olMainWindow::closePreferences()
@@ -263,8 +277,8 @@ bool olMainWindow::eventFilter(QObject *watched, QEvent *event)
 /// The page that was open is remembered by the preferences themselves.
 void olMainWindow::restart()
 {
-    m_restartArguments = QStringList{QStringLiteral("--preferences")} + m_files->opened();
-    if (m_isSampleOpen)
+    m_restartArguments = QStringList{QStringLiteral("--preferences")} + m_files->openFiles();
+    if (m_isSampleOpen && m_files->openFiles().isEmpty())
         m_restartArguments << QStringLiteral("--sample");
     // Whoever has edits and wants to stay with them stays.
     if (!close())
@@ -292,7 +306,7 @@ void olMainWindow::addMenus()
     newScene->setShortcut(QKeySequence::New);
     connect(newScene, &QAction::triggered, this, [this] {
         m_scene->clear();
-        m_files->forgetOpened();
+        m_files->forgetOpenFiles();
         m_isSampleOpen = false;
         m_session.newScene();
     });
@@ -306,6 +320,12 @@ void olMainWindow::addMenus()
                                return m_session.commit({}, values).error();
                            });
     connect(m_files.get(), &olModelFiles::imported, this, [this] { m_session.newScene(); });
+    connect(m_files.get(), &olModelFiles::told, this, [this](const QString &text) { statusBar()->showMessage(text); });
+    connect(m_files.get(), &olModelFiles::openFilesChanged, this, [this] {
+        const QStringList &files = m_files->openFiles();
+        const QString first = files.isEmpty() ? QString() : QFileInfo(files.first()).fileName();
+        showTitle(files.size() < 2 ? first : tr("%1 and %n more", nullptr, files.size() - 1).arg(first));
+    });
     file->addSeparator();
     QAction *quit = file->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);

@@ -11,6 +11,7 @@ class QAction;
 class QDockWidget;
 class QLabel;
 class QToolBar;
+class olFactsPanel;
 class olHostStatePanel;
 class olJournalPanel;
 class olLogTail;
@@ -20,6 +21,7 @@ class olPreferencesSession;
 class olScene;
 class olSceneTree;
 class olViewport;
+struct olImportChoice;
 
 /// The viewer's window: the scene as the host's state shows it, what the host holds and what it was told, and the way
 /// to the preferences.
@@ -45,9 +47,7 @@ public:
     [[nodiscard]] olScene &scene() { return *m_scene; }
 
     /// Reads a model into the scene, and says so where it cannot.
-    void openModel(const QString &file);
-
-    /// The small assembly that the program builds itself, in place of what is open.
+    void openModel(const QString &file, const olImportChoice &choice);
     void openSample();
 
     /// Null where the display cannot show a 3D view.
@@ -66,6 +66,7 @@ private:
     void stateChanged(const olHostValueBase &value) override;
     void addCentre();
     void addDocks();
+    void showTitle(const QString &open);
     void addMenus();
     void addViewActions();
     void addHelp();
@@ -84,6 +85,7 @@ private:
     QToolBar *m_tools = nullptr;
     QLabel *m_frameRate = nullptr;
     olSceneTree *m_tree;
+    olFactsPanel *m_facts;
     olHostStatePanel *m_state;
     olJournalPanel *m_journal;
     std::unique_ptr<olPreferencesDialog> m_preferences;

@@ -12,6 +12,19 @@ QString olFormatTools::noTemporary() { return olReason::tr("the temporary direct
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 
+bool olFormatTools::writePlainly(const QString &file, const std::function<bool(const char *)> &write)
+{
+    const QString plain = QFileInfo(file).path() + QStringLiteral("/model");
+    return write(QFile::encodeName(plain).constData()) && QFile::rename(plain, file);
+}
+
+QString olFormatTools::listed(const QStringList &names)
+{
+    constexpr int most = 4;
+    const QString first = QStringList(names.mid(0, most)).join(QStringLiteral(", "));
+    return names.size() > most ? olReason::tr("%1 and %2 more").arg(first).arg(names.size() - most) : first;
+}
+
 QString olFormatTools::fileIn(const QDir &folder, const QString &name)
 {
     return folder.filePath(name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name);

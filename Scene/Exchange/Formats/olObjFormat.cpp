@@ -163,7 +163,7 @@ public:
     bool write()
     {
         const QString materials = QFileInfo(m_file).completeBaseName() + QStringLiteral(".mtl");
-        m_out << "mtllib " << materials << "\n";
+        m_out << "mtllib " << QFile::encodeName(materials) << "\n";
         m_tree.eachPlaced([this](const olMeshTree::Node &node, const gp_Trsf &where) { writePart(node, where); });
         return m_out.finish() && writeMaterials(olFormatTools::fileIn(QFileInfo(m_file).dir(), materials));
     }
@@ -258,7 +258,7 @@ private:
             out << "Ns " << common.Shininess * olPlainLook::shiniest << "\n";
             const QString texture = m_textures.placeOf(common.DiffuseTexture);
             if (!texture.isEmpty())
-                out << "map_Kd " << texture << "\n";
+                out << "map_Kd " << QFile::encodeName(texture) << "\n";
         }
         return out.finish();
     }

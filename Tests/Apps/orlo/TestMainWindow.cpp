@@ -1,7 +1,9 @@
 #include "WindowTest.h"
 
+#include "olFactsPanel.h"
 #include "olHostStatePanel.h"
 #include "olImportDialog.h"
+#include "olRecentModels.h"
 #include "olStartFault.h"
 
 #include "Dialog/olPreferencesDialog.h"
@@ -18,6 +20,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
@@ -25,6 +28,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -53,6 +57,23 @@ protected:
         ASSERT_NE(dialog, nullptr);
         emit dialog->findChild<QDialogButtonBox *>()->accepted();
     }
+
+    QString written(const char *name, const QByteArray &content)
+    {
+        QFile file(path(QLatin1String(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    static QByteArray facet(const QByteArray &a, const QByteArray &b, const QByteArray &c)
+    {
+        return "facet normal 0 0 0\nouter loop\nvertex " + a + "\nvertex " + b + "\nvertex " + c +
+               "\nendloop\nendfacet\n";
+    }
+    const QByteArray triangle = "solid\n" + facet("0 0 0", "9 0 0", "0 9 0") + "endsolid\n";
+    const QByteArray tetrahedron = "solid\n" + facet("0 0 0", "0 6 0", "6 0 0") + facet("0 0 0", "6 0 0", "0 0 6") +
+                                   facet("0 0 0", "0 0 6", "0 6 0") + facet("6 0 0", "0 6 0", "0 0 6") + "endsolid\n";
 
     /// What the dialog says in the end.
     QString outcome()
@@ -332,17 +353,89 @@ TEST_F(MainWindow, WhatIsDroppedIsReadOrRefusedOnceWithTheSceneKept)
     const olScene::Document before = window.scene().document();
     import(broken.fileName());
     EXPECT_EQ(outcome().count(QStringLiteral("broken.step")), 1) << outcome().toStdString();
+    EXPECT_EQ(window.findChild<olImportDialog *>()->windowTitle(), QStringLiteral("Import Failed"));
+    EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("The import failed."));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Sample - ORLO"));
     EXPECT_EQ(window.scene().document(), before);
 
-    QFile good(path(QStringLiteral("triangle.stl")));
-    ASSERT_TRUE(good.open(QIODevice::WriteOnly));
-    good.write("solid t\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 9 0 0\nvertex 0 9 0\nendloop\nendfacet\n"
-               "endsolid t\n");
-    good.close();
-    import(good.fileName());
+    import(written("triangle.stl", triangle));
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.scene().document() != before; }, 10000));
     EXPECT_EQ(window.scene().triangleCount(), 1u);
     EXPECT_EQ(tree.topLevelItemCount(), 1);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("triangle.stl - ORLO"));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return window.statusBar()->currentMessage() == QLatin1String("triangle.stl was read."); }));
+}
+
+TEST_F(MainWindow, AModelIsAddedOrReplacesInTheUnitThatIsChosenAndIsFoundAgain)
+{
+    const auto read = [this](const QByteArray &word, const char *into, int unit) {
+        EXPECT_TRUE(drop({path(QString::fromLatin1(word))}));
+        auto *dialog = window.findChildren<olImportDialog *>().last();
+        for (QRadioButton *button : dialog->findChildren<QRadioButton *>())
+            button->setChecked(button->text() == QLatin1String(into));
+        dialog->findChildren<QComboBox *>().first()->setCurrentIndex(unit);
+        const olScene::Document before = window.scene().document();
+        emit dialog->findChild<QDialogButtonBox *>()->accepted();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.scene().document() != before; }, 20000));
+        QTest::qWait(20);
+    };
+    const auto fact = [this](const char *title) {
+        const auto *panel = window.findChild<olFactsPanel *>();
+        EXPECT_TRUE(QTest::qWaitFor([panel] { return !panel->isMeasuring(); }, 10000));
+        for (const QLabel *label : panel->findChildren<QLabel *>()) {
+            if (label->text() == QLatin1String(title))
+                return static_cast<const QLabel *>(label->buddy())->text();
+        }
+        return QString();
+    };
+    written("triangle.stl", triangle);
+    written("tetrahedron.stl", tetrahedron);
+    constexpr int centimetres = 1;
+    read("tetrahedron.stl", "&Replace the scene", centimetres);
+    EXPECT_EQ(fact("Size:"), QString::fromUtf8("60 \u00d7 60 \u00d7 60 mm"));
+    EXPECT_EQ(fact("Bounding box:"), QStringLiteral("(0, 0, 0) to (60, 60, 60)"));
+    EXPECT_EQ(fact("Volume:"), QString::fromUtf8("36,000 mm\u00b3"));
+    EXPECT_EQ(fact("Area:"), QString::fromUtf8("8,517.69 mm\u00b2"));
+    EXPECT_EQ(fact("Triangles:"), QStringLiteral("4"));
+
+    window.scene().setHiddenParts({idOf(node("tetrahedron"))});
+    read("triangle.stl", "&Add to the scene", 0);
+    EXPECT_EQ(tree.topLevelItemCount(), 2);
+    EXPECT_EQ(node("tetrahedron").checkState(0), Qt::Unchecked) << "what is hidden stays so";
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("tetrahedron.stl and 1 more - ORLO"));
+    EXPECT_EQ(fact("Parts:"), QStringLiteral("2"));
+    EXPECT_TRUE(fact("Volume:").startsWith(QString::fromUtf8("36,000 mm\u00b3; 1 of the parts")));
+    node("triangle").setSelected(true);
+    EXPECT_EQ(fact("Volume:"), QStringLiteral("none: it is not closed"));
+    EXPECT_EQ(fact("Area:"), QString::fromUtf8("40.5 mm\u00b2"));
+
+    action("New Scene").trigger();
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("ORLO"));
+    const QList<QAction *> recent = window.findChild<olRecentModels *>()->actions();
+    ASSERT_EQ(recent.size(), 4) << "two models, a line and Clear";
+    EXPECT_TRUE(recent.first()->text().startsWith(QLatin1String("&1  triangle.stl")));
+    recent.first()->trigger();
+    EXPECT_TRUE(window.findChild<olImportDialog *>()) << "asks as any import";
+    QFile::remove(path(QStringLiteral("tetrahedron.stl")));
+    window.findChild<olRecentModels *>()->actions().at(1)->trigger();
+    const auto *box = window.findChild<QMessageBox *>();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->icon(), QMessageBox::Critical);
+    EXPECT_EQ(window.findChild<olRecentModels *>()->actions().size(), 3);
+}
+
+TEST_F(MainWindow, SurfacesAreMeasuredAndNotTheirTriangles)
+{
+    node("Seal").setSelected(true);
+    const auto *panel = window.findChild<olFactsPanel *>();
+    EXPECT_TRUE(QTest::qWaitFor([panel] { return !panel->isMeasuring(); }, 10000));
+    QStringList texts;
+    for (const QLabel *label : panel->findChildren<QLabel *>())
+        texts << label->text();
+    // A torus with radii of 24 and 4.
+    EXPECT_TRUE(texts.contains(QString::fromUtf8("7,579.86 mm\u00b3"))) << texts.join(QLatin1Char('|')).toStdString();
+    EXPECT_TRUE(texts.contains(QString::fromUtf8("3,789.93 mm\u00b2"))) << texts.join(QLatin1Char('|')).toStdString();
 }
 
 TEST_F(MainWindow, DevicesMoveTheCameraWhileTheyAreDeflected)
