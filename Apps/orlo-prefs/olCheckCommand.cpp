@@ -17,7 +17,7 @@ QStringList siteFindings(const olPreferencesSession &session, const QString &fil
         throw olToolError(olToolError::tr("Cannot check %1: there is no such file.").arg(file));
     olSiteDefaults site({file}, olSiteOwner::Anyone);
     site.read();
-    session.settleSite(site);
+    session.resolveSite(site);
     return site.takeFaults() << site.unknown();
 }
 

@@ -131,7 +131,7 @@ QWidget *olPreferencesDialog::buildLeft()
     menu->addSeparator();
     auto *profiles = new olProfilesMenu({m_session.store().file(), m_session.siteFiles()}, this);
     menu->addMenu(profiles);
-    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_pending->inForce()); });
+    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_session, *m_pending); });
     connect(profiles, &olProfilesMenu::done, m_message, &olMessageLine::showNote);
     connect(profiles, &olProfilesMenu::failed, m_message, &olMessageLine::showError);
     connect(profiles, &olProfilesMenu::chosen, this, [this](const QString &name, const QString &file) {
@@ -893,12 +893,13 @@ bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
 
 void olPreferencesDialog::showHistory()
 {
-    const olUndo undo(m_session, 0);
-    if (!undo.error().isEmpty()) {
+    const olResult<olUndo> undo = olUndo::of(m_session, 0);
+    if (!undo.isOk()) {
         m_message->showError(undo.error());
         return;
     }
-    auto *view = new olHistoryView(undo.history(), this);
+    auto *view = new olHistoryView(
+        *undo, [this](const std::string &key) { return placeOf(key); }, this);
     view->setAttribute(Qt::WA_DeleteOnClose);
     connect(view, &olHistoryView::chosen, this, &olPreferencesDialog::goBack);
     view->open();
@@ -906,14 +907,14 @@ void olPreferencesDialog::showHistory()
 
 void olPreferencesDialog::goBack(std::size_t saves)
 {
-    const olUndo undo(m_session, saves);
-    if (!undo.error().isEmpty()) {
+    const olResult<olUndo> undo = olUndo::of(m_session, saves);
+    if (!undo.isOk()) {
         m_message->showError(undo.error());
         return;
     }
-    olPreferencesFile::Contents earlier{{}, undo.left()};
-    for (const olStoreRows::Change &change : undo.changes())
-        earlier.settings[change.key.second] = undo.value(change.key, change.after);
+    olPreferencesFile::Contents earlier{{}, undo->left()};
+    for (const olStoreRows::Change &change : undo->changes())
+        earlier.settings[change.key.second] = undo->value(change.key, change.after);
     preview(tr("Go Back"), tr("&Go Back"), earlier);
 }
 

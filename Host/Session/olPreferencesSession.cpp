@@ -137,9 +137,6 @@ QStringList stampsOf(const QStringList &files)
     return stamps;
 }
 
-/// From a sentence that is empty where all went well.
-olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
-
 void setDisplayLanguage()
 {
     const int language = olHostSettings::language.value();
@@ -203,9 +200,12 @@ olPreferencesSession::~olPreferencesSession() { stop(); }
 
 olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
-    const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
-    if (!opening.notice.isEmpty())
-        m_notices << opening.notice;
+    const olResult<olStoreOpening> opened = m_store.open(use);
+    if (opened.isOk()) {
+        m_stored = opened->values;
+        if (!opened->notice.isEmpty())
+            m_notices << opened->notice;
+    }
     for (const auto &[key, value] : m_stored) {
         if (key.first == olHome::Record)
             record().set(key.second, value, true);
@@ -219,7 +219,7 @@ olResult<> olPreferencesSession::loadStore(olStoreUse use)
     if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
     setDisplayLanguage();
-    return resultOf(opening.error);
+    return opened.isOk() ? olResult<>() : olFailure{opened.error()};
 }
 
 void olPreferencesSession::stop()
@@ -242,7 +242,7 @@ void olPreferencesSession::fillDefaults()
     for (olPreferencesEntry *entry : entries())
         entry->setDefaults(false);
 
-    settleSite(m_site);
+    resolveSite(m_site);
     m_notices << m_site.takeFaults();
     for (const auto &[key, list] : optionalLists()) {
         // At this site it has a default like any other.
@@ -260,15 +260,15 @@ void olPreferencesSession::fillDefaults()
     restoreLocked();
 }
 
-void olPreferencesSession::settleSite(olSiteDefaults &site) const
+void olPreferencesSession::resolveSite(olSiteDefaults &site) const
 {
     const auto optional = optionalLists();
     const auto defaultOf = [this, &optional](const std::string &key) {
         const auto list = optional.find(key);
         return list == optional.end() ? defaultValue(key) : list->second.none;
     };
-    site.settle(defaultOf,
-                [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
+    site.resolve(defaultOf,
+                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
 void olPreferencesSession::start()
@@ -368,39 +368,37 @@ olResult<> olPreferencesSession::save()
     keepEmptied();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
-    QString error = m_store.save(changes.changed, changes.removed);
-    if (!error.isEmpty() && m_store.isBroken())
-        error = saveIntoMended(error, kept);
-    if (error.isEmpty() && !(changes.changed.empty() && changes.removed.empty())) {
-        for (const auto &[key, value] : changes.changed)
-            m_stored[key] = olValue::adopted(value);
-        for (const olPreferencesStore::Key &key : changes.removed)
-            m_stored.erase(key);
-    }
-    if (error.isEmpty()) {
-        for (auto held = m_heldBack.begin(); held != m_heldBack.end();)
-            held = isHeldBack(held->first) ? std::next(held) : m_heldBack.erase(held);
-        m_chosen.clear();
-        m_restored.clear();
-    }
-    return resultOf(error);
+    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    if (!saved.isOk() && m_store.isBroken())
+        saved = saveIntoMended({saved.error()}, kept);
+    if (!saved.isOk())
+        return saved;
+    for (const auto &[key, value] : changes.changed)
+        m_stored[key] = olValue::adopted(value);
+    for (const olPreferencesStore::Key &key : changes.removed)
+        m_stored.erase(key);
+    for (auto held = m_heldBack.begin(); held != m_heldBack.end();)
+        held = isHeldBack(held->first) ? std::next(held) : m_heldBack.erase(held);
+    m_chosen.clear();
+    m_restored.clear();
+    return saved;
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
-QString olPreferencesSession::saveIntoMended(const QString &error, const Values &kept)
+olResult<> olPreferencesSession::saveIntoMended(const olFailure &failure, const Values &kept)
 {
-    Values mended;
-    const olStoreOpening opening = m_store.open(mended);
-    if (!opening.error.isEmpty())
-        return error;
+    const olResult<olStoreOpening> opened = m_store.open();
+    if (!opened.isOk())
+        return failure;
     // What another program has mended may hold newer values of its own.
-    const bool isOthers = opening.notice.isEmpty() && !mended.empty();
-    const Changes changes = changesTo(isOthers ? m_stored : mended, kept);
-    QString newError = m_store.save(changes.changed, changes.removed);
-    if (newError.isEmpty() && !opening.notice.isEmpty())
-        m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",
-                                                                  " All settings of this run were then saved into it.");
-    return newError;
+    const bool isOthers = opened->notice.isEmpty() && !opened->values.empty();
+    const Changes changes = changesTo(isOthers ? m_stored : opened->values, kept);
+    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    if (saved.isOk() && !opened->notice.isEmpty())
+        m_notices << opened->notice + QLatin1Char(' ') +
+                         QCoreApplication::translate("olPreferencesSession",
+                                                     "All settings of this run were then saved into it.");
+    return saved;
 }
 
 olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
@@ -459,13 +457,12 @@ void olPreferencesSession::takeOver()
     // What is gone or damaged is the next save's to tell.
     if (m_isChanging || !m_store.mayHaveChanged() || !QFileInfo::exists(m_store.file()))
         return;
-    Values stored;
-    olStoreRows::History history;
-    if (!m_store.load(stored, &history).isEmpty())
+    const olResult<olStoreRows::Contents> contents = m_store.load();
+    if (!contents.isOk())
         return;
-    std::vector<olOutsideChange> changes = replaceStored(stored);
+    std::vector<olOutsideChange> changes = replaceStored(contents->values);
     for (olOutsideChange &change : changes) {
-        for (const olStoreRows::Save &save : history) {
+        for (const olStoreRows::Save &save : contents->history) {
             const bool isIn = std::any_of(save.changes.begin(), save.changes.end(),
                                           [&change](const auto &changed) { return changed.key.second == change.key; });
             if (isIn)
@@ -674,7 +671,7 @@ QStringList olPreferencesSession::check() const
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
-        settleSite(site);
+        resolveSite(site);
     return m_store.check() << site.takeFaults() << site.unknown();
 }
 

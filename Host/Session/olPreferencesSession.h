@@ -25,10 +25,6 @@ class olPreferencesEntry;
 /// Values of settings by their keys, wherever they are kept.
 using olSettingValues = std::map<std::string, boost::any>;
 
-/// What a run does to the store that it loads: a run of its own keeps it in order, one that only looks leaves the disk
-/// as it is.
-enum class olStoreUse { Own, LookAt };
-
 /// A setting that another program has given another value.
 struct olOutsideChange {
     olHome home = olHome::Record;
@@ -102,7 +98,7 @@ public:
     void stop();
 
     /// Holds a site's files against the settings there are, in force here or not.
-    void settleSite(olSiteDefaults &site) const;
+    void resolveSite(olSiteDefaults &site) const;
 
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
     [[nodiscard]] boost::any defaultValue(const std::string &key) const;
@@ -169,7 +165,7 @@ private:
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
-    [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
+    olResult<> saveIntoMended(const olFailure &failure, const olPreferencesStore::Values &kept);
     void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;

@@ -172,17 +172,17 @@ olSiteSetting olSiteDefaults::settingOf(const Line &line, const boost::any &valu
     return {value, line.reason.isEmpty() ? Words::tr("This setting is fixed for your site.") : line.reason};
 }
 
-void olSiteDefaults::settle(const DefaultOf &defaultOf, const WhyNot &whyNot)
+void olSiteDefaults::resolve(const DefaultOf &defaultOf, const WhyNot &whyNot)
 {
     m_settings.clear();
     m_unknown.clear();
     for (const File &file : m_read) {
         for (const Line &line : file.lines)
-            settleLine(file.name, line, defaultOf(line.key), whyNot);
+            resolveLine(file.name, line, defaultOf(line.key), whyNot);
     }
 }
 
-void olSiteDefaults::settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot)
+void olSiteDefaults::resolveLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot)
 {
     const QString key = QString::fromStdString(line.key);
     if (offered.empty()) {

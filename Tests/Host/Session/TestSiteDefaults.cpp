@@ -275,7 +275,7 @@ TEST_F(Site, AFileCountsOnlyWhereRootAloneCanReadAndChangeWhatItSays)
     const auto faults = [&] {
         olSiteDefaults site({name});
         site.read();
-        site.settle([](const std::string &) { return 45.0f; }, [](auto &, auto &) { return QString(); });
+        site.resolve([](const std::string &) { return 45.0f; }, [](auto &, auto &) { return QString(); });
         QStringList found = site.takeFaults();
         EXPECT_EQ(site.settings().size(), found.isEmpty() ? 1u : 0u) << found.join(' ').toStdString();
         return found.join(' ').remove("The site's preferences " + name + " are ignored: ").toStdString();
