@@ -23,4 +23,4 @@ done
 
 install_packages bench
 build bench
-python3 Benchmarks/report.py build-bench/bin "${options[@]}"
+tools/with-display.sh python3 Benchmarks/report.py build-bench/bin "${options[@]}"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Feeds what others may have written, wilfully damaged, to everything that reads it.
 #   ./fuzz.sh                     every reader for ten seconds
-#   ./fuzz.sh --seconds N [READER...]   longer, or only some of: script import site store
+#   ./fuzz.sh --seconds N [READER...]   longer, or only some of: script import site store, and of the formats of models:
+#                                 step iges stl vrml obj gltf ply 3mf dae off
 # An input that crashes, hangs or takes more than its share of memory is kept in build-fuzz/found.
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -13,7 +14,7 @@ if [ "${1:-}" = --seconds ]; then
     shift 2
 fi
 readers=("$@")
-[ "${#readers[@]}" -gt 0 ] || readers=(script import site store)
+[ "${#readers[@]}" -gt 0 ] || readers=(script import site store step iges stl vrml obj gltf ply 3mf dae off)
 
 install_packages
 build fuzz
@@ -21,6 +22,8 @@ build fuzz
 mkdir -p build-fuzz/found
 scratch=$(mktemp -d -p "$([ -d /dev/shm ] && echo /dev/shm || echo /tmp)")
 trap 'rm -rf "$scratch"' EXIT
+# A model is read in a process of its own, which may crash; what crashed there is told by its report.
+export ASAN_OPTIONS=symbolize=1:handle_abort=1:allocator_may_return_null=1
 export LSAN_OPTIONS=suppressions=Tests/fuzz/leaks.supp:print_suppressions=0
 for reader in "${readers[@]}"; do
     corpus=build-fuzz/corpus/$reader

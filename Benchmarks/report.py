@@ -9,6 +9,8 @@ import subprocess
 import sys
 from pathlib import Path
 
+import models
+
 SCALARS = ("bool", "int", "float", "double")
 TYPES = SCALARS + ("text",)
 FRAME = 0.016  # seconds
@@ -171,6 +173,7 @@ def main():
     for group in (record, pages, construction, loading, growth, dialog, save):
         rows += group(program)
     rows += library(options.folder)
+    rows += [at_most(*row) for row in models.rows(options.folder)]
 
     width = max(len(row["name"]) for row in rows)
     for row in rows:

@@ -5,522 +5,523 @@
     <name>QOLColorDialog</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>色を選択</translation>
     </message>
 </context>
 <context>
     <name>QOLColorManipulator</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>色を選択</translation>
     </message>
 </context>
 <context>
     <name>olAbout</name>
     <message>
         <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
     </message>
     <message>
         <source>About ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLOについて</translation>
     </message>
 </context>
 <context>
     <name>olBatch</name>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dビューには、Xディスプレイ (またはXWayland) とOpenGLが必要です。</translation>
     </message>
     <message>
         <source>The model %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル%1を描画できません：%2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1に書き込めません：%2。</translation>
     </message>
 </context>
 <context>
     <name>olChangesView</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Old Value</source>
-        <translation type="unfinished"></translation>
+        <translation>古い値</translation>
     </message>
     <message>
         <source>New Value</source>
-        <translation type="unfinished"></translation>
+        <translation>新しい値</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>&amp;Skipped:</source>
-        <translation type="unfinished"></translation>
+        <translation>スキップ(&amp;S)：</translation>
     </message>
     <message>
         <source>Why</source>
-        <translation type="unfinished"></translation>
+        <translation>理由</translation>
     </message>
     <message>
         <source>Skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>スキップ</translation>
     </message>
     <message>
         <source>&amp;Go There</source>
-        <translation type="unfinished"></translation>
+        <translation>この設定へ移動(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>取り消す(&amp;T)</translation>
     </message>
     <message>
         <source>Take &amp;All Back</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて取り消す(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストとしてコピー(&amp;C)</translation>
     </message>
     <message>
         <source>%1 (%2): %3 -&gt; %4
 </source>
         <comment>place, key, old and new value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2): %3 -&gt; %4
+</translation>
     </message>
 </context>
 <context>
     <name>olExport</name>
     <message>
         <source>%1 is opaque in the file; IGES knows no opacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はファイル内では不透明になります。IGESは不透明度を扱えません。</translation>
     </message>
     <message>
         <source>%1 stands twice in the same place; it is written once.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1が同じ場所に2つあります。書き出すのは1つだけです。</translation>
     </message>
     <message>
         <source>%1 is a mesh, which this format cannot hold; it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はメッシュです。この形式では保持できないため、除外されます。</translation>
     </message>
     <message>
         <source>colours</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>textures</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ</translation>
     </message>
     <message>
         <source>groups of parts</source>
-        <translation type="unfinished"></translation>
+        <translation>パーツのグループ</translation>
     </message>
     <message>
         <source>%1 knows no %2; they are not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は%2を扱えません。これらは書き出されません。</translation>
     </message>
     <message>
         <source> and no </source>
-        <translation type="unfinished"></translation>
+        <translation> と </translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>一時ディレクトリに書き込めません</translation>
     </message>
     <message>
         <source>the writer failed</source>
-        <translation type="unfinished"></translation>
+        <translation>書き出しに失敗しました</translation>
     </message>
     <message>
         <source>the folder %1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー%1を作成できません</translation>
     </message>
     <message>
         <source>there is nothing that this format can hold</source>
-        <translation type="unfinished"></translation>
+        <translation>この形式で保持できるものがありません</translation>
     </message>
     <message>
         <source>the writer failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>書き出しに失敗しました (%1)</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1に書き込めません：%2。</translation>
     </message>
 </context>
 <context>
     <name>olFieldGuard</name>
     <message>
         <source>Only %1 can be entered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに入力できるのは%1だけです。</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値</translation>
     </message>
 </context>
 <context>
     <name>olFoldHeader</name>
     <message>
         <source>Folded</source>
-        <translation type="unfinished"></translation>
+        <translation>折りたたみ</translation>
     </message>
     <message>
         <source>Unfolded</source>
-        <translation type="unfinished"></translation>
+        <translation>展開</translation>
     </message>
 </context>
 <context>
     <name>olFoundSettings</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>場所</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>設定元</translation>
     </message>
     <message>
         <source>Settings found</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかった設定</translation>
     </message>
 </context>
 <context>
     <name>olGivenSettings</name>
     <message>
         <source>&quot;%1&quot; is no setting: expected &quot;KEY=VALUE&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は設定ではありません：「KEY=VALUE」の形が必要です</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>設定「%1」はありません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is only set where somebody can be asked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は、確認に答えられる人がいる場合にのみ設定されます：%2</translation>
     </message>
 </context>
 <context>
     <name>olHistoryView</name>
     <message>
         <source>&amp;Go Back...</source>
-        <translation type="unfinished"></translation>
+        <translation>以前の状態に戻す(&amp;G)...</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴</translation>
     </message>
     <message>
         <source>Nothing has been saved yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ何も保存されていません。</translation>
     </message>
     <message>
         <source>Going back takes back the save that is chosen and all later ones. What that changes is shown first.</source>
-        <translation type="unfinished"></translation>
+        <translation>以前の状態に戻すと、選択した保存とそれ以降の保存がすべて取り消されます。それによって変わる内容は、事前に表示されます。</translation>
     </message>
     <message>
         <source>Saves</source>
-        <translation type="unfinished"></translation>
+        <translation>保存の一覧</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>日時</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラム</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値</translation>
     </message>
     <message>
         <source>%1: %2 to %3</source>
         <comment>setting, old and new value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2 → %3</translation>
     </message>
     <message>
         <source>%1 settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件の設定</translation>
     </message>
 </context>
 <context>
     <name>olHostStatePanel</name>
     <message>
         <source>%1 (only recorded)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (記録のみ)</translation>
     </message>
     <message>
         <source>Host state</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストの状態</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルター</translation>
     </message>
     <message>
         <source>Filter the host state</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストの状態をフィルター</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
 </context>
 <context>
     <name>olImport</name>
     <message>
         <source>the system ended its reader, probably for want of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みプロセスがシステムによって終了されました (おそらくメモリー不足のため)</translation>
     </message>
     <message>
         <source>the file is damaged in a way that makes its reader crash</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの破損により読み込みプロセスが異常終了しました</translation>
     </message>
     <message>
         <source>its reader failed</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みプロセスが失敗しました</translation>
     </message>
     <message>
         <source>its reader cannot be started (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みプロセスを起動できません (%1)</translation>
     </message>
     <message>
         <source>its reader %1 cannot be started (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みプロセス%1を起動できません (%2)</translation>
     </message>
     <message>
         <source>reading it made no progress for %1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みが%1秒間進みませんでした</translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>一時ディレクトリに書き込めません</translation>
     </message>
     <message>
         <source>Cannot read %1: this is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を読み込めません：これはフォルダーです。</translation>
     </message>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を読み込めません：%2。</translation>
     </message>
     <message>
         <source>%1 has faulty surfaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1に不正なサーフェスがあります。</translation>
     </message>
     <message>
         <source>%1 of the faces of %2 cannot be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2の面のうち%1個を描画できません。</translation>
     </message>
     <message>
         <source>Gaps of %1 up to %2 mm are closed; %3 would distort it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の隙間は%2 mmまで閉じられます。%3 mmでは形状が歪みます。</translation>
     </message>
     <message>
         <source>The faces of %1 are not joined; that would distort it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の面は接合されません。接合すると形状が歪みます。</translation>
     </message>
     <message>
         <source>it has more than a million parts</source>
-        <translation type="unfinished"></translation>
+        <translation>パーツの数が100万を超えています</translation>
     </message>
     <message>
         <source>the file is damaged: it has triangles without their points, or points beyond all measure</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：点のない三角形、または座標が異常に大きい点があります</translation>
     </message>
     <message>
         <source>there is no geometry in it</source>
-        <translation type="unfinished"></translation>
+        <translation>ジオメトリがありません</translation>
     </message>
     <message>
         <source>the import options leave nothing of it</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートオプションによりすべて除外されます</translation>
     </message>
     <message>
         <source>the reader failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みに失敗しました (%1)</translation>
     </message>
     <message>
         <source>there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリーが足りません</translation>
     </message>
     <message>
         <source>in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>(ファイル内)</translation>
     </message>
     <message>
         <source>The texture %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ%1が見つかりませんでした。</translation>
     </message>
     <message>
         <source>The texture %1 is too large, with %2 by %3 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ%1は大きすぎます (%2 × %3ピクセル)。</translation>
     </message>
     <message>
         <source>The texture %1 cannot be read: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ%1を読み込めません：%2。</translation>
     </message>
     <message>
         <source>A part without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前のないパーツ</translation>
     </message>
 </context>
 <context>
     <name>olImportDialog</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ほか%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>Center to Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>原点に中心を合わせる</translation>
     </message>
     <message>
         <source>Place Objects on the Ground</source>
-        <translation type="unfinished"></translation>
+        <translation>オブジェクトを地面に配置</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート</translation>
     </message>
     <message>
         <source>Edit &gt; Preferences &gt; FileIO decides over these, format by format.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらは「編集 &gt; 環境設定 &gt; ファイル入出力」で形式ごとに設定します。</translation>
     </message>
     <message>
         <source>Progress of the import</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートの進行状況</translation>
     </message>
     <message>
         <source>Outcome of the import</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートの結果</translation>
     </message>
 </context>
 <context>
     <name>olImportSummary</name>
     <message>
         <source>%1: none</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：なし</translation>
     </message>
     <message>
         <source>%1: all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：すべて</translation>
     </message>
     <message>
         <source>%1: visible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：表示中のみ</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>the usual one</source>
-        <translation type="unfinished"></translation>
+        <translation>通常</translation>
     </message>
     <message>
         <source>chords within %1 mm, normals within %2°</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差%1 mm以内、法線偏差%2°以内</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>形式</translation>
     </message>
     <message>
         <source>Fineness</source>
-        <translation type="unfinished"></translation>
+        <translation>細かさ</translation>
     </message>
     <message>
         <source>Stitching</source>
-        <translation type="unfinished"></translation>
+        <translation>ステッチ</translation>
     </message>
     <message>
         <source>gaps up to %1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>隙間%1 mmまで</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>サーフェス</translation>
     </message>
     <message>
         <source>curves</source>
-        <translation type="unfinished"></translation>
+        <translation>曲線</translation>
     </message>
     <message>
         <source>meshes</source>
-        <translation type="unfinished"></translation>
+        <translation>メッシュ</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Tidied up</source>
-        <translation type="unfinished"></translation>
+        <translation>整理</translation>
     </message>
     <message>
         <source>meshes merged</source>
-        <translation type="unfinished"></translation>
+        <translation>メッシュを結合</translation>
     </message>
     <message>
         <source>empty groups removed</source>
-        <translation type="unfinished"></translation>
+        <translation>空のグループを削除</translation>
     </message>
     <message>
         <source>normals unified</source>
-        <translation type="unfinished"></translation>
+        <translation>法線を統一</translation>
     </message>
     <message>
         <source>Checks</source>
-        <translation type="unfinished"></translation>
+        <translation>チェック</translation>
     </message>
     <message>
         <source>geometry verified</source>
-        <translation type="unfinished"></translation>
+        <translation>ジオメトリを検証</translation>
     </message>
     <message>
         <source>faults repaired</source>
-        <translation type="unfinished"></translation>
+        <translation>不具合を修復</translation>
     </message>
     <message>
         <source>Textures</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ</translation>
     </message>
     <message>
         <source>beside the model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデルと同じ場所</translation>
     </message>
     <message>
         <source>beside the model, and in %1 directories</source>
-        <translation type="unfinished"></translation>
+        <translation>モデルと同じ場所、および%1個のディレクトリ</translation>
     </message>
 </context>
 <context>
@@ -528,252 +529,252 @@
     <message>
         <source>%1, %2</source>
         <comment>control, part of it</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
     <name>olJournalPanel</name>
     <message>
         <source>Host calls</source>
-        <translation type="unfinished"></translation>
+        <translation>ホスト呼び出し</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>クリア(&amp;L)</translation>
     </message>
 </context>
 <context>
     <name>olJoystickLink</name>
     <message>
         <source>There is no joystick %1: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョイスティック%1がありません：%2：%3。</translation>
     </message>
     <message>
         <source>Joystick %1 is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョイスティック%1を使用しています。</translation>
     </message>
     <message>
         <source>Joystick %1 has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョイスティック%1の接続が切れました。</translation>
     </message>
 </context>
 <context>
     <name>olJsonObject</name>
     <message>
         <source>here or just before, this is no JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>この位置またはその直前がJSONではありません</translation>
     </message>
     <message>
         <source>an object is expected, as {&quot;key&quot;: {&quot;value&quot;: 1}}</source>
-        <translation type="unfinished"></translation>
+        <translation>{&quot;key&quot;: {&quot;value&quot;: 1}}のようなオブジェクトが必要です</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands here a second time</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」が重複しています</translation>
     </message>
 </context>
 <context>
     <name>olLibraryFault</name>
     <message>
         <source>it is no library</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブラリではありません</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>末尾が欠けています</translation>
     </message>
 </context>
 <context>
     <name>olMainWindow</name>
     <message>
         <source>ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO</translation>
     </message>
     <message>
         <source>Edit &gt; Preferences changes what you see here.</source>
-        <translation type="unfinished"></translation>
+        <translation>「編集 &gt; 環境設定」で、ここに表示される内容を変更できます。</translation>
     </message>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dビューには、Xディスプレイ (またはXWayland) とOpenGLが必要です。環境設定はこれらがなくても使用できます。</translation>
     </message>
     <message>
         <source>%1 frames/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1フレーム/秒</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>シーン</translation>
     </message>
     <message>
         <source>Host State</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストの状態</translation>
     </message>
     <message>
         <source>Host Calls</source>
-        <translation type="unfinished"></translation>
+        <translation>ホスト呼び出し</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>Show &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて表示(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Zoom To</source>
-        <translation type="unfinished"></translation>
+        <translation>選択部分へズーム(&amp;Z)</translation>
     </message>
     <message>
         <source>Brings what is selected near</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したものを近くに表示します。</translation>
     </message>
     <message>
         <source>Stereo for &amp;Red and Cyan Glasses</source>
-        <translation type="unfinished"></translation>
+        <translation>赤青メガネ用ステレオ(&amp;R)</translation>
     </message>
     <message>
         <source>Trace Ra&amp;ys</source>
-        <translation type="unfinished"></translation>
+        <translation>レイトレーシング(&amp;Y)</translation>
     </message>
     <message>
         <source>&amp;Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>エッジ(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;New Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいシーン(&amp;N)</translation>
     </message>
     <message>
         <source>Open the &amp;Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプルを開く(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;About ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLOについて(&amp;A)</translation>
     </message>
 </context>
 <context>
     <name>olMessageLine</name>
     <message>
         <source>Close the message</source>
-        <translation type="unfinished"></translation>
+        <translation>メッセージを閉じる</translation>
     </message>
 </context>
 <context>
     <name>olModelFiles</name>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスポート(&amp;E)...</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスポート</translation>
     </message>
     <message>
         <source>%1 was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を読み込みました。</translation>
     </message>
     <message>
         <source>ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO</translation>
     </message>
 </context>
 <context>
     <name>olModelFormat</name>
     <message>
         <source>files without a suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張子のないファイル</translation>
     </message>
     <message>
         <source>.%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>.%1ファイル</translation>
     </message>
     <message>
         <source>Cannot read %1: there is no reader for %2. These can be read: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を読み込めません：%2の読み込みには対応していません。読み込み可能な形式：%3。</translation>
     </message>
     <message>
         <source>Cannot write %1: there is no writer for %2. These can be written: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1に書き込めません：%2の書き出しには対応していません。書き出し可能な形式：%3。</translation>
     </message>
     <message>
         <source>Models (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル (%1)</translation>
     </message>
 </context>
 <context>
     <name>olModuleTree</name>
     <message>
         <source>Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュール</translation>
     </message>
     <message>
         <source>Has changes that are not applied yet</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ適用されていない変更があります</translation>
     </message>
 </context>
 <context>
     <name>olNumberText</name>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値</translation>
     </message>
     <message>
         <source>a number from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1以上の数値</translation>
     </message>
     <message>
         <source>a number up to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1以下の数値</translation>
     </message>
     <message>
         <source>a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2の数値</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2の整数</translation>
     </message>
 </context>
 <context>
     <name>olOSGWidget</name>
     <message>
         <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one. Nothing is clipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリッピング平面%1と%2は受け付けられません：0より大きい2つの数値で、遠いほうが近いほうより大きい必要があります。クリッピングは行われません。</translation>
     </message>
 </context>
 <context>
@@ -781,1690 +782,1690 @@
     <message>
         <source>%1 set %2 to %3.</source>
         <comment>program, setting and value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1が「%2」を「%3」に設定しました。</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラム</translation>
     </message>
     <message>
         <source>%1 more settings were changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ほかに%1件の設定が変更されました。</translation>
     </message>
     <message>
         <source>Your change to %1 is pending.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」への変更は保留中です。</translation>
     </message>
     <message>
         <source>&amp;Use %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を使用(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Keep %1</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を維持(&amp;K)</translation>
     </message>
 </context>
 <context>
     <name>olPageIndex</name>
     <message>
         <source>%1 controls answer to &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>「%2」に該当するコントロールが%1個あります：%3</translation>
     </message>
     <message>
         <source>there is no control &quot;%1&quot;; there is: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>コントロール「%1」はありません。使用できるのは次のとおりです：%2</translation>
     </message>
 </context>
 <context>
     <name>olPluginLoader</name>
     <message>
         <source>Cannot load the preferences plug-in: there is neither %1 nor %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定プラグインを読み込めません：%1も%2もありません。</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>そのようなファイルはありません</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルではありません</translation>
     </message>
     <message>
         <source>it has no entry function %1</source>
-        <translation type="unfinished"></translation>
+        <translation>エントリー関数%1がありません</translation>
     </message>
     <message>
         <source>a module could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュールを構築できませんでした：%1</translation>
     </message>
     <message>
         <source>a module could not be built, and does not say why</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュールを構築できませんでした (理由は不明です)</translation>
     </message>
     <message>
         <source>Cannot load the preferences plug-in %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定プラグイン%1を読み込めません：%2。</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesDialog</name>
     <message>
         <source>No Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更なし</translation>
     </message>
     <message>
         <source>1 Chan&amp;ge...</source>
-        <translation type="unfinished"></translation>
+        <translation>1件の変更(&amp;G)...</translation>
     </message>
     <message>
         <source>%1 Chan&amp;ges...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件の変更(&amp;G)...</translation>
     </message>
     <message>
         <source>Changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>変更済みのみ</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>Restore &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを既定値に戻す(&amp;P)</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索</translation>
     </message>
     <message>
         <source>Search all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定を検索</translation>
     </message>
     <message>
         <source>Finds settings by label, group, tooltip, choice and key (Ctrl+F).</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベル、グループ、ツールチップ、選択肢、キーで設定を検索します (Ctrl+F)。</translation>
     </message>
     <message>
         <source>Lists the settings that differ from their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値と異なる設定を一覧表示します。</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスポート(&amp;E)...</translation>
     </message>
     <message>
         <source>Apply Profile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル「%1」の適用</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;History...</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて既定値に戻す(&amp;R)</translation>
     </message>
     <message>
         <source>Shows the defaults of this page. Nothing changes before OK or Apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>このページに既定値を表示します。「OK」または「適用」を押すまで何も変わりません。</translation>
     </message>
     <message>
         <source>Lists what OK and Apply will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>「OK」と「適用」で変更される内容を一覧表示します。</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
         <source>%1 is locked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はロックされています：%2</translation>
     </message>
     <message>
         <source>&amp;Stay</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイアログに戻る(&amp;S)</translation>
     </message>
     <message>
         <source>This change is not applied yet and would be lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>この変更はまだ適用されておらず、失われます：</translation>
     </message>
     <message>
         <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>これら%1件の変更はまだ適用されておらず、失われます：</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>ほか%1件</translation>
     </message>
     <message>
         <source>All settings have their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定が既定値になっています。</translation>
     </message>
     <message>
         <source>All pages show their defaults. OK or Apply makes them count, Cancel takes them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのページに既定値が表示されています。「OK」または「適用」で有効になり、「キャンセル」で取り消されます。</translation>
     </message>
     <message>
         <source>%1 Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件ロック済み</translation>
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック済み</translation>
     </message>
     <message>
         <source>pending</source>
-        <translation type="unfinished"></translation>
+        <translation>保留中</translation>
     </message>
     <message>
         <source>yours</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー</translation>
     </message>
     <message>
         <source>the site&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>サイト</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定が既定値です。</translation>
     </message>
     <message>
         <source>Nothing matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」に一致するものはありません。</translation>
     </message>
     <message>
         <source>1 Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>1件の設定</translation>
     </message>
     <message>
         <source>%1 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件の設定</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>module and setting</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>edited</source>
-        <translation type="unfinished"></translation>
+        <translation>編集済み</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>Import Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定のインポート</translation>
     </message>
     <message>
         <source>Preferences (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定 (*.json);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート(&amp;I)</translation>
     </message>
     <message>
         <source>Nothing would change.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更される設定はありません。</translation>
     </message>
     <message>
         <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの設定に新しい値が入ります。「OK」または「適用」を押すまでは保留中です。</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>以前の状態に戻す</translation>
     </message>
     <message>
         <source>&amp;Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>以前の状態に戻す(&amp;G)</translation>
     </message>
     <message>
         <source>Export Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定のエクスポート</translation>
     </message>
     <message>
         <source>preferences.json</source>
-        <translation type="unfinished"></translation>
+        <translation>preferences.json</translation>
     </message>
     <message>
         <source>The preferences were written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定を%1に書き出しました。</translation>
     </message>
     <message>
         <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在有効な環境設定を、保留中の変更を除いて%1に書き出しました。</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesFile</name>
     <message>
         <source>It is no file of preferences: it names no format.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定ファイルではありません：形式が示されていません。</translation>
     </message>
     <message>
         <source>It is no file of preferences: its format is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定ファイルではありません：未知の形式です。</translation>
     </message>
     <message>
         <source>It was written by a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>より新しいバージョンで書き込まれています。</translation>
     </message>
     <message>
         <source>has no type or no value</source>
-        <translation type="unfinished"></translation>
+        <translation>型または値がありません</translation>
     </message>
     <message>
         <source>is of the unknown type &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>未知の型「%1」です</translation>
     </message>
     <message>
         <source>is not %1, as its type %2 asks for</source>
-        <translation type="unfinished"></translation>
+        <translation>型%2に必要な%1ではありません</translation>
     </message>
     <message>
         <source>Line %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1行目：%2。</translation>
     </message>
     <message>
         <source>It lists no settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定が1つも含まれていません。</translation>
     </message>
     <message>
         <source>Cannot write the preferences to %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定を%1に書き出せません：%2。</translation>
     </message>
     <message>
         <source>Cannot read the preferences from %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1から環境設定を読み込めません：%2。</translation>
     </message>
     <message>
         <source>Cannot import %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1をインポートできません。%2</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesSession</name>
     <message>
         <source> All settings of this run were then saved into it.</source>
-        <translation type="unfinished"></translation>
+        <translation> その後、今回の実行でのすべての設定がこのファイルに保存されました。</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1 were changed. That counts from the next start of the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトの環境設定%1が変更されました。変更はプログラムの次回の起動時から有効になります。</translation>
     </message>
     <message>
         <source>is locked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックされています：%1</translation>
     </message>
     <message>
         <source>is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な設定です</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
     <message>
         <source>Cannot read the preferences %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定%1を読み込めません：%2。</translation>
     </message>
     <message>
         <source> Use that version. If there is none, the file is damaged: move it away to start with defaults</source>
-        <translation type="unfinished"></translation>
+        <translation> そのバージョンを使用してください。それがない場合、ファイルは破損しています。対処方法：ファイルを移動して既定値で開始する</translation>
     </message>
     <message>
         <source>, or rename its copy %1 to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>、またはバックアップ%1の名前をこのファイルの名前に変更する。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定ファイル%1は破損しています：%2。%3</translation>
     </message>
     <message>
         <source>The copy of %1 was loaded; what was changed after that is not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のバックアップを読み込みました。その後に変更された内容は含まれていません。</translation>
     </message>
     <message>
         <source>There is no copy of it yet, so all settings are at their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップはまだないため、すべての設定が既定値になっています。</translation>
     </message>
     <message>
         <source>Its copy cannot be read either (%1), so all settings are at their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>バックアップも読み込めないため (%1)、すべての設定が既定値になっています。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2. </source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定ファイル%1は破損しています：%2。 </translation>
     </message>
     <message>
         <source>its folder is read-only, or another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーが読み取り専用か、別のプログラムがファイルを使用中です</translation>
     </message>
     <message>
         <source>It is now kept as %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>現在は%1として保管されています。 </translation>
     </message>
     <message>
         <source>It could not be set aside: %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>別の場所に移せませんでした：%1。 </translation>
     </message>
     <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定を%1に保存できません：%2。以前の内容は変わっていません。</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olProfiles</name>
     <message>
         <source>&quot;%1&quot; is no name for a profile: it must not be empty, have a slash in it or begin with a dot.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はプロファイルの名前に使用できません：空であったり、スラッシュを含んだり、ドットで始まったりしてはいけません。</translation>
     </message>
     <message>
         <source>There is no profile &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル「%1」はありません。</translation>
     </message>
     <message>
         <source>Cannot make the folder %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー%1を作成できません。</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; is the site&apos;s and cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル「%1」はサイトのものなので、削除できません。</translation>
     </message>
     <message>
         <source>Cannot delete the profile %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル%1を削除できません：%2。</translation>
     </message>
 </context>
 <context>
     <name>olProfilesMenu</name>
     <message>
         <source>&amp;Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>%1 (site)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (サイト)</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を付けて保存(&amp;S)...</translation>
     </message>
     <message>
         <source>Save Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイルの保存</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>名前(&amp;N)：</translation>
     </message>
     <message>
         <source>The settings in force were saved as profile &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>現在有効な設定をプロファイル「%1」として保存しました。</translation>
     </message>
     <message>
         <source>There is a profile &quot;%1&quot; already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル「%1」は既に存在します。置き換えますか？</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイルの削除</translation>
     </message>
     <message>
         <source>Delete the profile &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル「%1」を削除しますか？</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイル「%1」を削除しました。</translation>
     </message>
 </context>
 <context>
     <name>olReason</name>
     <message>
         <source>this is no 3MF file</source>
-        <translation type="unfinished"></translation>
+        <translation>3MFファイルではありません</translation>
     </message>
     <message>
         <source>this is no COLLADA file</source>
-        <translation type="unfinished"></translation>
+        <translation>COLLADAファイルではありません</translation>
     </message>
     <message>
         <source>the file is cut off or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが途中で切れているか、破損しています</translation>
     </message>
     <message>
         <source>the file is damaged or of another format</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しているか、別の形式です</translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>一時ディレクトリに書き込めません</translation>
     </message>
     <message>
         <source>the file %1 that it refers to cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>参照しているファイル%1を読み込めません</translation>
     </message>
     <message>
         <source>the file %1 that it refers to is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>参照しているファイル%1が途中で切れています</translation>
     </message>
     <message>
         <source>it requires the extension %1, which is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>サポートされていない拡張機能%1が必要です</translation>
     </message>
     <message>
         <source>the file is damaged: a node refers to one that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：存在しないノードを参照しているノードがあります</translation>
     </message>
     <message>
         <source>its groups are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>グループの入れ子が深すぎます</translation>
     </message>
     <message>
         <source>the file is damaged: a part of it lies beyond its end</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：一部がファイルの末尾を超えています</translation>
     </message>
     <message>
         <source>the file is damaged: it announces more than it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：宣言された内容よりも実際の内容が少なくなっています</translation>
     </message>
     <message>
         <source>this is no glTF file</source>
-        <translation type="unfinished"></translation>
+        <translation>glTFファイルではありません</translation>
     </message>
     <message>
         <source>this is no IGES file</source>
-        <translation type="unfinished"></translation>
+        <translation>IGESファイルではありません</translation>
     </message>
     <message>
         <source>the file is damaged in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの%1行目が破損しています</translation>
     </message>
     <message>
         <source>its content cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>内容を取り込めません</translation>
     </message>
     <message>
         <source>a point lacks a coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>座標が欠けている点があります</translation>
     </message>
     <message>
         <source>a face has fewer than three corners</source>
-        <translation type="unfinished"></translation>
+        <translation>頂点が3つ未満の面があります</translation>
     </message>
     <message>
         <source>a face refers to a point that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>存在しない点を参照している面があります</translation>
     </message>
     <message>
         <source>this is no OBJ file</source>
-        <translation type="unfinished"></translation>
+        <translation>OBJファイルではありません</translation>
     </message>
     <message>
         <source>the file is cut off or damaged: in line %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが途中で切れているか、破損しています：%1行目：%2</translation>
     </message>
     <message>
         <source>the file is cut off or damaged: it ends within its points</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが途中で切れているか、破損しています：点の途中で終わっています</translation>
     </message>
     <message>
         <source>The model ends with points that no face uses; the file may be cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>モデルの末尾に、どの面にも使用されない点があります。ファイルが途中で切れている可能性があります。</translation>
     </message>
     <message>
         <source>The materials file %1 is not there; the model has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>マテリアルファイル%1がありません。モデルには色が付きません。</translation>
     </message>
     <message>
         <source>this is no OFF file</source>
-        <translation type="unfinished"></translation>
+        <translation>OFFファイルではありません</translation>
     </message>
     <message>
         <source>this is no PLY file</source>
-        <translation type="unfinished"></translation>
+        <translation>PLYファイルではありません</translation>
     </message>
     <message>
         <source>the file is damaged: #%1 refers to #%2, which is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：#%1が、存在しない#%2を参照しています</translation>
     </message>
     <message>
         <source>the file is damaged: its parentheses are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：括弧の入れ子が深すぎます</translation>
     </message>
     <message>
         <source>this is no STEP file</source>
-        <translation type="unfinished"></translation>
+        <translation>STEPファイルではありません</translation>
     </message>
     <message>
         <source>%1 bytes behind its end were passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>末尾より後の%1バイトは無視されました。</translation>
     </message>
     <message>
         <source>this is no STL file</source>
-        <translation type="unfinished"></translation>
+        <translation>STLファイルではありません</translation>
     </message>
     <message>
         <source>%1 of its numbers are words, which count as 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>数値のうち%1個が文字になっています。これらは0とみなされます。</translation>
     </message>
     <message>
         <source>The solid %1 is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>ソリッド%1は空です。</translation>
     </message>
     <message>
         <source>there is no geometry in it</source>
-        <translation type="unfinished"></translation>
+        <translation>ジオメトリがありません</translation>
     </message>
     <message>
         <source>this is no VRML file</source>
-        <translation type="unfinished"></translation>
+        <translation>VRMLファイルではありません</translation>
     </message>
     <message>
         <source>the file is damaged (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています (%1)</translation>
     </message>
     <message>
         <source>the file is damaged: line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：%1行目を解釈できません (%2)</translation>
     </message>
     <message>
         <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>シェイプのうち%1個は線、点、またはテキストのため、除外されます。</translation>
     </message>
     <message>
         <source>a group in it holds itself</source>
-        <translation type="unfinished"></translation>
+        <translation>自分自身を含むグループがあります</translation>
     </message>
     <message>
         <source>the file is damaged: a face refers to a point that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています：存在しない点を参照している面があります</translation>
     </message>
     <message>
         <source>The file %1 that it refers to was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>参照しているファイル%1が見つかりませんでした。</translation>
     </message>
     <message>
         <source>it refers to itself through %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を介して自分自身を参照しています</translation>
     </message>
     <message>
         <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>メッシュのうち%1個は線または点のため、除外されます。</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>そのようなファイルはありません</translation>
     </message>
     <message>
         <source>this is no file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルではありません</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが空です</translation>
     </message>
     <message>
         <source>the file is too large for this machine: %1 GB with %2 GB of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>このマシンにはファイルが大きすぎます：%1 GB (メモリーは%2 GB)</translation>
     </message>
     <message>
         <source>the file is too large: %1 GB, of which 2 can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが大きすぎます：%1 GB (読み込めるのは2 GBまで)</translation>
     </message>
 </context>
 <context>
     <name>olRgbFields</name>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>赤</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>緑</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>青</translation>
     </message>
     <message>
         <source>R</source>
         <comment>red</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>G</source>
         <comment>green</comment>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>B</source>
         <comment>blue</comment>
-        <translation type="unfinished"></translation>
+        <translation>B</translation>
     </message>
 </context>
 <context>
     <name>olSandbox</name>
     <message>
         <source>The system has no Landlock; models are read without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このシステムにはLandlockがありません。モデルはLandlockなしで読み込まれます。</translation>
     </message>
     <message>
         <source>The system takes no seccomp filter; models are read without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このシステムはseccompフィルターを受け付けません。モデルはフィルターなしで読み込まれます。</translation>
     </message>
 </context>
 <context>
     <name>olSceneLoaders</name>
     <message>
         <source>OpenSG could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenSGを起動できませんでした。</translation>
     </message>
     <message>
         <source>OpenSG has no loader for %1; options for it are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenSGには%1のローダーがありません。そのオプションは保持されません。</translation>
     </message>
 </context>
 <context>
     <name>olSceneTree</name>
     <message>
         <source>Level %1</source>
-        <translation type="unfinished"></translation>
+        <translation>レベル%1</translation>
     </message>
     <message>
         <source>Unnamed group</source>
-        <translation type="unfinished"></translation>
+        <translation>名前のないグループ</translation>
     </message>
     <message>
         <source>Unnamed part</source>
-        <translation type="unfinished"></translation>
+        <translation>名前のないパーツ</translation>
     </message>
     <message>
         <source>Triangles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>三角形：%1</translation>
     </message>
     <message>
         <source>Colour: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>色：%1</translation>
     </message>
     <message>
         <source>Opacity: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度：%1 %</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>シーン</translation>
     </message>
     <message>
         <source>Nothing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>何も開かれていません。</translation>
     </message>
 </context>
 <context>
     <name>olSceneView</name>
     <message>
         <source>The 3D view needs an X display.</source>
-        <translation type="unfinished"></translation>
+        <translation>3DビューにはXディスプレイが必要です。</translation>
     </message>
     <message>
         <source>The OpenGL context of this display cannot be used for the 3D view.</source>
-        <translation type="unfinished"></translation>
+        <translation>このディスプレイのOpenGLコンテキストは3Dビューに使用できません。</translation>
     </message>
 </context>
 <context>
     <name>olSettingDescription</name>
     <message>
         <source>one of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1のいずれか</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1文字以内のテキスト</translation>
     </message>
     <message>
         <source>three numbers from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2の3つの数値</translation>
     </message>
     <message>
         <source>is of the type %1, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>型%2ではなく型%1です</translation>
     </message>
     <message>
         <source>cannot be %1: expected %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1にはできません：%2が必要です</translation>
     </message>
 </context>
 <context>
     <name>olSettingMarks</name>
     <message>
         <source>Differs from its default.</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値と異なります。</translation>
     </message>
     <message>
         <source>Differs from its default. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値と異なります。%1</translation>
     </message>
 </context>
 <context>
     <name>olSettingMenu</name>
     <message>
         <source>Set by the site, and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトによる設定 (ロック済み)</translation>
     </message>
     <message>
         <source>Changed, not applied yet</source>
-        <translation type="unfinished"></translation>
+        <translation>変更済み (未適用)</translation>
     </message>
     <message>
         <source>Set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーによる設定</translation>
     </message>
     <message>
         <source>Set by the site</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトによる設定</translation>
     </message>
     <message>
         <source>The default</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished"></translation>
+        <translation>次回のインポート時に有効になります</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>次回の起動時に有効になります</translation>
     </message>
     <message>
         <source>Is only recorded by this host</source>
-        <translation type="unfinished"></translation>
+        <translation>このホストでは記録されるだけです</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>取り消す(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Reset to Default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値に戻す(&amp;R)：%1</translation>
     </message>
     <message>
         <source>Copy &amp;Key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>キー「%1」をコピー(&amp;K)</translation>
     </message>
     <message>
         <source>Copy as &amp;JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSONとしてコピー(&amp;J)</translation>
     </message>
     <message>
         <source>&amp;Why Is This Locked?</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックされている理由(&amp;W)</translation>
     </message>
 </context>
 <context>
     <name>olSettingsLock</name>
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル%1は使用中です：%2 (プロセス%3) がロックを保持しています。保存する内容は、ロックの解除を待っています。</translation>
     </message>
 </context>
 <context>
     <name>olSiteDefaults</name>
     <message>
         <source>it cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込めません：%1</translation>
     </message>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のファイルではありません</translation>
     </message>
     <message>
         <source>only root may own and write the file and its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルとそのフォルダーの所有と書き込みは、rootだけに限られている必要があります</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1行目：%2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has neither a &quot;value&quot; nor a lock</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」には「value」もロックもありません</translation>
     </message>
     <message>
         <source>takes true or false for &quot;locked&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「locked」にはtrueまたはfalseを指定してください</translation>
     </message>
     <message>
         <source>takes a text for &quot;reason&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「reason」にはテキストを指定してください</translation>
     </message>
     <message>
         <source>has &quot;%1&quot;, where only &quot;value&quot;, &quot;locked&quot; and &quot;reason&quot; can stand</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」がありますが、指定できるのは「value」、「locked」、「reason」だけです</translation>
     </message>
     <message>
         <source>This setting is fixed for your site.</source>
-        <translation type="unfinished"></translation>
+        <translation>この設定はサイトで固定されています。</translation>
     </message>
     <message>
         <source>%1, line %2: no module has a setting &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1の%2行目：設定「%3」を持つモジュールはありません。</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1 are ignored: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトの環境設定%1は無視されます：%2。</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1, line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトの環境設定%1の%2行目：%3。</translation>
     </message>
 </context>
 <context>
     <name>olSpacemouseLink</name>
     <message>
         <source>Cannot look for a 3D mouse: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dマウスを探せません：%1</translation>
     </message>
     <message>
         <source>There is no 3D mouse: its daemon, spacenavd, is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dマウスがありません：デーモンspacenavdが動作していません。</translation>
     </message>
     <message>
         <source>Connected to the daemon of the 3D mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dマウスのデーモンに接続しました。</translation>
     </message>
     <message>
         <source>The daemon of the 3D mouse has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dマウスのデーモンとの接続が切れました。</translation>
     </message>
 </context>
 <context>
     <name>olSqlite</name>
     <message>
         <source>no space left on the device</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスに空き容量がありません</translation>
     </message>
     <message>
         <source>its file system refuses locks</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルシステムがロックを受け付けません</translation>
     </message>
     <message>
         <source>another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムがファイルを使用中です</translation>
     </message>
     <message>
         <source>it or its folder is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルまたはそのフォルダーが読み取り専用です</translation>
     </message>
     <message>
         <source>it cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>開くことができません</translation>
     </message>
     <message>
         <source>input or output failed</source>
-        <translation type="unfinished"></translation>
+        <translation>入出力に失敗しました</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>構造が壊れています</translation>
     </message>
     <message>
         <source>its content is no database</source>
-        <translation type="unfinished"></translation>
+        <translation>内容がデータベースではありません</translation>
     </message>
     <message>
         <source>a row is not what it was</source>
-        <translation type="unfinished"></translation>
+        <translation>元の内容と異なる行があります</translation>
     </message>
 </context>
 <context>
     <name>olStartFault</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定</translation>
     </message>
     <message>
         <source>The preferences cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定を読み込めません。</translation>
     </message>
     <message>
         <source>The file is left as it is. With the defaults nothing of this run is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルはそのまま残されます。既定値を使用する場合、今回の実行の内容は何も保存されません。</translation>
     </message>
     <message>
         <source>Another &amp;Store...</source>
-        <translation type="unfinished"></translation>
+        <translation>別の保存ファイル(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Defaults for This Run</source>
-        <translation type="unfinished"></translation>
+        <translation>今回は既定値を使用(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>Another Store</source>
-        <translation type="unfinished"></translation>
+        <translation>別の保存ファイル</translation>
     </message>
     <message>
         <source>Preferences (*.db);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定 (*.db);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>The plug-in with the preferences cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定のプラグインを読み込めません。</translation>
     </message>
     <message>
         <source>Another &amp;Plug-In...</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプラグイン(&amp;P)...</translation>
     </message>
     <message>
         <source>Another Plug-In</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプラグイン</translation>
     </message>
     <message>
         <source>Plug-ins (*.so);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン (*.so);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
     <name>olStoreFile</name>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を読み込めません：%2</translation>
     </message>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のファイルではありません</translation>
     </message>
     <message>
         <source>another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムがファイルを使用中です</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>中身がありません</translation>
     </message>
     <message>
         <source>it is no preferences file</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定ファイルではありません</translation>
     </message>
     <message>
         <source>it is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルがなくなっています</translation>
     </message>
     <message>
         <source>its folder cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを作成できません</translation>
     </message>
     <message>
         <source>it is another program&apos;s database</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムのデータベースです</translation>
     </message>
     <message>
         <source>it was written by a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>より新しいバージョンで書き込まれています</translation>
     </message>
     <message>
         <source>its format is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>未知の形式です</translation>
     </message>
     <message>
         <source>its header is not what it was</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘッダーが元の内容と異なります</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation type="unfinished"></translation>
+        <translation>テーブルが元の内容と異なります</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>構造が壊れています</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>変更された行または欠けている行があります</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴が変更されています</translation>
     </message>
 </context>
 <context>
     <name>olTesselationSettings</name>
     <message>
         <source>T&amp;essellation</source>
-        <translation type="unfinished"></translation>
+        <translation>テッセレーション(&amp;E)</translation>
     </message>
     <message>
         <source>Chord &amp;Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差(&amp;D)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>&amp;Normal Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>法線公差(&amp;N)</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Ma&amp;x Chord Length</source>
-        <translation type="unfinished"></translation>
+        <translation>最大弦長(&amp;X)</translation>
     </message>
     <message>
         <source>&amp;Stitching</source>
-        <translation type="unfinished"></translation>
+        <translation>ステッチ(&amp;S)</translation>
     </message>
     <message>
         <source>St&amp;itching Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>ステッチ公差(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>品質(&amp;Q)</translation>
     </message>
     <message>
         <source>Sets chord deviation, normal tolerance and max chord length together.</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差、法線公差、最大弦長をまとめて設定します。</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>品質</translation>
     </message>
 </context>
 <context>
     <name>olToolError</name>
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はUTF-8ではありません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is locked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はロックされています：%2</translation>
     </message>
     <message>
         <source>Cannot check %1: there is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を確認できません：そのようなファイルはありません。</translation>
     </message>
     <message>
         <source>%1 cannot be entered: expected %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は入力できません：%2が必要です</translation>
     </message>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>trueまたはfalse</translation>
     </message>
     <message>
         <source>a text or a number</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストまたは数値</translation>
     </message>
     <message>
         <source>a button is not edited but pressed, by click</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンは編集できません。clickで押してください</translation>
     </message>
     <message>
         <source>true, as another one must be chosen instead</source>
-        <translation type="unfinished"></translation>
+        <translation>true (代わりに別のものを選択する必要があります)</translation>
     </message>
     <message>
         <source>an item by its number or its text: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>番号またはテキストで指定した項目 (%1)</translation>
     </message>
     <message>
         <source>the item &quot;%1&quot; is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>項目「%1」は無効になっています</translation>
     </message>
     <message>
         <source>the field is only to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>この入力欄は読み取り専用です</translation>
     </message>
     <message>
         <source>what the field&apos;s validator lets through</source>
-        <translation type="unfinished"></translation>
+        <translation>入力欄の検証を通る値</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1文字以内のテキスト</translation>
     </message>
     <message>
         <source>%1 with at most %2 decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (小数点以下%2桁まで)</translation>
     </message>
     <message>
         <source>three numbers from 0 to 1, as [1, 0.5, 0]</source>
-        <translation type="unfinished"></translation>
+        <translation>0～1の3つの数値 ([1, 0.5, 0]など)</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>二重引用符で囲んだテキスト</translation>
     </message>
     <message>
         <source>the text is only to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>このテキストは読み取り専用です</translation>
     </message>
     <message>
         <source>a table or tree is not edited; select in it and press its buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>表やツリーは編集できません。項目を選択してボタンを押してください</translation>
     </message>
     <message>
         <source>a control of its kind is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>この種類のコントロールには対応していません</translation>
     </message>
     <message>
         <source>it is neither a table nor a tree</source>
-        <translation type="unfinished"></translation>
+        <translation>表でもツリーでもありません</translation>
     </message>
     <message>
         <source>nothing can be selected in it</source>
-        <translation type="unfinished"></translation>
+        <translation>選択できるものがありません</translation>
     </message>
     <message>
         <source>it is no button</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンではありません</translation>
     </message>
     <message>
         <source>there is no row %1: it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>行%1はありません：あるのは%2です</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1行</translation>
     </message>
     <message>
         <source>%1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1行</translation>
     </message>
     <message>
         <source>there is no column %1: it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>列%1はありません：あるのは%2です</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>1列</translation>
     </message>
     <message>
         <source>%1 columns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1列</translation>
     </message>
     <message>
         <source>Cannot read the standard input: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力を読み込めません：%1。</translation>
     </message>
     <message>
         <source>Cannot import the standard input. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力をインポートできません。%1</translation>
     </message>
     <message>
         <source>skipped: &quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>スキップしました：「%1」は%2</translation>
     </message>
     <message>
         <source>there is no module &quot;%1&quot;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュール「%1」はありません%2</translation>
     </message>
     <message>
         <source>%1 saves cannot be taken back: there are only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件の保存は取り消せません：%2件しかありません</translation>
     </message>
     <message>
         <source>left: &quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>変更しませんでした：「%1」は%2</translation>
     </message>
     <message>
         <source>Some settings were left as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>一部の設定は変更されませんでした。</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>設定「%1」はありません%2</translation>
     </message>
     <message>
         <source>the button &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタン「%1」</translation>
     </message>
     <message>
         <source>a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>ディレクトリ</translation>
     </message>
     <message>
         <source>a colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>%1 opened, but the answer queued for it is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1が開きましたが、用意された応答は%2です</translation>
     </message>
     <message>
         <source>the box &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ボックス「%1」</translation>
     </message>
     <message>
         <source>the box &quot;%1&quot; has no button &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>ボックス「%1」にボタン「%2」はありません：あるのは%3です</translation>
     </message>
     <message>
         <source>a colour dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>色のダイアログ</translation>
     </message>
     <message>
         <source>the directory chooser &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>ディレクトリの選択「%1」</translation>
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>。「%1」のことですか？</translation>
     </message>
     <message>
         <source>a command is missing: %1; see --help</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドがありません：%1。--helpを参照してください</translation>
     </message>
     <message>
         <source>%1 or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1または%2</translation>
     </message>
     <message>
         <source>there is no command %1, only %2; see --help</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンド%1はありません：使用できるのは%2です。--helpを参照してください</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1および%2</translation>
     </message>
     <message>
         <source>essentials, design, professional or enterprise</source>
-        <translation type="unfinished"></translation>
+        <translation>essentials、design、professional、またはenterprise</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1には値が必要です</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1に値は指定できません</translation>
     </message>
     <message>
         <source>there is no edition %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>エディション%1はありません：使用できるのは%2です</translation>
     </message>
     <message>
         <source>there is no option %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション%1はありません%2</translation>
     </message>
     <message>
         <source>usage: orlo-prefs [OPTIONS] %1</source>
-        <translation type="unfinished"></translation>
+        <translation>使い方：orlo-prefs [OPTIONS] %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is only set with --yes: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は--yesを指定した場合にのみ設定されます：%2</translation>
     </message>
     <message>
         <source>Cannot write the output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力を書き込めません：%1。</translation>
     </message>
     <message>
         <source>Cannot make a directory for scratch settings: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>一時的な設定用のディレクトリを作成できません：%1。</translation>
     </message>
     <message>
         <source>Cannot read the script %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプト%1を読み込めません：%2。</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1がありません</translation>
     </message>
     <message>
         <source>a quote stands within the word %1</source>
-        <translation type="unfinished"></translation>
+        <translation>単語%1の中に引用符があります</translation>
     </message>
     <message>
         <source>a quote is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>引用符が閉じられていません</translation>
     </message>
     <message>
         <source>a blank is missing behind &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の後に空白がありません</translation>
     </message>
     <message>
         <source>VALUE is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>VALUEがありません</translation>
     </message>
     <message>
         <source>%1 is no JSON value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はJSONの値ではありません</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too much</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は余分です</translation>
     </message>
     <message>
         <source>%1; usage: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。使い方：%2</translation>
     </message>
     <message>
         <source>there is no type %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>型%1はありません：使用できるのは%2です</translation>
     </message>
     <message>
         <source>%1 is no value of type %2: expected %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は型%2の値ではありません：%3が必要です</translation>
     </message>
     <message>
         <source>%1 is no number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は0から数える番号ではありません</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1行目：%2</translation>
     </message>
     <message>
         <source>there is no command %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンド%1はありません%2</translation>
     </message>
     <message>
         <source>behind the module only keep may follow</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュールの後に指定できるのはkeepだけです</translation>
     </message>
     <message>
         <source>%1 is neither put nor get</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はputでもgetでもありません</translation>
     </message>
     <message>
         <source>no column goes with none</source>
-        <translation type="unfinished"></translation>
+        <translation>noneには列を指定できません</translation>
     </message>
     <message>
         <source>%1 is no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は色ではありません</translation>
     </message>
     <message>
         <source>there is no fact %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>ホスト情報%1はありません%2</translation>
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はホスト情報%2に合いません：%3が必要です</translation>
     </message>
     <message>
         <source>no variable can be called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1という変数名は使用できません</translation>
     </message>
     <message>
         <source>%1 is no text</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はテキストではありません</translation>
     </message>
     <message>
         <source>there is no module &quot;%1&quot;; there is: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>モジュール「%1」はありません。使用できるのは次のとおりです：%2</translation>
     </message>
     <message>
         <source>the library is unloaded</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブラリはアンロードされています</translation>
     </message>
     <message>
         <source>%1 has no page</source>
-        <translation type="unfinished"></translation>
+        <translation>%1にはページがありません</translation>
     </message>
     <message>
         <source>%1 is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は非表示です</translation>
     </message>
     <message>
         <source>%1 is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は無効になっています</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds a value of a type that settings do not have</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」には、設定で使用しない型の値が入っています</translation>
     </message>
 </context>
 <context>
     <name>olUndo</name>
     <message>
         <source>is locked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックされています：%1</translation>
     </message>
     <message>
         <source>was changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>その後変更されています</translation>
     </message>
 </context>
 <context>
     <name>olValue</name>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>trueまたはfalse</translation>
     </message>
     <message>
         <source>a whole number from -2147483648 to 2147483647</source>
-        <translation type="unfinished"></translation>
+        <translation>-2147483648～2147483647の整数</translation>
     </message>
     <message>
         <source>a whole number from 0 to 4294967295</source>
-        <translation type="unfinished"></translation>
+        <translation>0～4294967295の整数</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>二重引用符で囲んだテキスト</translation>
     </message>
     <message>
         <source>a list of texts, as [&quot;a&quot;, &quot;b&quot;]</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストのリスト ([&quot;a&quot;, &quot;b&quot;]など)</translation>
     </message>
     <message>
         <source>a list of numbers, as [1, 0.5]</source>
-        <translation type="unfinished"></translation>
+        <translation>数値のリスト ([1, 0.5]など)</translation>
     </message>
     <message>
         <source>three numbers, as [1, 0.5, 0]</source>
-        <translation type="unfinished"></translation>
+        <translation>3つの数値 ([1, 0.5, 0]など)</translation>
     </message>
     <message>
         <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
-        <translation type="unfinished"></translation>
+        <translation>色のリスト ([[0, 0, 0], [1, 1, 1]]など)</translation>
     </message>
 </context>
 <context>
     <name>olValueText</name>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
 </context>
 <context>
     <name>olViewport</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dビュー</translation>
     </message>
     <message>
         <source>The 3D view: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dビュー：%1</translation>
     </message>
     <message>
         <source>The renderer of the 3D view cannot be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dビューのレンダラーを起動できません。</translation>
     </message>
     <message>
         <source>A frame of the 3D view could not be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>3Dビューのフレームを描画できませんでした。</translation>
     </message>
 </context>
 <context>
     <name>olWebAccess</name>
     <message>
         <source>The web server does not answer %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Webサーバーは%1に応答しません：%2</translation>
     </message>
 </context>
 <context>
     <name>olWebPages</name>
     <message>
         <source>The answer would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>応答が大きすぎます。</translation>
     </message>
     <message>
         <source>The application is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションは動作中です。</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>State of the host</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストの状態</translation>
     </message>
     <message>
         <source>Nothing can be changed here; ask with GET.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここでは何も変更できません。GETで要求してください。</translation>
     </message>
     <message>
         <source>There is no such page.</source>
-        <translation type="unfinished"></translation>
+        <translation>そのようなページはありません。</translation>
     </message>
     <message>
         <source>This host is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>このホストは許可されていません。</translation>
     </message>
 </context>
 <context>
     <name>olWebServer</name>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のファイルではありません</translation>
     </message>
     <message>
         <source>others than its owner can read it</source>
-        <translation type="unfinished"></translation>
+        <translation>所有者以外も読み取り可能です</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>空です</translation>
     </message>
     <message>
         <source>The web server cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Webサーバーは%1を使用できません：%2</translation>
     </message>
     <message>
         <source>ports are numbered 1 to 65535</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート番号は1～65535です</translation>
     </message>
     <message>
         <source>port %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート%1 (%2を使用)</translation>
     </message>
     <message>
         <source>port %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート%1</translation>
     </message>
     <message>
         <source>The web server does not listen on %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Webサーバーは%1で待ち受けできません：%2</translation>
     </message>
 </context>
 <context>
     <name>orlo</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定</translation>
     </message>
     <message>
         <source>--%1 needs --render</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1には--renderが必要です</translation>
     </message>
     <message>
         <source>--set needs --render or --save</source>
-        <translation type="unfinished"></translation>
+        <translation>--setには--renderまたは--saveが必要です</translation>
     </message>
     <message>
         <source>--%1 does not go with --render</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1は--renderと同時に指定できません</translation>
     </message>
     <message>
         <source>--%1 needs a window, which --render and --save do without</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1にはウィンドウが必要です。--renderと--saveはウィンドウを使用しません</translation>
     </message>
     <message>
         <source>--render needs --output PICTURE</source>
-        <translation type="unfinished"></translation>
+        <translation>--renderには--output PICTUREが必要です</translation>
     </message>
     <message>
         <source>%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192</source>
-        <translation type="unfinished"></translation>
+        <translation>%1はサイズではありません：WIDTHxHEIGHT (それぞれ1～8192) の形が必要です</translation>
     </message>
     <message>
         <source>--save needs either a model or --sample</source>
-        <translation type="unfinished"></translation>
+        <translation>--saveには、モデルまたは--sampleのどちらか一方が必要です</translation>
     </message>
     <message>
         <source>%1 does not go with --render</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は--renderと同時に指定できません</translation>
     </message>
     <message>
         <source>only one model can be opened at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>一度に開けるモデルは1つだけです</translation>
     </message>
     <message>
         <source>there is no edition %1; there are essentials, design, professional and enterprise</source>
-        <translation type="unfinished"></translation>
+        <translation>エディション%1はありません。使用できるのはessentials、design、professional、enterpriseです</translation>
     </message>
     <message>
         <source>no page has the setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>設定「%1」を持つページはありません</translation>
     </message>
 </context>
 </TS>

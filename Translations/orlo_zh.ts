@@ -5,522 +5,523 @@
     <name>QOLColorDialog</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>选择颜色</translation>
     </message>
 </context>
 <context>
     <name>QOLColorManipulator</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>选择颜色</translation>
     </message>
 </context>
 <context>
     <name>olAbout</name>
     <message>
         <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>它使用以下库，均为动态链接，因此可以替换：&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1（附 Open CASCADE 例外条款）&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：公有领域&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1 或更高版本&lt;/li&gt;&lt;li&gt;libspnav：BSD 三条款&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;其声明见 &lt;i&gt;third-party.md&lt;/i&gt;，与本程序的文档在一起。</translation>
     </message>
     <message>
         <source>About ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>关于 ORLO</translation>
     </message>
 </context>
 <context>
     <name>olBatch</name>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 视图需要带 OpenGL 的 X 显示或 XWayland。</translation>
     </message>
     <message>
         <source>The model %1 cannot be drawn: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法绘制模型 %1：%2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入 %1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olChangesView</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Old Value</source>
-        <translation type="unfinished"></translation>
+        <translation>旧值</translation>
     </message>
     <message>
         <source>New Value</source>
-        <translation type="unfinished"></translation>
+        <translation>新值</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>更改</translation>
     </message>
     <message>
         <source>&amp;Skipped:</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过(&amp;S)：</translation>
     </message>
     <message>
         <source>Why</source>
-        <translation type="unfinished"></translation>
+        <translation>原因</translation>
     </message>
     <message>
         <source>Skipped</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过</translation>
     </message>
     <message>
         <source>&amp;Go There</source>
-        <translation type="unfinished"></translation>
+        <translation>转到(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>撤回(&amp;T)</translation>
     </message>
     <message>
         <source>Take &amp;All Back</source>
-        <translation type="unfinished"></translation>
+        <translation>全部撤回(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Copy as Text</source>
-        <translation type="unfinished"></translation>
+        <translation>复制为文本(&amp;C)</translation>
     </message>
     <message>
         <source>%1 (%2): %3 -&gt; %4
 </source>
         <comment>place, key, old and new value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)：%3 -&gt; %4
+</translation>
     </message>
 </context>
 <context>
     <name>olExport</name>
     <message>
         <source>%1 is opaque in the file; IGES knows no opacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 在文件中为不透明；IGES 不支持不透明度。</translation>
     </message>
     <message>
         <source>%1 stands twice in the same place; it is written once.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 在同一位置出现两次；只写入一次。</translation>
     </message>
     <message>
         <source>%1 is a mesh, which this format cannot hold; it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 是网格，此格式无法保存；已略去。</translation>
     </message>
     <message>
         <source>colours</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色</translation>
     </message>
     <message>
         <source>textures</source>
-        <translation type="unfinished"></translation>
+        <translation>纹理</translation>
     </message>
     <message>
         <source>groups of parts</source>
-        <translation type="unfinished"></translation>
+        <translation>零件组</translation>
     </message>
     <message>
         <source>%1 knows no %2; they are not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不支持%2；这些内容不会写入。</translation>
     </message>
     <message>
         <source> and no </source>
-        <translation type="unfinished"></translation>
+        <translation> 和 </translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入临时目录</translation>
     </message>
     <message>
         <source>the writer failed</source>
-        <translation type="unfinished"></translation>
+        <translation>写入程序出错</translation>
     </message>
     <message>
         <source>the folder %1 cannot be made</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建文件夹 %1</translation>
     </message>
     <message>
         <source>there is nothing that this format can hold</source>
-        <translation type="unfinished"></translation>
+        <translation>没有此格式可以保存的内容</translation>
     </message>
     <message>
         <source>the writer failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>写入程序出错 (%1)</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入 %1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olFieldGuard</name>
     <message>
         <source>Only %1 can be entered here.</source>
-        <translation type="unfinished"></translation>
+        <translation>此处只能输入%1。</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数字</translation>
     </message>
 </context>
 <context>
     <name>olFoldHeader</name>
     <message>
         <source>Folded</source>
-        <translation type="unfinished"></translation>
+        <translation>已折叠</translation>
     </message>
     <message>
         <source>Unfolded</source>
-        <translation type="unfinished"></translation>
+        <translation>已展开</translation>
     </message>
 </context>
 <context>
     <name>olFoundSettings</name>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>值</translation>
     </message>
     <message>
         <source>Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>来源</translation>
     </message>
     <message>
         <source>Settings found</source>
-        <translation type="unfinished"></translation>
+        <translation>找到的设置</translation>
     </message>
 </context>
 <context>
     <name>olGivenSettings</name>
     <message>
         <source>&quot;%1&quot; is no setting: expected &quot;KEY=VALUE&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是设置：应为“KEY=VALUE”</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>没有设置“%1”</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is only set where somebody can be asked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”只有在能够询问用户时才会设置：%2</translation>
     </message>
 </context>
 <context>
     <name>olHistoryView</name>
     <message>
         <source>&amp;Go Back...</source>
-        <translation type="unfinished"></translation>
+        <translation>返回(&amp;G)...</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>历史记录</translation>
     </message>
     <message>
         <source>Nothing has been saved yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚未保存过任何内容。</translation>
     </message>
     <message>
         <source>Going back takes back the save that is chosen and all later ones. What that changes is shown first.</source>
-        <translation type="unfinished"></translation>
+        <translation>返回会撤回所选的保存以及之后的所有保存。由此引起的更改会先显示出来。</translation>
     </message>
     <message>
         <source>Saves</source>
-        <translation type="unfinished"></translation>
+        <translation>保存记录</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>时间</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation>程序</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>更改</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>默认值</translation>
     </message>
     <message>
         <source>%1: %2 to %3</source>
         <comment>setting, old and new value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2 改为 %3</translation>
     </message>
     <message>
         <source>%1 settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 项设置</translation>
     </message>
 </context>
 <context>
     <name>olHostStatePanel</name>
     <message>
         <source>%1 (only recorded)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（仅记录）</translation>
     </message>
     <message>
         <source>Host state</source>
-        <translation type="unfinished"></translation>
+        <translation>主机状态</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>筛选</translation>
     </message>
     <message>
         <source>Filter the host state</source>
-        <translation type="unfinished"></translation>
+        <translation>筛选主机状态</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>值</translation>
     </message>
 </context>
 <context>
     <name>olImport</name>
     <message>
         <source>the system ended its reader, probably for want of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>系统终止了它的读取程序，可能是因为内存不足</translation>
     </message>
     <message>
         <source>the file is damaged in a way that makes its reader crash</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏，会导致其读取程序崩溃</translation>
     </message>
     <message>
         <source>its reader failed</source>
-        <translation type="unfinished"></translation>
+        <translation>其读取程序出错</translation>
     </message>
     <message>
         <source>its reader cannot be started (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动其读取程序 (%1)</translation>
     </message>
     <message>
         <source>its reader %1 cannot be started (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动其读取程序 %1 (%2)</translation>
     </message>
     <message>
         <source>reading it made no progress for %1 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>读取在 %1 秒内没有进展</translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入临时目录</translation>
     </message>
     <message>
         <source>Cannot read %1: this is a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1：这是文件夹。</translation>
     </message>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1：%2。</translation>
     </message>
     <message>
         <source>%1 has faulty surfaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 含有有缺陷的曲面。</translation>
     </message>
     <message>
         <source>%1 of the faces of %2 cannot be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 中有 %1 个面无法绘制。</translation>
     </message>
     <message>
         <source>Gaps of %1 up to %2 mm are closed; %3 would distort it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 中不超过 %2 mm 的间隙已闭合；%3 mm 会使其变形。</translation>
     </message>
     <message>
         <source>The faces of %1 are not joined; that would distort it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的面未连接；连接会使其变形。</translation>
     </message>
     <message>
         <source>it has more than a million parts</source>
-        <translation type="unfinished"></translation>
+        <translation>其零件超过一百万个</translation>
     </message>
     <message>
         <source>the file is damaged: it has triangles without their points, or points beyond all measure</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：其中有缺少顶点的三角形，或有大得无法度量的点</translation>
     </message>
     <message>
         <source>there is no geometry in it</source>
-        <translation type="unfinished"></translation>
+        <translation>其中没有几何体</translation>
     </message>
     <message>
         <source>the import options leave nothing of it</source>
-        <translation type="unfinished"></translation>
+        <translation>按导入选项，其中没有可导入的内容</translation>
     </message>
     <message>
         <source>the reader failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>读取程序出错 (%1)</translation>
     </message>
     <message>
         <source>there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>内存不足，无法读取</translation>
     </message>
     <message>
         <source>in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>文件内</translation>
     </message>
     <message>
         <source>The texture %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到纹理 %1。</translation>
     </message>
     <message>
         <source>The texture %1 is too large, with %2 by %3 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>纹理 %1 太大：%2 × %3 像素。</translation>
     </message>
     <message>
         <source>The texture %1 cannot be read: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取纹理 %1：%2。</translation>
     </message>
     <message>
         <source>A part without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>未命名零件</translation>
     </message>
 </context>
 <context>
     <name>olImportDialog</name>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>以及另外 %n 个</numerusform>
         </translation>
     </message>
     <message>
         <source>Center to Origin</source>
-        <translation type="unfinished"></translation>
+        <translation>居中到原点</translation>
     </message>
     <message>
         <source>Place Objects on the Ground</source>
-        <translation type="unfinished"></translation>
+        <translation>将对象置于地面</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>导入</translation>
     </message>
     <message>
         <source>Edit &gt; Preferences &gt; FileIO decides over these, format by format.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些选项按格式在“编辑 &gt; 首选项 &gt; 文件 I/O”中设定。</translation>
     </message>
     <message>
         <source>Progress of the import</source>
-        <translation type="unfinished"></translation>
+        <translation>导入进度</translation>
     </message>
     <message>
         <source>Outcome of the import</source>
-        <translation type="unfinished"></translation>
+        <translation>导入结果</translation>
     </message>
 </context>
 <context>
     <name>olImportSummary</name>
     <message>
         <source>%1: none</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：无</translation>
     </message>
     <message>
         <source>%1: all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：全部</translation>
     </message>
     <message>
         <source>%1: visible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：可见</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>the usual one</source>
-        <translation type="unfinished"></translation>
+        <translation>常规</translation>
     </message>
     <message>
         <source>chords within %1 mm, normals within %2°</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差不超过 %1 mm，法线偏差不超过 %2°</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>格式</translation>
     </message>
     <message>
         <source>Fineness</source>
-        <translation type="unfinished"></translation>
+        <translation>精细度</translation>
     </message>
     <message>
         <source>Stitching</source>
-        <translation type="unfinished"></translation>
+        <translation>缝合</translation>
     </message>
     <message>
         <source>gaps up to %1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>间隙不超过 %1 mm</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>关</translation>
     </message>
     <message>
         <source>surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>曲面</translation>
     </message>
     <message>
         <source>curves</source>
-        <translation type="unfinished"></translation>
+        <translation>曲线</translation>
     </message>
     <message>
         <source>meshes</source>
-        <translation type="unfinished"></translation>
+        <translation>网格</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>种类</translation>
     </message>
     <message>
         <source>Tidied up</source>
-        <translation type="unfinished"></translation>
+        <translation>整理</translation>
     </message>
     <message>
         <source>meshes merged</source>
-        <translation type="unfinished"></translation>
+        <translation>合并网格</translation>
     </message>
     <message>
         <source>empty groups removed</source>
-        <translation type="unfinished"></translation>
+        <translation>移除空组</translation>
     </message>
     <message>
         <source>normals unified</source>
-        <translation type="unfinished"></translation>
+        <translation>统一法线</translation>
     </message>
     <message>
         <source>Checks</source>
-        <translation type="unfinished"></translation>
+        <translation>检查</translation>
     </message>
     <message>
         <source>geometry verified</source>
-        <translation type="unfinished"></translation>
+        <translation>验证几何体</translation>
     </message>
     <message>
         <source>faults repaired</source>
-        <translation type="unfinished"></translation>
+        <translation>修复缺陷</translation>
     </message>
     <message>
         <source>Textures</source>
-        <translation type="unfinished"></translation>
+        <translation>纹理</translation>
     </message>
     <message>
         <source>beside the model</source>
-        <translation type="unfinished"></translation>
+        <translation>模型旁</translation>
     </message>
     <message>
         <source>beside the model, and in %1 directories</source>
-        <translation type="unfinished"></translation>
+        <translation>模型旁以及 %1 个目录中</translation>
     </message>
 </context>
 <context>
@@ -528,252 +529,252 @@
     <message>
         <source>%1, %2</source>
         <comment>control, part of it</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1，%2</translation>
     </message>
 </context>
 <context>
     <name>olJournalPanel</name>
     <message>
         <source>Host calls</source>
-        <translation type="unfinished"></translation>
+        <translation>主机调用</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation type="unfinished"></translation>
+        <translation>清除(&amp;L)</translation>
     </message>
 </context>
 <context>
     <name>olJoystickLink</name>
     <message>
         <source>There is no joystick %1: %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有操纵杆 %1：%2：%3。</translation>
     </message>
     <message>
         <source>Joystick %1 is in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>操纵杆 %1 正在使用。</translation>
     </message>
     <message>
         <source>Joystick %1 has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>操纵杆 %1 已断开。</translation>
     </message>
 </context>
 <context>
     <name>olJsonObject</name>
     <message>
         <source>here or just before, this is no JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>此处或紧靠此处之前不是 JSON</translation>
     </message>
     <message>
         <source>an object is expected, as {&quot;key&quot;: {&quot;value&quot;: 1}}</source>
-        <translation type="unfinished"></translation>
+        <translation>应为对象，例如 {&quot;key&quot;: {&quot;value&quot;: 1}}</translation>
     </message>
     <message>
         <source>&quot;%1&quot; stands here a second time</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”在此处重复出现</translation>
     </message>
 </context>
 <context>
     <name>olLibraryFault</name>
     <message>
         <source>it is no library</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是库</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>其末尾缺失</translation>
     </message>
 </context>
 <context>
     <name>olMainWindow</name>
     <message>
         <source>ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO</translation>
     </message>
     <message>
         <source>Edit &gt; Preferences changes what you see here.</source>
-        <translation type="unfinished"></translation>
+        <translation>可在“编辑 &gt; 首选项”中更改此处的显示。</translation>
     </message>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 视图需要带 OpenGL 的 X 显示或 XWayland。首选项没有它也能工作。</translation>
     </message>
     <message>
         <source>%1 frames/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 帧/秒</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>场景</translation>
     </message>
     <message>
         <source>Host State</source>
-        <translation type="unfinished"></translation>
+        <translation>主机状态</translation>
     </message>
     <message>
         <source>Host Calls</source>
-        <translation type="unfinished"></translation>
+        <translation>主机调用</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>视图(&amp;V)</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>视图</translation>
     </message>
     <message>
         <source>Show &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>显示全部(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Zoom To</source>
-        <translation type="unfinished"></translation>
+        <translation>缩放至(&amp;Z)</translation>
     </message>
     <message>
         <source>Brings what is selected near</source>
-        <translation type="unfinished"></translation>
+        <translation>拉近所选内容</translation>
     </message>
     <message>
         <source>Stereo for &amp;Red and Cyan Glasses</source>
-        <translation type="unfinished"></translation>
+        <translation>红青眼镜立体(&amp;R)</translation>
     </message>
     <message>
         <source>Trace Ra&amp;ys</source>
-        <translation type="unfinished"></translation>
+        <translation>光线追踪(&amp;Y)</translation>
     </message>
     <message>
         <source>&amp;Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>边线(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;New Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>新建场景(&amp;N)</translation>
     </message>
     <message>
         <source>Open the &amp;Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>打开示例(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>编辑(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Preferences...</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;About ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>关于 ORLO(&amp;A)</translation>
     </message>
 </context>
 <context>
     <name>olMessageLine</name>
     <message>
         <source>Close the message</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭消息</translation>
     </message>
 </context>
 <context>
     <name>olModelFiles</name>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>导入(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>导出(&amp;E)...</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>导入</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>导出</translation>
     </message>
     <message>
         <source>%1 was read.</source>
-        <translation type="unfinished"></translation>
+        <translation>已读取 %1。</translation>
     </message>
     <message>
         <source>ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>ORLO</translation>
     </message>
 </context>
 <context>
     <name>olModelFormat</name>
     <message>
         <source>files without a suffix</source>
-        <translation type="unfinished"></translation>
+        <translation>无扩展名的文件</translation>
     </message>
     <message>
         <source>.%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>.%1 文件</translation>
     </message>
     <message>
         <source>Cannot read %1: there is no reader for %2. These can be read: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1：%2没有对应的读取程序。可读取的有：%3。</translation>
     </message>
     <message>
         <source>Cannot write %1: there is no writer for %2. These can be written: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入 %1：%2没有对应的写入程序。可写入的有：%3。</translation>
     </message>
     <message>
         <source>Models (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>模型 (%1)</translation>
     </message>
 </context>
 <context>
     <name>olModuleTree</name>
     <message>
         <source>Modules</source>
-        <translation type="unfinished"></translation>
+        <translation>模块</translation>
     </message>
     <message>
         <source>Has changes that are not applied yet</source>
-        <translation type="unfinished"></translation>
+        <translation>有尚未应用的更改</translation>
     </message>
 </context>
 <context>
     <name>olNumberText</name>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数字</translation>
     </message>
     <message>
         <source>a number from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>不小于 %1 的数字</translation>
     </message>
     <message>
         <source>a number up to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>不大于 %1 的数字</translation>
     </message>
     <message>
         <source>a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>从 %1 到 %2 的数字</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>从 %1 到 %2 的整数</translation>
     </message>
 </context>
 <context>
     <name>olOSGWidget</name>
     <message>
         <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one. Nothing is clipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>拒绝裁剪平面 %1 和 %2：应为两个大于 0 的数字，且远平面大于近平面。不作任何裁剪。</translation>
     </message>
 </context>
 <context>
@@ -781,1690 +782,1690 @@
     <message>
         <source>%1 set %2 to %3.</source>
         <comment>program, setting and value</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 已将 %2 设置为 %3。</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished"></translation>
+        <translation>另一个程序</translation>
     </message>
     <message>
         <source>%1 more settings were changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>另有 %1 项设置已更改。</translation>
     </message>
     <message>
         <source>Your change to %1 is pending.</source>
-        <translation type="unfinished"></translation>
+        <translation>你将其改为 %1 的更改待应用。</translation>
     </message>
     <message>
         <source>&amp;Use %1</source>
-        <translation type="unfinished"></translation>
+        <translation>使用 %1(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Keep %1</source>
-        <translation type="unfinished"></translation>
+        <translation>保留 %1(&amp;K)</translation>
     </message>
 </context>
 <context>
     <name>olPageIndex</name>
     <message>
         <source>%1 controls answer to &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>有 %1 个控件与“%2”匹配：%3</translation>
     </message>
     <message>
         <source>there is no control &quot;%1&quot;; there is: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有控件“%1”；现有：%2</translation>
     </message>
 </context>
 <context>
     <name>olPluginLoader</name>
     <message>
         <source>Cannot load the preferences plug-in: there is neither %1 nor %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载首选项插件：%1 和 %2 均不存在。</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>没有这个文件</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是文件</translation>
     </message>
     <message>
         <source>it has no entry function %1</source>
-        <translation type="unfinished"></translation>
+        <translation>它没有入口函数 %1</translation>
     </message>
     <message>
         <source>a module could not be built: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法构建某个模块：%1</translation>
     </message>
     <message>
         <source>a module could not be built, and does not say why</source>
-        <translation type="unfinished"></translation>
+        <translation>无法构建某个模块，且未说明原因</translation>
     </message>
     <message>
         <source>Cannot load the preferences plug-in %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载首选项插件 %1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesDialog</name>
     <message>
         <source>No Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>无更改</translation>
     </message>
     <message>
         <source>1 Chan&amp;ge...</source>
-        <translation type="unfinished"></translation>
+        <translation>1 项更改(&amp;G)...</translation>
     </message>
     <message>
         <source>%1 Chan&amp;ges...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 项更改(&amp;G)...</translation>
     </message>
     <message>
         <source>Changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅已更改</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>更多</translation>
     </message>
     <message>
         <source>Restore &amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复本页(&amp;P)</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索</translation>
     </message>
     <message>
         <source>Search all settings</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索所有设置</translation>
     </message>
     <message>
         <source>Finds settings by label, group, tooltip, choice and key (Ctrl+F).</source>
-        <translation type="unfinished"></translation>
+        <translation>按标签、组、工具提示、选项和键查找设置 (Ctrl+F)。</translation>
     </message>
     <message>
         <source>Lists the settings that differ from their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>列出与默认值不同的设置。</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>导入(&amp;I)...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>导出(&amp;E)...</translation>
     </message>
     <message>
         <source>Apply Profile %1</source>
-        <translation type="unfinished"></translation>
+        <translation>应用配置文件 %1</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>应用(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;History...</source>
-        <translation type="unfinished"></translation>
+        <translation>历史记录(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复所有默认值(&amp;R)</translation>
     </message>
     <message>
         <source>Shows the defaults of this page. Nothing changes before OK or Apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示本页的默认值。在“确定”或“应用”之前不作任何更改。</translation>
     </message>
     <message>
         <source>Lists what OK and Apply will change.</source>
-        <translation type="unfinished"></translation>
+        <translation>列出“确定”和“应用”将更改的内容。</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>确定(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消(&amp;C)</translation>
     </message>
     <message>
         <source>%1 is locked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已锁定：%2</translation>
     </message>
     <message>
         <source>&amp;Stay</source>
-        <translation type="unfinished"></translation>
+        <translation>留在此处(&amp;S)</translation>
     </message>
     <message>
         <source>This change is not applied yet and would be lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>此更改尚未应用，将会丢失：</translation>
     </message>
     <message>
         <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>这 %1 项更改尚未应用，将会丢失：</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>以及另外 %1 项</translation>
     </message>
     <message>
         <source>All settings have their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有设置均为默认值。</translation>
     </message>
     <message>
         <source>All pages show their defaults. OK or Apply makes them count, Cancel takes them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有页面均显示默认值。“确定”或“应用”使其生效，“取消”则撤回。</translation>
     </message>
     <message>
         <source>%1 Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 项已锁定</translation>
     </message>
     <message>
         <source>Page</source>
-        <translation type="unfinished"></translation>
+        <translation>页面</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>已锁定</translation>
     </message>
     <message>
         <source>pending</source>
-        <translation type="unfinished"></translation>
+        <translation>待应用</translation>
     </message>
     <message>
         <source>yours</source>
-        <translation type="unfinished"></translation>
+        <translation>用户</translation>
     </message>
     <message>
         <source>the site&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>站点</translation>
     </message>
     <message>
         <source>default</source>
-        <translation type="unfinished"></translation>
+        <translation>默认值</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
-        <translation type="unfinished"></translation>
+        <translation>所有设置均为默认值。</translation>
     </message>
     <message>
         <source>Nothing matches &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有与“%1”匹配的内容。</translation>
     </message>
     <message>
         <source>1 Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>1 项设置</translation>
     </message>
     <message>
         <source>%1 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 项设置</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>module and setting</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>edited</source>
-        <translation type="unfinished"></translation>
+        <translation>已编辑</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>更改</translation>
     </message>
     <message>
         <source>Import Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>导入首选项</translation>
     </message>
     <message>
         <source>Preferences (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项 (*.json);;所有文件 (*)</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>导入(&amp;I)</translation>
     </message>
     <message>
         <source>Nothing would change.</source>
-        <translation type="unfinished"></translation>
+        <translation>不会有任何更改。</translation>
     </message>
     <message>
         <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些设置将得到新值。在“确定”或“应用”之前为待应用状态。</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>返回</translation>
     </message>
     <message>
         <source>&amp;Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>返回(&amp;G)</translation>
     </message>
     <message>
         <source>Export Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>导出首选项</translation>
     </message>
     <message>
         <source>preferences.json</source>
-        <translation type="unfinished"></translation>
+        <translation>preferences.json</translation>
     </message>
     <message>
         <source>The preferences were written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项已写入 %1。</translation>
     </message>
     <message>
         <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前生效的首选项已写入 %1，不含待应用的更改。</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesFile</name>
     <message>
         <source>It is no file of preferences: it names no format.</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是首选项文件：没有指明格式。</translation>
     </message>
     <message>
         <source>It is no file of preferences: its format is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是首选项文件：其格式未知。</translation>
     </message>
     <message>
         <source>It was written by a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>它由更新的版本写入。</translation>
     </message>
     <message>
         <source>has no type or no value</source>
-        <translation type="unfinished"></translation>
+        <translation>没有类型或值</translation>
     </message>
     <message>
         <source>is of the unknown type &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>属于未知类型“%1”</translation>
     </message>
     <message>
         <source>is not %1, as its type %2 asks for</source>
-        <translation type="unfinished"></translation>
+        <translation>不是其类型 %2 所要求的%1</translation>
     </message>
     <message>
         <source>Line %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 行：%2。</translation>
     </message>
     <message>
         <source>It lists no settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中没有列出设置。</translation>
     </message>
     <message>
         <source>Cannot write the preferences to %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将首选项写入 %1：%2。</translation>
     </message>
     <message>
         <source>Cannot read the preferences from %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法从 %1 读取首选项：%2。</translation>
     </message>
     <message>
         <source>Cannot import %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法导入 %1。%2</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesSession</name>
     <message>
         <source> All settings of this run were then saved into it.</source>
-        <translation type="unfinished"></translation>
+        <translation> 随后，本次运行的所有设置都已保存到其中。</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1 were changed. That counts from the next start of the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>站点的首选项 %1 已更改。更改从程序下次启动起生效。</translation>
     </message>
     <message>
         <source>is locked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已锁定：%1</translation>
     </message>
     <message>
         <source>is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>不是已知的设置</translation>
     </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
     <message>
         <source>Cannot read the preferences %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取首选项 %1：%2。</translation>
     </message>
     <message>
         <source> Use that version. If there is none, the file is damaged: move it away to start with defaults</source>
-        <translation type="unfinished"></translation>
+        <translation> 请使用该版本。如果没有该版本，则文件已损坏：将其移走，以默认值启动</translation>
     </message>
     <message>
         <source>, or rename its copy %1 to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>，或将其备份 %1 重命名为该文件。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项文件 %1 已损坏：%2。%3</translation>
     </message>
     <message>
         <source>The copy of %1 was loaded; what was changed after that is not in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>已加载 %1 的备份；其后的更改不在其中。</translation>
     </message>
     <message>
         <source>There is no copy of it yet, so all settings are at their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>尚无备份，因此所有设置均为默认值。</translation>
     </message>
     <message>
         <source>Its copy cannot be read either (%1), so all settings are at their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>其备份也无法读取 (%1)，因此所有设置均为默认值。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2. </source>
-        <translation type="unfinished"></translation>
+        <translation>首选项文件 %1 已损坏：%2。 </translation>
     </message>
     <message>
         <source>its folder is read-only, or another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>其文件夹为只读，或另一个程序正在占用它</translation>
     </message>
     <message>
         <source>It is now kept as %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>它现在保留为 %1。 </translation>
     </message>
     <message>
         <source>It could not be set aside: %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>无法将其移开：%1。 </translation>
     </message>
     <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将首选项保存到 %1：%2。其原有内容未变。</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olProfiles</name>
     <message>
         <source>&quot;%1&quot; is no name for a profile: it must not be empty, have a slash in it or begin with a dot.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不能用作配置文件的名称：名称不得为空、含有斜杠或以点开头。</translation>
     </message>
     <message>
         <source>There is no profile &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有配置文件“%1”。</translation>
     </message>
     <message>
         <source>Cannot make the folder %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建文件夹 %1。</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; is the site&apos;s and cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>配置文件“%1”属于站点，不能删除。</translation>
     </message>
     <message>
         <source>Cannot delete the profile %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法删除配置文件 %1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olProfilesMenu</name>
     <message>
         <source>&amp;Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>配置文件(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>删除(&amp;D)</translation>
     </message>
     <message>
         <source>%1 (site)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（站点）</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
-        <translation type="unfinished"></translation>
+        <translation>另存为(&amp;S)...</translation>
     </message>
     <message>
         <source>Save Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>保存配置文件</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>名称(&amp;N)：</translation>
     </message>
     <message>
         <source>The settings in force were saved as profile &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>当前生效的设置已保存为配置文件“%1”。</translation>
     </message>
     <message>
         <source>There is a profile &quot;%1&quot; already. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>已有配置文件“%1”。是否替换？</translation>
     </message>
     <message>
         <source>Delete Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>删除配置文件</translation>
     </message>
     <message>
         <source>Delete the profile &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>删除配置文件“%1”？</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>配置文件“%1”已删除。</translation>
     </message>
 </context>
 <context>
     <name>olReason</name>
     <message>
         <source>this is no 3MF file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 3MF 文件</translation>
     </message>
     <message>
         <source>this is no COLLADA file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 COLLADA 文件</translation>
     </message>
     <message>
         <source>the file is cut off or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>文件被截断或已损坏</translation>
     </message>
     <message>
         <source>the file is damaged or of another format</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏或属于其他格式</translation>
     </message>
     <message>
         <source>the temporary directory cannot be written to</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入临时目录</translation>
     </message>
     <message>
         <source>the file %1 that it refers to cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取其引用的文件 %1</translation>
     </message>
     <message>
         <source>the file %1 that it refers to is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>其引用的文件 %1 被截断</translation>
     </message>
     <message>
         <source>it requires the extension %1, which is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>它需要扩展 %1，但不支持该扩展</translation>
     </message>
     <message>
         <source>the file is damaged: a node refers to one that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：某个节点引用了不存在的节点</translation>
     </message>
     <message>
         <source>its groups are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>其组嵌套过深</translation>
     </message>
     <message>
         <source>the file is damaged: a part of it lies beyond its end</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：其中一部分超出了文件末尾</translation>
     </message>
     <message>
         <source>the file is damaged: it announces more than it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：其声明的内容多于实际内容</translation>
     </message>
     <message>
         <source>this is no glTF file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 glTF 文件</translation>
     </message>
     <message>
         <source>this is no IGES file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 IGES 文件</translation>
     </message>
     <message>
         <source>the file is damaged in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>文件在第 %1 行已损坏</translation>
     </message>
     <message>
         <source>its content cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>其内容无法导入</translation>
     </message>
     <message>
         <source>a point lacks a coordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>某个点缺少坐标</translation>
     </message>
     <message>
         <source>a face has fewer than three corners</source>
-        <translation type="unfinished"></translation>
+        <translation>某个面的角点少于三个</translation>
     </message>
     <message>
         <source>a face refers to a point that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>某个面引用了不存在的点</translation>
     </message>
     <message>
         <source>this is no OBJ file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 OBJ 文件</translation>
     </message>
     <message>
         <source>the file is cut off or damaged: in line %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>文件被截断或已损坏：第 %1 行，%2</translation>
     </message>
     <message>
         <source>the file is cut off or damaged: it ends within its points</source>
-        <translation type="unfinished"></translation>
+        <translation>文件被截断或已损坏：在点数据中间结束</translation>
     </message>
     <message>
         <source>The model ends with points that no face uses; the file may be cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>模型末尾有未被任何面使用的点；文件可能被截断。</translation>
     </message>
     <message>
         <source>The materials file %1 is not there; the model has no colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>材质文件 %1 不存在；模型没有颜色。</translation>
     </message>
     <message>
         <source>this is no OFF file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 OFF 文件</translation>
     </message>
     <message>
         <source>this is no PLY file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 PLY 文件</translation>
     </message>
     <message>
         <source>the file is damaged: #%1 refers to #%2, which is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：#%1 引用了不存在的 #%2</translation>
     </message>
     <message>
         <source>the file is damaged: its parentheses are nested too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：括号嵌套过深</translation>
     </message>
     <message>
         <source>this is no STEP file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 STEP 文件</translation>
     </message>
     <message>
         <source>%1 bytes behind its end were passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>已略过文件末尾之后的 %1 个字节。</translation>
     </message>
     <message>
         <source>this is no STL file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 STL 文件</translation>
     </message>
     <message>
         <source>%1 of its numbers are words, which count as 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中有 %1 个数字写成了单词，按 0 处理。</translation>
     </message>
     <message>
         <source>The solid %1 is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>实体 %1 为空。</translation>
     </message>
     <message>
         <source>there is no geometry in it</source>
-        <translation type="unfinished"></translation>
+        <translation>其中没有几何体</translation>
     </message>
     <message>
         <source>this is no VRML file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是 VRML 文件</translation>
     </message>
     <message>
         <source>the file is damaged (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏 (%1)</translation>
     </message>
     <message>
         <source>the file is damaged: line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：无法理解第 %1 行 (%2)</translation>
     </message>
     <message>
         <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 个形状是线、点或文本，已略去。</translation>
     </message>
     <message>
         <source>a group in it holds itself</source>
-        <translation type="unfinished"></translation>
+        <translation>其中某个组包含自身</translation>
     </message>
     <message>
         <source>the file is damaged: a face refers to a point that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏：某个面引用了不存在的点</translation>
     </message>
     <message>
         <source>The file %1 that it refers to was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到其引用的文件 %1。</translation>
     </message>
     <message>
         <source>it refers to itself through %1</source>
-        <translation type="unfinished"></translation>
+        <translation>它通过 %1 引用自身</translation>
     </message>
     <message>
         <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 个网格是线或点，已略去。</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>没有这个文件</translation>
     </message>
     <message>
         <source>this is no file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是文件</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>文件为空</translation>
     </message>
     <message>
         <source>the file is too large for this machine: %1 GB with %2 GB of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>文件对本机来说太大：文件 %1 GB，内存 %2 GB</translation>
     </message>
     <message>
         <source>the file is too large: %1 GB, of which 2 can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>文件太大：%1 GB，最多可读取 2 GB</translation>
     </message>
 </context>
 <context>
     <name>olRgbFields</name>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>红</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>绿</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>蓝</translation>
     </message>
     <message>
         <source>R</source>
         <comment>red</comment>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>G</source>
         <comment>green</comment>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>B</source>
         <comment>blue</comment>
-        <translation type="unfinished"></translation>
+        <translation>B</translation>
     </message>
 </context>
 <context>
     <name>olSandbox</name>
     <message>
         <source>The system has no Landlock; models are read without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>系统没有 Landlock；将在没有它的情况下读取模型。</translation>
     </message>
     <message>
         <source>The system takes no seccomp filter; models are read without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>系统不接受 seccomp 过滤器；将在没有它的情况下读取模型。</translation>
     </message>
 </context>
 <context>
     <name>olSceneLoaders</name>
     <message>
         <source>OpenSG could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动 OpenSG。</translation>
     </message>
     <message>
         <source>OpenSG has no loader for %1; options for it are not kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>OpenSG 没有用于 %1 的加载器；不保留其选项。</translation>
     </message>
 </context>
 <context>
     <name>olSceneTree</name>
     <message>
         <source>Level %1</source>
-        <translation type="unfinished"></translation>
+        <translation>细节层次 %1</translation>
     </message>
     <message>
         <source>Unnamed group</source>
-        <translation type="unfinished"></translation>
+        <translation>未命名组</translation>
     </message>
     <message>
         <source>Unnamed part</source>
-        <translation type="unfinished"></translation>
+        <translation>未命名零件</translation>
     </message>
     <message>
         <source>Triangles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>三角形：%1</translation>
     </message>
     <message>
         <source>Colour: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色：%1</translation>
     </message>
     <message>
         <source>Opacity: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度：%1 %</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>场景</translation>
     </message>
     <message>
         <source>Nothing is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>未打开任何内容。</translation>
     </message>
 </context>
 <context>
     <name>olSceneView</name>
     <message>
         <source>The 3D view needs an X display.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 视图需要 X 显示。</translation>
     </message>
     <message>
         <source>The OpenGL context of this display cannot be used for the 3D view.</source>
-        <translation type="unfinished"></translation>
+        <translation>此显示的 OpenGL 上下文不能用于 3D 视图。</translation>
     </message>
 </context>
 <context>
     <name>olSettingDescription</name>
     <message>
         <source>one of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>以下值之一：%1</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>最多 %1 个字符的文本</translation>
     </message>
     <message>
         <source>three numbers from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>从 %1 到 %2 的三个数字</translation>
     </message>
     <message>
         <source>is of the type %1, not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>类型为 %1，而不是 %2</translation>
     </message>
     <message>
         <source>cannot be %1: expected %2</source>
-        <translation type="unfinished"></translation>
+        <translation>不能为 %1：应为%2</translation>
     </message>
 </context>
 <context>
     <name>olSettingMarks</name>
     <message>
         <source>Differs from its default.</source>
-        <translation type="unfinished"></translation>
+        <translation>与默认值不同。</translation>
     </message>
     <message>
         <source>Differs from its default. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>与默认值不同。%1</translation>
     </message>
 </context>
 <context>
     <name>olSettingMenu</name>
     <message>
         <source>Set by the site, and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>由站点设置，且已锁定</translation>
     </message>
     <message>
         <source>Changed, not applied yet</source>
-        <translation type="unfinished"></translation>
+        <translation>已更改，尚未应用</translation>
     </message>
     <message>
         <source>Set by you</source>
-        <translation type="unfinished"></translation>
+        <translation>由用户设置</translation>
     </message>
     <message>
         <source>Set by the site</source>
-        <translation type="unfinished"></translation>
+        <translation>由站点设置</translation>
     </message>
     <message>
         <source>The default</source>
-        <translation type="unfinished"></translation>
+        <translation>默认值</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished"></translation>
+        <translation>下次导入时生效</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished"></translation>
+        <translation>下次启动时生效</translation>
     </message>
     <message>
         <source>Is only recorded by this host</source>
-        <translation type="unfinished"></translation>
+        <translation>此主机仅作记录</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
-        <translation type="unfinished"></translation>
+        <translation>撤回(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Reset to Default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>重置为默认值(&amp;R)：%1</translation>
     </message>
     <message>
         <source>Copy &amp;Key &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>复制键“%1”(&amp;K)</translation>
     </message>
     <message>
         <source>Copy as &amp;JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>复制为 JSON(&amp;J)</translation>
     </message>
     <message>
         <source>&amp;Why Is This Locked?</source>
-        <translation type="unfinished"></translation>
+        <translation>为何锁定(&amp;W)？</translation>
     </message>
 </context>
 <context>
     <name>olSettingsLock</name>
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>设置文件 %1 被占用：%2（进程 %3）持有其锁。要保存到其中的内容需等待。</translation>
     </message>
 </context>
 <context>
     <name>olSiteDefaults</name>
     <message>
         <source>it cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取：%1</translation>
     </message>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是普通文件</translation>
     </message>
     <message>
         <source>only root may own and write the file and its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>该文件及其文件夹只能由 root 拥有和写入</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 行：%2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has neither a &quot;value&quot; nor a lock</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”既没有“value”也没有锁定</translation>
     </message>
     <message>
         <source>takes true or false for &quot;locked&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>中的“locked”只能是 true 或 false</translation>
     </message>
     <message>
         <source>takes a text for &quot;reason&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>中的“reason”只能是文本</translation>
     </message>
     <message>
         <source>has &quot;%1&quot;, where only &quot;value&quot;, &quot;locked&quot; and &quot;reason&quot; can stand</source>
-        <translation type="unfinished"></translation>
+        <translation>含有“%1”，而此处只能有“value”、“locked”和“reason”</translation>
     </message>
     <message>
         <source>This setting is fixed for your site.</source>
-        <translation type="unfinished"></translation>
+        <translation>此设置由站点固定。</translation>
     </message>
     <message>
         <source>%1, line %2: no module has a setting &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，第 %2 行：没有任何模块有设置“%3”。</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1 are ignored: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>已忽略站点的首选项 %1：%2。</translation>
     </message>
     <message>
         <source>The site&apos;s preferences %1, line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>站点的首选项 %1，第 %2 行：%3。</translation>
     </message>
 </context>
 <context>
     <name>olSpacemouseLink</name>
     <message>
         <source>Cannot look for a 3D mouse: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法查找 3D 鼠标：%1</translation>
     </message>
     <message>
         <source>There is no 3D mouse: its daemon, spacenavd, is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有 3D 鼠标：其守护进程 spacenavd 未运行。</translation>
     </message>
     <message>
         <source>Connected to the daemon of the 3D mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>已连接到 3D 鼠标的守护进程。</translation>
     </message>
     <message>
         <source>The daemon of the 3D mouse has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 鼠标的守护进程已断开。</translation>
     </message>
 </context>
 <context>
     <name>olSqlite</name>
     <message>
         <source>no space left on the device</source>
-        <translation type="unfinished"></translation>
+        <translation>设备上没有剩余空间</translation>
     </message>
     <message>
         <source>its file system refuses locks</source>
-        <translation type="unfinished"></translation>
+        <translation>其文件系统拒绝加锁</translation>
     </message>
     <message>
         <source>another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>另一个程序正在占用它</translation>
     </message>
     <message>
         <source>it or its folder is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>它或其文件夹为只读</translation>
     </message>
     <message>
         <source>it cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开</translation>
     </message>
     <message>
         <source>input or output failed</source>
-        <translation type="unfinished"></translation>
+        <translation>输入或输出失败</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>其结构已损坏</translation>
     </message>
     <message>
         <source>its content is no database</source>
-        <translation type="unfinished"></translation>
+        <translation>其内容不是数据库</translation>
     </message>
     <message>
         <source>a row is not what it was</source>
-        <translation type="unfinished"></translation>
+        <translation>某一行与原来不同</translation>
     </message>
 </context>
 <context>
     <name>olStartFault</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项</translation>
     </message>
     <message>
         <source>The preferences cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载首选项。</translation>
     </message>
     <message>
         <source>The file is left as it is. With the defaults nothing of this run is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件保持原样。使用默认值时，本次运行的内容均不保留。</translation>
     </message>
     <message>
         <source>Another &amp;Store...</source>
-        <translation type="unfinished"></translation>
+        <translation>其他存储文件(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Defaults for This Run</source>
-        <translation type="unfinished"></translation>
+        <translation>本次使用默认值(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message>
         <source>Another Store</source>
-        <translation type="unfinished"></translation>
+        <translation>其他存储文件</translation>
     </message>
     <message>
         <source>Preferences (*.db);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项 (*.db);;所有文件 (*)</translation>
     </message>
     <message>
         <source>The plug-in with the preferences cannot be loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载首选项插件。</translation>
     </message>
     <message>
         <source>Another &amp;Plug-In...</source>
-        <translation type="unfinished"></translation>
+        <translation>其他插件(&amp;P)...</translation>
     </message>
     <message>
         <source>Another Plug-In</source>
-        <translation type="unfinished"></translation>
+        <translation>其他插件</translation>
     </message>
     <message>
         <source>Plug-ins (*.so);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>插件 (*.so);;所有文件 (*)</translation>
     </message>
 </context>
 <context>
     <name>olStoreFile</name>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1：%2</translation>
     </message>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是普通文件</translation>
     </message>
     <message>
         <source>another program keeps it busy</source>
-        <translation type="unfinished"></translation>
+        <translation>另一个程序正在占用它</translation>
     </message>
     <message>
         <source>there is nothing in it</source>
-        <translation type="unfinished"></translation>
+        <translation>其中没有内容</translation>
     </message>
     <message>
         <source>it is no preferences file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是首选项文件</translation>
     </message>
     <message>
         <source>it is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>它已不存在</translation>
     </message>
     <message>
         <source>its folder cannot be created</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建其文件夹</translation>
     </message>
     <message>
         <source>it is another program&apos;s database</source>
-        <translation type="unfinished"></translation>
+        <translation>这是另一个程序的数据库</translation>
     </message>
     <message>
         <source>it was written by a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>它由更新的版本写入</translation>
     </message>
     <message>
         <source>its format is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>其格式未知</translation>
     </message>
     <message>
         <source>its header is not what it was</source>
-        <translation type="unfinished"></translation>
+        <translation>其文件头与原来不同</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation type="unfinished"></translation>
+        <translation>其表与原来不同</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>其结构已损坏</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>有行被更改或缺失</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>其历史记录被更改</translation>
     </message>
 </context>
 <context>
     <name>olTesselationSettings</name>
     <message>
         <source>T&amp;essellation</source>
-        <translation type="unfinished"></translation>
+        <translation>镶嵌(&amp;E)</translation>
     </message>
     <message>
         <source>Chord &amp;Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差(&amp;D)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>&amp;Normal Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>法线公差(&amp;N)</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Ma&amp;x Chord Length</source>
-        <translation type="unfinished"></translation>
+        <translation>最大弦长(&amp;X)</translation>
     </message>
     <message>
         <source>&amp;Stitching</source>
-        <translation type="unfinished"></translation>
+        <translation>缝合(&amp;S)</translation>
     </message>
     <message>
         <source>St&amp;itching Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>缝合公差(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>质量(&amp;Q)</translation>
     </message>
     <message>
         <source>Sets chord deviation, normal tolerance and max chord length together.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时设置弦偏差、法线公差和最大弦长。</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>质量</translation>
     </message>
 </context>
 <context>
     <name>olToolError</name>
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 UTF-8</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is locked: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”已锁定：%2</translation>
     </message>
     <message>
         <source>Cannot check %1: there is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法检查 %1：没有这个文件。</translation>
     </message>
     <message>
         <source>%1 cannot be entered: expected %2</source>
-        <translation type="unfinished"></translation>
+        <translation>不能输入 %1：应为%2</translation>
     </message>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>true 或 false</translation>
     </message>
     <message>
         <source>a text or a number</source>
-        <translation type="unfinished"></translation>
+        <translation>文本或数字</translation>
     </message>
     <message>
         <source>a button is not edited but pressed, by click</source>
-        <translation type="unfinished"></translation>
+        <translation>按钮不能编辑，只能用 click 按下</translation>
     </message>
     <message>
         <source>true, as another one must be chosen instead</source>
-        <translation type="unfinished"></translation>
+        <translation>true，因为须另选一项</translation>
     </message>
     <message>
         <source>an item by its number or its text: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用编号或文本指定的选项：%1</translation>
     </message>
     <message>
         <source>the item &quot;%1&quot; is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>选项“%1”已禁用</translation>
     </message>
     <message>
         <source>the field is only to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>该字段为只读</translation>
     </message>
     <message>
         <source>what the field&apos;s validator lets through</source>
-        <translation type="unfinished"></translation>
+        <translation>该字段的验证器所接受的内容</translation>
     </message>
     <message>
         <source>at most %1 characters</source>
-        <translation type="unfinished"></translation>
+        <translation>最多 %1 个字符的文本</translation>
     </message>
     <message>
         <source>%1 with at most %2 decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，最多 %2 位小数</translation>
     </message>
     <message>
         <source>three numbers from 0 to 1, as [1, 0.5, 0]</source>
-        <translation type="unfinished"></translation>
+        <translation>从 0 到 1 的三个数字，例如 [1, 0.5, 0]</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>双引号内的文本</translation>
     </message>
     <message>
         <source>the text is only to be read</source>
-        <translation type="unfinished"></translation>
+        <translation>该文本为只读</translation>
     </message>
     <message>
         <source>a table or tree is not edited; select in it and press its buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>表格或树不能编辑；请在其中选择并按其按钮</translation>
     </message>
     <message>
         <source>a control of its kind is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>未知的控件种类</translation>
     </message>
     <message>
         <source>it is neither a table nor a tree</source>
-        <translation type="unfinished"></translation>
+        <translation>它既不是表格也不是树</translation>
     </message>
     <message>
         <source>nothing can be selected in it</source>
-        <translation type="unfinished"></translation>
+        <translation>其中没有可选择的内容</translation>
     </message>
     <message>
         <source>it is no button</source>
-        <translation type="unfinished"></translation>
+        <translation>它不是按钮</translation>
     </message>
     <message>
         <source>there is no row %1: it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有第 %1 行：共有 %2</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1 行</translation>
     </message>
     <message>
         <source>%1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 行</translation>
     </message>
     <message>
         <source>there is no column %1: it has %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有第 %1 列：共有 %2</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>1 列</translation>
     </message>
     <message>
         <source>%1 columns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 列</translation>
     </message>
     <message>
         <source>Cannot read the standard input: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取标准输入：%1。</translation>
     </message>
     <message>
         <source>Cannot import the standard input. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法导入标准输入。%1</translation>
     </message>
     <message>
         <source>skipped: &quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>已跳过：“%1”%2</translation>
     </message>
     <message>
         <source>there is no module &quot;%1&quot;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有模块“%1”%2</translation>
     </message>
     <message>
         <source>%1 saves cannot be taken back: there are only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>无法撤回 %1 次保存：只有 %2 次</translation>
     </message>
     <message>
         <source>left: &quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>保持原样：“%1”%2</translation>
     </message>
     <message>
         <source>Some settings were left as they are.</source>
-        <translation type="unfinished"></translation>
+        <translation>某些设置保持原样。</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有设置“%1”%2</translation>
     </message>
     <message>
         <source>the button &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>按钮“%1”</translation>
     </message>
     <message>
         <source>a directory</source>
-        <translation type="unfinished"></translation>
+        <translation>目录</translation>
     </message>
     <message>
         <source>a colour</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色</translation>
     </message>
     <message>
         <source>%1 opened, but the answer queued for it is %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1已打开，但为其准备的应答是：%2</translation>
     </message>
     <message>
         <source>the box &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>对话框“%1”</translation>
     </message>
     <message>
         <source>the box &quot;%1&quot; has no button &quot;%2&quot;; it has %3</source>
-        <translation type="unfinished"></translation>
+        <translation>对话框“%1”没有按钮“%2”；现有：%3</translation>
     </message>
     <message>
         <source>a colour dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色对话框</translation>
     </message>
     <message>
         <source>the directory chooser &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>目录选择对话框“%1”</translation>
     </message>
     <message>
         <source>; did you mean &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>；是否想用“%1”？</translation>
     </message>
     <message>
         <source>a command is missing: %1; see --help</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少命令：%1；请参阅 --help</translation>
     </message>
     <message>
         <source>%1 or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 或 %2</translation>
     </message>
     <message>
         <source>there is no command %1, only %2; see --help</source>
-        <translation type="unfinished"></translation>
+        <translation>没有命令 %1，只有 %2；请参阅 --help</translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 和 %2</translation>
     </message>
     <message>
         <source>essentials, design, professional or enterprise</source>
-        <translation type="unfinished"></translation>
+        <translation>essentials、design、professional 或 enterprise</translation>
     </message>
     <message>
         <source>%1 needs a value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 需要值</translation>
     </message>
     <message>
         <source>%1 takes no value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不接受值</translation>
     </message>
     <message>
         <source>there is no edition %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有版本 %1，只有 %2</translation>
     </message>
     <message>
         <source>there is no option %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有选项 %1%2</translation>
     </message>
     <message>
         <source>usage: orlo-prefs [OPTIONS] %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用法：orlo-prefs [OPTIONS] %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is only set with --yes: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”只能用 --yes 设置：%2</translation>
     </message>
     <message>
         <source>Cannot write the output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入输出：%1。</translation>
     </message>
     <message>
         <source>Cannot make a directory for scratch settings: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法为临时设置创建目录：%1。</translation>
     </message>
     <message>
         <source>Cannot read the script %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取脚本 %1：%2。</translation>
     </message>
     <message>
         <source>%1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少 %1</translation>
     </message>
     <message>
         <source>a quote stands within the word %1</source>
-        <translation type="unfinished"></translation>
+        <translation>单词 %1 中有引号</translation>
     </message>
     <message>
         <source>a quote is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>引号未闭合</translation>
     </message>
     <message>
         <source>a blank is missing behind &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”后缺少空格</translation>
     </message>
     <message>
         <source>VALUE is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>缺少 VALUE</translation>
     </message>
     <message>
         <source>%1 is no JSON value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是 JSON 值</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too much</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”是多余的</translation>
     </message>
     <message>
         <source>%1; usage: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1；用法：%2</translation>
     </message>
     <message>
         <source>there is no type %1, only %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有类型 %1，只有 %2</translation>
     </message>
     <message>
         <source>%1 is no value of type %2: expected %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是类型 %2 的值：应为%3</translation>
     </message>
     <message>
         <source>%1 is no number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是从 0 开始的编号</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 行：%2</translation>
     </message>
     <message>
         <source>there is no command %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有命令 %1%2</translation>
     </message>
     <message>
         <source>behind the module only keep may follow</source>
-        <translation type="unfinished"></translation>
+        <translation>模块之后只能跟 keep</translation>
     </message>
     <message>
         <source>%1 is neither put nor get</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 既不是 put 也不是 get</translation>
     </message>
     <message>
         <source>no column goes with none</source>
-        <translation type="unfinished"></translation>
+        <translation>none 不能与列一起使用</translation>
     </message>
     <message>
         <source>%1 is no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是颜色</translation>
     </message>
     <message>
         <source>there is no fact %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有主机状态项 %1%2</translation>
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不适合主机状态项 %2：应为%3</translation>
     </message>
     <message>
         <source>no variable can be called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>变量不能命名为 %1</translation>
     </message>
     <message>
         <source>%1 is no text</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是文本</translation>
     </message>
     <message>
         <source>there is no module &quot;%1&quot;; there is: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>没有模块“%1”；现有：%2</translation>
     </message>
     <message>
         <source>the library is unloaded</source>
-        <translation type="unfinished"></translation>
+        <translation>库已卸载</translation>
     </message>
     <message>
         <source>%1 has no page</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 没有页面</translation>
     </message>
     <message>
         <source>%1 is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已隐藏</translation>
     </message>
     <message>
         <source>%1 is disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已禁用</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds a value of a type that settings do not have</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”的值属于设置所没有的类型</translation>
     </message>
 </context>
 <context>
     <name>olUndo</name>
     <message>
         <source>is locked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>已锁定：%1</translation>
     </message>
     <message>
         <source>was changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>此后又被更改</translation>
     </message>
 </context>
 <context>
     <name>olValue</name>
     <message>
         <source>true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>true 或 false</translation>
     </message>
     <message>
         <source>a whole number from -2147483648 to 2147483647</source>
-        <translation type="unfinished"></translation>
+        <translation>从 -2147483648 到 2147483647 的整数</translation>
     </message>
     <message>
         <source>a whole number from 0 to 4294967295</source>
-        <translation type="unfinished"></translation>
+        <translation>从 0 到 4294967295 的整数</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>数字</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>双引号内的文本</translation>
     </message>
     <message>
         <source>a list of texts, as [&quot;a&quot;, &quot;b&quot;]</source>
-        <translation type="unfinished"></translation>
+        <translation>文本列表，例如 [&quot;a&quot;, &quot;b&quot;]</translation>
     </message>
     <message>
         <source>a list of numbers, as [1, 0.5]</source>
-        <translation type="unfinished"></translation>
+        <translation>数字列表，例如 [1, 0.5]</translation>
     </message>
     <message>
         <source>three numbers, as [1, 0.5, 0]</source>
-        <translation type="unfinished"></translation>
+        <translation>三个数字，例如 [1, 0.5, 0]</translation>
     </message>
     <message>
         <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
-        <translation type="unfinished"></translation>
+        <translation>颜色列表，例如 [[0, 0, 0], [1, 1, 1]]</translation>
     </message>
 </context>
 <context>
     <name>olValueText</name>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>关</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
 </context>
 <context>
     <name>olViewport</name>
     <message>
         <source>3D view</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 视图</translation>
     </message>
     <message>
         <source>The 3D view: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>3D 视图：%1</translation>
     </message>
     <message>
         <source>The renderer of the 3D view cannot be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动 3D 视图的渲染器。</translation>
     </message>
     <message>
         <source>A frame of the 3D view could not be drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法绘制 3D 视图的某一帧。</translation>
     </message>
 </context>
 <context>
     <name>olWebAccess</name>
     <message>
         <source>The web server does not answer %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Web 服务器不响应来自 %1 的请求：%2</translation>
     </message>
 </context>
 <context>
     <name>olWebPages</name>
     <message>
         <source>The answer would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>应答内容过大。</translation>
     </message>
     <message>
         <source>The application is running.</source>
-        <translation type="unfinished"></translation>
+        <translation>应用程序正在运行。</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
     <message>
         <source>State of the host</source>
-        <translation type="unfinished"></translation>
+        <translation>主机状态</translation>
     </message>
     <message>
         <source>Nothing can be changed here; ask with GET.</source>
-        <translation type="unfinished"></translation>
+        <translation>此处不能更改任何内容；请用 GET 请求。</translation>
     </message>
     <message>
         <source>There is no such page.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有这个页面。</translation>
     </message>
     <message>
         <source>This host is not allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>不允许此主机。</translation>
     </message>
 </context>
 <context>
     <name>olWebServer</name>
     <message>
         <source>it is no regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是普通文件</translation>
     </message>
     <message>
         <source>others than its owner can read it</source>
-        <translation type="unfinished"></translation>
+        <translation>除所有者外，其他人也能读取它</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>它是空的</translation>
     </message>
     <message>
         <source>The web server cannot use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Web 服务器无法使用 %1：%2</translation>
     </message>
     <message>
         <source>ports are numbered 1 to 65535</source>
-        <translation type="unfinished"></translation>
+        <translation>端口号为 1 到 65535</translation>
     </message>
     <message>
         <source>port %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>端口 %1（证书 %2）</translation>
     </message>
     <message>
         <source>port %1</source>
-        <translation type="unfinished"></translation>
+        <translation>端口 %1</translation>
     </message>
     <message>
         <source>The web server does not listen on %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Web 服务器未监听%1：%2</translation>
     </message>
 </context>
 <context>
     <name>orlo</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项</translation>
     </message>
     <message>
         <source>--%1 needs --render</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 需要 --render</translation>
     </message>
     <message>
         <source>--set needs --render or --save</source>
-        <translation type="unfinished"></translation>
+        <translation>--set 需要 --render 或 --save</translation>
     </message>
     <message>
         <source>--%1 does not go with --render</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 不能与 --render 一起使用</translation>
     </message>
     <message>
         <source>--%1 needs a window, which --render and --save do without</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 需要窗口，而 --render 和 --save 不使用窗口</translation>
     </message>
     <message>
         <source>--render needs --output PICTURE</source>
-        <translation type="unfinished"></translation>
+        <translation>--render 需要 --output PICTURE</translation>
     </message>
     <message>
         <source>%1 is no size: expected WIDTHxHEIGHT, each from 1 to 8192</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不是尺寸：应为 WIDTHxHEIGHT，两者各从 1 到 8192</translation>
     </message>
     <message>
         <source>--save needs either a model or --sample</source>
-        <translation type="unfinished"></translation>
+        <translation>--save 需要模型或 --sample 之一</translation>
     </message>
     <message>
         <source>%1 does not go with --render</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不能与 --render 一起使用</translation>
     </message>
     <message>
         <source>only one model can be opened at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>一次只能打开一个模型</translation>
     </message>
     <message>
         <source>there is no edition %1; there are essentials, design, professional and enterprise</source>
-        <translation type="unfinished"></translation>
+        <translation>没有版本 %1；只有 essentials、design、professional 和 enterprise</translation>
     </message>
     <message>
         <source>no page has the setting &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>没有页面有设置“%1”</translation>
     </message>
 </context>
 </TS>

@@ -1,12 +1,13 @@
+#include "Session/olArguments.h"
 #include "olPrefsCommands.h"
 #include "olPrefsOptions.h"
 #include "olPrefsTool.h"
 #include "olToolError.h"
 
 #include <QApplication>
-#include <QTextCodec>
 
 #include <cstdio>
+#include <optional>
 
 namespace
 {
@@ -27,7 +28,7 @@ void passOn(QtMsgType, const QMessageLogContext &, const QString &message)
 void prepareApplication()
 {
     qInstallMessageHandler(passOn);
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    olArguments::useUtf8();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // A desktop's theme or style would look for that desktop.
     qunsetenv("QT_QPA_PLATFORMTHEME");
@@ -37,20 +38,15 @@ void prepareApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(ORLO_VERSION));
 }
 
-/// UTF-8 in every locale, so that a value is never another than the one that was given.
-QString text(const char *argument)
-{
-    QString text = QString::fromUtf8(argument);
-    if (text.toUtf8() != argument)
-        throw olToolError(olToolError::tr("\"%1\" is no UTF-8").arg(text));
-    return text;
-}
-
 QStringList arguments(int count, char **values)
 {
     QStringList list;
-    for (int index = 1; index < count; ++index)
-        list << text(values[index]);
+    for (int index = 1; index < count; ++index) {
+        const std::optional<QString> text = olArguments::text(values[index]);
+        if (!text)
+            throw olToolError(olToolError::tr("\"%1\" is no UTF-8").arg(QString::fromUtf8(values[index])));
+        list << *text;
+    }
     return list;
 }
 

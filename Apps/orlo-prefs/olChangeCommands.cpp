@@ -17,6 +17,8 @@ void requireUnlocked(const olPreferencesSession &session, const std::string &key
 
 void restore(olPrefsTool &tool, const olKnownSetting &setting)
 {
+    if (const auto warning = tool.session().warning(setting.key, setting.standard))
+        tool.requireConsent(setting.key, *warning);
     setting.setValue(setting.standard);
     tool.session().restore(setting.key);
 }

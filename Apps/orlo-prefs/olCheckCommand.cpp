@@ -1,3 +1,4 @@
+#include "Session/olArguments.h"
 #include "Session/olSiteDefaults.h"
 #include "State/olHostState.h"
 #include "olPrefsCommands.h"
@@ -16,7 +17,7 @@ QStringList siteFindings(const olPreferencesSession &session, const QString &fil
         throw olToolError(olToolError::tr("Cannot check %1: there is no such file.").arg(file));
     olSiteDefaults site({file}, olSiteOwner::Anyone);
     site.read();
-    session.settleSite(site);
+    session.resolveSite(site);
     return site.takeFaults() << site.unknown();
 }
 
@@ -32,7 +33,7 @@ void olPrefsCommands::check(olPrefsTool &tool)
     tool.loadPlugin();
     tool.fillDefaults();
     const QStringList findings =
-        isSite ? siteFindings(tool.session(), tool.arguments().last()) : tool.session().check();
+        isSite ? siteFindings(tool.session(), olArguments::file(tool.arguments().last())) : tool.session().check();
     for (const QString &finding : findings)
         tool.print(finding.toStdString() + '\n');
     if (!findings.isEmpty())

@@ -1,7 +1,7 @@
 // The commands that keep preferences in a file and take them from one.
 
 #include "Editing/olPreferencesImport.h"
-#include "Session/olFileArgument.h"
+#include "Session/olArguments.h"
 #include "Session/olPreferencesFile.h"
 #include "Session/olProfiles.h"
 #include "State/olPreferencesEntry.h"
@@ -115,7 +115,7 @@ void olPrefsCommands::exportTo(olPrefsTool &tool)
     const olKnownSettings settings;
     for (const olKnownSetting &setting : settings.all())
         values[setting.key] = setting.entry->value(setting.key);
-    const QString file = olFileArgument(tool.arguments().value(0, QStringLiteral("-")));
+    const QString file = olArguments::file(tool.arguments().value(0, QStringLiteral("-")));
     if (isStandardStream(file))
         return tool.print(olPreferencesFile::toJson(values).toStdString());
     olPrefsTool::requireSuccess(olPreferencesFile::write(file, values));
@@ -125,7 +125,7 @@ void olPrefsCommands::importFrom(olPrefsTool &tool)
 {
     const bool isDryRun = tool.arguments().value(0) == QLatin1String("--dry-run");
     tool.requireArguments(isDryRun ? 2 : 1);
-    take(tool, read(olFileArgument(tool.arguments().last())), isDryRun);
+    take(tool, read(olArguments::file(tool.arguments().last())), isDryRun);
 }
 
 void olPrefsCommands::profile(olPrefsTool &tool)

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 using namespace olStoreRows;
 
@@ -30,8 +31,8 @@ std::string json(const Save &save)
     std::string changes;
     for (const Change &change : save.changes) {
         changes += (changes.empty() ? "\n    " : ",\n    ") + (R"({"key": )" + olValue::quoted(change.key.second)) +
-                   R"(, "home": )" + olValue::quoted(change.key.first) + R"(, "before": )" + json(change.before) +
-                   R"(, "after": )" + json(change.after) + '}';
+                   R"(, "home": )" + olValue::quoted(nameOf(change.key.first)) + R"(, "before": )" +
+                   json(change.before) + R"(, "after": )" + json(change.after) + '}';
     }
     return R"({"number": )" + std::to_string(save.number) + R"(, "time": )" + olValue::quoted(save.time) +
            R"(, "program": )" + olValue::quoted(save.program) + R"(, "changes": [)" + changes + "]}";
@@ -56,10 +57,12 @@ Save onlyOf(const std::string &key, Save save)
     return save;
 }
 
-void requireReadable(const olUndo &undo)
+olUndo undoOf(olPrefsTool &tool, int saves)
 {
-    if (!undo.error().isEmpty())
+    const olResult<olUndo> undo = olUndo::of(tool.session(), std::size_t(saves));
+    if (!undo.isOk())
         throw olToolError(undo.error());
+    return *undo;
 }
 
 } // namespace
@@ -71,8 +74,7 @@ void olPrefsCommands::log(olPrefsTool &tool)
     if (arguments.size() > 1)
         tool.failUsage();
     tool.loadStore(olStoreUse::LookAt);
-    const olUndo undo(tool.session(), 0);
-    requireReadable(undo);
+    const olUndo undo = undoOf(tool, 0);
     std::string text;
     int back = 0;
     for (auto save = undo.history().rbegin(); save != undo.history().rend(); ++save) {
@@ -99,24 +101,24 @@ void olPrefsCommands::undo(olPrefsTool &tool)
     if (arguments.size() > 1 || !isNumber || count < 1)
         tool.failUsage();
     tool.open(isDryRun ? olStoreUse::LookAt : olStoreUse::Own);
-    olUndo undo(tool.session(), std::size_t(count));
-    requireReadable(undo);
+    olUndo undo = undoOf(tool, count);
     if (undo.history().size() < std::size_t(count))
         throw olToolError(
             olToolError::tr("%1 saves cannot be taken back: there are only %2").arg(count).arg(undo.history().size()));
-    std::vector<olPreferencesImport::Change> changes;
-    for (const Change &change : undo.changes())
-        changes.push_back(
-            {change.key.second, undo.value(change.key, change.before), undo.value(change.key, change.after)});
+    const auto shown = [&undo](const Change &change) {
+        return olPreferencesImport::Change{change.key.second, undo.value(change.key, change.before),
+                                           undo.value(change.key, change.after)};
+    };
     if (!isDryRun) {
-        for (const olPreferencesImport::Change &change : changes) {
-            if (const auto warning = tool.session().warning(change.key, change.after))
-                tool.requireConsent(change.key, *warning);
+        for (const Change &change : undo.changes()) {
+            if (const auto warning = tool.session().warning(change.key.second, shown(change).after))
+                tool.requireConsent(change.key.second, *warning);
         }
-        const QString error = undo.save();
-        if (!error.isEmpty())
-            throw olToolError(error);
+        if (const olResult<> saved = undo.save(); !saved.isOk())
+            throw olToolError(saved.error());
     }
+    std::vector<olPreferencesImport::Change> changes;
+    std::transform(undo.changes().begin(), undo.changes().end(), std::back_inserter(changes), shown);
     tool.print(olSettingsList::changes(changes));
     for (const olSkippedSetting &left : undo.left())
         std::fprintf(stderr, "%s\n",

@@ -1,6 +1,6 @@
 #include "olPrefsOptions.h"
 
-#include "Session/olFileArgument.h"
+#include "Session/olArguments.h"
 #include "olNearest.h"
 #include "olToolError.h"
 
@@ -76,9 +76,9 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
         else if (option == QLatin1String("--app-name"))
             options.applicationName = reader.value(option);
         else if (option == QLatin1String("--store"))
-            options.store = olFileArgument(reader.value(option));
+            options.store = olArguments::file(reader.value(option));
         else if (option == QLatin1String("--plugin"))
-            options.plugin = olFileArgument(reader.value(option));
+            options.plugin = olArguments::file(reader.value(option));
         else if (option == QLatin1String("--yes"))
             options.isAgreed = true;
         else if (option == QLatin1String("--help") || option == QLatin1String("-h"))

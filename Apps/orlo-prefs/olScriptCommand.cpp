@@ -1,4 +1,4 @@
-#include "Session/olFileArgument.h"
+#include "Session/olArguments.h"
 #include "State/olHostState.h"
 #include "olPrefsCommands.h"
 #include "olPrefsTool.h"
@@ -12,7 +12,7 @@
 void olPrefsCommands::script(olPrefsTool &tool)
 {
     tool.requireArguments(1);
-    const QString name = olFileArgument(tool.arguments().first());
+    const QString name = olArguments::file(tool.arguments().first());
     QFile file(name);
     const bool isOpen =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);

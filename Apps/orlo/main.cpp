@@ -1,15 +1,19 @@
 #include "olBatch.h"
 #include "olFormerSettings.h"
 #include "olGivenSettings.h"
+#include "olImportChoice.h"
 #include "olMainWindow.h"
 #include "olStartFault.h"
 #include "olTour.h"
 
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
+#include "Dialog/olConsentBox.h"
+#include "Dialog/olPageStyle.h"
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olFileNames.h"
 #include "Model/olScene.h"
-#include "Session/olFileArgument.h"
+#include "Session/olArguments.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
@@ -21,12 +25,15 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -67,6 +74,45 @@ void tell(const QStringList &notices, QWidget *window)
     box->show();
 }
 
+/// How the model is meant, where its format does not say it; nothing where an option makes no sense.
+std::optional<olImportChoice> choiceOf(const QCommandLineParser &options)
+{
+    static const std::map<QString, double> units{{QStringLiteral("mm"), 1.0},
+                                                 {QStringLiteral("cm"), 10.0},
+                                                 {QStringLiteral("m"), 1000.0},
+                                                 {QStringLiteral("in"), 25.4},
+                                                 {QStringLiteral("ft"), 304.8}};
+    const auto unit = units.find(options.value(QStringLiteral("unit")));
+    const QString up = options.value(QStringLiteral("up"));
+    if (unit == units.end() || (up != QLatin1String("y") && up != QLatin1String("z")))
+        return std::nullopt;
+    return olImportChoice{false, unit->second, up == QLatin1String("y")};
+}
+
+/// Whether another program's value shall hold here, too.
+void ask(olPreferencesSession &session, const olOutsideChange &change, const olSettingWarning &question,
+         QWidget &window)
+{
+    auto *box = new olConsentBox(question, &window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setModal(false);
+    box->setInformativeText(
+        QCoreApplication::translate("orlo", "%1 has stored this.")
+            .arg(change.program.isEmpty() ? QCoreApplication::translate("orlo", "Another program") : change.program) +
+        QStringLiteral("\n\n") + question.informative);
+    QObject::connect(box, &QDialog::finished, &session,
+                     [&session, box, key = change.key] { session.answer(key, box->isAgreed()); });
+    box->show();
+}
+
+/// What was given for an option that takes the name of a file or folder.
+QString fileOf(const QCommandLineParser &options, const char *option)
+{
+    return olArguments::file(options.value(QLatin1String(option)));
+}
+
+QString modelOf(const QCommandLineParser &options) { return olArguments::file(options.positionalArguments().value(0)); }
+
 bool isBatch(const QCommandLineParser &options)
 {
     return options.isSet(QStringLiteral("render")) || options.isSet(QStringLiteral("save"));
@@ -99,6 +145,14 @@ QString misuse(const QCommandLineParser &options)
     const QString useless = uselessOption(options);
     if (!useless.isEmpty())
         return useless;
+    // Names of files may have any bytes, which stand in the text as they can; the rest is text.
+    for (const char *option : {"set", "setting", "edition", "app-name"}) {
+        const QStringList values = options.values(QLatin1String(option));
+        for (const QString &value : values) {
+            if (!olArguments::text(value.toLocal8Bit().constData()))
+                return Words::tr("\"%1\" is no UTF-8").arg(QString::fromUtf8(value.toLocal8Bit()));
+        }
+    }
     const bool isRendering = options.isSet(QStringLiteral("render"));
     if (isRendering && !options.isSet(QStringLiteral("output")))
         return Words::tr("--render needs --output PICTURE");
@@ -111,8 +165,10 @@ QString misuse(const QCommandLineParser &options)
         return Words::tr("--save needs either a model or --sample");
     if (isRendering && !models.isEmpty())
         return Words::tr("%1 does not go with --render").arg(models.first());
-    if (models.size() > 1)
-        return Words::tr("only one model can be opened at a time");
+    if (models.size() > 1 && isBatch(options))
+        return Words::tr("only one model can be converted at a time");
+    if (!choiceOf(options))
+        return Words::tr("expected --unit mm, cm, m, in or ft, and --up y or z");
     return {};
 }
 
@@ -120,12 +176,12 @@ QString misuse(const QCommandLineParser &options)
 int runBatch(const QCommandLineParser &options)
 {
     if (options.isSet(QStringLiteral("render")))
-        return olBatch::render(options.value(QStringLiteral("render")), options.value(QStringLiteral("output")),
+        return olBatch::render(fileOf(options, "render"), fileOf(options, "output"),
                                *olBatch::sizeFrom(options.value(QStringLiteral("size"))),
-                               options.isSet(QStringLiteral("edges")));
-    const QString target = options.value(QStringLiteral("save"));
+                               options.isSet(QStringLiteral("edges")), *choiceOf(options));
+    const QString target = fileOf(options, "save");
     if (!options.positionalArguments().isEmpty())
-        return olBatch::convert(options.positionalArguments().first(), target);
+        return olBatch::convert(modelOf(options), target, *choiceOf(options));
     olScene scene;
     scene.loadSample();
     return olBatch::save(scene, target);
@@ -134,7 +190,7 @@ int runBatch(const QCommandLineParser &options)
 /// The preferences come up, with those given for this run, and then the work is done.
 int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    const olResult<> loaded = session.loadPlugin(options.value(QStringLiteral("plugin")));
+    const olResult<> loaded = session.loadPlugin(fileOf(options, "plugin"));
     if (!loaded.isOk())
         return fail(loaded.error());
     session.fillDefaults();
@@ -163,7 +219,7 @@ bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !op
 /// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
 std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
 {
-    const QString given = olFileArgument(options.value(QStringLiteral("store")));
+    const QString given = fileOf(options, "store");
     QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
     while (true) {
         auto session = std::make_unique<olPreferencesSession>(file);
@@ -181,7 +237,7 @@ std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &op
 
 bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options)
 {
-    QString file = options.value(QStringLiteral("plugin"));
+    QString file = fileOf(options, "plugin");
     while (true) {
         const olResult<> loaded = session.loadPlugin(file);
         if (loaded.isOk())
@@ -194,8 +250,20 @@ bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options
     }
 }
 
-/// From the options of the command line to the end of the run.
-int run(const QCommandLineParser &options)
+/// Which host this is, for another run of the same.
+QStringList hostArguments(const QCommandLineParser &options)
+{
+    QStringList arguments;
+    for (const char *option : {"edition", "app-name", "store", "plugin"}) {
+        if (options.isSet(QLatin1String(option)))
+            arguments << QStringLiteral("--%1=%2").arg(QLatin1String(option), options.value(QLatin1String(option)));
+    }
+    return arguments;
+}
+
+/// From the options of the command line to the end of the run. Where another run shall follow, `again` gets what that
+/// is to be started with.
+int run(const QCommandLineParser &options, QStringList &again)
 {
     olHostState &host = olHostState::the();
     const auto edition = olEditionNamed(options.value(QStringLiteral("edition")));
@@ -225,14 +293,15 @@ int run(const QCommandLineParser &options)
     if (!loadPlugin(session, options))
         return 1;
     session.start();
-    if (options.isSet(QStringLiteral("sample"))) {
-        window.scene().loadSample();
-        session.newScene();
-    }
+    if (options.isSet(QStringLiteral("sample")))
+        window.openSample();
     window.show();
     const QStringList models = options.positionalArguments();
-    if (!models.isEmpty())
-        window.openModel(models.first());
+    olImportChoice choice = *choiceOf(options);
+    for (const QString &model : models) {
+        window.openModel(olArguments::file(model), choice);
+        choice.addsToScene = true;
+    }
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -242,10 +311,17 @@ int run(const QCommandLineParser &options)
         return refuse(Words::tr("no page has the setting \"%1\"").arg(setting));
     }
 
-    const QString tourFolder = options.value(QStringLiteral("tour"));
+    const QString tourFolder = fileOf(options, "tour");
     tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
     QObject::connect(&session, &olPreferencesSession::noticed, &window,
                      [&session, &window] { tell(session.takeNotices(), &window); });
+    QObject::connect(&session, &olPreferencesSession::consentWanted, &window,
+                     [&](const olOutsideChange &change, const olSettingWarning &question) {
+                         if (canAsk(options))
+                             ask(session, change, question, window);
+                         else
+                             tell({olRefusalUnasked(change.key, question)}, nullptr);
+                     });
     session.follow();
     const int result = tourFolder.isEmpty() ? QApplication::exec() : olTour(window).run(tourFolder);
 
@@ -253,6 +329,8 @@ int run(const QCommandLineParser &options)
     const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
+    if (!window.restartArguments().isEmpty())
+        again = hostArguments(options) + window.restartArguments();
     return saved.isOk() ? result : fail(saved.error());
 }
 
@@ -295,6 +373,11 @@ void describe(QCommandLineParser &options)
     options.addOption({QStringLiteral("aids"),
                        QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
     options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
+    options.addOption({QStringLiteral("unit"),
+                       QStringLiteral("The unit of a model that does not say it: mm, cm, m, in or ft."),
+                       QStringLiteral("unit"), QStringLiteral("mm")});
+    options.addOption({QStringLiteral("up"), QStringLiteral("What is up in a model that does not say it: y or z."),
+                       QStringLiteral("axis"), QStringLiteral("z")});
     options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
                        QStringLiteral("WxH"), QStringLiteral("1280x720")});
     options.addOption({QStringLiteral("set"),
@@ -322,6 +405,7 @@ bool asksOnly(const std::vector<std::string> &arguments)
 
 int main(int argc, char *argv[])
 {
+    olKeepFileNames();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     olViewport::prepareApplication();
@@ -342,10 +426,15 @@ int main(int argc, char *argv[])
         options.process(application);
     }
     QApplication application(argumentCount, argumentTexts.data());
+    QApplication::setStyle(new olPageStyle); // owned by the application
     QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
     if (!options.parse(QApplication::arguments()))
         return refuse(options.errorText());
     options.process(application);
-    return run(options);
+    QStringList again;
+    const int result = run(options, again);
+    if (!again.isEmpty())
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), again);
+    return result;
 }

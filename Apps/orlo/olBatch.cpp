@@ -1,5 +1,7 @@
 #include "olBatch.h"
 
+#include "olImportChoice.h"
+
 #include "Exchange/olExportScene.h"
 #include "Exchange/olImport.h"
 #include "Model/olScene.h"
@@ -30,6 +32,13 @@ int fail(const QString &error, int status)
     return status;
 }
 
+olImportResult read(const QString &model, const olImportChoice &choice)
+{
+    olImportJob job = olImportJob::of(model);
+    choice.applyTo(job);
+    return olImport(job);
+}
+
 void remark(const QStringList &remarks)
 {
     for (const QString &each : remarks)
@@ -38,9 +47,10 @@ void remark(const QStringList &remarks)
 
 } // namespace
 
-int olBatch::render(const QString &model, const QString &pictureFile, const QSize &size, bool hasEdges)
+int olBatch::render(const QString &model, const QString &pictureFile, const QSize &size, bool hasEdges,
+                    const olImportChoice &choice)
 {
-    const olImportResult result = olImport(olImportJob::of(model));
+    const olImportResult result = read(model, choice);
     if (!result.isGood())
         return fail(result.error, 2);
     remark(result.remarks);
@@ -66,9 +76,9 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
     return 0;
 }
 
-int olBatch::convert(const QString &model, const QString &file)
+int olBatch::convert(const QString &model, const QString &file, const olImportChoice &choice)
 {
-    const olImportResult result = olImport(olImportJob::of(model));
+    const olImportResult result = read(model, choice);
     if (!result.isGood())
         return fail(result.error, 2);
     remark(result.remarks);

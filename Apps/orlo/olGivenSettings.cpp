@@ -2,7 +2,6 @@
 
 #include "Session/olPreferencesSession.h"
 #include "State/olPreferencesEntry.h"
-#include "State/olPreferencesRegistry.h"
 
 #include <QCoreApplication>
 
@@ -20,7 +19,7 @@ QString setOne(const olPreferencesSession &session, const QString &setting)
         return Words::tr("\"%1\" is no setting: expected \"KEY=VALUE\"").arg(setting);
     const QString name = setting.left(equals).trimmed();
     const std::string key = name.toStdString();
-    olPreferencesEntry *owner = olPreferencesRegistry::the().ownerOf(key);
+    olPreferencesEntry *owner = olPreferencesSession::moduleOf(key);
     if (!owner)
         return Words::tr("there is no setting \"%1\"").arg(name);
     const boost::any value = olPreferencesSession::description(key).fromTyped(setting.mid(equals + 1).trimmed());
@@ -28,12 +27,18 @@ QString setOne(const olPreferencesSession &session, const QString &setting)
     if (!reason.isEmpty())
         return QStringLiteral("\"%1\" %2").arg(name, reason);
     if (const auto warning = session.warning(key, value))
-        return Words::tr("\"%1\" is only set where somebody can be asked: %2").arg(name, warning->text);
+        return olRefusalUnasked(key, *warning);
     owner->setValue(key, value);
     return {};
 }
 
 } // namespace
+
+QString olRefusalUnasked(const std::string &key, const olSettingWarning &question)
+{
+    return Words::tr("\"%1\" is only set where somebody can be asked: %2")
+        .arg(QString::fromStdString(key), QString(question.text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
+}
 
 QString olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings)
 {

@@ -1,10 +1,13 @@
 #include "olMainWindow.h"
 
 #include "olAbout.h"
+#include "olFactsPanel.h"
 #include "olHostStatePanel.h"
+#include "olImportChoice.h"
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
 #include "olSceneTree.h"
+#include "olSupport.h"
 #include "olToolIcons.h"
 
 #include "Dialog/olPreferencesDialog.h"
@@ -15,8 +18,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -26,6 +31,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
@@ -36,18 +42,24 @@ constexpr double faintestWindow = 0.1;
 // What the window remembers from one run to the next, in the settings of the application.
 constexpr auto geometryKey = "window/geometry";
 constexpr auto panelsKey = "window/panels";
+constexpr auto dockedKey = "window/preferencesDocked";
+
+// In characters.
+constexpr int panelWidth = 72;
 
 } // namespace
 
 olMainWindow::olMainWindow(olPreferencesSession &session)
     : m_session(session),
+      m_log(std::make_unique<olLogTail>()),
       m_scene(std::make_unique<olScene>()),
       m_files(std::make_unique<olModelFiles>(*this, *m_scene)),
       m_tree(new olSceneTree(*m_scene)),
+      m_facts(new olFactsPanel(*m_scene)),
       m_state(new olHostStatePanel),
       m_journal(new olJournalPanel)
 {
-    setWindowTitle(tr("ORLO"));
+    showTitle({});
     addCentre();
     addDocks();
     addMenus();
@@ -107,6 +119,7 @@ void olMainWindow::addCentre()
     connect(m_viewport, &olViewport::selectionChanged, m_tree, &olSceneTree::showSelection);
     connect(m_tree, &olSceneTree::selectionChanged, m_viewport, &olViewport::select);
     connect(m_tree, &olSceneTree::zoomWanted, m_viewport, &olViewport::zoomToSelection);
+    connect(m_viewport, &olViewport::selectionChanged, m_facts, &olFactsPanel::showFacts);
 }
 
 void olMainWindow::addDocks()
@@ -120,11 +133,14 @@ void olMainWindow::addDocks()
         return dock;
     };
     QDockWidget *tree = add(tr("Scene"), "sceneDock", m_tree, Qt::LeftDockWidgetArea);
+    QDockWidget *facts = add(tr("Facts"), "factsDock", m_facts, Qt::LeftDockWidgetArea);
+    connect(m_tree, &olSceneTree::selectionChanged, m_facts, &olFactsPanel::showFacts);
     QDockWidget *state = add(tr("Host State"), "hostStateDock", m_state, Qt::RightDockWidgetArea);
     QDockWidget *calls = add(tr("Host Calls"), "hostCallsDock", m_journal, Qt::BottomDockWidgetArea);
     const QFontMetrics metrics = fontMetrics();
     resizeDocks({tree, state}, {metrics.averageCharWidth() * 32, metrics.averageCharWidth() * 45}, Qt::Horizontal);
-    resizeDocks({calls}, {metrics.height() * 10}, Qt::Vertical);
+    resizeDocks({tree, facts, calls}, {metrics.height() * 20, metrics.height() * 12, metrics.height() * 10},
+                Qt::Vertical);
     // They are for whoever writes modules; everyone else gets the room for the model.
     state->hide();
     calls->hide();
@@ -188,15 +204,86 @@ void olMainWindow::addViewActions()
 
 olPreferencesDialog &olMainWindow::openPreferences(const QString &module)
 {
-    if (!m_preferences)
+    if (!m_preferences) {
         m_preferences = std::make_unique<olPreferencesDialog>(m_session, this);
+        connect(m_preferences.get(), &olPreferencesDialog::restartAsked, this, &olMainWindow::restart);
+        if (m_dockPreferences->isChecked())
+            dockPreferences(true);
+    }
+    if (m_preferencesDock)
+        m_preferencesDock->show();
     m_preferences->open(module);
     return *m_preferences;
 }
 
-void olMainWindow::openModel(const QString &file) { m_files->openAtOnce(file); }
+void olMainWindow::openModel(const QString &file, const olImportChoice &choice) { m_files->openAtOnce(file, choice); }
 
-void olMainWindow::closePreferences() { m_preferences.reset(); }
+void olMainWindow::openSample()
+{
+    m_scene->loadSample();
+    m_files->forgetOpenFiles();
+    m_isSampleOpen = true;
+    showTitle(tr("Sample"));
+    m_session.newScene();
+}
+
+void olMainWindow::showTitle(const QString &open)
+{
+    setWindowTitle(open.isEmpty() ? tr("ORLO") : tr("%1 - ORLO").arg(open));
+}
+
+void olMainWindow::closePreferences()
+{
+    m_preferences.reset();
+    delete std::exchange(m_preferencesDock, nullptr);
+}
+
+/// As a panel of this window, or as a window of its own; what is edited in them stays.
+void olMainWindow::dockPreferences(bool docked)
+{
+    QSettings().setValue(QLatin1String(dockedKey), docked);
+    if (!m_preferences || docked == (m_preferencesDock != nullptr))
+        return;
+    const bool isShown = m_preferences->isVisible();
+    if (docked) {
+        m_preferencesDock = new QDockWidget(m_preferences->windowTitle(), this);
+        m_preferencesDock->setObjectName(QStringLiteral("preferencesDock"));
+        m_preferencesDock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+        m_preferencesDock->installEventFilter(this);
+        m_preferences->setParent(m_preferencesDock, Qt::Widget);
+        m_preferencesDock->setWidget(m_preferences.get());
+        connect(m_preferences.get(), &QDialog::finished, m_preferencesDock, &QWidget::hide);
+        addDockWidget(Qt::RightDockWidgetArea, m_preferencesDock);
+        resizeDocks({m_preferencesDock}, {fontMetrics().averageCharWidth() * panelWidth}, Qt::Horizontal);
+        m_preferencesDock->setVisible(isShown);
+    } else {
+        m_preferences->setParent(this, Qt::Dialog);
+        delete std::exchange(m_preferencesDock, nullptr);
+    }
+    if (isShown)
+        m_preferences->open();
+}
+
+/// Closing the panel is leaving the preferences, where somebody may want to stay with the edits.
+bool olMainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_preferencesDock || event->type() != QEvent::Close)
+        return QMainWindow::eventFilter(watched, event);
+    m_preferences->reject();
+    event->setAccepted(!m_preferences->isVisible());
+    return !event->isAccepted();
+}
+
+/// The page that was open is remembered by the preferences themselves.
+void olMainWindow::restart()
+{
+    m_restartArguments = QStringList{QStringLiteral("--preferences")} + m_files->openFiles();
+    if (m_isSampleOpen && m_files->openFiles().isEmpty())
+        m_restartArguments << QStringLiteral("--sample");
+    // Whoever has edits and wants to stay with them stays.
+    if (!close())
+        m_restartArguments.clear();
+}
 
 void olMainWindow::closeEvent(QCloseEvent *event)
 {
@@ -219,15 +306,26 @@ void olMainWindow::addMenus()
     newScene->setShortcut(QKeySequence::New);
     connect(newScene, &QAction::triggered, this, [this] {
         m_scene->clear();
+        m_files->forgetOpenFiles();
+        m_isSampleOpen = false;
         m_session.newScene();
     });
     QAction *sample = file->addAction(tr("Open the &Sample"));
-    connect(sample, &QAction::triggered, this, [this] {
-        m_scene->loadSample();
-        m_session.newScene();
-    });
+    connect(sample, &QAction::triggered, this, &olMainWindow::openSample);
     m_files->addTo(*file);
+    m_files->offerSettings([this](const std::string &key) { return m_session.lockReason(key).value_or(QString()); },
+                           [this](const olImportFineness::Values &values) {
+                               for (const auto &value : values)
+                                   m_session.choose(value.first);
+                               return m_session.commit({}, values).error();
+                           });
     connect(m_files.get(), &olModelFiles::imported, this, [this] { m_session.newScene(); });
+    connect(m_files.get(), &olModelFiles::told, this, [this](const QString &text) { statusBar()->showMessage(text); });
+    connect(m_files.get(), &olModelFiles::openFilesChanged, this, [this] {
+        const QStringList &files = m_files->openFiles();
+        const QString first = files.isEmpty() ? QString() : QFileInfo(files.first()).fileName();
+        showTitle(files.size() < 2 ? first : tr("%1 and %n more", nullptr, files.size() - 1).arg(first));
+    });
     file->addSeparator();
     QAction *quit = file->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -237,11 +335,20 @@ void olMainWindow::addMenus()
     QAction *preferences = edit->addAction(tr("&Preferences..."));
     preferences->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma));
     connect(preferences, &QAction::triggered, this, [this] { openPreferences(); });
+    m_dockPreferences = edit->addAction(tr("Preferences as a Pa&nel"));
+    m_dockPreferences->setCheckable(true);
+    m_dockPreferences->setChecked(QSettings().value(QLatin1String(dockedKey)).toBool());
+    connect(m_dockPreferences, &QAction::toggled, this, &olMainWindow::dockPreferences);
 }
 
 void olMainWindow::addHelp()
 {
     QMenu *help = menuBar()->addMenu(tr("&Help"));
+    QAction *support = help->addAction(tr("Copy &Support Information"));
+    connect(support, &QAction::triggered, this, [this] {
+        QApplication::clipboard()->setText(olSupportInformation(m_session, *m_log));
+        statusBar()->showMessage(tr("Versions, changed settings and the end of the log are on the clipboard."));
+    });
     QAction *about = help->addAction(tr("&About ORLO"));
     connect(about, &QAction::triggered, this, [this] { olShowAbout(*this); });
 }

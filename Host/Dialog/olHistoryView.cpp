@@ -1,5 +1,7 @@
 #include "Dialog/olHistoryView.h"
 
+#include "Editing/olValueText.h"
+
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -9,14 +11,15 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-olHistoryView::olHistoryView(const olStoreRows::History &history, QWidget *parent)
+olHistoryView::olHistoryView(const olUndo &undo, const PlaceOf &placeOf, QWidget *parent)
     : QDialog(parent), m_list(new QTreeWidget), m_goBack(new QPushButton(tr("&Go Back...")))
 {
     setWindowTitle(tr("History"));
     setWindowModality(Qt::WindowModal);
-    auto *introduction = new QLabel(history.empty() ? tr("Nothing has been saved yet.")
-                                                    : tr("Going back takes back the save that is chosen and all later "
-                                                         "ones. What that changes is shown first."));
+    auto *introduction =
+        new QLabel(undo.history().empty() ? tr("Nothing has been saved yet.")
+                                          : tr("Going back takes back the save that is chosen and all later "
+                                               "ones. What that changes is shown first."));
     introduction->setWordWrap(true);
     m_list->setObjectName(QStringLiteral("saves"));
     m_list->setAccessibleName(tr("Saves"));
@@ -32,8 +35,8 @@ olHistoryView::olHistoryView(const olStoreRows::History &history, QWidget *paren
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
 
-    for (auto save = history.rbegin(); save != history.rend(); ++save)
-        add(*save);
+    for (auto save = undo.history().rbegin(); save != undo.history().rend(); ++save)
+        add(*save, undo, placeOf);
     m_list->setCurrentItem(m_list->topLevelItem(0));
     m_goBack->setEnabled(m_list->topLevelItemCount() > 0);
     for (int column = 0; column < 2; ++column) {
@@ -47,14 +50,17 @@ olHistoryView::olHistoryView(const olStoreRows::History &history, QWidget *paren
             [this] { m_goBack->setEnabled(m_list->currentItem() != nullptr); });
 }
 
-void olHistoryView::add(const olStoreRows::Save &save)
+void olHistoryView::add(const olStoreRows::Save &save, const olUndo &undo, const PlaceOf &placeOf)
 {
     const QDateTime time = QDateTime::fromString(QString::fromStdString(save.time), Qt::ISODateWithMs).toLocalTime();
     const QString when = QLocale().toString(time, QLocale::ShortFormat);
-    const auto text = [this](const auto &row) { return row ? QString::fromStdString(row->value) : tr("default"); };
-    const auto line = [&text](const olStoreRows::Change &change) {
+    const auto line = [&](const olStoreRows::Change &change) {
+        const std::string &key = change.key.second;
+        const auto text = [&](const auto &row) {
+            return row ? olShortValueText(key, undo.value(change.key, row)) : tr("default");
+        };
         return tr("%1: %2 to %3", "setting, old and new value")
-            .arg(QString::fromStdString(change.key.second), text(change.before), text(change.after));
+            .arg(placeOf(key), text(change.before), text(change.after));
     };
     const int count = int(save.changes.size());
     auto *item = new QTreeWidgetItem(m_list, {when, QString::fromStdString(save.program),

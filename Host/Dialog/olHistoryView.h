@@ -3,8 +3,11 @@
 #include "Session/olUndo.h"
 
 #include <QDialog>
+#include <QString>
 
 #include <cstddef>
+#include <functional>
+#include <string>
 
 class QPushButton;
 class QTreeWidget;
@@ -15,14 +18,17 @@ class olHistoryView : public QDialog
     Q_OBJECT
 
 public:
-    olHistoryView(const olStoreRows::History &history, QWidget *parent);
+    /// How a person finds a setting.
+    using PlaceOf = std::function<QString(const std::string &key)>;
+
+    olHistoryView(const olUndo &undo, const PlaceOf &placeOf, QWidget *parent);
 
 signals:
     /// That many saves, counted from the latest, are to be taken back. The view closes.
     void chosen(std::size_t saves);
 
 private:
-    void add(const olStoreRows::Save &save);
+    void add(const olStoreRows::Save &save, const olUndo &undo, const PlaceOf &placeOf);
     void choose();
 
     QTreeWidget *m_list;

@@ -1,6 +1,15 @@
 #include "Dialog/olProfilesMenu.h"
 
-#include <QInputDialog>
+#include "Editing/olPendingChanges.h"
+#include "State/olPreferencesEntry.h"
+#include "State/olPreferencesRegistry.h"
+#include "State/olValue.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include <algorithm>
@@ -37,16 +46,37 @@ void olProfilesMenu::list()
     addMenu(m_removal);
 }
 
-void olProfilesMenu::saveAs(const olSettingValues &settings)
+void olProfilesMenu::saveAs(const olPreferencesSession &session, const olPendingChanges &pending)
 {
-    bool isGiven = false;
-    const QString name =
-        QInputDialog::getText(parentWidget(), tr("Save Profile"), tr("&Name:"), QLineEdit::Normal, {}, &isGiven);
-    if (!isGiven || !isReplaceAgreed(name))
+    QDialog dialog(parentWidget());
+    dialog.setWindowTitle(tr("Save Profile"));
+    auto *name = new QLineEdit;
+    auto *which = new QComboBox;
+    which->addItems({tr("All Settings"), tr("Changed Settings")});
+    which->insertSeparator(which->count());
+    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries())
+        which->addItem(entry->name(), entry->name());
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+    auto *form = new QFormLayout(&dialog);
+    form->addRow(tr("&Name:"), name);
+    form->addRow(tr("&Settings:"), which);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    if (dialog.exec() != QDialog::Accepted || !isReplaceAgreed(name->text()))
         return;
-    const olResult<> saved = m_profiles.save(name, settings);
+
+    const QString module = which->currentData().toString();
+    olSettingValues kept;
+    for (const auto &[key, value] : pending.inForce()) {
+        const bool isOther = !module.isEmpty() && pending.ownerOf(key)->name() != module;
+        const bool isUnchanged = which->currentIndex() == 1 && olValue::identical(value, session.defaultValue(key));
+        if (!isOther && !isUnchanged)
+            kept.emplace(key, value);
+    }
+    const olResult<> saved = m_profiles.save(name->text(), kept);
     if (saved.isOk())
-        emit done(tr("The settings in force were saved as profile \"%1\".").arg(name));
+        emit done(tr("The settings in force were saved as profile \"%1\".").arg(name->text()));
     else
         emit failed(saved.error());
 }

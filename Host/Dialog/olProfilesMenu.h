@@ -3,6 +3,10 @@
 #include "Session/olProfiles.h"
 
 #include <QMenu>
+#include <QString>
+
+class olPendingChanges;
+class olPreferencesSession;
 
 /// The menu of the profiles: those there are, to be applied, and ways to keep the present settings as one and to delete
 /// one.
@@ -13,8 +17,8 @@ class olProfilesMenu : public QMenu
 public:
     olProfilesMenu(const olProfiles &profiles, QWidget *parent);
 
-    /// Asks for a name and keeps these settings under it.
-    void saveAs(const olSettingValues &settings);
+    /// Asks for a name, and which of the settings in force to keep under it.
+    void saveAs(const olPreferencesSession &session, const olPendingChanges &pending);
 
 signals:
     void chosen(const QString &name, const QString &file);

@@ -87,16 +87,23 @@ void olFieldGuard::stateChanged(const olHostValueBase &value)
 
 void olFieldGuard::showRefusals()
 {
-    const std::map<std::string, QString> &refusals = olHostState::the().refusals;
     const QList<QLineEdit *> fields = m_fields.keys();
-    for (QLineEdit *field : fields) {
-        const auto refusal = refusals.find(keyOf(*field));
-        if (refusal != refusals.end())
-            mark(*field, refusal->second);
-        else if (m_fields[field].isOfHost)
-            clearMark(*field);
-        m_fields[field].isOfHost = refusal != refusals.end();
-    }
+    for (QLineEdit *field : fields)
+        showRefusal(*field);
+}
+
+void olFieldGuard::showRefusal(QLineEdit &field)
+{
+    Field &known = m_fields[&field];
+    const std::map<std::string, QString> &refusals = olHostState::the().refusals;
+    const auto refusal = refusals.find(keyOf(field));
+    const bool isRefused = refusal != refusals.end();
+    if (isRefused)
+        mark(field, refusal->second);
+    else if (known.isOfHost)
+        clearMark(field);
+    known.isOfHost = isRefused;
+    known.refusedText = isRefused ? field.text() : QString();
 }
 
 void olFieldGuard::watch(QLineEdit &field)
@@ -114,6 +121,8 @@ void olFieldGuard::watch(QLineEdit &field)
         known.isTyped = std::exchange(known.isTold, false);
         if (!known.isTyped)
             known.before = text;
+        if (!text.isEmpty() && text == known.refusedText)
+            showRefusal(field);
     });
 }
 

@@ -41,10 +41,12 @@ private:
         QElapsedTimer refused;  ///< runs while what follows on a refused key is refused too
         QPointer<QAction> mark; ///< while it is marked
         bool isOfHost = false;  ///< whether the mark is about what the host refuses
+        QString refusedText;    ///< what it shows then
     };
 
     void stateChanged(const olHostValueBase &value) override;
     void showRefusals();
+    void showRefusal(QLineEdit &field);
 
     void watch(QLineEdit &field);
     void edited(QLineEdit &field, const QString &text);

@@ -1,6 +1,6 @@
 #include "Session/olPluginLoader.h"
 
-#include "Session/olLibraryFault.h"
+#include "Session/olLibraryCheck.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olSceneLoaders.h"
 
@@ -52,9 +52,8 @@ olResult<> olPluginLoader::load(const QString &given)
         return failure(Words::tr("there is no such file"));
     if (!info.isFile())
         return failure(Words::tr("it is not a file"));
-    const QString fault = olLibraryFault(m_library.fileName());
-    if (!fault.isEmpty())
-        return failure(fault);
+    if (const olResult<> checked = olCheckLibrary(m_library.fileName()); !checked.isOk())
+        return failure(checked.error());
     if (!m_library.load())
         return failure(m_library.errorString());
     olStartOpenSG();

@@ -18,6 +18,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -136,9 +137,6 @@ QStringList stampsOf(const QStringList &files)
     return stamps;
 }
 
-/// From a sentence that is empty where all went well.
-olResult<> resultOf(const QString &error) { return error.isEmpty() ? olResult<>() : olFailure{error}; }
-
 void setDisplayLanguage()
 {
     const int language = olHostSettings::language.value();
@@ -202,9 +200,12 @@ olPreferencesSession::~olPreferencesSession() { stop(); }
 
 olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
-    const olStoreOpening opening = use == olStoreUse::Own ? m_store.open(m_stored) : m_store.lookAt(m_stored);
-    if (!opening.notice.isEmpty())
-        m_notices << opening.notice;
+    const olResult<olStoreOpening> opened = m_store.open(use);
+    if (opened.isOk()) {
+        m_stored = opened->values;
+        if (!opened->notice.isEmpty())
+            m_notices << opened->notice;
+    }
     for (const auto &[key, value] : m_stored) {
         if (key.first == olHome::Record)
             record().set(key.second, value, true);
@@ -218,7 +219,7 @@ olResult<> olPreferencesSession::loadStore(olStoreUse use)
     if (!language.value.empty() && (language.locked || !isStored))
         record().set(languageKey, language.value, true);
     setDisplayLanguage();
-    return resultOf(opening.error);
+    return opened.isOk() ? olResult<>() : olFailure{opened.error()};
 }
 
 void olPreferencesSession::stop()
@@ -241,7 +242,7 @@ void olPreferencesSession::fillDefaults()
     for (olPreferencesEntry *entry : entries())
         entry->setDefaults(false);
 
-    settleSite(m_site);
+    resolveSite(m_site);
     m_notices << m_site.takeFaults();
     for (const auto &[key, list] : optionalLists()) {
         // At this site it has a default like any other.
@@ -259,15 +260,15 @@ void olPreferencesSession::fillDefaults()
     restoreLocked();
 }
 
-void olPreferencesSession::settleSite(olSiteDefaults &site) const
+void olPreferencesSession::resolveSite(olSiteDefaults &site) const
 {
     const auto optional = optionalLists();
     const auto defaultOf = [this, &optional](const std::string &key) {
         const auto list = optional.find(key);
         return list == optional.end() ? defaultValue(key) : list->second.none;
     };
-    site.settle(defaultOf,
-                [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
+    site.resolve(defaultOf,
+                 [](const std::string &key, const boost::any &value) { return description(key).whyNot(value); });
 }
 
 void olPreferencesSession::start()
@@ -305,11 +306,11 @@ Values olPreferencesSession::toBeKept() const
         if (offer.entry->home() == olHome::Service)
             keep({olHome::Service, offer.offered->key}, service().get(offer.offered->key));
     }
-    // The record shows all its rows; the service only those of its modules. And under a lock waits what was chosen
-    // before it.
+    // The record shows all its rows; the service only those of its modules. Under a lock waits what was chosen before
+    // it, and another program's choice until it is agreed to.
     for (const auto &[key, value] : m_stored) {
         const bool isUnseen = key.first == olHome::Service && !hasDefault(key);
-        if (isUnseen || isLocked(key.second))
+        if (isUnseen || isLocked(key.second) || isHeldBack(key))
             kept[key] = value;
     }
     return kept;
@@ -319,7 +320,7 @@ Values olPreferencesSession::toBeKept() const
 /// be none. Only what the site gives is the default everywhere.
 bool olPreferencesSession::isChoice(const olPreferencesStore::Key &key, const boost::any &value) const
 {
-    if (isLocked(key.second))
+    if (isLocked(key.second) || isHeldBack(key))
         return false;
     if (!isDefault(key, value))
         return true;
@@ -367,37 +368,37 @@ olResult<> olPreferencesSession::save()
     keepEmptied();
     const Values kept = toBeKept();
     const Changes changes = changesTo(m_stored, kept);
-    QString error = m_store.save(changes.changed, changes.removed);
-    if (!error.isEmpty() && m_store.isBroken())
-        error = saveIntoMended(error, kept);
-    if (error.isEmpty() && !(changes.changed.empty() && changes.removed.empty())) {
-        for (const auto &[key, value] : changes.changed)
-            m_stored[key] = olValue::adopted(value);
-        for (const olPreferencesStore::Key &key : changes.removed)
-            m_stored.erase(key);
-    }
-    if (error.isEmpty()) {
-        m_chosen.clear();
-        m_restored.clear();
-    }
-    return resultOf(error);
+    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    if (!saved.isOk() && m_store.isBroken())
+        saved = saveIntoMended({saved.error()}, kept);
+    if (!saved.isOk())
+        return saved;
+    for (const auto &[key, value] : changes.changed)
+        m_stored[key] = olValue::adopted(value);
+    for (const olPreferencesStore::Key &key : changes.removed)
+        m_stored.erase(key);
+    for (auto held = m_heldBack.begin(); held != m_heldBack.end();)
+        held = isHeldBack(held->first) ? std::next(held) : m_heldBack.erase(held);
+    m_chosen.clear();
+    m_restored.clear();
+    return saved;
 }
 
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
-QString olPreferencesSession::saveIntoMended(const QString &error, const Values &kept)
+olResult<> olPreferencesSession::saveIntoMended(const olFailure &failure, const Values &kept)
 {
-    Values mended;
-    const olStoreOpening opening = m_store.open(mended);
-    if (!opening.error.isEmpty())
-        return error;
+    const olResult<olStoreOpening> opened = m_store.open();
+    if (!opened.isOk())
+        return failure;
     // What another program has mended may hold newer values of its own.
-    const bool isOthers = opening.notice.isEmpty() && !mended.empty();
-    const Changes changes = changesTo(isOthers ? m_stored : mended, kept);
-    QString newError = m_store.save(changes.changed, changes.removed);
-    if (newError.isEmpty() && !opening.notice.isEmpty())
-        m_notices << opening.notice + QCoreApplication::translate("olPreferencesSession",
-                                                                  " All settings of this run were then saved into it.");
-    return newError;
+    const bool isOthers = opened->notice.isEmpty() && !opened->values.empty();
+    const Changes changes = changesTo(isOthers ? m_stored : opened->values, kept);
+    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    if (saved.isOk() && !opened->notice.isEmpty())
+        m_notices << opened->notice + QLatin1Char(' ') +
+                         QCoreApplication::translate("olPreferencesSession",
+                                                     "All settings of this run were then saved into it.");
+    return saved;
 }
 
 olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides,
@@ -422,12 +423,16 @@ olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> 
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
-    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
-                  [](auto *entry) { entry->updateGUI(); });
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(), [this](auto *entry) {
+        emit aboutToTakeOver(*entry);
+        entry->updateGUI();
+    });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
         entry->markClean();
     }
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
+                  [this](auto *entry) { emit tookOver(*entry); });
     return saved;
 }
 
@@ -456,22 +461,49 @@ void olPreferencesSession::takeOver()
     // What is gone or damaged is the next save's to tell.
     if (m_isChanging || !m_store.mayHaveChanged() || !QFileInfo::exists(m_store.file()))
         return;
-    Values stored;
-    olStoreRows::History history;
-    if (!m_store.load(stored, &history).isEmpty())
+    const olResult<olStoreRows::Contents> contents = m_store.load();
+    if (!contents.isOk())
         return;
-    const QScopedValueRollback<bool> changing(m_isChanging, true);
-    std::vector<olOutsideChange> changes = replaceStored(stored);
-    if (changes.empty())
-        return;
+    std::vector<olOutsideChange> changes = replaceStored(contents->values);
     for (olOutsideChange &change : changes) {
-        for (const olStoreRows::Save &save : history) {
+        for (const olStoreRows::Save &save : contents->history) {
             const bool isIn = std::any_of(save.changes.begin(), save.changes.end(),
                                           [&change](const auto &changed) { return changed.key.second == change.key; });
             if (isIn)
                 change.program = QString::fromStdString(save.program);
         }
     }
+    const auto unagreed = std::stable_partition(changes.begin(), changes.end(), [this](const olOutsideChange &change) {
+        return !warning(change.key, change.after);
+    });
+    const std::vector<olOutsideChange> asked(unagreed, changes.end());
+    changes.erase(unagreed, changes.end());
+    putIntoForce(changes);
+    for (const olOutsideChange &change : asked) {
+        m_heldBack[{change.home, change.key}] = change;
+        emit consentWanted(change, *warning(change.key, change.after));
+    }
+}
+
+void olPreferencesSession::answer(const std::string &key, bool isAgreed)
+{
+    for (const olHome home : {olHome::Record, olHome::Service}) {
+        const bool isStillAsked = isHeldBack({home, key});
+        const olOutsideChange change = m_heldBack[{home, key}];
+        m_heldBack.erase({home, key});
+        if (isStillAsked && isAgreed)
+            putIntoForce({change});
+    }
+}
+
+/// What another program chose, as if a person had confirmed it on the pages of the modules that have it.
+void olPreferencesSession::putIntoForce(const std::vector<olOutsideChange> &changes)
+{
+    if (changes.empty())
+        return;
+    const QScopedValueRollback<bool> changing(m_isChanging, true);
+    for (const olOutsideChange &change : changes)
+        setValueAt({change.home, change.key}, change.after);
     for (olPreferencesEntry *entry : entries()) {
         const std::set<std::string> keys = keysOf(*entry);
         std::set<std::string> changed;
@@ -485,7 +517,7 @@ void olPreferencesSession::takeOver()
     emit changedOutside(changes);
 }
 
-/// Takes what the store holds now for stored, and puts into force what differs from before and was not changed here.
+/// Takes what the store holds now for stored. Returns what differs from before and was not changed here.
 std::vector<olOutsideChange> olPreferencesSession::replaceStored(const Values &stored)
 {
     const Values before = std::exchange(m_stored, stored);
@@ -504,12 +536,19 @@ std::vector<olOutsideChange> olPreferencesSession::replaceStored(const Values &s
         const boost::any now = valueIn(stored);
         const bool isOurs = !olValue::identical(inForce, valueIn(before)) || isLocked(key.second);
         const bool isUnseen = key.first == olHome::Service && !hasDefault(key);
-        if (isOurs || isUnseen || olValue::identical(inForce, now))
-            continue;
-        changes.push_back({key.second, olValue::adopted(inForce), now, {}});
-        setValueAt(key, now);
+        if (olValue::identical(inForce, now))
+            m_heldBack.erase(key); // the other program took it back itself
+        else if (!isOurs && !isUnseen)
+            changes.push_back({key.first, key.second, olValue::adopted(inForce), now, {}});
     }
     return changes;
+}
+
+/// Whether somebody was asked about the stored value, and neither they nor anybody else have settled it.
+bool olPreferencesSession::isHeldBack(const olPreferencesStore::Key &key) const
+{
+    const auto held = m_heldBack.find(key);
+    return held != m_heldBack.end() && olValue::identical(held->second.before, valueAt(key));
 }
 
 /// As if a person had confirmed these changes on the module's page, and nothing else.
@@ -550,6 +589,12 @@ olSettingDescription olPreferencesSession::description(const std::string &key)
 {
     const olPreferencesEntry *module = moduleOf(key);
     return module ? olSettingDescription::of(*module, key) : olSettingDescription();
+}
+
+QString olPreferencesSession::siteFile(const std::string &key) const
+{
+    const auto found = m_site.settings().find(key);
+    return found == m_site.settings().end() ? QString() : found->second.file;
 }
 
 QString olPreferencesSession::origin(const std::string &key) const
@@ -636,7 +681,7 @@ QStringList olPreferencesSession::check() const
     olSiteDefaults site(m_siteFiles);
     site.read();
     if (!keys().empty())
-        settleSite(site);
+        resolveSite(site);
     return m_store.check() << site.takeFaults() << site.unknown();
 }
 

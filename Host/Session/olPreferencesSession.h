@@ -3,6 +3,7 @@
 #include "Session/olPluginLoader.h"
 #include "Session/olSettingDescription.h"
 #include "Session/olSiteDefaults.h"
+#include "State/olHome.h"
 #include "State/olResult.h"
 #include "Store/olPreferencesStore.h"
 #include "olHostExport.h"
@@ -24,12 +25,9 @@ class olPreferencesEntry;
 /// Values of settings by their keys, wherever they are kept.
 using olSettingValues = std::map<std::string, boost::any>;
 
-/// What a run does to the store that it loads: a run of its own keeps it in order, one that only looks leaves the disk
-/// as it is.
-enum class olStoreUse { Own, LookAt };
-
 /// A setting that another program has given another value.
 struct olOutsideChange {
+    olHome home = olHome::Record;
     std::string key;
     boost::any before;
     boost::any after;
@@ -76,6 +74,10 @@ public:
     /// The same once, now.
     void takeOver();
 
+    /// To consentWanted(). Agreed to, the value comes into force like another program's other values. Not agreed to,
+    /// the value in force counts as chosen in this run, and its next save stores that.
+    void answer(const std::string &key, bool isAgreed);
+
     /// Stores what differs from what the store holds. Values equal to their default are kept only where somebody chose
     /// them instead of another one: in another edition the default may be another. A locked setting first gets its
     /// locked value back; what a person once stored for it stays in the store for a time without the lock.
@@ -96,13 +98,16 @@ public:
     void stop();
 
     /// Holds a site's files against the settings there are, in force here or not.
-    void settleSite(olSiteDefaults &site) const;
+    void resolveSite(olSiteDefaults &site) const;
 
     /// What a setting is without anyone's choice: the site's default, else the module's. Empty for a key that has none.
     [[nodiscard]] boost::any defaultValue(const std::string &key) const;
 
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
+
+    /// The site's file that speaks of the setting; empty where none does.
+    [[nodiscard]] QString siteFile(const std::string &key) const;
 
     /// The module that has a setting, be it without a default; null for an unknown key.
     [[nodiscard]] static olPreferencesEntry *moduleOf(const std::string &key);
@@ -133,8 +138,8 @@ public:
     [[nodiscard]] olPreferencesStore &store() { return m_store; }
 
 signals:
-    /// Around the taking over in each module that has a setting another program changed. In between its page is filled
-    /// with the values in force.
+    /// Around the taking over in each module that has a setting another program, or a commit() besides its page,
+    /// changed. In between its page is filled with the values in force.
     void aboutToTakeOver(olPreferencesEntry &entry);
     void tookOver(olPreferencesEntry &entry);
 
@@ -143,6 +148,10 @@ signals:
 
     /// After all that.
     void changedOutside(const std::vector<olOutsideChange> &changes);
+
+    /// For a value that is not put into force before somebody agrees to it. Without an answer() this run goes on
+    /// without it and leaves it in the store.
+    void consentWanted(const olOutsideChange &change, const olSettingWarning &question);
 
 private:
     struct Changes {
@@ -153,11 +162,13 @@ private:
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
     [[nodiscard]] bool isChoice(const olPreferencesStore::Key &key, const boost::any &value) const;
     [[nodiscard]] std::vector<olOutsideChange> replaceStored(const olPreferencesStore::Values &stored);
+    [[nodiscard]] bool isHeldBack(const olPreferencesStore::Key &key) const;
+    void putIntoForce(const std::vector<olOutsideChange> &changes);
     void applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed);
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
-    [[nodiscard]] QString saveIntoMended(const QString &error, const olPreferencesStore::Values &kept);
+    olResult<> saveIntoMended(const olFailure &failure, const olPreferencesStore::Values &kept);
     void followSite();
     void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
@@ -165,6 +176,7 @@ private:
 
     olPreferencesStore m_store;
     olPreferencesStore::Values m_stored;
+    std::map<olPreferencesStore::Key, olOutsideChange> m_heldBack; ///< until somebody agrees to them
     std::set<std::string> m_chosen;
     std::set<std::string> m_restored;
     olSiteDefaults m_site;

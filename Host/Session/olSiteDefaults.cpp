@@ -159,30 +159,30 @@ olSiteSetting olSiteDefaults::early(const std::string &key, const std::string &t
     for (const File &file : m_read) {
         for (const Line &line : file.lines) {
             if (line.key == key)
-                return settingOf(line, olValue::fromJson(type, line.value));
+                return settingOf(file.name, line, olValue::fromJson(type, line.value));
         }
     }
     return {};
 }
 
-olSiteSetting olSiteDefaults::settingOf(const Line &line, const boost::any &value)
+olSiteSetting olSiteDefaults::settingOf(const QString &file, const Line &line, const boost::any &value)
 {
     if (!line.isLocked)
-        return {value, std::nullopt};
-    return {value, line.reason.isEmpty() ? Words::tr("This setting is fixed for your site.") : line.reason};
+        return {value, std::nullopt, file};
+    return {value, line.reason.isEmpty() ? Words::tr("This setting is fixed for your site.") : line.reason, file};
 }
 
-void olSiteDefaults::settle(const DefaultOf &defaultOf, const WhyNot &whyNot)
+void olSiteDefaults::resolve(const DefaultOf &defaultOf, const WhyNot &whyNot)
 {
     m_settings.clear();
     m_unknown.clear();
     for (const File &file : m_read) {
         for (const Line &line : file.lines)
-            settleLine(file.name, line, defaultOf(line.key), whyNot);
+            resolveLine(file.name, line, defaultOf(line.key), whyNot);
     }
 }
 
-void olSiteDefaults::settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot)
+void olSiteDefaults::resolveLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot)
 {
     const QString key = QString::fromStdString(line.key);
     if (offered.empty()) {
@@ -196,7 +196,7 @@ void olSiteDefaults::settleLine(const QString &file, const Line &line, const boo
         value = offered;
     }
     // What a more important file said before stays.
-    m_settings.emplace(line.key, settingOf(line, value));
+    m_settings.emplace(line.key, settingOf(file, line, value));
 }
 
 void olSiteDefaults::reject(const QString &file, const QString &why)

@@ -18,6 +18,7 @@
 struct olSiteSetting {
     boost::any value;              ///< its default here
     std::optional<QString> locked; ///< why nobody may choose another value; nothing where they may
+    QString file;                  ///< where it stands
 };
 
 /// Whose files count: root's alone, or anyone's, to judge a file before it is rolled out.
@@ -26,7 +27,7 @@ enum class olSiteOwner { Root, Anyone };
 /// Other defaults, and locks, that a site gives to all its people in JSON files:
 /// `{"Camera fov": {"value": 60, "locked": true, "reason": "..."}}`. A file counts only while root alone can change it
 /// and its folder. One that cannot be read or is no such JSON is ignored as a whole; an entry with another fault keeps
-/// its lock. The types are the modules', so all this is settled only when they have offered their defaults.
+/// its lock. The types are the modules', so all this is resolved only when they have offered their defaults.
 class ORLO_HOST_EXPORT olSiteDefaults
 {
 public:
@@ -53,15 +54,15 @@ public:
     [[nodiscard]] olSiteSetting early(const std::string &key, const std::string &type) const;
 
     /// Holds the files against the modules' settings. A value that a setting cannot have leaves the module's default.
-    void settle(const DefaultOf &defaultOf, const WhyNot &whyNot);
+    void resolve(const DefaultOf &defaultOf, const WhyNot &whyNot);
 
-    /// After settle(): only keys that a module has.
+    /// After resolve(): only keys that a module has.
     [[nodiscard]] const std::map<std::string, olSiteSetting> &settings() const { return m_settings; }
 
     /// One sentence for each fault, with the file and where it can the line, found since they were last taken.
     [[nodiscard]] QStringList takeFaults() { return std::exchange(m_faults, {}); }
 
-    /// Keys that no module has: misspelt, or of an edition that is not running. Complete after settle().
+    /// Keys that no module has: misspelt, or of an edition that is not running. Complete after resolve().
     [[nodiscard]] const QStringList &unknown() const { return m_unknown; }
 
 private:
@@ -78,8 +79,8 @@ private:
     };
 
     void readFile(const QString &name);
-    void settleLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot);
-    [[nodiscard]] static olSiteSetting settingOf(const Line &line, const boost::any &value);
+    void resolveLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot);
+    [[nodiscard]] static olSiteSetting settingOf(const QString &file, const Line &line, const boost::any &value);
     [[nodiscard]] static QString takePart(const QString &name, const QByteArray &value, Line &line);
     void reject(const QString &file, const QString &why);
     void fault(const QString &file, int line, const QString &what);

@@ -2,61 +2,45 @@
 
 #include "Session/olPreferencesSession.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <map>
 
 using namespace olStoreRows;
 
-namespace
+olResult<olUndo> olUndo::of(olPreferencesSession &session, std::size_t saves)
 {
-
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(olUndo)
-};
-
-} // namespace
-
-olUndo::olUndo(olPreferencesSession &session, std::size_t saves) : m_session(session)
-{
-    Rows rows;
-    m_error = session.store().readHistory(m_history, rows);
-    // The value before the earliest of the saves, and what the latest made of it; nothing where one does not follow on
-    // the other.
-    std::map<Key, std::optional<Change>> whole;
-    const auto first = m_history.end() - std::ptrdiff_t(std::min(saves, m_history.size()));
-    std::for_each(first, m_history.end(), [&whole](const Save &save) {
-        for (const Change &change : save.changes) {
-            const auto [known, isNew] = whole.emplace(change.key, change);
-            if (!isNew && known->second && known->second->after == change.before)
-                known->second->after = change.after;
-            else if (!isNew)
-                known->second.reset();
-        }
+    // What the session follows has still to come into force there.
+    olResult<Contents> contents = olPreferencesStore(session.store().file()).load();
+    if (!contents.isOk())
+        return olFailure{contents.error()};
+    olUndo undo(session);
+    undo.m_history = std::move(contents->history);
+    // From what it was before the earliest of the saves to what the latest made of it.
+    std::map<Key, Change> whole;
+    const auto first = undo.m_history.end() - std::ptrdiff_t(std::min(saves, undo.m_history.size()));
+    std::for_each(first, undo.m_history.end(), [&whole](const Save &save) {
+        for (const Change &change : save.changes)
+            whole.emplace(change.key, change).first->second.after = change.after;
     });
-    for (const auto &[key, change] : whole)
-        add(key, change, rows);
+    for (const auto &[key, change] : whole) {
+        if (const auto reason = session.lockReason(key.second))
+            undo.m_left.push_back({key.second, tr("is locked: %1").arg(*reason)});
+        else if (change.before != change.after)
+            undo.m_changes.push_back({key, change.after, change.before});
+    }
+    return undo;
 }
 
-void olUndo::add(const Key &key, const std::optional<Change> &change, const Rows &rows)
+olResult<> olUndo::save()
 {
-    const auto found = rows.find(key);
-    const std::optional<Row> now = found == rows.end() ? std::nullopt : std::optional<Row>(found->second);
-    if (const auto reason = m_session.lockReason(key.second))
-        m_left.push_back({key.second, Words::tr("is locked: %1").arg(*reason)});
-    else if (!change || change->after != now)
-        m_left.push_back({key.second, Words::tr("was changed since")});
-    else if (change->before != now)
-        m_changes.push_back({key, now, change->before});
-}
-
-QString olUndo::save()
-{
-    Changes changes;
-    for (const Change &change : m_changes)
-        changes[change.key] = change.after;
-    return m_session.store().save(changes);
+    std::vector<Change> left;
+    olResult<> saved = m_session.store().save(m_changes, &left);
+    for (const Change &change : left) {
+        m_left.push_back({change.key.second, tr("was changed since")});
+        m_changes.erase(std::find_if(m_changes.begin(), m_changes.end(),
+                                     [&change](const Change &known) { return known.key == change.key; }));
+    }
+    return saved;
 }
 
 boost::any olUndo::value(const Key &key, const std::optional<Row> &row) const

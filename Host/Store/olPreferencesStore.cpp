@@ -1,37 +1,29 @@
 #include "Store/olPreferencesStore.h"
 
 #include "State/olValue.h"
-#include "Store/olStoreError.h"
+#include "Store/olSqlite.h"
 #include "Store/olStoreFile.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QLockFile>
 #include <QStandardPaths>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
-#include <cerrno>
 
 namespace
 {
 
 using Kind = olStoreError::Kind;
+using namespace olStoreRows;
 
+// Keeps programs from mending or copying a store at the same time.
+constexpr QLatin1String lockSuffix(".lock");
 constexpr int lockMilliseconds = 3000;
 
 // Clocks of files go in steps, some of whole seconds.
 constexpr qint64 settledMilliseconds = 2000;
-
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(olPreferencesStore)
-};
-
-const char *nameOf(olHome home) { return home == olHome::Record ? "record" : "service"; }
 
 /// What is made beside a link, a journal or a copy, belongs beside what it leads to.
 QString targetOf(QString file)
@@ -42,36 +34,7 @@ QString targetOf(QString file)
     return file;
 }
 
-/// Keeps other programs from mending or copying the stores of a folder at the same time. Ends with the program.
-class Lock
-{
-public:
-    Lock(const QString &file, int milliseconds)
-        : m_folder(::open(QFile::encodeName(QFileInfo(file).absolutePath()).constData(), O_RDONLY | O_CLOEXEC))
-    {
-        constexpr int step = 10;
-        while (!(m_isHeld = ::flock(m_folder, LOCK_EX | LOCK_NB) == 0) && errno == EWOULDBLOCK && milliseconds > 0) {
-            ::usleep(step * 1000);
-            milliseconds -= step;
-        }
-    }
-    ~Lock() { ::close(m_folder); }
-    Lock(const Lock &) = delete;
-    Lock &operator=(const Lock &) = delete;
-
-    [[nodiscard]] bool isHeld() const { return m_isHeld; }
-
-private:
-    int m_folder;
-    bool m_isHeld = false;
-};
-
 } // namespace
-
-struct olPreferencesStore::Stamp {
-    olStoreFile::Stamp file;
-    bool isSettled;
-};
 
 QString olPreferencesStore::userFile()
 {
@@ -81,160 +44,117 @@ QString olPreferencesStore::userFile()
 
 olPreferencesStore::olPreferencesStore(const QString &file) : m_file(targetOf(file)) {}
 
-olPreferencesStore::~olPreferencesStore() = default;
-
 olStoreFile olPreferencesStore::copy() const { return {m_file + QStringLiteral(".last-good"), true}; }
 
-olStoreFile olPreferencesStore::store() const { return {m_file, m_hadRows || copy().exists()}; }
+olStoreFile olPreferencesStore::store() const { return {m_file, m_isStore || copy().exists()}; }
 
-QString olPreferencesStore::cannotRead(const olStoreError &error) const
+olFailure olPreferencesStore::cannotRead(const olStoreError &error) const
 {
-    return Words::tr("Cannot read the preferences %1: %2.").arg(m_file, error.reason()) + wayOut(error);
+    return {tr("Cannot read the preferences %1: %2.").arg(m_file, error.reason()) + wayOut(error)};
 }
 
 /// A file of a newer version is not ours to touch; but it may also be damaged just where its version stands.
 QString olPreferencesStore::wayOut(const olStoreError &error) const
 {
-    if (error.kind() != Kind::Newer)
-        return {};
-    const QString fresh =
-        Words::tr(" Use that version. If there is none, the file is damaged: move it away to start with defaults");
-    return fresh +
-           (copy().exists() ? Words::tr(", or rename its copy %1 to it.").arg(copy().name()) : QStringLiteral("."));
+    return error.kind() == Kind::Newer ? tr(" Use that version. If there is none, the file is damaged: move it away to "
+                                            "start with defaults, or rename its copy %1, where there is one, to it.")
+                                             .arg(copy().name())
+                                       : QString();
 }
 
-olStoreRows::Key olPreferencesStore::rowKey(const Key &key) { return {nameOf(key.first), key.second}; }
-
-std::optional<olPreferencesStore::Key> olPreferencesStore::keyOf(const olStoreRows::Key &key)
+boost::any olPreferencesStore::valueOf(const Row &row)
 {
-    for (const olHome home : {olHome::Record, olHome::Service}) {
-        if (key.first == nameOf(home))
-            return Key{home, key.second};
-    }
-    return std::nullopt;
+    return olValue::fromJson(row.type, QByteArray::fromStdString(row.value));
 }
 
-boost::any olPreferencesStore::valueOf(const olStoreRows::Row &row)
+Contents olPreferencesStore::read()
 {
-    return olValue::fromJson(row.type, QByteArray::fromRawData(row.value.data(), int(row.value.size())));
+    const qint64 age = QFileInfo(m_file).lastModified().msecsTo(QDateTime::currentDateTime());
+    const QString stamp = age > settledMilliseconds ? store().stamp() : QString();
+    Contents contents = store().read();
+    m_isStore = !contents.seal.empty();
+    m_stamp = stamp;
+    return contents;
 }
 
-void olPreferencesStore::read(Values &values, olStoreRows::History *history)
-{
-    const qint64 latest = QFileInfo(m_file).lastModified().msecsTo(QDateTime::currentDateTime());
-    const Stamp before{store().stamp(), latest > settledMilliseconds};
-    take(store().read(history), values);
-    m_stamp = std::make_unique<Stamp>(before);
-}
-
-void olPreferencesStore::take(const olStoreRows::Rows &rows, Values &values)
-{
-    m_hadRows = !rows.empty();
-    for (const auto &[rowKey, row] : rows) {
-        const auto key = keyOf(rowKey);
-        const boost::any value = valueOf(row);
-        if (key && !value.empty())
-            values[*key] = value;
-    }
-}
-
-QString olPreferencesStore::load(Values &values, olStoreRows::History *history)
+olResult<Contents> olPreferencesStore::load()
 {
     try {
-        read(values, history);
-        return {};
+        return read();
     } catch (const olStoreError &error) {
         return cannotRead(error);
     }
 }
 
-bool olPreferencesStore::mayHaveChanged() const
-{
-    return !m_stamp || !m_stamp->isSettled || m_stamp->file != store().stamp();
-}
+bool olPreferencesStore::mayHaveChanged() const { return m_stamp.isEmpty() || m_stamp != store().stamp(); }
 
-olStoreOpening olPreferencesStore::open(Values &values)
+olResult<olStoreOpening> olPreferencesStore::open(olStoreUse use)
 {
     try {
-        read(values);
-        keepCopy();
-        return {};
+        Contents contents = read();
+        if (use == olStoreUse::Own)
+            keepCopy(contents.seal);
+        return olStoreOpening{std::move(contents.values), {}};
     } catch (const olStoreError &error) {
         if (error.kind() == Kind::Damaged)
-            return repair(error.reason(), values);
-        return {cannotRead(error), {}};
+            return mend(error.reason(), use);
+        return cannotRead(error);
     }
 }
 
-olStoreOpening olPreferencesStore::lookAt(Values &values)
+/// Nothing where there is no sound copy.
+std::optional<Values> olPreferencesStore::readCopy(QString &remark) const
 {
+    if (!copy().exists()) {
+        remark = tr("There is no copy of it yet, so all settings are at their defaults.");
+        return std::nullopt;
+    }
     try {
-        read(values);
-        return {};
+        Values values = copy().read().values;
+        remark = tr("The copy of %1 was loaded; what was changed after that is not in it.")
+                     .arg(QLocale().toString(QFileInfo(copy().name()).lastModified(), QLocale::ShortFormat));
+        return values;
     } catch (const olStoreError &error) {
-        if (error.kind() != Kind::Damaged)
-            return {cannotRead(error), {}};
-        QString remark;
-        (void)readCopy(values, remark);
-        return {{}, Words::tr("The preferences file %1 is damaged: %2. %3").arg(m_file, error.reason(), remark)};
+        remark = tr("Its copy cannot be read either (%1), so all settings are at their defaults.").arg(error.reason());
+        return std::nullopt;
     }
 }
 
-/// False, with no values, where there is no sound copy.
-bool olPreferencesStore::readCopy(Values &values, QString &remark)
+olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
 {
-    try {
-        if (copy().exists()) {
-            take(copy().read(), values);
-            remark = Words::tr("The copy of %1 was loaded; what was changed after that is not in it.")
-                         .arg(QLocale().toString(QFileInfo(copy().name()).lastModified(), QLocale::ShortFormat));
-            return true;
-        }
-        remark = Words::tr("There is no copy of it yet, so all settings are at their defaults.");
-    } catch (const olStoreError &error) {
-        remark = Words::tr("Its copy cannot be read either (%1), so all settings are at their defaults.")
-                     .arg(error.reason());
-    }
-    m_hadRows = false;
-    return false;
-}
-
-olStoreOpening olPreferencesStore::repair(const QString &reason, Values &values)
-{
-    const Lock lock(m_file, lockMilliseconds);
+    const bool isOwn = use == olStoreUse::Own;
+    QLockFile lock(m_file + lockSuffix);
+    const bool isHeld = isOwn && lock.tryLock(lockMilliseconds);
     try {
         // Another program may have mended it meanwhile.
-        if (lock.isHeld()) {
-            read(values);
-            return {};
-        }
+        if (isHeld)
+            return {read().values, {}};
     } catch (const olStoreError &) {
     }
-
+    QStringList told{tr("The preferences file %1 is damaged: %2.").arg(m_file, reason)};
     QString remark;
-    const bool hasCopy = readCopy(values, remark);
-    const QString found = Words::tr("The preferences file %1 is damaged: %2. ").arg(m_file, reason);
+    const std::optional<Values> values = readCopy(remark);
+    m_isStore = values.has_value();
     try {
-        if (!lock.isHeld())
-            throw olStoreError(Kind::Access, Words::tr("its folder is read-only, or another program keeps it busy"));
+        if (isOwn && !isHeld)
+            throw olStoreError(Kind::Access, tr("its folder is read-only, or another program keeps it busy"));
         const olStoreFile good = copy();
-        const QString aside = store().setAside(hasCopy ? &good : nullptr);
-        return {{}, found + Words::tr("It is now kept as %1. ").arg(aside) + remark};
+        if (isOwn)
+            told << tr("It is now kept as %1.").arg(store().setAside(values ? &good : nullptr));
     } catch (const olStoreError &error) {
-        return {{}, found + Words::tr("It could not be set aside: %1. ").arg(error.reason()) + remark};
+        told << tr("It could not be set aside: %1.").arg(error.reason());
     }
+    return {values.value_or(Values()), (told << remark).join(QLatin1Char(' '))};
 }
 
-void olPreferencesStore::keepCopy() const
+void olPreferencesStore::keepCopy(const std::string &seal) const
 {
-    if (QFileInfo(m_file).size() == 0)
-        return;
     // Who cannot have the lock lets the other one make the copy; and without one all is as good as before.
-    const Lock lock(m_file, 0);
-    if (!lock.isHeld())
+    QLockFile lock(m_file + lockSuffix);
+    if (seal.empty() || !lock.tryLock(0))
         return;
     try {
-        if (copy().exists() && copy().read() == store().read())
+        if (copy().exists() && copy().read().seal == seal)
             return;
     } catch (const olStoreError &error) {
         if (error.kind() == Kind::Newer)
@@ -246,45 +166,35 @@ void olPreferencesStore::keepCopy() const
     }
 }
 
-QString olPreferencesStore::save(const Values &changed, const std::vector<Key> &removed)
+olResult<> olPreferencesStore::save(const Values &changed, const std::vector<Key> &removed)
 {
-    olStoreRows::Changes changes;
+    std::vector<Change> changes;
     for (const auto &[key, value] : changed)
-        changes[rowKey(key)] = {olValue::typeName(value), olValue::toJson(value)};
+        changes.push_back({key, std::nullopt, Row{olValue::typeName(value), olValue::toJson(value)}});
     for (const Key &key : removed)
-        changes[rowKey(key)] = std::nullopt;
+        changes.push_back({key, std::nullopt, std::nullopt});
     return save(changes);
 }
 
-QString olPreferencesStore::save(const olStoreRows::Changes &changes)
+olResult<> olPreferencesStore::save(const std::vector<Change> &changes, std::vector<Change> *left)
 {
     m_isBroken = false;
     if (changes.empty())
         return {};
     try {
         // Who took the file away wants to begin anew; a copy of the old one would come back at the next damage.
-        if (!m_hadRows && !store().exists())
+        if (!m_isStore && !store().exists())
             QFile::remove(copy().name());
-        olStoreFile(m_file, m_hadRows).change(changes, program_invocation_short_name);
-        m_hadRows = true;
+        olStoreFile(m_file, m_isStore).change(changes, left);
+        m_isStore = true;
         // What another program saved before this one is still to be read.
-        m_stamp.reset();
+        m_stamp.clear();
         return {};
     } catch (const olStoreError &error) {
         m_isBroken = error.kind() == Kind::Damaged;
-        return Words::tr("Cannot save the preferences to %1: %2. What it held before is unchanged.")
-                   .arg(m_file, error.reason()) +
-               wayOut(error);
-    }
-}
-
-QString olPreferencesStore::readHistory(olStoreRows::History &history, olStoreRows::Rows &rows) const
-{
-    try {
-        rows = store().read(&history);
-        return {};
-    } catch (const olStoreError &error) {
-        return cannotRead(error);
+        return olFailure{
+            tr("Cannot save the preferences to %1: %2. What it held before is unchanged.").arg(m_file, error.reason()) +
+            wayOut(error)};
     }
 }
 
@@ -295,7 +205,7 @@ QStringList olPreferencesStore::check() const
         try {
             (void)file.read();
         } catch (const olStoreError &error) {
-            findings << Words::tr("%1: %2.").arg(file.name(), error.reason());
+            findings << tr("%1: %2.").arg(file.name(), error.reason());
         }
     }
     return findings;

@@ -1,8 +1,6 @@
 #include "Store/olSqlite.h"
 
-#include "Store/olStoreError.h"
-
-#include <QCoreApplication>
+#include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 #include <sqlite3.h>
@@ -11,6 +9,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 namespace
 {
@@ -21,68 +20,58 @@ using Kind = olStoreError::Kind;
 constexpr int lookMilliseconds = 200;
 constexpr int writeMilliseconds = 3000;
 
-constexpr int headerSize = 100;
-
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(olSqlite)
+struct Meaning {
+    int code; ///< of the database, extended or not; the first that fits counts
+    Kind kind;
+    const char *text; ///< null for the database's own
 };
 
-/// With what the system said, where it said anything.
-olStoreError accessError(const QString &reason, int systemError, Kind kind = Kind::Access)
-{
-    if (systemError == ENOSPC || systemError == EDQUOT)
-        return {kind, Words::tr("no space left on the device")};
-    const QString said = QString::fromLocal8Bit(std::strerror(systemError));
-    return {kind, systemError == 0 ? reason : QStringLiteral("%1 (%2)").arg(reason, said)};
-}
+constexpr Meaning meanings[] = {
+    {SQLITE_IOERR_RDLOCK, Kind::NoLocks, QT_TRANSLATE_NOOP("olSqlite", "its file system refuses locks")},
+    {SQLITE_IOERR_LOCK, Kind::NoLocks, QT_TRANSLATE_NOOP("olSqlite", "its file system refuses locks")},
+    {SQLITE_IOERR_CHECKRESERVEDLOCK, Kind::NoLocks, QT_TRANSLATE_NOOP("olSqlite", "its file system refuses locks")},
+    {SQLITE_PERM, Kind::NoLocks, QT_TRANSLATE_NOOP("olSqlite", "its file system refuses locks")},
+    // What a killed program left has to be rolled back, which who only looks cannot wait for.
+    {SQLITE_READONLY_ROLLBACK, Kind::Busy, nullptr},
+    {SQLITE_FULL, Kind::Access, QT_TRANSLATE_NOOP("olSqlite", "no space left on the device")},
+    {SQLITE_BUSY, Kind::Busy, QT_TRANSLATE_NOOP("olSqlite", "another program keeps it busy")},
+    {SQLITE_LOCKED, Kind::Busy, QT_TRANSLATE_NOOP("olSqlite", "another program keeps it busy")},
+    {SQLITE_READONLY, Kind::Access, QT_TRANSLATE_NOOP("olSqlite", "it or its folder is read-only")},
+    {SQLITE_CANTOPEN, Kind::Access, QT_TRANSLATE_NOOP("olSqlite", "it cannot be opened")},
+    {SQLITE_IOERR, Kind::Access, QT_TRANSLATE_NOOP("olSqlite", "input or output failed")},
+    {SQLITE_CORRUPT, Kind::Damaged, QT_TRANSLATE_NOOP("olSqlite", "its structure is broken")},
+    {SQLITE_NOTADB, Kind::Damaged, QT_TRANSLATE_NOOP("olSqlite", "its content is no database")},
+    // Our statements are right wherever the tables are.
+    {SQLITE_ERROR, Kind::Damaged, nullptr},
+    {SQLITE_MISMATCH, Kind::Damaged, nullptr},
+    {SQLITE_TOOBIG, Kind::Damaged, nullptr},
+    {SQLITE_CONSTRAINT, Kind::Damaged, nullptr},
+};
 
 olStoreError errorOf(int code, int systemError, const QString &message)
 {
     // Without room for locks the database says that it is busy.
-    const bool hasNoLocks = code == SQLITE_IOERR_RDLOCK || code == SQLITE_IOERR_LOCK ||
-                            code == SQLITE_IOERR_CHECKRESERVEDLOCK || code == SQLITE_PERM ||
-                            (code == SQLITE_BUSY && systemError == ENOLCK);
-    if (hasNoLocks)
-        return accessError(Words::tr("its file system refuses locks"), systemError, Kind::NoLocks);
-    // What a killed program left has to be rolled back, which who only looks cannot wait for.
-    if (code == SQLITE_READONLY_ROLLBACK)
-        return {Kind::Busy, message};
-    switch (code & 0xff) {
-    case SQLITE_FULL:
-        return {Kind::Access, Words::tr("no space left on the device")};
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return {Kind::Busy, Words::tr("another program keeps it busy")};
-    case SQLITE_READONLY:
-        return {Kind::Access, Words::tr("it or its folder is read-only")};
-    case SQLITE_CANTOPEN:
-        return accessError(Words::tr("it cannot be opened"), systemError);
-    case SQLITE_IOERR:
-        return accessError(Words::tr("input or output failed"), systemError);
-    case SQLITE_CORRUPT:
-        return {Kind::Damaged, Words::tr("its structure is broken")};
-    case SQLITE_NOTADB:
-        return {Kind::Damaged, Words::tr("its content is no database")};
-    case SQLITE_ERROR:
-    case SQLITE_MISMATCH:
-    case SQLITE_TOOBIG:
-    case SQLITE_CONSTRAINT:
-        // Our statements are right wherever the tables are.
-        return {Kind::Damaged, message};
-    default:
+    if (code == SQLITE_BUSY && systemError == ENOLCK)
+        code = SQLITE_IOERR_LOCK;
+    const auto *const meaning = std::find_if(std::begin(meanings), std::end(meanings), [code](const Meaning &known) {
+        return known.code == code || known.code == (code & 0xff);
+    });
+    if (meaning == std::end(meanings))
         return {Kind::Access, message};
-    }
+    const QString reason = meaning->text ? olSqlite::tr(meaning->text) : message;
+    const bool isOfTheSystem =
+        meaning->kind == Kind::NoLocks || meaning->code == SQLITE_CANTOPEN || meaning->code == SQLITE_IOERR;
+    if (!isOfTheSystem || systemError == 0)
+        return {meaning->kind, reason};
+    return {meaning->kind, QStringLiteral("%1 (%2)").arg(reason, QString::fromLocal8Bit(std::strerror(systemError)))};
 }
 
 QByteArray addressOf(const QString &file, olSqlite::Access access)
 {
     const QByteArray path = QFile::encodeName(QFileInfo(file).absoluteFilePath()).toPercentEncoding("/");
     // Locks on what nobody else knows bind nobody, and are refused where all locks are.
-    const bool isPrivate = access == olSqlite::Access::Private;
-    return "file://" + path +
-           (access == olSqlite::Access::Immutable ? "?immutable=1"
-            : isPrivate                           ? "?vfs=unix-none"
-                                                  : "");
+    const char *option = access == olSqlite::Access::Private ? "?vfs=unix-none" : "";
+    return "file://" + path + (access == olSqlite::Access::Immutable ? "?immutable=1" : option);
 }
 
 } // namespace
@@ -136,7 +125,7 @@ void olSqlite::run(const std::string &sql, const Row &parameters, const std::fun
         for (int column = 0; column < int(row.size()); ++column) {
             const int type = sqlite3_column_type(handle, column);
             if (type == SQLITE_BLOB)
-                throw olStoreError(Kind::Damaged, Words::tr("a row is not what it was"));
+                throw olStoreError(Kind::Damaged, tr("a row is not what it was"));
             const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(handle, column));
             if (type != SQLITE_NULL)
                 row[std::size_t(column)] = std::string(bytes, std::size_t(sqlite3_column_bytes(handle, column)));
@@ -155,17 +144,6 @@ std::string olSqlite::text(const std::string &sql)
 }
 
 int olSqlite::number(const std::string &sql) { return std::atoi(text(sql).c_str()); }
-
-QByteArray olSqlite::header() const
-{
-    sqlite3_file *file = nullptr;
-    sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
-    sqlite3_int64 size = 0;
-    if (!file || !file->pMethods || file->pMethods->xFileSize(file, &size) != SQLITE_OK)
-        return {};
-    QByteArray bytes(int(std::min<sqlite3_int64>(size, headerSize)), '\0');
-    return file->pMethods->xRead(file, bytes.data(), bytes.size(), 0) == SQLITE_OK ? bytes : QByteArray();
-}
 
 bool olSqlite::wasMoved() const
 {

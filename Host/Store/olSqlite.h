@@ -1,20 +1,46 @@
 #pragma once
 
-#include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 struct sqlite3;
 
+/// Why a store cannot be used. Stays inside the store, which tells it in a sentence.
+class olStoreError : public std::runtime_error
+{
+public:
+    enum class Kind {
+        Damaged,
+        Newer,   ///< written by a later version, whose rows are not ours to judge
+        Foreign, ///< nothing that ever was a store
+        Busy,
+        NoLocks, ///< the file system refuses them
+        Access
+    };
+
+    /// The reason is a part of a sentence, without the file's name.
+    olStoreError(Kind kind, const QString &reason) : std::runtime_error(reason.toStdString()), m_kind(kind) {}
+
+    [[nodiscard]] Kind kind() const { return m_kind; }
+    [[nodiscard]] QString reason() const { return QString::fromUtf8(what()); }
+
+private:
+    Kind m_kind;
+};
+
 /// An open database file that holds texts and numbers. Closed when it goes, and rolled back if a transaction was under
 /// way. What fails throws olStoreError.
 class olSqlite
 {
+    Q_DECLARE_TR_FUNCTIONS(olSqlite)
+
 public:
     enum class Access {
         Look,      ///< changes nothing on the disk
@@ -36,10 +62,6 @@ public:
     /// The one text or number that a statement answers with; empty where it answers nothing, and 0.
     [[nodiscard]] std::string text(const std::string &sql);
     [[nodiscard]] int number(const std::string &sql);
-
-    /// The beginning of the file as it stands on the disk. Opening the file any other way would, on closing it, let go
-    /// of all locks that this process has on it.
-    [[nodiscard]] QByteArray header() const;
 
     /// Whether another file, or none, now bears the name of the one that is open.
     [[nodiscard]] bool wasMoved() const;

@@ -1,17 +1,23 @@
 #pragma once
 
+#include "State/olHome.h"
+
+#include <boost/any.hpp>
+
 #include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-/// The rows of a store as they stand in its file, whether or not anyone here can read their values.
+/// What a store holds.
 namespace olStoreRows
 {
 
-using Key = std::pair<std::string, std::string>; ///< home and key
+using Key = std::pair<olHome, std::string>;
+using Values = std::map<Key, boost::any>;
 
+/// A value as it stands in the file, whether or not anyone here can read it.
 struct Row {
     std::string type;
     std::string value; ///< JSON
@@ -19,12 +25,7 @@ struct Row {
     bool operator!=(const Row &other) const { return !(*this == other); }
 };
 
-using Rows = std::map<Key, Row>;
-
-/// What a save makes of the rows; those without a row go.
-using Changes = std::map<Key, std::optional<Row>>;
-
-/// A row that a save changed; nothing for one that was not there.
+/// Of one setting; nothing where it had no row, or has none any more.
 struct Change {
     Key key;
     std::optional<Row> before;
@@ -40,5 +41,14 @@ struct Save {
 
 /// The earliest first.
 using History = std::vector<Save>;
+
+struct Contents {
+    Values values; ///< but for rows whose value cannot be understood
+    History history;
+    std::string seal; ///< differs where the rows do; empty where there is no store
+};
+
+/// As the file has it.
+[[nodiscard]] inline const char *nameOf(olHome home) { return home == olHome::Record ? "record" : "service"; }
 
 } // namespace olStoreRows

@@ -1,42 +1,28 @@
 #pragma once
 
-#include "Store/olSqlite.h"
 #include "Store/olStoreRows.h"
-
-#include <QByteArray>
 
 #include <string>
 #include <vector>
 
+class olSqlite;
+
 /// The tables in a store's database: the rows, a seal over them, so that neither a changed row nor a lost one goes
 /// unnoticed, and the history of the saves. What fails throws olStoreError.
-class olStoreTables
+namespace olStoreTables
 {
-public:
-    explicit olStoreTables(olSqlite &database) : m_database(database) {}
 
-    [[noreturn]] static void damaged(const QString &reason);
+/// Proves tables, structure and rows, and fills the values, where they are wanted. Returns the seal; an empty text from
+/// a file that was made but never filled.
+std::string readRows(olSqlite &database, olStoreRows::Values *values);
 
-    /// What the beginning of a file tells: whether it was a store, perhaps before it was damaged, and whether it is one
-    /// of the earlier form, which kept its saves in a log.
-    [[nodiscard]] static bool looksLikeAStore(const QByteArray &header);
-    [[nodiscard]] static bool usesALog(const QByteArray &header);
+/// Of a file that holds rows.
+[[nodiscard]] olStoreRows::History readHistory(olSqlite &database);
 
-    /// False in a file that was made but never filled.
-    [[nodiscard]] bool exist();
+/// Makes the changes, within a transaction, and remembers them under the program's name; false where there was nothing
+/// to do. See olPreferencesStore::save() for `left`. Makes the tables where there are none, and those of the earlier
+/// form into the present one.
+[[nodiscard]] bool change(olSqlite &database, const std::vector<olStoreRows::Change> &changes,
+                          const std::string &program, std::vector<olStoreRows::Change> *left);
 
-    /// Proves tables, structure and seal.
-    [[nodiscard]] olStoreRows::Rows rows();
-    [[nodiscard]] olStoreRows::History history();
-
-    /// Makes the changes, within a transaction, and remembers the real ones under the program's name. Makes the tables
-    /// where there are none, and those of the earlier form into the present one.
-    void change(const olStoreRows::Changes &changes, const std::string &program);
-
-private:
-    void requireOurs();
-    void create();
-    void remember(const std::vector<olStoreRows::Change> &changes, const std::string &program);
-
-    olSqlite &m_database;
-};
+} // namespace olStoreTables

@@ -6,17 +6,18 @@
 #include "State/olValue.h"
 #include "Store/olConfidentialSettings.h"
 
+#include <OpenSG/OSGColor.h>
 #include <QCoreApplication>
 #include <QString>
+#include <boost/any.hpp>
 
 #include <cstddef>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace
 {
-
-using Values = std::map<std::string, boost::any>;
 
 // An answer is made in one go while the interface waits: what would take longer than a frame is refused.
 constexpr std::size_t maxRows = 5000;
@@ -26,25 +27,55 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(olWebPages)
 };
 
-bool isPublic(const std::string &key, const boost::any &value)
+template <class Text> std::size_t lengthOf(const Text *text) { return text ? std::size_t(text->size()) : 0; }
+
+/// At least how long its text is, told without making that.
+std::size_t leastLength(const boost::any &value)
 {
-    return !olValue::typeName(value).empty() && !olIsConfidential(key);
+    std::size_t length = lengthOf(boost::any_cast<QString>(&value)) + lengthOf(boost::any_cast<std::string>(&value)) +
+                         lengthOf(boost::any_cast<std::vector<float>>(&value)) +
+                         lengthOf(boost::any_cast<std::vector<osg::Color3f>>(&value));
+    if (const auto *texts = boost::any_cast<std::vector<std::string>>(&value)) {
+        for (const std::string &text : *texts)
+            length += text.size() + 1;
+    }
+    return length;
 }
+
+/// What may be told, while there is not too much of it.
+class Values
+{
+public:
+    void add(const std::string &key, const boost::any &value)
+    {
+        if (olValue::typeName(value).empty() || olIsConfidential(key))
+            return;
+        m_length += leastLength(value);
+        if (!isTooLarge())
+            m_values[key] = value;
+    }
+
+    [[nodiscard]] bool isTooLarge() const { return m_length > maxSize || m_values.size() > maxRows; }
+    [[nodiscard]] auto begin() const { return m_values.begin(); }
+    [[nodiscard]] auto end() const { return m_values.end(); }
+
+private:
+    std::map<std::string, boost::any> m_values;
+    std::size_t m_length = 0;
+};
 
 /// Of all modules, wherever they keep their values.
 Values settings()
 {
     Values values;
-    const auto addPublic = [&values](const std::string &key, const boost::any &value) {
-        if (values.size() <= maxRows && isPublic(key, value))
-            values[key] = value;
-    };
     olPreferencesRegistry &registry = olPreferencesRegistry::the();
     for (const auto &[key, value] : registry.record().entries())
-        addPublic(key, value);
+        values.add(key, value);
     for (const olPreferencesEntry *entry : registry.entries()) {
+        if (entry->home() == olHome::Record)
+            continue;
         for (const olOfferedDefault &offered : entry->defaults())
-            addPublic(offered.key, entry->value(offered.key));
+            values.add(offered.key, entry->value(offered.key));
     }
     return values;
 }
@@ -52,10 +83,8 @@ Values settings()
 Values state()
 {
     Values values;
-    for (const olHostValueBase *value : olHostState::the().values()) {
-        if (isPublic(value->name(), value->any()))
-            values[value->name()] = value->any();
-    }
+    for (const olHostValueBase *value : olHostState::the().values())
+        values.add(value->name(), value->any());
     return values;
 }
 
@@ -73,10 +102,12 @@ olWebAnswer tooLarge() { return message(503, Words::tr("The answer would be too 
 
 olWebAnswer json(const Values &values, std::string (*text)(const boost::any &))
 {
+    if (values.isTooLarge())
+        return tooLarge();
     std::string lines;
     for (const auto &[key, value] : values) {
         lines += (lines.empty() ? "\n  " : ",\n  ") + olValue::quoted(key) + ": " + text(value);
-        if (values.size() > maxRows || lines.size() > maxSize)
+        if (lines.size() > maxSize)
             return tooLarge();
     }
     return {200, "application/json; charset=utf-8", QByteArray::fromStdString('{' + lines + "\n}\n")};
@@ -91,8 +122,11 @@ QString row(const QString &name, const QString &value)
 olWebAnswer statusPage()
 {
     const olHostState &host = olHostState::the();
+    const Values values = state();
+    if (values.isTooLarge())
+        return tooLarge();
     QString rows;
-    for (const auto &[name, value] : state()) {
+    for (const auto &[name, value] : values) {
         rows += row(QString::fromStdString(name), QString::fromStdString(olValue::toJson(value)));
         if (std::size_t(rows.size()) > maxSize)
             return tooLarge();

@@ -80,7 +80,7 @@ private:
     [[nodiscard]] QStringList found(const char *name) const
     {
         const QString whole = QFile::decodeName(name);
-        const QString decoded = QString::fromUtf8(QByteArray::fromPercentEncoding(name));
+        const QString decoded = QFile::decodeName(QByteArray::fromPercentEncoding(name));
         for (const QString &each : {whole, QString(whole).replace(QLatin1Char('\\'), QLatin1Char('/')), decoded}) {
             if (QFileInfo(each).isFile())
                 return {each};

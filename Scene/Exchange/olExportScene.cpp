@@ -139,15 +139,17 @@ QString writeThroughTemporary(const olScene::Document &document, const olModelFo
     if (!folder.isValid())
         return Words::tr("the temporary directory cannot be written to");
     const QFileInfo target(file);
-    if (!format.write(document, folder.filePath(target.fileName()), remarks))
+    // A name that begins with a colon is not another place.
+    const QString draft = folder.path() + QLatin1Char('/') + target.fileName();
+    if (!format.write(document, draft, remarks))
         return Words::tr("the writer failed");
-    if (!QFileInfo(folder.filePath(target.fileName())).isFile())
+    if (!QFileInfo(draft).isFile())
         return Words::tr("the writer failed");
     // Textures stand in a folder of their own.
     const QDir from(folder.path());
     for (QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
         const QString written = each.next();
-        const QString place = target.absoluteDir().filePath(from.relativeFilePath(written));
+        const QString place = target.absolutePath() + QLatin1Char('/') + from.relativeFilePath(written);
         if (!QDir().mkpath(QFileInfo(place).path()))
             return Words::tr("the folder %1 cannot be made").arg(QFileInfo(place).path());
         const QString fault = putInPlace(written, place);

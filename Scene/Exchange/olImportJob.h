@@ -29,6 +29,10 @@ struct olImportJob {
     bool centerInOrigin = false;
     bool putOnGround = false;
 
+    /// How the numbers of a format are meant that does not say it: the unit in millimetres, and whether y goes up.
+    double unit = 1.0;
+    bool isYUp = false;
+
     /// Where files may be left while reading; the system's own place where none is set.
     QString temporaryDirectory;
 

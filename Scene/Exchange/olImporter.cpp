@@ -80,12 +80,13 @@ olImporter::~olImporter()
 
 int olImporter::start(const QString &file) { return start(std::vector<olImportJob>{olImportJob::of(file)}); }
 
-int olImporter::start(const std::vector<olImportJob> &jobs)
+int olImporter::start(const std::vector<olImportJob> &jobs, Into into)
 {
     if (jobs.empty())
         return 0;
     Import import;
     import.number = ++m_last;
+    import.into = into;
     for (const olImportJob &job : jobs)
         import.readings.push_back(std::make_unique<Reading>(*this, job));
     m_imports.push_back(std::move(import));
@@ -189,7 +190,10 @@ void olImporter::take(const Import &import)
     const olDocumentCopy copy;
     for (std::size_t index = 1; index < documents.size(); ++index)
         copy.copyInto(documents[index], documents.front());
-    m_scene.setDocument(documents.front());
+    if (import.into == Into::OpenScene)
+        m_scene.addDocument(documents.front());
+    else
+        m_scene.setDocument(documents.front());
 }
 
 void olImporter::showProgress()

@@ -33,9 +33,12 @@ public:
     /// Cancels, which ends all readers at once.
     ~olImporter() override;
 
+    /// Whether what was open stays.
+    enum class Into { NewScene, OpenScene };
+
     /// The files make one scene together, in their order. Returns the number by which the signals name this import; 0,
     /// and no signal, without any files.
-    int start(const std::vector<olImportJob> &jobs);
+    int start(const std::vector<olImportJob> &jobs, Into into = Into::NewScene);
     int start(const QString &file);
 
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
@@ -60,6 +63,7 @@ private:
         std::vector<std::unique_ptr<Reading>> readings;
         std::size_t next = 0;
         bool isCancelled = false;
+        Into into = Into::NewScene;
     };
 
     void startNext();

@@ -33,6 +33,8 @@ struct olModelFormat {
         Layers = 1 << 10,
         /// Parts that are there but not seen.
         Hidden = 1 << 11,
+        /// How long its unit is, and which way is up.
+        UnitAndUp = 1 << 12,
     };
 
     const char *name;

@@ -4,6 +4,7 @@
 
 #include <BRepBndLib.hxx>
 #include <BRepBuilderAPI_Sewing.hxx>
+#include <BRepBuilderAPI_Transform.hxx>
 #include <BRepCheck_Analyzer.hxx>
 #include <BRepGProp.hxx>
 #include <BRepLib.hxx>
@@ -23,6 +24,7 @@
 #include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS.hxx>
 #include <TopoDS_Compound.hxx>
+#include <gp_Trsf.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -139,6 +141,13 @@ void apply(olChangedPart &part, const Handle(BRepTools_ReShape) & change)
 
 } // namespace
 
+olPartChanges::Kinds olPartChanges::kindsOf(const TopoDS_Shape &shape)
+{
+    const std::vector<TopoDS_Face> faces = facesOf(shape);
+    return {!std::all_of(faces.begin(), faces.end(), isMesh), hasMeshes(faces),
+            TopExp_Explorer(shape, TopAbs_EDGE, TopAbs_FACE).More() == Standard_True};
+}
+
 void olPartChanges::keepOnly(olChangedPart &part, const Kinds &wanted)
 {
     const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
@@ -221,8 +230,10 @@ void olPartChanges::unifyNormals(olChangedPart &part)
     }
     for (const TopoDS_Face &face : facesOf(part.shape)) {
         TopLoc_Location location;
-        if (isMesh(face))
-            olMeshTools::orientAlike(BRep_Tool::Triangulation(face, location));
+        const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+        // Those without normals are turned when they get them: that takes the same look at their neighbours.
+        if (isMesh(face) && mesh->HasNormals())
+            olMeshTools::orientAlike(mesh);
     }
     if (!isChanged)
         return;
@@ -257,6 +268,32 @@ void olPartChanges::mergeMeshes(olChangedPart &part, const std::function<std::st
         pieces.push_back(edge);
     part.shape = compoundOf(pieces);
     part.changes.push_back(change);
+}
+
+void olPartChanges::scale(olChangedPart &part, double factor)
+{
+    gp_Trsf all;
+    all.SetScaleFactor(factor);
+    const Handle(BRepTools_ReShape) change = new BRepTools_ReShape;
+    for (const TopoDS_Face &face : facesOf(part.shape)) {
+        TopLoc_Location location;
+        const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+        if (mesh.IsNull() || !isMesh(face))
+            continue;
+        const gp_Trsf where = location.Transformation();
+        const gp_Trsf larger = where.Inverted() * all * where;
+        const Handle(Poly_Triangulation) scaled = mesh->Copy();
+        for (int node = 1; node <= scaled->NbNodes(); ++node)
+            scaled->SetNode(node, mesh->Node(node).Transformed(larger));
+        TopoDS_Face now;
+        BRep_Builder().MakeFace(now, scaled);
+        now.Location(face.Location());
+        now.Orientation(face.Orientation());
+        change->Replace(face, now);
+    }
+    for (const TopoDS_Shape &edge : freeEdgesOf(part.shape))
+        change->Replace(edge, BRepBuilderAPI_Transform(edge, all, Standard_True).Shape());
+    apply(part, change);
 }
 
 void olPartChanges::dropSurfaces(olChangedPart &part)

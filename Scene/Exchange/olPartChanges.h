@@ -12,6 +12,9 @@ struct Kinds {
     bool curves = true;
 };
 
+/// The kinds that a shape has.
+[[nodiscard]] Kinds kindsOf(const TopoDS_Shape &shape);
+
 /// Takes the kinds out that are not wanted; the shape becomes null where nothing is left.
 void keepOnly(olChangedPart &part, const Kinds &wanted);
 
@@ -31,6 +34,9 @@ void unifyNormals(olChangedPart &part);
 
 /// Makes one mesh of all meshes of the part that look the same: `lookOf` gives equal texts for equal looks.
 void mergeMeshes(olChangedPart &part, const std::function<std::string(const TopoDS_Shape &)> &lookOf);
+
+/// Multiplies all lengths of meshes and curves; surfaces stay as they are.
+void scale(olChangedPart &part, double factor);
 
 /// Leaves the triangles only.
 void dropSurfaces(olChangedPart &part);

@@ -34,10 +34,16 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
+#include <gp.hxx>
+#include <gp_Ax1.hxx>
+#include <gp_Vec.hxx>
 
 #include <QCoreApplication>
+#include <QPair>
+#include <QVector>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <new>
 #include <sstream>
@@ -70,8 +76,10 @@ public:
         olDocumentCopy copy;
         copy.keepEmptyGroups = !m_job.options.removeEmptyGroups;
         copy.isWanted = [this](const TDF_Label &instance) {
-            return !XCAFDoc_ShapeTool::IsReference(instance) || m_job.options.importInvisibleInstances ||
-                   m_colors->IsVisible(instance);
+            const bool isWanted = !XCAFDoc_ShapeTool::IsReference(instance) || m_job.options.importInvisibleInstances ||
+                                  m_colors->IsVisible(instance);
+            m_hasLostInstances = m_hasLostInstances || !isWanted;
+            return isWanted;
         };
         copy.changePart = [this, &scope](const TDF_Label &label, olChangedPart &part) {
             if (scope.UserBreak()) {
@@ -80,10 +88,50 @@ public:
             }
             change(label, part, scope.Next());
         };
-        return copy.copy(m_raw);
+        const olScene::Document treated = copy.copy(m_raw);
+        tell();
+        return treated;
+    }
+
+    /// What the options say that took something away, each once.
+    [[nodiscard]] QString refusals() const
+    {
+        const olImportRecord &options = m_job.options;
+        const QVector<QPair<bool, QString>> all{
+            {m_hasLost.surfaces, options.importSurfaces ? Words::tr("no invisible surfaces are imported")
+                                                        : Words::tr("no surfaces are imported")},
+            {m_hasLost.meshes, options.importMeshes ? Words::tr("no invisible meshes are imported")
+                                                    : Words::tr("no meshes are imported")},
+            {m_hasLost.curves, options.importCurves ? Words::tr("no invisible curves are imported")
+                                                    : Words::tr("no curves are imported")},
+            {m_hasLostInstances, Words::tr("no invisible instances are imported")},
+        };
+        QStringList texts;
+        for (const auto &[isOne, text] : all) {
+            if (isOne)
+                texts << text;
+        }
+        return texts.join(QStringLiteral(", "));
     }
 
 private:
+    /// One remark for all of a kind.
+    void tell() const
+    {
+        if (!m_faulty.isEmpty())
+            m_remarks << Words::tr("Parts with faulty surfaces: %1.").arg(olFormatTools::listed(m_faulty));
+        if (!m_heldBack.isEmpty())
+            m_remarks << Words::tr("Gaps of up to %1 mm were to be closed, which would distort these; smaller ones are "
+                                   "closed: %2.")
+                             .arg(m_job.options.stitchingTolerance)
+                             .arg(olFormatTools::listed(m_heldBack));
+        if (!m_apart.isEmpty())
+            m_remarks << Words::tr("Parts whose faces are not joined, as that would distort them: %1.")
+                             .arg(olFormatTools::listed(m_apart));
+        if (!m_undrawn.isEmpty())
+            m_remarks << Words::tr("Faces that cannot be drawn: %1.").arg(olFormatTools::listed(m_undrawn));
+    }
+
     [[nodiscard]] int partCount() const
     {
         TDF_LabelSequence labels;
@@ -105,13 +153,18 @@ private:
     {
         const olImportRecord &options = m_job.options;
         const bool visible = isVisible(label);
-        olPartChanges::keepOnly(part, {options.importSurfaces && (visible || options.importInvisibleSurfaces),
-                                       options.importMeshes && (visible || options.importInvisibleMeshes),
-                                       options.importCurves && (visible || options.importInvisibleCurves)});
+        const olPartChanges::Kinds wanted{options.importSurfaces && (visible || options.importInvisibleSurfaces),
+                                          options.importMeshes && (visible || options.importInvisibleMeshes),
+                                          options.importCurves && (visible || options.importInvisibleCurves)};
+        const olPartChanges::Kinds there = olPartChanges::kindsOf(part.shape);
+        m_hasLost.surfaces = m_hasLost.surfaces || (there.surfaces && !wanted.surfaces);
+        m_hasLost.meshes = m_hasLost.meshes || (there.meshes && !wanted.meshes);
+        m_hasLost.curves = m_hasLost.curves || (there.curves && !wanted.curves);
+        olPartChanges::keepOnly(part, wanted);
         if (part.shape.IsNull())
             return;
         if (m_job.verify && !olPartChanges::isSound(part.shape))
-            m_remarks << Words::tr("%1 has faulty surfaces.").arg(olShownNameOf(label));
+            m_faulty << olShownNameOf(label);
         if (m_job.optimize)
             olPartChanges::repair(part);
         if (options.stitching)
@@ -123,16 +176,16 @@ private:
         if (options.unifySurfaceNormals)
             olPartChanges::unifyNormals(part);
         olTriangles::mesh(part.shape, fineness(), progress);
-        sharpen(part.shape);
+        sharpen(part.shape, options.unifySurfaceNormals);
         const int missing = facesWithoutTriangles(part.shape);
         if (missing > 0)
-            m_remarks << Words::tr("%1 of the faces of %2 cannot be drawn.").arg(missing).arg(olShownNameOf(label));
+            m_undrawn << Words::tr("%1 of %2").arg(missing).arg(olShownNameOf(label));
         if (!options.keepSurfaceData)
             olPartChanges::dropSurfaces(part);
     }
 
     /// Sewing may rebuild faces so that their colours would have nowhere to go; then the part stays as it was read.
-    void stitch(const TDF_Label &label, olChangedPart &part) const
+    void stitch(const TDF_Label &label, olChangedPart &part)
     {
         olChangedPart stitched = part;
         const double wanted = m_job.options.stitchingTolerance;
@@ -140,13 +193,10 @@ private:
             olTriangles::mesh(shape, fineness());
             return olTriangles::count(shape);
         });
-        if (used < wanted)
-            m_remarks << (used > 0 ? Words::tr("Gaps of %1 up to %2 mm are closed; %3 would distort it.")
-                                         .arg(olShownNameOf(label))
-                                         .arg(used)
-                                         .arg(wanted)
-                                   : Words::tr("The faces of %1 are not joined; that would distort it.")
-                                         .arg(olShownNameOf(label)));
+        if (used < wanted && used > 0)
+            m_heldBack << Words::tr("%1 (%2 mm)").arg(olShownNameOf(label)).arg(used);
+        else if (used < wanted)
+            m_apart << olShownNameOf(label);
         TopTools_IndexedMapOfShape pieces;
         TopExp::MapShapes(stitched.shape, pieces);
         TDF_LabelSequence labels;
@@ -167,11 +217,11 @@ private:
     }
 
     /// Meshes that say nothing of their normals are smooth where they are nearly so.
-    static void sharpen(const TopoDS_Shape &shape)
+    static void sharpen(const TopoDS_Shape &shape, bool isUnified)
     {
-        eachMesh(shape, [](const TopoDS_Face &face, const Handle(Poly_Triangulation) & mesh) {
+        eachMesh(shape, [isUnified](const TopoDS_Face &face, const Handle(Poly_Triangulation) & mesh) {
             if (!mesh->HasNormals())
-                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, olMeshTools::usualCrease));
+                BRep_Builder().UpdateFace(face, olMeshTools::withNormals(mesh, olMeshTools::usualCrease, isUnified));
         });
     }
 
@@ -228,6 +278,12 @@ private:
     Handle(XCAFDoc_ColorTool) m_colors;
     Handle(XCAFDoc_LayerTool) m_layers;
     Handle(XCAFDoc_ShapeTool) m_shapes;
+    olPartChanges::Kinds m_hasLost{false, false, false};
+    bool m_hasLostInstances = false;
+    QStringList m_faulty;
+    QStringList m_heldBack;
+    QStringList m_apart;
+    QStringList m_undrawn;
 };
 
 Bnd_Box boundsOf(const olScene::Document &document)
@@ -308,12 +364,32 @@ olScene::Document placed(const olScene::Document &document, const olImportJob &j
     const Bnd_Box box = boundsOf(document);
     const gp_Pnt low = box.CornerMin();
     const gp_Pnt high = box.CornerMax();
-    olDocumentCopy copy;
+    gp_Vec offset;
     if (job.centerInOrigin)
-        copy.offset = gp_Vec(-(low.X() + high.X()) / 2, -(low.Y() + high.Y()) / 2, -(low.Z() + high.Z()) / 2);
+        offset = gp_Vec(-(low.X() + high.X()) / 2, -(low.Y() + high.Y()) / 2, -(low.Z() + high.Z()) / 2);
     if (job.putOnGround)
-        copy.offset.SetZ(-low.Z());
-    return copy.offset.Magnitude() > 0 ? copy.copy(document) : document;
+        offset.SetZ(-low.Z());
+    if (offset.Magnitude() == 0)
+        return document;
+    olDocumentCopy copy;
+    copy.placement.SetTranslation(offset);
+    return copy.copy(document);
+}
+
+/// In millimetres and with z up, where the format leaves open how its numbers are meant.
+olScene::Document interpreted(const olScene::Document &raw, const olImportJob &job, const olModelFormat &format)
+{
+    const bool isScaled = std::isfinite(job.unit) && job.unit > 0 && job.unit != 1.0;
+    if (format.holds(olModelFormat::UnitAndUp) || (!isScaled && !job.isYUp))
+        return raw;
+    olDocumentCopy copy;
+    if (job.isYUp)
+        copy.placement.SetRotation(gp::OX(), M_PI_2);
+    if (isScaled) {
+        copy.scale = job.unit;
+        copy.changePart = [&job](const TDF_Label &, olChangedPart &part) { olPartChanges::scale(part, job.unit); };
+    }
+    return copy.copy(raw);
 }
 
 QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImportResult &result,
@@ -322,27 +398,29 @@ QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImpo
     constexpr double readingShare = 60;
     constexpr double treatmentShare = 40;
     Message_ProgressScope scope(progress, "Import", readingShare + treatmentShare);
-    const olScene::Document raw = olScene::newDocument();
-    const QString fault = format.read(job, raw, scope.Next(readingShare), result.remarks);
+    const olScene::Document file = olScene::newDocument();
+    const QString fault = format.read(job, file, scope.Next(readingShare), result.remarks);
     result.isCancelled = scope.UserBreak();
     if (!fault.isEmpty() || result.isCancelled)
         return fault;
     constexpr double mostInstances = 1e6;
-    if (Instances(raw).count() > mostInstances)
+    if (Instances(file).count() > mostInstances)
         return Words::tr("it has more than a million parts");
-    if (!isWhole(raw))
+    if (!isWhole(file))
         return Words::tr("the file is damaged: it has triangles without their points, or points beyond all measure");
+    const olScene::Document raw = interpreted(file, job, format);
     if (!hasGeometry(raw))
         return Words::tr("there is no geometry in it");
     olFindTextures(job, raw, result.remarks);
     olPlainLook::addTo(raw);
 
-    const olScene::Document treated = Treatment(job, raw, result.remarks).run(scope.Next(treatmentShare));
+    Treatment treatment(job, raw, result.remarks);
+    const olScene::Document treated = treatment.run(scope.Next(treatmentShare));
     result.isCancelled = scope.UserBreak();
     if (result.isCancelled)
         return {};
     if (!hasGeometry(treated))
-        return Words::tr("the import options leave nothing of it");
+        return Words::tr("the import options leave nothing of it (%1)").arg(treatment.refusals());
     result.document = placed(treated, job);
     return {};
 }

@@ -16,13 +16,14 @@ namespace
 {
 
 /// To be raised when either side says something new, so that only what belongs together works together.
-constexpr quint32 version = 1;
+constexpr quint32 version = 2;
 
 /// The order of the fields, for both directions.
 template <class Stream, class Job> void fields(Stream &stream, Job &job)
 {
     auto &options = job.options;
     stream << job.file << job.loneFile << job.verify << job.optimize << job.centerInOrigin << job.putOnGround;
+    stream << job.unit << job.isYUp;
     stream << options.stitching << options.stitchingTolerance << options.tessellation << options.keepSurfaceData;
     stream << options.chordDeviation << options.normalTolerance << options.mergeGeometries;
     stream << options.removeEmptyGroups << options.importSurfaces << options.importInvisibleSurfaces;

@@ -18,7 +18,6 @@
 #include <QImage>
 #include <QImageReader>
 #include <QRegularExpression>
-#include <QUrl>
 
 #include <cstring>
 
@@ -87,7 +86,8 @@ private:
 
     [[nodiscard]] QString fileOf(const QString &name) const
     {
-        for (const QString &each : {name, QUrl::fromPercentEncoding(name.toUtf8())}) {
+        for (const QString &each :
+             {name, QFile::decodeName(QByteArray::fromPercentEncoding(QFile::encodeName(name)))}) {
             const QString beside = m_folder.filePath(each);
             if (QFileInfo(beside).isFile())
                 return beside;

@@ -19,7 +19,7 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
-#include <gp_Trsf.hxx>
+#include <gp_Vec.hxx>
 
 TopoDS_Shape olChangedPart::follow(const TopoDS_Shape &piece) const
 {
@@ -81,11 +81,10 @@ public:
     {
         TDF_LabelSequence labels;
         m_from.shapes->GetFreeShapes(labels);
-        gp_Trsf move;
-        move.SetTranslation(m_how.offset);
+        const bool isMoved = m_how.placement.Form() != gp_Identity;
         for (const TDF_Label &label : labels) {
             if (wanted(label))
-                copyTop(label, m_how.offset.Magnitude() > 0 ? TopLoc_Location(move) : TopLoc_Location());
+                copyTop(label, isMoved ? TopLoc_Location(m_how.placement) : TopLoc_Location());
         }
         m_to.shapes->UpdateAssemblies();
     }
@@ -93,11 +92,21 @@ public:
 private:
     [[nodiscard]] bool wanted(const TDF_Label &label) const { return !m_how.isWanted || m_how.isWanted(label); }
 
+    [[nodiscard]] TopLoc_Location locationOf(const TDF_Label &instance) const
+    {
+        const TopLoc_Location location = XCAFDoc_ShapeTool::GetLocation(instance);
+        if (m_how.scale == 1.0)
+            return location;
+        gp_Trsf where = location.Transformation();
+        where.SetTranslationPart(gp_Vec(where.TranslationPart() * m_how.scale));
+        return where;
+    }
+
     void copyTop(const TDF_Label &label, const TopLoc_Location &move)
     {
         TDF_Label referred;
         if (XCAFDoc_ShapeTool::GetReferredShape(label, referred))
-            return place(label, referred, move * XCAFDoc_ShapeTool::GetLocation(label));
+            return place(label, referred, move * locationOf(label));
         if (isGroup(label)) {
             copyAssembly(label, move);
             return;
@@ -148,7 +157,7 @@ private:
         const TDF_Label group = m_to.shapes->NewShape();
         copyLook(label, group);
         for (const auto &[component, target] : members) {
-            const TopLoc_Location where = tidied(move * XCAFDoc_ShapeTool::GetLocation(component));
+            const TopLoc_Location where = tidied(move * locationOf(component));
             copyLook(component, m_to.shapes->AddComponent(group, target, where));
         }
         return group;

@@ -3,7 +3,7 @@
 #include "Model/olScene.h"
 
 #include <TopoDS_Shape.hxx>
-#include <gp_Vec.hxx>
+#include <gp_Trsf.hxx>
 
 #include <functional>
 #include <memory>
@@ -34,7 +34,12 @@ public:
     std::function<bool(const TDF_Label &instance)> isWanted;
 
     bool keepEmptyGroups = true;
-    gp_Vec offset;
+
+    /// Where the whole goes.
+    gp_Trsf placement;
+
+    /// What distances between parts are multiplied by; `changePart` has to do the same within them.
+    double scale = 1.0;
 
     [[nodiscard]] olScene::Document copy(const olScene::Document &source) const;
 

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <cstring>
 #include <numeric>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -23,6 +24,7 @@ namespace
 {
 
 using Mesh = Handle(Poly_Triangulation);
+
 /// The three nodes of all triangles, from 0 up.
 std::vector<int> cornersOf(const Mesh &mesh)
 {
@@ -71,23 +73,22 @@ std::vector<int> neighboursOf(const std::vector<int> &corners, const std::vector
     constexpr int none = -1;
     constexpr int several = -2;
     // Sides are sorted by the lower of their places; few begin in the same.
-    const auto low = [&](std::size_t side) {
-        return std::min(places[std::size_t(corners[side])],
-                        places[std::size_t(corners[side - side % 3 + (side + 1) % 3])]);
-    };
-    const auto high = [&](std::size_t side) {
-        return std::max(places[std::size_t(corners[side])],
-                        places[std::size_t(corners[side - side % 3 + (side + 1) % 3])]);
-    };
     std::vector<int> starts(places.size() + 1, 0);
-    for (std::size_t side = 0; side < corners.size(); ++side)
-        ++starts[std::size_t(low(side)) + 1];
+    std::vector<int> lows(corners.size());
+    std::vector<int> highs(corners.size());
+    for (std::size_t side = 0; side < corners.size(); ++side) {
+        const int one = places[std::size_t(corners[side])];
+        const int other = places[std::size_t(corners[side % 3 == 2 ? side - 2 : side + 1])];
+        lows[side] = std::min(one, other);
+        highs[side] = std::max(one, other);
+        ++starts[std::size_t(lows[side]) + 1];
+    }
     for (std::size_t place = 0; place < places.size(); ++place)
         starts[place + 1] += starts[place];
     std::vector<int> sorted(corners.size());
     std::vector<int> next(starts.begin(), starts.end() - 1);
     for (std::size_t side = 0; side < corners.size(); ++side)
-        sorted[std::size_t(next[std::size_t(low(side))]++)] = int(side);
+        sorted[std::size_t(next[std::size_t(lows[side])]++)] = int(side);
 
     std::vector<int> neighbours(corners.size(), none);
     for (std::size_t place = 0; place < places.size(); ++place) {
@@ -95,11 +96,11 @@ std::vector<int> neighboursOf(const std::vector<int> &corners, const std::vector
         const auto last = sorted.begin() + starts[place + 1];
         // Many may begin in the middle of a fan.
         std::sort(first, last, [&](int one, int other) {
-            return std::make_pair(high(std::size_t(one)), one) < std::make_pair(high(std::size_t(other)), other);
+            return std::make_pair(highs[std::size_t(one)], one) < std::make_pair(highs[std::size_t(other)], other);
         });
         for (auto begin = first; begin != last;) {
             auto end = begin + 1;
-            while (end != last && high(std::size_t(*end)) == high(std::size_t(*begin)))
+            while (end != last && highs[std::size_t(*end)] == highs[std::size_t(*begin)])
                 ++end;
             if (end - begin == 2) {
                 neighbours[std::size_t(begin[0])] = begin[1];
@@ -147,11 +148,71 @@ private:
     std::vector<int> m_parents;
 };
 
+/// How the triangles of a mesh hang together.
+struct Net {
+    explicit Net(const Mesh &mesh)
+        : corners(cornersOf(mesh)), places(placesOf(mesh)), neighbours(neighboursOf(corners, places))
+    {
+    }
+
+    std::vector<int> corners;
+    std::vector<int> places;
+    std::vector<int> neighbours;
+};
+
 void turn(const Mesh &mesh, int index)
 {
     int n[3];
     mesh->Triangle(index).Get(n[0], n[1], n[2]);
     mesh->SetTriangle(index, Poly_Triangle(n[0], n[2], n[1]));
+}
+
+/// Turns triangles of the mesh, and of the net, so that neighbours face the same way. Whether any was turned.
+bool orient(const Mesh &mesh, Net &net)
+{
+    const auto placeOf = [&](int side) { return net.places[std::size_t(net.corners[std::size_t(side)])]; };
+    const auto count = std::size_t(mesh->NbTriangles());
+    std::vector<char> isDone(count, 0);
+    std::vector<char> isTurned(count, 0);
+    std::vector<int> next;
+    bool isAnyTurned = false;
+    for (std::size_t seed = 0; seed < count; ++seed) {
+        if (isDone[seed])
+            continue;
+        isDone[seed] = 1;
+        next.push_back(int(seed));
+        while (!next.empty()) {
+            const int triangle = next.back();
+            next.pop_back();
+            for (int side = 3 * triangle; side < 3 * triangle + 3; ++side) {
+                const int opposite = net.neighbours[std::size_t(side)];
+                if (opposite < 0 || isDone[std::size_t(opposite / 3)])
+                    continue;
+                // Neighbours that face the same way run along their side in opposite directions.
+                const bool runsAlong = placeOf(side) == placeOf(opposite);
+                const auto other = std::size_t(opposite / 3);
+                isDone[other] = 1;
+                isTurned[other] = char(isTurned[std::size_t(triangle)] != char(runsAlong));
+                isAnyTurned = isAnyTurned || isTurned[other];
+                next.push_back(int(other));
+            }
+        }
+    }
+    if (!isAnyTurned)
+        return false;
+    // A triangle that is turned has its first side where its last one was.
+    for (std::size_t triangle = 0; triangle < count; ++triangle) {
+        if (!isTurned[triangle])
+            continue;
+        turn(mesh, int(triangle) + 1);
+        std::swap(net.corners[3 * triangle + 1], net.corners[3 * triangle + 2]);
+        std::swap(net.neighbours[3 * triangle], net.neighbours[3 * triangle + 2]);
+    }
+    for (int &side : net.neighbours) {
+        if (side >= 0 && isTurned[std::size_t(side / 3)])
+            side += 2 - 2 * (side % 3);
+    }
+    return true;
 }
 
 TopoDS_Face faceOf(const Mesh &mesh)
@@ -184,49 +245,83 @@ bool olMeshTools::isWhole(const Mesh &mesh)
 
 void olMeshTools::orientAlike(const Mesh &mesh)
 {
-    const std::vector<int> corners = cornersOf(mesh);
-    const std::vector<int> places = placesOf(mesh);
-    const std::vector<int> neighbours = neighboursOf(corners, places);
-    const auto placeOf = [&](int side) { return places[std::size_t(corners[std::size_t(side)])]; };
-    const auto count = std::size_t(mesh->NbTriangles());
-    std::vector<char> isDone(count, 0);
-    std::vector<char> isTurned(count, 0);
-    std::vector<int> next;
-    bool isAnyTurned = false;
-    for (std::size_t seed = 0; seed < count; ++seed) {
-        if (isDone[seed])
-            continue;
-        isDone[seed] = 1;
-        next.push_back(int(seed));
-        while (!next.empty()) {
-            const int triangle = next.back();
-            next.pop_back();
-            for (int side = 3 * triangle; side < 3 * triangle + 3; ++side) {
-                const int opposite = neighbours[std::size_t(side)];
-                if (opposite < 0 || isDone[std::size_t(opposite / 3)])
-                    continue;
-                // Neighbours that face the same way run along their side in opposite directions.
-                const bool runsAlong = placeOf(side) == placeOf(opposite);
-                const auto other = std::size_t(opposite / 3);
-                isDone[other] = 1;
-                isTurned[other] = char(isTurned[std::size_t(triangle)] != char(runsAlong));
-                isAnyTurned = isAnyTurned || isTurned[other];
-                next.push_back(int(other));
-            }
-        }
-    }
-    for (std::size_t triangle = 0; isAnyTurned && triangle < count; ++triangle) {
-        if (isTurned[triangle])
-            turn(mesh, int(triangle) + 1);
-    }
-    if (isAnyTurned && mesh->HasNormals())
+    Net net(mesh);
+    if (orient(mesh, net) && mesh->HasNormals())
         mesh->ComputeNormals();
 }
 
-Mesh olMeshTools::withNormals(const Mesh &mesh, double creaseAngle)
+Mesh olMeshTools::coarser(const Mesh &mesh, double triangles)
 {
+    struct Cluster {
+        gp_XYZ place;
+        gp_XYZ normal;
+        int count = 0;
+        int first = 0;
+    };
+    if (!mesh->HasNormals())
+        mesh->ComputeNormals();
     const std::vector<int> corners = cornersOf(mesh);
-    const std::vector<int> neighbours = neighboursOf(corners, placesOf(mesh));
+    double area = 0;
+    for (std::size_t at = 0; at < corners.size(); at += 3) {
+        const gp_XYZ first = mesh->Node(corners[at] + 1).XYZ();
+        area += (mesh->Node(corners[at + 1] + 1).XYZ() - first)
+                    .CrossMagnitude(mesh->Node(corners[at + 2] + 1).XYZ() - first) /
+                2;
+    }
+    // A cube of space that a surface passes has two triangles.
+    const double cube = std::max(std::sqrt(2 * area / std::max(triangles, 1.0)), gp::Resolution());
+    const auto step = [cube](double value) { return std::uint64_t(std::int64_t(std::floor(value / cube))) & 0xfffff; };
+    constexpr int directions = 3;
+    std::vector<std::uint64_t> cubes;
+    std::vector<int> clusterOf;
+    std::vector<Cluster> clusters;
+    std::unordered_map<std::uint64_t, int> known;
+    for (int node = 1; node <= mesh->NbNodes(); ++node) {
+        const gp_XYZ place = mesh->Node(node).XYZ();
+        const gp_XYZ normal = mesh->Normal(node).XYZ();
+        cubes.push_back((step(place.X()) << 40 | step(place.Y()) << 20 | step(place.Z())) << directions);
+        const std::uint64_t facing = (normal.X() > 0 ? 1 : 0) | (normal.Y() > 0 ? 2 : 0) | (normal.Z() > 0 ? 4 : 0);
+        const auto [found, isNew] = known.emplace(cubes.back() | facing, int(clusters.size()));
+        if (isNew)
+            clusters.push_back({{}, {}, 0, node});
+        Cluster &cluster = clusters[std::size_t(found->second)];
+        cluster.place += place;
+        cluster.normal += normal;
+        ++cluster.count;
+        clusterOf.push_back(found->second + 1);
+    }
+    std::vector<Poly_Triangle> kept;
+    for (std::size_t at = 0; at < corners.size(); at += 3) {
+        const auto a = std::size_t(corners[at]);
+        const auto b = std::size_t(corners[at + 1]);
+        const auto c = std::size_t(corners[at + 2]);
+        if (cubes[a] != cubes[b] && cubes[b] != cubes[c] && cubes[c] != cubes[a])
+            kept.emplace_back(clusterOf[a], clusterOf[b], clusterOf[c]);
+    }
+    if (kept.empty())
+        return mesh;
+    const Mesh result =
+        new Poly_Triangulation(int(clusters.size()), int(kept.size()), mesh->HasUVNodes(), Standard_True);
+    for (int node = 1; node <= int(clusters.size()); ++node) {
+        const Cluster &cluster = clusters[std::size_t(node - 1)];
+        result->SetNode(node, gp_Pnt(cluster.place / cluster.count));
+        const bool isFlat = cluster.normal.Modulus() <= gp::Resolution();
+        result->SetNormal(node, isFlat ? mesh->Normal(cluster.first) : gp_Dir(cluster.normal));
+        if (mesh->HasUVNodes())
+            result->SetUVNode(node, mesh->UVNode(cluster.first));
+    }
+    for (int index = 1; index <= int(kept.size()); ++index)
+        result->SetTriangle(index, kept[std::size_t(index - 1)]);
+    return result;
+}
+
+Mesh olMeshTools::withNormals(const Mesh &mesh, double creaseAngle, bool isUnified)
+{
+    Net net(mesh);
+    if (isUnified)
+        orient(mesh, net);
+    const std::vector<int> &corners = net.corners;
+    const std::vector<int> &neighbours = net.neighbours;
     const std::vector<gp_XYZ> crosses = crossesOf(mesh, corners);
     const double least = std::cos(creaseAngle);
     const auto isSmooth = [&](std::size_t one, std::size_t other) {

@@ -21,9 +21,15 @@ constexpr double usualCrease = 30.0 * 0.017453292519943295;
 /// piece stays. Normals are computed anew where something was turned.
 void orientAlike(const opencascade::handle<Poly_Triangulation> &mesh);
 
-/// The triangles with normals: smooth where neighbours meet at less than the angle, in radians, and sharp elsewhere.
+/// The triangles with normals: smooth where neighbours meet at less than the angle, in radians, and sharp elsewhere. On
+/// demand they are turned as orientAlike does before.
 [[nodiscard]] opencascade::handle<Poly_Triangulation> withNormals(const opencascade::handle<Poly_Triangulation> &mesh,
-                                                                  double creaseAngle);
+                                                                  double creaseAngle, bool isUnified = false);
+
+/// About so many triangles in place of many more, for as long as speed counts: nodes that are near each other and face
+/// alike become one.
+[[nodiscard]] opencascade::handle<Poly_Triangulation> coarser(const opencascade::handle<Poly_Triangulation> &mesh,
+                                                              double triangles);
 
 /// One face with the triangles of all, which have no surfaces.
 [[nodiscard]] TopoDS_Face merged(const std::vector<TopoDS_Face> &faces);

@@ -41,21 +41,25 @@ XCAFDoc_VisMaterialCommon commonOf(const Quantity_ColorRGBA &color)
     return common;
 }
 
-bool isBare(const XCAFDoc_VisMaterial &material)
-{
-    if (material.HasPbrMaterial() || !material.HasCommonMaterial())
-        return false;
-    const XCAFDoc_VisMaterialCommon &common = material.CommonMaterial();
-    return common.DiffuseTexture.IsNull() && common.SpecularColor.IsEqual(Quantity_NOC_BLACK) &&
-           common.EmissiveColor.IsEqual(Quantity_NOC_BLACK);
-}
-
 XCAFDoc_VisMaterialPBR dullOf(const Quantity_ColorRGBA &color)
 {
     XCAFDoc_VisMaterialPBR pbr;
     pbr.BaseColor = color;
     pbr.Metallic = 0.0f;
     return pbr;
+}
+
+bool isBare(const XCAFDoc_VisMaterial &material)
+{
+    if (material.HasPbrMaterial())
+        return material.PbrMaterial().IsEqual(dullOf(material.PbrMaterial().BaseColor)) &&
+               material.AlphaMode() != Graphic3d_AlphaMode_Mask &&
+               material.FaceCulling() == Graphic3d_TypeOfBackfacingModel_Auto;
+    if (!material.HasCommonMaterial())
+        return false;
+    const XCAFDoc_VisMaterialCommon &common = material.CommonMaterial();
+    return common.DiffuseTexture.IsNull() && common.SpecularColor.IsEqual(Quantity_NOC_BLACK) &&
+           common.EmissiveColor.IsEqual(Quantity_NOC_BLACK);
 }
 
 /// Parts, groups, instances and pieces.

@@ -1,5 +1,6 @@
 #include "Model/olScene.h"
 
+#include "Model/olDocumentCopy.h"
 #include "Model/olSampleAssembly.h"
 #include "Model/olTriangles.h"
 
@@ -12,13 +13,19 @@
 namespace
 {
 
+constexpr auto leaves = XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes;
+
+QString idOf(const XCAFPrs_DocumentExplorer &explorer)
+{
+    return QString::fromLatin1(explorer.Current().Id.ToCString());
+}
+
 QSet<QString> hiddenIn(const olScene::Document &document)
 {
     QSet<QString> hidden;
-    for (XCAFPrs_DocumentExplorer explorer(document, XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes); explorer.More();
-         explorer.Next()) {
+    for (XCAFPrs_DocumentExplorer explorer(document, leaves); explorer.More(); explorer.Next()) {
         if (!explorer.Current().Style.IsVisible())
-            hidden.insert(QString::fromLatin1(explorer.Current().Id.ToCString()));
+            hidden.insert(idOf(explorer));
     }
     return hidden;
 }
@@ -42,6 +49,28 @@ void olScene::setDocument(const Document &document)
 {
     m_document = document.IsNull() ? newDocument() : document;
     m_hidden = hiddenIn(m_document);
+    emit changed();
+}
+
+void olScene::addDocument(const Document &document)
+{
+    if (isEmpty())
+        return setDocument(document);
+    const olDocumentCopy copy;
+    const Document both = copy.copy(m_document);
+    copy.copyInto(document, both);
+    // The copy begins with the same parts in the same order, but calls them otherwise.
+    QSet<QString> hidden;
+    XCAFPrs_DocumentExplorer before(m_document, leaves);
+    for (XCAFPrs_DocumentExplorer now(both, leaves); now.More(); now.Next()) {
+        const bool isHidden = before.More() ? m_hidden.contains(idOf(before)) : !now.Current().Style.IsVisible();
+        if (isHidden)
+            hidden.insert(idOf(now));
+        if (before.More())
+            before.Next();
+    }
+    m_document = both;
+    m_hidden = hidden;
     emit changed();
 }
 

@@ -31,6 +31,9 @@ public:
     /// Takes the document as the new content. A null one is taken as an empty one.
     void setDocument(const Document &document);
 
+    /// Adds the document's content to what there is, which keeps what is hidden of it.
+    void addDocument(const Document &document);
+
     /// Replaces the content by nothing, or by the assembly that the program builds itself.
     void clear();
     void loadSample();

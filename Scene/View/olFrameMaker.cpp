@@ -26,6 +26,7 @@ bool olFrameMaker::draw(olSceneView &view, olPictureTarget &target, const QSize 
 {
     olSceneView::Frame frame;
     frame.isMoving = manner.isMoving;
+    frame.isCoarse = manner.isCoarse;
     frame.pixelRatio = manner.pixelRatio;
     const std::vector<QPointF> shifts = view.shifts(manner.isMoving);
     const olPictureMean::Finish finish = wantedFinish();

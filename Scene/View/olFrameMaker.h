@@ -13,6 +13,7 @@ public:
     /// How the view is looked at, beyond what the host's state says.
     struct Manner {
         bool isMoving = false;   ///< The camera is on its way, and speed counts.
+        bool isCoarse = false;   ///< As in a frame of the view.
         bool isAnaglyph = false; ///< For glasses with a red and a cyan side.
         double pixelRatio = 1;   ///< As in a frame of the view.
     };

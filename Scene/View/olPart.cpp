@@ -2,11 +2,14 @@
 
 #include "Model/olColoredMesh.h"
 #include "Model/olLevelsOfDetail.h"
+#include "Model/olMeshTools.h"
 #include "Model/olPlainLook.h"
 
 #include <AIS_ColoredDrawer.hxx>
 #include <AIS_DisplayMode.hxx>
+#include <BRep_Builder.hxx>
 #include <BRep_Tool.hxx>
+#include <Geom_Surface.hxx>
 #include <Graphic3d_ArrayOfTriangles.hxx>
 #include <Graphic3d_AspectFillArea3d.hxx>
 #include <Graphic3d_Aspects.hxx>
@@ -28,6 +31,37 @@ namespace
 
 /// Behind those that the library knows.
 constexpr int firstLevelMode = 100;
+
+/// And behind those of levels.
+constexpr int coarseMode = 1000;
+
+/// Faces without a surface have coarser meshes while this lives.
+class CoarseMeshes
+{
+public:
+    CoarseMeshes(const TopoDS_Shape &shape, double share)
+    {
+        for (TopExp_Explorer each(shape, TopAbs_FACE); each.More(); each.Next()) {
+            const TopoDS_Face &face = TopoDS::Face(each.Current());
+            TopLoc_Location location;
+            const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+            if (mesh.IsNull() || !BRep_Tool::Surface(face, location).IsNull())
+                continue;
+            m_meshes.emplace_back(face, mesh);
+            BRep_Builder().UpdateFace(face, olMeshTools::coarser(mesh, share * mesh->NbTriangles()), Standard_True);
+        }
+    }
+    ~CoarseMeshes()
+    {
+        for (const auto &[face, mesh] : m_meshes)
+            BRep_Builder().UpdateFace(face, mesh, Standard_True);
+    }
+    CoarseMeshes(const CoarseMeshes &) = delete;
+    CoarseMeshes &operator=(const CoarseMeshes &) = delete;
+
+private:
+    std::vector<std::pair<TopoDS_Face, Handle(Poly_Triangulation)>> m_meshes;
+};
 
 Handle(olColoredMesh) coloredMeshOf(const TopoDS_Face &face, TopLoc_Location &location)
 {
@@ -74,9 +108,16 @@ olPart::olPart(const XCAFPrs_DocumentNode &node)
     SetLocalTransformation(node.Location);
     TopLoc_Location location;
     for (TopExp_Explorer each(m_source, TopAbs_FACE); each.More(); each.Next()) {
-        if (!coloredMeshOf(TopoDS::Face(each.Current()), location).IsNull())
-            m_colored.push_back(TopoDS::Face(each.Current()));
+        const TopoDS_Face &face = TopoDS::Face(each.Current());
+        const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
+        if (!coloredMeshOf(face, location).IsNull())
+            m_colored.push_back(face);
+        else if (!mesh.IsNull() && BRep_Tool::Surface(face, location).IsNull())
+            m_meshTriangles += unsigned(mesh->NbTriangles());
     }
+    // What has colours at its nodes, or levels of its own, is drawn as it is.
+    if (!m_colored.empty() || m_levels > 1)
+        m_meshTriangles = 0;
 }
 
 bool olPart::isFullyTransparent() const
@@ -86,13 +127,20 @@ bool olPart::isFullyTransparent() const
 
 int olPart::displayModeOf(int level) { return level == 0 ? int(AIS_Shaded) : firstLevelMode + level; }
 
-int olPart::levelOf(int displayMode) { return displayMode > firstLevelMode ? displayMode - firstLevelMode : 0; }
+int olPart::levelOf(int displayMode)
+{
+    return displayMode > firstLevelMode && displayMode < coarseMode ? displayMode - firstLevelMode : 0;
+}
+
+int olPart::coarseDisplayMode() { return coarseMode; }
 
 int olPart::levelFor(double pixels) const { return olLevelsOfDetail::forSize(pixels, m_levels); }
 
 Standard_Boolean olPart::AcceptDisplayMode(const Standard_Integer mode) const
 {
     const int level = levelOf(mode);
+    if (mode == coarseMode)
+        return m_meshTriangles > 0;
     return level > 0 ? level < m_levels : XCAFPrs_AISObject::AcceptDisplayMode(mode);
 }
 
@@ -101,7 +149,10 @@ void olPart::Compute(const Handle(PrsMgr_PresentationManager) & manager,
 {
     const int level = levelOf(mode);
     const olLevelsOfDetail::InUse used(m_source, level);
-    const bool isShaded = level > 0 || mode == int(AIS_Shaded);
+    std::optional<CoarseMeshes> coarse;
+    if (mode == coarseMode)
+        coarse.emplace(m_source, m_coarseTriangles / m_meshTriangles);
+    const bool isShaded = level > 0 || coarse || mode == int(AIS_Shaded);
     if (isShaded && !m_colored.empty()) {
         DispatchStyles(Standard_True);
         for (const TopoDS_Face &face : m_colored)

@@ -32,6 +32,15 @@ public:
     /// The level that suits a part of that many pixels.
     [[nodiscard]] int levelFor(double pixels) const;
 
+    /// How many triangles it has that a coarser mesh can stand for while speed counts; and with how many it is drawn
+    /// then, in the other display mode.
+    [[nodiscard]] unsigned meshTriangles() const { return m_meshTriangles; }
+    void setCoarseTriangles(double triangles) { m_coarseTriangles = triangles; }
+    [[nodiscard]] static int coarseDisplayMode();
+
+    /// Whether it is drawn so now.
+    bool isCoarse = false;
+
     /// Which level is drawn now.
     int shownLevel = 0;
 
@@ -67,4 +76,6 @@ private:
     /// Faces whose nodes have colours of their own, which the library does not draw.
     std::vector<TopoDS_Face> m_colored;
     int m_levels;
+    unsigned m_meshTriangles = 0;
+    double m_coarseTriangles = 0;
 };

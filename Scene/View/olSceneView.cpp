@@ -45,6 +45,10 @@ constexpr double largestAngle = 170.0;
 constexpr double fitMargin = 0.08;
 constexpr double wireWidth = 1.5;
 
+/// With so many triangles all meshes together are drawn while speed counts; smaller ones stay as they are.
+constexpr double coarseTriangles = 100000;
+constexpr unsigned largeMesh = 2000;
+
 Quantity_Color colorOf(const osg::Color3f &color)
 {
     const auto channel = [](float value) { return std::clamp(double(value), 0.0, 1.0); };
@@ -108,6 +112,7 @@ public:
     void applySelectionStyle();
     void applyParts();
     void showSelection();
+    void showCoarse(bool coarse) const;
     void setPixelRatio(double ratio) const;
     [[nodiscard]] olRenderQuality::Wishes wishes(bool isMoving) const;
     [[nodiscard]] Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
@@ -130,6 +135,7 @@ public:
     bool isRaytraced = false;
     bool hasEdges = false;
     bool hasTransparency = false;
+    double meshTriangles = 0;
 };
 
 olSceneView::olSceneView() : d(std::make_unique<Private>()) {}
@@ -193,6 +199,7 @@ void olSceneView::Private::showPart(const Handle(olPart) & part, bool shown)
     if (shown == bool(context->IsDisplayed(part)))
         return;
     part->applied.reset();
+    part->isCoarse = false;
     if (shown)
         context->Display(part, olPart::displayModeOf(part->shownLevel), 0, Standard_False);
     else
@@ -207,6 +214,9 @@ void olSceneView::Private::measure()
             shown.push_back(part);
     }
     box = boxOf(shown);
+    meshTriangles = 0;
+    for (const Handle(olPart) & part : shown)
+        meshTriangles += part->meshTriangles();
     hasTransparency = std::any_of(shown.begin(), shown.end(), [](const auto &part) { return part->isTransparent(); });
 }
 
@@ -427,6 +437,22 @@ void olSceneView::setEdges(bool on)
     d->applyParts();
 }
 
+void olSceneView::Private::showCoarse(bool coarse) const
+{
+    for (const Handle(olPart) & part : parts) {
+        const bool isWanted = coarse && part->meshTriangles() >= largeMesh;
+        if (part->isCoarse == isWanted || !context->IsDisplayed(part))
+            continue;
+        part->isCoarse = isWanted;
+        part->setCoarseTriangles(coarseTriangles * part->meshTriangles() / meshTriangles);
+        const int mode = isWanted ? olPart::coarseDisplayMode() : olPart::displayModeOf(part->shownLevel);
+        context->SetDisplayMode(part, mode, Standard_False);
+        part->setWritesDepth(olHostState::the().zWriteTransparency);
+    }
+}
+
+bool olSceneView::isHeavy() const { return d->meshTriangles > 2 * coarseTriangles; }
+
 void olSceneView::Private::setPixelRatio(double ratio) const
 {
     constexpr int tolerance = 2;
@@ -455,6 +481,7 @@ bool olSceneView::draw(const Frame &frame)
     d->applyBackground();
     d->applyFieldOfView();
     d->chooseLevels();
+    d->showCoarse(frame.isCoarse);
     const olHostState &state = olHostState::the();
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 

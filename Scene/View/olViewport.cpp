@@ -36,6 +36,9 @@ using Action = olMouseStyle::Action;
 constexpr int frameMilliseconds = 16;
 constexpr double wheelStep = 120.0;
 
+/// What takes longer than this, in milliseconds, is drawn with fewer triangles while the camera moves.
+constexpr qint64 longestFrame = 50;
+
 /// Larger pictures than this a side do not fit into a graphics card together with all that it needs to draw them.
 constexpr int largestSide = 8192;
 
@@ -76,6 +79,7 @@ public:
     olProgressWheel wheel;
     QPointer<olScene> scene;
     unsigned staleParts = 0;
+    qint64 wholeFrame = 0;
     bool isAnaglyph = false;
     bool isRaytraced = false;
     bool hasEdges = false;
@@ -222,6 +226,7 @@ void olViewport::takeScene()
     else
         d->view->setDocument(olScene::newDocument(), {});
     d->navigator.setScene(d->view->middle(false), d->view->size());
+    d->wholeFrame = 0;
     redraw();
 }
 
@@ -290,7 +295,18 @@ void olViewport::drawFrame()
     d->still.stop();
     takeState();
     d->navigator.setPictureHeight(std::min(pictureSize().width(), pictureSize().height()));
-    if (!d->frames.draw(*d->view, d->target, pictureSize(), manner()))
+    olFrameMaker::Manner wanted = manner();
+    const bool isHeavy = wanted.isMoving && d->view->isHeavy();
+    wanted.isCoarse = isHeavy && d->wholeFrame > longestFrame;
+    QElapsedTimer time;
+    time.start();
+    const bool isDrawn = d->frames.draw(*d->view, d->target, pictureSize(), wanted);
+    if (isHeavy && !wanted.isCoarse) {
+        // Only then is it known how long it takes.
+        context()->functions()->glFinish();
+        d->wholeFrame = time.elapsed();
+    }
+    if (!isDrawn)
         olLog::error(tr("A frame of the 3D view could not be drawn."));
 }
 

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -59,17 +60,22 @@ void olOSGWidget::setCameraZUp(bool zUp, bool openViews)
 void olOSGWidget::setNearFarPlaneLimit(bool limit, float nearest, float farthest)
 {
     olJournal::call("olOSGWidget::setNearFarPlaneLimit", limit, nearest, farthest);
-    // Empty fields of a page arrive as zeros. No camera has such planes, so it goes on without a limit.
-    const bool isPossible = std::isfinite(nearest) && std::isfinite(farthest) && nearest > 0.0f && farthest > nearest;
-    if (limit && !isPossible)
-        olLog::error(QCoreApplication::translate(
-                         "olOSGWidget",
-                         "The clipping planes %1 and %2 are refused: expected two numbers above 0, the far "
-                         "one greater than the near one. Nothing is clipped.")
-                         .arg(double(nearest))
-                         .arg(double(farthest)));
     olHostState &state = olHostState::the();
-    state.limitNearFarPlane = limit && isPossible;
+    const bool isNearPossible = std::isfinite(nearest) && nearest > 0.0f;
+    const bool isFarPossible = std::isfinite(farthest) && farthest > std::max(nearest, 0.0f);
+    const bool isPossible = isNearPossible && isFarPossible;
+    const QString refusal =
+        QCoreApplication::translate("olOSGWidget", "The clipping planes %1 and %2 are refused: expected two numbers "
+                                                   "above 0, the far one greater than the near one.")
+            .arg(double(nearest))
+            .arg(double(farthest));
+    state.refuse("RenderOptions near plane", limit && !isNearPossible ? refusal : QString());
+    state.refuse("RenderOptions far plane", limit && !isFarPossible ? refusal : QString());
+    if (limit && !isPossible) {
+        olLog::error(refusal);
+        return;
+    }
+    state.limitNearFarPlane = limit;
     if (!isPossible)
         return;
     state.nearPlane = nearest;

@@ -33,7 +33,8 @@ public:
     /// Whether z points up, else y. With `openViews` views that are open follow, else only later ones.
     static void setCameraZUp(bool zUp, bool openViews);
 
-    /// With `limit` nothing nearer or farther is drawn; without, the planes fit the scene.
+    /// With `limit` nothing nearer or farther is drawn; without, the planes fit the scene. Planes that no camera has
+    /// are refused, in the log and at their settings: all stays as it was.
     static void setNearFarPlaneLimit(bool limit, float nearest, float farthest);
 
     // Rendering

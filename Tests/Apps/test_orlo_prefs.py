@@ -115,9 +115,7 @@ class GetAndSet(ToolTest):
         self.environment["LC_ALL"] = "C"
         self.assert_printed(self.stored("set", key, "M\u00fcller \u65e5"), "")
         self.assert_printed(self.stored("get", key), '"M\u00fcller \u65e5"\n')
-        command = [*self.command("set", key, options=["--store", str(self.store)]), b"M\xfcller"]
-        result = subprocess.run(command, env=self.environment, capture_output=True, timeout=SECONDS, check=False)
-        self.assertEqual((result.stderr.decode(), result.returncode), ('"M\ufffdller" is no UTF-8\n', 2))
+        self.assert_refused(self.stored("set", key, b"M\xfcller"), '"M\ufffdller" is no UTF-8')
         self.assert_printed(self.stored("get", key), '"M\u00fcller \u65e5"\n')
 
     def test_an_unknown_key_is_named_with_the_nearest(self):
@@ -168,25 +166,23 @@ class Bounds(ToolTest):
                             '"Camera fov" cannot be 500: expected a number from 1 to 100')
 
     def test_every_door_refuses_with_the_same_words(self):
-        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
-        site = self.folder / "site/orlo/site.json"
-        site.parent.mkdir(parents=True)
-        for key, type, value, words in (
-                ("Camera fov", "float", 500, "cannot be 500: expected a number from 1 to 100"),
-                ("Navigator dolly axis", "int", 3, "cannot be 3: expected one of 0, 1, 2"),
-                ("Devices joystick id", "int", 100, "cannot be 100: expected a whole number from 0 to 99"),
-                ("FileIO tmp path", "qstring", "x" * 40000,
-                 'cannot be "' + 78 * "x" + "…: expected at most 32767 characters")):
-            with self.subTest(key):
-                site.write_text("{}")
-                self.assert_refused(self.stored("set", key, value), f'"{key}" {words}')
-                result = self.stored("import", "-", input=json.dumps(
+        for kind, key, type, value, words in self.refusals():
+            with self.subTest(kind, key=key):
+                asks = f"is only set with --yes: {words}" if kind == "warning" else words
+                typed = value if isinstance(value, str) else json.dumps(value)
+                self.assert_refused(self.stored("set", key, typed), f'"{key}" {asks}')
+                imported = self.stored("import", "-", input=json.dumps(
                     {"format": 1, "settings": {key: {"type": type, "value": value}}}))
-                self.assertEqual(result.stderr, f'skipped: "{key}" {words}\n')
-                site.write_text(json.dumps({key: {"value": value}}))
-                self.assertIn(f'line 1: "{key}" {words}.', self.stored("list").stderr)
-        site.write_text("{}")
+                self.assertEqual(imported.stderr,
+                                 f'"{key}" {asks}\n' if kind == "warning" else f'skipped: "{key}" {words}\n')
         self.assert_printed(self.stored("diff"), "")
+
+        for kind, key, type, value, words in self.refusals():
+            # Who may write the site's file locks and agrees.
+            if kind not in ("lock", "warning"):
+                with self.subTest(kind, key=key, door="site"):
+                    self.site({key: {"value": value}})
+                    self.assertIn(f'line 1: "{key}" {words}.', self.stored("list").stderr)
 
     def test_what_the_page_asks_about_takes_a_yes(self):
         server = "WebInterface enable web server2"
@@ -205,6 +201,13 @@ class Bounds(ToolTest):
         self.assert_printed(self.stored("set", server, "true"), "")
         self.assert_printed(self.stored("set", server, "false"), "")
         self.assert_printed(self.tool("set", server, "true", options=agreed), "")
+
+        self.site({server: {"value": True}})
+        self.assert_printed(self.stored("set", server, "false"), "")
+        for which in (server, "--all"):
+            self.assert_refused(self.stored("reset", which), refusal)
+        self.assert_printed(self.tool("reset", server, options=agreed), "")
+        self.assert_printed(self.stored("get", server), "true\n")
 
 
 class Differences(ToolTest):

@@ -1,6 +1,7 @@
 """What the tests of orlo-prefs share: the tool, run with a store and a home of its own."""
 
 import argparse
+import json
 import os
 import pathlib
 import subprocess
@@ -9,6 +10,8 @@ import tempfile
 import unittest
 
 SECONDS = 60
+
+REFUSALS = json.loads(pathlib.Path(__file__).with_name("refusals.json").read_text("utf-8"))
 
 
 class ToolTest(unittest.TestCase):
@@ -28,15 +31,30 @@ class ToolTest(unittest.TestCase):
 
     def command(self, *arguments, plugin="", options=()):
         given = ["--plugin", plugin] if plugin else []
-        return [self.program, *given, *options, *map(str, arguments)]
+        return [self.program, *given, *options, *(each if isinstance(each, bytes) else str(each) for each in arguments)]
 
     def tool(self, *arguments, plugin="", options=(), input=None):
-        return subprocess.run(self.command(*arguments, plugin=plugin, options=options), input=input,
+        return subprocess.run(self.command(*arguments, plugin=plugin, options=options), input=input, cwd=self.folder,
                               env=self.environment, capture_output=True, encoding="utf-8", timeout=SECONDS, check=False)
 
     def stored(self, *arguments, **keywords):
         """The tool with the test's own store."""
         return self.tool(*arguments, options=["--store", str(self.store)], **keywords)
+
+    def site(self, settings):
+        """Makes a site's file of them, which only counts where root has written it."""
+        if os.geteuid() != 0:
+            self.skipTest("a site's file counts only where it is root's")
+        self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
+        file = self.folder / "site/orlo/site.json"
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(json.dumps(settings))
+
+    def refusals(self):
+        """What every door refuses at a site with a lock: kind, key, type, value and words."""
+        self.site({"Powerwall width": {"locked": True, "reason": "One wall for all."}})
+        return [(refusal["kind"], refusal["key"], refusal["type"],
+                 refusal.get("value", "x" * refusal.get("length", 0)), refusal["words"]) for refusal in REFUSALS]
 
     def assert_printed(self, result, text):
         self.assertEqual((result.stdout, result.stderr, result.returncode), (text, "", 0))

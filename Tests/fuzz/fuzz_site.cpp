@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     olSiteDefaults site({name}, olSiteOwner::Anyone);
     site.read();
     (void)site.early("int language", "int");
-    site.settle(defaultOf, whyNot);
+    site.resolve(defaultOf, whyNot);
     for (const auto &[key, setting] : site.settings()) {
         if (olValue::typeName(setting.value) != olValue::typeName(defaultOf(key)))
             std::abort();

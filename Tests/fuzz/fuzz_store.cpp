@@ -8,17 +8,20 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <optional>
+#include <vector>
 
 namespace
 {
 
-olStoreRows::Changes rowsIn(const QByteArray &text)
+std::vector<olStoreRows::Change> rowsIn(const QByteArray &text)
 {
-    olStoreRows::Changes rows;
+    std::vector<olStoreRows::Change> rows;
     for (const QByteArray &line : text.split('\n')) {
         const int blank = line.indexOf(' ');
         const std::string key = "key " + std::to_string(rows.size());
-        rows[{"record", key}] = {line.left(blank).toStdString(), line.mid(blank + 1).toStdString()};
+        const olStoreRows::Row row{line.left(blank).toStdString(), line.mid(blank + 1).toStdString()};
+        rows.push_back({{olHome::Record, key}, std::nullopt, row});
     }
     return rows;
 }
@@ -41,22 +44,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (bytes.startsWith("SQLite format 3")) {
         write(name, bytes);
     } else if (bytes.startsWith("\xd9\xd5\x05\xf9")) {
-        if (!store.save({{{olHome::Record, "key"}, 1}}, {}).isEmpty())
+        if (!store.save({{{olHome::Record, "key"}, 1}}, {}).isOk())
             std::abort();
         write(name + QStringLiteral("-journal"), bytes);
-    } else if (!store.save(rowsIn(bytes)).isEmpty()) {
+    } else if (!store.save(rowsIn(bytes)).isOk()) {
         std::abort();
     }
 
-    olPreferencesStore::Values looked;
-    olPreferencesStore::Values opened;
     (void)store.check();
-    (void)store.lookAt(looked);
-    const olStoreOpening opening = store.open(opened);
-    if (looked.size() != opened.size())
+    const olResult<olStoreOpening> looked = store.open(olStoreUse::LookAt);
+    const olResult<olStoreOpening> opened = store.open();
+    if (looked.isOk() != opened.isOk() || (opened.isOk() && looked->values.size() != opened->values.size()))
         std::abort();
     // Whatever was found: what is opened can be saved to.
-    if (opening.error.isEmpty() && !store.save({{{olHome::Record, "new"}, 1}}, {}).isEmpty())
+    if (opened.isOk() && !store.save({{{olHome::Record, "new"}, 1}}, {}).isOk())
         std::abort();
     return 0;
 }

@@ -27,7 +27,7 @@ ROOMS = {
     "Host/Session": "Host Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/KernelServices",
     "Host/Editing": "Host Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",
     "Host/Dialog": "Host Host/Editing Host/Session Sdk/Utilities Sdk/OpenSG Sdk/State Sdk/Widgets",
-    "Host/WebServer": "Host Host/Store Sdk/Utilities Sdk/State",
+    "Host/WebServer": "Host Host/Store Sdk/Utilities Sdk/OpenSG Sdk/State",
     "Host/Devices": "Host Sdk/Utilities Sdk/State",
     # the scene
     "Scene/Model": "Sdk/Utilities Sdk/OpenSG Sdk/State",

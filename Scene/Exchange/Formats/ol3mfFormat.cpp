@@ -32,7 +32,7 @@ olModelFormat ol3mfFormat()
     return {"3MF",
             "3MF",
             {QStringLiteral("3mf")},
-            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Structure,
+            olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Structure | olModelFormat::UnitAndUp,
             check,
             read,
             nullptr};

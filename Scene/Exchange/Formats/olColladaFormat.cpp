@@ -37,7 +37,7 @@ olModelFormat olColladaFormat()
             "COLLADA",
             {QStringLiteral("dae")},
             olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
-                olModelFormat::Structure,
+                olModelFormat::Structure | olModelFormat::UnitAndUp,
             check,
             read,
             nullptr};

@@ -7,8 +7,12 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
+class QDir;
 class QFile;
 
 /// Half sentences of the messages on files that cannot be read.
@@ -27,6 +31,15 @@ namespace olFormatTools
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);
+
+/// Lets a writer of the library write under a plain name, as it takes no others, and gives the file its own then.
+[[nodiscard]] bool writePlainly(const QString &file, const std::function<bool(const char *plainFile)> &write);
+
+/// The names in one text: the first few, and how many more there are.
+[[nodiscard]] QString listed(const QStringList &names);
+
+/// The file of that name in the folder; one that begins with a colon is no resource of the program.
+[[nodiscard]] QString fileIn(const QDir &folder, const QString &name);
 
 /// The last few kilobytes of the file.
 [[nodiscard]] QByteArray tailOf(QFile &file);

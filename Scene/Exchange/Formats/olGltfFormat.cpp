@@ -19,7 +19,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPair>
-#include <QUrl>
 #include <QVector>
 #include <QtEndian>
 
@@ -66,8 +65,8 @@ QString bufferFault(const QJsonObject &buffer, const QDir &folder)
     const QString uri = buffer.value(QLatin1String("uri")).toString();
     if (uri.isEmpty() || uri.startsWith(QLatin1String("data:")))
         return {};
-    const QString name = QUrl::fromPercentEncoding(uri.toUtf8());
-    const QFileInfo info(folder.filePath(name));
+    const QString name = QFile::decodeName(QByteArray::fromPercentEncoding(uri.toUtf8()));
+    const QFileInfo info(olFormatTools::fileIn(folder, name));
     if (!info.isFile() || !info.isReadable())
         return olReason::tr("the file %1 that it refers to cannot be read").arg(name);
     return double(info.size()) < value(buffer, "byteLength")
@@ -227,7 +226,7 @@ public:
         const QString bytesName = QFileInfo(m_file).completeBaseName() + QStringLiteral(".bin");
         QJsonObject buffer{{QStringLiteral("byteLength"), m_bytes.size()}};
         if (!m_isBinary)
-            buffer.insert(QStringLiteral("uri"), QString::fromLatin1(QUrl::toPercentEncoding(bytesName)));
+            buffer.insert(QStringLiteral("uri"), QString::fromLatin1(QFile::encodeName(bytesName).toPercentEncoding()));
         const QVector<QPair<QString, QJsonArray>> lists{
             {QStringLiteral("nodes"), m_nodes},         {QStringLiteral("meshes"), m_meshes},
             {QStringLiteral("materials"), m_materials}, {QStringLiteral("textures"), m_textureNumbers},
@@ -240,7 +239,7 @@ public:
         const QByteArray text = QJsonDocument(model).toJson(QJsonDocument::Compact);
         if (m_isBinary)
             return writeFile(m_file, packed(text));
-        return writeFile(m_file, text) && writeFile(QFileInfo(m_file).dir().filePath(bytesName), m_bytes);
+        return writeFile(m_file, text) && writeFile(olFormatTools::fileIn(QFileInfo(m_file).dir(), bytesName), m_bytes);
     }
 
 private:
@@ -483,7 +482,7 @@ private:
             const QString place = m_textures.placeOf(picture);
             if (place.isEmpty())
                 return false;
-            image = {{QStringLiteral("uri"), QString::fromLatin1(QUrl::toPercentEncoding(place, "/"))}};
+            image = {{QStringLiteral("uri"), QString::fromLatin1(QFile::encodeName(place).toPercentEncoding("/"))}};
         }
         m_images.append(image);
         m_textureNumbers.append(QJsonObject{{QStringLiteral("source"), m_images.size() - 1}});
@@ -522,7 +521,8 @@ olModelFormat olGltfFormat()
             "GLTF",
             {QStringLiteral("gltf"), QStringLiteral("glb")},
             olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
-                olModelFormat::CornerColors | olModelFormat::Structure | olModelFormat::Names,
+                olModelFormat::CornerColors | olModelFormat::Structure | olModelFormat::Names |
+                olModelFormat::UnitAndUp,
             check,
             read,
             write};

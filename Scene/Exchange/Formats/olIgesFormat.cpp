@@ -6,6 +6,9 @@
 #include <IGESCAFControl_Reader.hxx>
 #include <IGESCAFControl_Writer.hxx>
 #include <IGESControl_Controller.hxx>
+#include <IGESGeom_BoundedSurface.hxx>
+#include <IGESGeom_TrimmedSurface.hxx>
+#include <IGESSolid_Face.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
 #include <Quantity_Color.hxx>
@@ -14,12 +17,16 @@
 #include <TDocStd_Document.hxx>
 #include <TopExp.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
+#include <Transfer_Binder.hxx>
+#include <Transfer_TransientProcess.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFPrs_DocumentExplorer.hxx>
 #include <XCAFPrs_Style.hxx>
+#include <XSControl_TransferReader.hxx>
+#include <XSControl_WorkSession.hxx>
 
 #include <QFile>
 
@@ -122,8 +129,25 @@ QString check(QFile &file, QStringList &)
     return lines.isWhole() ? QString() : cutOff();
 }
 
+/// What the library tried to take over, and could not.
+void remarkLost(const IGESCAFControl_Reader &reader, QStringList &remarks)
+{
+    const Handle(Transfer_TransientProcess) &process = reader.WS()->TransferReader()->TransientProcess();
+    int faces = 0;
+    for (int index = 1; index <= process->NbMapped(); ++index) {
+        const Handle(Standard_Transient) &entity = process->Mapped(index);
+        const Handle(Transfer_Binder) binder = process->MapItem(index);
+        const bool isFace = entity->IsKind(STANDARD_TYPE(IGESGeom_TrimmedSurface)) ||
+                            entity->IsKind(STANDARD_TYPE(IGESGeom_BoundedSurface)) ||
+                            entity->IsKind(STANDARD_TYPE(IGESSolid_Face));
+        faces += int(isFace && (binder.IsNull() || !binder->HasResult()));
+    }
+    if (faces > 0)
+        remarks << olReason::tr("%1 of its faces cannot be understood and are left out.").arg(faces);
+}
+
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &)
+             QStringList &remarks)
 {
     IGESControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
@@ -135,7 +159,9 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
         return damaged();
     olScene::Document target = document;
-    return reader.Transfer(target, progress) ? QString() : olReason::tr("its content cannot be taken over");
+    const bool isTaken = reader.Transfer(target, progress);
+    remarkLost(reader, remarks);
+    return isTaken ? QString() : olReason::tr("its content cannot be taken over");
 }
 
 /// Takes the instances of a document apart.
@@ -226,7 +252,8 @@ bool write(const olScene::Document &document, const QString &file, QStringList &
     // Solids stay solids; else they become loose faces, more of which lose their colour.
     Interface_Static::SetCVal("write.iges.brep.mode", "BRep");
     IGESCAFControl_Writer writer;
-    return writer.Transfer(bodies) && writer.Write(path(file).ToCString());
+    return writer.Transfer(bodies) &&
+           writePlainly(file, [&writer](const char *plain) { return bool(writer.Write(plain)); });
 }
 
 } // namespace
@@ -236,7 +263,8 @@ olModelFormat olIgesFormat()
     return {"IGES",
             "IGES",
             {QStringLiteral("iges"), QStringLiteral("igs")},
-            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Names,
+            olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Names |
+                olModelFormat::UnitAndUp,
             check,
             read,
             write};

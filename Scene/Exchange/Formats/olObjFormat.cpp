@@ -130,9 +130,9 @@ QString check(QFile &file, QStringList &remarks)
     const QString materials = lines.materials();
     const QDir folder = QFileInfo(file).absoluteDir();
     const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const bool isThere = QFileInfo::exists(folder.filePath(materials)) ||
+    const bool isThere = QFileInfo::exists(olFormatTools::fileIn(folder, materials)) ||
                          std::any_of(words.begin(), words.end(), [&folder](const QString &word) {
-                             return QFileInfo::exists(folder.filePath(word));
+                             return QFileInfo::exists(olFormatTools::fileIn(folder, word));
                          });
     if (!materials.isEmpty() && !isThere)
         remarks << olReason::tr("The materials file %1 is not there; the model has no colours.").arg(materials);
@@ -163,9 +163,9 @@ public:
     bool write()
     {
         const QString materials = QFileInfo(m_file).completeBaseName() + QStringLiteral(".mtl");
-        m_out << "mtllib " << materials << "\n";
+        m_out << "mtllib " << QFile::encodeName(materials) << "\n";
         m_tree.eachPlaced([this](const olMeshTree::Node &node, const gp_Trsf &where) { writePart(node, where); });
-        return m_out.finish() && writeMaterials(QFileInfo(m_file).dir().filePath(materials));
+        return m_out.finish() && writeMaterials(olFormatTools::fileIn(QFileInfo(m_file).dir(), materials));
     }
 
 private:
@@ -258,7 +258,7 @@ private:
             out << "Ns " << common.Shininess * olPlainLook::shiniest << "\n";
             const QString texture = m_textures.placeOf(common.DiffuseTexture);
             if (!texture.isEmpty())
-                out << "map_Kd " << texture << "\n";
+                out << "map_Kd " << QFile::encodeName(texture) << "\n";
         }
         return out.finish();
     }

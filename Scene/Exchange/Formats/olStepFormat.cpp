@@ -8,12 +8,21 @@
 #include <STEPCAFControl_Controller.hxx>
 #include <STEPCAFControl_Reader.hxx>
 #include <STEPCAFControl_Writer.hxx>
+#include <StepRepr_RepresentationItem.hxx>
+#include <StepShape_FaceSurface.hxx>
+#include <StepShape_ShellBasedSurfaceModel.hxx>
+#include <StepShape_SolidModel.hxx>
+#include <TCollection_HAsciiString.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TDocStd_Document.hxx>
+#include <Transfer_Binder.hxx>
+#include <Transfer_TransientProcess.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
+#include <XSControl_TransferReader.hxx>
+#include <XSControl_WorkSession.hxx>
 
 #include <QFile>
 
@@ -188,8 +197,34 @@ void nameNumberedInstances(const olScene::Document &document)
     }
 }
 
+/// What the library tried to take over, and could not.
+void remarkLost(const STEPCAFControl_Reader &reader, QStringList &remarks)
+{
+    const Handle(Transfer_TransientProcess) &process = reader.Reader().WS()->TransferReader()->TransientProcess();
+    int faces = 0;
+    QStringList bodies;
+    for (int index = 1; index <= process->NbMapped(); ++index) {
+        const Handle(Standard_Transient) &entity = process->Mapped(index);
+        const Handle(Transfer_Binder) binder = process->MapItem(index);
+        if (!binder.IsNull() && binder->HasResult())
+            continue;
+        faces += int(entity->IsKind(STANDARD_TYPE(StepShape_FaceSurface)));
+        if (entity->IsKind(STANDARD_TYPE(StepShape_SolidModel)) ||
+            entity->IsKind(STANDARD_TYPE(StepShape_ShellBasedSurfaceModel))) {
+            const Handle(TCollection_HAsciiString) name = Handle(StepRepr_RepresentationItem)::DownCast(entity)->Name();
+            bodies << (name.IsNull() || name->IsEmpty()
+                           ? QLatin1Char('#') + QString::number(reader.Reader().WS()->Model()->Number(entity))
+                           : QString::fromUtf8(name->ToCString()));
+        }
+    }
+    if (faces > 0)
+        remarks << olReason::tr("%1 of its faces cannot be understood and are left out.").arg(faces);
+    if (!bodies.isEmpty())
+        remarks << olReason::tr("Bodies that cannot be understood and are left out: %1.").arg(listed(bodies));
+}
+
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &)
+             QStringList &remarks)
 {
     STEPCAFControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
@@ -215,6 +250,7 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     if (!reader.Transfer(target, scope.Next(8)))
         return olReason::tr("its content cannot be taken over");
     nameNumberedInstances(document);
+    remarkLost(reader, remarks);
     return {};
 }
 
@@ -239,7 +275,8 @@ bool write(const olScene::Document &document, const QString &file, QStringList &
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
     Interface_Static::SetCVal("write.step.unit", "MM");
     STEPCAFControl_Writer writer;
-    return writer.Transfer(document, STEPControl_AsIs) && writer.Write(path(file).ToCString()) == IFSelect_RetDone;
+    return writer.Transfer(document, STEPControl_AsIs) &&
+           writePlainly(file, [&writer](const char *plain) { return writer.Write(plain) == IFSelect_RetDone; });
 }
 
 } // namespace
@@ -251,7 +288,7 @@ olModelFormat olStepFormat()
             {QStringLiteral("step"), QStringLiteral("stp")},
             olModelFormat::Surfaces | olModelFormat::Curves | olModelFormat::Colors | olModelFormat::Opacity |
                 olModelFormat::Structure | olModelFormat::Names | olModelFormat::Substances | olModelFormat::Layers |
-                olModelFormat::Hidden,
+                olModelFormat::Hidden | olModelFormat::UnitAndUp,
             check,
             read,
             write};

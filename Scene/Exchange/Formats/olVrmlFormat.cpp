@@ -98,15 +98,23 @@ void keepQuiet(const SoError *, void *) {}
 class Text
 {
 public:
-    Text(const QByteArray &text, int firstNumber) : m_first(firstNumber)
+    /// Fields, by the node that has them, that are left out.
+    using Fields = std::set<std::pair<QByteArray, QByteArray>>;
+
+    Text(const QByteArray &text, int firstNumber, const Fields &leftOut) : m_first(firstNumber), m_leftOut(leftOut)
     {
         for (int at = 0; at < text.size();) {
             const int start = at;
             at = skipped(text, at);
-            if (at == start)
+            if (at == start) {
                 at = word(text, at);
-            else
-                m_content += text.mid(start, at - start);
+                continue;
+            }
+            m_content += text.mid(start, at - start);
+            if (text.at(start) == '{')
+                m_nodes.push_back(m_lastWord);
+            else if (text.at(start) == '}' && !m_nodes.empty())
+                m_nodes.pop_back();
         }
     }
 
@@ -150,6 +158,9 @@ private:
         while (at < text.size() && isName(text.at(at)))
             ++at;
         const QByteArray name = text.mid(start, at - start);
+        if (!m_nodes.empty() && m_leftOut.count({m_nodes.back(), name}) > 0)
+            return behindValue(text, at);
+        m_lastWord = name;
         int open = at;
         while (open < text.size() && isspace(static_cast<unsigned char>(text.at(open))))
             ++open;
@@ -158,13 +169,34 @@ private:
         return isLink ? link(text, open + 1) : at;
     }
 
+    /// Behind numbers, texts, truths, or a list of them.
+    static int behindValue(const QByteArray &text, int at)
+    {
+        bool isInList = false;
+        while (at < text.size()) {
+            const char letter = text.at(at);
+            const bool isWord = isalpha(static_cast<unsigned char>(letter)) || letter == '_';
+            const bool isTruth = text.mid(at, 4) == "TRUE" || text.mid(at, 5) == "FALSE";
+            if (!isInList && (letter == '{' || letter == '}' || (isWord && !isTruth)))
+                return at;
+            isInList = letter == '[' || (isInList && letter != ']');
+            const int behind = skipped(text, at);
+            at = behind > at ? behind : at + 1;
+            if (isTruth)
+                at += 4;
+            if (letter == ']')
+                return at;
+        }
+        return at;
+    }
+
     int link(const QByteArray &text, int at)
     {
         QStringList urls;
         while (at < text.size() && text.at(at) != '}') {
             const int end = qMax(at + 1, skipped(text, at));
             if (text.at(at) == '"')
-                urls << QString::fromUtf8(text.mid(at + 1, end - at - 2));
+                urls << QFile::decodeName(text.mid(at + 1, end - at - 2));
             at = end;
         }
         m_content += "Group { bboxCenter " + QByteArray::number(m_first + int(m_links.size())) + ' ' +
@@ -174,6 +206,9 @@ private:
     }
 
     int m_first;
+    const Fields &m_leftOut;
+    std::vector<QByteArray> m_nodes;
+    QByteArray m_lastWord;
     QByteArray m_content;
     std::vector<QStringList> m_links;
 };
@@ -369,26 +404,44 @@ Handle(Image_Texture) pixelsOf(const SoSFImage &image)
     return olTextureOf(picture);
 }
 
+/// The field of a node that Coin has stumbled over because no such node has it; false where it was something else.
+bool takeUnknownField(Text::Fields &fields)
+{
+    static const QRegularExpression unknown(QStringLiteral("Unknown field \"([^\"]+)\" in \"(?:VRML)?([^\"]+)\""));
+    const QRegularExpressionMatch found = unknown.match(firstFault());
+    return found.hasMatch() && fields.emplace(found.captured(2).toLatin1(), found.captured(1).toLatin1()).second;
+}
+
 /// The content of a file, and behind `links` what it refers to; null where it cannot be understood.
-SoSeparator *readRoot(const QString &name, std::vector<QStringList> &links, bool &isOld)
+SoSeparator *readRoot(const QString &name, std::vector<QStringList> &links, bool &isOld, QStringList &remarks)
 {
     prepareCoin();
-    firstFault().clear();
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
         return nullptr;
     const QByteArray whole = file.readAll();
     isOld = whole.startsWith("#VRML V1");
-    // Numbers of links go on from those of the file that refers to this one.
-    Text text(whole, int(links.size()));
-    links.insert(links.end(), text.links().begin(), text.links().end());
-    SoInput input;
-    input.setBuffer(text.content().constData(), std::size_t(text.content().size()));
-    SoSeparator *root = SoDB::readAll(&input);
-    if (!root || firstFault().isEmpty())
-        return root;
-    root->ref();
-    root->unref();
+    Text::Fields unknown;
+    constexpr std::size_t mostUnknown = 100;
+    do {
+        firstFault().clear();
+        // Numbers of links go on from those of the file that refers to this one.
+        Text text(whole, int(links.size()), unknown);
+        SoInput input;
+        input.setBuffer(text.content().constData(), std::size_t(text.content().size()));
+        SoSeparator *root = SoDB::readAll(&input);
+        if (root && firstFault().isEmpty()) {
+            links.insert(links.end(), text.links().begin(), text.links().end());
+            for (const auto &[node, field] : unknown)
+                remarks << olReason::tr("No %1 has the field %2; it is passed over.")
+                               .arg(QString::fromLatin1(node), QString::fromLatin1(field));
+            return root;
+        }
+        if (root) {
+            root->ref();
+            root->unref();
+        }
+    } while (unknown.size() < mostUnknown && takeUnknownField(unknown));
     return nullptr;
 }
 
@@ -420,7 +473,7 @@ public:
     QString run(const QString &file)
     {
         bool isOld = false;
-        const Held<SoSeparator> held(readRoot(file, m_links, isOld));
+        const Held<SoSeparator> held(readRoot(file, m_links, isOld, m_remarks));
         SoSeparator *root = held.get();
         if (!root)
             return faultOfText();
@@ -627,7 +680,7 @@ private:
         const SoMFString &urls = static_cast<const SoVRMLImageTexture *>(texture)->url;
         QStringList places;
         for (int index = 0; index < urls.getNum(); ++index)
-            places << QString::fromUtf8(urls[index].getString());
+            places << QFile::decodeName(urls[index].getString());
         const QString file = firstThere(places);
         return file.isEmpty() ? Handle(Image_Texture)() : new Image_Texture(QFile::encodeName(file).constData());
     }
@@ -676,7 +729,7 @@ private:
         if (SoSeparator *known = m_roots.value(name))
             return known;
         bool isOld = false;
-        SoSeparator *content = readRoot(name, m_links, isOld);
+        SoSeparator *content = readRoot(name, m_links, isOld, m_remarks);
         if (!content) {
             m_fault = olReason::tr("the file %1 that it refers to cannot be read").arg(url);
             return nullptr;

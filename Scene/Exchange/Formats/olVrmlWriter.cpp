@@ -12,6 +12,7 @@
 #include <gp_Vec.hxx>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
@@ -131,7 +132,7 @@ private:
         if (look.HasCommonMaterial()) {
             const QString texture = m_textures.placeOf(look.CommonMaterial().DiffuseTexture);
             if (!texture.isEmpty())
-                m_out << " texture ImageTexture { url \"" << texture << "\" }";
+                m_out << " texture ImageTexture { url \"" << QFile::encodeName(texture) << "\" }";
         }
         m_out << " }\n";
     }

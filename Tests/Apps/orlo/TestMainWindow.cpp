@@ -1,26 +1,39 @@
 #include "WindowTest.h"
 
+#include "olFactsPanel.h"
 #include "olHostStatePanel.h"
 #include "olImportDialog.h"
+#include "olRecentModels.h"
 #include "olStartFault.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olExportScene.h"
 #include "Model/olScene.h"
 #include "State/olHostState.h"
+#include "Utilities/olLog.h"
 #include "View/olViewport.h"
+#include "Widgets/olTesselationSettings.h"
 
 #include <TDocStd_Document.hxx>
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>
 #include <QWindow>
@@ -45,6 +58,23 @@ protected:
         emit dialog->findChild<QDialogButtonBox *>()->accepted();
     }
 
+    QString written(const char *name, const QByteArray &content)
+    {
+        QFile file(path(QLatin1String(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    static QByteArray facet(const QByteArray &a, const QByteArray &b, const QByteArray &c)
+    {
+        return "facet normal 0 0 0\nouter loop\nvertex " + a + "\nvertex " + b + "\nvertex " + c +
+               "\nendloop\nendfacet\n";
+    }
+    const QByteArray triangle = "solid\n" + facet("0 0 0", "9 0 0", "0 9 0") + "endsolid\n";
+    const QByteArray tetrahedron = "solid\n" + facet("0 0 0", "0 6 0", "6 0 0") + facet("0 0 0", "6 0 0", "0 0 6") +
+                                   facet("0 0 0", "0 0 6", "0 6 0") + facet("6 0 0", "0 6 0", "0 0 6") + "endsolid\n";
+
     /// What the dialog says in the end.
     QString outcome()
     {
@@ -55,6 +85,150 @@ protected:
         return text->toPlainText();
     }
 };
+
+TEST_F(MainWindow, RestartsOnTheSamePageWithWhatWasOpen)
+{
+    action("Open the Sample").trigger();
+    olPreferencesDialog &preferences = window.openPreferences();
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("MainWindow show button text")));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
+    QWidget *box = preferences.focusWidget();
+    const auto click = [box] { QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2)); };
+    click();
+    auto *apply = preferences.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Apply);
+    ASSERT_TRUE(QTest::qWaitFor([apply] { return apply->isEnabled(); }, 2000));
+    QTest::mouseClick(apply, Qt::LeftButton);
+    auto *restart = preferences.findChild<QWidget *>(QStringLiteral("message"))
+                        ->findChild<QAbstractButton *>(QStringLiteral("messageAction"));
+    ASSERT_TRUE(restart->isVisible());
+
+    // With an edit that somebody wants to stay with, nothing happens.
+    click();
+    QTimer::singleShot(0, &window, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    QTest::mouseClick(restart, Qt::LeftButton);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.restartArguments(), QStringList());
+
+    click();
+    QTest::mouseClick(restart, Qt::LeftButton);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(window.restartArguments(), (QStringList{"--preferences", "--sample"}));
+    EXPECT_EQ(QSettings().value(QStringLiteral("preferencesDialog/page")).toString(), "MainWindow");
+}
+
+TEST_F(MainWindow, ThePreferencesFitBesideTheViewAsAPanelOnASmallScreen)
+{
+    olPreferencesDialog &preferences = window.openPreferences(QStringLiteral("Step"));
+    auto &box = control<QCheckBox>("Step", "keepSurfaceData");
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    const bool isTicked = box.isChecked();
+    window.resize(1366, 700);
+    action("Preferences as a Panel").trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !preferences.isWindow() && preferences.isVisible(); }, 2000));
+    QTest::qWait(100);
+    EXPECT_GE(view.width(), 1366 / 3) << "the model stays in sight";
+    const auto *area = qobject_cast<QScrollArea *>(module("Step").page()->parentWidget()->parentWidget());
+    ASSERT_NE(area, nullptr);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << "nothing must be scrolled sideways";
+    EXPECT_EQ(box.isChecked(), isTicked) << "what is edited stays";
+
+    // A number field's Enter closes nothing.
+    auto &deviation =
+        *control<olTesselationSettings>("Step", "tesselation").control(olTesselationSettings::Control::ChordDeviation);
+    deviation.setFocus();
+    QTest::keyClick(&deviation, Qt::Key_Return);
+    EXPECT_TRUE(preferences.isVisible());
+
+    auto *dock = window.findChild<QDockWidget *>(QStringLiteral("preferencesDock"));
+    QTimer::singleShot(0, &window, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    dock->close();
+    EXPECT_TRUE(dock->isVisible()) << "somebody stays with the edits";
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    dock->close();
+    EXPECT_FALSE(dock->isVisible());
+    EXPECT_FALSE(preferences.isVisible());
+    window.openPreferences();
+    EXPECT_TRUE(dock->isVisible());
+    action("Preferences as a Panel").trigger();
+    EXPECT_TRUE(preferences.isWindow());
+    EXPECT_TRUE(preferences.isVisible());
+}
+
+TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
+{
+    const QString file = path(QStringLiteral("sample.step"));
+    ASSERT_EQ(olExportScene(window.scene().document(), file).error, QString());
+    const auto ask = [&] {
+        delete window.findChild<olImportDialog *>();
+        EXPECT_TRUE(drop({file}));
+        return window.findChild<olImportDialog *>();
+    };
+    const auto stored = [] { return boost::any_cast<double>(record().get("STEPOptions chord deviation")); };
+    olImportDialog *dialog = ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    auto *deviation = dialog->findChild<QDoubleSpinBox *>(QStringLiteral("chord deviation"));
+    ASSERT_NE(deviation, nullptr);
+    const auto words = [&] {
+        QStringList texts;
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            texts << label->text();
+        return texts.join(QLatin1Char('|'));
+    };
+    EXPECT_TRUE(words().contains(QStringLiteral("% of the model"))) << qPrintable(words());
+    EXPECT_FALSE(words().contains(QStringLiteral("coarse")));
+    deviation->setFocus();
+    deviation->selectAll();
+    QTest::keyClicks(deviation, QStringLiteral("50"));
+    EXPECT_TRUE(words().contains(QStringLiteral("coarse"))) << qPrintable(words());
+    emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    EXPECT_EQ(stored(), 0.075) << "for this import alone";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window.findChild<olImportDialog *>(); }, 10000));
+
+    dialog = ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    deviation = dialog->findChild<QDoubleSpinBox *>(QStringLiteral("chord deviation"));
+    EXPECT_EQ(deviation->value(), 0.075);
+    deviation->setFocus();
+    deviation->selectAll();
+    QTest::keyClicks(deviation, QStringLiteral("0.5"));
+    auto *keep = dialog->findChild<QCheckBox *>(QStringLiteral("keep"));
+    QTest::mouseClick(keep, Qt::LeftButton, Qt::NoModifier, QPoint(8, keep->height() / 2));
+    emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    EXPECT_EQ(stored(), 0.5);
+    EXPECT_EQ(olHostState::the().importRecord("STEP")->chordDeviation, 0.5);
+    EXPECT_EQ(session.origin("STEPOptions chord deviation"), "stored");
+    EXPECT_EQ(session.origin("STEPOptions stitching"), "default") << "what was not changed is not kept";
+}
+
+TEST_F(MainWindow, F1ShowsTheSettingsLineInTheDocuments)
+{
+    olPreferencesDialog &preferences = window.openPreferences();
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("Camera fov")));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
+    QTest::keyClick(preferences.focusWidget(), Qt::Key_F1);
+    const auto *document = preferences.findChild<QTextBrowser *>(QStringLiteral("document"));
+    ASSERT_NE(document, nullptr);
+    EXPECT_TRUE(document->isVisible());
+    const QString line = document->textCursor().selectedText();
+    EXPECT_TRUE(line.startsWith(QStringLiteral("Camera fov"))) << qPrintable(line);
+    EXPECT_TRUE(line.contains(QStringLiteral("1 to 100"))) << qPrintable(line);
+    EXPECT_FALSE(document->toPlainText().contains(QStringLiteral("Navigator"))) << "the section of the page alone";
+}
+
+TEST_F(MainWindow, SupportInformationIsOnTheClipboardWithoutSecrets)
+{
+    apply("Camera", "Camera fov", 33.0f);
+    apply("WebInterface", "WebInterface white list", std::string("secret.host"));
+    olLog::error(QStringLiteral("the disk hums"));
+    action("Copy Support Information").trigger();
+    const QString text = QApplication::clipboard()->text();
+    EXPECT_TRUE(text.contains(QLatin1String(qVersion())));
+    EXPECT_TRUE(text.contains(QStringLiteral("\"Camera fov\": {\"type\": \"float\", \"value\": 33}")));
+    EXPECT_TRUE(text.contains(QStringLiteral("error: the disk hums")));
+    EXPECT_FALSE(text.contains(QStringLiteral("secret.host")));
+    EXPECT_TRUE(text.contains(QStringLiteral("WebInterface white list")));
+    EXPECT_FALSE(text.contains(QStringLiteral("Eye"))) << "a default is no news";
+}
 
 TEST_F(MainWindow, FramesPerSecondAreInTheStatusBarWhereWanted)
 {
@@ -179,17 +353,89 @@ TEST_F(MainWindow, WhatIsDroppedIsReadOrRefusedOnceWithTheSceneKept)
     const olScene::Document before = window.scene().document();
     import(broken.fileName());
     EXPECT_EQ(outcome().count(QStringLiteral("broken.step")), 1) << outcome().toStdString();
+    EXPECT_EQ(window.findChild<olImportDialog *>()->windowTitle(), QStringLiteral("Import Failed"));
+    EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("The import failed."));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Sample - ORLO"));
     EXPECT_EQ(window.scene().document(), before);
 
-    QFile good(path(QStringLiteral("triangle.stl")));
-    ASSERT_TRUE(good.open(QIODevice::WriteOnly));
-    good.write("solid t\nfacet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 9 0 0\nvertex 0 9 0\nendloop\nendfacet\n"
-               "endsolid t\n");
-    good.close();
-    import(good.fileName());
+    import(written("triangle.stl", triangle));
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.scene().document() != before; }, 10000));
     EXPECT_EQ(window.scene().triangleCount(), 1u);
     EXPECT_EQ(tree.topLevelItemCount(), 1);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("triangle.stl - ORLO"));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return window.statusBar()->currentMessage() == QLatin1String("triangle.stl was read."); }));
+}
+
+TEST_F(MainWindow, AModelIsAddedOrReplacesInTheUnitThatIsChosenAndIsFoundAgain)
+{
+    const auto read = [this](const QByteArray &word, const char *into, int unit) {
+        EXPECT_TRUE(drop({path(QString::fromLatin1(word))}));
+        auto *dialog = window.findChildren<olImportDialog *>().last();
+        for (QRadioButton *button : dialog->findChildren<QRadioButton *>())
+            button->setChecked(button->text() == QLatin1String(into));
+        dialog->findChildren<QComboBox *>().first()->setCurrentIndex(unit);
+        const olScene::Document before = window.scene().document();
+        emit dialog->findChild<QDialogButtonBox *>()->accepted();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.scene().document() != before; }, 20000));
+        QTest::qWait(20);
+    };
+    const auto fact = [this](const char *title) {
+        const auto *panel = window.findChild<olFactsPanel *>();
+        EXPECT_TRUE(QTest::qWaitFor([panel] { return !panel->isMeasuring(); }, 10000));
+        for (const QLabel *label : panel->findChildren<QLabel *>()) {
+            if (label->text() == QLatin1String(title))
+                return static_cast<const QLabel *>(label->buddy())->text();
+        }
+        return QString();
+    };
+    written("triangle.stl", triangle);
+    written("tetrahedron.stl", tetrahedron);
+    constexpr int centimetres = 1;
+    read("tetrahedron.stl", "&Replace the scene", centimetres);
+    EXPECT_EQ(fact("Size:"), QString::fromUtf8("60 \u00d7 60 \u00d7 60 mm"));
+    EXPECT_EQ(fact("Bounding box:"), QStringLiteral("(0, 0, 0) to (60, 60, 60)"));
+    EXPECT_EQ(fact("Volume:"), QString::fromUtf8("36,000 mm\u00b3"));
+    EXPECT_EQ(fact("Area:"), QString::fromUtf8("8,517.69 mm\u00b2"));
+    EXPECT_EQ(fact("Triangles:"), QStringLiteral("4"));
+
+    window.scene().setHiddenParts({idOf(node("tetrahedron"))});
+    read("triangle.stl", "&Add to the scene", 0);
+    EXPECT_EQ(tree.topLevelItemCount(), 2);
+    EXPECT_EQ(node("tetrahedron").checkState(0), Qt::Unchecked) << "what is hidden stays so";
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("tetrahedron.stl and 1 more - ORLO"));
+    EXPECT_EQ(fact("Parts:"), QStringLiteral("2"));
+    EXPECT_TRUE(fact("Volume:").startsWith(QString::fromUtf8("36,000 mm\u00b3; 1 of the parts")));
+    node("triangle").setSelected(true);
+    EXPECT_EQ(fact("Volume:"), QStringLiteral("none: it is not closed"));
+    EXPECT_EQ(fact("Area:"), QString::fromUtf8("40.5 mm\u00b2"));
+
+    action("New Scene").trigger();
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("ORLO"));
+    const QList<QAction *> recent = window.findChild<olRecentModels *>()->actions();
+    ASSERT_EQ(recent.size(), 4) << "two models, a line and Clear";
+    EXPECT_TRUE(recent.first()->text().startsWith(QLatin1String("&1  triangle.stl")));
+    recent.first()->trigger();
+    EXPECT_TRUE(window.findChild<olImportDialog *>()) << "asks as any import";
+    QFile::remove(path(QStringLiteral("tetrahedron.stl")));
+    window.findChild<olRecentModels *>()->actions().at(1)->trigger();
+    const auto *box = window.findChild<QMessageBox *>();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->icon(), QMessageBox::Critical);
+    EXPECT_EQ(window.findChild<olRecentModels *>()->actions().size(), 3);
+}
+
+TEST_F(MainWindow, SurfacesAreMeasuredAndNotTheirTriangles)
+{
+    node("Seal").setSelected(true);
+    const auto *panel = window.findChild<olFactsPanel *>();
+    EXPECT_TRUE(QTest::qWaitFor([panel] { return !panel->isMeasuring(); }, 10000));
+    QStringList texts;
+    for (const QLabel *label : panel->findChildren<QLabel *>())
+        texts << label->text();
+    // A torus with radii of 24 and 4.
+    EXPECT_TRUE(texts.contains(QString::fromUtf8("7,579.86 mm\u00b3"))) << texts.join(QLatin1Char('|')).toStdString();
+    EXPECT_TRUE(texts.contains(QString::fromUtf8("3,789.93 mm\u00b2"))) << texts.join(QLatin1Char('|')).toStdString();
 }
 
 TEST_F(MainWindow, DevicesMoveTheCameraWhileTheyAreDeflected)

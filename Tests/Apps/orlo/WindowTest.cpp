@@ -19,8 +19,7 @@ WindowTest::WindowTest()
 {
     session.start();
     olHostState::the().animateNavCam = false;
-    window.scene().loadSample();
-    session.newScene();
+    window.openSample();
     window.resize(1200, 800);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window) || !view.error().isEmpty())

@@ -1,4 +1,5 @@
 #include "Editing/olFieldGuard.h"
+#include "Kernel/olOSGWidget.h"
 #include "Session/olPluginLoader.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
@@ -9,6 +10,17 @@
 #include <QSpinBox>
 #include <QTest>
 #include <gtest/gtest.h>
+
+namespace
+{
+
+QString told(const QLineEdit *field)
+{
+    const auto *mark = field->findChild<QAction *>(QStringLiteral("refused"));
+    return mark ? mark->toolTip() : QString();
+}
+
+} // namespace
 
 TEST(FieldGuard, WhatTheHostRefusesIsMarkedAtItsFieldUntilItIsFollowed)
 {
@@ -24,10 +36,6 @@ TEST(FieldGuard, WhatTheHostRefusesIsMarkedAtItsFieldUntilItIsFollowed)
     };
     QLineEdit *port = fieldOf("WebInterface port");
     ASSERT_NE(port, nullptr);
-    const auto told = [](const QLineEdit *field) {
-        const auto *mark = field->findChild<QAction *>(QStringLiteral("refused"));
-        return mark ? mark->toolTip() : QString();
-    };
     const QString reason = QStringLiteral("The web server does not listen on port 70000.");
     olHostState &host = olHostState::the();
     host.refuse("WebInterface port", reason);
@@ -45,4 +53,27 @@ TEST(FieldGuard, WhatTheHostRefusesIsMarkedAtItsFieldUntilItIsFollowed)
     }
     EXPECT_EQ(told(port), QString());
     host.refuse("WebInterface port", {});
+}
+
+TEST(FieldGuard, PlanesThatNoCameraHasAreMarkedAtTheFieldThatIsWrongWheneverItShowsThem)
+{
+    olPluginLoader plugin;
+    ASSERT_EQ(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
+    const auto *module = olPreferencesRegistry::the().find(QStringLiteral("Render Options"));
+    auto *nearest = module->page()->findChild<QLineEdit *>(QStringLiteral("nearPlane"));
+    auto *farthest = module->page()->findChild<QLineEdit *>(QStringLiteral("farPlane"));
+    const olFieldGuard guard(*module);
+    nearest->setText(QStringLiteral("10"));
+    farthest->setText(QStringLiteral("5"));
+    olOSGWidget::setNearFarPlaneLimit(true, 10.0f, 5.0f);
+    EXPECT_EQ(told(nearest), QString());
+    EXPECT_TRUE(told(farthest).startsWith(QStringLiteral("The clipping planes 10 and 5 are refused: ")));
+    QTest::keyClicks(farthest, QStringLiteral("0"));
+    EXPECT_EQ(told(farthest), QString());
+    farthest->setText(QStringLiteral("5"));
+    EXPECT_NE(told(farthest), QString()) << "what is still in force is shown again";
+    olOSGWidget::setNearFarPlaneLimit(true, 0.0f, 0.0f);
+    EXPECT_NE(told(nearest), QString());
+    olOSGWidget::setNearFarPlaneLimit(false, 10.0f, 5.0f);
+    EXPECT_EQ(told(nearest) + told(farthest), QString());
 }

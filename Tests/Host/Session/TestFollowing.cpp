@@ -2,13 +2,9 @@
 #include "Session/olUndo.h"
 #include "State/olValue.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 #include <QTreeWidget>
-#include <sqlite3.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <string>
 #include <vector>
@@ -24,9 +20,16 @@ protected:
 
     static olPreferencesStore::Key key(const std::string &name) { return {olHome::Record, name}; }
 
+    [[nodiscard]] Values stored()
+    {
+        const olResult<olStoreRows::Contents> contents = other.load();
+        EXPECT_EQ(contents.error(), QString());
+        return contents.isOk() ? contents->values : Values();
+    }
+
     void saveOutside(const Values &changed, const std::vector<olPreferencesStore::Key> &removed = {})
     {
-        ASSERT_EQ(other.save(changed, removed), QString());
+        ASSERT_EQ(other.save(changed, removed).error(), QString());
     }
 
     [[nodiscard]] QWidget &line() const { return *dialog->findChild<QWidget *>(QStringLiteral("outsideChanges")); }
@@ -104,8 +107,7 @@ TEST_F(Following, ASaveWritesNoOlderValueOfWhatWasNotChangedHere)
     saveOutside({{key("Studio samples"), 12}});
     module.page.mode->setCurrentIndex(1);
     ASSERT_TRUE(dialog->apply()) << "before the other one's save was seen";
-    Values values;
-    ASSERT_EQ(other.load(values), QString());
+    Values values = stored();
     EXPECT_TRUE(olValue::identical(values[key("Studio samples")], 12));
     EXPECT_TRUE(olValue::identical(values[key("Studio mode")], 1));
     session->takeOver();
@@ -121,11 +123,12 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     }
     saveOutside({{key("WebInterface white list"), std::string("secret")}, {key("Studio mode"), 1}});
     session->takeOver();
-    const olUndo undo(*session, 2);
-    ASSERT_EQ(undo.history().size(), 3u);
-    EXPECT_EQ(undo.history().back().changes.size(), 1u) << "what is confidential is not remembered";
-    EXPECT_EQ(undo.history().front().changes.front().after->value, "8");
-    ASSERT_EQ(undo.changes().size(), 2u);
+    const olResult<olUndo> undo = olUndo::of(*session, 2);
+    ASSERT_TRUE(undo.isOk());
+    ASSERT_EQ(undo->history().size(), 3u);
+    EXPECT_EQ(undo->history().back().changes.size(), 1u) << "what is confidential is not remembered";
+    EXPECT_EQ(undo->history().front().changes.front().after->value, "8");
+    ASSERT_EQ(undo->changes().size(), 2u);
 
     dialog->showHistory();
     auto *view = opened<QDialog>();
@@ -148,22 +151,18 @@ TEST_F(Following, UndoLeavesWhatChangedSinceOrIsLocked)
 {
     start(R"({"Studio title": {"locked": true}})");
     saveOutside({{key("Studio samples"), 8}, {key("Studio seed"), 3}, {key("Studio title"), QStringLiteral("x")}});
-    saveOutside({{key("Studio mode"), 1}});
+    saveOutside({{key("Studio samples"), 9}, {key("Studio mode"), 1}});
+    olUndo undo = *olUndo::of(*session, 2);
+    EXPECT_EQ(undo.changes().size(), 3u);
     saveOutside({{key("Studio samples"), 20}});
-    sqlite3 *database = nullptr;
-    sqlite3_open(QFile::encodeName(store).constData(), &database);
-    sqlite3_exec(database, "DELETE FROM history WHERE save = 3", nullptr, nullptr, nullptr);
-    sqlite3_close(database);
-    olUndo undo(*session, 2);
+    ASSERT_EQ(undo.save().error(), QString());
     ASSERT_EQ(undo.left().size(), 2u);
-    EXPECT_EQ(undo.left().front().key, "Studio samples");
-    EXPECT_EQ(undo.left().back().key, "Studio title");
-    ASSERT_EQ(undo.save(), QString());
-    Values values;
-    ASSERT_EQ(other.load(values), QString());
+    EXPECT_EQ(undo.left().front().key, "Studio title");
+    EXPECT_EQ(undo.left().back().key, "Studio samples");
+    Values values = stored();
     EXPECT_EQ(values.size(), 2u);
     EXPECT_TRUE(olValue::identical(values[key("Studio samples")], 20));
-    EXPECT_EQ(olUndo(*session, 1).changes().size(), 2u) << "what was taken back can be taken back";
+    EXPECT_EQ(olUndo::of(*session, 1)->changes().size(), 2u) << "what was taken back can be taken back";
 }
 
 TEST_F(Following, AChangedFileOfTheSiteIsTold)
@@ -177,80 +176,6 @@ TEST_F(Following, AChangedFileOfTheSiteIsTold)
     site.close();
     EXPECT_TRUE(QTest::qWaitFor([this] { return session->takeNotices().join(QString()).contains(siteFile); }, 1000));
     EXPECT_EQ(module.value<int>("Studio samples"), 4) << "it counts from the next start";
-}
-
-/// In a process of its own: a host that follows the store, and now and then saves a value of its own.
-std::string runHost(const QString &store, const std::string &own, int saves)
-{
-    olPreferencesSession session(store, {});
-    if (!session.loadStore().isOk())
-        return "cannot load";
-    int saved = 0;
-    const auto last = [] {
-        const int *value = boost::any_cast<int>(&olPreferences::getData().get("last"));
-        return value ? *value : 0;
-    };
-    QElapsedTimer timer;
-    timer.start();
-    while (saved < saves || last() == 0) {
-        session.takeOver();
-        if (saved < saves) {
-            olPreferences::getData().set(own, ++saved, true);
-            if (!session.save().isOk())
-                return "cannot save";
-        }
-        ::usleep(2000);
-        if (timer.elapsed() > 20000)
-            return own + " waits in vain";
-    }
-    session.takeOver();
-    std::string text;
-    for (const auto &[key, value] : olPreferences::getData().entries())
-        text += key + '=' + olValue::toJson(value) + '\n';
-    return text;
-}
-
-TEST_F(Following, ProgramsThatSaveAtTheSameTimeEndWithTheSameValuesAndLoseNone)
-{
-    constexpr int saves = 30;
-    const std::vector<std::string> names{"one", "two"};
-    std::vector<QString> results;
-    std::vector<pid_t> children;
-    for (const std::string &name : names) {
-        results.push_back(folder.filePath(QString::fromStdString(name)));
-        children.push_back(::fork());
-        if (children.back() == 0) {
-            const std::string text = runHost(store, name, saves);
-            QFile result(results.back());
-            result.open(QIODevice::WriteOnly);
-            result.write(text.data(), qint64(text.size()));
-            result.close();
-            ::_exit(0);
-        }
-    }
-    for (int number = 1; number <= saves; ++number)
-        saveOutside({{key("shared"), number}, {key("outside " + std::to_string(number)), number}});
-    for (const std::string &name : names) {
-        const auto isDone = [&] {
-            Values values;
-            return other.load(values).isEmpty() && olValue::identical(values[key(name)], saves);
-        };
-        ASSERT_TRUE(QTest::qWaitFor(isDone, 20000));
-    }
-    saveOutside({{key("last"), 1}});
-    for (const pid_t child : children)
-        ::waitpid(child, nullptr, 0);
-    Values values;
-    ASSERT_EQ(other.load(values), QString());
-    std::string expected;
-    for (const auto &[name, value] : values)
-        expected += name.second + '=' + olValue::toJson(value) + '\n';
-    EXPECT_EQ(values.size(), std::size_t(saves) + 4);
-    for (const QString &result : results) {
-        QFile file(result);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_EQ(file.readAll().toStdString(), expected);
-    }
 }
 
 } // namespace

@@ -195,15 +195,16 @@ TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)
     olPreferencesStore store(file);
     const olPreferencesStore::Key foreign{olHome::Record, "Someone else's"};
     const olPreferencesStore::Key foreignService{olHome::Service, "Someone else's"};
-    ASSERT_EQ(store.save({{foreign, 0.1f}, {foreignService, true}}, {}), QString());
+    ASSERT_EQ(store.save({{foreign, 0.1f}, {foreignService, true}}, {}).error(), QString());
 
     nextRun();
     session->start();
     module.page.setValue(7);
     ASSERT_EQ(session->commit(shown).error(), QString());
 
-    olPreferencesStore::Values values;
-    ASSERT_EQ(store.load(values), QString());
+    const olResult<olStoreRows::Contents> contents = store.load();
+    ASSERT_EQ(contents.error(), QString());
+    olPreferencesStore::Values values = contents->values;
     EXPECT_EQ(values.size(), 3u);
     EXPECT_TRUE(olValue::equal(values[foreign], 0.1f));
     EXPECT_TRUE(olValue::equal(values[foreignService], true));
@@ -219,9 +220,8 @@ TEST_F(Session, AFileThatIsNoStoreIsReportedAndLeftAlone)
     letter.close();
 
     olPreferencesStore store(other);
-    olPreferencesStore::Values values;
-    EXPECT_TRUE(store.load(values).contains(other));
-    EXPECT_TRUE(store.save({{{olHome::Record, "key"}, 1}}, {}).contains(other));
+    EXPECT_TRUE(store.load().error().contains(other));
+    EXPECT_TRUE(store.save({{{olHome::Record, "key"}, 1}}, {}).error().contains(other));
     ASSERT_TRUE(letter.open(QIODevice::ReadOnly));
     EXPECT_EQ(letter.readAll(), text);
 }

@@ -12,10 +12,10 @@
 #include "Utilities/olMessage.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTableWidget>
 
+#include <ctime>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -275,7 +275,7 @@ TEST_F(Site, AFileCountsOnlyWhereRootAloneCanReadAndChangeWhatItSays)
     const auto faults = [&] {
         olSiteDefaults site({name});
         site.read();
-        site.settle([](const std::string &) { return 45.0f; }, [](auto &, auto &) { return QString(); });
+        site.resolve([](const std::string &) { return 45.0f; }, [](auto &, auto &) { return QString(); });
         QStringList found = site.takeFaults();
         EXPECT_EQ(site.settings().size(), found.isEmpty() ? 1u : 0u) << found.join(' ').toStdString();
         return found.join(' ').remove("The site's preferences " + name + " are ignored: ").toStdString();
@@ -322,16 +322,19 @@ TEST_F(Site, AFileCountsOnlyWhereRootAloneCanReadAndChangeWhatItSays)
     EXPECT_EQ(none.takeFaults(), QStringList());
 }
 
-TEST_F(Site, ALargeFileIsReadAtOnce)
+TEST_F(Site, ALargeFileTakesNoLongerForEachOfItsEntries)
 {
-    QByteArray site = "{\"Camera fov\": {\"value\": 60}";
-    for (int index = 0; index < 60000; ++index)
-        site += ",\n\"Key " + QByteArray::number(index) + "\": {\"value\": 1, \"locked\": true}";
-    QElapsedTimer clock;
-    clock.start();
-    run(site + '}');
-    EXPECT_LT(clock.elapsed(), 5000);
-    EXPECT_EQ(module.page.fov, 60);
+    const auto workFor = [this](int entries) {
+        QByteArray site = "{\"Camera fov\": {\"value\": 60}";
+        for (int index = 0; index < entries; ++index)
+            site += ",\n\"Key " + QByteArray::number(index) + "\": {\"value\": 1, \"locked\": true}";
+        const std::clock_t before = std::clock();
+        run(site + '}');
+        EXPECT_EQ(module.page.fov, 60);
+        return std::clock() - before;
+    };
+    const std::clock_t few = workFor(7500);
+    EXPECT_LT(workFor(60000), few * 24) << "8 times as many entries";
 }
 
 TEST_F(Site, TheMoreImportantFileHoldsAndAFaultInItLeavesTheOther)

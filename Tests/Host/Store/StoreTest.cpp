@@ -23,6 +23,20 @@ void StoreTest::write(const QString &name, const QByteArray &bytes)
     ASSERT_EQ(written.write(bytes), bytes.size());
 }
 
+StoreTest::Opening StoreTest::opened(olPreferencesStore &store, Values &values, olStoreUse use)
+{
+    const olResult<olStoreOpening> opening = store.open(use);
+    values = opening.isOk() ? opening->values : Values();
+    return {opening.error(), opening.isOk() ? opening->notice : QString()};
+}
+
+QString StoreTest::load(olPreferencesStore store, Values &values)
+{
+    const olResult<olStoreRows::Contents> contents = store.load();
+    values = contents.isOk() ? contents->values : Values();
+    return contents.error();
+}
+
 bool StoreTest::same(const Values &left, const Values &right)
 {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(), [](const auto &one, const auto &other) {
@@ -33,11 +47,14 @@ bool StoreTest::same(const Values &left, const Values &right)
 StoreTest::Values StoreTest::stored() const
 {
     Values values;
-    EXPECT_EQ(olPreferencesStore(file).load(values), QString());
+    EXPECT_EQ(load(olPreferencesStore(file), values), QString());
     return values;
 }
 
-void StoreTest::save(const Values &changed) const { ASSERT_EQ(olPreferencesStore(file).save(changed, {}), QString()); }
+void StoreTest::save(const Values &changed) const
+{
+    ASSERT_EQ(olPreferencesStore(file).save(changed, {}).error(), QString());
+}
 
 void StoreTest::tamper(const char *sql) const
 {

@@ -21,6 +21,20 @@ protected:
 
     static Key key(const std::string &name) { return {olHome::Record, name}; }
 
+    /// What was told when a store was opened; both are empty when all is well.
+    struct Opening {
+        QString error;
+        QString notice;
+    };
+    static Opening opened(olPreferencesStore &store, Values &values, olStoreUse use = olStoreUse::Own);
+    static Opening opened(olPreferencesStore &&store, Values &values, olStoreUse use = olStoreUse::Own)
+    {
+        return opened(store, values, use);
+    }
+
+    /// Returns the error.
+    static QString load(olPreferencesStore store, Values &values);
+
     static QByteArray bytesOf(const QString &name);
     static void write(const QString &name, const QByteArray &bytes);
 

@@ -19,7 +19,7 @@ protected:
             old[key("Row " + std::to_string(row))] = std::string(std::size_t(row) * 5, 'v');
         save(old);
         Values values;
-        EXPECT_EQ(olPreferencesStore(file).open(values).error, QString());
+        EXPECT_EQ(opened(olPreferencesStore(file), values).error, QString());
         save({{key("Camera fov"), 75.0f}});
         current = stored();
         sound = bytesOf(file);
@@ -31,7 +31,7 @@ protected:
     {
         write(file, bytes);
         Values values;
-        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        const Opening opening = opened(olPreferencesStore(file), values);
         if (!opening.error.isEmpty()) {
             ++refused;
             ASSERT_EQ(bytesOf(file), bytes) << what;
@@ -50,7 +50,7 @@ protected:
         }
         // Where the file went on being used, it can be.
         if (opening.error.isEmpty() && (harmless + mended) % 50 == 0) {
-            ASSERT_EQ(olPreferencesStore(file).save({{key("Camera fov"), 80.0f}}, {}), QString()) << what;
+            ASSERT_EQ(olPreferencesStore(file).save({{key("Camera fov"), 80.0f}}, {}).error(), QString()) << what;
             ASSERT_TRUE(olValue::identical(stored()[key("Camera fov")], 80.0f)) << what;
         }
         write(file + ".last-good", copy);
@@ -90,7 +90,7 @@ TEST_F(StoreDamage, EveryTruncationIsNoticed)
         }
         write(file, bytes);
         Values values;
-        const olStoreOpening opening = olPreferencesStore(file).lookAt(values);
+        const Opening opening = opened(olPreferencesStore(file), values, olStoreUse::LookAt);
         ASSERT_EQ(opening.error, QString()) << size;
         ASSERT_FALSE(opening.notice.isEmpty()) << size;
         ASSERT_TRUE(same(values, old)) << size;
@@ -110,7 +110,7 @@ TEST_F(StoreDamage, RowsThatWereChangedOrTakenAwayOutsideAreNoticed)
         write(file, sound);
         tamper(sql);
         Values values;
-        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        const Opening opening = opened(olPreferencesStore(file), values);
         EXPECT_NE(opening.notice, QString()) << sql;
         EXPECT_TRUE(same(values, old)) << sql;
     }
@@ -121,8 +121,8 @@ TEST_F(StoreDamage, EachIsToldOnceAndKeptInAFileOfItsOwn)
     for (int round = 0; round < 3; ++round) {
         write(file, sound.left(5000 + round));
         Values values;
-        EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
-        EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+        EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
+        EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
         EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
     }
     EXPECT_EQ(setAside().size(), 3);
@@ -136,7 +136,7 @@ TEST_F(StoreDamage, WithoutASoundCopyAllIsAtItsDefault)
         if (!isThere)
             QFile::remove(file + ".last-good");
         Values values;
-        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        const Opening opening = opened(olPreferencesStore(file), values);
         EXPECT_TRUE(values.empty());
         EXPECT_TRUE(opening.notice.contains("default")) << opening.notice.toStdString();
         save({{key("again"), 1}});
@@ -152,7 +152,7 @@ TEST_F(StoreDamage, AJournalGoesWithTheFileItBelongsTo)
         write(file, sound.left(5000));
         write(file + journal, "no journal");
         Values values;
-        EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+        EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
         EXPECT_TRUE(same(values, old));
         ASSERT_EQ(setAside().size(), 1);
         EXPECT_EQ(bytesOf(folder.filePath(setAside().first() + journal)), "no journal");
@@ -172,7 +172,7 @@ TEST_F(StoreDamage, AJournalThatWasCutGivesNoMixtureOfOldAndNew)
         write(file, half);
         write(file + "-journal", journal.left(size));
         Values values;
-        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        const Opening opening = opened(olPreferencesStore(file), values);
         ASSERT_EQ(opening.error, QString()) << size;
         ASSERT_TRUE(same(values, opening.notice.isEmpty() ? current : old)) << size;
         if (!opening.notice.isEmpty()) {
@@ -192,7 +192,7 @@ TEST_F(StoreDamage, WhatOthersAddToFindOrCountRowsIsNone)
 {
     tamper("CREATE INDEX byValue ON setting (value); CREATE VIEW paths AS SELECT * FROM setting; ANALYZE");
     Values values;
-    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
     EXPECT_TRUE(same(values, current));
     save({{key("Camera fov"), 80.0f}});
     EXPECT_TRUE(olValue::identical(stored()[key("Camera fov")], 80.0f));
@@ -204,7 +204,7 @@ TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
     write(file + ".last-good", copy.left(5000));
     EXPECT_EQ(olPreferencesStore(file).check().size(), 1);
     Values values;
-    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
     EXPECT_TRUE(same(values, current));
     EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
 }
@@ -213,10 +213,10 @@ TEST_F(StoreDamage, ASaveOnADamagedFileIsRefusedAndPutsNoSealOnIt)
 {
     tamper("DELETE FROM setting WHERE key = 'Row 7'");
     olPreferencesStore store(file);
-    EXPECT_TRUE(store.save({{key("new"), 1}}, {}).contains(file));
+    EXPECT_TRUE(store.save({{key("new"), 1}}, {}).error().contains(file));
     EXPECT_TRUE(store.isBroken());
     Values values;
-    EXPECT_NE(store.open(values).notice, QString());
+    EXPECT_NE(opened(store, values).notice, QString());
 }
 
 TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
@@ -225,14 +225,14 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
     Values values;
     const auto saveFov = [&](float fov) {
         current[key("Camera fov")] = fov;
-        return store.save({{key("Camera fov"), fov}}, {});
+        return store.save({{key("Camera fov"), fov}}, {}).error();
     };
-    ASSERT_EQ(store.open(values).notice, QString());
+    ASSERT_EQ(opened(store, values).notice, QString());
     ASSERT_EQ(saveFov(61), QString());
     EXPECT_TRUE(same(stored(), current));
 
     write(file, sound.left(5000));
-    ASSERT_NE(olPreferencesStore(file).open(values).notice, QString()) << "another program mends it";
+    ASSERT_NE(opened(olPreferencesStore(file), values).notice, QString()) << "another program mends it";
     EXPECT_EQ(saveFov(62), QString());
     EXPECT_TRUE(same(stored(), current)) << "saved into the new file";
 
@@ -246,7 +246,7 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
     tamper("DELETE FROM setting WHERE key = 'Row 8'");
     EXPECT_TRUE(saveFov(66).contains("are missing"));
     EXPECT_TRUE(store.isBroken());
-    ASSERT_NE(store.open(values).notice, QString());
+    ASSERT_NE(opened(store, values).notice, QString());
     ASSERT_EQ(saveFov(67), QString());
 
     ASSERT_EQ(saveFov(68), QString());
@@ -256,7 +256,7 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
     EXPECT_TRUE(saveFov(69).contains(file)) << "damaged behind the database's back";
     EXPECT_TRUE(store.isBroken());
 
-    ASSERT_NE(store.open(values).notice, QString());
+    ASSERT_NE(opened(store, values).notice, QString());
     ASSERT_EQ(saveFov(70), QString());
     QFile::remove(file);
     EXPECT_TRUE(saveFov(71).contains("gone"));
@@ -267,11 +267,11 @@ TEST_F(StoreDamage, WhoDeletesTheStoreBeginsAnewForGood)
 {
     QFile::remove(file);
     Values values;
-    EXPECT_EQ(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
     EXPECT_TRUE(values.empty());
     save({{key("new"), 1}});
     write(file, bytesOf(file).left(4000));
-    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
     EXPECT_TRUE(values.empty()) << "the old copy does not come back";
 }
 
@@ -281,9 +281,9 @@ TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
     const QByteArray newer = bytesOf(file);
     olPreferencesStore store(file);
     Values values;
-    const QString error = store.open(values).error;
+    const QString error = opened(store, values).error;
     EXPECT_TRUE(error.contains("newer") && error.contains("move it away") && error.contains(".last-good"));
-    EXPECT_TRUE(store.save({{key("a"), 1}}, {}).contains("newer"));
+    EXPECT_TRUE(store.save({{key("a"), 1}}, {}).error().contains("newer"));
     EXPECT_FALSE(store.isBroken());
     EXPECT_TRUE(values.empty());
     EXPECT_EQ(bytesOf(file), newer);
@@ -300,8 +300,8 @@ TEST_F(StoreDamage, FilesThatNeverWereStoresAreLeftWhereTheyAre)
     for (const QByteArray &bytes : {database, QByteArray("Dear reader, "), QByteArray(20000, '\0')}) {
         write(other, bytes);
         Values values;
-        EXPECT_TRUE(olPreferencesStore(other).open(values).error.contains(other));
-        EXPECT_TRUE(olPreferencesStore(other).save({{key("a"), 1}}, {}).contains(other));
+        EXPECT_TRUE(opened(olPreferencesStore(other), values).error.contains(other));
+        EXPECT_TRUE(olPreferencesStore(other).save({{key("a"), 1}}, {}).error().contains(other));
         EXPECT_EQ(bytesOf(other), bytes);
     }
 }

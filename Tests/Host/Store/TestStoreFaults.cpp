@@ -60,7 +60,7 @@ protected:
     [[nodiscard]] bool holds(const Values &expected) const
     {
         Values values;
-        return olPreferencesStore(file).load(values).isEmpty() && same(values, expected);
+        return load(olPreferencesStore(file), values).isEmpty() && same(values, expected);
     }
 
     /// The exit statuses of several processes that do this at the same time.
@@ -101,7 +101,7 @@ TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
         if (child == 0) {
             olPreferencesStore store(file);
             for (int number = last + 1;; ++number) {
-                if (!store.save(generation(number), {}).isEmpty())
+                if (!store.save(generation(number), {}).isOk())
                     ::_exit(1);
                 saved->store(number);
             }
@@ -113,7 +113,7 @@ TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
         ASSERT_TRUE(WIFSIGNALED(status)) << "a save failed";
 
         Values values;
-        const olStoreOpening opening = olPreferencesStore(file).open(values);
+        const Opening opening = opened(olPreferencesStore(file), values);
         ASSERT_EQ(opening.error, QString());
         ASSERT_EQ(opening.notice, QString());
         const int found = generationOf(values);
@@ -122,7 +122,7 @@ TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
         QElapsedTimer timer;
         timer.start();
         last = found + 1;
-        ASSERT_EQ(olPreferencesStore(file).save(generation(last), {}), QString());
+        ASSERT_EQ(olPreferencesStore(file).save(generation(last), {}).error(), QString());
         ASSERT_LT(timer.elapsed(), 1500);
     }
     EXPECT_GT(last, 150);
@@ -139,14 +139,14 @@ TEST_F(StoreFaults, AFullDiskIsReportedAndTakesNothingAway)
         if (::mount("tmpfs", QFile::encodeName(folder.path()).constData(), "tmpfs", 0, "size=256k") != 0)
             return "skip";
         olPreferencesStore store(file);
-        if (!store.save({{key("a"), 2}}, {}).isEmpty())
+        if (!store.save({{key("a"), 2}}, {}).isOk())
             return "not even a small store can be saved";
-        const std::string message = faultIn(store.save(large(), {}), "no space left on the device");
+        const std::string message = faultIn(store.save(large(), {}).error(), "no space left on the device");
         if (!message.empty())
             return message;
         if (!holds({{key("a"), 2}}))
             return "the earlier values are gone";
-        if (!store.save({{key("b"), 3}}, {}).isEmpty())
+        if (!store.save({{key("b"), 3}}, {}).isOk())
             return "a smaller save does not work afterwards";
         return holds({{key("a"), 2}, {key("b"), 3}}) ? "" : "the later save did not arrive";
     });
@@ -163,9 +163,12 @@ TEST_F(StoreFaults, WhoOnlyReadsLeavesTheDiskAsItIs)
     const auto before = disk();
     olPreferencesStore store(file);
     for (const auto &read : std::initializer_list<std::function<QString(Values &)>>{
-             [&](Values &found) { return store.load(found); },
-             [&](Values &found) { return store.lookAt(found).error + store.lookAt(found).notice; },
-             [&](Values &found) { return store.load(found) + store.check().join(QChar()); }}) {
+             [&](Values &found) { return load(store, found); },
+             [&](Values &found) {
+                 return opened(store, found, olStoreUse::LookAt).error +
+                        opened(store, found, olStoreUse::LookAt).notice;
+             },
+             [&](Values &found) { return load(store, found) + store.check().join(QChar()); }}) {
         Values found;
         EXPECT_EQ(read(found), QString());
         EXPECT_TRUE(same(found, values));
@@ -215,11 +218,11 @@ TEST_F(StoreFaults, AStoreBehindALinkIsTheLinksTarget)
     ASSERT_TRUE(QFile::link(target, file));
     save({{key("a"), 1}});
     Values values;
-    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
     EXPECT_TRUE(QFileInfo(file).isSymLink());
     EXPECT_TRUE(QFile::exists(target) && QFile::exists(target + ".last-good"));
     write(target, bytesOf(target).left(5000));
-    EXPECT_NE(olPreferencesStore(file).open(values).notice, QString());
+    EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
     EXPECT_TRUE(QFileInfo(file).isSymLink());
     EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
 }
@@ -239,7 +242,7 @@ TEST_F(StoreFaults, FilesAreForTheirOwnerAloneAndCopiesAsTheirOriginals)
     EXPECT_EQ(modeOf(folder.filePath(QStringLiteral("deep/er"))), 0700);
     ::chmod(QFile::encodeName(file).constData(), 0640);
     Values values;
-    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
     EXPECT_EQ(modeOf(file + ".last-good"), 0640);
     ::umask(mask);
 }
@@ -271,7 +274,7 @@ TEST_F(StoreFaults, WhereLocksAreRefusedItCanBeReadAndSaysSoOnSaving)
                       olPreferencesStore store(file);
                       if (!holds(values))
                           return "cannot be read";
-                      return faultIn(store.save({{key("a"), 2}}, {}), "refuses locks");
+                      return faultIn(store.save({{key("a"), 2}}, {}).error(), "refuses locks");
                   }),
                   "");
         EXPECT_EQ(disk(), before);
@@ -291,7 +294,7 @@ TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
     for (const auto &[fileMode, folderMode] : {std::pair<mode_t, mode_t>{0444, 0777}, {0666, 0555}}) {
         save({{key("a"), 1}});
         Values values;
-        ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+        ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
         ::chmod(QFile::encodeName(file).constData(), fileMode);
         ::chmod(path.constData(), folderMode);
         EXPECT_EQ(inChildProcess([&]() -> std::string {
@@ -299,10 +302,10 @@ TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
                           return fault;
                       olPreferencesStore store(file);
                       Values read;
-                      const olStoreOpening opening = store.open(read);
+                      const Opening opening = opened(store, read);
                       if (!opening.error.isEmpty() || !opening.notice.isEmpty() || !same(read, {{key("a"), 1}}))
                           return "cannot be read: " + (opening.error + opening.notice).toStdString();
-                      return faultIn(store.save({{key("a"), 2}}, {}), "read-only");
+                      return faultIn(store.save({{key("a"), 2}}, {}).error(), "read-only");
                   }),
                   "")
             << std::oct << fileMode << ' ' << folderMode;
@@ -323,7 +326,7 @@ TEST_F(StoreFaults, AJournalOfSomebodyElseIsToldByItsName)
                   if (const std::string fault = becomeNobody(); !fault.empty())
                       return fault;
                   Values read;
-                  const QString error = olPreferencesStore(file).load(read);
+                  const QString error = load(olPreferencesStore(file), read);
                   return error.contains(file + "-journal cannot be read") ? "" : error.toStdString();
               }),
               "");
@@ -333,7 +336,7 @@ TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
 {
     save({{key("a"), 1}});
     Values values;
-    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
     const QByteArray damaged = bytesOf(file).left(5000);
     write(file, damaged);
     for (const QString &name : {file, file + ".last-good"})
@@ -343,7 +346,7 @@ TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
                   if (const std::string fault = becomeNobody(); !fault.empty())
                       return fault;
                   Values read;
-                  const olStoreOpening opening = olPreferencesStore(file).open(read);
+                  const Opening opening = opened(olPreferencesStore(file), read);
                   return opening.notice.contains("could not be set aside") && same(read, {{key("a"), 1}})
                              ? ""
                              : (opening.error + '|' + opening.notice).toStdString();
@@ -362,7 +365,7 @@ TEST_F(StoreFaults, ProgramsThatSaveDifferentSettingsAllKeepTheirs)
         const std::string name = "program " + std::to_string(program) + ' ';
         for (int number = 1; number <= saves; ++number) {
             const Values mine{{key(name), number}, {key(name + std::to_string(number)), number}};
-            failed += store.save(mine, {}).isEmpty() ? 0 : 1;
+            failed += store.save(mine, {}).isOk() ? 0 : 1;
         }
         return failed;
     });
@@ -376,12 +379,12 @@ TEST_F(StoreFaults, ProgramsThatStartOnADamagedStoreMendItOnce)
 {
     save({{key("a"), 1}});
     Values values;
-    ASSERT_EQ(olPreferencesStore(file).open(values).error, QString());
+    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
     for (int round = 0; round < 20; ++round) {
         write(file, bytesOf(file).left(5000));
         const auto told = atOnce(3, [this](int) {
             Values read;
-            const olStoreOpening opening = olPreferencesStore(file).open(read);
+            const Opening opening = opened(olPreferencesStore(file), read);
             const bool isRead = opening.error.isEmpty() && same(read, {{key("a"), 1}});
             return isRead ? int(!opening.notice.isEmpty()) : 9;
         });
@@ -399,14 +402,14 @@ TEST_F(StoreFaults, ABusyStoreIsWaitedForBrieflyAndThenReported)
     QElapsedTimer timer;
     timer.start();
     olPreferencesStore store(file);
-    EXPECT_EQ(faultIn(store.save({{key("a"), 2}}, {}), "busy"), "");
+    EXPECT_EQ(faultIn(store.save({{key("a"), 2}}, {}).error(), "busy"), "");
     EXPECT_GT(timer.elapsed(), 1000);
     EXPECT_LT(timer.elapsed(), 6000);
     Values values;
-    EXPECT_EQ(store.open(values).error, QString()) << "who reads need not wait for who writes";
+    EXPECT_EQ(opened(store, values).error, QString()) << "who reads need not wait for who writes";
     sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
     sqlite3_close(other);
-    EXPECT_EQ(store.save({{key("a"), 2}}, {}), QString());
+    EXPECT_EQ(store.save({{key("a"), 2}}, {}).error(), QString());
 }
 
 } // namespace

@@ -143,13 +143,13 @@ TEST_F(StoreValues, TheHistoryTellsWhatTheLastFiveHundredSavesChanged)
     constexpr int saves = 503;
     for (int number = 1; number <= saves; ++number)
         save({{key("a"), number}});
-    olStoreRows::History history;
-    olStoreRows::Rows rows;
-    ASSERT_EQ(olPreferencesStore(file).readHistory(history, rows), QString());
+    const olResult<olStoreRows::Contents> contents = olPreferencesStore(file).load();
+    ASSERT_EQ(contents.error(), QString());
+    const olStoreRows::History &history = contents->history;
     ASSERT_EQ(history.size(), 500u);
     EXPECT_EQ(history.front().changes.front().before->value, "3");
     EXPECT_EQ(history.back().changes.front().before->value, "502");
-    EXPECT_EQ(history.back().changes.front().after, rows.begin()->second);
+    EXPECT_EQ(history.back().changes.front().after->value, "503");
 }
 
 TEST_F(StoreValues, ASaveWithNothingToDoTouchesNothing)

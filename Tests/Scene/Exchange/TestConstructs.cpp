@@ -87,6 +87,10 @@ const QVector<Sound> &soundFiles()
               "ROUTE C.fraction_changed TO I.set_fraction ROUTE I.value_changed TO T.set_translation"),
          12, 1},
         {"scale.wrl", vrml("Transform { scale 2 -3 1 children [ " + shape + " ] }"), 12, 3},
+        {"field.wrl",
+         vrml("Group { children [ Viewpoint { centerOfRotation 0 -1 0 viewAll TRUE position 0 0 9 } " + shape +
+              " ] other [ 1 2 \"]\" ] }"),
+         12, 1, "No Viewpoint has the field centerOfRotation"},
         {"grid.wrl", vrml("Shape { geometry ElevationGrid { xDimension 2 zDimension 2 height [0 0 0 0] } }"), 2, 1},
         {"extrusion.wrl",
          vrml("Shape { geometry Extrusion { crossSection [0 0, 1 0, 1 1, 0 1, 0 0] spine [0 0 0, 0 1 "

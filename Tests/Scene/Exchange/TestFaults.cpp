@@ -1,5 +1,7 @@
 #include "Scene/Exchange/ImportTest.h"
 
+#include <TDocStd_Document.hxx>
+
 #include <QFile>
 
 #include <unistd.h>
@@ -142,6 +144,18 @@ TEST_F(Fault, NoFormatIsReadFromEmptyForeignCutHugeOrLockedFiles)
             EXPECT_TRUE(faultOf(file.fileName()).contains(QStringLiteral("too large")));
         }
     }
+}
+
+TEST_F(Fault, FacesThatCannotBeUnderstoodAreCounted)
+{
+    // One plane lies nowhere.
+    QByteArray step = contentOf(exported(QStringLiteral("whole.step")));
+    const int place = step.indexOf("PLANE('',#") + 9;
+    step.replace(place, step.indexOf(')', place) - place, "$");
+    const olImportResult result = olImport(olImportJob::of(written(QStringLiteral("face.step"), step)));
+    ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
+    EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("1 of its faces cannot be understood")))
+        << qPrintable(result.remarks.join(QLatin1Char(' ')));
 }
 
 TEST_F(Fault, OtherSuffixesHaveNoReaderAndTheMessageSaysWhichHave)

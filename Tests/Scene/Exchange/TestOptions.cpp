@@ -231,7 +231,12 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
     meshes.options.importSurfaces = false;
     EXPECT_EQ(Outline(imported(meshes)).triangles, 2u);
     meshes.options.importMeshes = false;
-    EXPECT_TRUE(olImport(meshes).error.contains(QStringLiteral("leave nothing")));
+    EXPECT_TRUE(olImport(meshes).error.contains(QStringLiteral("leave nothing of it (no meshes are imported)")));
+    kinds.options.importSurfaces = true;
+    kinds.options.importInvisibleSurfaces = kinds.options.importInvisibleCurves = kinds.options.importCurves = false;
+    Model hidden;
+    hidden.hide(hidden.part("Hidden box", box(20)));
+    EXPECT_TRUE(olImport(job("hidden.step", hidden)).error.contains(QStringLiteral("(no invisible surfaces are")));
 }
 
 TEST_F(ImportOption, HiddenInstancesComeInHiddenOrNotAtAll)
@@ -378,6 +383,30 @@ TEST_F(ImportOption, TheModelIsMovedToTheOriginAndTheGround)
         const Outline centred(imported(moved));
         EXPECT_NEAR(centred.low[2], -centred.high[2], near);
         EXPECT_NEAR(centred.low[0], -centred.high[0], near);
+    }
+}
+
+TEST_F(ImportOption, UnitAndUpCountWhereTheFormatDoesNotSayThem)
+{
+    constexpr double inch = 25.4;
+    for (const char *name : {"s.stl", "s.obj", "s.wrl", "s.step", "s.glb"}) {
+        SCOPED_TRACE(name);
+        olImportJob job = olImportJob::of(exported(QLatin1String(name)));
+        const Outline asItIs(imported(job));
+        job.unit = inch;
+        job.isYUp = true;
+        const Outline meant(imported(job));
+        const bool isOpen = QByteArray(name) != "s.step" && QByteArray(name) != "s.glb";
+        EXPECT_EQ(meant.triangles, asItIs.triangles);
+        EXPECT_EQ(meant.parts, asItIs.parts);
+        EXPECT_EQ(meant.colours, asItIs.colours);
+        const double factor = isOpen ? inch : 1.0;
+        const double tolerance = 0.2 * factor;
+        EXPECT_NEAR(meant.low[0], asItIs.low[0] * factor, tolerance);
+        EXPECT_NEAR(meant.high[0], asItIs.high[0] * factor, tolerance);
+        // What went up in the file goes up: y becomes z, and z what comes towards us.
+        EXPECT_NEAR(meant.high[2], asItIs.high[isOpen ? 1 : 2] * factor, tolerance);
+        EXPECT_NEAR(meant.low[1], isOpen ? -asItIs.high[2] * factor : asItIs.low[1], tolerance);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "Exchange/olDocumentContent.h"
 #include "Exchange/olExportScene.h"
+#include "Exchange/olFileNames.h"
 #include "Exchange/olMeshTree.h"
 #include "Exchange/olModelFormat.h"
 #include "Model/olTriangles.h"
@@ -24,7 +25,10 @@
 #include <XCAFDoc_VisMaterialTool.hxx>
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
+
+#include <unistd.h>
 
 namespace
 {
@@ -280,6 +284,39 @@ TEST_F(RoundTrip, NamesColoursAndOpacityComeBack)
     const Outline vrml(imported(olImportJob::of(exported(QStringLiteral("s.wrl")))));
     EXPECT_TRUE(vrml.colours.contains(QStringLiteral("Cover 0.55 0.85 0.95 0.35")));
     EXPECT_TRUE(vrml.names.contains(QStringLiteral("Ball_3")));
+}
+
+TEST_F(RoundTrip, NamesOfFilesKeepTheirBytes)
+{
+    olKeepFileNames();
+    const QString folder = path(QFile::decodeName("M\xe4rz"));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_EQ(access((QFile::encodeName(path(QStringLiteral("."))) + "/M\xe4rz").constData(), F_OK), 0);
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(folder + QFile::decodeName("/\xf6.png")));
+    QFile materials(folder + QFile::decodeName("/\xf6.mtl"));
+    ASSERT_TRUE(materials.open(QIODevice::WriteOnly));
+    materials.write("newmtl m\nmap_Kd \xf6.png\n");
+    materials.close();
+    QFile model(folder + QFile::decodeName("/\xf6 \xc3\xb6.obj"));
+    ASSERT_TRUE(model.open(QIODevice::WriteOnly));
+    model.write("mtllib \xf6.mtl\nusemtl m\nvt 0 0\nvt 1 0\nvt 1 1\nv 0 0 0\nv 1 0 0\nv 1 1 0\nf 1/1 2/2 3/3\n");
+    model.close();
+    const olScene::Document document = imported(olImportJob::of(model.fileName()));
+    EXPECT_EQ(textures(document), 1);
+    for (const char *suffix : {"obj", "gltf", "glb", "wrl", "stl", "step", "igs"}) {
+        SCOPED_TRACE(suffix);
+        const bool isOfSurfaces = qstrcmp(suffix, "step") == 0 || qstrcmp(suffix, "igs") == 0;
+        const QString file = folder + QFile::decodeName("/\xfc.") + QLatin1String(suffix);
+        EXPECT_EQ(olExportScene(isOfSurfaces ? m_scene.document() : document, file).error, QString());
+        EXPECT_EQ(access(QFile::encodeName(file).constData(), F_OK), 0);
+        const olImportResult result = olImport(olImportJob::of(file));
+        ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
+        if (!isOfSurfaces && qstrcmp(suffix, "stl") != 0) {
+            EXPECT_EQ(textures(result.document), 1) << qPrintable(result.remarks.join(QLatin1Char(' ')));
+        }
+    }
 }
 
 TEST_F(RoundTrip, TheHostSaysWhetherStlIsTextOrBinary)

@@ -7,8 +7,11 @@
 
 #include <BRepMesh_IncrementalMesh.hxx>
 #include <BRepPrimAPI_MakeBox.hxx>
+#include <BRep_Builder.hxx>
+#include <Poly_Triangulation.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TDocStd_Document.hxx>
+#include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
@@ -17,6 +20,7 @@
 #include <QCursor>
 
 #include <array>
+#include <cmath>
 #include <set>
 #include <string>
 
@@ -40,6 +44,29 @@ olScene::Document redPaneBeforeGreenOne()
         colors->SetColor(label, Quantity_ColorRGBA(front ? 1.0f : 0.0f, front ? 0.0f : 1.0f, 0.0f, 0.6f),
                          XCAFDoc_ColorSurf);
     }
+    return document;
+}
+
+/// A sheet with waves, of triangles alone.
+olScene::Document largeMesh()
+{
+    constexpr int side = 700;
+    const Handle(Poly_Triangulation) mesh =
+        new Poly_Triangulation(side * side, 2 * (side - 1) * (side - 1), Standard_False);
+    for (int node = 0; node < side * side; ++node) {
+        const int x = node % side;
+        const int y = node / side;
+        mesh->SetNode(node + 1, gp_Pnt(x, y, 20 * std::sin(x / 30.0) * std::cos(y / 30.0)));
+    }
+    for (int square = 0; square < (side - 1) * (side - 1); ++square) {
+        const int corner = square / (side - 1) * side + square % (side - 1) + 1;
+        mesh->SetTriangle(2 * square + 1, Poly_Triangle(corner, corner + 1, corner + side + 1));
+        mesh->SetTriangle(2 * square + 2, Poly_Triangle(corner, corner + side + 1, corner + side));
+    }
+    TopoDS_Face face;
+    BRep_Builder().MakeFace(face, mesh);
+    const olScene::Document document = olScene::newDocument();
+    XCAFDoc_DocumentTool::ShapeTool(document->Main())->AddShape(face, Standard_False);
     return document;
 }
 
@@ -177,6 +204,25 @@ TEST_F(PictureQuality, ACameraOnItsWayMayBeDrawnFaster)
     EXPECT_LT(distance(traced, view.picture()), 0.05) << "at rest it is as fine as before";
     view.setRaytracing(false);
     EXPECT_LT(distance(fine, sampled(8)), 0.05);
+}
+
+TEST_F(PictureQuality, ALargeMeshHasFewerTrianglesWhileTheCameraMoves)
+{
+    scene.setDocument(largeMesh());
+    const QPoint middle(width / 2, height / 2);
+    const QPoint goal = middle + QPoint(20, 5);
+    press(middle, goal);
+    // Once it is known how long it takes.
+    settle();
+    press(middle, goal + QPoint(5, 5));
+    settle();
+    const QImage moving = view.shownPicture();
+    const double missing = distance(moving, view.picture());
+    EXPECT_GT(missing, 0.01);
+    EXPECT_LT(missing, 5.0) << "it still looks much the same";
+    release(goal + QPoint(5, 5));
+    settle();
+    EXPECT_LT(distance(view.shownPicture(), view.picture()), 0.005) << "at rest it is all there";
 }
 
 TEST_F(PictureQuality, WithoutSleepTheViewDrawsAllTheTime)

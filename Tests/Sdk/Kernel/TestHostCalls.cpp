@@ -7,9 +7,11 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -101,19 +103,30 @@ TEST(HostCalls, PlanesThatNoCameraHasAreRefusedAloud)
     const olHostState &state = olHostState::the();
     LoggedErrors log;
     olOSGWidget::setNearFarPlaneLimit(true, 2.0f, 50.0f);
-    for (const auto &[nearest, farthest] : {std::pair{0.0f, 0.0f}, std::pair{-1.0f, 5.0f}, std::pair{9.0f, 9.0f}}) {
+    const std::tuple<float, float, bool, bool> refused[] = {
+        {0.0f, 0.0f, true, true}, {-1.0f, 5.0f, true, false}, {9.0f, 9.0f, false, true}, {-5.0f, -1.0f, true, true}};
+    for (const auto &[nearest, farthest, isAtNear, isAtFar] : refused) {
         log.errors.clear();
         olOSGWidget::setNearFarPlaneLimit(true, nearest, farthest);
-        EXPECT_EQ(log.errors.size(), 1);
-        EXPECT_FALSE(state.limitNearFarPlane);
+        ASSERT_EQ(log.errors.size(), 1);
+        const std::map<std::string, QString> &told = state.refusals;
+        EXPECT_EQ(told.count("RenderOptions near plane"), std::size_t(isAtNear));
+        EXPECT_EQ(told.count("RenderOptions far plane"), std::size_t(isAtFar));
+        EXPECT_EQ(told.begin()->second, log.errors.first());
+        EXPECT_TRUE(state.limitNearFarPlane) << "what was in force stays";
         EXPECT_EQ(state.nearPlane, 2.0f);
         EXPECT_EQ(state.farPlane, 50.0f);
     }
     log.errors.clear();
     olOSGWidget::setNearFarPlaneLimit(false, 0.0f, 0.0f);
     EXPECT_EQ(log.errors, QStringList()) << "without a limit they do not count";
+    EXPECT_TRUE(state.refusals.get().empty());
+    EXPECT_FALSE(state.limitNearFarPlane);
+    olOSGWidget::setNearFarPlaneLimit(true, 0.0f, 50.0f);
+    EXPECT_FALSE(state.limitNearFarPlane) << "a limit that cannot be does not begin";
     olOSGWidget::setNearFarPlaneLimit(true, 2.0f, 50.0f);
     EXPECT_TRUE(state.limitNearFarPlane);
+    EXPECT_TRUE(state.refusals.get().empty());
 }
 
 } // namespace

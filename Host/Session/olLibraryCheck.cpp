@@ -1,8 +1,7 @@
-#include "Session/olLibraryFault.h"
+#include "Session/olLibraryCheck.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QString>
 
 #include <cstdint>
 #include <cstring>
@@ -16,7 +15,7 @@ using Header = ElfW(Ehdr);
 using Segment = ElfW(Phdr);
 
 struct Words {
-    Q_DECLARE_TR_FUNCTIONS(olLibraryFault)
+    Q_DECLARE_TR_FUNCTIONS(olLibraryCheck)
 };
 
 template <class T> bool read(QFile &file, std::uint64_t position, T &structure)
@@ -46,16 +45,18 @@ bool isWhole(QFile &file, const Header &header)
 
 } // namespace
 
-QString olLibraryFault(const QString &name)
+olResult<> olCheckLibrary(const QString &name)
 {
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return olFailure{file.errorString()};
     Header header;
     if (!read(file, 0, header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
-        return Words::tr("it is no library");
+        return olFailure{Words::tr("it is no library")};
     // Of another kind of machine: that the loader tells best itself.
     const bool isOurs = header.e_ident[EI_CLASS] == (sizeof(void *) == 8 ? ELFCLASS64 : ELFCLASS32) &&
                         header.e_phentsize == sizeof(Segment);
-    return !isOurs || isWhole(file, header) ? QString() : Words::tr("its end is missing");
+    if (isOurs && !isWhole(file, header))
+        return olFailure{Words::tr("its end is missing")};
+    return {};
 }

@@ -1,0 +1,159 @@
+"""Models read and drawn by the viewer and by others that are installed, each in a process of its own."""
+
+import math
+import os
+import shutil
+import statistics
+import struct
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+REPETITIONS = 5
+SIZE = "1280x720"
+
+
+def write_stl(file, triangles):
+    """A ring with bumps."""
+    around = int(math.sqrt(triangles / 2))
+
+    def point(i, j):
+        u, v = (2 * math.pi * (index % around) / around for index in (i, j))
+        tube = 10 + 0.6 * math.sin(9 * u) * math.sin(7 * v)
+        return (30 + tube * math.cos(v)) * math.cos(u), (30 + tube * math.cos(v)) * math.sin(u), tube * math.sin(v)
+
+    pack = struct.Struct("<12fH").pack
+    rows = [[point(i, j) for j in range(around + 1)] for i in range(around + 1)]
+    with file.open("wb") as out:
+        out.write(bytes(80) + struct.pack("<I", 2 * around * around))
+        for row, following in zip(rows, rows[1:]):
+            for j in range(around):
+                a, b, c, d = row[j], following[j], following[j + 1], row[j + 1]
+                out.write(pack(0, 0, 0, *a, *b, *c, 0) + pack(0, 0, 0, *a, *c, *d, 0))
+
+
+class Step:
+    """A part 21 file of as many round bars as wanted, side by side."""
+
+    def __init__(self):
+        self.lines = []
+
+    def add(self, text):
+        self.lines.append(f"#{len(self.lines) + 1}={text};")
+        return f"#{len(self.lines)}"
+
+    def point(self, x, y, z):
+        return self.add(f"CARTESIAN_POINT('',({x:.4f},{y:.4f},{z:.4f}))")
+
+    def axes(self, x, y, z, up=1):
+        return self.add(f"AXIS2_PLACEMENT_3D('',{self.point(x, y, z)},{self.add(f'''DIRECTION('',(0.,0.,{up}.))''')},"
+                        f"{self.add('''DIRECTION('',(1.,0.,0.))''')})")
+
+    def bar(self, x, y, radius=4.0, height=30.0):
+        ends = [self.add(f"VERTEX_POINT('',{self.point(x + radius, y, z)})") for z in (0, height)]
+        rims = [self.add(f"EDGE_CURVE('',{end},{end},{self.add(f'''CIRCLE('',{self.axes(x, y, z)},{radius})''')},.T.)")
+                for end, z in zip(ends, (0, height))]
+        along = self.add(f"VECTOR('',{self.add('''DIRECTION('',(0.,0.,1.))''')},1.)")
+        line = self.add(f"LINE('',{self.point(x + radius, y, 0)},{along})")
+        seam = self.add(f"EDGE_CURVE('',{ends[0]},{ends[1]},{line},.T.)")
+
+        def face(surface, edges, sense):
+            used = ",".join(self.add(f"ORIENTED_EDGE('',*,*,{edge},.{way}.)") for edge, way in edges)
+            bound = self.add(f"FACE_OUTER_BOUND('',{self.add(f'''EDGE_LOOP('',({used}))''')},.T.)")
+            return self.add(f"ADVANCED_FACE('',({bound}),{surface},.{sense}.)")
+
+        faces = [face(self.add(f"CYLINDRICAL_SURFACE('',{self.axes(x, y, 0)},{radius})"),
+                      [(rims[0], "T"), (seam, "T"), (rims[1], "F"), (seam, "F")], "T"),
+                 face(self.add(f"PLANE('',{self.axes(x, y, 0)})"), [(rims[0], "F")], "F"),
+                 face(self.add(f"PLANE('',{self.axes(x, y, height)})"), [(rims[1], "T")], "T")]
+        return self.add(f"MANIFOLD_SOLID_BREP('',{self.add(f'''CLOSED_SHELL('',({','.join(faces)}))''')})")
+
+    def write(self, file, solids):
+        across = math.ceil(math.sqrt(solids))
+        bodies = ",".join(self.bar(10.0 * (index % across), 10.0 * (index // across)) for index in range(solids))
+        application = self.add("APPLICATION_CONTEXT('automotive design')")
+        product = self.add("PRODUCT('bars','bars','',(" + self.add(f"PRODUCT_CONTEXT('',{application},'mechanical')") + "))")
+        formation = self.add(f"PRODUCT_DEFINITION_FORMATION('','',{product})")
+        definition = self.add(f"PRODUCT_DEFINITION('','',{formation},"
+                              + self.add(f"PRODUCT_DEFINITION_CONTEXT('part definition',{application},'design')") + ")")
+        shape = self.add(f"PRODUCT_DEFINITION_SHAPE('','',{definition})")
+        units = [self.add("(LENGTH_UNIT()NAMED_UNIT(*)SI_UNIT(.MILLI.,.METRE.))"),
+                 self.add("(NAMED_UNIT(*)PLANE_ANGLE_UNIT()SI_UNIT($,.RADIAN.))"),
+                 self.add("(NAMED_UNIT(*)SI_UNIT($,.STERADIAN.)SOLID_ANGLE_UNIT())")]
+        exact = self.add(f"UNCERTAINTY_MEASURE_WITH_UNIT(LENGTH_MEASURE(1.E-06),{units[0]},'distance','')")
+        context = self.add(f"(GEOMETRIC_REPRESENTATION_CONTEXT(3)GLOBAL_UNCERTAINTY_ASSIGNED_CONTEXT(({exact}))"
+                           f"GLOBAL_UNIT_ASSIGNED_CONTEXT(({','.join(units)}))REPRESENTATION_CONTEXT('',''))")
+        form = self.add(f"ADVANCED_BREP_SHAPE_REPRESENTATION('',({bodies}),{context})")
+        self.add(f"SHAPE_DEFINITION_REPRESENTATION({shape},{form})")
+        head = ("ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
+                "FILE_SCHEMA(('AUTOMOTIVE_DESIGN'));\nENDSEC;\nDATA;\n")
+        file.write_text(head + "\n".join(self.lines) + "\nENDSEC;\nEND-ISO-10303-21;\n")
+
+
+class Cost:
+    """The seconds of the processor and of the clock that a command takes with all processes that it waits for, and the
+    memory in MiB of the largest of them."""
+
+    def __init__(self, command, environment):
+        runs = [self.once(command, environment) for _ in range(REPETITIONS)]
+        self.processor, self.clock, self.memory = (statistics.median(column) for column in zip(*runs))
+
+    @staticmethod
+    def once(command, environment):
+        started = time.monotonic()
+        with subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE) as process:
+            errors = process.stderr.read()
+            _, status, usage = os.wait4(process.pid, 0)
+            process.returncode = os.waitstatus_to_exitcode(status)
+        if process.returncode != 0:
+            raise RuntimeError(f"{command[0]} ended with {process.returncode}: {errors.decode(errors='replace')}")
+        return usage.ru_utime + usage.ru_stime, time.monotonic() - started, usage.ru_maxrss / 1024
+
+
+def version(*command):
+    said = subprocess.run(command, capture_output=True, text=True, check=False).stdout.strip().splitlines()
+    return next((line for line in said if any(letter.isdigit() for letter in line)), "of unknown version")
+
+
+def rows(folder):
+    """What is measured, as (name, value, goal) where the value is to stay below the goal."""
+    others = {name: shutil.which(program) for name, program in (("f3d", "f3d"), ("FreeCAD", "freecadcmd"))}
+    for name, program in others.items():
+        print(f"{name}: {version(program, '--version') if program else 'not installed, not compared'}")
+    environment = {**os.environ, "LIBGL_ALWAYS_SOFTWARE": "1", "QT_QPA_PLATFORM": "xcb"}
+    with tempfile.TemporaryDirectory() as name:
+        work = Path(name)
+        environment.update(XDG_CONFIG_HOME=name, XDG_RUNTIME_DIR=name)
+        meshes = {count: work / f"mesh{count}.stl" for count in (250_000, 1_000_000)}
+        for count, file in meshes.items():
+            write_stl(file, count)
+        bars = {count: work / f"bars{count}.step" for count in (125, 500)}
+        for count, file in bars.items():
+            Step().write(file, count)
+        read = work / "read.py"
+        read.write_text("import FreeCAD, Import, os\ndocument = FreeCAD.newDocument()\n"
+                        "Import.insert(os.environ['MODEL'], document.Name)\n"
+                        "for each in document.Objects:\n    getattr(each, 'Shape', None) and each.Shape.tessellate(0.075)\n")
+
+        def render(model):
+            return Cost([str(folder / "orlo"), "--store", str(work / "store.db"), "--render", str(model), "--output",
+                         str(work / "picture.png"), "--size", SIZE], environment)
+
+        drawn = {file: render(file) for file in (*meshes.values(), *bars.values())}
+        for file, cost in drawn.items():
+            print(f"{file.name}: {cost.processor:.2f} s of the processor, {cost.clock:.2f} s, {cost.memory:.0f} MiB")
+        found = [(f"growth of {kind}: power",
+                  math.log(drawn[large].processor / drawn[small].processor) / math.log(times), 1.1)
+                 for kind, (small, large), times in (("meshes, four times the triangles", meshes.values(), 4),
+                                                     ("STEP, four times the solids", bars.values(), 4))]
+        mesh, step = meshes[1_000_000], bars[500]
+        if others["f3d"]:
+            command = [others["f3d"], f"--resolution={SIZE.replace('x', ',')}", f"--output={work / 'other.png'}", str(mesh)]
+            cost = Cost(command, environment)
+            found += [("STL of 1 M triangles / f3d: processor", drawn[mesh].processor / cost.processor, 1.2),
+                      ("STL of 1 M triangles / f3d: memory", drawn[mesh].memory / cost.memory, 1.2)]
+        if others["FreeCAD"]:
+            cost = Cost([others["FreeCAD"], str(read)], {**environment, "MODEL": str(step), "QT_QPA_PLATFORM": "offscreen"})
+            found += [("STEP of 500 solids / FreeCAD: processor", drawn[step].processor / cost.processor, 0.8)]
+    return found
