@@ -25,6 +25,14 @@
         <source>About ORLO</source>
         <translation>ORLOについて</translation>
     </message>
+    <message>
+        <source>A desktop application to view, render and review CAD models in 3D.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Notices</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olBatch</name>
@@ -93,6 +101,45 @@
         <comment>place, key, old and new value</comment>
         <translation>%1 (%2): %3 -&gt; %4
 </translation>
+    </message>
+</context>
+<context>
+    <name>olEffectText</name>
+    <message>
+        <source>only recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is only recorded by this host</source>
+        <translation type="unfinished">このホストでは記録されるだけです</translation>
+    </message>
+    <message>
+        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>next import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes effect at the next import</source>
+        <translation type="unfinished">次回のインポート時に有効になります</translation>
+    </message>
+    <message>
+        <source>These settings take effect at the next import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start</source>
+        <translation type="unfinished">次回の起動時に有効になります</translation>
+    </message>
+    <message>
+        <source>These settings take effect at the next start.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -465,22 +512,6 @@
         <translation>%1を読み込めません：%2。</translation>
     </message>
     <message>
-        <source>%1 has faulty surfaces.</source>
-        <translation>%1に不正なサーフェスがあります。</translation>
-    </message>
-    <message>
-        <source>%1 of the faces of %2 cannot be drawn.</source>
-        <translation>%2の面のうち%1個を描画できません。</translation>
-    </message>
-    <message>
-        <source>Gaps of %1 up to %2 mm are closed; %3 would distort it.</source>
-        <translation>%1の隙間は%2 mmまで閉じられます。%3 mmでは形状が歪みます。</translation>
-    </message>
-    <message>
-        <source>The faces of %1 are not joined; that would distort it.</source>
-        <translation>%1の面は接合されません。接合すると形状が歪みます。</translation>
-    </message>
-    <message>
         <source>it has more than a million parts</source>
         <translation>パーツの数が100万を超えています</translation>
     </message>
@@ -491,10 +522,6 @@
     <message>
         <source>there is no geometry in it</source>
         <translation>ジオメトリがありません</translation>
-    </message>
-    <message>
-        <source>the import options leave nothing of it</source>
-        <translation>インポートオプションによりすべて除外されます</translation>
     </message>
     <message>
         <source>the reader failed (%1)</source>
@@ -523,6 +550,62 @@
     <message>
         <source>A part without a name</source>
         <translation>名前のないパーツ</translation>
+    </message>
+    <message>
+        <source>no invisible surfaces are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no surfaces are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no invisible meshes are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no meshes are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no invisible curves are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no curves are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no invisible instances are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts with faulty surfaces: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gaps of up to %1 mm were to be closed, which would distort these; smaller ones are closed: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts whose faces are not joined, as that would distort them: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faces that cannot be drawn: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2 mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the import options leave nothing of it (%1)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -623,6 +706,45 @@
     </message>
 </context>
 <context>
+    <name>olImportFineness</name>
+    <message>
+        <source>&amp;Keep These for Later Imports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Chord Deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Normal Tolerance</source>
+        <translation type="unfinished">法線公差(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Stitching</source>
+        <translation type="unfinished">ステッチ(&amp;S)</translation>
+    </message>
+    <message>
+        <source>S&amp;titching Tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Merge Geometries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove &amp;Empty Groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Unify Surface Normals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without this they hold for this import alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>olImportSummary</name>
     <message>
         <source>%1: none</source>
@@ -641,32 +763,8 @@
         <translation>なし</translation>
     </message>
     <message>
-        <source>the usual one</source>
-        <translation>通常</translation>
-    </message>
-    <message>
-        <source>chords within %1 mm, normals within %2°</source>
-        <translation>弦偏差%1 mm以内、法線偏差%2°以内</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>形式</translation>
-    </message>
-    <message>
-        <source>Fineness</source>
-        <translation>細かさ</translation>
-    </message>
-    <message>
-        <source>Stitching</source>
-        <translation>ステッチ</translation>
-    </message>
-    <message>
-        <source>gaps up to %1 mm</source>
-        <translation>隙間%1 mmまで</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>オフ</translation>
     </message>
     <message>
         <source>surfaces</source>
@@ -775,14 +873,14 @@
     </message>
 </context>
 <context>
-    <name>olLibraryFault</name>
+    <name>olLibraryCheck</name>
     <message>
         <source>it is no library</source>
-        <translation>ライブラリではありません</translation>
+        <translation type="unfinished">ライブラリではありません</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation>末尾が欠けています</translation>
+        <translation type="unfinished">末尾が欠けています</translation>
     </message>
 </context>
 <context>
@@ -897,12 +995,39 @@
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>Preferences as a Pa&amp;nel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy &amp;Support Information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Versions, changed settings and the end of the log are on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olMessageLine</name>
     <message>
         <source>Close the message</source>
         <translation>メッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>olModelExtent</name>
+    <message>
+        <source>about %1 % of the model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: coarse, round parts show corners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: very fine, the import takes long</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -961,6 +1086,10 @@
         <source>The import is done, with remarks.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The settings could not be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olModelFormat</name>
@@ -994,6 +1123,10 @@
     <message>
         <source>Has changes that are not applied yet</source>
         <translation>まだ適用されていない変更があります</translation>
+    </message>
+    <message>
+        <source>Has settings that differ from their defaults</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1052,6 +1185,13 @@
     <message>
         <source>&amp;Keep %1</source>
         <translation>「%1」を維持(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>olPageFrame</name>
+    <message>
+        <source>Not chosen</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1323,6 @@
         <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
-        <source>%1 is locked: %2</source>
-        <translation>「%1」はロックされています：%2</translation>
-    </message>
-    <message>
         <source>&amp;Stay</source>
         <translation>ダイアログに戻る(&amp;S)</translation>
     </message>
@@ -1311,6 +1447,34 @@
         <source>The preferences in force were written to %1, without the pending changes.</source>
         <translation>現在有効な環境設定を、保留中の変更を除いて%1に書き出しました。</translation>
     </message>
+    <message>
+        <source>The documents about the settings are not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes effect at the next import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 settings take effect at the next import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes effect at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 settings take effect at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesFile</name>
@@ -1362,10 +1526,6 @@
 <context>
     <name>olPreferencesSession</name>
     <message>
-        <source> All settings of this run were then saved into it.</source>
-        <translation> その後、今回の実行でのすべての設定がこのファイルに保存されました。</translation>
-    </message>
-    <message>
         <source>The site&apos;s preferences %1 were changed. That counts from the next start of the program.</source>
         <translation>サイトの環境設定%1が変更されました。変更はプログラムの次回の起動時から有効になります。</translation>
     </message>
@@ -1377,24 +1537,16 @@
         <source>is not known</source>
         <translation>不明な設定です</translation>
     </message>
+    <message>
+        <source>All settings of this run were then saved into it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
     <message>
         <source>Cannot read the preferences %1: %2.</source>
         <translation>環境設定%1を読み込めません：%2。</translation>
-    </message>
-    <message>
-        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults</source>
-        <translation> そのバージョンを使用してください。それがない場合、ファイルは破損しています。対処方法：ファイルを移動して既定値で開始する</translation>
-    </message>
-    <message>
-        <source>, or rename its copy %1 to it.</source>
-        <translation>、またはバックアップ%1の名前をこのファイルの名前に変更する。</translation>
-    </message>
-    <message>
-        <source>The preferences file %1 is damaged: %2. %3</source>
-        <translation>環境設定ファイル%1は破損しています：%2。%3</translation>
     </message>
     <message>
         <source>The copy of %1 was loaded; what was changed after that is not in it.</source>
@@ -1409,20 +1561,8 @@
         <translation>バックアップも読み込めないため (%1)、すべての設定が既定値になっています。</translation>
     </message>
     <message>
-        <source>The preferences file %1 is damaged: %2. </source>
-        <translation>環境設定ファイル%1は破損しています：%2。 </translation>
-    </message>
-    <message>
         <source>its folder is read-only, or another program keeps it busy</source>
         <translation>フォルダーが読み取り専用か、別のプログラムがファイルを使用中です</translation>
-    </message>
-    <message>
-        <source>It is now kept as %1. </source>
-        <translation>現在は%1として保管されています。 </translation>
-    </message>
-    <message>
-        <source>It could not be set aside: %1. </source>
-        <translation>別の場所に移せませんでした：%1。 </translation>
     </message>
     <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
@@ -1431,6 +1571,22 @@
     <message>
         <source>%1: %2.</source>
         <translation>%1：%2。</translation>
+    </message>
+    <message>
+        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preferences file %1 is damaged: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is now kept as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It could not be set aside: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1501,6 +1657,18 @@
     <message>
         <source>The profile &quot;%1&quot; was deleted.</source>
         <translation>プロファイル「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>All Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Settings:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1869,22 @@
         <source>%1 parts are one in the file, as binary STL knows no parts.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of its faces cannot be understood and are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bodies that cannot be understood and are left out: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No %1 has the field %2; it is passed over.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>
@@ -1841,12 +2025,20 @@
 <context>
     <name>olSettingMarks</name>
     <message>
-        <source>Differs from its default.</source>
-        <translation>既定値と異なります。</translation>
+        <source>Set by the site.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Differs from its default. %1</source>
-        <translation>既定値と異なります。%1</translation>
+        <source>Set by you.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed, not applied yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locked by the site.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1870,18 +2062,6 @@
     <message>
         <source>The default</source>
         <translation>既定値</translation>
-    </message>
-    <message>
-        <source>Takes effect at the next import</source>
-        <translation>次回のインポート時に有効になります</translation>
-    </message>
-    <message>
-        <source>Takes effect at the next start</source>
-        <translation>次回の起動時に有効になります</translation>
-    </message>
-    <message>
-        <source>Is only recorded by this host</source>
-        <translation>このホストでは記録されるだけです</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
@@ -2141,36 +2321,39 @@
         <translation>フォルダーを作成できません</translation>
     </message>
     <message>
-        <source>it is another program&apos;s database</source>
-        <translation>別のプログラムのデータベースです</translation>
-    </message>
-    <message>
-        <source>it was written by a newer version</source>
-        <translation>より新しいバージョンで書き込まれています</translation>
-    </message>
-    <message>
-        <source>its format is unknown</source>
-        <translation>未知の形式です</translation>
-    </message>
-    <message>
         <source>its header is not what it was</source>
         <translation>ヘッダーが元の内容と異なります</translation>
     </message>
+</context>
+<context>
+    <name>olStoreTables</name>
+    <message>
+        <source>it is another program&apos;s database</source>
+        <translation type="unfinished">別のプログラムのデータベースです</translation>
+    </message>
+    <message>
+        <source>it was written by a newer version</source>
+        <translation type="unfinished">より新しいバージョンで書き込まれています</translation>
+    </message>
+    <message>
+        <source>its format is unknown</source>
+        <translation type="unfinished">未知の形式です</translation>
+    </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation>テーブルが元の内容と異なります</translation>
+        <translation type="unfinished">テーブルが元の内容と異なります</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation>構造が壊れています</translation>
+        <translation type="unfinished">構造が壊れています</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation>変更された行または欠けている行があります</translation>
+        <translation type="unfinished">変更された行または欠けている行があります</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation>履歴が変更されています</translation>
+        <translation type="unfinished">履歴が変更されています</translation>
     </message>
 </context>
 <context>
@@ -2783,10 +2966,6 @@
         <translation>%1は--renderと同時に指定できません</translation>
     </message>
     <message>
-        <source>only one model can be opened at a time</source>
-        <translation>一度に開けるモデルは1つだけです</translation>
-    </message>
-    <message>
         <source>there is no edition %1; there are essentials, design, professional and enterprise</source>
         <translation>エディション%1はありません。使用できるのはessentials、design、professional、enterpriseです</translation>
     </message>
@@ -2809,6 +2988,10 @@
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
         <translation type="unfinished">「%1」はUTF-8ではありません</translation>
+    </message>
+    <message>
+        <source>only one model can be converted at a time</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,14 @@
         <source>About ORLO</source>
         <translation>ORLO 정보</translation>
     </message>
+    <message>
+        <source>A desktop application to view, render and review CAD models in 3D.</source>
+        <translation>CAD 모델을 3D로 보고 렌더링하고 검토하는 데스크톱 프로그램입니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Notices</source>
+        <translation>고지 사항(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>olBatch</name>
@@ -96,6 +104,45 @@
     </message>
 </context>
 <context>
+    <name>olEffectText</name>
+    <message>
+        <source>only recorded</source>
+        <translation>기록만 함</translation>
+    </message>
+    <message>
+        <source>Is only recorded by this host</source>
+        <translation>이 호스트에서는 기록만 합니다</translation>
+    </message>
+    <message>
+        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <translation>이 호스트는 이 설정을 기록만 합니다. 해당 형식의 읽기 기능처럼 이 설정을 사용하는 기능이 없습니다.</translation>
+    </message>
+    <message>
+        <source>next import</source>
+        <translation>다음 가져오기</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next import</source>
+        <translation>다음 가져오기에 적용됩니다</translation>
+    </message>
+    <message>
+        <source>These settings take effect at the next import.</source>
+        <translation>이 설정은 다음 가져오기에 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>다음 시작</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start</source>
+        <translation>다음에 시작할 때 적용됩니다</translation>
+    </message>
+    <message>
+        <source>These settings take effect at the next start.</source>
+        <translation>이 설정은 다음에 시작할 때 적용됩니다.</translation>
+    </message>
+</context>
+<context>
     <name>olExport</name>
     <message>
         <source>%1 stands twice in the same place; it is written once.</source>
@@ -143,148 +190,148 @@
     </message>
     <message>
         <source>%1 names are written with other letters or a number, as names of VRML have no blanks and stand for one thing.</source>
-        <translation type="unfinished"></translation>
+        <translation>VRML의 이름에는 공백을 쓸 수 없고 이름은 하나의 대상만 가리키므로, 이름 %1개를 다른 문자나 번호를 넣어 저장합니다.</translation>
     </message>
     <message>
         <source>%1 parts of several looks are groups of parts in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>모양이 여러 가지인 부품 %1개를 파일에 부품 그룹으로 저장합니다.</translation>
     </message>
     <message>
         <source>curves</source>
-        <translation type="unfinished">곡선</translation>
+        <translation>곡선</translation>
     </message>
     <message>
         <source>names of parts</source>
-        <translation type="unfinished"></translation>
+        <translation>부품 이름</translation>
     </message>
     <message>
         <source>colours of corners</source>
-        <translation type="unfinished"></translation>
+        <translation>정점 색상</translation>
     </message>
     <message>
         <source>opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>불투명도</translation>
     </message>
     <message>
         <source>physical materials</source>
-        <translation type="unfinished"></translation>
+        <translation>물리적 재료</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished"></translation>
+        <translation>레이어</translation>
     </message>
     <message>
         <source>hidden parts</source>
-        <translation type="unfinished"></translation>
+        <translation>숨겨진 부품</translation>
     </message>
     <message>
         <source>%1 knows no exact surfaces; their triangles are written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 형식은 정확한 곡면을 지원하지 않으므로 삼각형으로 저장합니다.</translation>
     </message>
     <message>
         <source>These are not in the file, as %1 does not know them: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 형식에서 지원하지 않아 파일에 저장하지 않은 항목: %2.</translation>
     </message>
     <message>
         <source>The texture %1 is not there any more; it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처 %1이(가) 더 이상 없어 제외합니다.</translation>
     </message>
     <message>
         <source>The texture %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스처 %1을(를) 쓸 수 없습니다: %2.</translation>
     </message>
 </context>
 <context>
     <name>olFactsPanel</name>
     <message>
         <source>(%1, %2, %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>(%1, %2, %3)</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>크기:</translation>
     </message>
     <message>
         <source>Along x, y and z, in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>x, y, z 방향의 길이(밀리미터)</translation>
     </message>
     <message>
         <source>Bounding box:</source>
-        <translation type="unfinished"></translation>
+        <translation>경계 상자:</translation>
     </message>
     <message>
         <source>Its lowest and its highest corner, in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>가장 낮은 모서리와 가장 높은 모서리(밀리미터)</translation>
     </message>
     <message>
         <source>Volume:</source>
-        <translation type="unfinished"></translation>
+        <translation>부피:</translation>
     </message>
     <message>
         <source>Of the surfaces themselves; of meshes, of their triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>곡면 자체의 값. 메시는 삼각형의 값</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation type="unfinished"></translation>
+        <translation>면적:</translation>
     </message>
     <message>
         <source>Triangles:</source>
-        <translation type="unfinished"></translation>
+        <translation>삼각형:</translation>
     </message>
     <message>
         <source>With which it is drawn and exported</source>
-        <translation type="unfinished"></translation>
+        <translation>그리고 내보내는 데 쓰이는 삼각형의 수</translation>
     </message>
     <message>
         <source>Parts:</source>
-        <translation type="unfinished"></translation>
+        <translation>부품:</translation>
     </message>
     <message>
         <source>Each as often as it stands in the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>장면에 나오는 횟수만큼 셉니다</translation>
     </message>
     <message>
         <source>measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>측정 중...</translation>
     </message>
     <message>
         <source>Nothing is open.</source>
-        <translation type="unfinished">열려 있는 모델이 없습니다.</translation>
+        <translation>열려 있는 모델이 없습니다.</translation>
     </message>
     <message>
         <source>What is selected:</source>
-        <translation type="unfinished"></translation>
+        <translation>선택 항목:</translation>
     </message>
     <message>
         <source>The whole scene:</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 장면:</translation>
     </message>
     <message>
         <source>%1 × %2 × %3 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 × %3 mm</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ~ %2</translation>
     </message>
     <message>
         <source>%1 mm³</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm³</translation>
     </message>
     <message>
         <source>none: it is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>없음: 닫혀 있지 않습니다</translation>
     </message>
     <message numerus="yes">
         <source>%1; %n of the parts are not closed and not in it</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1. 닫히지 않은 부품 %n개 제외</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 mm²</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm²</translation>
     </message>
 </context>
 <context>
@@ -465,22 +512,6 @@
         <translation>%1을(를) 읽을 수 없습니다: %2.</translation>
     </message>
     <message>
-        <source>%1 has faulty surfaces.</source>
-        <translation>%1에 잘못된 곡면이 있습니다.</translation>
-    </message>
-    <message>
-        <source>%1 of the faces of %2 cannot be drawn.</source>
-        <translation>%2의 면 중 %1개를 그릴 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>Gaps of %1 up to %2 mm are closed; %3 would distort it.</source>
-        <translation>%1의 틈을 %2 mm까지 메웁니다. %3 mm까지 메우면 모양이 왜곡됩니다.</translation>
-    </message>
-    <message>
-        <source>The faces of %1 are not joined; that would distort it.</source>
-        <translation>%1의 면을 잇지 않습니다. 이으면 모양이 왜곡됩니다.</translation>
-    </message>
-    <message>
         <source>it has more than a million parts</source>
         <translation>부품이 백만 개를 넘습니다</translation>
     </message>
@@ -491,10 +522,6 @@
     <message>
         <source>there is no geometry in it</source>
         <translation>지오메트리가 없습니다</translation>
-    </message>
-    <message>
-        <source>the import options leave nothing of it</source>
-        <translation>가져오기 옵션에 따라 모두 제외되었습니다</translation>
     </message>
     <message>
         <source>the reader failed (%1)</source>
@@ -523,6 +550,62 @@
     <message>
         <source>A part without a name</source>
         <translation>이름 없는 부품</translation>
+    </message>
+    <message>
+        <source>no invisible surfaces are imported</source>
+        <translation>보이지 않는 곡면은 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>no surfaces are imported</source>
+        <translation>곡면은 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>no invisible meshes are imported</source>
+        <translation>보이지 않는 메시는 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>no meshes are imported</source>
+        <translation>메시는 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>no invisible curves are imported</source>
+        <translation>보이지 않는 곡선은 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>no curves are imported</source>
+        <translation>곡선은 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>no invisible instances are imported</source>
+        <translation>보이지 않는 인스턴스는 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>Parts with faulty surfaces: %1.</source>
+        <translation>잘못된 곡면이 있는 부품: %1.</translation>
+    </message>
+    <message>
+        <source>Gaps of up to %1 mm were to be closed, which would distort these; smaller ones are closed: %2.</source>
+        <translation>%1 mm까지 틈을 메우면 모양이 왜곡되어 더 작은 틈만 메운 부품: %2.</translation>
+    </message>
+    <message>
+        <source>Parts whose faces are not joined, as that would distort them: %1.</source>
+        <translation>모양이 왜곡되지 않도록 면을 잇지 않은 부품: %1.</translation>
+    </message>
+    <message>
+        <source>Faces that cannot be drawn: %1.</source>
+        <translation>그릴 수 없는 면: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 %1개</translation>
+    </message>
+    <message>
+        <source>%1 (%2 mm)</source>
+        <translation>%1 (%2 mm)</translation>
+    </message>
+    <message>
+        <source>the import options leave nothing of it (%1)</source>
+        <translation>가져오기 옵션에 따라 모두 제외되었습니다(%1)</translation>
     </message>
 </context>
 <context>
@@ -559,67 +642,106 @@
     </message>
     <message>
         <source>&amp;Replace the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>장면 바꾸기(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Add to the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>장면에 추가(&amp;A)</translation>
     </message>
     <message>
         <source>Millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>밀리미터</translation>
     </message>
     <message>
         <source>Centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>센티미터</translation>
     </message>
     <message>
         <source>Metres</source>
-        <translation type="unfinished"></translation>
+        <translation>미터</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>인치</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>피트</translation>
     </message>
     <message>
         <source>z is up</source>
-        <translation type="unfinished"></translation>
+        <translation>z가 위</translation>
     </message>
     <message>
         <source>y is up</source>
-        <translation type="unfinished"></translation>
+        <translation>y가 위</translation>
     </message>
     <message>
         <source>The file does not say it.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 지정되어 있지 않습니다.</translation>
     </message>
     <message>
         <source>&amp;Unit of length:</source>
-        <translation type="unfinished"></translation>
+        <translation>길이 단위(&amp;U):</translation>
     </message>
     <message>
         <source>U&amp;p axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>위쪽 축(&amp;P):</translation>
     </message>
     <message>
         <source>The import failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오지 못했습니다.</translation>
     </message>
     <message>
         <source>The import is done, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기를 마쳤습니다. 참고할 내용이 있습니다.</translation>
     </message>
     <message>
         <source>The import is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기를 마쳤습니다.</translation>
     </message>
     <message>
         <source>Import Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기 실패</translation>
+    </message>
+</context>
+<context>
+    <name>olImportFineness</name>
+    <message>
+        <source>&amp;Keep These for Later Imports</source>
+        <translation>이후 가져오기에도 사용(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Chord Deviation</source>
+        <translation>현 편차(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Tolerance</source>
+        <translation>법선 공차(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Stitching</source>
+        <translation>스티치(&amp;S)</translation>
+    </message>
+    <message>
+        <source>S&amp;titching Tolerance</source>
+        <translation>스티치 공차(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Merge Geometries</source>
+        <translation>지오메트리 병합(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Remove &amp;Empty Groups</source>
+        <translation>빈 그룹 제거(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Unify Surface Normals</source>
+        <translation>곡면 법선 통일(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Without this they hold for this import alone.</source>
+        <translation>선택하지 않으면 이번 가져오기에만 적용됩니다.</translation>
     </message>
 </context>
 <context>
@@ -641,32 +763,8 @@
         <translation>없음</translation>
     </message>
     <message>
-        <source>the usual one</source>
-        <translation>기본</translation>
-    </message>
-    <message>
-        <source>chords within %1 mm, normals within %2°</source>
-        <translation>현 편차 %1 mm 이내, 법선 %2° 이내</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>형식</translation>
-    </message>
-    <message>
-        <source>Fineness</source>
-        <translation>정밀도</translation>
-    </message>
-    <message>
-        <source>Stitching</source>
-        <translation>스티치</translation>
-    </message>
-    <message>
-        <source>gaps up to %1 mm</source>
-        <translation>틈 %1 mm까지</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>꺼짐</translation>
     </message>
     <message>
         <source>surfaces</source>
@@ -775,7 +873,7 @@
     </message>
 </context>
 <context>
-    <name>olLibraryFault</name>
+    <name>olLibraryCheck</name>
     <message>
         <source>it is no library</source>
         <translation>라이브러리가 아닙니다</translation>
@@ -881,21 +979,33 @@
     </message>
     <message>
         <source>Facts</source>
-        <translation type="unfinished"></translation>
+        <translation>모델 정보</translation>
     </message>
     <message>
         <source>Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>샘플</translation>
     </message>
     <message>
         <source>%1 - ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - ORLO</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 외 %n개</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Preferences as a Pa&amp;nel</source>
+        <translation>환경 설정을 패널로 표시(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Support Information</source>
+        <translation>지원 정보 복사(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Versions, changed settings and the end of the log are on the clipboard.</source>
+        <translation>버전, 변경된 설정 및 로그의 끝부분을 클립보드에 복사했습니다.</translation>
     </message>
 </context>
 <context>
@@ -903,6 +1013,21 @@
     <message>
         <source>Close the message</source>
         <translation>메시지 닫기</translation>
+    </message>
+</context>
+<context>
+    <name>olModelExtent</name>
+    <message>
+        <source>about %1 % of the model</source>
+        <translation>모델의 약 %1%</translation>
+    </message>
+    <message>
+        <source>%1: coarse, round parts show corners</source>
+        <translation>%1: 거칠어 둥근 부품이 각져 보입니다</translation>
+    </message>
+    <message>
+        <source>%1: very fine, the import takes long</source>
+        <translation>%1: 매우 세밀하여 가져오는 데 오래 걸립니다</translation>
     </message>
 </context>
 <context>
@@ -933,33 +1058,37 @@
     </message>
     <message>
         <source>The export failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>내보내지 못했습니다.</translation>
     </message>
     <message>
         <source>%1 was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 저장했습니다.</translation>
     </message>
     <message>
         <source>%1 was written, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 저장했습니다. 참고할 내용이 있습니다.</translation>
     </message>
     <message>
         <source>The import failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오지 못했습니다.</translation>
     </message>
     <message>
         <source>Cannot read %1: there is no such file any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 읽을 수 없습니다: 파일이 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>The settings could not be kept.</source>
+        <translation>설정을 저장할 수 없습니다.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>파일 %n개를 읽었습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>The import is done, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>가져오기를 마쳤습니다. 참고할 내용이 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -995,6 +1124,10 @@
         <source>Has changes that are not applied yet</source>
         <translation>아직 적용되지 않은 변경 사항이 있습니다</translation>
     </message>
+    <message>
+        <source>Has settings that differ from their defaults</source>
+        <translation>기본값과 다른 설정이 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>olNumberText</name>
@@ -1023,7 +1156,7 @@
     <name>olOSGWidget</name>
     <message>
         <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one.</source>
-        <translation type="unfinished"></translation>
+        <translation>클리핑 평면 %1 및 %2은(는) 사용할 수 없습니다. 0보다 큰 두 숫자가 필요하며 원거리가 근거리보다 커야 합니다.</translation>
     </message>
 </context>
 <context>
@@ -1052,6 +1185,13 @@
     <message>
         <source>&amp;Keep %1</source>
         <translation>%1 유지(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>olPageFrame</name>
+    <message>
+        <source>Not chosen</source>
+        <translation>선택 안 함</translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1323,6 @@
         <translation>취소(&amp;C)</translation>
     </message>
     <message>
-        <source>%1 is locked: %2</source>
-        <translation>%1이(가) 잠겨 있습니다: %2</translation>
-    </message>
-    <message>
         <source>&amp;Stay</source>
         <translation>머무르기(&amp;S)</translation>
     </message>
@@ -1311,6 +1447,34 @@
         <source>The preferences in force were written to %1, without the pending changes.</source>
         <translation>보류 중인 변경을 제외하고 현재 적용된 환경 설정을 %1에 저장했습니다.</translation>
     </message>
+    <message>
+        <source>The documents about the settings are not installed.</source>
+        <translation>설정에 대한 문서가 설치되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 takes effect at the next import.</source>
+        <translation>%1은(는) 다음 가져오기에 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 settings take effect at the next import.</source>
+        <translation>설정 %1개가 다음 가져오기에 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 takes effect at the next start.</source>
+        <translation>%1은(는) 다음에 시작할 때 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 settings take effect at the next start.</source>
+        <translation>설정 %1개가 다음에 시작할 때 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation>지금 다시 시작</translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesFile</name>
@@ -1362,10 +1526,6 @@
 <context>
     <name>olPreferencesSession</name>
     <message>
-        <source> All settings of this run were then saved into it.</source>
-        <translation> 그런 다음 이번 실행의 모든 설정을 이 파일에 저장했습니다.</translation>
-    </message>
-    <message>
         <source>The site&apos;s preferences %1 were changed. That counts from the next start of the program.</source>
         <translation>사이트 환경 설정 %1이(가) 변경되었습니다. 프로그램을 다음에 시작할 때부터 적용됩니다.</translation>
     </message>
@@ -1377,24 +1537,16 @@
         <source>is not known</source>
         <translation>알 수 없는 설정입니다</translation>
     </message>
+    <message>
+        <source>All settings of this run were then saved into it.</source>
+        <translation>그런 다음 이번 실행의 모든 설정을 이 파일에 저장했습니다.</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
     <message>
         <source>Cannot read the preferences %1: %2.</source>
         <translation>환경 설정 %1을(를) 읽을 수 없습니다: %2.</translation>
-    </message>
-    <message>
-        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults</source>
-        <translation> 해당 버전을 사용하십시오. 그런 버전이 없다면 파일이 손상된 것입니다. 기본값으로 시작하려면 파일을 다른 곳으로 옮기십시오</translation>
-    </message>
-    <message>
-        <source>, or rename its copy %1 to it.</source>
-        <translation>(또는 백업 %1의 이름을 이 파일의 이름으로 바꾸십시오).</translation>
-    </message>
-    <message>
-        <source>The preferences file %1 is damaged: %2. %3</source>
-        <translation>환경 설정 파일 %1이(가) 손상되었습니다: %2. %3</translation>
     </message>
     <message>
         <source>The copy of %1 was loaded; what was changed after that is not in it.</source>
@@ -1409,20 +1561,8 @@
         <translation>백업도 읽을 수 없으므로(%1) 모든 설정이 기본값입니다.</translation>
     </message>
     <message>
-        <source>The preferences file %1 is damaged: %2. </source>
-        <translation>환경 설정 파일 %1이(가) 손상되었습니다: %2. </translation>
-    </message>
-    <message>
         <source>its folder is read-only, or another program keeps it busy</source>
         <translation>폴더가 읽기 전용이거나 다른 프로그램이 사용 중입니다</translation>
-    </message>
-    <message>
-        <source>It is now kept as %1. </source>
-        <translation>이 파일은 이제 %1(으)로 보관됩니다. </translation>
-    </message>
-    <message>
-        <source>It could not be set aside: %1. </source>
-        <translation>이 파일을 따로 보관할 수 없습니다: %1. </translation>
     </message>
     <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
@@ -1431,6 +1571,22 @@
     <message>
         <source>%1: %2.</source>
         <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
+        <translation> 해당 버전을 사용하십시오. 그런 버전이 없다면 파일이 손상된 것입니다. 기본값으로 시작하려면 파일을 다른 곳으로 옮기고, 백업 %1이(가) 있으면 이름을 이 파일의 이름으로 바꾸어도 됩니다.</translation>
+    </message>
+    <message>
+        <source>The preferences file %1 is damaged: %2.</source>
+        <translation>환경 설정 파일 %1이(가) 손상되었습니다: %2.</translation>
+    </message>
+    <message>
+        <source>It is now kept as %1.</source>
+        <translation>이 파일은 이제 %1(으)로 보관됩니다.</translation>
+    </message>
+    <message>
+        <source>It could not be set aside: %1.</source>
+        <translation>이 파일을 따로 보관할 수 없습니다: %1.</translation>
     </message>
 </context>
 <context>
@@ -1501,6 +1657,18 @@
     <message>
         <source>The profile &quot;%1&quot; was deleted.</source>
         <translation>프로필 &quot;%1&quot;을(를) 삭제했습니다.</translation>
+    </message>
+    <message>
+        <source>All Settings</source>
+        <translation>모든 설정</translation>
+    </message>
+    <message>
+        <source>Changed Settings</source>
+        <translation>변경된 설정</translation>
+    </message>
+    <message>
+        <source>&amp;Settings:</source>
+        <translation>설정(&amp;S):</translation>
     </message>
 </context>
 <context>
@@ -1698,23 +1866,39 @@
         <translation>파일이 너무 큽니다: %1 GB 중 2 GB까지 읽을 수 있습니다</translation>
     </message>
     <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 외 %2개</translation>
+    </message>
+    <message>
+        <source>%1 of its faces cannot be understood and are left out.</source>
+        <translation>면 %1개를 해석할 수 없어 제외합니다.</translation>
+    </message>
+    <message>
+        <source>Bodies that cannot be understood and are left out: %1.</source>
+        <translation>해석할 수 없어 제외한 바디: %1.</translation>
+    </message>
+    <message>
         <source>%1 parts are one in the file, as binary STL knows no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>바이너리 STL은 부품을 구분하지 않으므로 부품 %1개를 하나로 저장합니다.</translation>
+    </message>
+    <message>
+        <source>No %1 has the field %2; it is passed over.</source>
+        <translation>%1에는 필드 %2이(가) 없어 건너뜁니다.</translation>
     </message>
 </context>
 <context>
     <name>olRecentModels</name>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>최근 파일 열기(&amp;R)</translation>
     </message>
     <message>
         <source>%1  %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 (%3)</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>지우기(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1841,12 +2025,20 @@
 <context>
     <name>olSettingMarks</name>
     <message>
-        <source>Differs from its default.</source>
-        <translation>기본값과 다릅니다.</translation>
+        <source>Set by the site.</source>
+        <translation>사이트에서 설정했습니다.</translation>
     </message>
     <message>
-        <source>Differs from its default. %1</source>
-        <translation>기본값과 다릅니다. %1</translation>
+        <source>Set by you.</source>
+        <translation>사용자가 설정했습니다.</translation>
+    </message>
+    <message>
+        <source>Changed, not applied yet.</source>
+        <translation>변경되었지만 아직 적용되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Locked by the site.</source>
+        <translation>사이트에서 잠갔습니다.</translation>
     </message>
 </context>
 <context>
@@ -1870,18 +2062,6 @@
     <message>
         <source>The default</source>
         <translation>기본값</translation>
-    </message>
-    <message>
-        <source>Takes effect at the next import</source>
-        <translation>다음 가져오기에 적용됩니다</translation>
-    </message>
-    <message>
-        <source>Takes effect at the next start</source>
-        <translation>다음에 시작할 때 적용됩니다</translation>
-    </message>
-    <message>
-        <source>Is only recorded by this host</source>
-        <translation>이 호스트에서는 기록만 합니다</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
@@ -1908,35 +2088,35 @@
     <name>olSettingTips</name>
     <message>
         <source>Range: %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>범위: %1 ~ %2</translation>
     </message>
     <message>
         <source>Range: from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>범위: %1 이상</translation>
     </message>
     <message>
         <source>Range: up to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>범위: %1 이하</translation>
     </message>
     <message>
         <source>Unit: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>단위: %1</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished">다음 가져오기에 적용됩니다</translation>
+        <translation>다음 가져오기에 적용됩니다</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished">다음에 시작할 때 적용됩니다</translation>
+        <translation>다음에 시작할 때 적용됩니다</translation>
     </message>
     <message>
         <source>Takes effect at once</source>
-        <translation type="unfinished"></translation>
+        <translation>바로 적용됩니다</translation>
     </message>
     <message>
         <source>Default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>기본값: %1</translation>
     </message>
 </context>
 <context>
@@ -2141,6 +2321,13 @@
         <translation>폴더를 만들 수 없습니다</translation>
     </message>
     <message>
+        <source>its header is not what it was</source>
+        <translation>헤더가 원래와 다릅니다</translation>
+    </message>
+</context>
+<context>
+    <name>olStoreTables</name>
+    <message>
         <source>it is another program&apos;s database</source>
         <translation>다른 프로그램의 데이터베이스입니다</translation>
     </message>
@@ -2151,10 +2338,6 @@
     <message>
         <source>its format is unknown</source>
         <translation>알 수 없는 형식입니다</translation>
-    </message>
-    <message>
-        <source>its header is not what it was</source>
-        <translation>헤더가 원래와 다릅니다</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
@@ -2783,10 +2966,6 @@
         <translation>%1은(는) --render와 함께 사용할 수 없습니다</translation>
     </message>
     <message>
-        <source>only one model can be opened at a time</source>
-        <translation>한 번에 모델 하나만 열 수 있습니다</translation>
-    </message>
-    <message>
         <source>there is no edition %1; there are essentials, design, professional and enterprise</source>
         <translation>에디션 %1이(가) 없습니다. essentials, design, professional, enterprise가 있습니다</translation>
     </message>
@@ -2796,19 +2975,23 @@
     </message>
     <message>
         <source>%1 has stored this.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 이 설정을 저장했습니다.</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished">다른 프로그램</translation>
-    </message>
-    <message>
-        <source>expected --unit mm, cm, m, in or ft, and --up y or z</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 프로그램</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
-        <translation type="unfinished">&quot;%1&quot;은(는) UTF-8이 아닙니다</translation>
+        <translation>&quot;%1&quot;은(는) UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>only one model can be converted at a time</source>
+        <translation>한 번에 모델 하나만 변환할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>expected --unit mm, cm, m, in or ft, and --up y or z</source>
+        <translation>--unit에는 mm, cm, m, in 또는 ft, --up에는 y 또는 z가 필요합니다</translation>
     </message>
 </context>
 </TS>

@@ -25,6 +25,14 @@
         <source>About ORLO</source>
         <translation>关于 ORLO</translation>
     </message>
+    <message>
+        <source>A desktop application to view, render and review CAD models in 3D.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Notices</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olBatch</name>
@@ -93,6 +101,45 @@
         <comment>place, key, old and new value</comment>
         <translation>%1 (%2)：%3 -&gt; %4
 </translation>
+    </message>
+</context>
+<context>
+    <name>olEffectText</name>
+    <message>
+        <source>only recorded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is only recorded by this host</source>
+        <translation type="unfinished">此主机仅作记录</translation>
+    </message>
+    <message>
+        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>next import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes effect at the next import</source>
+        <translation type="unfinished">下次导入时生效</translation>
+    </message>
+    <message>
+        <source>These settings take effect at the next import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start</source>
+        <translation type="unfinished">下次启动时生效</translation>
+    </message>
+    <message>
+        <source>These settings take effect at the next start.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -465,22 +512,6 @@
         <translation>无法读取 %1：%2。</translation>
     </message>
     <message>
-        <source>%1 has faulty surfaces.</source>
-        <translation>%1 含有有缺陷的曲面。</translation>
-    </message>
-    <message>
-        <source>%1 of the faces of %2 cannot be drawn.</source>
-        <translation>%2 中有 %1 个面无法绘制。</translation>
-    </message>
-    <message>
-        <source>Gaps of %1 up to %2 mm are closed; %3 would distort it.</source>
-        <translation>%1 中不超过 %2 mm 的间隙已闭合；%3 mm 会使其变形。</translation>
-    </message>
-    <message>
-        <source>The faces of %1 are not joined; that would distort it.</source>
-        <translation>%1 的面未连接；连接会使其变形。</translation>
-    </message>
-    <message>
         <source>it has more than a million parts</source>
         <translation>其零件超过一百万个</translation>
     </message>
@@ -491,10 +522,6 @@
     <message>
         <source>there is no geometry in it</source>
         <translation>其中没有几何体</translation>
-    </message>
-    <message>
-        <source>the import options leave nothing of it</source>
-        <translation>按导入选项，其中没有可导入的内容</translation>
     </message>
     <message>
         <source>the reader failed (%1)</source>
@@ -523,6 +550,62 @@
     <message>
         <source>A part without a name</source>
         <translation>未命名零件</translation>
+    </message>
+    <message>
+        <source>no invisible surfaces are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no surfaces are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no invisible meshes are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no meshes are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no invisible curves are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no curves are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no invisible instances are imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts with faulty surfaces: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gaps of up to %1 mm were to be closed, which would distort these; smaller ones are closed: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts whose faces are not joined, as that would distort them: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faces that cannot be drawn: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2 mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the import options leave nothing of it (%1)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -623,6 +706,45 @@
     </message>
 </context>
 <context>
+    <name>olImportFineness</name>
+    <message>
+        <source>&amp;Keep These for Later Imports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Chord Deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Normal Tolerance</source>
+        <translation type="unfinished">法线公差(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Stitching</source>
+        <translation type="unfinished">缝合(&amp;S)</translation>
+    </message>
+    <message>
+        <source>S&amp;titching Tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Merge Geometries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove &amp;Empty Groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Unify Surface Normals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without this they hold for this import alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>olImportSummary</name>
     <message>
         <source>%1: none</source>
@@ -641,32 +763,8 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>the usual one</source>
-        <translation>常规</translation>
-    </message>
-    <message>
-        <source>chords within %1 mm, normals within %2°</source>
-        <translation>弦偏差不超过 %1 mm，法线偏差不超过 %2°</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>格式</translation>
-    </message>
-    <message>
-        <source>Fineness</source>
-        <translation>精细度</translation>
-    </message>
-    <message>
-        <source>Stitching</source>
-        <translation>缝合</translation>
-    </message>
-    <message>
-        <source>gaps up to %1 mm</source>
-        <translation>间隙不超过 %1 mm</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>关</translation>
     </message>
     <message>
         <source>surfaces</source>
@@ -775,14 +873,14 @@
     </message>
 </context>
 <context>
-    <name>olLibraryFault</name>
+    <name>olLibraryCheck</name>
     <message>
         <source>it is no library</source>
-        <translation>这不是库</translation>
+        <translation type="unfinished">这不是库</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation>其末尾缺失</translation>
+        <translation type="unfinished">其末尾缺失</translation>
     </message>
 </context>
 <context>
@@ -897,12 +995,39 @@
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>Preferences as a Pa&amp;nel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy &amp;Support Information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Versions, changed settings and the end of the log are on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olMessageLine</name>
     <message>
         <source>Close the message</source>
         <translation>关闭消息</translation>
+    </message>
+</context>
+<context>
+    <name>olModelExtent</name>
+    <message>
+        <source>about %1 % of the model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: coarse, round parts show corners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: very fine, the import takes long</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -961,6 +1086,10 @@
         <source>The import is done, with remarks.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The settings could not be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olModelFormat</name>
@@ -994,6 +1123,10 @@
     <message>
         <source>Has changes that are not applied yet</source>
         <translation>有尚未应用的更改</translation>
+    </message>
+    <message>
+        <source>Has settings that differ from their defaults</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1052,6 +1185,13 @@
     <message>
         <source>&amp;Keep %1</source>
         <translation>保留 %1(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>olPageFrame</name>
+    <message>
+        <source>Not chosen</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1323,6 @@
         <translation>取消(&amp;C)</translation>
     </message>
     <message>
-        <source>%1 is locked: %2</source>
-        <translation>%1 已锁定：%2</translation>
-    </message>
-    <message>
         <source>&amp;Stay</source>
         <translation>留在此处(&amp;S)</translation>
     </message>
@@ -1311,6 +1447,34 @@
         <source>The preferences in force were written to %1, without the pending changes.</source>
         <translation>当前生效的首选项已写入 %1，不含待应用的更改。</translation>
     </message>
+    <message>
+        <source>The documents about the settings are not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes effect at the next import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 settings take effect at the next import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes effect at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 settings take effect at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restart Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesFile</name>
@@ -1362,10 +1526,6 @@
 <context>
     <name>olPreferencesSession</name>
     <message>
-        <source> All settings of this run were then saved into it.</source>
-        <translation> 随后，本次运行的所有设置都已保存到其中。</translation>
-    </message>
-    <message>
         <source>The site&apos;s preferences %1 were changed. That counts from the next start of the program.</source>
         <translation>站点的首选项 %1 已更改。更改从程序下次启动起生效。</translation>
     </message>
@@ -1377,24 +1537,16 @@
         <source>is not known</source>
         <translation>不是已知的设置</translation>
     </message>
+    <message>
+        <source>All settings of this run were then saved into it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
     <message>
         <source>Cannot read the preferences %1: %2.</source>
         <translation>无法读取首选项 %1：%2。</translation>
-    </message>
-    <message>
-        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults</source>
-        <translation> 请使用该版本。如果没有该版本，则文件已损坏：将其移走，以默认值启动</translation>
-    </message>
-    <message>
-        <source>, or rename its copy %1 to it.</source>
-        <translation>，或将其备份 %1 重命名为该文件。</translation>
-    </message>
-    <message>
-        <source>The preferences file %1 is damaged: %2. %3</source>
-        <translation>首选项文件 %1 已损坏：%2。%3</translation>
     </message>
     <message>
         <source>The copy of %1 was loaded; what was changed after that is not in it.</source>
@@ -1409,20 +1561,8 @@
         <translation>其备份也无法读取 (%1)，因此所有设置均为默认值。</translation>
     </message>
     <message>
-        <source>The preferences file %1 is damaged: %2. </source>
-        <translation>首选项文件 %1 已损坏：%2。 </translation>
-    </message>
-    <message>
         <source>its folder is read-only, or another program keeps it busy</source>
         <translation>其文件夹为只读，或另一个程序正在占用它</translation>
-    </message>
-    <message>
-        <source>It is now kept as %1. </source>
-        <translation>它现在保留为 %1。 </translation>
-    </message>
-    <message>
-        <source>It could not be set aside: %1. </source>
-        <translation>无法将其移开：%1。 </translation>
     </message>
     <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
@@ -1431,6 +1571,22 @@
     <message>
         <source>%1: %2.</source>
         <translation>%1：%2。</translation>
+    </message>
+    <message>
+        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preferences file %1 is damaged: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is now kept as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It could not be set aside: %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1501,6 +1657,18 @@
     <message>
         <source>The profile &quot;%1&quot; was deleted.</source>
         <translation>配置文件“%1”已删除。</translation>
+    </message>
+    <message>
+        <source>All Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Settings:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1869,22 @@
         <source>%1 parts are one in the file, as binary STL knows no parts.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of its faces cannot be understood and are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bodies that cannot be understood and are left out: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No %1 has the field %2; it is passed over.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>
@@ -1841,12 +2025,20 @@
 <context>
     <name>olSettingMarks</name>
     <message>
-        <source>Differs from its default.</source>
-        <translation>与默认值不同。</translation>
+        <source>Set by the site.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Differs from its default. %1</source>
-        <translation>与默认值不同。%1</translation>
+        <source>Set by you.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed, not applied yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locked by the site.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1870,18 +2062,6 @@
     <message>
         <source>The default</source>
         <translation>默认值</translation>
-    </message>
-    <message>
-        <source>Takes effect at the next import</source>
-        <translation>下次导入时生效</translation>
-    </message>
-    <message>
-        <source>Takes effect at the next start</source>
-        <translation>下次启动时生效</translation>
-    </message>
-    <message>
-        <source>Is only recorded by this host</source>
-        <translation>此主机仅作记录</translation>
     </message>
     <message>
         <source>&amp;Take Back</source>
@@ -2141,36 +2321,39 @@
         <translation>无法创建其文件夹</translation>
     </message>
     <message>
-        <source>it is another program&apos;s database</source>
-        <translation>这是另一个程序的数据库</translation>
-    </message>
-    <message>
-        <source>it was written by a newer version</source>
-        <translation>它由更新的版本写入</translation>
-    </message>
-    <message>
-        <source>its format is unknown</source>
-        <translation>其格式未知</translation>
-    </message>
-    <message>
         <source>its header is not what it was</source>
         <translation>其文件头与原来不同</translation>
     </message>
+</context>
+<context>
+    <name>olStoreTables</name>
+    <message>
+        <source>it is another program&apos;s database</source>
+        <translation type="unfinished">这是另一个程序的数据库</translation>
+    </message>
+    <message>
+        <source>it was written by a newer version</source>
+        <translation type="unfinished">它由更新的版本写入</translation>
+    </message>
+    <message>
+        <source>its format is unknown</source>
+        <translation type="unfinished">其格式未知</translation>
+    </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation>其表与原来不同</translation>
+        <translation type="unfinished">其表与原来不同</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation>其结构已损坏</translation>
+        <translation type="unfinished">其结构已损坏</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation>有行被更改或缺失</translation>
+        <translation type="unfinished">有行被更改或缺失</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation>其历史记录被更改</translation>
+        <translation type="unfinished">其历史记录被更改</translation>
     </message>
 </context>
 <context>
@@ -2783,10 +2966,6 @@
         <translation>%1 不能与 --render 一起使用</translation>
     </message>
     <message>
-        <source>only one model can be opened at a time</source>
-        <translation>一次只能打开一个模型</translation>
-    </message>
-    <message>
         <source>there is no edition %1; there are essentials, design, professional and enterprise</source>
         <translation>没有版本 %1；只有 essentials、design、professional 和 enterprise</translation>
     </message>
@@ -2809,6 +2988,10 @@
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
         <translation type="unfinished">“%1”不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>only one model can be converted at a time</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

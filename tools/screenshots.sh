@@ -13,7 +13,8 @@ HOME="$work" XDG_CONFIG_HOME="$work" XDG_RUNTIME_DIR="$work" tools/with-display.
 
 largest=200000
 mkdir -p docs/pictures
-for picture in after:viewer preferences:preferences; do
+for picture in after:viewer preferences:preferences preferences-search:preferences-search \
+    preferences-import:preferences-import; do
     from="$work/${picture%%:*}.png"
     if [ "$(stat -c %s "$from")" -ge "$largest" ]; then
         echo "screenshots.sh: $from is too large for the repository" >&2

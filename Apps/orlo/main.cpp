@@ -9,6 +9,7 @@
 #include "Devices/olJoystickLink.h"
 #include "Devices/olSpacemouseLink.h"
 #include "Dialog/olConsentBox.h"
+#include "Dialog/olPageStyle.h"
 #include "Dialog/olPreferencesDialog.h"
 #include "Exchange/olFileNames.h"
 #include "Model/olScene.h"
@@ -24,6 +25,7 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -163,8 +165,8 @@ QString misuse(const QCommandLineParser &options)
         return Words::tr("--save needs either a model or --sample");
     if (isRendering && !models.isEmpty())
         return Words::tr("%1 does not go with --render").arg(models.first());
-    if (models.size() > 1)
-        return Words::tr("only one model can be opened at a time");
+    if (models.size() > 1 && isBatch(options))
+        return Words::tr("only one model can be converted at a time");
     if (!choiceOf(options))
         return Words::tr("expected --unit mm, cm, m, in or ft, and --up y or z");
     return {};
@@ -248,8 +250,20 @@ bool loadPlugin(olPreferencesSession &session, const QCommandLineParser &options
     }
 }
 
-/// From the options of the command line to the end of the run.
-int run(const QCommandLineParser &options)
+/// Which host this is, for another run of the same.
+QStringList hostArguments(const QCommandLineParser &options)
+{
+    QStringList arguments;
+    for (const char *option : {"edition", "app-name", "store", "plugin"}) {
+        if (options.isSet(QLatin1String(option)))
+            arguments << QStringLiteral("--%1=%2").arg(QLatin1String(option), options.value(QLatin1String(option)));
+    }
+    return arguments;
+}
+
+/// From the options of the command line to the end of the run. Where another run shall follow, `again` gets what that
+/// is to be started with.
+int run(const QCommandLineParser &options, QStringList &again)
 {
     olHostState &host = olHostState::the();
     const auto edition = olEditionNamed(options.value(QStringLiteral("edition")));
@@ -284,8 +298,12 @@ int run(const QCommandLineParser &options)
     if (options.isSet(QStringLiteral("sample")))
         window.openSample();
     window.show();
-    if (!options.positionalArguments().isEmpty())
-        window.openModel(modelOf(options), *choiceOf(options));
+    const QStringList models = options.positionalArguments();
+    olImportChoice choice = *choiceOf(options);
+    for (const QString &model : models) {
+        window.openModel(olArguments::file(model), choice);
+        choice.addsToScene = true;
+    }
     if (options.isSet(QStringLiteral("preferences")))
         window.openPreferences();
     const QString setting = options.value(QStringLiteral("setting"));
@@ -313,6 +331,8 @@ int run(const QCommandLineParser &options)
     const olResult<> saved = session.save();
     tell(session.takeNotices(), nullptr);
     session.stop();
+    if (!window.restartArguments().isEmpty())
+        again = hostArguments(options) + window.restartArguments();
     return saved.isOk() ? result : fail(saved.error());
 }
 
@@ -408,10 +428,15 @@ int main(int argc, char *argv[])
         options.process(application);
     }
     QApplication application(argumentCount, argumentTexts.data());
+    QApplication::setStyle(new olPageStyle); // owned by the application
     QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
     if (!options.parse(QApplication::arguments()))
         return refuse(options.errorText());
     options.process(application);
-    return run(options);
+    QStringList again;
+    const int result = run(options, again);
+    if (!again.isEmpty())
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), again);
+    return result;
 }

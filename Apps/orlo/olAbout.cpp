@@ -1,7 +1,10 @@
 #include "olAbout.h"
 
+#include "Dialog/olDocumentView.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <Standard_Version.hxx>
 
@@ -26,9 +29,20 @@ void olShowAbout(QWidget &parent)
                   "<li>Boost: Boost Software License 1.0</li></ul>"
                   "Their notices are in <i>third-party.md</i>, beside the documents of this program.")
             .arg(QStringLiteral(OCC_VERSION_COMPLETE), QString::fromLatin1(qVersion()));
+    const QString what = Words::tr("A desktop application to view, render and review CAD models in 3D.");
     QMessageBox box(QMessageBox::NoIcon, Words::tr("About ORLO"),
-                    QStringLiteral("<h3>ORLO %1</h3><p>%2</p>").arg(QCoreApplication::applicationVersion(), libraries),
+                    QStringLiteral("<h3>ORLO %1</h3><p>%2</p><p>%3</p>")
+                        .arg(QCoreApplication::applicationVersion(), what, libraries),
                     QMessageBox::Close, &parent);
     box.setTextFormat(Qt::RichText);
+    QPushButton *notices = box.addButton(Words::tr("&Notices"), QMessageBox::ActionRole);
+    const QString file = olDocumentView::find(QStringLiteral("third-party.md"));
+    notices->setEnabled(!file.isEmpty());
     box.exec();
+    if (box.clickedButton() != notices)
+        return;
+    auto *view = new olDocumentView(&parent);
+    view->setAttribute(Qt::WA_DeleteOnClose);
+    if (!view->show(file))
+        delete view;
 }

@@ -57,7 +57,8 @@ QString summariesOf(const std::vector<olImportJob> &jobs)
 
 } // namespace
 
-olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, bool hasScene, QWidget *parent)
+olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, bool hasScene, QWidget *parent,
+                               const olImportFineness::LockReason &lockReason)
     : QDialog(parent),
       m_question(new QWidget),
       m_options(new QLabel(summariesOf(jobs))),
@@ -95,7 +96,17 @@ olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, bool hasSce
     verdict->addWidget(m_headline, 1);
     m_headline->setFont(bold);
 
+    const auto hasSurfaces = [](const olImportJob &job) {
+        const olModelFormat *format = olModelFormat::ofFile(job.file);
+        return format && format->holds(olModelFormat::Surfaces);
+    };
+    const auto fine = std::find_if(jobs.begin(), jobs.end(), hasSurfaces);
     auto *layout = new QVBoxLayout(this);
+    if (lockReason && fine != jobs.end()) {
+        m_finenessFormat = QLatin1String(olModelFormat::ofFile(fine->file)->optionsType);
+        m_fineness = new olImportFineness(*fine, lockReason);
+        static_cast<QFormLayout *>(m_question->layout())->insertRow(1, m_fineness);
+    }
     for (QWidget *widget : std::initializer_list<QWidget *>{names, m_question, m_progress, m_verdict, m_outcome})
         layout->addWidget(widget);
     layout->addWidget(m_buttons);
@@ -106,6 +117,16 @@ olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, bool hasSce
     });
     connect(m_buttons, &QDialogButtonBox::rejected, this, &olImportDialog::reject);
     setStage(Stage::Asking);
+}
+
+olImportJob olImportDialog::asked(olImportJob job) const
+{
+    job.centerInOrigin = m_center->isChecked();
+    job.putOnGround = m_ground->isChecked();
+    const olModelFormat *format = olModelFormat::ofFile(job.file);
+    if (m_fineness && format && m_finenessFormat == QLatin1String(format->optionsType))
+        m_fineness->changeIn(job.options);
+    return job;
 }
 
 void olImportDialog::addChoices(bool isUnitOpen, bool hasScene)
@@ -144,9 +165,10 @@ void olImportDialog::addChoices(bool isUnitOpen, bool hasScene)
     m_add->setVisible(hasScene);
 }
 
-bool olImportDialog::centersInOrigin() const { return m_center->isChecked(); }
-
-bool olImportDialog::putsOnGround() const { return m_ground->isChecked(); }
+olImportFineness::Values olImportDialog::kept() const
+{
+    return m_fineness ? m_fineness->kept() : olImportFineness::Values();
+}
 
 olImportChoice olImportDialog::choice() const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "olImportChoice.h"
+#include "olImportFineness.h"
 
 #include "Exchange/olImporter.h"
 
@@ -25,12 +26,15 @@ public:
     enum class Success { Good, WithRemarks, Failed };
 
     /// What is open can only be added to where `hasScene`.
-    olImportDialog(const std::vector<olImportJob> &jobs, bool hasScene, QWidget *parent = nullptr);
+    olImportDialog(const std::vector<olImportJob> &jobs, bool hasScene, QWidget *parent = nullptr,
+                   const olImportFineness::LockReason &lockReason = {});
 
-    /// As the boxes are now.
-    [[nodiscard]] bool centersInOrigin() const;
-    [[nodiscard]] bool putsOnGround() const;
+    /// The job as it was asked for here.
+    [[nodiscard]] olImportJob asked(olImportJob job) const;
     [[nodiscard]] olImportChoice choice() const;
+
+    /// The settings that shall be so for later imports, too.
+    [[nodiscard]] olImportFineness::Values kept() const;
 
     /// From the question to the progress.
     void showReading();
@@ -57,6 +61,8 @@ private:
     Stage m_stage = Stage::Asking;
     QWidget *m_question;
     QLabel *m_options;
+    olImportFineness *m_fineness = nullptr; ///< where the format has surfaces
+    QString m_finenessFormat;
     QCheckBox *m_center;
     QCheckBox *m_ground;
     QComboBox *m_unit;

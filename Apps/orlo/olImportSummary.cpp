@@ -35,15 +35,6 @@ QString list(const QVector<QPair<bool, QString>> &items)
     return texts.isEmpty() ? Words::tr("nothing") : texts.join(QStringLiteral(", "));
 }
 
-QString fineness(const olImportRecord &options)
-{
-    if (!options.tessellation)
-        return Words::tr("the usual one");
-    return Words::tr("chords within %1 mm, normals within %2\u00b0")
-        .arg(options.chordDeviation)
-        .arg(options.normalTolerance);
-}
-
 } // namespace
 
 QString olImportSummary(const olImportJob &job)
@@ -53,19 +44,15 @@ QString olImportSummary(const olImportJob &job)
         return olModelFormat::noReader(job.file).toHtmlEscaped();
     const olImportRecord &options = job.options;
     QString rows = row(Words::tr("Format"), QLatin1String(format->name));
-    if (format->holds(olModelFormat::Surfaces)) {
-        rows += row(Words::tr("Fineness"), fineness(options));
-        rows +=
-            row(Words::tr("Stitching"),
-                options.stitching ? Words::tr("gaps up to %1 mm").arg(options.stitchingTolerance) : Words::tr("off"));
-    }
     const QStringList kinds{kind(Words::tr("surfaces"), options.importSurfaces, options.importInvisibleSurfaces),
                             kind(Words::tr("curves"), options.importCurves, options.importInvisibleCurves),
                             kind(Words::tr("meshes"), options.importMeshes, options.importInvisibleMeshes)};
     rows += row(Words::tr("Kinds"), kinds.join(QStringLiteral(", ")));
-    rows += row(Words::tr("Tidied up"), list({{options.mergeGeometries, Words::tr("meshes merged")},
-                                              {options.removeEmptyGroups, Words::tr("empty groups removed")},
-                                              {options.unifySurfaceNormals, Words::tr("normals unified")}}));
+    // Where there are surfaces, it is asked what is to be tidied up.
+    if (!format->holds(olModelFormat::Surfaces))
+        rows += row(Words::tr("Tidied up"), list({{options.mergeGeometries, Words::tr("meshes merged")},
+                                                  {options.removeEmptyGroups, Words::tr("empty groups removed")},
+                                                  {options.unifySurfaceNormals, Words::tr("normals unified")}}));
     rows += row(Words::tr("Checks"),
                 list({{job.verify, Words::tr("geometry verified")}, {job.optimize, Words::tr("faults repaired")}}));
     rows += row(Words::tr("Textures"),

@@ -7,6 +7,7 @@
 #include "olJournalPanel.h"
 #include "olModelFiles.h"
 #include "olSceneTree.h"
+#include "olSupport.h"
 #include "olToolIcons.h"
 
 #include "Dialog/olPreferencesDialog.h"
@@ -17,6 +18,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QFileInfo>
@@ -29,6 +31,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
@@ -39,11 +42,16 @@ constexpr double faintestWindow = 0.1;
 // What the window remembers from one run to the next, in the settings of the application.
 constexpr auto geometryKey = "window/geometry";
 constexpr auto panelsKey = "window/panels";
+constexpr auto dockedKey = "window/preferencesDocked";
+
+// In characters.
+constexpr int panelWidth = 72;
 
 } // namespace
 
 olMainWindow::olMainWindow(olPreferencesSession &session)
     : m_session(session),
+      m_log(std::make_unique<olLogTail>()),
       m_scene(std::make_unique<olScene>()),
       m_files(std::make_unique<olModelFiles>(*this, *m_scene)),
       m_tree(new olSceneTree(*m_scene)),
@@ -196,8 +204,14 @@ void olMainWindow::addViewActions()
 
 olPreferencesDialog &olMainWindow::openPreferences(const QString &module)
 {
-    if (!m_preferences)
+    if (!m_preferences) {
         m_preferences = std::make_unique<olPreferencesDialog>(m_session, this);
+        connect(m_preferences.get(), &olPreferencesDialog::restartAsked, this, &olMainWindow::restart);
+        if (m_dockPreferences->isChecked())
+            dockPreferences(true);
+    }
+    if (m_preferencesDock)
+        m_preferencesDock->show();
     m_preferences->open(module);
     return *m_preferences;
 }
@@ -208,6 +222,7 @@ void olMainWindow::openSample()
 {
     m_scene->loadSample();
     m_files->forgetOpenFiles();
+    m_isSampleOpen = true;
     showTitle(tr("Sample"));
     m_session.newScene();
 }
@@ -217,7 +232,58 @@ void olMainWindow::showTitle(const QString &open)
     setWindowTitle(open.isEmpty() ? tr("ORLO") : tr("%1 - ORLO").arg(open));
 }
 
-void olMainWindow::closePreferences() { m_preferences.reset(); }
+void olMainWindow::closePreferences()
+{
+    m_preferences.reset();
+    delete std::exchange(m_preferencesDock, nullptr);
+}
+
+/// As a panel of this window, or as a window of its own; what is edited in them stays.
+void olMainWindow::dockPreferences(bool docked)
+{
+    QSettings().setValue(QLatin1String(dockedKey), docked);
+    if (!m_preferences || docked == (m_preferencesDock != nullptr))
+        return;
+    const bool isShown = m_preferences->isVisible();
+    if (docked) {
+        m_preferencesDock = new QDockWidget(m_preferences->windowTitle(), this);
+        m_preferencesDock->setObjectName(QStringLiteral("preferencesDock"));
+        m_preferencesDock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+        m_preferencesDock->installEventFilter(this);
+        m_preferences->setParent(m_preferencesDock, Qt::Widget);
+        m_preferencesDock->setWidget(m_preferences.get());
+        connect(m_preferences.get(), &QDialog::finished, m_preferencesDock, &QWidget::hide);
+        addDockWidget(Qt::RightDockWidgetArea, m_preferencesDock);
+        resizeDocks({m_preferencesDock}, {fontMetrics().averageCharWidth() * panelWidth}, Qt::Horizontal);
+        m_preferencesDock->setVisible(isShown);
+    } else {
+        m_preferences->setParent(this, Qt::Dialog);
+        delete std::exchange(m_preferencesDock, nullptr);
+    }
+    if (isShown)
+        m_preferences->open();
+}
+
+/// Closing the panel is leaving the preferences, where somebody may want to stay with the edits.
+bool olMainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_preferencesDock || event->type() != QEvent::Close)
+        return QMainWindow::eventFilter(watched, event);
+    m_preferences->reject();
+    event->setAccepted(!m_preferences->isVisible());
+    return !event->isAccepted();
+}
+
+/// The page that was open is remembered by the preferences themselves.
+void olMainWindow::restart()
+{
+    m_restartArguments = QStringList{QStringLiteral("--preferences")} + m_files->openFiles();
+    if (m_isSampleOpen && m_files->openFiles().isEmpty())
+        m_restartArguments << QStringLiteral("--sample");
+    // Whoever has edits and wants to stay with them stays.
+    if (!close())
+        m_restartArguments.clear();
+}
 
 void olMainWindow::closeEvent(QCloseEvent *event)
 {
@@ -241,11 +307,18 @@ void olMainWindow::addMenus()
     connect(newScene, &QAction::triggered, this, [this] {
         m_scene->clear();
         m_files->forgetOpenFiles();
+        m_isSampleOpen = false;
         m_session.newScene();
     });
     QAction *sample = file->addAction(tr("Open the &Sample"));
     connect(sample, &QAction::triggered, this, &olMainWindow::openSample);
     m_files->addTo(*file);
+    m_files->offerSettings([this](const std::string &key) { return m_session.lockReason(key).value_or(QString()); },
+                           [this](const olImportFineness::Values &values) {
+                               for (const auto &value : values)
+                                   m_session.choose(value.first);
+                               return m_session.commit({}, values).error();
+                           });
     connect(m_files.get(), &olModelFiles::imported, this, [this] { m_session.newScene(); });
     connect(m_files.get(), &olModelFiles::told, this, [this](const QString &text) { statusBar()->showMessage(text); });
     connect(m_files.get(), &olModelFiles::openFilesChanged, this, [this] {
@@ -262,11 +335,20 @@ void olMainWindow::addMenus()
     QAction *preferences = edit->addAction(tr("&Preferences..."));
     preferences->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma));
     connect(preferences, &QAction::triggered, this, [this] { openPreferences(); });
+    m_dockPreferences = edit->addAction(tr("Preferences as a Pa&nel"));
+    m_dockPreferences->setCheckable(true);
+    m_dockPreferences->setChecked(QSettings().value(QLatin1String(dockedKey)).toBool());
+    connect(m_dockPreferences, &QAction::toggled, this, &olMainWindow::dockPreferences);
 }
 
 void olMainWindow::addHelp()
 {
     QMenu *help = menuBar()->addMenu(tr("&Help"));
+    QAction *support = help->addAction(tr("Copy &Support Information"));
+    connect(support, &QAction::triggered, this, [this] {
+        QApplication::clipboard()->setText(olSupportInformation(m_session, *m_log));
+        statusBar()->showMessage(tr("Versions, changed settings and the end of the log are on the clipboard."));
+    });
     QAction *about = help->addAction(tr("&About ORLO"));
     connect(about, &QAction::triggered, this, [this] { olShowAbout(*this); });
 }

@@ -3,15 +3,18 @@
 #include "State/olHostValue.h"
 
 #include <QMainWindow>
+#include <QStringList>
 
 #include <memory>
 
+class QAction;
 class QDockWidget;
 class QLabel;
 class QToolBar;
 class olFactsPanel;
 class olHostStatePanel;
 class olJournalPanel;
+class olLogTail;
 class olModelFiles;
 class olPreferencesDialog;
 class olPreferencesSession;
@@ -37,6 +40,10 @@ public:
     /// Gives all pages back to their modules; to be called before the plug-in is unloaded.
     void closePreferences();
 
+    /// The options and files that open what is open now, the preferences included, where somebody asked for a restart;
+    /// nothing otherwise. To be asked once the window is closed.
+    [[nodiscard]] const QStringList &restartArguments() const { return m_restartArguments; }
+
     [[nodiscard]] olScene &scene() { return *m_scene; }
 
     /// Reads a model into the scene, and says so where it cannot.
@@ -52,6 +59,7 @@ public:
     [[nodiscard]] const olJournalPanel &journal() const { return *m_journal; }
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -63,10 +71,13 @@ private:
     void addViewActions();
     void addHelp();
     void applyWindowSettings();
+    void restart();
+    void dockPreferences(bool docked);
     void recall();
     void remember() const;
 
     olPreferencesSession &m_session;
+    std::unique_ptr<olLogTail> m_log;
     std::unique_ptr<olScene> m_scene;
     std::unique_ptr<olModelFiles> m_files;
     olViewport *m_viewport = nullptr;
@@ -78,4 +89,8 @@ private:
     olHostStatePanel *m_state;
     olJournalPanel *m_journal;
     std::unique_ptr<olPreferencesDialog> m_preferences;
+    QDockWidget *m_preferencesDock = nullptr; ///< while they are docked
+    QAction *m_dockPreferences = nullptr;
+    bool m_isSampleOpen = false;
+    QStringList m_restartArguments;
 };

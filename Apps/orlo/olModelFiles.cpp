@@ -134,16 +134,18 @@ void olModelFiles::open(const QStringList &files)
         return;
     if (!olHostState::the().importOptionsShown)
         return start(jobs, olImportChoice::remembered(), addDialog(jobs));
-    auto *dialog = new olImportDialog(jobs, !m_scene.isEmpty(), &m_window);
+    auto *dialog = new olImportDialog(jobs, !m_scene.isEmpty(), &m_window, m_lockReason);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &olImportDialog::confirmed, this, [this, dialog, jobs] {
-        std::vector<olImportJob> asked = jobs;
-        for (olImportJob &job : asked) {
-            job.centerInOrigin = dialog->centersInOrigin();
-            job.putOnGround = dialog->putsOnGround();
-        }
+        std::vector<olImportJob> asked;
+        for (const olImportJob &job : jobs)
+            asked.push_back(dialog->asked(job));
+        const olImportFineness::Values kept = dialog->kept();
         dialog->choice().remember();
         start(asked, dialog->choice(), dialog);
+        const QString fault = kept.empty() ? QString() : m_keep(kept);
+        if (!fault.isEmpty())
+            report(true, tr("The settings could not be kept."), fault);
     });
     dialog->show();
 }

@@ -1,9 +1,15 @@
 #pragma once
 
+#include "olImportFineness.h"
+
 #include "Exchange/olImporter.h"
 
 #include <QHash>
 #include <QPointer>
+#include <QStringList>
+
+#include <functional>
+#include <utility>
 
 class QMenu;
 class QWidget;
@@ -35,6 +41,15 @@ public:
 
     /// The scene is made of something else now.
     void forgetOpenFiles();
+
+    /// Lets who is asked about an import change its settings, for that import or for good. `keep` makes them so and
+    /// returns why it could not; empty where it could.
+    void offerSettings(olImportFineness::LockReason lockReason,
+                       std::function<QString(const olImportFineness::Values &values)> keep)
+    {
+        m_lockReason = std::move(lockReason);
+        m_keep = std::move(keep);
+    }
 
 signals:
     /// At least one file was read well, and the scene is another one.
@@ -70,4 +85,6 @@ private:
     olRecentModels *m_recent;
     QHash<int, Running> m_running;
     QStringList m_openFiles;
+    olImportFineness::LockReason m_lockReason;
+    std::function<QString(const olImportFineness::Values &values)> m_keep;
 };

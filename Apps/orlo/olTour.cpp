@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QTextStream>
 
@@ -73,11 +74,25 @@ int olTour::run(const QString &folder)
     settle();
     saved = viewPicture(QStringLiteral("view-after.png")) && saved;
     saved = picture(m_window, QStringLiteral("after.png")) && saved;
+    saved = moreOfPreferences(preferences) && saved;
     const QStringList calls = m_window.journal().calls().mid(callsBefore);
     out << "Applied: Field of View " << changedFieldOfView << '\n';
     for (const QString &call : calls)
         out << "  " << call << '\n';
     return saved && !calls.isEmpty() ? 0 : 1;
+}
+
+/// What was found, and a page whose settings wait for an import.
+bool olTour::moreOfPreferences(olPreferencesDialog &preferences) const
+{
+    auto *search = preferences.findChild<QLineEdit *>(QStringLiteral("search"));
+    search->setText(QStringLiteral("clipping"));
+    settle();
+    const bool saved = picture(preferences, QStringLiteral("preferences-search.png"));
+    search->clear();
+    preferences.open(QStringLiteral("Step"));
+    settle();
+    return picture(preferences, QStringLiteral("preferences-import.png")) && saved;
 }
 
 bool olTour::viewPicture(const QString &name) const

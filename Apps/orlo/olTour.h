@@ -5,6 +5,7 @@
 class QImage;
 class QWidget;
 class olMainWindow;
+class olPreferencesDialog;
 
 /// Shows without a person at the screen that a change in the preferences reaches the view.
 class olTour
@@ -17,6 +18,7 @@ public:
     [[nodiscard]] int run(const QString &folder);
 
 private:
+    [[nodiscard]] bool moreOfPreferences(olPreferencesDialog &preferences) const;
     [[nodiscard]] bool viewPicture(const QString &name) const;
     [[nodiscard]] bool save(const QImage &image, const QString &name) const;
     [[nodiscard]] bool picture(QWidget &widget, const QString &name) const;

@@ -5,10 +5,12 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 
-olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel), m_close(new QToolButton)
+olMessageLine::olMessageLine()
+    : m_icon(new QLabel), m_text(new QLabel), m_action(new QPushButton), m_close(new QToolButton)
 {
     setAutoFillBackground(true);
     setFrameShape(StyledPanel);
@@ -18,7 +20,11 @@ olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel), m_close
     auto *layout = new QHBoxLayout(this);
     layout->addWidget(m_icon, 0, Qt::AlignTop);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_action, 0, Qt::AlignTop);
     layout->addWidget(m_close, 0, Qt::AlignTop);
+    m_action->setObjectName(QStringLiteral("messageAction"));
+    m_action->setAutoDefault(false);
+    connect(m_action, &QPushButton::clicked, this, &olMessageLine::actionAsked);
     m_close->setObjectName(QStringLiteral("closeMessage"));
     m_close->setAutoRaise(true);
     m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
@@ -30,9 +36,9 @@ olMessageLine::olMessageLine() : m_icon(new QLabel), m_text(new QLabel), m_close
     setVisible(false);
 }
 
-void olMessageLine::showError(const QString &text) { show(text, true); }
+void olMessageLine::showError(const QString &text) { show(text, {}, true); }
 
-void olMessageLine::showNote(const QString &text) { show(text, false); }
+void olMessageLine::showNote(const QString &text, const QString &action) { show(text, action, false); }
 
 void olMessageLine::clear()
 {
@@ -42,8 +48,10 @@ void olMessageLine::clear()
 
 QString olMessageLine::text() const { return m_text->text(); }
 
-void olMessageLine::show(const QString &text, bool isError)
+void olMessageLine::show(const QString &text, const QString &action, bool isError)
 {
+    m_action->setText(action);
+    m_action->setVisible(!action.isEmpty());
     const auto icon = isError ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));

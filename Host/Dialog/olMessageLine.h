@@ -3,6 +3,7 @@
 #include <QFrame>
 
 class QLabel;
+class QPushButton;
 class QToolButton;
 
 /// One line of the dialog that says what went wrong or what was done. Out of sight while there is nothing to say.
@@ -14,7 +15,8 @@ public:
     olMessageLine();
 
     void showError(const QString &text);
-    void showNote(const QString &text);
+    /// With a button of that text where one is given.
+    void showNote(const QString &text, const QString &action = {});
     void clear();
 
     [[nodiscard]] QString text() const;
@@ -23,10 +25,14 @@ signals:
     /// By its button; it is out of sight then.
     void closed();
 
+    /// The button of the note was pressed.
+    void actionAsked();
+
 private:
-    void show(const QString &text, bool isError);
+    void show(const QString &text, const QString &action, bool isError);
 
     QLabel *m_icon;
     QLabel *m_text;
+    QPushButton *m_action;
     QToolButton *m_close;
 };

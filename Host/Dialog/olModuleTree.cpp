@@ -1,5 +1,6 @@
 #include "Dialog/olModuleTree.h"
 
+#include "Dialog/olPageIcons.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
@@ -17,7 +18,7 @@ namespace
 enum Column { NameColumn, CountColumn };
 
 constexpr int nameRole = Qt::UserRole;
-constexpr int pendingRole = Qt::UserRole + 1;
+constexpr int markRole = Qt::UserRole + 1;
 
 } // namespace
 
@@ -45,17 +46,7 @@ olModuleTree::olModuleTree()
 void olModuleTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QTreeWidget::drawRow(painter, option, index);
-    if (index.sibling(index.row(), NameColumn).data(pendingRole).toBool()) {
-        const QRect name = visualRect(index.sibling(index.row(), NameColumn));
-        const bool isCurrent = selectionModel()->isSelected(index);
-        const qreal radius = option.fontMetrics.ascent() / 5.0;
-        const qreal x = isRightToLeft() ? name.left() + 2.0 * radius : name.right() - 2.0 * radius;
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(palette().color(isCurrent ? QPalette::HighlightedText : QPalette::Highlight));
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->drawEllipse(QPointF(x, name.center().y()), radius, radius);
-        painter->setRenderHint(QPainter::Antialiasing, false);
-    }
+    paintMark(*painter, option, index.sibling(index.row(), NameColumn));
     if (index != currentIndex() || !hasFocus())
         return;
     painter->setPen(QPen(palette().color(QPalette::Text), 1.0, Qt::DotLine));
@@ -63,9 +54,32 @@ void olModuleTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option
     painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
+void olModuleTree::paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &name) const
+{
+    int mark = name.data(markRole).toInt();
+    for (int row = 0; !isExpanded(name) && row < model()->rowCount(name); ++row)
+        mark = std::max(mark, model()->index(row, NameColumn, name).data(markRole).toInt());
+    if (Mark(mark) == Mark::None)
+        return;
+    const QRect place = visualRect(name);
+    const qreal radius = option.fontMetrics.ascent() / 5.0;
+    const QPointF middle(isRightToLeft() ? place.left() + 2.0 * radius : place.right() - 2.0 * radius,
+                         place.center().y() + 0.5);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(
+        palette().color(selectionModel()->isSelected(name) ? QPalette::HighlightedText : QPalette::Highlight));
+    painter.setRenderHint(QPainter::Antialiasing);
+    // As before the settings themselves: a bar for what is changed, dots for what is pending.
+    if (Mark(mark) == Mark::Pending)
+        painter.drawEllipse(middle, radius, radius);
+    else
+        painter.drawRoundedRect(QRectF(middle - QPointF(1.5, 2.0 * radius), QSizeF(3.0, 4.0 * radius)), 1.5, 1.5);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
 QSize olModuleTree::minimumSizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * 14, fontMetrics().height() * 4};
+    return {fontMetrics().averageCharWidth() * 14, fontMetrics().height() * 2};
 }
 
 template <class Use> void olModuleTree::eachItem(Use &&use) const
@@ -114,6 +128,7 @@ void olModuleTree::add(const olPreferencesEntry &entry)
     }
     item->setText(0, entry.name());
     item->setData(0, nameRole, entry.name());
+    item->setIcon(0, olPageIcons::of(entry.className()));
 }
 
 QTreeWidgetItem *olModuleTree::categoryItem(const QString &category)
@@ -124,6 +139,7 @@ QTreeWidgetItem *olModuleTree::categoryItem(const QString &category)
     }
     auto *item = new QTreeWidgetItem(this);
     item->setText(0, category);
+    item->setIcon(0, olPageIcons::ofCategory());
     return item;
 }
 
@@ -207,16 +223,19 @@ void olModuleTree::foldAgain()
     m_open = open;
 }
 
-void olModuleTree::markPending(const std::vector<const olPreferencesEntry *> &entries)
+void olModuleTree::mark(const std::function<Mark(const olPreferencesEntry &entry)> &markOf)
 {
     eachItem([&](QTreeWidgetItem &item) {
         const olPreferencesEntry *entry = entryOf(&item);
-        const bool isPending = entry && std::find(entries.begin(), entries.end(), entry) != entries.end();
-        if (item.data(NameColumn, pendingRole).toBool() == isPending)
+        const Mark mark = entry ? markOf(*entry) : Mark::None;
+        if (item.data(NameColumn, markRole).toInt() == int(mark))
             return;
-        item.setData(NameColumn, pendingRole, isPending);
-        const QString told = isPending ? tr("Has changes that are not applied yet") : QString();
+        item.setData(NameColumn, markRole, int(mark));
+        const QString told = mark == Mark::Pending   ? tr("Has changes that are not applied yet")
+                             : mark == Mark::Changed ? tr("Has settings that differ from their defaults")
+                                                     : QString();
         item.setToolTip(NameColumn, told);
         item.setData(NameColumn, Qt::AccessibleDescriptionRole, told);
     });
+    viewport()->update();
 }

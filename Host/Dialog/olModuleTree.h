@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <QTreeWidget>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -32,8 +33,11 @@ public:
     void showOnly(const std::map<const olPreferencesEntry *, int> &entries);
     void showAll();
 
-    /// Marks the modules with changes that are not applied yet, and no others.
-    void markPending(const std::vector<const olPreferencesEntry *> &entries);
+    enum class Mark { None, Changed, Pending };
+
+    /// Marks the modules whose settings differ from their defaults, and those with changes that are not applied yet. A
+    /// folded category bears the marks of what it hides.
+    void mark(const std::function<Mark(const olPreferencesEntry &entry)> &markOf);
 
     /// Categories that are not folded; none is at first. What a search unfolds does not count.
     [[nodiscard]] QStringList openCategories() const { return m_open; }
@@ -48,6 +52,7 @@ protected:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
+    void paintMark(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &name) const;
     void add(const olPreferencesEntry &entry);
     [[nodiscard]] QTreeWidgetItem *categoryItem(const QString &category);
     [[nodiscard]] olPreferencesEntry *entryOf(const QTreeWidgetItem *item) const;

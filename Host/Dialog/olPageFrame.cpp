@@ -1,14 +1,19 @@
 #include "Dialog/olPageFrame.h"
 
+#include "Dialog/olPageStyle.h"
 #include "Dialog/olSettingMarks.h"
+#include "Editing/olEffectText.h"
+#include "Session/olSettingDescription.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 
+#include <QComboBox>
 #include <QLayout>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QVariant>
 
 #include <algorithm>
+#include <map>
 
 olPageFrame::olPageFrame(QWidget &page) : m_page(&page), m_marks(new olSettingMarks(page)), m_wheelGuard(page)
 {
@@ -17,6 +22,10 @@ olPageFrame::olPageFrame(QWidget &page) : m_page(&page), m_marks(new olSettingMa
     setWidget(&page);
     // The page inherits no focus from the area around it: Tab goes from control to control.
     setFocusPolicy(Qt::NoFocus);
+    // In the boxes of choices where none is made; it is no choice itself.
+    const auto boxes = m_page->findChildren<QComboBox *>();
+    for (QComboBox *box : boxes)
+        box->setProperty(olPageStyle::hintProperty, tr("Not chosen"));
 }
 
 olPageFrame::~olPageFrame()
@@ -26,6 +35,37 @@ olPageFrame::~olPageFrame()
     delete m_marks;
     if (takeWidget())
         m_page->setParent(nullptr);
+}
+
+void olPageFrame::tell(const olPreferencesEntry &entry, const std::vector<olFoundControl> &controls)
+{
+    std::vector<olSettingMarks::Remark> remarks;
+    QStringList pages;
+    std::map<QString, int> notes;
+    for (const olFoundControl &control : controls) {
+        if (control.keys.isEmpty() || !control.widget)
+            continue;
+        const std::string key = control.keys.first().toStdString();
+        const olSettingDescription setting = olSettingDescription::of(entry, key);
+        if (!setting.unit.isEmpty() && control.keys.size() == 1)
+            m_units.show(*control.widget, setting.unit);
+        const olEffectText text = olEffectText::of(key, setting.effect);
+        ++notes[text.page];
+        if (!text.brief.isEmpty()) {
+            remarks.push_back({control, text.brief});
+            pages << text.page;
+        }
+    }
+    // What holds for most is said once, where something is to be said of all.
+    if (!notes.empty() && notes.count(QString()) == 0)
+        m_note = std::max_element(notes.begin(), notes.end(), [](const auto &one, const auto &other) {
+                     return one.second < other.second;
+                 })->first;
+    for (std::size_t index = 0; index < remarks.size(); ++index) {
+        if (pages[int(index)] == m_note)
+            remarks[index].brief.clear();
+    }
+    m_marks->setRemarks(std::move(remarks));
 }
 
 void olPageFrame::lock(const olFoundControl &control, const QString &reason)
@@ -78,5 +118,5 @@ void olPageFrame::showFromTheLeft(const olFoundControl &control)
 QSize olPageFrame::minimumSizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.averageCharWidth() * 12, metrics.height() * 6};
+    return {metrics.averageCharWidth() * 12, metrics.height() * 4};
 }

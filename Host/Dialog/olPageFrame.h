@@ -1,13 +1,15 @@
 #pragma once
 
+#include "Dialog/olFieldUnits.h"
 #include "Dialog/olWheelGuard.h"
 #include "Editing/olSettingLocks.h"
 
 #include <QPointer>
 #include <QScrollArea>
 
-#include <memory>
+#include <vector>
 
+class olPreferencesEntry;
 class olSettingMarks;
 
 /// A module's page on loan to the dialog: it scrolls, bears marks, and its wheel turns and locks are seen to. When the
@@ -27,6 +29,12 @@ public:
     /// three fields. Such a companion names its controls in the property "olCompanionOf".
     void lock(const olFoundControl &control, const QString &reason);
 
+    /// What there is to see of these controls' settings: units in their fields, and when the values take effect.
+    void tell(const olPreferencesEntry &entry, const std::vector<olFoundControl> &controls);
+
+    /// What holds for the whole page, one sentence for its head; empty where there is nothing to say.
+    [[nodiscard]] const QString &note() const { return m_note; }
+
     /// Brings the control into sight: its tab to the front, its frames unfolded, scrolled to.
     void reveal(const olFoundControl &control);
 
@@ -38,6 +46,8 @@ private:
 
     QPointer<QWidget> m_page;
     olSettingMarks *m_marks;
+    QString m_note;
     olWheelGuard m_wheelGuard;
     olSettingLocks m_locks;
+    olFieldUnits m_units;
 };

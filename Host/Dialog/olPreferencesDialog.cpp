@@ -3,6 +3,7 @@
 #include "Dialog/olChangesView.h"
 #include "Dialog/olConsentBox.h"
 #include "Dialog/olDialogMemory.h"
+#include "Dialog/olDocumentView.h"
 #include "Dialog/olHistoryView.h"
 #include "Dialog/olMessageLine.h"
 #include "Dialog/olModuleTree.h"
@@ -17,6 +18,7 @@
 #include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
+#include "Session/olRecordedSettings.h"
 #include "Session/olUndo.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
@@ -32,6 +34,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -40,6 +43,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <set>
 
 namespace
 {
@@ -49,6 +53,14 @@ QSize comfortableSize(const QWidget &widget)
 {
     const QFontMetrics metrics = widget.fontMetrics();
     return {metrics.averageCharWidth() * 130, metrics.height() * 36};
+}
+
+/// Side by side; every name of the tree has its room.
+QList<int> treeAndPage(const olModuleTree &tree)
+{
+    const int character = tree.fontMetrics().averageCharWidth();
+    const int names = std::max(character * 33, tree.sizeHint().width());
+    return {names, character * 130 - names};
 }
 
 QString changesText(std::size_t count)
@@ -74,6 +86,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_splitter(new QSplitter),
       m_title(new QLabel),
       m_locked(new QPushButton),
+      m_pageNote(new QLabel),
       m_restorePage(new QPushButton(tr("Restore &Page"))),
       m_pages(new QStackedWidget),
       m_nothing(new QLabel),
@@ -132,7 +145,7 @@ QWidget *olPreferencesDialog::buildLeft()
     auto *profiles = new olProfilesMenu({m_session.store().file(), m_session.siteFiles()}, this);
     menu->addMenu(profiles);
     connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_session, *m_pending); });
-    connect(profiles, &olProfilesMenu::done, m_message, &olMessageLine::showNote);
+    connect(profiles, &olProfilesMenu::done, m_message, [this](const QString &text) { m_message->showNote(text); });
     connect(profiles, &olProfilesMenu::failed, m_message, &olMessageLine::showError);
     connect(profiles, &olProfilesMenu::chosen, this, [this](const QString &name, const QString &file) {
         preview(tr("Apply Profile %1").arg(name), tr("&Apply"), olPreferencesFile::read(file));
@@ -171,6 +184,9 @@ QWidget *olPreferencesDialog::buildRight()
     m_restorePage->setObjectName(QStringLiteral("restorePage"));
     m_restorePage->setAutoDefault(false);
     m_restorePage->setToolTip(tr("Shows the defaults of this page. Nothing changes before OK or Apply."));
+    m_pageNote->setObjectName(QStringLiteral("pageNote"));
+    m_pageNote->setWordWrap(true);
+    m_pageNote->setVisible(false);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
     m_pages->addWidget(m_nothing);
@@ -186,6 +202,7 @@ QWidget *olPreferencesDialog::buildRight()
     header->addWidget(m_restorePage);
     layout->addLayout(header);
     layout->addWidget(m_locked, 0, Qt::AlignLeft);
+    layout->addWidget(m_pageNote);
     layout->addWidget(m_pages, 1);
     return right;
 }
@@ -222,6 +239,7 @@ void olPreferencesDialog::connectParts()
     connect(m_foundList, &olFoundSettings::menuAsked, this, &olPreferencesDialog::openMenuOfFound);
     connect(m_restorePage, &QPushButton::clicked, this, &olPreferencesDialog::restorePage);
     connect(m_changes, &QPushButton::clicked, this, &olPreferencesDialog::showChanges);
+    connect(m_message, &olMessageLine::actionAsked, this, &olPreferencesDialog::restartAsked);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &olPreferencesDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &olPreferencesDialog::reject);
     connect(m_buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &olPreferencesDialog::apply);
@@ -229,8 +247,8 @@ void olPreferencesDialog::connectParts()
         m_searchField->setFocus(Qt::ShortcutFocusReason);
         m_searchField->selectAll();
     });
-    connect(m_menu.get(), &olSettingMenu::lockAsked, this, [this](const QString &name, const QString &reason) {
-        m_message->showNote(tr("%1 is locked: %2").arg(name, reason));
+    connect(m_menu.get(), &olSettingMenu::lockAsked, this, [this](const olFoundControl &control, const QString &key) {
+        m_message->showNote(lockText(control, key.toStdString()));
     });
 
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
@@ -254,10 +272,9 @@ void olPreferencesDialog::recall()
 {
     const olDialogMemory memory = olDialogMemory::recall();
     m_place = memory.place;
-    const int character = fontMetrics().averageCharWidth();
-    const int list = std::max(character * 26, m_tree->sizeHint().width());
     if (memory.splitter.isEmpty() || !m_splitter->restoreState(memory.splitter))
-        m_splitter->setSizes({list, character * 130 - list});
+        m_splitter->setSizes(treeAndPage(*m_tree));
+    m_splitter->setOrientation(Qt::Horizontal);
     m_splitter->setChildrenCollapsible(false);
     m_tree->setOpenCategories(memory.openCategories);
     m_tree->choose(memory.page);
@@ -276,7 +293,8 @@ void olPreferencesDialog::open(const QString &name)
         m_searchField->clear();
     m_tree->choose(name);
     if (!isVisible()) {
-        place();
+        if (isWindow())
+            place();
         m_searchField->setFocus();
     }
     show();
@@ -319,8 +337,23 @@ void olPreferencesDialog::hideEvent(QHideEvent *event)
     QDialog::hideEvent(event);
     if (event->spontaneous())
         return;
-    m_place = geometry();
+    // Within a panel it has no place of its own.
+    if (isWindow())
+        m_place = geometry();
     remember();
+}
+
+/// Where it is narrow, beside a model say, the modules stand above their pages.
+void olPreferencesDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    constexpr int narrow = 85; // characters
+    const int character = fontMetrics().averageCharWidth();
+    const auto wanted = width() < character * narrow ? Qt::Vertical : Qt::Horizontal;
+    if (m_splitter->orientation() == wanted)
+        return;
+    m_splitter->setOrientation(wanted);
+    m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{1, 3} : treeAndPage(*m_tree));
 }
 
 void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
@@ -328,7 +361,9 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool asksForMenu =
         event->key() == Qt::Key_Menu || (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-    if (event->key() == Qt::Key_Escape && !m_searchField->text().isEmpty())
+    if (event->matches(QKeySequence::HelpContents))
+        showHelp();
+    else if (event->key() == Qt::Key_Escape && !m_searchField->text().isEmpty())
         m_searchField->clear();
     else if (isEnter && m_searchField->hasFocus())
         goToFound(m_foundList->currentRow());
@@ -338,6 +373,23 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
         (m_foundList->isVisible() ? static_cast<QWidget *>(m_foundList) : m_tree)->setFocus(Qt::TabFocusReason);
     else if (!asksForMenu || !m_menu->openFor(focusWidget()))
         QDialog::keyPressEvent(event);
+}
+
+/// The line of the setting that one works at, else all of the page, in the documents.
+void olPreferencesDialog::showHelp()
+{
+    const int row = m_foundList->hasFocus() ? m_foundList->currentRow() : -1;
+    const bool isFound = row >= 0 && std::size_t(row) < m_found.size();
+    const Found found = isFound ? m_found[std::size_t(row)] : Found{m_tree->chosen(), {}};
+    if (!found.entry)
+        return;
+    QString key = found.control.keys.isEmpty() ? m_menu->keyOf(focusWidget()) : found.control.keys.first();
+    if (key.isEmpty() && !found.entry->defaults().empty())
+        key = QString::fromStdString(found.entry->defaults().front().key);
+    if (!m_help)
+        m_help = new olDocumentView(this);
+    if (!m_help->show(olDocumentView::find(QStringLiteral("settings.md")), key))
+        m_message->showNote(tr("The documents about the settings are not installed."));
 }
 
 void olPreferencesDialog::accept()
@@ -396,10 +448,41 @@ QString olPreferencesDialog::lossText(const std::vector<olPendingChange> &change
 
 bool olPreferencesDialog::apply()
 {
+    const std::vector<olPendingChange> changes = m_pending->list();
     if (!store())
         return false;
-    tellNotices();
+    if (!tellNotices())
+        tellWhatWaits(changes);
     return true;
+}
+
+/// One line about what was applied and has no effect yet.
+void olPreferencesDialog::tellWhatWaits(const std::vector<olPendingChange> &applied)
+{
+    QStringList import;
+    QStringList start;
+    for (const olPendingChange &change : applied) {
+        const QString effect = olPreferencesSession::description(change.key).effect;
+        if (olIsOnlyRecorded(change.key))
+            continue;
+        if (effect == QLatin1String("next import"))
+            import << placeOf(change.key);
+        else if (effect == QLatin1String("next start"))
+            start << placeOf(change.key);
+    }
+    QStringList sentences;
+    if (import.size() == 1)
+        sentences << tr("%1 takes effect at the next import.").arg(import.first());
+    else if (!import.isEmpty())
+        sentences << tr("%1 settings take effect at the next import.").arg(import.size());
+    if (start.size() == 1)
+        sentences << tr("%1 takes effect at the next start.").arg(start.first());
+    else if (!start.isEmpty())
+        sentences << tr("%1 settings take effect at the next start.").arg(start.size());
+    const bool canRestart =
+        !start.isEmpty() && isSignalConnected(QMetaMethod::fromSignal(&olPreferencesDialog::restartAsked));
+    if (!sentences.isEmpty())
+        m_message->showNote(sentences.join(QLatin1Char(' ')), canRestart ? tr("Restart Now") : QString());
 }
 
 bool olPreferencesDialog::store()
@@ -447,6 +530,7 @@ void olPreferencesDialog::showCurrent()
     olPreferencesEntry *entry = m_tree->chosen();
     m_restorePage->setVisible(entry);
     m_locked->setVisible(false);
+    m_pageNote->setVisible(false);
     if (!entry) {
         m_title->clear();
         m_pages->setCurrentWidget(m_nothing);
@@ -457,7 +541,10 @@ void olPreferencesDialog::showCurrent()
     m_pending->page(*entry);
     m_title->setText(entry->name());
     listLocked(*entry);
-    m_pages->setCurrentWidget(frameOf(*entry));
+    olPageFrame *frame = frameOf(*entry);
+    m_pageNote->setText(frame->note());
+    m_pageNote->setVisible(!frame->note().isEmpty());
+    m_pages->setCurrentWidget(frame);
     revealFirstHit();
     refresh();
 }
@@ -471,6 +558,7 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
         m_menu->addTo(m_search->controls(entry));
         m_tips->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
+        frame->tell(entry, m_search->controls(entry));
         frame->marks().setHits(m_hits.value(&entry));
         connect(&frame->marks(), &olSettingMarks::clicked, this,
                 [this](QWidget *control, const QPoint &place) { m_menu->openFor(control, place); });
@@ -480,17 +568,21 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
 
 void olPreferencesDialog::lockSettings(olPreferencesEntry &entry, olPageFrame &frame)
 {
-    std::vector<olFoundControl> locked;
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
-            const auto reason = m_session.lockReason(key.toStdString());
-            if (!reason)
-                continue;
-            frame.lock(control, tr("%1 is locked: %2").arg(control.name, *reason));
-            locked.push_back(control);
+            const QString text = lockText(control, key.toStdString());
+            if (!text.isEmpty())
+                frame.lock(control, text);
         }
     }
-    frame.marks().setLocked(locked);
+}
+
+/// Why, and by which file; empty where it is not locked.
+QString olPreferencesDialog::lockText(const olFoundControl &control, const std::string &key) const
+{
+    const auto reason = m_session.lockReason(key);
+    return reason ? tr("%1 is locked: %2 The lock stands in %3.").arg(control.name, *reason, m_session.siteFile(key))
+                  : QString();
 }
 
 /// What is disabled cannot be reached by keyboard, so the page's locked settings are also listed in its header.
@@ -500,10 +592,9 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
     menu->clear();
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
-            const auto reason = m_session.lockReason(key.toStdString());
-            if (!reason)
+            const QString text = lockText(control, key.toStdString());
+            if (text.isEmpty())
                 continue;
-            const QString text = tr("%1 is locked: %2").arg(control.name, *reason);
             menu->addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this, [this, text, key] {
                 goTo(key);
                 m_message->showNote(text);
@@ -643,14 +734,19 @@ QString olPreferencesDialog::foundText(const Found &found, olFoundSettings::Colu
 
 QString olPreferencesDialog::originText(const std::string &key) const
 {
-    if (m_session.lockReason(key))
+    switch (stateOf(key)) {
+    case olSettingState::Locked:
         return tr("locked");
-    if (m_pending->isPending(key))
+    case olSettingState::Pending:
         return tr("pending");
-    const QString origin = m_session.origin(key);
-    return origin == QLatin1String("stored") ? tr("yours")
-           : origin == QLatin1String("site") ? tr("the site's")
-                                             : tr("default");
+    case olSettingState::Yours:
+        return tr("yours");
+    case olSettingState::Site:
+        return tr("the site's");
+    case olSettingState::Default:
+        break;
+    }
+    return tr("default");
 }
 
 /// In place of the pages, until one of them is asked for.
@@ -659,6 +755,7 @@ void olPreferencesDialog::showFound()
     const QString text = m_searchField->text().simplified();
     m_restorePage->setVisible(false);
     m_locked->setVisible(false);
+    m_pageNote->setVisible(false);
     if (m_found.empty())
         m_nothing->setText(text.isEmpty() ? tr("Every setting has its default.")
                                           : tr("Nothing matches \"%1\".").arg(m_searchField->text()));
@@ -738,19 +835,6 @@ void olPreferencesDialog::goTo(const QString &key)
     widget->setFocus(Qt::TabFocusReason);
 }
 
-std::vector<olFoundControl>
-olPreferencesDialog::controlsOn(const olPreferencesEntry &entry,
-                                const std::function<bool(const std::string &key)> &isWanted) const
-{
-    std::vector<olFoundControl> wanted;
-    for (const olFoundControl &control : m_search->controls(entry)) {
-        if (std::any_of(control.keys.begin(), control.keys.end(),
-                        [&](const QString &key) { return isWanted(key.toStdString()); }))
-            wanted.push_back(control);
-    }
-    return wanted;
-}
-
 void olPreferencesDialog::refresh()
 {
     m_refresh.stop();
@@ -763,10 +847,14 @@ void olPreferencesDialog::refresh()
     m_changes->setText(changesText(count));
     m_changes->setVisible(count > 0);
     apply->setEnabled(count > 0);
-    std::vector<const olPreferencesEntry *> pending;
+    std::set<const olPreferencesEntry *> pending;
     for (const olPendingChange &change : changes)
-        pending.push_back(change.entry);
-    m_tree->markPending(pending);
+        pending.insert(change.entry);
+    m_tree->mark([&](const olPreferencesEntry &entry) {
+        return pending.count(&entry) != 0             ? olModuleTree::Mark::Pending
+               : m_pending->differsFromDefault(entry) ? olModuleTree::Mark::Changed
+                                                      : olModuleTree::Mark::None;
+    });
     // What differs from its default may be another thing now.
     if (m_changedOnly->isChecked() && m_pages->currentWidget() != m_nothing && m_pages->currentWidget() != m_foundList)
         collectFound();
@@ -776,9 +864,33 @@ void olPreferencesDialog::refresh()
     olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr;
     if (!frame)
         return;
-    frame->marks().setChanged(
-        controlsOn(*entry, [&](const std::string &key) { return m_pending->differsFromDefault(*entry, key); }));
-    frame->marks().setPending(controlsOn(*entry, [&](const std::string &key) { return m_pending->isPending(key); }));
+    frame->marks().setMarks(marksOn(*entry));
+}
+
+std::vector<olSettingMarks::Mark> olPreferencesDialog::marksOn(const olPreferencesEntry &entry) const
+{
+    std::vector<olSettingMarks::Mark> marks;
+    for (const olFoundControl &control : m_search->controls(entry)) {
+        // Of a control for several settings, the one that says most.
+        auto state = olSettingState::Default;
+        for (const QString &key : control.keys)
+            state = std::max(state, stateOf(key.toStdString()));
+        if (!control.keys.isEmpty())
+            marks.push_back({control, state});
+    }
+    return marks;
+}
+
+olSettingState olPreferencesDialog::stateOf(const std::string &key) const
+{
+    if (m_session.lockReason(key))
+        return olSettingState::Locked;
+    if (m_pending->isPending(key))
+        return olSettingState::Pending;
+    const QString origin = m_session.origin(key);
+    if (origin == QLatin1String("stored"))
+        return olSettingState::Yours;
+    return origin == QLatin1String("site") ? olSettingState::Site : olSettingState::Default;
 }
 
 /// As a person finds it: the page and the control's name; without a control the key.

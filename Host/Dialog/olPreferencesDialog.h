@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Dialog/olFoundSettings.h"
+#include "Dialog/olSettingMarks.h"
 #include "Editing/olSettingsSearch.h"
 #include "Session/olPreferencesFile.h"
 #include "olHostExport.h"
@@ -24,6 +25,7 @@ class QLineEdit;
 class QPushButton;
 class QSplitter;
 class QStackedWidget;
+class olDocumentView;
 class olMessageLine;
 class olModuleTree;
 class olOutsideLine;
@@ -66,6 +68,10 @@ public:
     /// Writes the values in force, not those still pending.
     void exportTo(const QString &file);
 
+signals:
+    /// What was applied takes effect at the next start, and that shall be now. Asked for only where this is connected.
+    void restartAsked();
+
 public slots:
     /// Applies and closes; stays open where the host has something to tell about the saving.
     void accept() override;
@@ -87,6 +93,7 @@ public slots:
 protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;
 
@@ -109,6 +116,7 @@ private:
     void showCurrent();
     [[nodiscard]] olPageFrame *frameOf(olPreferencesEntry &entry);
     void lockSettings(olPreferencesEntry &entry, olPageFrame &frame);
+    [[nodiscard]] QString lockText(const olFoundControl &control, const std::string &key) const;
     void listLocked(olPreferencesEntry &entry);
     [[nodiscard]] std::vector<QWidget *> tabStops() const;
     void giveBack(QWidget *page);
@@ -122,13 +130,15 @@ private:
     void goToFound(int row);
     void openMenuOfFound(int row, const QPoint &globalPosition);
     void goTo(const QString &key);
-    [[nodiscard]] std::vector<olFoundControl>
-    controlsOn(const olPreferencesEntry &entry, const std::function<bool(const std::string &key)> &isWanted) const;
+    [[nodiscard]] std::vector<olSettingMarks::Mark> marksOn(const olPreferencesEntry &entry) const;
+    [[nodiscard]] olSettingState stateOf(const std::string &key) const;
     [[nodiscard]] QString placeOf(const std::string &key) const;
 
+    void showHelp();
     void refresh();
     [[nodiscard]] bool store();
     bool tellNotices();
+    void tellWhatWaits(const std::vector<olPendingChange> &applied);
     [[nodiscard]] bool mayLeave();
     [[nodiscard]] QString lossText(const std::vector<olPendingChange> &changes) const;
     [[nodiscard]] std::vector<olListedChange> listedChanges() const;
@@ -152,6 +162,7 @@ private:
     QSplitter *m_splitter;
     QLabel *m_title;
     QPushButton *m_locked;
+    QLabel *m_pageNote; ///< what holds for all settings of the page
     QPushButton *m_restorePage;
     QStackedWidget *m_pages;
     QLabel *m_nothing;
@@ -163,6 +174,7 @@ private:
     QHash<QWidget *, olPageFrame *> m_frames;
     QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
     std::vector<Found> m_found;
+    QPointer<olDocumentView> m_help;
     QTimer m_refresh;
     QRect m_place; ///< where it was last; not valid before
 

@@ -1,10 +1,13 @@
 #include "Dialog/olSettingMarks.h"
 
 #include "Editing/olPlainText.h"
+#include "Widgets/olBlended.h"
 
 #include <QEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -13,10 +16,10 @@
 namespace
 {
 
-constexpr int barWidth = 3;
-constexpr int barGap = 3;
+constexpr int marginWidth = 7;
+constexpr qreal barWidth = 3.0;
 constexpr int tintMargin = 2;
-constexpr QSize padlock(7, 10);
+constexpr QSizeF padlock(7.0, 10.0);
 constexpr int dotRadius = 3;
 
 /// Whether anything of it is to be seen: a tab behind, a folded frame and a hidden control show nothing.
@@ -36,64 +39,80 @@ olSettingMarks::olSettingMarks(QWidget &page) : QWidget(&page)
     show();
 }
 
-olSettingMarks::~olSettingMarks() { describe({}); }
-
-void olSettingMarks::setChanged(std::vector<olFoundControl> controls)
+olSettingMarks::~olSettingMarks()
 {
-    m_changed = std::move(controls);
-    describe(m_changed);
-    watch(m_changed);
+    m_marks.clear();
+    describe();
+}
+
+void olSettingMarks::setMarks(std::vector<Mark> marks)
+{
+    m_marks = std::move(marks);
+    describe();
+    for (const Mark &mark : m_marks)
+        watch(mark.control);
     update();
 }
 
-void olSettingMarks::setPending(std::vector<olFoundControl> controls)
+void olSettingMarks::setRemarks(std::vector<Remark> remarks)
 {
-    m_pending = std::move(controls);
-    watch(m_pending);
-    update();
-}
-
-void olSettingMarks::setLocked(std::vector<olFoundControl> controls)
-{
-    m_locked = std::move(controls);
-    watch(m_locked);
+    m_remarks = std::move(remarks);
+    for (const Remark &remark : m_remarks)
+        watch(remark.control);
     update();
 }
 
 void olSettingMarks::setHits(std::vector<olFoundControl> controls)
 {
     m_hits = std::move(controls);
-    watch(m_hits);
+    for (const olFoundControl &hit : m_hits)
+        watch(hit);
     update();
+}
+
+QString olSettingMarks::toldState(olSettingState state)
+{
+    switch (state) {
+    case olSettingState::Site:
+        return tr("Set by the site.");
+    case olSettingState::Yours:
+        return tr("Set by you.");
+    case olSettingState::Pending:
+        return tr("Changed, not applied yet.");
+    case olSettingState::Locked:
+        return tr("Locked by the site.");
+    case olSettingState::Default:
+        break;
+    }
+    return {};
 }
 
 /// Who cannot see the mark is told, before what the control tells of itself anyway: its tooltip, while nothing else is
 /// set.
-void olSettingMarks::describe(const std::vector<olFoundControl> &controls)
+void olSettingMarks::describe()
 {
-    for (auto described = m_described.begin(); described != m_described.end();
-         described = m_described.erase(described)) {
-        if (described->first)
-            described->first->setAccessibleDescription(described->second);
+    for (const auto &[widget, own] : m_described) {
+        if (widget)
+            widget->setAccessibleDescription(own);
     }
-    for (const olFoundControl &control : controls) {
-        if (!control.widget)
+    m_described.clear();
+    for (const Mark &mark : m_marks) {
+        QWidget *widget = mark.control.widget;
+        const QString state = toldState(mark.state);
+        if (!widget || state.isEmpty())
             continue;
-        const QString own = control.widget->accessibleDescription();
-        const QString told = own.isEmpty() ? olPlainText(control.widget->toolTip()) : own;
-        m_described.emplace_back(control.widget, own);
-        control.widget->setAccessibleDescription(told.isEmpty() ? tr("Differs from its default.")
-                                                                : tr("Differs from its default. %1").arg(told));
+        const QString own = widget->accessibleDescription();
+        const QString told = own.isEmpty() ? olPlainText(widget->toolTip()) : own;
+        m_described.emplace_back(widget, own);
+        widget->setAccessibleDescription(told.isEmpty() ? state : state + QLatin1Char(' ') + told);
     }
 }
 
 /// A mark lies beside its control, where the control's own moving would not have it painted again.
-void olSettingMarks::watch(const std::vector<olFoundControl> &controls)
+void olSettingMarks::watch(const olFoundControl &control)
 {
-    for (const olFoundControl &control : controls) {
-        for (QWidget *widget = control.widget; widget && widget != parentWidget(); widget = widget->parentWidget())
-            widget->installEventFilter(this);
-    }
+    for (QWidget *widget = control.widget; widget && widget != parentWidget(); widget = widget->parentWidget())
+        widget->installEventFilter(this);
 }
 
 bool olSettingMarks::eventFilter(QObject *watched, QEvent *event)
@@ -149,17 +168,48 @@ void olSettingMarks::paintEvent(QPaintEvent *)
         paintHit(painter, control);
         paintTabs(painter, control);
     }
-    const auto isPending = [this](const olFoundControl &control) {
-        return std::any_of(m_pending.begin(), m_pending.end(),
-                           [&control](const olFoundControl &other) { return other.widget == control.widget; });
-    };
-    for (const olFoundControl &control : m_changed)
-        paintBar(painter, control, isPending(control));
-    // Whoever goes back to a default has that pending, too.
-    for (const olFoundControl &control : m_pending)
-        paintBar(painter, control, true);
-    for (const olFoundControl &control : m_locked)
-        paintPadlock(painter, control);
+    for (const Mark &mark : m_marks)
+        paintMark(painter, mark);
+    for (const Remark &remark : m_remarks)
+        paintRemark(painter, remark);
+}
+
+/// Behind the control where there is room for the words, else only a sign at its end.
+void olSettingMarks::paintRemark(QPainter &painter, const Remark &remark) const
+{
+    const QWidget *widget = remark.control.widget;
+    if (!widget || remark.brief.isEmpty() || !isInSight(*widget))
+        return;
+    QRect place(widget->mapTo(parentWidget(), QPoint()), widget->size());
+    // A box to be ticked may be wider than its text.
+    if (widget->inherits("QCheckBox"))
+        place = QStyle::visualRect(
+            layoutDirection(), place,
+            {place.topLeft(), QSize(std::min(place.width(), widget->sizeHint().width()), place.height())});
+    const QWidget *around = widget->parentWidget();
+    // A unit may stand there.
+    for (const QObject *child : around->children()) {
+        const auto *label = qobject_cast<const QLabel *>(child);
+        const QRect beside = label ? QRect(label->mapTo(parentWidget(), QPoint()), label->size()) : QRect();
+        const bool isBehind = isRightToLeft() ? beside.right() < place.left() : beside.left() > place.right();
+        if (label && label->isVisible() && isBehind && beside.top() < place.bottom() && beside.bottom() > place.top())
+            place |= beside;
+    }
+    const QRect room(around->mapTo(parentWidget(), QPoint()), around->size());
+    constexpr int gap = 10;
+    const int free = isRightToLeft() ? place.left() - room.left() : room.right() - place.right();
+    const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(olBlended(palette().color(QPalette::Window), ink, 0.7));
+    if (free >= fontMetrics().horizontalAdvance(remark.brief) + 2 * gap) {
+        const QRect text = isRightToLeft() ? QRect(room.left(), place.top(), free - gap, place.height())
+                                           : QRect(place.right() + gap, place.top(), free - gap, place.height());
+        painter.drawText(text, int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter),
+                         remark.brief);
+    } else {
+        const qreal x = isRightToLeft() ? place.left() - 4.5 : place.right() + 5.5;
+        painter.drawEllipse(QPointF(x, place.center().y()), 2.5, 2.5);
+    }
 }
 
 void olSettingMarks::paintHit(QPainter &painter, const olFoundControl &control) const
@@ -193,60 +243,67 @@ void olSettingMarks::paintTabs(QPainter &painter, const olFoundControl &control)
     }
 }
 
-QRect olSettingMarks::barOf(const olFoundControl &control) const
+/// Beside the control, where reading begins.
+QRect olSettingMarks::marginOf(const olFoundControl &control) const
 {
     const QRect place = placeOf(control);
-    return place.isEmpty()
-               ? QRect()
-               : QRect(std::max(0, place.left() - barGap - barWidth), place.top(), barWidth, place.height());
-}
-
-QRect olSettingMarks::padlockOf(const olFoundControl &control) const
-{
-    const QRect place = placeOf(control);
-    return place.isEmpty() ? QRect()
-                           : QRect(std::max(0, place.left() - padlock.width() - 1),
-                                   place.center().y() - padlock.height() / 2, padlock.width(), padlock.height());
+    if (place.isEmpty())
+        return {};
+    const int left = isRightToLeft() ? std::min(place.right() + 2, width() - marginWidth)
+                                     : std::max(0, place.left() - marginWidth - 1);
+    return {left, place.top(), marginWidth, place.height()};
 }
 
 QWidget *olSettingMarks::markedAt(const QPoint &place) const
 {
     constexpr int near = 3;
-    const auto at = [&place](const QRect &mark) {
-        return !mark.isEmpty() && mark.adjusted(-near, 0, near, 0).contains(place);
-    };
-    for (const auto *marked : {&m_changed, &m_pending}) {
-        for (const olFoundControl &control : *marked) {
-            if (at(barOf(control)))
-                return control.widget;
-        }
-    }
-    for (const olFoundControl &control : m_locked) {
-        if (at(padlockOf(control)))
-            return control.widget;
-    }
-    return nullptr;
+    const auto at = std::find_if(m_marks.begin(), m_marks.end(), [&](const Mark &mark) {
+        const QRect margin = marginOf(mark.control);
+        return !margin.isEmpty() && margin.adjusted(-near, 0, near, 0).contains(place);
+    });
+    return at == m_marks.end() ? nullptr : at->control.widget.data();
 }
 
-void olSettingMarks::paintBar(QPainter &painter, const olFoundControl &control, bool isPending) const
+/// A faint dot for the default, a bar for a person's own value and one in pieces while it is pending, a ring for the
+/// site's, a padlock where that is locked.
+void olSettingMarks::paintMark(QPainter &painter, const Mark &mark) const
 {
-    const QRectF bar = barOf(control);
-    if (bar.isEmpty())
+    const QRectF margin = marginOf(mark.control);
+    if (margin.isEmpty())
         return;
-    painter.setBrush(palette().color(QPalette::Active, QPalette::Highlight));
-    if (!isPending) {
+    // Of something high the first line.
+    const QPointF middle(margin.center().x(),
+                         margin.top() + std::min(margin.height(), 2.0 * fontMetrics().height()) / 2.0);
+    const QRectF bar(middle.x() - barWidth / 2.0, margin.top(), barWidth, margin.height());
+    const QColor accent = palette().color(QPalette::Active, QPalette::Highlight);
+    const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(accent);
+    switch (mark.state) {
+    case olSettingState::Default:
+        painter.setBrush(olBlended(palette().color(QPalette::Window), ink, 0.35));
+        painter.drawEllipse(middle, 1.0, 1.0);
+        break;
+    case olSettingState::Site:
+        painter.setPen(QPen(ink, 1.2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(middle, barWidth - 0.5, barWidth - 0.5);
+        break;
+    case olSettingState::Yours:
         painter.drawRoundedRect(bar, barWidth / 2.0, barWidth / 2.0);
-        return;
+        break;
+    case olSettingState::Pending:
+        for (qreal top = bar.top(); top < bar.bottom(); top += 2.0 * barWidth)
+            painter.drawEllipse(QRectF(bar.left(), top, barWidth, std::min(barWidth, bar.bottom() - top)));
+        break;
+    case olSettingState::Locked:
+        paintPadlock(painter, QRectF(middle - QPointF(padlock.width(), padlock.height()) / 2.0, padlock));
+        break;
     }
-    for (qreal top = bar.top(); top < bar.bottom(); top += 2.0 * barWidth)
-        painter.drawEllipse(QRectF(bar.left(), top, barWidth, std::min<qreal>(barWidth, bar.bottom() - top)));
 }
 
-void olSettingMarks::paintPadlock(QPainter &painter, const olFoundControl &control) const
+void olSettingMarks::paintPadlock(QPainter &painter, const QRectF &place) const
 {
-    const QRectF place = padlockOf(control);
-    if (place.isEmpty())
-        return;
     const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
     const qreal body = place.height() * 0.55;
     painter.setBrush(ink);
@@ -254,5 +311,4 @@ void olSettingMarks::paintPadlock(QPainter &painter, const olFoundControl &contr
     painter.setPen(QPen(ink, 1.2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(place.adjusted(1.2, 0.5, -1.2, -body / 2.0), 2.0, 2.0);
-    painter.setPen(Qt::NoPen);
 }

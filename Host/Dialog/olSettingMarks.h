@@ -10,28 +10,44 @@
 #include <utility>
 #include <vector>
 
-/// Lies over a page, out of the way of mouse and keys, and marks controls: a bar before those whose value differs from
-/// the default, in pieces while the value is pending, a padlock before those that are locked, a tint behind those that
-/// were searched for, and a dot on tabs that hold such.
+/// Where a setting's value stands, as its margin shows it.
+enum class olSettingState { Default, Site, Yours, Pending, Locked };
+
+/// Lies over a page, out of the way of mouse and keys, and marks controls: every setting has a mark in its margin that
+/// tells its state and can be clicked; those that were searched for have a tint behind them, and tabs that hold such a
+/// dot.
 class ORLO_HOST_EXPORT olSettingMarks : public QWidget
 {
     Q_OBJECT
 
 public:
+    struct Mark {
+        olFoundControl control;
+        olSettingState state;
+    };
+
+    /// What is worth knowing of a setting besides its value, in short behind its control.
+    struct Remark {
+        olFoundControl control;
+        QString brief;
+    };
+
     /// Becomes a child of the page.
     explicit olSettingMarks(QWidget &page);
     ~olSettingMarks() override;
 
-    void setChanged(std::vector<olFoundControl> controls);
-    void setPending(std::vector<olFoundControl> controls);
-    void setLocked(std::vector<olFoundControl> controls);
+    void setMarks(std::vector<Mark> marks);
+    void setRemarks(std::vector<Remark> remarks);
     void setHits(std::vector<olFoundControl> controls);
 
-    [[nodiscard]] const std::vector<olFoundControl> &changed() const { return m_changed; }
+    [[nodiscard]] const std::vector<Mark> &marks() const { return m_marks; }
     [[nodiscard]] const std::vector<olFoundControl> &hits() const { return m_hits; }
 
     /// What is marked before it at that place of the page; null where nothing is.
     [[nodiscard]] QWidget *markedAt(const QPoint &place) const;
+
+    /// What a state is called, for who cannot see the mark.
+    [[nodiscard]] static QString toldState(olSettingState state);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -43,19 +59,18 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void watch(const std::vector<olFoundControl> &controls);
-    void describe(const std::vector<olFoundControl> &controls);
+    void watch(const olFoundControl &control);
+    void describe();
     [[nodiscard]] QRect placeOf(const olFoundControl &control) const;
+    [[nodiscard]] QRect marginOf(const olFoundControl &control) const;
     void paintHit(QPainter &painter, const olFoundControl &control) const;
     void paintTabs(QPainter &painter, const olFoundControl &control) const;
-    [[nodiscard]] QRect barOf(const olFoundControl &control) const;
-    [[nodiscard]] QRect padlockOf(const olFoundControl &control) const;
-    void paintBar(QPainter &painter, const olFoundControl &control, bool isPending) const;
-    void paintPadlock(QPainter &painter, const olFoundControl &control) const;
+    void paintMark(QPainter &painter, const Mark &mark) const;
+    void paintRemark(QPainter &painter, const Remark &remark) const;
+    void paintPadlock(QPainter &painter, const QRectF &place) const;
 
-    std::vector<olFoundControl> m_changed;
-    std::vector<olFoundControl> m_pending;
-    std::vector<olFoundControl> m_locked;
+    std::vector<Mark> m_marks;
+    std::vector<Remark> m_remarks;
     std::vector<olFoundControl> m_hits;
     std::vector<std::pair<QPointer<QWidget>, QString>> m_described;
 };

@@ -1,10 +1,10 @@
 #include "Dialog/olSettingMenu.h"
 
+#include "Editing/olEffectText.h"
 #include "Editing/olPendingChanges.h"
 #include "Editing/olValueText.h"
 #include "Session/olPreferencesFile.h"
 #include "Session/olPreferencesSession.h"
-#include "Session/olRecordedSettings.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -70,6 +70,12 @@ void olSettingMenu::addTo(const std::vector<olFoundControl> &controls)
     }
 }
 
+QString olSettingMenu::keyOf(const QWidget *widget) const
+{
+    const auto known = m_controls.find(widget);
+    return known == m_controls.end() ? QString() : known->keys.first();
+}
+
 bool olSettingMenu::openFor(QWidget *widget)
 {
     return widget && openFor(widget, widget->mapToGlobal(widget->rect().bottomLeft()));
@@ -128,13 +134,9 @@ void olSettingMenu::addFacts(QMenu &menu, const olFoundControl &control)
                                   : origin == QLatin1String("stored") ? tr("Set by you")
                                   : origin == QLatin1String("site")   ? tr("Set by the site")
                                                                       : tr("The default"));
-    const QString effect = olPreferencesSession::description(key).effect;
-    if (effect == QLatin1String("next import"))
-        add(QStringLiteral("effect"), tr("Takes effect at the next import"));
-    else if (effect == QLatin1String("next start"))
-        add(QStringLiteral("effect"), tr("Takes effect at the next start"));
-    if (olIsOnlyRecorded(key))
-        add(QStringLiteral("recordedOnly"), tr("Is only recorded by this host"));
+    const QString effect = olEffectText::of(key, olPreferencesSession::description(key).effect).sentence;
+    if (!effect.isEmpty())
+        add(QStringLiteral("effect"), effect);
 }
 
 /// One control may edit several settings; they go back together.
@@ -191,13 +193,11 @@ void olSettingMenu::addValue(QMenu &menu, const olFoundControl &control)
 void olSettingMenu::addLocks(QMenu &menu, const olFoundControl &control)
 {
     for (const QString &key : control.keys) {
-        const auto reason = m_session.lockReason(key.toStdString());
-        if (!reason)
+        if (!m_session.lockReason(key.toStdString()))
             continue;
         QAction *why = menu.addAction(tr("&Why Is This Locked?"));
         why->setObjectName(QStringLiteral("whyLocked"));
-        connect(why, &QAction::triggered, this,
-                [this, name = control.name, reason = *reason] { emit lockAsked(name, reason); });
+        connect(why, &QAction::triggered, this, [this, control, key] { emit lockAsked(control, key); });
         return;
     }
 }

@@ -29,11 +29,14 @@ public:
     bool openFor(QWidget *widget);
     bool openFor(QWidget *widget, const QPoint &globalPosition);
 
+    /// The setting that the widget edits, or is a part of; empty where it belongs to none.
+    [[nodiscard]] QString keyOf(const QWidget *widget) const;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
     /// Someone wants to know why the setting is locked.
-    void lockAsked(const QString &name, const QString &reason);
+    void lockAsked(const olFoundControl &control, const QString &key);
 
 private:
     void open(QWidget &asked, const QPoint &globalPosition);

@@ -165,6 +165,20 @@ bool olPendingChanges::differsFromDefault(const olPreferencesEntry &entry, const
     return page && page->hasControl(key) ? page->differsFromDefault(key) : differsFromDefault(key);
 }
 
+bool olPendingChanges::differsFromDefault(const olPreferencesEntry &entry) const
+{
+    const olEditedPage *page = findPage(entry);
+    const auto onPage = [page](const std::string &key) { return page->differsFromDefault(key); };
+    if (page && std::any_of(page->keys().begin(), page->keys().end(), onPage))
+        return true;
+    return std::any_of(entry.defaults().begin(), entry.defaults().end(), [&](const olOfferedDefault &offered) {
+        if (page && page->hasControl(offered.key))
+            return false;
+        const boost::any now = entry.value(offered.key);
+        return !now.empty() && !olValue::equal(now, m_session.defaultValue(offered.key));
+    });
+}
+
 olSettingValues olPendingChanges::inForce() const
 {
     findOwners();

@@ -61,6 +61,9 @@ public:
     [[nodiscard]] bool differsFromDefault(const std::string &key) const;
     [[nodiscard]] bool isPending(const std::string &key) const;
 
+    /// Whether any setting of the module does.
+    [[nodiscard]] bool differsFromDefault(const olPreferencesEntry &entry) const;
+
     /// The same for a setting with a control on that module's page, without a look at all other pages for its owner.
     [[nodiscard]] bool differsFromDefault(const olPreferencesEntry &entry, const std::string &key) const;
 

@@ -423,12 +423,16 @@ olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> 
     }
     const std::vector<olPreferencesEntry *> changed = withOwners(shown, besides);
     // A module may apply what its page shows; those behind the shown ones have not seen their new values yet.
-    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
-                  [](auto *entry) { entry->updateGUI(); });
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(), [this](auto *entry) {
+        emit aboutToTakeOver(*entry);
+        entry->updateGUI();
+    });
     for (olPreferencesEntry *entry : changed) {
         entry->applyPreferences();
         entry->markClean();
     }
+    std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
+                  [this](auto *entry) { emit tookOver(*entry); });
     return saved;
 }
 
@@ -585,6 +589,12 @@ olSettingDescription olPreferencesSession::description(const std::string &key)
 {
     const olPreferencesEntry *module = moduleOf(key);
     return module ? olSettingDescription::of(*module, key) : olSettingDescription();
+}
+
+QString olPreferencesSession::siteFile(const std::string &key) const
+{
+    const auto found = m_site.settings().find(key);
+    return found == m_site.settings().end() ? QString() : found->second.file;
 }
 
 QString olPreferencesSession::origin(const std::string &key) const

@@ -111,6 +111,9 @@ public:
     /// Why a setting cannot be changed; nothing where it can.
     [[nodiscard]] std::optional<QString> lockReason(const std::string &key) const;
 
+    /// The site's file that speaks of the setting; empty where none does.
+    [[nodiscard]] QString siteFile(const std::string &key) const;
+
     /// The module that has a setting, be it without a default; null for an unknown key.
     [[nodiscard]] static olPreferencesEntry *moduleOf(const std::string &key);
 
@@ -140,8 +143,8 @@ public:
     [[nodiscard]] olPreferencesStore &store() { return m_store; }
 
 signals:
-    /// Around the taking over in each module that has a setting another program changed. In between its page is filled
-    /// with the values in force.
+    /// Around the taking over in each module that has a setting another program, or a commit() besides its page,
+    /// changed. In between its page is filled with the values in force.
     void aboutToTakeOver(olPreferencesEntry &entry);
     void tookOver(olPreferencesEntry &entry);
 

@@ -159,17 +159,17 @@ olSiteSetting olSiteDefaults::early(const std::string &key, const std::string &t
     for (const File &file : m_read) {
         for (const Line &line : file.lines) {
             if (line.key == key)
-                return settingOf(line, olValue::fromJson(type, line.value));
+                return settingOf(file.name, line, olValue::fromJson(type, line.value));
         }
     }
     return {};
 }
 
-olSiteSetting olSiteDefaults::settingOf(const Line &line, const boost::any &value)
+olSiteSetting olSiteDefaults::settingOf(const QString &file, const Line &line, const boost::any &value)
 {
     if (!line.isLocked)
-        return {value, std::nullopt};
-    return {value, line.reason.isEmpty() ? Words::tr("This setting is fixed for your site.") : line.reason};
+        return {value, std::nullopt, file};
+    return {value, line.reason.isEmpty() ? Words::tr("This setting is fixed for your site.") : line.reason, file};
 }
 
 void olSiteDefaults::resolve(const DefaultOf &defaultOf, const WhyNot &whyNot)
@@ -196,7 +196,7 @@ void olSiteDefaults::resolveLine(const QString &file, const Line &line, const bo
         value = offered;
     }
     // What a more important file said before stays.
-    m_settings.emplace(line.key, settingOf(line, value));
+    m_settings.emplace(line.key, settingOf(file, line, value));
 }
 
 void olSiteDefaults::reject(const QString &file, const QString &why)

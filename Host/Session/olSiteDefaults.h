@@ -18,6 +18,7 @@
 struct olSiteSetting {
     boost::any value;              ///< its default here
     std::optional<QString> locked; ///< why nobody may choose another value; nothing where they may
+    QString file;                  ///< where it stands
 };
 
 /// Whose files count: root's alone, or anyone's, to judge a file before it is rolled out.
@@ -79,7 +80,7 @@ private:
 
     void readFile(const QString &name);
     void resolveLine(const QString &file, const Line &line, const boost::any &offered, const WhyNot &whyNot);
-    [[nodiscard]] static olSiteSetting settingOf(const Line &line, const boost::any &value);
+    [[nodiscard]] static olSiteSetting settingOf(const QString &file, const Line &line, const boost::any &value);
     [[nodiscard]] static QString takePart(const QString &name, const QByteArray &value, Line &line);
     void reject(const QString &file, const QString &why);
     void fault(const QString &file, int line, const QString &what);

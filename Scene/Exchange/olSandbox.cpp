@@ -168,7 +168,7 @@ bool refuseCalls()
     isComplete = refuse(filter, "clone3", {}, ENOSYS) && isComplete;
     isComplete = refuse(filter, "openat2", {}, ENOSYS) && isComplete;
     // One that fails may still end itself.
-    isComplete = refuse(filter, "tgkill", {SCMP_A0_64(SCMP_CMP_NE, scmp_datum_t(getpid()))}) && isComplete;
+    isComplete = refuse(filter, "tgkill", {SCMP_A0_64(SCMP_CMP_NE, scmp_datum_t(getpid()), 0)}) && isComplete;
     return isComplete && seccomp_load(filter) == 0;
 }
 

@@ -1,6 +1,6 @@
 #include "Widgets/olFoldHeader.h"
 
-#include "Widgets/olBlended.h"
+#include "Widgets/olCaptionBand.h"
 #include "Widgets/olInnerParts.h"
 
 #include <QKeyEvent>
@@ -27,10 +27,12 @@ void olFoldHeader::showState(const QString &caption, bool folded)
     update();
 }
 
+int olFoldHeader::padding() const { return olCaptionBand::padding(fontMetrics()); }
+
 QSize olFoldHeader::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.horizontalAdvance(m_caption) + metrics.height() + 3 * padding(), metrics.height() + 2 * padding()};
+    return {metrics.horizontalAdvance(m_caption) + metrics.height() + 3 * padding(), olCaptionBand::height(metrics)};
 }
 
 void olFoldHeader::keyPressEvent(QKeyEvent *event)
@@ -55,7 +57,7 @@ void olFoldHeader::keyPressEvent(QKeyEvent *event)
 void olFoldHeader::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintBand(painter);
+    olCaptionBand::paint(painter, rect(), palette(), underMouse(), hasFocus());
 
     QStyleOption arrow;
     arrow.initFrom(this);
@@ -79,16 +81,4 @@ QRect olFoldHeader::textRect() const
 {
     const int start = fontMetrics().height() + 2 * padding();
     return QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(start, 0, -padding(), 0));
-}
-
-void olFoldHeader::paintBand(QPainter &painter) const
-{
-    const QColor window = palette().color(QPalette::Window);
-    const QColor ink = palette().color(QPalette::WindowText);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double line = hasFocus() ? 2.0 : 0.0;
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), line) : QPen(Qt::NoPen));
-    painter.setBrush(olBlended(window, ink, underMouse() ? 0.16 : 0.08));
-    const double radius = padding() / 2.0;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
 }

@@ -23,10 +23,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    [[nodiscard]] int padding() const { return fontMetrics().height() / 4; }
+    [[nodiscard]] int padding() const;
     [[nodiscard]] QRect arrowRect() const;
     [[nodiscard]] QRect textRect() const;
-    void paintBand(QPainter &painter) const;
 
     QString m_caption;
     bool m_folded = false;

@@ -1,7 +1,11 @@
 #include "Framework/olPageLayout.h"
 
+#include "Widgets/QOLWheelPrec.h"
+
+#include <QAbstractSpinBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QWidget>
 
@@ -19,6 +23,21 @@ struct FieldLabel {
     [[nodiscard]] int end() const { return inset + widget->sizeHint().width(); }
 };
 
+/// A number of a few digits in a field across the whole page would be far from its end and its unit.
+void keepNarrow(QFormLayout &form, int row)
+{
+    QLayoutItem *item = form.itemAt(row, QFormLayout::FieldRole);
+    QWidget *field = item ? item->widget() : nullptr;
+    const auto *line = qobject_cast<QLineEdit *>(field);
+    if (!qobject_cast<QAbstractSpinBox *>(field) && !qobject_cast<QOLWheelPrec *>(field) &&
+        !(line && line->validator()))
+        return;
+    form.setAlignment(field, Qt::AlignLeft | Qt::AlignVCenter);
+    // All fields alike, whatever a host shows in some besides the number.
+    if (line)
+        field->setMaximumWidth(field->sizeHint().width());
+}
+
 /// All of them but for those on the tabs of a tab widget further down.
 void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &labels)
 {
@@ -31,6 +50,7 @@ void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &lab
             form->setRowWrapPolicy(QFormLayout::WrapLongRows);
             for (int row = 0; row < form->rowCount(); ++row) {
                 QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);
+                keepNarrow(*form, row);
                 if (auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr)
                     labels.push_back({label, inset});
             }

@@ -7,24 +7,33 @@
 #include "olStartFault.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olExportScene.h"
 #include "Model/olScene.h"
 #include "State/olHostState.h"
+#include "Utilities/olLog.h"
 #include "View/olViewport.h"
+#include "Widgets/olTesselationSettings.h"
 
 #include <TDocStd_Document.hxx>
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>
 #include <QWindow>
@@ -76,6 +85,150 @@ protected:
         return text->toPlainText();
     }
 };
+
+TEST_F(MainWindow, RestartsOnTheSamePageWithWhatWasOpen)
+{
+    action("Open the Sample").trigger();
+    olPreferencesDialog &preferences = window.openPreferences();
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("MainWindow show button text")));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
+    QWidget *box = preferences.focusWidget();
+    const auto click = [box] { QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2)); };
+    click();
+    auto *apply = preferences.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Apply);
+    ASSERT_TRUE(QTest::qWaitFor([apply] { return apply->isEnabled(); }, 2000));
+    QTest::mouseClick(apply, Qt::LeftButton);
+    auto *restart = preferences.findChild<QWidget *>(QStringLiteral("message"))
+                        ->findChild<QAbstractButton *>(QStringLiteral("messageAction"));
+    ASSERT_TRUE(restart->isVisible());
+
+    // With an edit that somebody wants to stay with, nothing happens.
+    click();
+    QTimer::singleShot(0, &window, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    QTest::mouseClick(restart, Qt::LeftButton);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.restartArguments(), QStringList());
+
+    click();
+    QTest::mouseClick(restart, Qt::LeftButton);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(window.restartArguments(), (QStringList{"--preferences", "--sample"}));
+    EXPECT_EQ(QSettings().value(QStringLiteral("preferencesDialog/page")).toString(), "MainWindow");
+}
+
+TEST_F(MainWindow, ThePreferencesFitBesideTheViewAsAPanelOnASmallScreen)
+{
+    olPreferencesDialog &preferences = window.openPreferences(QStringLiteral("Step"));
+    auto &box = control<QCheckBox>("Step", "keepSurfaceData");
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    const bool isTicked = box.isChecked();
+    window.resize(1366, 700);
+    action("Preferences as a Panel").trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !preferences.isWindow() && preferences.isVisible(); }, 2000));
+    QTest::qWait(100);
+    EXPECT_GE(view.width(), 1366 / 3) << "the model stays in sight";
+    const auto *area = qobject_cast<QScrollArea *>(module("Step").page()->parentWidget()->parentWidget());
+    ASSERT_NE(area, nullptr);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << "nothing must be scrolled sideways";
+    EXPECT_EQ(box.isChecked(), isTicked) << "what is edited stays";
+
+    // A number field's Enter closes nothing.
+    auto &deviation =
+        *control<olTesselationSettings>("Step", "tesselation").control(olTesselationSettings::Control::ChordDeviation);
+    deviation.setFocus();
+    QTest::keyClick(&deviation, Qt::Key_Return);
+    EXPECT_TRUE(preferences.isVisible());
+
+    auto *dock = window.findChild<QDockWidget *>(QStringLiteral("preferencesDock"));
+    QTimer::singleShot(0, &window, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    dock->close();
+    EXPECT_TRUE(dock->isVisible()) << "somebody stays with the edits";
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+    dock->close();
+    EXPECT_FALSE(dock->isVisible());
+    EXPECT_FALSE(preferences.isVisible());
+    window.openPreferences();
+    EXPECT_TRUE(dock->isVisible());
+    action("Preferences as a Panel").trigger();
+    EXPECT_TRUE(preferences.isWindow());
+    EXPECT_TRUE(preferences.isVisible());
+}
+
+TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
+{
+    const QString file = path(QStringLiteral("sample.step"));
+    ASSERT_EQ(olExportScene(window.scene().document(), file).error, QString());
+    const auto ask = [&] {
+        delete window.findChild<olImportDialog *>();
+        EXPECT_TRUE(drop({file}));
+        return window.findChild<olImportDialog *>();
+    };
+    const auto stored = [] { return boost::any_cast<double>(record().get("STEPOptions chord deviation")); };
+    olImportDialog *dialog = ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    auto *deviation = dialog->findChild<QDoubleSpinBox *>(QStringLiteral("chord deviation"));
+    ASSERT_NE(deviation, nullptr);
+    const auto words = [&] {
+        QStringList texts;
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            texts << label->text();
+        return texts.join(QLatin1Char('|'));
+    };
+    EXPECT_TRUE(words().contains(QStringLiteral("% of the model"))) << qPrintable(words());
+    EXPECT_FALSE(words().contains(QStringLiteral("coarse")));
+    deviation->setFocus();
+    deviation->selectAll();
+    QTest::keyClicks(deviation, QStringLiteral("50"));
+    EXPECT_TRUE(words().contains(QStringLiteral("coarse"))) << qPrintable(words());
+    emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    EXPECT_EQ(stored(), 0.075) << "for this import alone";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window.findChild<olImportDialog *>(); }, 10000));
+
+    dialog = ask();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    deviation = dialog->findChild<QDoubleSpinBox *>(QStringLiteral("chord deviation"));
+    EXPECT_EQ(deviation->value(), 0.075);
+    deviation->setFocus();
+    deviation->selectAll();
+    QTest::keyClicks(deviation, QStringLiteral("0.5"));
+    auto *keep = dialog->findChild<QCheckBox *>(QStringLiteral("keep"));
+    QTest::mouseClick(keep, Qt::LeftButton, Qt::NoModifier, QPoint(8, keep->height() / 2));
+    emit dialog->findChild<QDialogButtonBox *>()->accepted();
+    EXPECT_EQ(stored(), 0.5);
+    EXPECT_EQ(olHostState::the().importRecord("STEP")->chordDeviation, 0.5);
+    EXPECT_EQ(session.origin("STEPOptions chord deviation"), "stored");
+    EXPECT_EQ(session.origin("STEPOptions stitching"), "default") << "what was not changed is not kept";
+}
+
+TEST_F(MainWindow, F1ShowsTheSettingsLineInTheDocuments)
+{
+    olPreferencesDialog &preferences = window.openPreferences();
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("Camera fov")));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
+    QTest::keyClick(preferences.focusWidget(), Qt::Key_F1);
+    const auto *document = preferences.findChild<QTextBrowser *>(QStringLiteral("document"));
+    ASSERT_NE(document, nullptr);
+    EXPECT_TRUE(document->isVisible());
+    const QString line = document->textCursor().selectedText();
+    EXPECT_TRUE(line.startsWith(QStringLiteral("Camera fov"))) << qPrintable(line);
+    EXPECT_TRUE(line.contains(QStringLiteral("1 to 100"))) << qPrintable(line);
+    EXPECT_FALSE(document->toPlainText().contains(QStringLiteral("Navigator"))) << "the section of the page alone";
+}
+
+TEST_F(MainWindow, SupportInformationIsOnTheClipboardWithoutSecrets)
+{
+    apply("Camera", "Camera fov", 33.0f);
+    apply("WebInterface", "WebInterface white list", std::string("secret.host"));
+    olLog::error(QStringLiteral("the disk hums"));
+    action("Copy Support Information").trigger();
+    const QString text = QApplication::clipboard()->text();
+    EXPECT_TRUE(text.contains(QLatin1String(qVersion())));
+    EXPECT_TRUE(text.contains(QStringLiteral("\"Camera fov\": {\"type\": \"float\", \"value\": 33}")));
+    EXPECT_TRUE(text.contains(QStringLiteral("error: the disk hums")));
+    EXPECT_FALSE(text.contains(QStringLiteral("secret.host")));
+    EXPECT_TRUE(text.contains(QStringLiteral("WebInterface white list")));
+    EXPECT_FALSE(text.contains(QStringLiteral("Eye"))) << "a default is no news";
+}
 
 TEST_F(MainWindow, FramesPerSecondAreInTheStatusBarWhereWanted)
 {

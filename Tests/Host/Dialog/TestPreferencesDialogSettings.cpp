@@ -13,13 +13,15 @@ namespace
 class PreferencesDialogSettings : public DialogTest
 {
 protected:
-    /// Names of the controls marked as differing from their default.
+    /// Names of the controls marked as a person's own, or as becoming that.
     [[nodiscard]] QStringList marked() const
     {
         QCoreApplication::processEvents();
         QStringList names;
-        for (const olFoundControl &control : module.page.findChild<olSettingMarks *>()->changed())
-            names << control.name;
+        for (const auto &mark : module.page.findChild<olSettingMarks *>()->marks()) {
+            if (mark.state == olSettingState::Yours || mark.state == olSettingState::Pending)
+                names << mark.control.name;
+        }
         return names;
     }
 };
@@ -38,14 +40,17 @@ TEST_F(PreferencesDialogSettings, MarksWhatDiffersFromItsDefaultAsItIsEdited)
     module.page.samples->setValue(9);
     EXPECT_EQ(marked(), (QStringList{"Samples", "Mode"}));
     EXPECT_EQ(module.page.samples->accessibleDescription(),
-              "Differs from its default. How often each pixel is computed");
+              "Changed, not applied yet. How often each pixel is computed");
     module.page.samples->setValue(4);
     EXPECT_EQ(marked(), QStringList{"Mode"});
     EXPECT_EQ(module.page.samples->accessibleDescription(), QString());
     EXPECT_FALSE(module.page.mode->accessibleDescription().isEmpty());
     EXPECT_TRUE(dialog->apply());
     EXPECT_EQ(marked(), QStringList{"Mode"}) << "applied, it still differs";
-    module.page.mode->setCurrentIndex(0);
+    EXPECT_EQ(module.page.mode->accessibleDescription(), "Set by you.");
+    dialog->restorePage();
+    EXPECT_EQ(marked(), QStringList{"Mode"}) << "going back is a change, too";
+    ASSERT_TRUE(dialog->apply());
     EXPECT_EQ(marked(), QStringList());
     EXPECT_TRUE(module.page.mode->accessibleDescription().isEmpty());
 }
@@ -79,7 +84,7 @@ TEST_F(PreferencesDialogSettings, TheMarkTellsPendingFromAppliedAndFromLockedAnd
     ASSERT_NE(card, nullptr);
     EXPECT_NE(card->findChild<QAction *>(QStringLiteral("copyKey")), nullptr);
     card->close();
-    EXPECT_EQ(marks->markedAt(page.shadows->mapTo(&page, QPoint(-4, 4))), nullptr) << "a default has no mark";
+    EXPECT_EQ(marks->markedAt(page.shadows->mapTo(&page, QPoint(-4, 4))), page.shadows) << "a default has one, too";
     const auto *modeLabel = qobject_cast<QFormLayout *>(tab->layout())->labelForField(page.mode);
     EXPECT_EQ(marks->markedAt(modeLabel->mapTo(&page, QPoint(-4, modeLabel->height() / 2))), page.mode);
 }
@@ -202,8 +207,8 @@ TEST_F(PreferencesDialogSettings, ADefaultThatAFieldRoundsIsRestoredExactly)
     ASSERT_TRUE(dialog->apply());
     dialog->restorePage();
     EXPECT_EQ(module.page.scale->text(), "2.12346");
-    EXPECT_EQ(marked(), QStringList());
     ASSERT_TRUE(dialog->apply());
+    EXPECT_EQ(marked(), QStringList());
     EXPECT_EQ(module.value<float>("Studio scale"), 2.1234567f);
     EXPECT_EQ(module.changed, std::vector<std::string>{"Studio scale"});
 }
@@ -231,6 +236,7 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     EXPECT_TRUE(locked->isVisible()) << "by keyboard, which cannot reach what is disabled";
     ASSERT_EQ(locked->menu()->actions().size(), 1);
     EXPECT_TRUE(locked->menu()->actions().first()->text().contains(QStringLiteral("The farm needs it.")));
+    EXPECT_TRUE(locked->menu()->actions().first()->text().contains(siteFile)) << "whom to ask";
     module.page.tabs->setCurrentIndex(1);
     locked->menu()->actions().first()->trigger();
     EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "it leads to the setting";

@@ -1,0 +1,129 @@
+#include "Dialog/olPageStyle.h"
+
+#include "Widgets/olBlended.h"
+#include "Widgets/olCaptionBand.h"
+
+#include <QComboBox>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace
+{
+
+// From the background to the ink: at least 3 to 1 against either side of it wherever the ink itself can be read.
+constexpr double borderShare = 0.7;
+
+QFont captionFont(const QWidget *widget)
+{
+    QFont bold = widget ? widget->font() : QFont();
+    bold.setBold(true);
+    return bold;
+}
+
+} // namespace
+
+void olPageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                                const QWidget *widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
+        return;
+    painter->save();
+    painter->setPen(
+        olBlended(option->palette.color(QPalette::Window), option->palette.color(QPalette::WindowText), borderShare));
+    painter->setBrush(Qt::NoBrush);
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QRectF border = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (element == PE_IndicatorCheckBox)
+        painter->drawRect(border);
+    else
+        painter->drawEllipse(border);
+    painter->restore();
+}
+
+void olPageStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                              const QWidget *widget) const
+{
+    const auto *shown = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    const auto *box = qobject_cast<const QComboBox *>(widget);
+    if (element != CE_ComboBoxLabel || !shown || !box || !shown->currentText.isEmpty() || box->currentIndex() >= 0) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionComboBox hint = *shown;
+    hint.currentText = box->property(hintProperty).toString();
+    for (const auto role : {QPalette::Text, QPalette::ButtonText})
+        hint.palette.setColor(role, hint.palette.color(QPalette::PlaceholderText));
+    QProxyStyle::drawControl(element, &hint, painter, widget);
+}
+
+void olPageStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                                     const QWidget *widget) const
+{
+    const auto *box = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+    if (control != CC_GroupBox || !box) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    painter->save();
+    painter->setFont(captionFont(widget));
+    const QRect band(box->rect.topLeft(), QSize(box->rect.width(), olCaptionBand::height(painter->fontMetrics())));
+    olCaptionBand::paint(*painter, band, box->palette, false, box->state & State_HasFocus);
+    const QRect label = proxy()->subControlRect(CC_GroupBox, box, SC_GroupBoxLabel, widget);
+    const bool isEnabled = box->state & State_Enabled;
+    drawItemText(painter, label, int(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic), box->palette, isEnabled,
+                 box->text, QPalette::WindowText);
+    painter->restore();
+    if (box->subControls & SC_GroupBoxCheckBox) {
+        QStyleOptionButton check;
+        check.QStyleOption::operator=(*box);
+        check.rect = proxy()->subControlRect(CC_GroupBox, box, SC_GroupBoxCheckBox, widget);
+        proxy()->drawPrimitive(PE_IndicatorCheckBox, &check, painter, widget);
+    }
+}
+
+QRect olPageStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                                  const QWidget *widget) const
+{
+    const auto *box = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+    if (control != CC_GroupBox || !box)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    const QFontMetrics metrics(captionFont(widget));
+    const int padding = olCaptionBand::padding(metrics);
+    const int height = olCaptionBand::height(metrics);
+    const int side = pixelMetric(PM_IndicatorWidth, option, widget);
+    const QRect whole = box->rect;
+    const bool isCheckable = box->subControls & SC_GroupBoxCheckBox;
+    const int start = 2 * padding + (isCheckable ? side + 2 * padding : 0);
+    QRect place = whole;
+    switch (part) {
+    case SC_GroupBoxCheckBox:
+        place = QRect(whole.left() + 2 * padding, whole.top() + (height - side) / 2, side, side);
+        break;
+    case SC_GroupBoxLabel:
+        place.setLeft(whole.left() + start);
+        place.setHeight(height);
+        place.setWidth(std::min(metrics.horizontalAdvance(box->text) + padding, whole.width() - start));
+        break;
+    case SC_GroupBoxContents:
+        place.setTop(whole.top() + height);
+        break;
+    default:
+        break;
+    }
+    return visualRect(box->direction, whole, place);
+}
+
+QSize olPageStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                                    const QWidget *widget) const
+{
+    const auto *box = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+    if (type != CT_GroupBox || !box)
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    const QFontMetrics metrics(captionFont(widget));
+    const int caption = metrics.horizontalAdvance(box->text) + 6 * olCaptionBand::padding(metrics) +
+                        (box->subControls & SC_GroupBoxCheckBox ? pixelMetric(PM_IndicatorWidth, option, widget) : 0);
+    return size.expandedTo({caption, olCaptionBand::height(metrics)});
+}
