@@ -17,7 +17,7 @@ readers=("$@")
 [ "${#readers[@]}" -gt 0 ] || readers=(script import site store step iges stl vrml obj gltf ply 3mf dae off)
 
 install_packages
-build fuzz
+build fuzz "${readers[@]/#/fuzz-}"
 
 mkdir -p build-fuzz/found
 scratch=$(mktemp -d -p "$([ -d /dev/shm ] && echo /dev/shm || echo /tmp)")

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets the machine up, builds and runs all tests without a display.
-#   ./test.sh              the tests, and ten seconds of fuzzing for each reader
+#   ./test.sh              the tests, and ten seconds of fuzzing for each reader of what belongs to preferences
 #   ./test.sh --sanitize   the tests under the address, undefined behaviour and leak sanitizers
 #   ./test.sh --tidy       no tests: clang-tidy over all sources, which takes some twenty minutes
 set -euo pipefail
@@ -23,4 +23,4 @@ if [ "$tidy" = yes ]; then
     exec tools/tidy.sh
 fi
 ctest --preset "$preset" --parallel "$(nproc)"
-[ "$preset" = sanitize ] || ./fuzz.sh --seconds 10
+[ "$preset" = sanitize ] || ./fuzz.sh --seconds 10 script import site store

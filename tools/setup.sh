@@ -17,8 +17,10 @@ install_packages() {
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# Configures and builds a preset; a second time only what changed.
+# Configures and builds a preset, or some targets of it; a second time only what changed.
 build() {
-    cmake --preset "$1" -Wno-dev >/dev/null
-    cmake --build --preset "$1"
+    local preset=$1
+    shift
+    cmake --preset "$preset" -Wno-dev >/dev/null
+    cmake --build --preset "$preset" ${1:+--target "$@"}
 }
