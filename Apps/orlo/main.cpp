@@ -23,6 +23,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QMessageBox>
 #include <QProcess>
@@ -213,6 +214,17 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     return result;
 }
 
+/// What a person is told where no font has the letters of the language: in English, as that can be read.
+QStringList missingLetters(int language)
+{
+    constexpr QFontDatabase::WritingSystem letters[] = {QFontDatabase::Latin, QFontDatabase::SimplifiedChinese,
+                                                        QFontDatabase::Japanese, QFontDatabase::Korean};
+    if (!QFontDatabase().families(letters[language]).isEmpty())
+        return {};
+    return {QStringLiteral("No font on this system has the letters of the language that is chosen, so many texts show "
+                           "boxes in their place. The package fonts-noto-cjk brings such a font.")};
+}
+
 /// Whether there is somebody at a window to ask.
 bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !options.isSet(QStringLiteral("tour")); }
 
@@ -314,7 +326,7 @@ int run(const QCommandLineParser &options, QStringList &again)
     }
 
     const QString tourFolder = fileOf(options, "tour");
-    tell(session.takeNotices(), tourFolder.isEmpty() ? &window : nullptr);
+    tell(session.takeNotices() << missingLetters(host.displayLanguage), tourFolder.isEmpty() ? &window : nullptr);
     QObject::connect(&session, &olPreferencesSession::noticed, &window,
                      [&session, &window] { tell(session.takeNotices(), &window); });
     QObject::connect(&session, &olPreferencesSession::consentWanted, &window,
