@@ -19,8 +19,8 @@ constexpr std::string_view recorded[] = {
     "RenderOptions cache whole scene", "RenderOptions fast fullscreen", "RenderOptions gl context sharing",
     "RenderOptions correct two sided lighting", "RenderOptions clipping plane adaption",
     "RenderOptions hardware antialiasing samples",
-    // a log of the renderer's own, and texts in more than one language
-    "MainWindow redirect osg log", "MainWindow user language", "MainWindow show tool buttons text",
+    // a log of the renderer's own, and words on the buttons
+    "MainWindow redirect osg log", "MainWindow show tool buttons text",
     // compressed textures, and readers that work side by side within one file
     "Loader compress texture mode", "Loader compress texture size", "Loader parallel loading",
     // options of the VRML format
