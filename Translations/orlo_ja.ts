@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>A desktop application to view, render and review CAD models in 3D.</source>
-        <translation type="unfinished"></translation>
+        <translation>CADモデルを3Dで表示、レンダリング、レビューするためのデスクトップアプリケーションです。</translation>
     </message>
     <message>
         <source>&amp;Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>ライセンス表示(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -107,39 +107,39 @@
     <name>olEffectText</name>
     <message>
         <source>only recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>記録のみ</translation>
     </message>
     <message>
         <source>Is only recorded by this host</source>
-        <translation type="unfinished">このホストでは記録されるだけです</translation>
+        <translation>このホストでは記録されるだけです</translation>
     </message>
     <message>
         <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
-        <translation type="unfinished"></translation>
+        <translation>このホストはこれらの設定を記録するだけです：その形式の読み込み機能など、これらの設定に従う機能がありません。</translation>
     </message>
     <message>
         <source>next import</source>
-        <translation type="unfinished"></translation>
+        <translation>次回のインポート時</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished">次回のインポート時に有効になります</translation>
+        <translation>次回のインポート時に有効になります</translation>
     </message>
     <message>
         <source>These settings take effect at the next import.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの設定は次回のインポート時に有効になります。</translation>
     </message>
     <message>
         <source>next start</source>
-        <translation type="unfinished"></translation>
+        <translation>次回の起動時</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished">次回の起動時に有効になります</translation>
+        <translation>次回の起動時に有効になります</translation>
     </message>
     <message>
         <source>These settings take effect at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらの設定は次回の起動時に有効になります。</translation>
     </message>
 </context>
 <context>
@@ -190,148 +190,148 @@
     </message>
     <message>
         <source>%1 names are written with other letters or a number, as names of VRML have no blanks and stand for one thing.</source>
-        <translation type="unfinished"></translation>
+        <translation>VRMLの名前には空白を使用できず、1つの名前は1つのものしか表せないため、%1件の名前は文字を変えるか番号を付けて書き出されます。</translation>
     </message>
     <message>
         <source>%1 parts of several looks are groups of parts in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>外観が複数あるパーツ%1個は、ファイルではパーツのグループになります。</translation>
     </message>
     <message>
         <source>curves</source>
-        <translation type="unfinished">曲線</translation>
+        <translation>曲線</translation>
     </message>
     <message>
         <source>names of parts</source>
-        <translation type="unfinished"></translation>
+        <translation>パーツの名前</translation>
     </message>
     <message>
         <source>colours of corners</source>
-        <translation type="unfinished"></translation>
+        <translation>頂点カラー</translation>
     </message>
     <message>
         <source>opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度</translation>
     </message>
     <message>
         <source>physical materials</source>
-        <translation type="unfinished"></translation>
+        <translation>物理マテリアル</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー</translation>
     </message>
     <message>
         <source>hidden parts</source>
-        <translation type="unfinished"></translation>
+        <translation>非表示のパーツ</translation>
     </message>
     <message>
         <source>%1 knows no exact surfaces; their triangles are written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1は正確なサーフェスを扱えないため、サーフェスの三角形が書き出されます。</translation>
     </message>
     <message>
         <source>These are not in the file, as %1 does not know them: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1では扱えないため、次のものはファイルに含まれません：%2。</translation>
     </message>
     <message>
         <source>The texture %1 is not there any more; it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ%1はなくなっているため、除外されます。</translation>
     </message>
     <message>
         <source>The texture %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>テクスチャ%1を書き込めません：%2。</translation>
     </message>
 </context>
 <context>
     <name>olFactsPanel</name>
     <message>
         <source>(%1, %2, %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>(%1, %2, %3)</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>サイズ：</translation>
     </message>
     <message>
         <source>Along x, y and z, in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>x、y、z方向の長さ (ミリメートル)</translation>
     </message>
     <message>
         <source>Bounding box:</source>
-        <translation type="unfinished"></translation>
+        <translation>バウンディングボックス：</translation>
     </message>
     <message>
         <source>Its lowest and its highest corner, in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>最小の角と最大の角の座標 (ミリメートル)</translation>
     </message>
     <message>
         <source>Volume:</source>
-        <translation type="unfinished"></translation>
+        <translation>体積：</translation>
     </message>
     <message>
         <source>Of the surfaces themselves; of meshes, of their triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>サーフェス自体から求めた値 (メッシュの場合は三角形から求めた値)</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation type="unfinished"></translation>
+        <translation>面積：</translation>
     </message>
     <message>
         <source>Triangles:</source>
-        <translation type="unfinished"></translation>
+        <translation>三角形：</translation>
     </message>
     <message>
         <source>With which it is drawn and exported</source>
-        <translation type="unfinished"></translation>
+        <translation>描画とエクスポートに使用される三角形の数</translation>
     </message>
     <message>
         <source>Parts:</source>
-        <translation type="unfinished"></translation>
+        <translation>パーツ：</translation>
     </message>
     <message>
         <source>Each as often as it stands in the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>シーン内に現れるたびに数えた個数</translation>
     </message>
     <message>
         <source>measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>測定中...</translation>
     </message>
     <message>
         <source>Nothing is open.</source>
-        <translation type="unfinished">何も開かれていません。</translation>
+        <translation>何も開かれていません。</translation>
     </message>
     <message>
         <source>What is selected:</source>
-        <translation type="unfinished"></translation>
+        <translation>選択中のもの：</translation>
     </message>
     <message>
         <source>The whole scene:</source>
-        <translation type="unfinished"></translation>
+        <translation>シーン全体：</translation>
     </message>
     <message>
         <source>%1 × %2 × %3 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 × %3 mm</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2</translation>
     </message>
     <message>
         <source>%1 mm³</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm³</translation>
     </message>
     <message>
         <source>none: it is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>なし：閉じていません</translation>
     </message>
     <message numerus="yes">
         <source>%1; %n of the parts are not closed and not in it</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 (閉じていないパーツ%n個を除く)</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 mm²</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm²</translation>
     </message>
 </context>
 <context>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は%2</translation>
     </message>
 </context>
 <context>
@@ -553,59 +553,59 @@
     </message>
     <message>
         <source>no invisible surfaces are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>非表示のサーフェスはインポートされません</translation>
     </message>
     <message>
         <source>no surfaces are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>サーフェスはインポートされません</translation>
     </message>
     <message>
         <source>no invisible meshes are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>非表示のメッシュはインポートされません</translation>
     </message>
     <message>
         <source>no meshes are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>メッシュはインポートされません</translation>
     </message>
     <message>
         <source>no invisible curves are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>非表示の曲線はインポートされません</translation>
     </message>
     <message>
         <source>no curves are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>曲線はインポートされません</translation>
     </message>
     <message>
         <source>no invisible instances are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>非表示のインスタンスはインポートされません</translation>
     </message>
     <message>
         <source>Parts with faulty surfaces: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーフェスに不具合のあるパーツ：%1。</translation>
     </message>
     <message>
         <source>Gaps of up to %1 mm were to be closed, which would distort these; smaller ones are closed: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mmまでの隙間を閉じる設定ですが、次のパーツは変形してしまうため、より小さい隙間だけを閉じました：%2。</translation>
     </message>
     <message>
         <source>Parts whose faces are not joined, as that would distort them: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>変形してしまうため、面をつなぎ合わせていないパーツ：%1。</translation>
     </message>
     <message>
         <source>Faces that cannot be drawn: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>描画できない面：%1。</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2の%1個</translation>
     </message>
     <message>
         <source>%1 (%2 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 mm)</translation>
     </message>
     <message>
         <source>the import options leave nothing of it (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートオプションにより、インポートされるものがありません (%1)</translation>
     </message>
 </context>
 <context>
@@ -642,106 +642,106 @@
     </message>
     <message>
         <source>&amp;Replace the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>シーンを置き換える(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Add to the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>シーンに追加する(&amp;A)</translation>
     </message>
     <message>
         <source>Millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>ミリメートル</translation>
     </message>
     <message>
         <source>Centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>センチメートル</translation>
     </message>
     <message>
         <source>Metres</source>
-        <translation type="unfinished"></translation>
+        <translation>メートル</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>インチ</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>フィート</translation>
     </message>
     <message>
         <source>z is up</source>
-        <translation type="unfinished"></translation>
+        <translation>z軸が上</translation>
     </message>
     <message>
         <source>y is up</source>
-        <translation type="unfinished"></translation>
+        <translation>y軸が上</translation>
     </message>
     <message>
         <source>The file does not say it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに指定がありません。</translation>
     </message>
     <message>
         <source>&amp;Unit of length:</source>
-        <translation type="unfinished"></translation>
+        <translation>長さの単位(&amp;U)：</translation>
     </message>
     <message>
         <source>U&amp;p axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>上方向の軸(&amp;P)：</translation>
     </message>
     <message>
         <source>The import failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートに失敗しました。</translation>
     </message>
     <message>
         <source>The import is done, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートが完了しました (注意事項があります)。</translation>
     </message>
     <message>
         <source>The import is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートが完了しました。</translation>
     </message>
     <message>
         <source>Import Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートの失敗</translation>
     </message>
 </context>
 <context>
     <name>olImportFineness</name>
     <message>
         <source>&amp;Keep These for Later Imports</source>
-        <translation type="unfinished"></translation>
+        <translation>以後のインポートでも使用(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Chord Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Normal Tolerance</source>
-        <translation type="unfinished">法線公差(&amp;N)</translation>
+        <translation>法線公差(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Stitching</source>
-        <translation type="unfinished">ステッチ(&amp;S)</translation>
+        <translation>ステッチ(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;titching Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>ステッチ公差(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Merge Geometries</source>
-        <translation type="unfinished"></translation>
+        <translation>ジオメトリを結合(&amp;M)</translation>
     </message>
     <message>
         <source>Remove &amp;Empty Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>空のグループを削除(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Unify Surface Normals</source>
-        <translation type="unfinished"></translation>
+        <translation>サーフェスの法線を統一(&amp;U)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>オフの場合、これらは今回のインポートでのみ有効です。</translation>
     </message>
 </context>
 <context>
@@ -876,11 +876,11 @@
     <name>olLibraryCheck</name>
     <message>
         <source>it is no library</source>
-        <translation type="unfinished">ライブラリではありません</translation>
+        <translation>ライブラリではありません</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished">末尾が欠けています</translation>
+        <translation>末尾が欠けています</translation>
     </message>
 </context>
 <context>
@@ -979,33 +979,33 @@
     </message>
     <message>
         <source>Facts</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル情報</translation>
     </message>
     <message>
         <source>Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプル</translation>
     </message>
     <message>
         <source>%1 - ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - ORLO</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1、ほか%n件</numerusform>
         </translation>
     </message>
     <message>
         <source>Preferences as a Pa&amp;nel</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定をパネルとして表示(&amp;N)</translation>
     </message>
     <message>
         <source>Copy &amp;Support Information</source>
-        <translation type="unfinished"></translation>
+        <translation>サポート情報をコピー(&amp;S)</translation>
     </message>
     <message>
         <source>Versions, changed settings and the end of the log are on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン、変更済みの設定、ログの末尾をクリップボードにコピーしました。</translation>
     </message>
 </context>
 <context>
@@ -1019,15 +1019,15 @@
     <name>olModelExtent</name>
     <message>
         <source>about %1 % of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデルの約%1 %</translation>
     </message>
     <message>
         <source>%1: coarse, round parts show corners</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：粗く、丸い部分が角張って見えます</translation>
     </message>
     <message>
         <source>%1: very fine, the import takes long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：非常に細かく、インポートに時間がかかります</translation>
     </message>
 </context>
 <context>
@@ -1058,37 +1058,37 @@
     </message>
     <message>
         <source>The export failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスポートに失敗しました。</translation>
     </message>
     <message>
         <source>%1 was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を書き出しました。</translation>
     </message>
     <message>
         <source>%1 was written, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を書き出しました (注意事項があります)。</translation>
     </message>
     <message>
         <source>The import failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートに失敗しました。</translation>
     </message>
     <message>
         <source>Cannot read %1: there is no such file any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1を読み込めません：ファイルがなくなっています。</translation>
     </message>
     <message numerus="yes">
         <source>%n files were read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n個のファイルを読み込みました。</numerusform>
         </translation>
     </message>
     <message>
         <source>The import is done, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>インポートが完了しました (注意事項があります)。</translation>
     </message>
     <message>
         <source>The settings could not be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を保存できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1126,7 +1126,7 @@
     </message>
     <message>
         <source>Has settings that differ from their defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値と異なる設定があります</translation>
     </message>
 </context>
 <context>
@@ -1156,7 +1156,7 @@
     <name>olOSGWidget</name>
     <message>
         <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリッピング平面%1と%2は受け付けられません：どちらも0より大きい数値で、遠の値が近の値より大きい必要があります。</translation>
     </message>
 </context>
 <context>
@@ -1191,7 +1191,7 @@
     <name>olPageFrame</name>
     <message>
         <source>Not chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>未選択</translation>
     </message>
 </context>
 <context>
@@ -1449,31 +1449,31 @@
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定に関する文書がインストールされていません。</translation>
     </message>
     <message>
         <source>%1 takes effect at the next import.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は次回のインポート時に有効になります。</translation>
     </message>
     <message>
         <source>%1 settings take effect at the next import.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件の設定は次回のインポート時に有効になります。</translation>
     </message>
     <message>
         <source>%1 takes effect at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は次回の起動時に有効になります。</translation>
     </message>
     <message>
         <source>%1 settings take effect at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件の設定は次回の起動時に有効になります。</translation>
     </message>
     <message>
         <source>Restart Now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ再起動</translation>
     </message>
     <message>
         <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は%3でロックされています：%2</translation>
     </message>
 </context>
 <context>
@@ -1539,7 +1539,7 @@
     </message>
     <message>
         <source>All settings of this run were then saved into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>その後、今回の実行のすべての設定がこのファイルに保存されました。</translation>
     </message>
 </context>
 <context>
@@ -1574,19 +1574,19 @@
     </message>
     <message>
         <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
-        <translation type="unfinished"></translation>
+        <translation> そのバージョンを使用してください。そのようなバージョンがない場合、ファイルは破損しています：ファイルを別の場所に移動して既定値で開始するか、バックアップ%1があれば、その名前をこのファイルの名前に変更してください。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定ファイル%1が破損しています：%2。</translation>
     </message>
     <message>
         <source>It is now kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>破損したファイルは%1として残してあります。</translation>
     </message>
     <message>
         <source>It could not be set aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>破損したファイルを退避できませんでした：%1。</translation>
     </message>
 </context>
 <context>
@@ -1660,15 +1660,15 @@
     </message>
     <message>
         <source>All Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての設定</translation>
     </message>
     <message>
         <source>Changed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>変更済みの設定</translation>
     </message>
     <message>
         <source>&amp;Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>設定(&amp;S)：</translation>
     </message>
 </context>
 <context>
@@ -1867,38 +1867,38 @@
     </message>
     <message>
         <source>%1 parts are one in the file, as binary STL knows no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>バイナリSTLではパーツを区別できないため、%1個のパーツはファイルでは1つになります。</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、ほか%2件</translation>
     </message>
     <message>
         <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>面のうち%1個は解釈できないため、除外されます。</translation>
     </message>
     <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>解釈できないため除外されるボディ：%1。</translation>
     </message>
     <message>
         <source>No %1 has the field %2; it is passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1にはフィールド%2がありません。このフィールドは無視されます。</translation>
     </message>
 </context>
 <context>
     <name>olRecentModels</name>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>最近使用したファイルを開く(&amp;R)</translation>
     </message>
     <message>
         <source>%1  %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 (%3)</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>クリア(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -2026,19 +2026,19 @@
     <name>olSettingMarks</name>
     <message>
         <source>Set by the site.</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトによる設定です。</translation>
     </message>
     <message>
         <source>Set by you.</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーによる設定です。</translation>
     </message>
     <message>
         <source>Changed, not applied yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更されていますが、まだ適用されていません。</translation>
     </message>
     <message>
         <source>Locked by the site.</source>
-        <translation type="unfinished"></translation>
+        <translation>サイトによってロックされています。</translation>
     </message>
 </context>
 <context>
@@ -2088,35 +2088,35 @@
     <name>olSettingTips</name>
     <message>
         <source>Range: %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲：%1～%2</translation>
     </message>
     <message>
         <source>Range: from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲：%1以上</translation>
     </message>
     <message>
         <source>Range: up to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲：%1以下</translation>
     </message>
     <message>
         <source>Unit: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>単位：%1</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished">次回のインポート時に有効になります</translation>
+        <translation>次回のインポート時に有効になります</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished">次回の起動時に有効になります</translation>
+        <translation>次回の起動時に有効になります</translation>
     </message>
     <message>
         <source>Takes effect at once</source>
-        <translation type="unfinished"></translation>
+        <translation>すぐに有効になります</translation>
     </message>
     <message>
         <source>Default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値：%1</translation>
     </message>
 </context>
 <context>
@@ -2178,7 +2178,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は、%2</translation>
     </message>
 </context>
 <context>
@@ -2329,31 +2329,31 @@
     <name>olStoreTables</name>
     <message>
         <source>it is another program&apos;s database</source>
-        <translation type="unfinished">別のプログラムのデータベースです</translation>
+        <translation>別のプログラムのデータベースです</translation>
     </message>
     <message>
         <source>it was written by a newer version</source>
-        <translation type="unfinished">より新しいバージョンで書き込まれています</translation>
+        <translation>より新しいバージョンで書き込まれています</translation>
     </message>
     <message>
         <source>its format is unknown</source>
-        <translation type="unfinished">未知の形式です</translation>
+        <translation>未知の形式です</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation type="unfinished">テーブルが元の内容と異なります</translation>
+        <translation>テーブルが元の内容と異なります</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished">構造が壊れています</translation>
+        <translation>構造が壊れています</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation type="unfinished">変更された行または欠けている行があります</translation>
+        <translation>変更された行または欠けている行があります</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation type="unfinished">履歴が変更されています</translation>
+        <translation>履歴が変更されています</translation>
     </message>
 </context>
 <context>
@@ -2751,18 +2751,18 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は%2</translation>
     </message>
     <message>
         <source>there is no language %1, only %2 or user</source>
-        <translation type="unfinished"></translation>
+        <translation>言語%1はありません：使用できるのは%2、またはuserです</translation>
     </message>
 </context>
 <context>
     <name>olTranslations</name>
     <message>
         <source>There is no usable translation %1.qm in %2: its texts stay English.</source>
-        <translation type="unfinished"></translation>
+        <translation>使用できる翻訳%1.qmが%2にありません：テキストは英語のままです。</translation>
     </message>
 </context>
 <context>
@@ -2889,7 +2889,7 @@
     <message>
         <source>en</source>
         <comment>code of the language</comment>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
 </context>
 <context>
@@ -2975,23 +2975,23 @@
     </message>
     <message>
         <source>%1 has stored this.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1がこの値を保存しました。</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished">別のプログラム</translation>
+        <translation>別のプログラム</translation>
     </message>
     <message>
         <source>expected --unit mm, cm, m, in or ft, and --up y or z</source>
-        <translation type="unfinished"></translation>
+        <translation>--unitにはmm、cm、m、in、ftのいずれか、--upにはyまたはzを指定してください</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
-        <translation type="unfinished">「%1」はUTF-8ではありません</translation>
+        <translation>「%1」はUTF-8ではありません</translation>
     </message>
     <message>
         <source>only one model can be converted at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>一度に変換できるモデルは1つだけです</translation>
     </message>
 </context>
 </TS>

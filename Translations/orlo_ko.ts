@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;: %2</translation>
     </message>
 </context>
 <context>
@@ -2178,7 +2178,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;: %2</translation>
     </message>
 </context>
 <context>
@@ -2751,18 +2751,18 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;: %2</translation>
     </message>
     <message>
         <source>there is no language %1, only %2 or user</source>
-        <translation type="unfinished"></translation>
+        <translation>언어 %1은(는) 없습니다. %2 또는 user만 있습니다</translation>
     </message>
 </context>
 <context>
     <name>olTranslations</name>
     <message>
         <source>There is no usable translation %1.qm in %2: its texts stay English.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2에 사용할 수 있는 번역 %1.qm이 없습니다. 해당 텍스트는 영어로 표시됩니다.</translation>
     </message>
 </context>
 <context>
@@ -2889,7 +2889,7 @@
     <message>
         <source>en</source>
         <comment>code of the language</comment>
-        <translation type="unfinished"></translation>
+        <translation>ko</translation>
     </message>
 </context>
 <context>

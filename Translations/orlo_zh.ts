@@ -27,11 +27,11 @@
     </message>
     <message>
         <source>A desktop application to view, render and review CAD models in 3D.</source>
-        <translation type="unfinished"></translation>
+        <translation>用于以 3D 方式查看、渲染和评审 CAD 模型的桌面应用程序。</translation>
     </message>
     <message>
         <source>&amp;Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>声明(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -107,39 +107,39 @@
     <name>olEffectText</name>
     <message>
         <source>only recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>仅记录</translation>
     </message>
     <message>
         <source>Is only recorded by this host</source>
-        <translation type="unfinished">此主机仅作记录</translation>
+        <translation>此主机仅作记录</translation>
     </message>
     <message>
         <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
-        <translation type="unfinished"></translation>
+        <translation>此主机仅记录这些设置：它没有按这些设置工作的部分，例如该格式的读取程序。</translation>
     </message>
     <message>
         <source>next import</source>
-        <translation type="unfinished"></translation>
+        <translation>下次导入</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished">下次导入时生效</translation>
+        <translation>下次导入时生效</translation>
     </message>
     <message>
         <source>These settings take effect at the next import.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些设置在下次导入时生效。</translation>
     </message>
     <message>
         <source>next start</source>
-        <translation type="unfinished"></translation>
+        <translation>下次启动</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished">下次启动时生效</translation>
+        <translation>下次启动时生效</translation>
     </message>
     <message>
         <source>These settings take effect at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些设置在下次启动时生效。</translation>
     </message>
 </context>
 <context>
@@ -190,148 +190,148 @@
     </message>
     <message>
         <source>%1 names are written with other letters or a number, as names of VRML have no blanks and stand for one thing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 个名称在写入时改用了其他字母或加了数字，因为 VRML 的名称不含空格，且只能代表一个对象。</translation>
     </message>
     <message>
         <source>%1 parts of several looks are groups of parts in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 个具有多种外观的零件在文件中成为零件组。</translation>
     </message>
     <message>
         <source>curves</source>
-        <translation type="unfinished">曲线</translation>
+        <translation>曲线</translation>
     </message>
     <message>
         <source>names of parts</source>
-        <translation type="unfinished"></translation>
+        <translation>零件名称</translation>
     </message>
     <message>
         <source>colours of corners</source>
-        <translation type="unfinished"></translation>
+        <translation>顶点颜色</translation>
     </message>
     <message>
         <source>opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度</translation>
     </message>
     <message>
         <source>physical materials</source>
-        <translation type="unfinished"></translation>
+        <translation>物理材料</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished"></translation>
+        <translation>图层</translation>
     </message>
     <message>
         <source>hidden parts</source>
-        <translation type="unfinished"></translation>
+        <translation>隐藏的零件</translation>
     </message>
     <message>
         <source>%1 knows no exact surfaces; their triangles are written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 不支持精确曲面；写入的是其三角形。</translation>
     </message>
     <message>
         <source>These are not in the file, as %1 does not know them: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>以下内容不在文件中，因为 %1 不支持：%2。</translation>
     </message>
     <message>
         <source>The texture %1 is not there any more; it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>纹理 %1 已不存在；已略去。</translation>
     </message>
     <message>
         <source>The texture %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法写入纹理 %1：%2。</translation>
     </message>
 </context>
 <context>
     <name>olFactsPanel</name>
     <message>
         <source>(%1, %2, %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>(%1, %2, %3)</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>尺寸：</translation>
     </message>
     <message>
         <source>Along x, y and z, in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>沿 x、y 和 z 方向，单位为毫米</translation>
     </message>
     <message>
         <source>Bounding box:</source>
-        <translation type="unfinished"></translation>
+        <translation>包围盒：</translation>
     </message>
     <message>
         <source>Its lowest and its highest corner, in millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>其最低角点和最高角点，单位为毫米</translation>
     </message>
     <message>
         <source>Volume:</source>
-        <translation type="unfinished"></translation>
+        <translation>体积：</translation>
     </message>
     <message>
         <source>Of the surfaces themselves; of meshes, of their triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>按曲面本身计算；网格则按其三角形计算</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation type="unfinished"></translation>
+        <translation>面积：</translation>
     </message>
     <message>
         <source>Triangles:</source>
-        <translation type="unfinished"></translation>
+        <translation>三角形：</translation>
     </message>
     <message>
         <source>With which it is drawn and exported</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制和导出时所用的三角形</translation>
     </message>
     <message>
         <source>Parts:</source>
-        <translation type="unfinished"></translation>
+        <translation>零件：</translation>
     </message>
     <message>
         <source>Each as often as it stands in the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>每个零件按其在场景中出现的次数计算</translation>
     </message>
     <message>
         <source>measuring...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在测量...</translation>
     </message>
     <message>
         <source>Nothing is open.</source>
-        <translation type="unfinished">未打开任何内容。</translation>
+        <translation>未打开任何内容。</translation>
     </message>
     <message>
         <source>What is selected:</source>
-        <translation type="unfinished"></translation>
+        <translation>所选内容：</translation>
     </message>
     <message>
         <source>The whole scene:</source>
-        <translation type="unfinished"></translation>
+        <translation>整个场景：</translation>
     </message>
     <message>
         <source>%1 × %2 × %3 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 × %3 mm</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 到 %2</translation>
     </message>
     <message>
         <source>%1 mm³</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm³</translation>
     </message>
     <message>
         <source>none: it is not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>无：未闭合</translation>
     </message>
     <message numerus="yes">
         <source>%1; %n of the parts are not closed and not in it</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1；有 %n 个零件未闭合，未计入</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 mm²</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm²</translation>
     </message>
 </context>
 <context>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”%2</translation>
     </message>
 </context>
 <context>
@@ -553,59 +553,59 @@
     </message>
     <message>
         <source>no invisible surfaces are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入不可见的曲面</translation>
     </message>
     <message>
         <source>no surfaces are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入曲面</translation>
     </message>
     <message>
         <source>no invisible meshes are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入不可见的网格</translation>
     </message>
     <message>
         <source>no meshes are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入网格</translation>
     </message>
     <message>
         <source>no invisible curves are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入不可见的曲线</translation>
     </message>
     <message>
         <source>no curves are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入曲线</translation>
     </message>
     <message>
         <source>no invisible instances are imported</source>
-        <translation type="unfinished"></translation>
+        <translation>不导入不可见的实例</translation>
     </message>
     <message>
         <source>Parts with faulty surfaces: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>曲面有缺陷的零件：%1。</translation>
     </message>
     <message>
         <source>Gaps of up to %1 mm were to be closed, which would distort these; smaller ones are closed: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>按要求应闭合不大于 %1 mm 的间隙，但这会使以下零件变形，因此只闭合了较小的间隙：%2。</translation>
     </message>
     <message>
         <source>Parts whose faces are not joined, as that would distort them: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>未接合各面的零件（接合会使其变形）：%1。</translation>
     </message>
     <message>
         <source>Faces that cannot be drawn: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法绘制的面：%1。</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 中的 %1 个</translation>
     </message>
     <message>
         <source>%1 (%2 mm)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 mm)</translation>
     </message>
     <message>
         <source>the import options leave nothing of it (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>按导入选项，其中没有可导入的内容（%1）</translation>
     </message>
 </context>
 <context>
@@ -642,106 +642,106 @@
     </message>
     <message>
         <source>&amp;Replace the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>替换场景(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Add to the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>添加到场景(&amp;A)</translation>
     </message>
     <message>
         <source>Millimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>毫米</translation>
     </message>
     <message>
         <source>Centimetres</source>
-        <translation type="unfinished"></translation>
+        <translation>厘米</translation>
     </message>
     <message>
         <source>Metres</source>
-        <translation type="unfinished"></translation>
+        <translation>米</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>英寸</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>英尺</translation>
     </message>
     <message>
         <source>z is up</source>
-        <translation type="unfinished"></translation>
+        <translation>z 轴向上</translation>
     </message>
     <message>
         <source>y is up</source>
-        <translation type="unfinished"></translation>
+        <translation>y 轴向上</translation>
     </message>
     <message>
         <source>The file does not say it.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件中未注明。</translation>
     </message>
     <message>
         <source>&amp;Unit of length:</source>
-        <translation type="unfinished"></translation>
+        <translation>长度单位(&amp;U)：</translation>
     </message>
     <message>
         <source>U&amp;p axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>向上轴(&amp;P)：</translation>
     </message>
     <message>
         <source>The import failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>导入失败。</translation>
     </message>
     <message>
         <source>The import is done, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>导入已完成，有备注。</translation>
     </message>
     <message>
         <source>The import is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>导入已完成。</translation>
     </message>
     <message>
         <source>Import Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>导入失败</translation>
     </message>
 </context>
 <context>
     <name>olImportFineness</name>
     <message>
         <source>&amp;Keep These for Later Imports</source>
-        <translation type="unfinished"></translation>
+        <translation>保留用于以后的导入(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Chord Deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>弦偏差(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Normal Tolerance</source>
-        <translation type="unfinished">法线公差(&amp;N)</translation>
+        <translation>法线公差(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Stitching</source>
-        <translation type="unfinished">缝合(&amp;S)</translation>
+        <translation>缝合(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;titching Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>缝合公差(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Merge Geometries</source>
-        <translation type="unfinished"></translation>
+        <translation>合并几何体(&amp;M)</translation>
     </message>
     <message>
         <source>Remove &amp;Empty Groups</source>
-        <translation type="unfinished"></translation>
+        <translation>移除空组(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Unify Surface Normals</source>
-        <translation type="unfinished"></translation>
+        <translation>统一曲面法线(&amp;U)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>不选中时，这些选项仅对本次导入有效。</translation>
     </message>
 </context>
 <context>
@@ -876,11 +876,11 @@
     <name>olLibraryCheck</name>
     <message>
         <source>it is no library</source>
-        <translation type="unfinished">这不是库</translation>
+        <translation>这不是库</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished">其末尾缺失</translation>
+        <translation>其末尾缺失</translation>
     </message>
 </context>
 <context>
@@ -979,33 +979,33 @@
     </message>
     <message>
         <source>Facts</source>
-        <translation type="unfinished"></translation>
+        <translation>几何信息</translation>
     </message>
     <message>
         <source>Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>示例</translation>
     </message>
     <message>
         <source>%1 - ORLO</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - ORLO</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 以及另外 %n 个</numerusform>
         </translation>
     </message>
     <message>
         <source>Preferences as a Pa&amp;nel</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项显示为面板(&amp;N)</translation>
     </message>
     <message>
         <source>Copy &amp;Support Information</source>
-        <translation type="unfinished"></translation>
+        <translation>复制支持信息(&amp;S)</translation>
     </message>
     <message>
         <source>Versions, changed settings and the end of the log are on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>版本、已更改的设置和日志末尾已复制到剪贴板。</translation>
     </message>
 </context>
 <context>
@@ -1019,15 +1019,15 @@
     <name>olModelExtent</name>
     <message>
         <source>about %1 % of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>约为模型的 %1 %</translation>
     </message>
     <message>
         <source>%1: coarse, round parts show corners</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：粗糙，圆形部分会显出棱角</translation>
     </message>
     <message>
         <source>%1: very fine, the import takes long</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：非常精细，导入耗时较长</translation>
     </message>
 </context>
 <context>
@@ -1058,37 +1058,37 @@
     </message>
     <message>
         <source>The export failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>导出失败。</translation>
     </message>
     <message>
         <source>%1 was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>已写入 %1。</translation>
     </message>
     <message>
         <source>%1 was written, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>已写入 %1，有备注。</translation>
     </message>
     <message>
         <source>The import failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>导入失败。</translation>
     </message>
     <message>
         <source>Cannot read %1: there is no such file any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取 %1：该文件已不存在。</translation>
     </message>
     <message numerus="yes">
         <source>%n files were read.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>已读取 %n 个文件。</numerusform>
         </translation>
     </message>
     <message>
         <source>The import is done, with remarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>导入已完成，有备注。</translation>
     </message>
     <message>
         <source>The settings could not be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法保留这些设置。</translation>
     </message>
 </context>
 <context>
@@ -1126,7 +1126,7 @@
     </message>
     <message>
         <source>Has settings that differ from their defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>有与默认值不同的设置</translation>
     </message>
 </context>
 <context>
@@ -1156,7 +1156,7 @@
     <name>olOSGWidget</name>
     <message>
         <source>The clipping planes %1 and %2 are refused: expected two numbers above 0, the far one greater than the near one.</source>
-        <translation type="unfinished"></translation>
+        <translation>拒绝裁剪平面 %1 和 %2：应为两个大于 0 的数字，且远裁剪平面的值大于近裁剪平面的值。</translation>
     </message>
 </context>
 <context>
@@ -1191,7 +1191,7 @@
     <name>olPageFrame</name>
     <message>
         <source>Not chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择</translation>
     </message>
 </context>
 <context>
@@ -1449,31 +1449,31 @@
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>未安装有关设置的文档。</translation>
     </message>
     <message>
         <source>%1 takes effect at the next import.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 将在下次导入时生效。</translation>
     </message>
     <message>
         <source>%1 settings take effect at the next import.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 项设置将在下次导入时生效。</translation>
     </message>
     <message>
         <source>%1 takes effect at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 将在下次启动时生效。</translation>
     </message>
     <message>
         <source>%1 settings take effect at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 项设置将在下次启动时生效。</translation>
     </message>
     <message>
         <source>Restart Now</source>
-        <translation type="unfinished"></translation>
+        <translation>立即重新启动</translation>
     </message>
     <message>
         <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已锁定：%2 该锁定位于 %3 中。</translation>
     </message>
 </context>
 <context>
@@ -1539,7 +1539,7 @@
     </message>
     <message>
         <source>All settings of this run were then saved into it.</source>
-        <translation type="unfinished"></translation>
+        <translation>随后已将本次运行的所有设置保存到其中。</translation>
     </message>
 </context>
 <context>
@@ -1574,19 +1574,19 @@
     </message>
     <message>
         <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
-        <translation type="unfinished"></translation>
+        <translation> 请使用该版本。如果没有该版本，则文件已损坏：请将其移走，以便使用默认值启动；或将其备份 %1（如果有）重命名为该文件的名称。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>首选项文件 %1 已损坏：%2。</translation>
     </message>
     <message>
         <source>It is now kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>该文件现已另存为 %1。</translation>
     </message>
     <message>
         <source>It could not be set aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法将其另存：%1。</translation>
     </message>
 </context>
 <context>
@@ -1660,15 +1660,15 @@
     </message>
     <message>
         <source>All Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>所有设置</translation>
     </message>
     <message>
         <source>Changed Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>已更改的设置</translation>
     </message>
     <message>
         <source>&amp;Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>设置(&amp;S)：</translation>
     </message>
 </context>
 <context>
@@ -1867,38 +1867,38 @@
     </message>
     <message>
         <source>%1 parts are one in the file, as binary STL knows no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 个零件在文件中合为一个，因为二进制 STL 不支持零件。</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 以及另外 %2 个</translation>
     </message>
     <message>
         <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>其中 %1 个面无法理解，已略去。</translation>
     </message>
     <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法理解而已略去的实体：%1。</translation>
     </message>
     <message>
         <source>No %1 has the field %2; it is passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 没有字段 %2；已略过。</translation>
     </message>
 </context>
 <context>
     <name>olRecentModels</name>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>打开最近的文件(&amp;R)</translation>
     </message>
     <message>
         <source>%1  %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 (%3)</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>清除(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -2026,19 +2026,19 @@
     <name>olSettingMarks</name>
     <message>
         <source>Set by the site.</source>
-        <translation type="unfinished"></translation>
+        <translation>由站点设置。</translation>
     </message>
     <message>
         <source>Set by you.</source>
-        <translation type="unfinished"></translation>
+        <translation>由用户设置。</translation>
     </message>
     <message>
         <source>Changed, not applied yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>已更改，尚未应用。</translation>
     </message>
     <message>
         <source>Locked by the site.</source>
-        <translation type="unfinished"></translation>
+        <translation>由站点锁定。</translation>
     </message>
 </context>
 <context>
@@ -2088,35 +2088,35 @@
     <name>olSettingTips</name>
     <message>
         <source>Range: %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>范围：%1 到 %2</translation>
     </message>
     <message>
         <source>Range: from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>范围：不小于 %1</translation>
     </message>
     <message>
         <source>Range: up to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>范围：不大于 %1</translation>
     </message>
     <message>
         <source>Unit: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>单位：%1</translation>
     </message>
     <message>
         <source>Takes effect at the next import</source>
-        <translation type="unfinished">下次导入时生效</translation>
+        <translation>下次导入时生效</translation>
     </message>
     <message>
         <source>Takes effect at the next start</source>
-        <translation type="unfinished">下次启动时生效</translation>
+        <translation>下次启动时生效</translation>
     </message>
     <message>
         <source>Takes effect at once</source>
-        <translation type="unfinished"></translation>
+        <translation>立即生效</translation>
     </message>
     <message>
         <source>Default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>默认值：%1</translation>
     </message>
 </context>
 <context>
@@ -2178,7 +2178,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”%2</translation>
     </message>
 </context>
 <context>
@@ -2329,31 +2329,31 @@
     <name>olStoreTables</name>
     <message>
         <source>it is another program&apos;s database</source>
-        <translation type="unfinished">这是另一个程序的数据库</translation>
+        <translation>这是另一个程序的数据库</translation>
     </message>
     <message>
         <source>it was written by a newer version</source>
-        <translation type="unfinished">它由更新的版本写入</translation>
+        <translation>它由更新的版本写入</translation>
     </message>
     <message>
         <source>its format is unknown</source>
-        <translation type="unfinished">其格式未知</translation>
+        <translation>其格式未知</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
-        <translation type="unfinished">其表与原来不同</translation>
+        <translation>其表与原来不同</translation>
     </message>
     <message>
         <source>its structure is broken</source>
-        <translation type="unfinished">其结构已损坏</translation>
+        <translation>其结构已损坏</translation>
     </message>
     <message>
         <source>rows were changed or are missing</source>
-        <translation type="unfinished">有行被更改或缺失</translation>
+        <translation>有行被更改或缺失</translation>
     </message>
     <message>
         <source>its history was changed</source>
-        <translation type="unfinished">其历史记录被更改</translation>
+        <translation>其历史记录被更改</translation>
     </message>
 </context>
 <context>
@@ -2751,18 +2751,18 @@
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”%2</translation>
     </message>
     <message>
         <source>there is no language %1, only %2 or user</source>
-        <translation type="unfinished"></translation>
+        <translation>没有语言 %1，只有 %2 或 user</translation>
     </message>
 </context>
 <context>
     <name>olTranslations</name>
     <message>
         <source>There is no usable translation %1.qm in %2: its texts stay English.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 中没有可用的翻译 %1.qm：其文本保持英文。</translation>
     </message>
 </context>
 <context>
@@ -2889,7 +2889,7 @@
     <message>
         <source>en</source>
         <comment>code of the language</comment>
-        <translation type="unfinished"></translation>
+        <translation>zh</translation>
     </message>
 </context>
 <context>
@@ -2975,23 +2975,23 @@
     </message>
     <message>
         <source>%1 has stored this.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 已存储此项更改。</translation>
     </message>
     <message>
         <source>Another program</source>
-        <translation type="unfinished">另一个程序</translation>
+        <translation>另一个程序</translation>
     </message>
     <message>
         <source>expected --unit mm, cm, m, in or ft, and --up y or z</source>
-        <translation type="unfinished"></translation>
+        <translation>应为 --unit mm、cm、m、in 或 ft，以及 --up y 或 z</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no UTF-8</source>
-        <translation type="unfinished">“%1”不是 UTF-8</translation>
+        <translation>“%1”不是 UTF-8</translation>
     </message>
     <message>
         <source>only one model can be converted at a time</source>
-        <translation type="unfinished"></translation>
+        <translation>一次只能转换一个模型</translation>
     </message>
 </context>
 </TS>

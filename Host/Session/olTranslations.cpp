@@ -9,6 +9,7 @@
 #include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QTranslator>
+#include <QVariant>
 
 namespace
 {

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QVariant>
 
 #include <chrono>
 #include <csignal>

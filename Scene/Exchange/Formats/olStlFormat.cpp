@@ -394,7 +394,9 @@ bool writeBinary(const olMeshTree &tree, const QString &file)
             bytes.append(2, '\0');
         });
     });
-    qToLittleEndian(quint32((bytes.size() - binaryHead) / binaryTriangle), bytes.data() + binaryHead - 4);
+    char count[4];
+    qToLittleEndian(quint32((bytes.size() - binaryHead) / binaryTriangle), count);
+    bytes.replace(binaryHead - 4, 4, count, 4);
     QFile out(file);
     return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
 }
