@@ -10,8 +10,9 @@ import xml.etree.ElementTree as xml
 
 # Command lines and what goes to the support are English; the others are keys, documents for programs, a line of a log and
 # what a library says.
-NOT_FOR_PEOPLE = {"Apps/orlo/main.cpp", "Apps/orlo/olTour.cpp", "Apps/orlo-prefs/olSettingsCatalogue.cpp",
-                  "Apps/orlo-prefs/olSettingsSchema.cpp", "Host/Dialog/olSupport.cpp", "Host/WebServer/olWebPages.cpp", "Host/WebServer/olWebServer.cpp",
+NOT_FOR_PEOPLE = {"Apps/orlo/main.cpp", "Apps/orlo/olSupport.cpp", "Apps/orlo/olTour.cpp",
+                  "Apps/orlo-prefs/olSettingsCatalogue.cpp", "Apps/orlo-prefs/olSettingsSchema.cpp",
+                  "Host/WebServer/olWebPages.cpp", "Host/WebServer/olWebServer.cpp",
                   "Scene/Exchange/Formats/olVrmlFormat.cpp"}
 READABLE = re.compile(r'QStringLiteral\(\s*"[^"]*[a-zA-Z]{3,} [a-zA-Z]{2,}[^"]*"')
 
