@@ -17,7 +17,7 @@ namespace
 QString withoutMnemonic(QString text)
 {
     // East Asian texts have it in brackets of its own.
-    static const QRegularExpression inBrackets(QStringLiteral("\\(&\\w\\)"));
+    static const QRegularExpression inBrackets(QLatin1String("\\(&\\w\\)"));
     text.remove(inBrackets);
     QString plain;
     for (int index = 0; index < text.size(); ++index) {
