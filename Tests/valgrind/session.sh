@@ -6,6 +6,8 @@ tool=$1
 source=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+# Code that is made while the program runs looks to the checker as if it read too far.
+export QT_ENABLE_REGEXP_JIT=0
 
 checked() {
     local status=0
