@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr QLatin1String suffix(".json");
+const QLatin1String suffix(".json");
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(olProfiles)

@@ -19,7 +19,7 @@ using Kind = olStoreError::Kind;
 using namespace olStoreRows;
 
 // Keeps programs from mending or copying a store at the same time.
-constexpr QLatin1String lockSuffix(".lock");
+const QLatin1String lockSuffix(".lock");
 constexpr int lockMilliseconds = 3000;
 
 // Clocks of files go in steps, some of whole seconds.

@@ -22,7 +22,7 @@ namespace
 using Kind = olStoreError::Kind;
 
 // What may stand beside a database: the journal of a save, and the log of an earlier version.
-constexpr QLatin1String journals[] = {QLatin1String("-journal"), QLatin1String("-wal")};
+const QLatin1String journals[] = {QLatin1String("-journal"), QLatin1String("-wal")};
 
 constexpr int headerSize = 100;
 constexpr int copyAttempts = 20;
