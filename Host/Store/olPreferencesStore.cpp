@@ -134,13 +134,14 @@ olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
     QStringList told{tr("The preferences file %1 is damaged: %2.").arg(m_file, reason)};
     QString remark;
     const std::optional<Values> values = readCopy(remark);
-    m_isStore = values.has_value();
     try {
         if (isOwn && !isHeld)
             throw olStoreError(Kind::Access, tr("its folder is read-only, or another program keeps it busy"));
         const olStoreFile good = copy();
-        if (isOwn)
+        if (isOwn) {
             told << tr("It is now kept as %1.").arg(store().setAside(values ? &good : nullptr));
+            m_isStore = values.has_value();
+        }
     } catch (const olStoreError &error) {
         told << tr("It could not be set aside: %1.").arg(error.reason());
     }
