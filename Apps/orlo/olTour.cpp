@@ -55,7 +55,8 @@ int olTour::run(const QString &folder)
     m_window.showIntegratorPanels();
     olPreferencesDialog &preferences = m_window.openPreferences();
     settle();
-    QOLSlider *slider = sliderFor(preferences, QStringLiteral("Camera fov"));
+    const QString setting = QStringLiteral("Camera fov");
+    QOLSlider *slider = preferences.openAt(setting) ? sliderFor(preferences, setting) : nullptr;
     if (!slider) {
         std::fprintf(stderr, "orlo: the camera has no page in this edition; nothing to show\n");
         return 1;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHash>
 #include <QLibraryInfo>
@@ -102,6 +103,8 @@ void olTranslations::add(const QString &name, const QStringList &folders)
         if (!translator->load(file))
             continue;
         QCoreApplication::installTranslator(translator.get());
+        // Later it would come to what is made meanwhile, and boxes of buttons would take their own texts back.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
         m_translators.push_back(std::move(translator));
         QCoreApplication *application = QCoreApplication::instance();
         application->setProperty(filesProperty, application->property(filesProperty).toStringList() << file);

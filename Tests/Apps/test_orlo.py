@@ -2,6 +2,7 @@
 
 import json
 import os
+import pathlib
 import sqlite3
 import subprocess
 import unittest
@@ -140,6 +141,18 @@ class Batch(tool_test.ToolTest):
                     result = self.tool(*arguments, *unattended)
                     self.assertEqual((result.stdout, result.returncode), ("", 1))
                     self.assertIn("orlo: ", result.stderr)
+
+    def test_the_tour_goes_through_in_every_language(self):
+        preferences = pathlib.Path(self.program).parent / "orlo-prefs"
+        for language in ("0", "2"):
+            with self.subTest(language=language):
+                folder = self.folder / f"tour{language}"
+                subprocess.run([preferences, "--store", self.store, "set", "MainWindow user language", language],
+                               env=self.environment, timeout=tool_test.SECONDS, check=True)
+                result = self.stored("--sample", "--tour", folder)
+                self.assertEqual(result.returncode, 0, result.stderr)
+                self.assertIn("olOSGWidget::setFov(-1, 25)", result.stdout)
+                self.assertEqual(len(list(folder.glob("*.png"))), 7)
 
     def test_a_missing_plugin_is_told_with_status_1(self):
         missing = self.stored("--sample", "--save", "m.step", plugin="/missing.so")
