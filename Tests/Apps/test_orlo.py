@@ -147,6 +147,7 @@ class Batch(tool_test.ToolTest):
         for language in ("0", "2"):
             with self.subTest(language=language):
                 folder = self.folder / f"tour{language}"
+                self.store = self.folder / f"store{language}.db"
                 subprocess.run([preferences, "--store", self.store, "set", "MainWindow user language", language],
                                env=self.environment, timeout=tool_test.SECONDS, check=True)
                 result = self.stored("--sample", "--tour", folder)
