@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
-        <translation>このホストはこれらの設定を記録するだけです：その形式の読み込み機能など、これらの設定に従う機能がありません。</translation>
+        <translation>このホストではこれらの設定は記録されるだけです。形式の読み込み機能など、これらの設定を反映する機能がないためです。</translation>
     </message>
     <message>
         <source>next import</source>
@@ -349,11 +349,11 @@
     <name>olFoldHeader</name>
     <message>
         <source>Folded</source>
-        <translation>折りたたみ</translation>
+        <translation>折りたたみ済み</translation>
     </message>
     <message>
         <source>Unfolded</source>
-        <translation>展開</translation>
+        <translation>展開済み</translation>
     </message>
 </context>
 <context>
@@ -702,7 +702,7 @@
     </message>
     <message>
         <source>Import Failed</source>
-        <translation>インポートの失敗</translation>
+        <translation>インポート失敗</translation>
     </message>
 </context>
 <context>
@@ -1492,7 +1492,7 @@
     </message>
     <message>
         <source>has no type or no value</source>
-        <translation>型または値がありません</translation>
+        <translation>型または値が欠けています</translation>
     </message>
     <message>
         <source>is of the unknown type &quot;%1&quot;</source>
@@ -2150,15 +2150,15 @@
     </message>
     <message>
         <source>takes true or false for &quot;locked&quot;</source>
-        <translation>「locked」にはtrueまたはfalseを指定してください</translation>
+        <translation>「locked」にtrueまたはfalseを指定する必要があります</translation>
     </message>
     <message>
         <source>takes a text for &quot;reason&quot;</source>
-        <translation>「reason」にはテキストを指定してください</translation>
+        <translation>「reason」にテキストを指定する必要があります</translation>
     </message>
     <message>
         <source>has &quot;%1&quot;, where only &quot;value&quot;, &quot;locked&quot; and &quot;reason&quot; can stand</source>
-        <translation>「%1」がありますが、指定できるのは「value」、「locked」、「reason」だけです</translation>
+        <translation>「%1」を含んでいますが、指定できるのは「value」、「locked」、「reason」だけです</translation>
     </message>
     <message>
         <source>This setting is fixed for your site.</source>

@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
-        <translation>이 호스트는 이 설정을 기록만 합니다. 해당 형식의 읽기 기능처럼 이 설정을 사용하는 기능이 없습니다.</translation>
+        <translation>이 호스트는 이 설정을 기록만 합니다. 이 설정을 사용하는 기능(예: 해당 형식의 읽기 기능)이 없습니다.</translation>
     </message>
     <message>
         <source>next import</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Its lowest and its highest corner, in millimetres</source>
-        <translation>가장 낮은 모서리와 가장 높은 모서리(밀리미터)</translation>
+        <translation>가장 낮은 꼭짓점과 가장 높은 꼭짓점(밀리미터)</translation>
     </message>
     <message>
         <source>Volume:</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>With which it is drawn and exported</source>
-        <translation>그리고 내보내는 데 쓰이는 삼각형의 수</translation>
+        <translation>표시와 내보내기에 쓰이는 삼각형의 수</translation>
     </message>
     <message>
         <source>Parts:</source>
@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>The texture %1 is too large, with %2 by %3 pixels.</source>
-        <translation>텍스처가 너무 큽니다(%2x%3픽셀): %1.</translation>
+        <translation>텍스처가 너무 큽니다(%2 × %3픽셀): %1.</translation>
     </message>
     <message>
         <source>The texture %1 cannot be read: %2.</source>
@@ -1164,7 +1164,7 @@
     <message>
         <source>%1 set %2 to %3.</source>
         <comment>program, setting and value</comment>
-        <translation>%1이(가) %2을(를) %3(으)로 설정했습니다.</translation>
+        <translation>%1에서 %2을(를) %3(으)로 설정했습니다.</translation>
     </message>
     <message>
         <source>Another program</source>
@@ -1324,15 +1324,15 @@
     </message>
     <message>
         <source>&amp;Stay</source>
-        <translation>머무르기(&amp;S)</translation>
+        <translation>계속 편집(&amp;S)</translation>
     </message>
     <message>
         <source>This change is not applied yet and would be lost:</source>
-        <translation>다음 변경은 아직 적용되지 않았으며 없어집니다:</translation>
+        <translation>아직 적용되지 않은 다음 변경 사항이 손실됩니다:</translation>
     </message>
     <message>
         <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation>다음 변경 %1개는 아직 적용되지 않았으며 없어집니다:</translation>
+        <translation>아직 적용되지 않은 다음 변경 사항 %1개가 손실됩니다:</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -1731,7 +1731,7 @@
     </message>
     <message>
         <source>the file is damaged in line %1</source>
-        <translation>파일의 줄 %1이(가) 손상되었습니다</translation>
+        <translation>파일의 %1번째 줄이 손상되었습니다</translation>
     </message>
     <message>
         <source>its content cannot be taken over</source>
@@ -1819,7 +1819,7 @@
     </message>
     <message>
         <source>the file is damaged: line %1 cannot be understood (%2)</source>
-        <translation>파일이 손상되었습니다: 줄 %1을(를) 해석할 수 없습니다(%2)</translation>
+        <translation>파일이 손상되었습니다: %1번째 줄을 해석할 수 없습니다(%2)</translation>
     </message>
     <message>
         <source>%1 of its shapes are lines, points or texts, which are left out.</source>

@@ -38,7 +38,7 @@
     <name>olBatch</name>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL.</source>
-        <translation>3D 视图需要带 OpenGL 的 X 显示或 XWayland。</translation>
+        <translation>3D 视图需要支持 OpenGL 的 X 显示或 XWayland。</translation>
     </message>
     <message>
         <source>The model %1 cannot be drawn: %2</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
-        <translation>此主机仅记录这些设置：它没有按这些设置工作的部分，例如该格式的读取程序。</translation>
+        <translation>此主机仅记录这些设置：其中没有使用这些设置的组件，例如该格式的读取程序。</translation>
     </message>
     <message>
         <source>next import</source>
@@ -182,7 +182,7 @@
     </message>
     <message>
         <source>the writer failed (%1)</source>
-        <translation>写入程序出错 (%1)</translation>
+        <translation>写入程序出错（%1）</translation>
     </message>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -402,7 +402,7 @@
     <name>olHistoryView</name>
     <message>
         <source>&amp;Go Back...</source>
-        <translation>返回(&amp;G)...</translation>
+        <translation>回退(&amp;G)...</translation>
     </message>
     <message>
         <source>History</source>
@@ -414,7 +414,7 @@
     </message>
     <message>
         <source>Going back takes back the save that is chosen and all later ones. What that changes is shown first.</source>
-        <translation>返回会撤回所选的保存以及之后的所有保存。由此引起的更改会先显示出来。</translation>
+        <translation>回退会撤回所选的保存以及之后的所有保存。由此引起的更改会先显示出来。</translation>
     </message>
     <message>
         <source>Saves</source>
@@ -489,11 +489,11 @@
     </message>
     <message>
         <source>its reader cannot be started (%1)</source>
-        <translation>无法启动其读取程序 (%1)</translation>
+        <translation>无法启动其读取程序（%1）</translation>
     </message>
     <message>
         <source>its reader %1 cannot be started (%2)</source>
-        <translation>无法启动其读取程序 %1 (%2)</translation>
+        <translation>无法启动其读取程序 %1（%2）</translation>
     </message>
     <message>
         <source>reading it made no progress for %1 seconds</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>the reader failed (%1)</source>
-        <translation>读取程序出错 (%1)</translation>
+        <translation>读取程序出错（%1）</translation>
     </message>
     <message>
         <source>there is not enough memory for it</source>
@@ -709,7 +709,7 @@
     <name>olImportFineness</name>
     <message>
         <source>&amp;Keep These for Later Imports</source>
-        <translation>保留用于以后的导入(&amp;K)</translation>
+        <translation>保留这些选项供以后导入使用(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Chord Deviation</source>
@@ -850,7 +850,7 @@
     </message>
     <message>
         <source>Joystick %1 is in use.</source>
-        <translation>操纵杆 %1 正在使用。</translation>
+        <translation>正在使用操纵杆 %1。</translation>
     </message>
     <message>
         <source>Joystick %1 has gone.</source>
@@ -895,7 +895,7 @@
     </message>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it.</source>
-        <translation>3D 视图需要带 OpenGL 的 X 显示或 XWayland。首选项没有它也能工作。</translation>
+        <translation>3D 视图需要支持 OpenGL 的 X 显示或 XWayland。没有它也可以使用首选项。</translation>
     </message>
     <message>
         <source>%1 frames/s</source>
@@ -935,7 +935,7 @@
     </message>
     <message>
         <source>Stereo for &amp;Red and Cyan Glasses</source>
-        <translation>红青眼镜立体(&amp;R)</translation>
+        <translation>红青眼镜立体显示(&amp;R)</translation>
     </message>
     <message>
         <source>Trace Ra&amp;ys</source>
@@ -1019,7 +1019,7 @@
     <name>olModelExtent</name>
     <message>
         <source>about %1 % of the model</source>
-        <translation>约为模型的 %1 %</translation>
+        <translation>约为模型的 %1%</translation>
     </message>
     <message>
         <source>%1: coarse, round parts show corners</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>Your change to %1 is pending.</source>
-        <translation>你将其改为 %1 的更改待应用。</translation>
+        <translation>你将其改为 %1，此更改待应用。</translation>
     </message>
     <message>
         <source>&amp;Use %1</source>
@@ -1252,7 +1252,7 @@
     </message>
     <message>
         <source>Changed only</source>
-        <translation>仅已更改</translation>
+        <translation>仅显示已更改</translation>
     </message>
     <message>
         <source>More</source>
@@ -1276,7 +1276,7 @@
     </message>
     <message>
         <source>Finds settings by label, group, tooltip, choice and key (Ctrl+F).</source>
-        <translation>按标签、组、工具提示、选项和键查找设置 (Ctrl+F)。</translation>
+        <translation>按标签、组、工具提示、选项和键查找设置（Ctrl+F）。</translation>
     </message>
     <message>
         <source>Lists the settings that differ from their defaults.</source>
@@ -1425,11 +1425,11 @@
     </message>
     <message>
         <source>Go Back</source>
-        <translation>返回</translation>
+        <translation>回退</translation>
     </message>
     <message>
         <source>&amp;Go Back</source>
-        <translation>返回(&amp;G)</translation>
+        <translation>回退(&amp;G)</translation>
     </message>
     <message>
         <source>Export Preferences</source>
@@ -1488,7 +1488,7 @@
     </message>
     <message>
         <source>It was written by a newer version.</source>
-        <translation>它由更新的版本写入。</translation>
+        <translation>它由较新版本的程序写入。</translation>
     </message>
     <message>
         <source>has no type or no value</source>
@@ -1558,7 +1558,7 @@
     </message>
     <message>
         <source>Its copy cannot be read either (%1), so all settings are at their defaults.</source>
-        <translation>其备份也无法读取 (%1)，因此所有设置均为默认值。</translation>
+        <translation>其备份也无法读取（%1），因此所有设置均为默认值。</translation>
     </message>
     <message>
         <source>its folder is read-only, or another program keeps it busy</source>
@@ -1743,7 +1743,7 @@
     </message>
     <message>
         <source>a face has fewer than three corners</source>
-        <translation>某个面的角点少于三个</translation>
+        <translation>某个面的顶点少于三个</translation>
     </message>
     <message>
         <source>a face refers to a point that is not there</source>
@@ -1815,11 +1815,11 @@
     </message>
     <message>
         <source>the file is damaged (%1)</source>
-        <translation>文件已损坏 (%1)</translation>
+        <translation>文件已损坏（%1）</translation>
     </message>
     <message>
         <source>the file is damaged: line %1 cannot be understood (%2)</source>
-        <translation>文件已损坏：无法理解第 %1 行 (%2)</translation>
+        <translation>文件已损坏：无法理解第 %1 行（%2）</translation>
     </message>
     <message>
         <source>%1 of its shapes are lines, points or texts, which are left out.</source>
@@ -1977,7 +1977,7 @@
     </message>
     <message>
         <source>Opacity: %1 %</source>
-        <translation>不透明度：%1 %</translation>
+        <translation>不透明度：%1%</translation>
     </message>
     <message>
         <source>Scene</source>
@@ -2333,7 +2333,7 @@
     </message>
     <message>
         <source>it was written by a newer version</source>
-        <translation>它由更新的版本写入</translation>
+        <translation>它由较新版本的程序写入</translation>
     </message>
     <message>
         <source>its format is unknown</source>
@@ -2912,7 +2912,7 @@
     </message>
     <message>
         <source>ports are numbered 1 to 65535</source>
-        <translation>端口号为 1 到 65535</translation>
+        <translation>端口号应为 1 到 65535</translation>
     </message>
     <message>
         <source>port %1 with %2</source>

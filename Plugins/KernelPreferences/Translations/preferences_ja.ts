@@ -1006,7 +1006,7 @@
     </message>
     <message>
         <source>&amp;Force Grayscale Shadow Texture</source>
-        <translation>シャドウテクスチャを強制グレースケール化(&amp;F)</translation>
+        <translation>シャドウテクスチャを強制的にグレースケール化(&amp;F)</translation>
     </message>
     <message>
         <source>Takes materials from the library on this computer</source>
@@ -1358,19 +1358,19 @@
     </message>
     <message>
         <source>Antialiasing</source>
-        <translation>アンチエイリアシング</translation>
+        <translation>アンチエイリアス</translation>
     </message>
     <message>
         <source>Sets the realtime antialiasing quality</source>
-        <translation>リアルタイムアンチエイリアシングの品質を設定します。</translation>
+        <translation>リアルタイムアンチエイリアスの品質を設定します。</translation>
     </message>
     <message>
         <source>Antialiasing &amp;Quality</source>
-        <translation>アンチエイリアシング品質(&amp;Q)</translation>
+        <translation>アンチエイリアス品質(&amp;Q)</translation>
     </message>
     <message>
         <source>Antialiasing Quality</source>
-        <translation>アンチエイリアシング品質</translation>
+        <translation>アンチエイリアス品質</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1394,23 +1394,23 @@
     </message>
     <message>
         <source>E&amp;nable Postprocess Antialiasing</source>
-        <translation>ポストプロセスアンチエイリアシングを有効化(&amp;N)</translation>
+        <translation>ポストプロセスアンチエイリアスを有効化(&amp;N)</translation>
     </message>
     <message>
         <source>Disable &amp;Realtime Antialiasing on Camera movement</source>
-        <translation>カメラ移動中はリアルタイムアンチエイリアシングを無効化(&amp;R)</translation>
+        <translation>カメラ移動中はリアルタイムアンチエイリアスを無効化(&amp;R)</translation>
     </message>
     <message>
         <source>Enable &amp;Stillframe Antialiasing</source>
-        <translation>静止フレームアンチエイリアシングを有効化(&amp;S)</translation>
+        <translation>静止フレームアンチエイリアスを有効化(&amp;S)</translation>
     </message>
     <message>
         <source>Shows clipping plane and transform handles during interactive stillframe antialiasing</source>
-        <translation>インタラクティブな静止フレームアンチエイリアシングの間、クリッピング平面と変換のハンドルを表示します。</translation>
+        <translation>インタラクティブな静止フレームアンチエイリアスの間、クリッピング平面と変換のハンドルを表示します。</translation>
     </message>
     <message>
         <source>Show Au&amp;xiliary Nodes during antialiasing</source>
-        <translation>アンチエイリアシング中に補助ノードを表示(&amp;X)</translation>
+        <translation>アンチエイリアス中に補助ノードを表示(&amp;X)</translation>
     </message>
     <message>
         <source>Interactive &amp;Material Preview</source>
@@ -1426,7 +1426,7 @@
     </message>
     <message>
         <source>Still&amp;frame AA After</source>
-        <translation>静止フレームAA開始(&amp;F)</translation>
+        <translation>静止フレームAA開始までの時間(&amp;F)</translation>
     </message>
     <message>
         <source>Stillframe AA After, in seconds</source>
@@ -1434,31 +1434,31 @@
     </message>
     <message>
         <source>Seconds</source>
-        <translation>秒後</translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>Antialiasing Distance</source>
-        <translation>アンチエイリアシング距離</translation>
+        <translation>アンチエイリアス距離</translation>
     </message>
     <message>
         <source>Antialiasing Scale</source>
-        <translation>アンチエイリアシングスケール</translation>
+        <translation>アンチエイリアススケール</translation>
     </message>
     <message>
         <source>High Quality Antialiasing</source>
-        <translation>高品質アンチエイリアシング</translation>
+        <translation>高品質アンチエイリアス</translation>
     </message>
     <message>
         <source>Show Camera &amp;Visualizations</source>
-        <translation>カメラの可視化を表示(&amp;V)</translation>
+        <translation>カメラを可視化(&amp;V)</translation>
     </message>
     <message>
         <source>Show &amp;Light Visualizations</source>
-        <translation>ライトの可視化を表示(&amp;L)</translation>
+        <translation>ライトを可視化(&amp;L)</translation>
     </message>
     <message>
         <source>Show &amp;Joint Visualizations</source>
-        <translation>ジョイントの可視化を表示(&amp;J)</translation>
+        <translation>ジョイントを可視化(&amp;J)</translation>
     </message>
     <message>
         <source>Transparency</source>
@@ -1662,7 +1662,7 @@
     </message>
     <message>
         <source>Realtime Antialiasing Presets</source>
-        <translation>リアルタイムアンチエイリアシングのプリセット</translation>
+        <translation>リアルタイムアンチエイリアスのプリセット</translation>
     </message>
     <message>
         <source>Low Quality Settings</source>
@@ -1670,7 +1670,7 @@
     </message>
     <message>
         <source>Sets the multisampling factor for opengl realtime antialiasing</source>
-        <translation>OpenGLのリアルタイムアンチエイリアシングのマルチサンプリング係数を設定します。</translation>
+        <translation>OpenGLのリアルタイムアンチエイリアスのマルチサンプリング係数を設定します。</translation>
     </message>
     <message>
         <source>Multisampling</source>
@@ -1810,7 +1810,7 @@
     </message>
     <message>
         <source>Shows the progress wheel during anti-aliasing.</source>
-        <translation>アンチエイリアシング中に進行状況ホイールを表示します。</translation>
+        <translation>アンチエイリアス中に進行状況ホイールを表示します。</translation>
     </message>
     <message>
         <source>Sho&amp;w Progress</source>

@@ -868,7 +868,7 @@
     </message>
     <message>
         <source>Sets a scale factor for the marks at the corners of the bounding box of a selection.</source>
-        <translation>선택의 경계 상자 모서리에 있는 표시의 배율을 설정합니다.</translation>
+        <translation>선택의 경계 상자 꼭짓점에 있는 표시의 배율을 설정합니다.</translation>
     </message>
     <message>
         <source>Bounding Box Visual Si&amp;ze</source>
@@ -1006,7 +1006,7 @@
     </message>
     <message>
         <source>&amp;Force Grayscale Shadow Texture</source>
-        <translation>그림자 텍스처를 회색조로 강제(&amp;F)</translation>
+        <translation>그림자 텍스처를 회색조로 강제 변환(&amp;F)</translation>
     </message>
     <message>
         <source>Takes materials from the library on this computer</source>
@@ -1104,7 +1104,7 @@
     </message>
     <message>
         <source>Limited</source>
-        <translation>제한</translation>
+        <translation>제한됨</translation>
     </message>
     <message>
         <source>Linear</source>
@@ -1176,11 +1176,11 @@
     </message>
     <message>
         <source>Sets the dolly operation to dolly towards the pivot instead of the screen center.</source>
-        <translation>화면 중심 대신 피벗을 향해 돌리하도록 설정합니다.</translation>
+        <translation>화면 중심 대신 피벗을 향해 돌리 이동하도록 설정합니다.</translation>
     </message>
     <message>
         <source>Doll&amp;y To Pivot</source>
-        <translation>피벗으로 돌리(&amp;Y)</translation>
+        <translation>피벗으로 돌리 이동(&amp;Y)</translation>
     </message>
     <message>
         <source>Panning</source>
@@ -1466,11 +1466,11 @@
     </message>
     <message>
         <source>&amp;Transparent Sorting</source>
-        <translation>투명 정렬(&amp;T)</translation>
+        <translation>투명도 정렬(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Z Write Transparency</source>
-        <translation>투명 Z 쓰기(&amp;Z)</translation>
+        <translation>투명도 Z 쓰기(&amp;Z)</translation>
     </message>
     <message>
         <source>Raytracing</source>
@@ -1606,7 +1606,7 @@
     </message>
     <message>
         <source>Force G&amp;LFinish</source>
-        <translation>GLFinish 강제(&amp;L)</translation>
+        <translation>GLFinish 강제 호출(&amp;L)</translation>
     </message>
     <message>
         <source>SLI</source>
@@ -2121,7 +2121,7 @@
     </message>
     <message>
         <source>Use only one texture per eye in non-foveated rendering mode (instead of the two textures “front” and “side”).</source>
-        <translation>비포비티드 렌더링 모드에서 눈마다 텍스처를 하나만 사용합니다(“정면”과 “측면” 두 텍스처 대신).</translation>
+        <translation>비포비티드 렌더링 모드에서 눈마다 텍스처를 하나만 사용합니다(&quot;정면&quot;과 &quot;측면&quot; 두 텍스처 대신).</translation>
     </message>
     <message>
         <source>&amp;Single Texture per Eye</source>

@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Distance at which both eyes see the same picture</source>
-        <translation>两眼看到相同画面时的距离</translation>
+        <translation>两眼所见画面重合处的距离</translation>
     </message>
     <message>
         <source>&amp;Zero Parallax Distance</source>
@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>Import visible</source>
-        <translation>导入可见</translation>
+        <translation>导入可见项</translation>
     </message>
     <message>
         <source>Import all</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Path to Installed Help. If help is installed on intranet, change file:// for http://</source>
-        <translation>已安装帮助的路径。如果帮助安装在内部网上，请将 file:// 改为 http://</translation>
+        <translation>已安装帮助的路径。如果帮助安装在内网中，请将 file:// 改为 http://</translation>
     </message>
     <message>
         <source>&amp;Help Path</source>
@@ -868,15 +868,15 @@
     </message>
     <message>
         <source>Sets a scale factor for the marks at the corners of the bounding box of a selection.</source>
-        <translation>设置所选对象边界框各角标记的缩放系数。</translation>
+        <translation>设置所选对象包围盒各角标记的缩放系数。</translation>
     </message>
     <message>
         <source>Bounding Box Visual Si&amp;ze</source>
-        <translation>边界框显示大小(&amp;Z)</translation>
+        <translation>包围盒显示大小(&amp;Z)</translation>
     </message>
     <message>
         <source>Bounding Box Visual Size</source>
-        <translation>边界框显示大小</translation>
+        <translation>包围盒显示大小</translation>
     </message>
     <message>
         <source>Shows a wireframe on the nodes that would be selected when hovering over the render window.</source>
@@ -1212,7 +1212,7 @@
     </message>
     <message>
         <source>Orbits around the point under the mouse when it rests there before it is dragged</source>
-        <translation>如果鼠标在拖动前停留，则围绕鼠标下的点环绕</translation>
+        <translation>如果鼠标在拖动前停留，则绕鼠标所在的点环绕</translation>
     </message>
     <message>
         <source>Orbit &amp;Mode</source>
@@ -1466,11 +1466,11 @@
     </message>
     <message>
         <source>&amp;Transparent Sorting</source>
-        <translation>透明排序(&amp;T)</translation>
+        <translation>透明对象排序(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Z Write Transparency</source>
-        <translation>透明度写入 Z 缓冲(&amp;Z)</translation>
+        <translation>透明对象写入 Z 缓冲(&amp;Z)</translation>
     </message>
     <message>
         <source>Raytracing</source>
@@ -1606,7 +1606,7 @@
     </message>
     <message>
         <source>Force G&amp;LFinish</source>
-        <translation>强制 GLFinish(&amp;L)</translation>
+        <translation>强制调用 GLFinish(&amp;L)</translation>
     </message>
     <message>
         <source>SLI</source>
@@ -1903,7 +1903,7 @@
     </message>
     <message>
         <source>Reuse Existing (If Any)</source>
-        <translation>重用现有（如有）</translation>
+        <translation>重用现有拓扑（如有）</translation>
     </message>
     <message>
         <source>No Topology</source>
@@ -2191,7 +2191,7 @@
     </message>
     <message>
         <source>Restricted python functionality</source>
-        <translation>受限的 Python 功能</translation>
+        <translation>限制可用的 Python 功能</translation>
     </message>
     <message>
         <source>Secure P&amp;ython</source>
