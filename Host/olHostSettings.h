@@ -2,8 +2,12 @@
 
 #include "State/olPreferencesRegistry.h"
 
+#include <QLatin1String>
+#include <QString>
 #include <boost/any.hpp>
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 /// A setting that the host itself goes by. Key and type are those of a module, which a test holds together.
@@ -19,7 +23,7 @@ template <class T> struct olHostSetting {
     }
 };
 
-/// All of them.
+/// All of them, and what holds for others.
 namespace olHostSettings
 {
 
@@ -29,5 +33,15 @@ inline const olHostSetting<int> webSslPort{"WebInterface ssl port", 0};
 inline const olHostSetting<bool> webLocalhostOnly{"WebInterface localhost only", true};
 inline const olHostSetting<bool> webUseWhiteList{"WebInterface use white list", true};
 inline const olHostSetting<std::string> webWhiteList{"WebInterface white list", {}};
+
+/// Whether a setting's value is nobody's business outside, and is kept nowhere but in its place: who is let in, by
+/// which pipe the host is driven, and whatever a module calls a secret.
+[[nodiscard]] inline bool isConfidential(const std::string &key)
+{
+    const QString name = QString::fromStdString(key);
+    constexpr const char *words[] = {"white list", "webinterfacepipe", "password", "passphrase", "secret", "token"};
+    return std::any_of(std::begin(words), std::end(words),
+                       [&name](const char *word) { return name.contains(QLatin1String(word), Qt::CaseInsensitive); });
+}
 
 } // namespace olHostSettings

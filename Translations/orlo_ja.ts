@@ -1545,6 +1545,34 @@
 <context>
     <name>olPreferencesStore</name>
     <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1を読み込めません：%2</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>another program keeps it busy</source>
+        <translation>別のプログラムがファイルを使用中です</translation>
+    </message>
+    <message>
+        <source>it is no preferences file</source>
+        <translation>環境設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is gone</source>
+        <translation>ファイルがなくなっています</translation>
+    </message>
+    <message>
+        <source>its folder cannot be created</source>
+        <translation>フォルダーを作成できません</translation>
+    </message>
+    <message>
+        <source>its header is not what it was</source>
+        <translation>ヘッダーが元の内容と異なります</translation>
+    </message>
+    <message>
         <source>Cannot read the preferences %1: %2.</source>
         <translation>環境設定%1を読み込めません：%2。</translation>
     </message>
@@ -1688,10 +1716,6 @@
     <message>
         <source>the file is damaged or of another format</source>
         <translation>ファイルが破損しているか、別の形式です</translation>
-    </message>
-    <message>
-        <source>the temporary directory cannot be written to</source>
-        <translation>一時ディレクトリに書き込めません</translation>
     </message>
     <message>
         <source>the file %1 that it refers to cannot be read</source>
@@ -2291,41 +2315,6 @@
     </message>
 </context>
 <context>
-    <name>olStoreFile</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1を読み込めません：%2</translation>
-    </message>
-    <message>
-        <source>it is no regular file</source>
-        <translation>通常のファイルではありません</translation>
-    </message>
-    <message>
-        <source>another program keeps it busy</source>
-        <translation>別のプログラムがファイルを使用中です</translation>
-    </message>
-    <message>
-        <source>there is nothing in it</source>
-        <translation>中身がありません</translation>
-    </message>
-    <message>
-        <source>it is no preferences file</source>
-        <translation>環境設定ファイルではありません</translation>
-    </message>
-    <message>
-        <source>it is gone</source>
-        <translation>ファイルがなくなっています</translation>
-    </message>
-    <message>
-        <source>its folder cannot be created</source>
-        <translation>フォルダーを作成できません</translation>
-    </message>
-    <message>
-        <source>its header is not what it was</source>
-        <translation>ヘッダーが元の内容と異なります</translation>
-    </message>
-</context>
-<context>
     <name>olStoreTables</name>
     <message>
         <source>it is another program&apos;s database</source>
@@ -2334,10 +2323,6 @@
     <message>
         <source>it was written by a newer version</source>
         <translation>より新しいバージョンで書き込まれています</translation>
-    </message>
-    <message>
-        <source>its format is unknown</source>
-        <translation>未知の形式です</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
@@ -2354,6 +2339,10 @@
     <message>
         <source>its history was changed</source>
         <translation>履歴が変更されています</translation>
+    </message>
+    <message>
+        <source>there is nothing in it</source>
+        <translation>中身がありません</translation>
     </message>
 </context>
 <context>

@@ -1545,6 +1545,34 @@
 <context>
     <name>olPreferencesStore</name>
     <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>another program keeps it busy</source>
+        <translation>다른 프로그램이 사용 중입니다</translation>
+    </message>
+    <message>
+        <source>it is no preferences file</source>
+        <translation>환경 설정 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it is gone</source>
+        <translation>파일이 없어졌습니다</translation>
+    </message>
+    <message>
+        <source>its folder cannot be created</source>
+        <translation>폴더를 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>its header is not what it was</source>
+        <translation>헤더가 원래와 다릅니다</translation>
+    </message>
+    <message>
         <source>Cannot read the preferences %1: %2.</source>
         <translation>환경 설정 %1을(를) 읽을 수 없습니다: %2.</translation>
     </message>
@@ -1688,10 +1716,6 @@
     <message>
         <source>the file is damaged or of another format</source>
         <translation>파일이 손상되었거나 다른 형식입니다</translation>
-    </message>
-    <message>
-        <source>the temporary directory cannot be written to</source>
-        <translation>임시 디렉터리에 쓸 수 없습니다</translation>
     </message>
     <message>
         <source>the file %1 that it refers to cannot be read</source>
@@ -2291,41 +2315,6 @@
     </message>
 </context>
 <context>
-    <name>olStoreFile</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
-    </message>
-    <message>
-        <source>it is no regular file</source>
-        <translation>일반 파일이 아닙니다</translation>
-    </message>
-    <message>
-        <source>another program keeps it busy</source>
-        <translation>다른 프로그램이 사용 중입니다</translation>
-    </message>
-    <message>
-        <source>there is nothing in it</source>
-        <translation>아무것도 들어 있지 않습니다</translation>
-    </message>
-    <message>
-        <source>it is no preferences file</source>
-        <translation>환경 설정 파일이 아닙니다</translation>
-    </message>
-    <message>
-        <source>it is gone</source>
-        <translation>파일이 없어졌습니다</translation>
-    </message>
-    <message>
-        <source>its folder cannot be created</source>
-        <translation>폴더를 만들 수 없습니다</translation>
-    </message>
-    <message>
-        <source>its header is not what it was</source>
-        <translation>헤더가 원래와 다릅니다</translation>
-    </message>
-</context>
-<context>
     <name>olStoreTables</name>
     <message>
         <source>it is another program&apos;s database</source>
@@ -2334,10 +2323,6 @@
     <message>
         <source>it was written by a newer version</source>
         <translation>더 새로운 버전에서 저장한 파일입니다</translation>
-    </message>
-    <message>
-        <source>its format is unknown</source>
-        <translation>알 수 없는 형식입니다</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
@@ -2354,6 +2339,10 @@
     <message>
         <source>its history was changed</source>
         <translation>기록이 변경되었습니다</translation>
+    </message>
+    <message>
+        <source>there is nothing in it</source>
+        <translation>아무것도 들어 있지 않습니다</translation>
     </message>
 </context>
 <context>

@@ -1545,6 +1545,34 @@
 <context>
     <name>olPreferencesStore</name>
     <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>another program keeps it busy</source>
+        <translation>另一个程序正在占用它</translation>
+    </message>
+    <message>
+        <source>it is no preferences file</source>
+        <translation>这不是首选项文件</translation>
+    </message>
+    <message>
+        <source>it is gone</source>
+        <translation>它已不存在</translation>
+    </message>
+    <message>
+        <source>its folder cannot be created</source>
+        <translation>无法创建其文件夹</translation>
+    </message>
+    <message>
+        <source>its header is not what it was</source>
+        <translation>其文件头与原来不同</translation>
+    </message>
+    <message>
         <source>Cannot read the preferences %1: %2.</source>
         <translation>无法读取首选项 %1：%2。</translation>
     </message>
@@ -1688,10 +1716,6 @@
     <message>
         <source>the file is damaged or of another format</source>
         <translation>文件已损坏或属于其他格式</translation>
-    </message>
-    <message>
-        <source>the temporary directory cannot be written to</source>
-        <translation>无法写入临时目录</translation>
     </message>
     <message>
         <source>the file %1 that it refers to cannot be read</source>
@@ -2291,41 +2315,6 @@
     </message>
 </context>
 <context>
-    <name>olStoreFile</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
-    <message>
-        <source>it is no regular file</source>
-        <translation>这不是普通文件</translation>
-    </message>
-    <message>
-        <source>another program keeps it busy</source>
-        <translation>另一个程序正在占用它</translation>
-    </message>
-    <message>
-        <source>there is nothing in it</source>
-        <translation>其中没有内容</translation>
-    </message>
-    <message>
-        <source>it is no preferences file</source>
-        <translation>这不是首选项文件</translation>
-    </message>
-    <message>
-        <source>it is gone</source>
-        <translation>它已不存在</translation>
-    </message>
-    <message>
-        <source>its folder cannot be created</source>
-        <translation>无法创建其文件夹</translation>
-    </message>
-    <message>
-        <source>its header is not what it was</source>
-        <translation>其文件头与原来不同</translation>
-    </message>
-</context>
-<context>
     <name>olStoreTables</name>
     <message>
         <source>it is another program&apos;s database</source>
@@ -2334,10 +2323,6 @@
     <message>
         <source>it was written by a newer version</source>
         <translation>它由较新版本的程序写入</translation>
-    </message>
-    <message>
-        <source>its format is unknown</source>
-        <translation>其格式未知</translation>
     </message>
     <message>
         <source>its tables are not what they were</source>
@@ -2354,6 +2339,10 @@
     <message>
         <source>its history was changed</source>
         <translation>其历史记录被更改</translation>
+    </message>
+    <message>
+        <source>there is nothing in it</source>
+        <translation>其中没有内容</translation>
     </message>
 </context>
 <context>

@@ -6,7 +6,7 @@
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
-#include "Store/olConfidentialSettings.h"
+#include "olHostSettings.h"
 
 #include <QCoreApplication>
 #include <QSysInfo>
@@ -44,7 +44,7 @@ QString olSupportInformation(const olPreferencesSession &session, const olLogTai
         const boost::any now = olPreferencesSession::moduleOf(key)->value(key);
         if (now.empty() || olValue::equal(now, session.defaultValue(key)))
             continue;
-        if (olIsConfidential(key))
+        if (olHostSettings::isConfidential(key))
             secrets << QString::fromStdString(key);
         else
             changed[key] = now;

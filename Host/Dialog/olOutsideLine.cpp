@@ -46,6 +46,7 @@ olOutsideLine::olOutsideLine(olPreferencesSession &session, olPendingChanges &pe
 
 void olOutsideLine::clear()
 {
+    m_told.clear();
     m_conflicts.clear();
     setVisible(false);
 }
@@ -82,11 +83,18 @@ void olOutsideLine::tell(const std::vector<olOutsideChange> &changes)
         const int more = lines.size() - mostLines + 1;
         lines = lines.mid(0, mostLines - 1) << tr("%1 more settings were changed.").arg(more);
     }
-    if (!lines.isEmpty()) {
-        m_message->showNote(lines.join(QLatin1Char('\n')));
-        setVisible(true);
-    }
+    if (!lines.isEmpty())
+        m_told = lines;
+    if (m_conflicts.empty())
+        showLines(m_told);
     ask();
+}
+
+void olOutsideLine::showLines(const QStringList &lines)
+{
+    if (!lines.isEmpty())
+        m_message->showNote(lines.join(QLatin1Char('\n')));
+    setVisible(!lines.isEmpty());
 }
 
 void olOutsideLine::ask()
@@ -98,13 +106,12 @@ void olOutsideLine::ask()
     m_mine->setVisible(!m_conflicts.empty());
     if (m_conflicts.empty()) {
         if (wasAsking)
-            setVisible(false);
+            showLines(m_told);
         return;
     }
     const olOutsideChange &conflict = m_conflicts.front();
     const QString mine = m_textOf(conflict.key, m_pending.value(conflict.key));
-    m_message->showNote(told(conflict) + QLatin1Char(' ') + tr("Your change to %1 is pending.").arg(mine));
+    showLines(m_told + QStringList(told(conflict) + QLatin1Char(' ') + tr("Your change to %1 is pending.").arg(mine)));
     m_theirs->setText(tr("&Use %1").arg(m_textOf(conflict.key, conflict.after)));
     m_mine->setText(tr("&Keep %1").arg(mine));
-    setVisible(true);
 }

@@ -2,6 +2,7 @@
 
 #include "Session/olPreferencesSession.h"
 
+#include <QStringList>
 #include <QWidget>
 
 #include <deque>
@@ -32,6 +33,7 @@ public:
 private:
     void tell(const std::vector<olOutsideChange> &changes);
     void ask();
+    void showLines(const QStringList &lines);
     [[nodiscard]] bool isPending(const olOutsideChange &change) const;
     [[nodiscard]] QString told(const olOutsideChange &change) const;
 
@@ -41,5 +43,6 @@ private:
     olMessageLine *m_message;
     QPushButton *m_theirs;
     QPushButton *m_mine;
+    QStringList m_told;
     std::deque<olOutsideChange> m_conflicts;
 };

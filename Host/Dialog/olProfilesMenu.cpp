@@ -11,6 +11,7 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -61,6 +62,9 @@ void olProfilesMenu::saveAs(const olPreferencesSession &session, const olPending
     form->addRow(tr("&Name:"), name);
     form->addRow(tr("&Settings:"), which);
     form->addRow(buttons);
+    QPushButton *save = buttons->button(QDialogButtonBox::Save);
+    save->setEnabled(false);
+    connect(name, &QLineEdit::textChanged, save, [save](const QString &text) { save->setEnabled(!text.isEmpty()); });
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     if (dialog.exec() != QDialog::Accepted || !isReplaceAgreed(name->text()))

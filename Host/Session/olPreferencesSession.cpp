@@ -345,18 +345,18 @@ void olPreferencesSession::restore(const std::string &key)
     m_chosen.erase(key);
 }
 
-olPreferencesSession::Changes olPreferencesSession::changesTo(const Values &stored, const Values &kept) const
+std::vector<olStoreRows::Change> olPreferencesSession::changesTo(const Values &stored, const Values &kept) const
 {
-    Changes changes;
+    std::vector<olStoreRows::Change> changes;
     for (const auto &[key, value] : kept) {
         const auto found = stored.find(key);
         if (found == stored.end() || !olValue::identical(found->second, value))
-            changes.changed[key] = value;
+            changes.push_back({key, {}, olStoreRows::Row::of(value)});
     }
     for (const auto &[key, value] : stored) {
         const bool isOurs = m_stored.count(key) != 0 || hasDefault(key);
         if (kept.count(key) == 0 && isOurs)
-            changes.removed.push_back(key);
+            changes.push_back({key, {}, {}});
     }
     return changes;
 }
@@ -367,16 +367,17 @@ olResult<> olPreferencesSession::save()
     restoreLocked();
     keepEmptied();
     const Values kept = toBeKept();
-    const Changes changes = changesTo(m_stored, kept);
-    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    const std::vector<olStoreRows::Change> changes = changesTo(m_stored, kept);
+    olResult<> saved = m_store.save(changes);
     if (!saved.isOk() && m_store.isBroken())
         saved = saveIntoMended({saved.error()}, kept);
     if (!saved.isOk())
         return saved;
-    for (const auto &[key, value] : changes.changed)
-        m_stored[key] = olValue::adopted(value);
-    for (const olPreferencesStore::Key &key : changes.removed)
-        m_stored.erase(key);
+    for (const olStoreRows::Change &change : changes) {
+        m_stored.erase(change.key);
+        if (change.after)
+            m_stored[change.key] = olValue::adopted(kept.at(change.key));
+    }
     for (auto held = m_heldBack.begin(); held != m_heldBack.end();)
         held = isHeldBack(held->first) ? std::next(held) : m_heldBack.erase(held);
     m_chosen.clear();
@@ -392,8 +393,7 @@ olResult<> olPreferencesSession::saveIntoMended(const olFailure &failure, const 
         return failure;
     // What another program has mended may hold newer values of its own.
     const bool isOthers = opened->notice.isEmpty() && !opened->values.empty();
-    const Changes changes = changesTo(isOthers ? m_stored : opened->values, kept);
-    olResult<> saved = m_store.save(changes.changed, changes.removed);
+    olResult<> saved = m_store.save(changesTo(isOthers ? m_stored : opened->values, kept));
     if (saved.isOk() && !opened->notice.isEmpty())
         m_notices << opened->notice + QLatin1Char(' ') +
                          QCoreApplication::translate("olPreferencesSession",

@@ -159,19 +159,14 @@ signals:
     void consentWanted(const olOutsideChange &change, const olSettingWarning &question);
 
 private:
-    struct Changes {
-        olPreferencesStore::Values changed;
-        std::vector<olPreferencesStore::Key> removed;
-    };
-
     [[nodiscard]] olPreferencesStore::Values toBeKept() const;
     [[nodiscard]] bool isChoice(const olPreferencesStore::Key &key, const boost::any &value) const;
     [[nodiscard]] std::vector<olOutsideChange> replaceStored(const olPreferencesStore::Values &stored);
     [[nodiscard]] bool isHeldBack(const olPreferencesStore::Key &key) const;
     void putIntoForce(const std::vector<olOutsideChange> &changes);
     void applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed);
-    [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
-                                    const olPreferencesStore::Values &kept) const;
+    [[nodiscard]] std::vector<olStoreRows::Change> changesTo(const olPreferencesStore::Values &stored,
+                                                             const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
     olResult<> saveIntoMended(const olFailure &failure, const olPreferencesStore::Values &kept);
     void followSite();

@@ -1,7 +1,7 @@
 #include "Session/olProfiles.h"
 
 #include "Session/olPreferencesFile.h"
-#include "Store/olStoreFile.h"
+#include "Store/olPreferencesStore.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -80,7 +80,7 @@ olResult<> olProfiles::save(const QString &name, const olSettingValues &settings
     const QString wrong = fault(name);
     if (!wrong.isEmpty())
         return olFailure{wrong};
-    if (!olStoreFile::makeFolder(m_own))
+    if (!olPreferencesStore::makeFolder(m_own))
         return olFailure{Words::tr("Cannot make the folder %1.").arg(m_own)};
     return olPreferencesFile::write(ownFile(name), settings);
 }

@@ -45,5 +45,5 @@ olResult<> olUndo::save()
 
 boost::any olUndo::value(const Key &key, const std::optional<Row> &row) const
 {
-    return row ? olPreferencesStore::valueOf(*row) : m_session.defaultValue(key.second);
+    return row ? row->parsed() : m_session.defaultValue(key.second);
 }

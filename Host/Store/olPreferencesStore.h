@@ -4,16 +4,14 @@
 #include "Store/olStoreRows.h"
 #include "olHostExport.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
-#include <boost/any.hpp>
 
-#include <optional>
 #include <vector>
 
 class olStoreError;
-class olStoreFile;
 
 /// What a run does to the store that it loads: a run of its own keeps it in order, one that only looks leaves the disk
 /// as it is.
@@ -39,6 +37,9 @@ public:
     /// The user's own store, in the configuration folder.
     [[nodiscard]] static QString userFile();
 
+    /// With those on the way to it; each for its owner alone. False where it cannot be.
+    [[nodiscard]] static bool makeFolder(const QString &folder);
+
     /// Nothing is opened or created before it is needed. Of a link the target is the store.
     explicit olPreferencesStore(const QString &file);
 
@@ -56,12 +57,9 @@ public:
     /// Whether the file may hold something else than when it was last read here. Cheap, to be asked all the time.
     [[nodiscard]] bool mayHaveChanged() const;
 
-    /// Makes the store hold `changed` and no longer hold `removed`; what neither names stays as it is. One transaction:
-    /// on failure the file keeps what it held. With nothing to do the file is not touched.
-    olResult<> save(const Values &changed, const std::vector<Key> &removed);
-
-    /// The same. Rows that are not any more what they were before the change stay, and go into `left`, where it is
-    /// given.
+    /// Gives these settings the rows after the change; all others stay as they are. One transaction: on failure the
+    /// file keeps what it held. With nothing to do the file is not touched. Where `left` is given, settings that do not
+    /// have the row before the change any more stay too, and their changes go into it.
     olResult<> save(const std::vector<olStoreRows::Change> &changes, std::vector<olStoreRows::Change> *left = nullptr);
 
     /// Whether the last save() failed because the file is damaged or gone, which open() mends.
@@ -70,21 +68,18 @@ public:
     /// One sentence for each thing that is wrong with the file or its copy. Changes nothing.
     [[nodiscard]] QStringList check() const;
 
-    /// Empty for a value that cannot be understood.
-    [[nodiscard]] static boost::any valueOf(const olStoreRows::Row &row);
-
 private:
-    [[nodiscard]] olStoreFile store() const;
-    [[nodiscard]] olStoreFile copy() const;
-    [[nodiscard]] olFailure cannotRead(const olStoreError &error) const;
+    [[nodiscard]] bool isStore() const;
     [[nodiscard]] QString wayOut(const olStoreError &error) const;
+    [[nodiscard]] olFailure cannotRead(const olStoreError &error) const;
     [[nodiscard]] olStoreRows::Contents read();
-    [[nodiscard]] std::optional<olStoreRows::Values> readCopy(QString &remark) const;
     void keepCopy(const std::string &seal) const;
     [[nodiscard]] olStoreOpening mend(const QString &reason, olStoreUse use);
+    void change(const std::vector<olStoreRows::Change> &changes, std::vector<olStoreRows::Change> *left) const;
 
     QString m_file;
-    QString m_stamp; ///< empty where the file is to be read again
+    QString m_copy;
+    QByteArray m_stamp; ///< empty where the file is to be read again
     bool m_isStore = false;
     bool m_isBroken = false;
 };

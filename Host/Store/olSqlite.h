@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -18,10 +18,7 @@ class olStoreError : public std::runtime_error
 public:
     enum class Kind {
         Damaged,
-        Newer,   ///< written by a later version, whose rows are not ours to judge
-        Foreign, ///< nothing that ever was a store
-        Busy,
-        NoLocks, ///< the file system refuses them
+        Newer, ///< written by a later version, whose rows are not ours to judge
         Access
     };
 
@@ -43,10 +40,8 @@ class olSqlite
 
 public:
     enum class Access {
-        Look,      ///< changes nothing on the disk
-        Immutable, ///< the same without a lock, where nobody writes
-        Private,   ///< a file that nobody else knows, with whatever journal stands beside it
-        Write      ///< what a transaction has changed is safe on the disk when it ends
+        Shared, ///< waits for other programs, for a while
+        Private ///< nobody else knows the file, and whatever journal stands beside it
     };
 
     /// The bytes as they are stored; nothing for null.
@@ -56,8 +51,11 @@ public:
     /// The file must exist. It is not looked into yet.
     olSqlite(const QString &file, Access access);
 
-    /// Runs a statement and calls with each row of its answer.
-    void run(const std::string &sql, const Row &parameters = {}, const std::function<void(const Row &)> &take = {});
+    /// The bytes of a file, only to be looked at. They stay the caller's.
+    explicit olSqlite(const QByteArray &bytes);
+
+    /// Runs a statement. Returns its answer.
+    std::vector<Row> run(const std::string &sql, const Row &parameters = {});
 
     /// The one text or number that a statement answers with; empty where it answers nothing, and 0.
     [[nodiscard]] std::string text(const std::string &sql);
@@ -67,6 +65,7 @@ public:
     [[nodiscard]] bool wasMoved() const;
 
 private:
+    olSqlite(const QByteArray &path, const char *fileSystem);
     void require(int result) const;
 
     std::unique_ptr<sqlite3, int (*)(sqlite3 *)> m_handle;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "State/olHome.h"
+#include "State/olValue.h"
 
+#include <QByteArray>
 #include <boost/any.hpp>
 
 #include <map>
@@ -23,6 +25,11 @@ struct Row {
     std::string value; ///< JSON
     bool operator==(const Row &other) const { return type == other.type && value == other.value; }
     bool operator!=(const Row &other) const { return !(*this == other); }
+
+    [[nodiscard]] static Row of(const boost::any &value) { return {olValue::typeName(value), olValue::toJson(value)}; }
+
+    /// Empty where it cannot be understood.
+    [[nodiscard]] boost::any parsed() const { return olValue::fromJson(type, QByteArray::fromStdString(value)); }
 };
 
 /// Of one setting; nothing where it had no row, or has none any more.

@@ -1,15 +1,16 @@
 #include "Store/olStoreTables.h"
 
-#include "State/olValue.h"
-#include "Store/olConfidentialSettings.h"
 #include "Store/olSqlite.h"
+#include "olHostSettings.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDateTime>
 
+#include <cerrno>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 namespace
 {
@@ -67,40 +68,46 @@ std::optional<Row> rowOf(const Text &type, const Text &value)
 void requireOurs(olSqlite &database)
 {
     if (database.number("PRAGMA application_id") != applicationId)
-        throw olStoreError(Kind::Foreign, Words::tr("it is another program's database"));
+        throw olStoreError(Kind::Damaged, Words::tr("it is another program's database"));
     const int format = database.number("PRAGMA user_version");
     if (format > currentFormat)
         throw olStoreError(Kind::Newer, Words::tr("it was written by a newer version"));
-    if (format < earlierFormat)
-        throw olStoreError(Kind::Damaged, Words::tr("its format is unknown"));
-    const auto count = [&database](const olSqlite::Row &texts) {
-        int found = 0;
-        database.run("SELECT sql FROM sqlite_schema WHERE sql IN (?, ?, ?) OR type = 'trigger'", texts,
-                     [&found](const olSqlite::Row &) { ++found; });
-        return found;
-    };
-    if (count({settingTable, sealTable, historyTable}) != (format == earlierFormat ? 1 : 3))
+    const auto known = database.run("SELECT sql FROM sqlite_schema WHERE sql IN (?, ?, ?) OR type = 'trigger'",
+                                    {settingTable, sealTable, historyTable});
+    if (format < earlierFormat || known.size() != (format == earlierFormat ? 1 : 3))
         throw olStoreError(Kind::Damaged, Words::tr("its tables are not what they were"));
     if (database.text("PRAGMA quick_check(1)") != "ok")
         throw olStoreError(Kind::Damaged, Words::tr("its structure is broken"));
 }
 
-/// What the seal over the rows must be.
-std::string sealOf(olSqlite &database, Values *values)
+std::vector<olSqlite::Row> settingsIn(olSqlite &database)
+{
+    return database.run("SELECT home, key, type, value FROM setting NOT INDEXED ORDER BY home, key");
+}
+
+std::string sealOf(const std::vector<olSqlite::Row> &settings)
 {
     std::string checksums;
-    database.run("SELECT home, key, type, value FROM setting NOT INDEXED ORDER BY home, key", {},
-                 [&](const olSqlite::Row &row) {
-                     checksums += checksum(row);
-                     if (!values)
-                         return;
-                     const auto key = keyOf(row[0], row[1]);
-                     const boost::any value =
-                         olValue::fromJson(row[2].value_or(""), QByteArray::fromStdString(row[3].value_or("")));
-                     if (key && !value.empty())
-                         (*values)[*key] = value;
-                 });
+    for (const olSqlite::Row &row : settings)
+        checksums += checksum(row);
     return checksum({checksums});
+}
+
+History historyIn(olSqlite &database)
+{
+    History history;
+    for (olSqlite::Row &row : database.run("SELECT * FROM history NOT INDEXED ORDER BY save")) {
+        const Text proof = row.back();
+        row.pop_back();
+        if (proof != checksum(row))
+            throw olStoreError(Kind::Damaged, Words::tr("its history was changed"));
+        const int number = std::atoi(row[0].value_or("").c_str());
+        if (history.empty() || history.back().number != number)
+            history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});
+        if (const auto key = keyOf(row[3], row[4]))
+            history.back().changes.push_back({*key, rowOf(row[5], row[6]), rowOf(row[7], row[8])});
+    }
+    return history;
 }
 
 void bringToCurrentFormat(olSqlite &database)
@@ -122,38 +129,31 @@ void bringToCurrentFormat(olSqlite &database)
 
 } // namespace
 
-std::string olStoreTables::readRows(olSqlite &database, Values *values)
+Contents olStoreTables::read(olSqlite &database, bool wasStore)
 {
-    if (database.number("SELECT count(*) FROM sqlite_schema") == 0)
-        return {};
+    Contents contents;
+    if (database.number("SELECT count(*) FROM sqlite_schema") == 0) {
+        if (wasStore)
+            throw olStoreError(Kind::Damaged, Words::tr("there is nothing in it"));
+        return contents;
+    }
     requireOurs(database);
-    std::string seal = sealOf(database, values);
-    if (database.text("SELECT group_concat(rows) FROM seal") != seal)
+    const std::vector<olSqlite::Row> settings = settingsIn(database);
+    contents.seal = sealOf(settings);
+    if (database.text("SELECT group_concat(rows) FROM seal") != contents.seal)
         throw olStoreError(Kind::Damaged, Words::tr("rows were changed or are missing"));
-    return seal;
+    for (const olSqlite::Row &row : settings) {
+        const auto key = keyOf(row[0], row[1]);
+        boost::any value = Row{row[2].value_or(""), row[3].value_or("")}.parsed();
+        if (key && !value.empty())
+            contents.values[*key] = std::move(value);
+    }
+    if (database.number("PRAGMA user_version") != earlierFormat)
+        contents.history = historyIn(database);
+    return contents;
 }
 
-History olStoreTables::readHistory(olSqlite &database)
-{
-    History history;
-    if (database.number("PRAGMA user_version") == earlierFormat)
-        return history;
-    database.run("SELECT * FROM history NOT INDEXED ORDER BY save", {}, [&history](olSqlite::Row row) {
-        const Text proof = row.back();
-        row.pop_back();
-        if (proof != checksum(row))
-            throw olStoreError(Kind::Damaged, Words::tr("its history was changed"));
-        const int number = std::atoi(row[0].value_or("").c_str());
-        if (history.empty() || history.back().number != number)
-            history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});
-        if (const auto key = keyOf(row[3], row[4]))
-            history.back().changes.push_back({*key, rowOf(row[5], row[6]), rowOf(row[7], row[8])});
-    });
-    return history;
-}
-
-bool olStoreTables::change(olSqlite &database, const std::vector<Change> &changes, const std::string &program,
-                           std::vector<Change> *left)
+bool olStoreTables::change(olSqlite &database, const std::vector<Change> &changes, std::vector<Change> *left)
 {
     bringToCurrentFormat(database);
     const std::string number = std::to_string(database.number("SELECT max(save) FROM history") + 1);
@@ -161,9 +161,8 @@ bool olStoreTables::change(olSqlite &database, const std::vector<Change> &change
     bool isChanged = false;
     for (const auto &[key, before, after] : changes) {
         const olSqlite::Row place{nameOf(key.first), key.second};
-        std::optional<Row> now;
-        database.run("SELECT type, value FROM setting WHERE home = ? AND key = ?", place,
-                     [&now](const olSqlite::Row &row) { now = rowOf(row[0], row[1]); });
+        const auto found = database.run("SELECT type, value FROM setting WHERE home = ? AND key = ?", place);
+        const auto now = found.empty() ? std::nullopt : rowOf(found[0][0], found[0][1]);
         if (left && now != before)
             left->push_back({key, before, after});
         if (now == after || (left && now != before))
@@ -172,16 +171,16 @@ bool olStoreTables::change(olSqlite &database, const std::vector<Change> &change
         database.run("DELETE FROM setting WHERE home = ? AND key = ?", place);
         if (after)
             database.run("INSERT INTO setting VALUES (?, ?, ?, ?)", {place[0], place[1], after->type, after->value});
-        olSqlite::Row entry{number, time, program, place[0], place[1]};
+        olSqlite::Row entry{number, time, program_invocation_short_name, place[0], place[1]};
         for (const auto &row : {now, after}) {
             entry.push_back(row ? Text(row->type) : std::nullopt);
             entry.push_back(row ? Text(row->value) : std::nullopt);
         }
         entry.emplace_back(checksum(entry));
-        if (!olIsConfidential(key.second))
+        if (!olHostSettings::isConfidential(key.second))
             database.run("INSERT INTO history VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)", entry);
     }
     database.run("DELETE FROM history WHERE save <= ? - " + std::to_string(rememberedSaves), {number});
-    database.run("UPDATE seal SET rows = ?", {sealOf(database, nullptr)});
+    database.run("UPDATE seal SET rows = ?", {sealOf(settingsIn(database))});
     return isChanged;
 }

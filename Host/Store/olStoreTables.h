@@ -2,7 +2,6 @@
 
 #include "Store/olStoreRows.h"
 
-#include <string>
 #include <vector>
 
 class olSqlite;
@@ -12,17 +11,14 @@ class olSqlite;
 namespace olStoreTables
 {
 
-/// Proves tables, structure and rows, and fills the values, where they are wanted. Returns the seal; an empty text from
-/// a file that was made but never filled.
-std::string readRows(olSqlite &database, olStoreRows::Values *values);
+/// Proves tables, structure, rows and history. A file that was made but never filled has no seal, and is damaged where
+/// a store was in it.
+[[nodiscard]] olStoreRows::Contents read(olSqlite &database, bool wasStore);
 
-/// Of a file that holds rows.
-[[nodiscard]] olStoreRows::History readHistory(olSqlite &database);
-
-/// Makes the changes, within a transaction, and remembers them under the program's name; false where there was nothing
+/// Makes the changes, within a transaction, and remembers them under this program's name; false where there was nothing
 /// to do. See olPreferencesStore::save() for `left`. Makes the tables where there are none, and those of the earlier
 /// form into the present one.
 [[nodiscard]] bool change(olSqlite &database, const std::vector<olStoreRows::Change> &changes,
-                          const std::string &program, std::vector<olStoreRows::Change> *left);
+                          std::vector<olStoreRows::Change> *left);
 
 } // namespace olStoreTables

@@ -4,7 +4,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
-#include "Store/olConfidentialSettings.h"
+#include "olHostSettings.h"
 
 #include <OpenSG/OSGColor.h>
 #include <QCoreApplication>
@@ -48,7 +48,7 @@ class Values
 public:
     void add(const std::string &key, const boost::any &value)
     {
-        if (olValue::typeName(value).empty() || olIsConfidential(key))
+        if (olValue::typeName(value).empty() || olHostSettings::isConfidential(key))
             return;
         m_length += leastLength(value);
         if (!isTooLarge())

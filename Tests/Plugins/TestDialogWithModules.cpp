@@ -5,6 +5,7 @@
 #include "Editing/olPageIndex.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
+#include "Session/olPreferencesFile.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olValue.h"
 #include "Widgets/QOLCollapsibleFrame.h"
@@ -12,6 +13,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QFile>
@@ -21,6 +23,7 @@
 #include <QJsonObject>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSlider>
@@ -408,8 +411,10 @@ TEST_F(DialogWithModules, WhatThePageWouldAskAboutIsAskedWhenAnotherProgramStore
     ASSERT_EQ(session.loadStore().error(), QString());
     olPreferencesStore other(session.store().file());
     const auto storeOutside = [&](bool isOn, float width) {
-        EXPECT_TRUE(
-            other.save({{{olHome::Record, server}, isOn}, {{olHome::Record, "Powerwall width"}, width}}, {}).isOk());
+        EXPECT_TRUE(other
+                        .save({{{olHome::Record, server}, {}, olStoreRows::Row::of(isOn)},
+                               {{olHome::Record, "Powerwall width"}, {}, olStoreRows::Row::of(width)}})
+                        .isOk());
         session.takeOver();
         EXPECT_EQ(boost::any_cast<float>(record().get("Powerwall width")), width) << "nothing else waits for that";
     };
@@ -474,4 +479,59 @@ TEST_F(DialogWithModules, ATipTellsRangeDefaultAndEffectBesidesWhatTheFormHas)
     EXPECT_TRUE(told(control<QWidget>("Step", "removeEmptyGroups")).endsWith("Takes effect at the next import"));
     dialog->open(QStringLiteral("WebInterface"));
     EXPECT_EQ(told(control<QWidget>("WebInterface", "enableWebServer")).count("Default: off"), 1);
+}
+
+TEST_F(DialogWithModules, AProfileHoldsAllSettingsOrThoseThatDifferOrThoseOfAModule)
+{
+    import(R"("Camera fov": {"type": "float", "value": 60}, "Powerwall width": {"type": "float", "value": 3})");
+    ASSERT_TRUE(dialog->apply());
+    const auto menus = dialog->findChildren<QMenu *>();
+    const auto found = std::find_if(menus.begin(), menus.end(),
+                                    [](const QMenu *menu) { return menu->title() == QLatin1String("&Profiles"); });
+    ASSERT_NE(found, menus.end());
+    QMenu &profiles = **found;
+    const auto choose = [&profiles](const QString &text) {
+        profiles.popup({});
+        const QList<QAction *> actions = profiles.actions();
+        const auto action =
+            std::find_if(actions.begin(), actions.end(), [&text](const QAction *one) { return one->text() == text; });
+        ASSERT_NE(action, actions.end()) << text.toStdString();
+        profiles.close();
+        (*action)->trigger();
+    };
+    const auto settingsOf = [this](const QString &name) {
+        const auto kept = olPreferencesFile::read(folder.filePath("profiles/" + name + ".json"));
+        EXPECT_EQ(kept.error(), QString());
+        return kept.isOk() ? kept->settings : olSettingValues();
+    };
+    const auto saveAs = [&](const QString &name, const QString &which, QMessageBox::StandardButton answer) {
+        QTimer::singleShot(0, dialog.get(), [&] {
+            QWidget *box = QApplication::activeModalWidget();
+            ASSERT_NE(box, nullptr);
+            EXPECT_FALSE(box->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->isEnabled());
+            QTest::keyClicks(box->findChild<QLineEdit *>(), name);
+            box->findChild<QComboBox *>()->setCurrentText(which);
+            QTimer::singleShot(0, dialog.get(), [answer] {
+                if (auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+                    question->button(answer)->click();
+            });
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        choose(QStringLiteral("&Save As..."));
+        return settingsOf(name);
+    };
+    EXPECT_EQ(saveAs("all", "All Settings", QMessageBox::No).size(), olPreferencesSession::keys().size());
+    EXPECT_EQ(saveAs("changed", "Changed Settings", QMessageBox::No).size(), 2u);
+    EXPECT_EQ(saveAs("one", "Camera", QMessageBox::No).size(), 6u);
+    EXPECT_EQ(saveAs("one", "Changed Settings", QMessageBox::No).size(), 6u) << "it was not to be replaced";
+    EXPECT_EQ(saveAs("one", "Changed Settings", QMessageBox::Yes).size(), 2u);
+
+    dialog->restoreAll();
+    ASSERT_TRUE(dialog->apply());
+    choose(QStringLiteral("changed"));
+    auto *view = dialog->findChild<olChangesView *>();
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->topLevelItemCount(), 2);
+    view->accept();
+    EXPECT_EQ(pending(), "2 Changes");
 }

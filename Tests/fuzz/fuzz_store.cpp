@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (bytes.startsWith("SQLite format 3")) {
         write(name, bytes);
     } else if (bytes.startsWith("\xd9\xd5\x05\xf9")) {
-        if (!store.save({{{olHome::Record, "key"}, 1}}, {}).isOk())
+        if (!store.save({{{olHome::Record, "key"}, {}, olStoreRows::Row::of(1)}}).isOk())
             std::abort();
         write(name + QStringLiteral("-journal"), bytes);
     } else if (!store.save(rowsIn(bytes)).isOk()) {
@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (looked.isOk() != opened.isOk() || (opened.isOk() && looked->values.size() != opened->values.size()))
         std::abort();
     // Whatever was found: what is opened can be saved to.
-    if (opened.isOk() && !store.save({{{olHome::Record, "new"}, 1}}, {}).isOk())
+    if (opened.isOk() && !store.save({{{olHome::Record, "new"}, {}, olStoreRows::Row::of(1)}}).isOk())
         std::abort();
     return 0;
 }

@@ -8,8 +8,6 @@ QString olFormatTools::cutOff() { return olReason::tr("the file is cut off or da
 
 QString olFormatTools::damaged() { return olReason::tr("the file is damaged or of another format"); }
 
-QString olFormatTools::noTemporary() { return olReason::tr("the temporary directory cannot be written to"); }
-
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 
 bool olFormatTools::writePlainly(const QString &file, const std::function<bool(const char *)> &write)

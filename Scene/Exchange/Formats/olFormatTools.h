@@ -27,7 +27,6 @@ namespace olFormatTools
 /// Reasons that are told by several.
 [[nodiscard]] QString cutOff();
 [[nodiscard]] QString damaged();
-[[nodiscard]] QString noTemporary();
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);

@@ -29,7 +29,12 @@ protected:
 
     void saveOutside(const Values &changed, const std::vector<olPreferencesStore::Key> &removed = {})
     {
-        ASSERT_EQ(other.save(changed, removed).error(), QString());
+        std::vector<olStoreRows::Change> changes;
+        for (const auto &[key, value] : changed)
+            changes.push_back({key, {}, olStoreRows::Row::of(value)});
+        for (const olPreferencesStore::Key &key : removed)
+            changes.push_back({key, {}, {}});
+        ASSERT_EQ(other.save(changes).error(), QString());
     }
 
     [[nodiscard]] QWidget &line() const { return *dialog->findChild<QWidget *>(QStringLiteral("outsideChanges")); }
@@ -82,13 +87,15 @@ TEST_F(Following, PendingChangesStayAndTheSameSettingIsAskedFor)
     EXPECT_EQ(module.value<int>("Studio samples"), 4) << "pending is not in force";
     EXPECT_FALSE(choice("useTheirs").isVisible());
 
-    saveOutside({{key("Studio samples"), 9}, {key("Studio mode"), 0}});
+    saveOutside({{key("Studio samples"), 9}, {key("Studio scale"), 3.0f}});
     session->takeOver();
     EXPECT_EQ(module.page.samples->value(), 7);
     EXPECT_TRUE(said().contains("to 9") && said().contains("7")) << said().toStdString();
+    EXPECT_TRUE(said().contains("host-tests set") && said().contains("to 3")) << "with what was taken over";
     choice("useTheirs").click();
     EXPECT_EQ(module.page.samples->value(), 9);
     EXPECT_FALSE(choice("useTheirs").isVisible());
+    EXPECT_TRUE(said().contains("to 3") && !said().contains("to 9")) << said().toStdString();
     EXPECT_TRUE(canApply()) << "the other change is still pending";
 
     module.page.samples->setValue(5);
@@ -135,6 +142,9 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     ASSERT_NE(view, nullptr);
     auto *list = view->findChild<QTreeWidget *>();
     ASSERT_EQ(list->topLevelItemCount(), 3);
+    EXPECT_EQ(list->topLevelItem(0)->text(1), "host-tests");
+    EXPECT_EQ(list->topLevelItem(0)->text(2), "Studio > Picture > Mode: default to Accurate") << "not its number";
+    EXPECT_EQ(list->topLevelItem(1)->text(2), "Studio > Picture > Samples: 8 to 16");
     list->setCurrentItem(list->topLevelItem(1));
     view->findChild<QPushButton *>(QStringLiteral("goBack"))->click();
     auto *changesView = opened<QDialog>();

@@ -26,6 +26,8 @@
 namespace
 {
 
+using olStoreRows::Row;
+
 /// A module with one number, that tells what the host asks of it.
 class CountingModule : public olPreferences
 {
@@ -195,7 +197,7 @@ TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)
     olPreferencesStore store(file);
     const olPreferencesStore::Key foreign{olHome::Record, "Someone else's"};
     const olPreferencesStore::Key foreignService{olHome::Service, "Someone else's"};
-    ASSERT_EQ(store.save({{foreign, 0.1f}, {foreignService, true}}, {}).error(), QString());
+    ASSERT_EQ(store.save({{foreign, {}, Row::of(0.1f)}, {foreignService, {}, Row::of(true)}}).error(), QString());
 
     nextRun();
     session->start();
@@ -221,7 +223,7 @@ TEST_F(Session, AFileThatIsNoStoreIsReportedAndLeftAlone)
 
     olPreferencesStore store(other);
     EXPECT_TRUE(store.load().error().contains(other));
-    EXPECT_TRUE(store.save({{{olHome::Record, "key"}, 1}}, {}).error().contains(other));
+    EXPECT_TRUE(store.save({{{olHome::Record, "key"}, {}, Row::of(1)}}).error().contains(other));
     ASSERT_TRUE(letter.open(QIODevice::ReadOnly));
     EXPECT_EQ(letter.readAll(), text);
 }

@@ -30,6 +30,14 @@ StoreTest::Opening StoreTest::opened(olPreferencesStore &store, Values &values, 
     return {opening.error(), opening.isOk() ? opening->notice : QString()};
 }
 
+std::vector<olStoreRows::Change> StoreTest::to(const Values &values)
+{
+    std::vector<olStoreRows::Change> changes;
+    for (const auto &[key, value] : values)
+        changes.push_back({key, {}, olStoreRows::Row::of(value)});
+    return changes;
+}
+
 QString StoreTest::load(olPreferencesStore store, Values &values)
 {
     const olResult<olStoreRows::Contents> contents = store.load();
@@ -53,7 +61,7 @@ StoreTest::Values StoreTest::stored() const
 
 void StoreTest::save(const Values &changed) const
 {
-    ASSERT_EQ(olPreferencesStore(file).save(changed, {}).error(), QString());
+    ASSERT_EQ(olPreferencesStore(file).save(to(changed)).error(), QString());
 }
 
 void StoreTest::tamper(const char *sql) const

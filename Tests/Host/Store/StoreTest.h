@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 /// A store in a folder of its own. In memory where there is such a folder: these tests save thousands of times.
 class StoreTest : public testing::Test
@@ -20,6 +21,9 @@ protected:
     using Values = olPreferencesStore::Values;
 
     static Key key(const std::string &name) { return {olHome::Record, name}; }
+
+    /// Whatever they were before.
+    static std::vector<olStoreRows::Change> to(const Values &values);
 
     /// What was told when a store was opened; both are empty when all is well.
     struct Opening {

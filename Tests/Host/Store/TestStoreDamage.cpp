@@ -50,7 +50,7 @@ protected:
         }
         // Where the file went on being used, it can be.
         if (opening.error.isEmpty() && (harmless + mended) % 50 == 0) {
-            ASSERT_EQ(olPreferencesStore(file).save({{key("Camera fov"), 80.0f}}, {}).error(), QString()) << what;
+            ASSERT_EQ(olPreferencesStore(file).save(to({{key("Camera fov"), 80.0f}})).error(), QString()) << what;
             ASSERT_TRUE(olValue::identical(stored()[key("Camera fov")], 80.0f)) << what;
         }
         write(file + ".last-good", copy);
@@ -211,12 +211,15 @@ TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
 
 TEST_F(StoreDamage, ASaveOnADamagedFileIsRefusedAndPutsNoSealOnIt)
 {
-    tamper("DELETE FROM setting WHERE key = 'Row 7'");
-    olPreferencesStore store(file);
-    EXPECT_TRUE(store.save({{key("new"), 1}}, {}).error().contains(file));
-    EXPECT_TRUE(store.isBroken());
-    Values values;
-    EXPECT_NE(opened(store, values).notice, QString());
+    for (const char *sql : {"DELETE FROM setting WHERE key = 'Row 7'", "UPDATE history SET program = 'x'"}) {
+        write(file, sound);
+        tamper(sql);
+        olPreferencesStore store(file);
+        EXPECT_TRUE(store.save(to({{key("new"), 1}})).error().contains(file)) << sql;
+        EXPECT_TRUE(store.isBroken());
+        Values values;
+        EXPECT_NE(opened(store, values).notice, QString());
+    }
 }
 
 TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
@@ -225,7 +228,7 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
     Values values;
     const auto saveFov = [&](float fov) {
         current[key("Camera fov")] = fov;
-        return store.save({{key("Camera fov"), fov}}, {}).error();
+        return store.save(to({{key("Camera fov"), fov}})).error();
     };
     ASSERT_EQ(opened(store, values).notice, QString());
     ASSERT_EQ(saveFov(61), QString());
@@ -283,7 +286,7 @@ TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
     Values values;
     const QString error = opened(store, values).error;
     EXPECT_TRUE(error.contains("newer") && error.contains("move it away") && error.contains(".last-good"));
-    EXPECT_TRUE(store.save({{key("a"), 1}}, {}).error().contains("newer"));
+    EXPECT_TRUE(store.save(to({{key("a"), 1}})).error().contains("newer"));
     EXPECT_FALSE(store.isBroken());
     EXPECT_TRUE(values.empty());
     EXPECT_EQ(bytesOf(file), newer);
@@ -301,7 +304,7 @@ TEST_F(StoreDamage, FilesThatNeverWereStoresAreLeftWhereTheyAre)
         write(other, bytes);
         Values values;
         EXPECT_TRUE(opened(olPreferencesStore(other), values).error.contains(other));
-        EXPECT_TRUE(olPreferencesStore(other).save({{key("a"), 1}}, {}).error().contains(other));
+        EXPECT_TRUE(olPreferencesStore(other).save(to({{key("a"), 1}})).error().contains(other));
         EXPECT_EQ(bytesOf(other), bytes);
     }
 }

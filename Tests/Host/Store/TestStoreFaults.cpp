@@ -101,7 +101,7 @@ TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
         if (child == 0) {
             olPreferencesStore store(file);
             for (int number = last + 1;; ++number) {
-                if (!store.save(generation(number), {}).isOk())
+                if (!store.save(to(generation(number))).isOk())
                     ::_exit(1);
                 saved->store(number);
             }
@@ -122,7 +122,7 @@ TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
         QElapsedTimer timer;
         timer.start();
         last = found + 1;
-        ASSERT_EQ(olPreferencesStore(file).save(generation(last), {}).error(), QString());
+        ASSERT_EQ(olPreferencesStore(file).save(to(generation(last))).error(), QString());
         ASSERT_LT(timer.elapsed(), 1500);
     }
     EXPECT_GT(last, 150);
@@ -139,14 +139,14 @@ TEST_F(StoreFaults, AFullDiskIsReportedAndTakesNothingAway)
         if (::mount("tmpfs", QFile::encodeName(folder.path()).constData(), "tmpfs", 0, "size=256k") != 0)
             return "skip";
         olPreferencesStore store(file);
-        if (!store.save({{key("a"), 2}}, {}).isOk())
+        if (!store.save(to({{key("a"), 2}})).isOk())
             return "not even a small store can be saved";
-        const std::string message = faultIn(store.save(large(), {}).error(), "no space left on the device");
+        const std::string message = faultIn(store.save(to(large())).error(), "no space left on the device");
         if (!message.empty())
             return message;
         if (!holds({{key("a"), 2}}))
             return "the earlier values are gone";
-        if (!store.save({{key("b"), 3}}, {}).isOk())
+        if (!store.save(to({{key("b"), 3}})).isOk())
             return "a smaller save does not work afterwards";
         return holds({{key("a"), 2}, {key("b"), 3}}) ? "" : "the later save did not arrive";
     });
@@ -274,7 +274,7 @@ TEST_F(StoreFaults, WhereLocksAreRefusedItCanBeReadAndSaysSoOnSaving)
                       olPreferencesStore store(file);
                       if (!holds(values))
                           return "cannot be read";
-                      return faultIn(store.save({{key("a"), 2}}, {}).error(), "refuses locks");
+                      return faultIn(store.save(to({{key("a"), 2}})).error(), "refuses locks");
                   }),
                   "");
         EXPECT_EQ(disk(), before);
@@ -305,7 +305,7 @@ TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
                       const Opening opening = opened(store, read);
                       if (!opening.error.isEmpty() || !opening.notice.isEmpty() || !same(read, {{key("a"), 1}}))
                           return "cannot be read: " + (opening.error + opening.notice).toStdString();
-                      return faultIn(store.save({{key("a"), 2}}, {}).error(), "read-only");
+                      return faultIn(store.save(to({{key("a"), 2}})).error(), "read-only");
                   }),
                   "")
             << std::oct << fileMode << ' ' << folderMode;
@@ -365,7 +365,7 @@ TEST_F(StoreFaults, ProgramsThatSaveDifferentSettingsAllKeepTheirs)
         const std::string name = "program " + std::to_string(program) + ' ';
         for (int number = 1; number <= saves; ++number) {
             const Values mine{{key(name), number}, {key(name + std::to_string(number)), number}};
-            failed += store.save(mine, {}).isOk() ? 0 : 1;
+            failed += store.save(to(mine)).isOk() ? 0 : 1;
         }
         return failed;
     });
@@ -402,14 +402,14 @@ TEST_F(StoreFaults, ABusyStoreIsWaitedForBrieflyAndThenReported)
     QElapsedTimer timer;
     timer.start();
     olPreferencesStore store(file);
-    EXPECT_EQ(faultIn(store.save({{key("a"), 2}}, {}).error(), "busy"), "");
+    EXPECT_EQ(faultIn(store.save(to({{key("a"), 2}})).error(), "busy"), "");
     EXPECT_GT(timer.elapsed(), 1000);
     EXPECT_LT(timer.elapsed(), 6000);
     Values values;
     EXPECT_EQ(opened(store, values).error, QString()) << "who reads need not wait for who writes";
     sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
     sqlite3_close(other);
-    EXPECT_EQ(store.save({{key("a"), 2}}, {}).error(), QString());
+    EXPECT_EQ(store.save(to({{key("a"), 2}})).error(), QString());
 }
 
 } // namespace
