@@ -1,7 +1,7 @@
 #include "olModalAnswers.h"
 
-#include "Editing/olPageIndex.h"
 #include "State/olValue.h"
+#include "Utilities/olWithoutMnemonic.h"
 #include "Widgets/QOLColorDialog.h"
 #include "olToolError.h"
 
@@ -148,7 +148,7 @@ void olModalAnswers::answerBox(QMessageBox &box)
     QStringList texts;
     const QList<QAbstractButton *> buttons = box.buttons();
     for (QAbstractButton *button : buttons) {
-        const QString text = olPageIndex::withoutMnemonic(button->text());
+        const QString text = olWithoutMnemonic(button->text());
         if (text == answer.text || button->text() == answer.text)
             return button->click();
         texts << QLatin1Char('"') + text + QLatin1Char('"');

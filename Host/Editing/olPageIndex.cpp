@@ -1,5 +1,6 @@
 #include "Editing/olPageIndex.h"
 
+#include "Utilities/olWithoutMnemonic.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
@@ -17,7 +18,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpression>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -78,18 +78,18 @@ int tabIndex(const QTabWidget &tabs, const QWidget &tab) { return tabs.indexOf(c
 Caption captionOf(const QWidget &widget)
 {
     if (const QTabWidget *tabs = tabWidgetOf(widget))
-        return {olPageIndex::withoutMnemonic(tabs->tabText(tabIndex(*tabs, widget))), false};
+        return {olWithoutMnemonic(tabs->tabText(tabIndex(*tabs, widget))), false};
     if (const auto *frame = qobject_cast<const QOLCollapsibleFrame *>(&widget))
         return {frame->caption(), true};
     if (const auto *group = qobject_cast<const QGroupBox *>(&widget))
-        return {olPageIndex::withoutMnemonic(group->title()), true};
+        return {olWithoutMnemonic(group->title()), true};
     return {QString(), false};
 }
 
 QString ownText(const QWidget &widget)
 {
     if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
-        return olPageIndex::withoutMnemonic(button->text());
+        return olWithoutMnemonic(button->text());
     if (isCheckableGroup(widget))
         return captionOf(widget).text;
     return {};
@@ -175,7 +175,7 @@ private:
         QStringList names{ownText(widget)};
         const auto labels = m_labels.values(&widget);
         for (const QLabel *label : labels)
-            names << olPageIndex::withoutMnemonic(label->text());
+            names << olWithoutMnemonic(label->text());
         names.removeAll(QString());
         if (names.isEmpty() && isOneOf<QAbstractItemView>(widget))
             names << captionForTable();
@@ -292,20 +292,4 @@ bool olPageIndex::isShown(const QWidget &page, const QWidget &control)
             return false;
     }
     return true;
-}
-
-QString olPageIndex::withoutMnemonic(const QString &marked)
-{
-    // East Asian texts have it in brackets of its own.
-    static const QRegularExpression inBrackets(QStringLiteral("\\(&\\w\\)"));
-    QString text = marked;
-    text.remove(inBrackets);
-    QString plain;
-    for (int index = 0; index < text.size(); ++index) {
-        // A doubled one stands for itself.
-        if (text.at(index) == QLatin1Char('&') && index + 1 < text.size())
-            ++index;
-        plain += text.at(index);
-    }
-    return plain;
 }

@@ -59,9 +59,6 @@ public:
     /// not in front and a frame that is folded do not count, a tab that was taken out does.
     [[nodiscard]] static bool isShown(const QWidget &page, const QWidget &control);
 
-    /// A text as it stands on the screen, without the marks of its mnemonic.
-    [[nodiscard]] static QString withoutMnemonic(const QString &text);
-
 private:
     std::vector<olPageControl> m_controls;
 };

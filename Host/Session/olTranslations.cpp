@@ -1,6 +1,7 @@
 #include "Session/olTranslations.h"
 
 #include "Utilities/olLog.h"
+#include "Utilities/olWithoutMnemonic.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,7 +9,6 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QLibraryInfo>
-#include <QRegularExpression>
 #include <QTranslator>
 #include <QVariant>
 
@@ -29,13 +29,6 @@ QHash<QString, QString> &sources()
     return texts;
 }
 
-/// East Asian texts have it in brackets of its own.
-QString withoutMnemonic(QString text)
-{
-    static const QRegularExpression mark(QStringLiteral("\\(&\\w\\)|&"));
-    return text.remove(mark);
-}
-
 /// Remembers what it translated from.
 class Translator : public QTranslator
 {
@@ -44,7 +37,7 @@ public:
     {
         const QString translated = QTranslator::translate(context, text, comment, count);
         if (!translated.isEmpty())
-            sources().insert(withoutMnemonic(translated), withoutMnemonic(QString::fromUtf8(text)));
+            sources().insert(olWithoutMnemonic(translated), olWithoutMnemonic(QString::fromUtf8(text)));
         return translated;
     }
 };
@@ -93,7 +86,11 @@ void olTranslations::loadOfPlugin(const QString &library)
             {QFileInfo(library).dir().filePath(QStringLiteral("translations"))});
 }
 
-QString olTranslations::english(const QString &text) { return sources().value(withoutMnemonic(text), text); }
+QString olTranslations::english(const QString &text)
+{
+    // What shows ampersands as they are, has not been read as a text with mnemonics.
+    return sources().value(text, sources().value(olWithoutMnemonic(text), text));
+}
 
 void olTranslations::add(const QString &name, const QStringList &folders)
 {

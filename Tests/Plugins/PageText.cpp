@@ -3,6 +3,7 @@
 #include "Editing/olPageIndex.h"
 #include "State/olValue.h"
 #include "Utilities/olPlatform.h"
+#include "Utilities/olWithoutMnemonic.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
@@ -306,7 +307,7 @@ QByteArray PageText::name(const QWidget &page, const QWidget &widget)
         if (control.widget == &widget)
             return control.path().toUtf8();
     }
-    const QString text = olPageIndex::withoutMnemonic(ownText(widget));
+    const QString text = olWithoutMnemonic(ownText(widget));
     return widget.metaObject()->className() + (text.isEmpty() ? QByteArray() : ' ' + quoted(text));
 }
 

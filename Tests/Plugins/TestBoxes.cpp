@@ -1,5 +1,6 @@
 #include "State/olPreferencesRegistry.h"
 #include "Support/PluginTest.h"
+#include "Utilities/olWithoutMnemonic.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -71,7 +72,7 @@ private:
             return title;
         std::string buttons;
         for (QAbstractButton *button : box->buttons()) {
-            buttons += std::string(", ") + button->text().remove('&').toStdString();
+            buttons += std::string(", ") + olWithoutMnemonic(button->text()).toStdString();
             if (button == box->defaultButton() || button == box->escapeButton())
                 buttons += std::string(button == box->defaultButton() ? " (Enter" : " (") +
                            (button == box->escapeButton() ? " Escape)" : ")");

@@ -1,44 +1,29 @@
 #include "Framework/olControlPlace.h"
 
 #include "Framework/olPageWidget.h"
+#include "Utilities/olWithoutMnemonic.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QGroupBox>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTabWidget>
 
 namespace
 {
 
-QString withoutMnemonic(QString text)
-{
-    // East Asian texts have it in brackets of its own.
-    static const QRegularExpression inBrackets(QLatin1String("\\(&\\w\\)"));
-    text.remove(inBrackets);
-    QString plain;
-    for (int index = 0; index < text.size(); ++index) {
-        // A doubled one stands for itself.
-        if (text.at(index) == QLatin1Char('&') && index + 1 < text.size())
-            ++index;
-        plain += text.at(index);
-    }
-    return plain;
-}
-
 QString captionOf(const QWidget &place)
 {
     if (const auto *stack = qobject_cast<const QStackedWidget *>(place.parentWidget())) {
         if (const auto *tabs = qobject_cast<const QTabWidget *>(stack->parentWidget()))
-            return withoutMnemonic(tabs->tabText(tabs->indexOf(const_cast<QWidget *>(&place))));
+            return olWithoutMnemonic(tabs->tabText(tabs->indexOf(const_cast<QWidget *>(&place))));
     }
     if (const auto *frame = qobject_cast<const QOLCollapsibleFrame *>(&place))
         return frame->caption();
     if (const auto *group = qobject_cast<const QGroupBox *>(&place))
-        return withoutMnemonic(group->title());
+        return olWithoutMnemonic(group->title());
     return {};
 }
 
@@ -56,7 +41,7 @@ QString textOfLabel(const QWidget &control)
     const auto labels = pageOf(control).findChildren<QLabel *>();
     for (const QLabel *label : labels) {
         if (label->buddy() == &control)
-            return withoutMnemonic(label->text());
+            return olWithoutMnemonic(label->text());
     }
     return {};
 }
@@ -64,9 +49,9 @@ QString textOfLabel(const QWidget &control)
 QString ownText(const QWidget &control)
 {
     if (const auto *button = qobject_cast<const QAbstractButton *>(&control))
-        return withoutMnemonic(button->text());
+        return olWithoutMnemonic(button->text());
     const auto *group = qobject_cast<const QGroupBox *>(&control);
-    return group && group->isCheckable() ? withoutMnemonic(group->title()) : QString();
+    return group && group->isCheckable() ? olWithoutMnemonic(group->title()) : QString();
 }
 
 /// Of the nearest frame, else of the nearest place that has one.

@@ -4,6 +4,7 @@
 
 #include "Model/olScene.h"
 #include "State/olHostState.h"
+#include "Utilities/olWithoutMnemonic.h"
 #include "View/olViewport.h"
 
 #include <QDropEvent>
@@ -35,7 +36,7 @@ WindowTest::~WindowTest() { window.closePreferences(); }
 QAction &WindowTest::action(const char *text)
 {
     for (QAction *action : window.findChildren<QAction *>()) {
-        if (action->text().remove(QLatin1Char('&')) == QLatin1String(text))
+        if (olWithoutMnemonic(action->text()) == QLatin1String(text))
             return *action;
     }
     throw std::runtime_error(std::string("no action ") + text);

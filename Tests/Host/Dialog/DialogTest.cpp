@@ -2,6 +2,7 @@
 
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
+#include "Utilities/olWithoutMnemonic.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -227,7 +228,7 @@ void DialogTest::answer(const QString &text)
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
         for (QAbstractButton *button : box->buttons()) {
-            if (QString(button->text()).remove(QLatin1Char('&')) == text) {
+            if (olWithoutMnemonic(button->text()) == text) {
                 ++answered;
                 button->click();
                 return;
