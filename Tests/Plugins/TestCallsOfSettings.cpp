@@ -1,5 +1,7 @@
 #include "Plugins/SettingWalk.h"
+#include "Session/olRecordedSettings.h"
 #include "State/olHostState.h"
+#include "State/olValue.h"
 #include "Support/PluginTest.h"
 #include "Support/Transcript.h"
 
@@ -28,18 +30,42 @@ QByteArray marked(const char *mark, const Calls &calls, const Calls &others)
 class CallsOfSettings : public PluginTest
 {
 protected:
-    /// One line a setting, under the name of its module, in an edition.
-    QByteArrayList transcript(olEdition edition)
+    /// Everything on, so that each setting counts for something.
+    void prepare(olEdition edition)
     {
         restart(edition);
         olHostState &host = olHostState::the();
         host.starVRHandler = true;
         host.webInterface = true;
         host.highQualityAntialiasing = true;
-        QByteArrayList lines;
         for (olPreferencesEntry *module : modules()) {
             SettingWalk::setAll(*module, true);
             module->markClean();
+        }
+    }
+
+    /// The host's values that are others after the module has applied with this setting changed.
+    std::vector<const olHostValueBase *> setBy(olPreferencesEntry &module, const std::string &key)
+    {
+        std::vector<boost::any> before;
+        for (const olHostValueBase *value : olHostState::the().values())
+            before.push_back(value->any());
+        appliedAlone(module, key);
+        std::vector<const olHostValueBase *> changed;
+        for (std::size_t index = 0; index < before.size(); ++index) {
+            const olHostValueBase *value = olHostState::the().values()[index];
+            if (!olValue::identical(before[index], value->any()))
+                changed.push_back(value);
+        }
+        return changed;
+    }
+
+    /// One line a setting, under the name of its module, in an edition.
+    QByteArrayList transcript(olEdition edition)
+    {
+        prepare(edition);
+        QByteArrayList lines;
+        for (olPreferencesEntry *module : modules()) {
             lines += module->name().toUtf8() + ": " + withNothingChanged(*module);
             for (const olOfferedDefault &offered : module->defaults())
                 lines += "  " + QByteArray::fromStdString(offered.key) + ofSetting(*module, offered.key);
@@ -106,6 +132,35 @@ TEST_F(CallsOfSettings, EachSettingReachesItsOwnCallsAndNoOther)
             printed += line + '\n';
     }
     expectTranscript("calls-of-settings", printed);
+}
+
+TEST_F(CallsOfSettings, ASettingIsOnlyRecordedWhereNothingGoesByTheValuesThatItSets)
+{
+    prepare(olEdition::Professional);
+    int told = 0;
+    for (olPreferencesEntry *module : modules()) {
+        for (const olOfferedDefault &offered : module->defaults()) {
+            const boost::any value = module->value(offered.key);
+            setBy(*module, offered.key);
+            const auto always = setBy(*module, offered.key);
+            module->setValue(offered.key, SettingWalk::another(value));
+            auto changed = setBy(*module, offered.key);
+            changed.erase(std::remove_if(changed.begin(), changed.end(),
+                                         [&always](const auto *one) {
+                                             return std::find(always.begin(), always.end(), one) != always.end();
+                                         }),
+                          changed.end());
+            module->setValue(offered.key, value);
+            setBy(*module, offered.key);
+            if (changed.empty())
+                continue;
+            ++told;
+            EXPECT_EQ(olIsOnlyRecorded(offered.key), std::all_of(changed.begin(), changed.end(),
+                                                                 [](const auto *one) { return one->isRecordedOnly(); }))
+                << offered.key << " sets " << changed.front()->name();
+        }
+    }
+    EXPECT_GT(told, 100);
 }
 
 } // namespace

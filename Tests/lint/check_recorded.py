@@ -1,0 +1,58 @@
+"""docs/settings-in-the-view.md says of exactly those settings that they are only recorded of which the host says so too.
+
+    check_recorded.py TOOL REPOSITORY
+"""
+
+import json
+import re
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+OTHERS = "The other formats"
+WORDS = "only recorded"
+
+
+def sections(document):
+    for part in re.split(r"^## ", document, flags=re.M)[1:]:
+        title, text = part.split("\n", 1)
+        yield title.strip(), text
+
+
+def told(section, name):
+    """What the section says of the setting: the row of its table that names it, or else the paragraphs."""
+    rows = re.findall(r"^\| (.*?) \| (.*?) \|$", section, re.M)
+    named = [text for names, text in rows if name in re.split(r", |: | of a preset", names)]
+    if named:
+        return " ".join(named)
+    return next((text for text in section.split("\n\n") if not text.startswith("|") and name in " ".join(text.split())), "")
+
+
+def faults(modules, document):
+    of_module = {name: text for title, text in sections(document) for name in title.split(", ")}
+    for module in modules:
+        section = of_module.get(module["name"])
+        for setting in module["settings"]:
+            name = setting.get("label") or f"`{setting['key']}`"
+            if section is None:
+                # What has no reader is recorded as a whole.
+                says = module["name"] in of_module[OTHERS]
+            else:
+                says = WORDS in " ".join(told(section, name).split())
+            if says != setting["recorded"]:
+                yield (f"{module['name']}, {name} ({setting['key']}): the host says "
+                       f"{'it is' if setting['recorded'] else 'it is not'} {WORDS}")
+
+
+def main():
+    tool, repository = sys.argv[1], Path(sys.argv[2])
+    with tempfile.TemporaryDirectory() as folder:
+        listed = subprocess.run([tool, "--store", f"{folder}/preferences.db", "list", "--json"], check=True,
+                                capture_output=True, encoding="utf-8").stdout
+    found = list(faults(json.loads(listed), (repository / "docs/settings-in-the-view.md").read_text()))
+    print("\n".join(found) or "no fault")
+    sys.exit(1 if found else 0)
+
+
+main()
