@@ -202,10 +202,9 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
         if (isClean)
             (void)olSetGivenSettings(session, {QStringLiteral("RenderOptions %1").arg(QLatin1String(setting))});
     }
-    const QString fault = olSetGivenSettings(session, options.values(QStringLiteral("set")));
-    if (!fault.isEmpty()) {
+    if (const olResult<> set = olSetGivenSettings(session, options.values(QStringLiteral("set"))); !set.isOk()) {
         session.stop();
-        return refuse(fault);
+        return refuse(set.error());
     }
     session.start();
     tell(session.takeNotices(), nullptr);

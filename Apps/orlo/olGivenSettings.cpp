@@ -12,22 +12,22 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(olGivenSettings)
 };
 
-QString setOne(const olPreferencesSession &session, const QString &setting)
+olResult<> setOne(const olPreferencesSession &session, const QString &setting)
 {
     const int equals = setting.indexOf(QLatin1Char('='));
     if (equals < 1)
-        return Words::tr("\"%1\" is no setting: expected \"KEY=VALUE\"").arg(setting);
+        return olFailure{Words::tr("\"%1\" is no setting: expected \"KEY=VALUE\"").arg(setting)};
     const QString name = setting.left(equals).trimmed();
     const std::string key = name.toStdString();
     olPreferencesEntry *owner = olPreferencesSession::moduleOf(key);
     if (!owner)
-        return Words::tr("there is no setting \"%1\"").arg(name);
+        return olFailure{Words::tr("there is no setting \"%1\"").arg(name)};
     const boost::any value = olPreferencesSession::description(key).fromTyped(setting.mid(equals + 1).trimmed());
     const QString reason = session.whyNot(key, value);
     if (!reason.isEmpty())
-        return Words::tr("\"%1\" %2").arg(name, reason);
+        return olFailure{Words::tr("\"%1\" %2").arg(name, reason)};
     if (const auto warning = session.warning(key, value))
-        return olRefusalUnasked(key, *warning);
+        return olFailure{olRefusalUnasked(key, *warning)};
     owner->setValue(key, value);
     return {};
 }
@@ -40,12 +40,12 @@ QString olRefusalUnasked(const std::string &key, const olSettingWarning &questio
         .arg(QString::fromStdString(key), QString(question.text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
 }
 
-QString olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings)
+olResult<> olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings)
 {
     for (const QString &setting : settings) {
-        const QString fault = setOne(session, setting);
-        if (!fault.isEmpty())
-            return fault;
+        olResult<> set = setOne(session, setting);
+        if (!set.isOk())
+            return set;
     }
     return {};
 }

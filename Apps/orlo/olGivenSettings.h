@@ -1,5 +1,7 @@
 #pragma once
 
+#include "State/olResult.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +14,6 @@ class olPreferencesSession;
 [[nodiscard]] QString olRefusalUnasked(const std::string &key, const olSettingWarning &question);
 
 /// Puts settings given as "KEY=VALUE" into the record, where they hold for this run. The modules must be there; the
-/// host applies them when it starts. What a site locked stays as it is. Returns what is wrong with the first one that
-/// cannot be set, empty if all could.
-[[nodiscard]] QString olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings);
+/// host applies them when it starts. What a site locked stays as it is. Says what is wrong with the first one that
+/// cannot be set.
+olResult<> olSetGivenSettings(const olPreferencesSession &session, const QStringList &settings);

@@ -137,11 +137,11 @@ void olWebPort::keepReason(void *self, const char *format, va_list arguments)
         reason = QString::vasprintf(format, arguments).trimmed();
 }
 
-QString olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate)
+olResult<> olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate)
 {
     m_listener = listenOn(port, loopbackOnly);
     if (m_listener < 0)
-        return qt_error_string(errno);
+        return olFailure{qt_error_string(errno)};
 
     m_certificate = certificate;
     // The library would stop listening at its limit and not be told when there is room again.
@@ -163,7 +163,7 @@ QString olWebPort::open(quint16 port, bool loopbackOnly, const std::optional<olW
                                     MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,     //
                                     MHD_OPTION_ARRAY, options.data(), MHD_OPTION_END));
     if (!m_daemon)
-        return m_reason;
+        return olFailure{m_reason};
 
     const auto *info = MHD_get_daemon_info(m_daemon.get(), MHD_DAEMON_INFO_EPOLL_FD);
     m_notifier = std::make_unique<QSocketNotifier>(info->epoll_fd, QSocketNotifier::Read);

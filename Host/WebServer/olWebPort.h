@@ -1,5 +1,6 @@
 #pragma once
 
+#include "State/olResult.h"
 #include "WebServer/olWebRequest.h"
 
 #include <QByteArray>
@@ -39,8 +40,8 @@ public:
     olWebPort(const olWebPort &) = delete;
     olWebPort &operator=(const olWebPort &) = delete;
 
-    /// Listens on the loopback address alone or on all. Returns an empty text, else the reason why it does not.
-    [[nodiscard]] QString open(quint16 port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate);
+    /// Listens on the loopback address alone or on all.
+    olResult<> open(quint16 port, bool loopbackOnly, const std::optional<olWebCertificate> &certificate);
 
     // For the library's callbacks.
     [[nodiscard]] olWebAnswer answer(const olWebRequest &request) const { return m_handler(request); }

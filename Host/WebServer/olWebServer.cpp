@@ -128,13 +128,13 @@ std::unique_ptr<olWebPort> olWebServer::open(const olHostSetting<int> &setting, 
     if (port == 0)
         return nullptr;
     auto opened = std::make_unique<olWebPort>([this](const olWebRequest &request) { return answer(request); });
-    const QString reason = port < 0 || port > 65535 ? Words::tr("ports are numbered 1 to 65535")
-                                                    : opened->open(quint16(port), loopbackOnly, certificate);
-    if (reason.isEmpty())
+    const olResult<> listening = port < 0 || port > 65535 ? olFailure{Words::tr("ports are numbered 1 to 65535")}
+                                                          : opened->open(quint16(port), loopbackOnly, certificate);
+    if (listening.isOk())
         return opened;
     const QString place = certificate ? Words::tr("port %1 with %2").arg(QString::number(port), certificate->file)
                                       : Words::tr("port %1").arg(port);
-    const QString sentence = Words::tr("The web server does not listen on %1: %2").arg(place, reason);
+    const QString sentence = Words::tr("The web server does not listen on %1: %2").arg(place, listening.error());
     olLog::error(sentence);
     olHostState::the().refuse(setting.key, sentence);
     return nullptr;
