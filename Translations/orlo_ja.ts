@@ -2394,6 +2394,18 @@ undoは何かを残したときに1です。
         <translation>%1、小数%2桁</translation>
     </message>
     <message>
+        <source>next import</source>
+        <translation>次回のインポート時</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>次回の起動時</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
         <source>or any text</source>
         <translation>または任意のテキスト</translation>
     </message>
@@ -2440,18 +2452,6 @@ edition. Made by `orlo-prefs list --markdown`.
 すべてのモジュールのすべての設定を、登録と書き込みの順に示します。既定値はProfessionalエディションのものです。
 `orlo-prefs list --markdown`で作成しました。
 </translation>
-    </message>
-    <message>
-        <source>next import</source>
-        <translation>次回のインポート時</translation>
-    </message>
-    <message>
-        <source>next start</source>
-        <translation>次回の起動時</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>すぐに</translation>
     </message>
 </context>
 <context>
@@ -3088,20 +3088,16 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>言語%1はありません：使用できるのは%2、またはuserです</translation>
     </message>
     <message>
+        <source>there is no module &quot;%1&quot;</source>
+        <translation>モジュール「%1」はありません</translation>
+    </message>
+    <message>
         <source>%1  (site)</source>
         <translation>%1  (サイト)</translation>
     </message>
     <message>
         <source>default</source>
         <translation>既定値</translation>
-    </message>
-    <message>
-        <source>(default %1)</source>
-        <translation>(既定値 %1)</translation>
-    </message>
-    <message>
-        <source>there is no module &quot;%1&quot;</source>
-        <translation>モジュール「%1」はありません</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
@@ -3122,6 +3118,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>there is no fact %1</source>
         <translation>ホスト情報%1はありません</translation>
+    </message>
+    <message>
+        <source>(default %1)</source>
+        <translation>(既定値 %1)</translation>
     </message>
 </context>
 <context>
@@ -3391,6 +3391,10 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>一度に変換できるモデルは1つだけです</translation>
     </message>
     <message>
+        <source>Views, renders and converts CAD models.</source>
+        <translation>CADモデルを表示、レンダリング、変換します。</translation>
+    </message>
+    <message>
         <source>essentials, design, professional or enterprise.</source>
         <translation>essentials、design、professional、enterpriseのいずれかです。</translation>
     </message>
@@ -3461,10 +3465,6 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>環境設定で変更を1つ適用し、画像をフォルダーに残して終了します。</translation>
-    </message>
-    <message>
-        <source>Views, renders and converts CAD models.</source>
-        <translation>CADモデルを表示、レンダリング、変換します。</translation>
     </message>
 </context>
 </TS>

@@ -2394,6 +2394,18 @@ undo는 무언가를 남겼을 때 1입니다.
         <translation>%1, 소수 %2자리</translation>
     </message>
     <message>
+        <source>next import</source>
+        <translation>다음 가져오기</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>다음 시작</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>즉시</translation>
+    </message>
+    <message>
         <source>or any text</source>
         <translation>또는 임의의 텍스트</translation>
     </message>
@@ -2440,18 +2452,6 @@ edition. Made by `orlo-prefs list --markdown`.
 모든 모듈의 모든 설정을 등록과 쓰기의 순서대로 보입니다. 기본값은 Professional 에디션의 것입니다.
 `orlo-prefs list --markdown`로 만들었습니다.
 </translation>
-    </message>
-    <message>
-        <source>next import</source>
-        <translation>다음 가져오기</translation>
-    </message>
-    <message>
-        <source>next start</source>
-        <translation>다음 시작</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>즉시</translation>
     </message>
 </context>
 <context>
@@ -3088,20 +3088,16 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>언어 %1은(는) 없습니다. %2 또는 user만 있습니다</translation>
     </message>
     <message>
+        <source>there is no module &quot;%1&quot;</source>
+        <translation>모듈 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
         <source>%1  (site)</source>
         <translation>%1  (사이트)</translation>
     </message>
     <message>
         <source>default</source>
         <translation>기본값</translation>
-    </message>
-    <message>
-        <source>(default %1)</source>
-        <translation>(기본값 %1)</translation>
-    </message>
-    <message>
-        <source>there is no module &quot;%1&quot;</source>
-        <translation>모듈 &quot;%1&quot;이(가) 없습니다</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
@@ -3122,6 +3118,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>there is no fact %1</source>
         <translation>호스트 상태 항목 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>(default %1)</source>
+        <translation>(기본값 %1)</translation>
     </message>
 </context>
 <context>
@@ -3391,6 +3391,10 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>--unit에는 mm, cm, m, in 또는 ft, --up에는 y 또는 z가 필요합니다</translation>
     </message>
     <message>
+        <source>Views, renders and converts CAD models.</source>
+        <translation>CAD 모델을 보고 렌더링하고 변환합니다.</translation>
+    </message>
+    <message>
         <source>essentials, design, professional or enterprise.</source>
         <translation>essentials, design, professional 또는 enterprise입니다.</translation>
     </message>
@@ -3461,10 +3465,6 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>환경 설정에서 변경 하나를 적용하고 그림을 폴더에 남기고 끝냅니다.</translation>
-    </message>
-    <message>
-        <source>Views, renders and converts CAD models.</source>
-        <translation>CAD 모델을 보고 렌더링하고 변환합니다.</translation>
     </message>
 </context>
 </TS>

@@ -2394,6 +2394,18 @@ undo 留下未撤回的设置时也为 1。
         <translation>%1，%2 位小数</translation>
     </message>
     <message>
+        <source>next import</source>
+        <translation>下次导入</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>下次启动</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>立即</translation>
+    </message>
+    <message>
         <source>or any text</source>
         <translation>或任意文本</translation>
     </message>
@@ -2440,18 +2452,6 @@ edition. Made by `orlo-prefs list --markdown`.
 所有模块的所有设置，按注册和写入的顺序，默认值为 Professional 版本的默认值。
 由 `orlo-prefs list --markdown` 生成。
 </translation>
-    </message>
-    <message>
-        <source>next import</source>
-        <translation>下次导入</translation>
-    </message>
-    <message>
-        <source>next start</source>
-        <translation>下次启动</translation>
-    </message>
-    <message>
-        <source>now</source>
-        <translation>立即</translation>
     </message>
 </context>
 <context>
@@ -3088,20 +3088,16 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>没有语言 %1，只有 %2 或 user</translation>
     </message>
     <message>
+        <source>there is no module &quot;%1&quot;</source>
+        <translation>没有模块“%1”</translation>
+    </message>
+    <message>
         <source>%1  (site)</source>
         <translation>%1  （站点）</translation>
     </message>
     <message>
         <source>default</source>
         <translation>默认值</translation>
-    </message>
-    <message>
-        <source>(default %1)</source>
-        <translation>（默认值 %1）</translation>
-    </message>
-    <message>
-        <source>there is no module &quot;%1&quot;</source>
-        <translation>没有模块“%1”</translation>
     </message>
     <message>
         <source>there is no setting &quot;%1&quot;</source>
@@ -3122,6 +3118,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>there is no fact %1</source>
         <translation>没有主机状态项 %1</translation>
+    </message>
+    <message>
+        <source>(default %1)</source>
+        <translation>（默认值 %1）</translation>
     </message>
 </context>
 <context>
@@ -3391,6 +3391,10 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>一次只能转换一个模型</translation>
     </message>
     <message>
+        <source>Views, renders and converts CAD models.</source>
+        <translation>查看、渲染和转换 CAD 模型。</translation>
+    </message>
+    <message>
         <source>essentials, design, professional or enterprise.</source>
         <translation>essentials、design、professional 或 enterprise。</translation>
     </message>
@@ -3461,10 +3465,6 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>在首选项中应用一处更改，将图片留在文件夹中，然后结束。</translation>
-    </message>
-    <message>
-        <source>Views, renders and converts CAD models.</source>
-        <translation>查看、渲染和转换 CAD 模型。</translation>
     </message>
 </context>
 </TS>

@@ -140,7 +140,7 @@ QString olPrefsCommands::help()
                    Words::tr("Shows and changes ORLO's preferences, and drives them by script. It needs no display.\n"
                              "\n"
                              "Commands; orlo-prefs COMMAND --help tells more of each\n");
-    constexpr int column = 32;
+    constexpr int column = 33;
     for (const olPrefsCommand &command : commands)
         text += QLatin1String("  ") + QString::fromLatin1(command.usage).leftJustified(column) +
                 Words::tr(command.summary) + QLatin1Char('\n');
