@@ -10,7 +10,7 @@
 #include "Exchange/olImportJob.h"
 #include "Model/olScene.h"
 #include "Session/olTranslations.h"
-#include "State/olHostState.h"
+#include "View/olViewport.h"
 #include "Widgets/QOLSlider.h"
 
 #include <QAbstractButton>
@@ -23,6 +23,8 @@
 #include <QToolButton>
 
 #include <functional>
+#include <stdexcept>
+#include <string>
 
 namespace
 {
@@ -53,28 +55,46 @@ protected:
             EXPECT_TRUE(faults.isEmpty()) << name.toStdString() << ":\n  " << faults.join("\n  ").toStdString();
     }
 
-    /// What the call opens and waits for; it is closed again.
+    static QList<QDialog *> openDialogs()
+    {
+        QList<QDialog *> open;
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            auto *dialog = qobject_cast<QDialog *>(widget);
+            if (dialog && dialog->isVisible())
+                open << dialog;
+        }
+        return open;
+    }
+
+    /// What the call opens, be it that it waits for that; it is closed again.
     void lookAtWhatOpens(const QString &name, const std::function<void()> &call)
     {
+        const QList<QDialog *> before = openDialogs();
         bool isSeen = false;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            QWidget *open = QApplication::activeModalWidget();
-            if (!open || isSeen)
-                return;
-            isSeen = true;
-            look(*open, name);
-            static_cast<QDialog *>(open)->done(0);
+            for (QDialog *dialog : openDialogs()) {
+                if (isSeen || before.contains(dialog))
+                    continue;
+                isSeen = true;
+                look(*dialog, name);
+                dialog->done(0);
+            }
         });
         timer.start(20);
         call();
-        QTest::qWaitFor([&] { return isSeen && !QApplication::activeModalWidget(); });
-        EXPECT_TRUE(isSeen) << name.toStdString();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen && openDialogs().size() <= before.size(); }))
+            << name.toStdString();
     }
 
     QAction &translated(const char *context, const char *text)
     {
-        return action(QCoreApplication::translate(context, text).remove('&').toUtf8().constData());
+        const QString wanted = QCoreApplication::translate(context, text);
+        for (QAction *each : window.findChildren<QAction *>()) {
+            if (each->text() == wanted)
+                return *each;
+        }
+        throw std::runtime_error(std::string("no action ") + text);
     }
 };
 
@@ -90,7 +110,7 @@ TEST_P(ViewerInLanguages, HasRoomForItsTextsInItsOwnWindows)
         look(*menu, "menu " + menu->title().remove('&'));
         menu->close();
     }
-    lookAtWhatOpens("about", [this] { translated("olAbout", "About ORLO").trigger(); });
+    lookAtWhatOpens("about", [this] { translated("olMainWindow", "&About ORLO").trigger(); });
     lookAtWhatOpens("import file", [this] { translated("olModelFiles", "&Import...").trigger(); });
     lookAtWhatOpens("export file", [this] { translated("olModelFiles", "&Export...").trigger(); });
     lookAtWhatOpens("fault of the store", [] { (void)olAskAboutStore("/store"); });
