@@ -159,7 +159,7 @@ class Bounds(ToolTest):
                 self.assertEqual(texts[1], texts[2])
                 self.assertNotEqual(texts[0].split("\n")[-2], texts[1].split("\n")[-2])
                 # What is typed is the same in every language, and stands where it stood.
-                words = [re.findall(r"(?m)^(?:\|| +)(?:[a-z]+|--[a-z-]+| `[^`]+`) ", text) for text in texts]
+                words = [re.findall(r"(?m)^(?:  (?:[a-z]+|--[a-z-]+)|\| `[^`]+`) ", text) for text in texts]
                 self.assertEqual(words[0], words[1])
         self.assert_refused(answered("--language", "ja", "--nix"), "オプション--nixはありません")
         self.assert_refused(answered("--language", "fr"), "there is no language fr, only en, zh, ja, ko or user")
