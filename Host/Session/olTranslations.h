@@ -33,7 +33,8 @@ public:
     /// Takes the texts of a plug-in, which lie in the folder "translations" beside its library, in the same language.
     void loadOfPlugin(const QString &library);
 
-    /// All that a translated text is in English, both without the mark of a mnemonic; empty where it was not translated.
+    /// All that a translated text is in English, both without the mark of a mnemonic; empty where it was not
+    /// translated.
     [[nodiscard]] static QStringList english(const QString &text);
 
 private:
