@@ -2,6 +2,7 @@
 
 #include "Dialog/olMessageLine.h"
 #include "Editing/olPendingChanges.h"
+#include "State/olListed.h"
 #include "State/olValue.h"
 
 #include <QHBoxLayout>
@@ -111,7 +112,7 @@ void olOutsideLine::ask()
     }
     const olOutsideChange &conflict = m_conflicts.front();
     const QString mine = m_textOf(conflict.key, m_pending.value(conflict.key));
-    showLines(m_told + QStringList(told(conflict) + QLatin1Char(' ') + tr("Your change to %1 is pending.").arg(mine)));
+    showLines(m_told + QStringList(olSentences({told(conflict), tr("Your change to %1 is pending.").arg(mine)})));
     m_theirs->setText(tr("&Use %1").arg(m_textOf(conflict.key, conflict.after)));
     m_mine->setText(tr("&Keep %1").arg(mine));
 }

@@ -3,15 +3,18 @@
 #include "Store/olSqlite.h"
 #include "Store/olStoreTables.h"
 
+#include <QByteArray>
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -28,8 +31,6 @@ using Kind = olStoreError::Kind;
 using Work = std::function<void(olSqlite &)>;
 using namespace olStoreRows;
 
-// Keeps programs from mending or copying a store at the same time.
-const QLatin1String lockSuffix(".lock");
 constexpr int lockMilliseconds = 3000;
 
 // What may stand beside a database: the journal of a save, and the log of an earlier version.
@@ -236,6 +237,60 @@ QString setAside(const QString &file, const QString &copy)
     return aside;
 }
 
+/// Keeps programs from mending or copying a store at the same time. The system takes it from a program that is killed.
+class Lock
+{
+public:
+    explicit Lock(const QString &store) : m_name(QFile::encodeName(store + QLatin1String(".lock"))) {}
+    ~Lock()
+    {
+        if (m_isHeld)
+            ::unlink(m_name.constData());
+        shut();
+    }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+
+    [[nodiscard]] bool tryLock(int milliseconds)
+    {
+        const QDeadlineTimer end(milliseconds);
+        for (;;) {
+            m_file = ::open(m_name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+            if (m_file < 0)
+                return false;
+            if (::flock(m_file, LOCK_EX | LOCK_NB) == 0 && isOfThatName()) {
+                m_isHeld = true;
+                return true;
+            }
+            shut();
+            if (end.hasExpired())
+                return false;
+            QThread::msleep(10);
+        }
+    }
+
+private:
+    /// Who held it before may have taken the name away in between, and then it keeps nobody off.
+    [[nodiscard]] bool isOfThatName() const
+    {
+        struct stat held {
+        };
+        struct stat named {
+        };
+        return ::fstat(m_file, &held) == 0 && ::stat(m_name.constData(), &named) == 0 && held.st_ino == named.st_ino;
+    }
+    void shut()
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+        m_file = -1;
+    }
+
+    QByteArray m_name;
+    int m_file = -1;
+    bool m_isHeld = false;
+};
+
 } // namespace
 
 QString olPreferencesStore::userFile()
@@ -309,7 +364,7 @@ olResult<olStoreOpening> olPreferencesStore::open(olStoreUse use)
 
 olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
 {
-    QLockFile lock(m_file + lockSuffix);
+    Lock lock(m_file);
     const bool isHeld = use == olStoreUse::Own && lock.tryLock(lockMilliseconds);
     try {
         // Another program may have mended it meanwhile.
@@ -345,7 +400,7 @@ olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
 void olPreferencesStore::keepCopy(const std::string &seal) const
 {
     // Who cannot have the lock lets the other one make the copy; and without one all is as good as before.
-    QLockFile lock(m_file + lockSuffix);
+    Lock lock(m_file);
     if (seal.empty() || !lock.tryLock(0))
         return;
     try {

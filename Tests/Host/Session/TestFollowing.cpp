@@ -143,8 +143,8 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     auto *list = view->findChild<QTreeWidget *>();
     ASSERT_EQ(list->topLevelItemCount(), 3);
     EXPECT_EQ(list->topLevelItem(0)->text(1), "host-tests");
-    EXPECT_EQ(list->topLevelItem(0)->text(2), "Studio > Picture > Mode: default to Accurate") << "not its number";
-    EXPECT_EQ(list->topLevelItem(1)->text(2), "Studio > Picture > Samples: 8 to 16");
+    EXPECT_EQ(list->topLevelItem(0)->text(2), "Studio: Mode: default to Accurate") << "not its number";
+    EXPECT_EQ(list->topLevelItem(1)->text(2), "Studio: Samples: 8 to 16");
     list->setCurrentItem(list->topLevelItem(1));
     view->findChild<QPushButton *>(QStringLiteral("goBack"))->click();
     auto *changesView = opened<QDialog>();
