@@ -1475,6 +1475,14 @@
         <source>%1 is locked: %2 The lock stands in %3.</source>
         <translation>「%1」は%3でロックされています：%2</translation>
     </message>
+    <message>
+        <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
+        <translation>ビューに関する変更をその場で表示します。「OK」または「適用」を押すまで何も保存されず、「キャンセル」を押すとビューは元に戻ります。</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesFile</name>

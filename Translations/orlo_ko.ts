@@ -1475,6 +1475,14 @@
         <source>%1 is locked: %2 The lock stands in %3.</source>
         <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
     </message>
+    <message>
+        <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
+        <translation>뷰에 관한 변경을 즉시 보여 줍니다. 확인 또는 적용을 누르기 전에는 아무것도 저장되지 않으며, 취소하면 뷰가 원래대로 돌아갑니다.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesFile</name>

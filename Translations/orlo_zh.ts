@@ -1475,6 +1475,14 @@
         <source>%1 is locked: %2 The lock stands in %3.</source>
         <translation>%1 已锁定：%2 该锁定位于 %3 中。</translation>
     </message>
+    <message>
+        <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
+        <translation>更改视图设置时立即显示效果。单击“确定”或“应用”之前不会保存任何内容，“取消”会使视图恢复原状。</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesFile</name>

@@ -59,6 +59,9 @@ public:
     /// The same at the control of a setting. False, with nothing opened, where no page has one.
     [[nodiscard]] bool openAt(const QString &key);
 
+    /// Offers to preview edits in the view: for a host that has one.
+    void offerPreview();
+
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
 
@@ -170,6 +173,7 @@ private:
     olMessageLine *m_message;
     olOutsideLine *m_outside;
     QPushButton *m_changes;
+    QCheckBox *m_preview;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;
     QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
