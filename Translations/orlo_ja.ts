@@ -743,6 +743,30 @@
         <source>Without this they hold for this import alone.</source>
         <translation>オフの場合、これらは今回のインポートでのみ有効です。</translation>
     </message>
+    <message>
+        <source>Import none</source>
+        <translation>インポートしない</translation>
+    </message>
+    <message>
+        <source>Import visible</source>
+        <translation>表示中のみインポート</translation>
+    </message>
+    <message>
+        <source>Import all</source>
+        <translation>すべてインポート</translation>
+    </message>
+    <message>
+        <source>Sur&amp;faces</source>
+        <translation>サーフェス(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves and Polygon &amp;Lines</source>
+        <translation>曲線とポリライン(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Mes&amp;hes</source>
+        <translation>メッシュ(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>

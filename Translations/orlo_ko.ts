@@ -743,6 +743,30 @@
         <source>Without this they hold for this import alone.</source>
         <translation>선택하지 않으면 이번 가져오기에만 적용됩니다.</translation>
     </message>
+    <message>
+        <source>Import none</source>
+        <translation>가져오지 않음</translation>
+    </message>
+    <message>
+        <source>Import visible</source>
+        <translation>보이는 것만 가져오기</translation>
+    </message>
+    <message>
+        <source>Import all</source>
+        <translation>모두 가져오기</translation>
+    </message>
+    <message>
+        <source>Sur&amp;faces</source>
+        <translation>곡면(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves and Polygon &amp;Lines</source>
+        <translation>곡선 및 폴리라인(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Mes&amp;hes</source>
+        <translation>메시(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>

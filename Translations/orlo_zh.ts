@@ -743,6 +743,30 @@
         <source>Without this they hold for this import alone.</source>
         <translation>不选中时，这些选项仅对本次导入有效。</translation>
     </message>
+    <message>
+        <source>Import none</source>
+        <translation>不导入</translation>
+    </message>
+    <message>
+        <source>Import visible</source>
+        <translation>导入可见项</translation>
+    </message>
+    <message>
+        <source>Import all</source>
+        <translation>导入全部</translation>
+    </message>
+    <message>
+        <source>Sur&amp;faces</source>
+        <translation>曲面(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves and Polygon &amp;Lines</source>
+        <translation>曲线和多段线(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Mes&amp;hes</source>
+        <translation>网格(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>
