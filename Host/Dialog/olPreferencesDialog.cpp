@@ -351,17 +351,24 @@ void olPreferencesDialog::hideEvent(QHideEvent *event)
     remember();
 }
 
-/// Where it is narrow, beside a model say, the modules stand above their pages.
+/// Where it is narrow, beside a model say, the modules stand above their pages; before that they give up what they need
+/// not have.
 void olPreferencesDialog::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    constexpr int narrow = 85; // characters
+    constexpr int page = 68; // characters of the widest one
+    constexpr int both = 98;
     const int character = fontMetrics().averageCharWidth();
-    const auto wanted = width() < character * narrow ? Qt::Vertical : Qt::Horizontal;
-    if (m_splitter->orientation() == wanted)
-        return;
-    m_splitter->setOrientation(wanted);
-    m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{1, 3} : treeAndPage(*m_tree));
+    const auto wanted = width() < character * both ? Qt::Vertical : Qt::Horizontal;
+    if (m_splitter->orientation() != wanted) {
+        m_splitter->setOrientation(wanted);
+        m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{1, 3} : treeAndPage(*m_tree));
+    }
+    const QList<int> sizes = m_splitter->sizes();
+    const int missing = character * page - sizes.last();
+    const int names = std::max(m_tree->sizeHint().width(), sizes.first() - missing);
+    if (wanted == Qt::Horizontal && missing > 0 && names < sizes.first())
+        m_splitter->setSizes({names, sizes.first() + sizes.last() - names});
 }
 
 void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
