@@ -106,7 +106,7 @@ std::string olPrefsCommands::help()
                        "Shows and changes ORLO's preferences, and drives them by script. It needs no display.\n"
                        "\n"
                        "Commands; orlo-prefs COMMAND --help tells more of each\n";
-    constexpr std::size_t column = 29;
+    constexpr std::size_t column = 33;
     for (const olPrefsCommand &command : commands) {
         std::string usage = command.usage;
         usage.resize(column, ' ');

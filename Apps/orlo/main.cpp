@@ -363,7 +363,7 @@ std::vector<std::string> withOwnPlugin(int count, char **values)
 /// What the command line takes.
 void describe(QCommandLineParser &options)
 {
-    options.setApplicationDescription(QStringLiteral("Shows the host with its preferences."));
+    options.setApplicationDescription(QStringLiteral("Views, renders and converts CAD models."));
     options.addHelpOption();
     options.addVersionOption();
     options.addOption({QStringLiteral("edition"), QStringLiteral("essentials, design, professional or enterprise."),

@@ -351,6 +351,14 @@ void olPreferencesDialog::hideEvent(QHideEvent *event)
     remember();
 }
 
+int olPreferencesDialog::panelWidth() const
+{
+    const int usual = fontMetrics().averageCharWidth() * 70;
+    const auto *frame = qobject_cast<const olPageFrame *>(m_pages->currentWidget());
+    const QMargins around = layout()->contentsMargins();
+    return std::max(usual, (frame ? frame->pageWidth() : 0) + around.left() + around.right());
+}
+
 /// Where it is narrow, beside a model say, the modules stand above their pages; before that they give up what they need
 /// not have.
 void olPreferencesDialog::resizeEvent(QResizeEvent *event)

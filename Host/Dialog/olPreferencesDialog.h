@@ -62,6 +62,10 @@ public:
     /// Offers to preview edits in the view: for a host that has one.
     void offerPreview();
 
+    /// How wide it must be for the page shown to need no scrolling sideways, where the modules stand above the page; in
+    /// pixels. The same for every page that is narrow.
+    [[nodiscard]] int panelWidth() const;
+
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
 
