@@ -1,6 +1,7 @@
 #include "olImportSummary.h"
 
 #include "Exchange/olModelFormat.h"
+#include "State/olListed.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -32,7 +33,7 @@ QString list(const QVector<QPair<bool, QString>> &items)
         if (isOn)
             texts << text;
     }
-    return texts.isEmpty() ? Words::tr("nothing") : texts.join(QStringLiteral(", "));
+    return texts.isEmpty() ? Words::tr("nothing") : olListed(texts);
 }
 
 } // namespace
@@ -49,7 +50,7 @@ QString olImportSummary(const olImportJob &job)
                             kind(Words::tr("meshes"), options.importMeshes, options.importInvisibleMeshes)};
     // Where there are surfaces, it is asked which kinds are to be read and what is to be tidied up.
     if (!format->holds(olModelFormat::Surfaces)) {
-        rows += row(Words::tr("Kinds"), kinds.join(QStringLiteral(", ")));
+        rows += row(Words::tr("Kinds"), olListed(kinds));
         rows += row(Words::tr("Tidied up"), list({{options.mergeGeometries, Words::tr("meshes merged")},
                                                   {options.removeEmptyGroups, Words::tr("empty groups removed")},
                                                   {options.unifySurfaceNormals, Words::tr("normals unified")}}));
