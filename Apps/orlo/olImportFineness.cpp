@@ -48,7 +48,8 @@ olImportFineness::olImportFineness(const olImportJob &job, const LockReason &loc
         box->setCurrentIndex(wantedOf(m_before.*option, m_before.*invisible));
         box->setObjectName(QLatin1String(kind));
         form->addRow(name, box);
-        m_kinds.push_back({option, invisible, m_prefix + "import " + kind, m_prefix + "import invisible " + kind, box});
+        const std::string import = m_prefix + "import ";
+        m_kinds.push_back({option, invisible, import + kind, import + "invisible " + kind, box});
         guard(*box, m_kinds.back().key);
         if (box->isEnabled())
             guard(*box, m_kinds.back().invisibleKey);
