@@ -44,9 +44,6 @@ constexpr auto geometryKey = "window/geometry";
 constexpr auto panelsKey = "window/panels";
 constexpr auto dockedKey = "window/preferencesDocked";
 
-// In characters.
-constexpr int panelWidth = 72;
-
 } // namespace
 
 olMainWindow::olMainWindow(olPreferencesSession &session)
@@ -254,7 +251,7 @@ void olMainWindow::dockPreferences(bool docked)
         m_preferencesDock->setWidget(m_preferences.get());
         connect(m_preferences.get(), &QDialog::finished, m_preferencesDock, &QWidget::hide);
         addDockWidget(Qt::RightDockWidgetArea, m_preferencesDock);
-        resizeDocks({m_preferencesDock}, {fontMetrics().averageCharWidth() * panelWidth}, Qt::Horizontal);
+        resizeDocks({m_preferencesDock}, {std::min(m_preferences->panelWidth(), width() / 2)}, Qt::Horizontal);
         m_preferencesDock->setVisible(isShown);
     } else {
         m_preferences->setParent(this, Qt::Dialog);

@@ -115,6 +115,11 @@ void olPageFrame::showFromTheLeft(const olFoundControl &control)
     horizontalScrollBar()->setValue(std::min(right - viewport()->width(), left - fontMetrics().averageCharWidth()));
 }
 
+int olPageFrame::pageWidth() const
+{
+    return m_page->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+}
+
 QSize olPageFrame::minimumSizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();

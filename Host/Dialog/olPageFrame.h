@@ -38,6 +38,9 @@ public:
     /// Brings the control into sight: its tab to the front, its frames unfolded, scrolled to.
     void reveal(const olFoundControl &control);
 
+    /// In which the page need not be scrolled sideways, in pixels.
+    [[nodiscard]] int pageWidth() const;
+
     /// A page never asks the dialog for more room than it can scroll in.
     [[nodiscard]] QSize minimumSizeHint() const override;
 

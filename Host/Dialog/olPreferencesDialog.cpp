@@ -20,6 +20,7 @@
 #include "Editing/olValueText.h"
 #include "Session/olRecordedSettings.h"
 #include "Session/olUndo.h"
+#include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
@@ -343,6 +344,14 @@ void olPreferencesDialog::hideEvent(QHideEvent *event)
     remember();
 }
 
+int olPreferencesDialog::panelWidth() const
+{
+    const int usual = fontMetrics().averageCharWidth() * 70;
+    const auto *frame = qobject_cast<const olPageFrame *>(m_pages->currentWidget());
+    const QMargins around = layout()->contentsMargins();
+    return std::max(usual, (frame ? frame->pageWidth() : 0) + around.left() + around.right());
+}
+
 /// Where it is narrow, beside a model say, the modules stand above their pages.
 void olPreferencesDialog::resizeEvent(QResizeEvent *event)
 {
@@ -482,7 +491,7 @@ void olPreferencesDialog::tellWhatWaits(const std::vector<olPendingChange> &appl
     const bool canRestart =
         !start.isEmpty() && isSignalConnected(QMetaMethod::fromSignal(&olPreferencesDialog::restartAsked));
     if (!sentences.isEmpty())
-        m_message->showNote(sentences.join(QLatin1Char(' ')), canRestart ? tr("Restart Now") : QString());
+        m_message->showNote(olSentences(sentences), canRestart ? tr("Restart Now") : QString());
 }
 
 bool olPreferencesDialog::store()

@@ -59,6 +59,10 @@ public:
     /// The same at the control of a setting. False, with nothing opened, where no page has one.
     [[nodiscard]] bool openAt(const QString &key);
 
+    /// How wide it must be for the page shown to need no scrolling sideways, where the modules stand above the page; in
+    /// pixels. The same for every page that is narrow.
+    [[nodiscard]] int panelWidth() const;
+
     /// Shows what the file would change, and makes it pending if that is agreed to.
     void importFrom(const QString &file);
 

@@ -4,13 +4,20 @@
 #include "Store/olSqlite.h"
 #include "Store/olStoreFile.h"
 
+#include <QByteArray>
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QStandardPaths>
+#include <QThread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -18,8 +25,6 @@ namespace
 using Kind = olStoreError::Kind;
 using namespace olStoreRows;
 
-// Keeps programs from mending or copying a store at the same time.
-const QLatin1String lockSuffix(".lock");
 constexpr int lockMilliseconds = 3000;
 
 // Clocks of files go in steps, some of whole seconds.
@@ -33,6 +38,60 @@ QString targetOf(QString file)
         file = QFileInfo(file).symLinkTarget();
     return file;
 }
+
+/// Keeps programs from mending or copying a store at the same time. The system takes it from a program that is killed.
+class Lock
+{
+public:
+    explicit Lock(const QString &store) : m_name(QFile::encodeName(store + QLatin1String(".lock"))) {}
+    ~Lock()
+    {
+        if (m_isHeld)
+            ::unlink(m_name.constData());
+        shut();
+    }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+
+    [[nodiscard]] bool tryLock(int milliseconds)
+    {
+        const QDeadlineTimer end(milliseconds);
+        for (;;) {
+            m_file = ::open(m_name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+            if (m_file < 0)
+                return false;
+            if (::flock(m_file, LOCK_EX | LOCK_NB) == 0 && isOfThatName()) {
+                m_isHeld = true;
+                return true;
+            }
+            shut();
+            if (end.hasExpired())
+                return false;
+            QThread::msleep(10);
+        }
+    }
+
+private:
+    /// Who held it before may have taken the name away in between, and then it keeps nobody off.
+    [[nodiscard]] bool isOfThatName() const
+    {
+        struct stat held {
+        };
+        struct stat named {
+        };
+        return ::fstat(m_file, &held) == 0 && ::stat(m_name.constData(), &named) == 0 && held.st_ino == named.st_ino;
+    }
+    void shut()
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+        m_file = -1;
+    }
+
+    QByteArray m_name;
+    int m_file = -1;
+    bool m_isHeld = false;
+};
 
 } // namespace
 
@@ -123,7 +182,7 @@ std::optional<Values> olPreferencesStore::readCopy(QString &remark) const
 olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
 {
     const bool isOwn = use == olStoreUse::Own;
-    QLockFile lock(m_file + lockSuffix);
+    Lock lock(m_file);
     const bool isHeld = isOwn && lock.tryLock(lockMilliseconds);
     try {
         // Another program may have mended it meanwhile.
@@ -151,7 +210,7 @@ olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
 void olPreferencesStore::keepCopy(const std::string &seal) const
 {
     // Who cannot have the lock lets the other one make the copy; and without one all is as good as before.
-    QLockFile lock(m_file + lockSuffix);
+    Lock lock(m_file);
     if (seal.empty() || !lock.tryLock(0))
         return;
     try {

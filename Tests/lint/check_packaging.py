@@ -5,6 +5,8 @@ import shutil
 import struct
 import subprocess
 import sys
+import tempfile
+from fnmatch import fnmatch
 from pathlib import Path
 
 
@@ -34,16 +36,35 @@ def faults(root):
         if size != (int(picture.stem), int(picture.stem)):
             yield f"{picture.name} is {size}"
 
-    # One list says what is needed; those who build packages read it in another place.
-    listed = set(re.findall(r"(?m)^[^#\s]\S*$", (root / "tools/packages.txt").read_text()))
+    # One list says what is needed; those who build packages read it in another place. The compiler comes by itself.
+    package_list = (root / "tools/packages.txt").read_text()
+    listed, built_with = (set(re.findall(r"(?m)^[^#\s]\S*$", text))
+                          for text in (package_list, package_list.split("# tests")[0]))
     control = (root / "debian/control").read_text()
-    needed = re.findall(r"(?m)^ ([a-z0-9+.-]+),?$", control.split("\nStandards-Version")[0])
-    for package in set(needed) - listed:
+    needed = set(re.findall(r"(?m)^ ([a-z0-9+.-]+),?$", control.split("\nStandards-Version")[0]))
+    for package in needed - listed:
         yield f"debian/control needs {package}, which tools/packages.txt does not have"
+    for package in built_with - needed - {"build-essential"}:
+        yield f"tools/packages.txt has {package} for the build, which debian/control does not need"
+
+
+def files_of_no_package(root, build):
+    # With the system's folder for libraries, and without.
+    patterns = [pattern for file in (root / "debian").glob("*.install") for line in file.read_text().split()
+                for pattern in (line, line.replace("/lib/*/", "/lib/"))]
+    with tempfile.TemporaryDirectory() as installed:
+        subprocess.run(["cmake", "--install", build, "--prefix", f"{installed}/usr"], stdout=subprocess.DEVNULL,
+                       check=True)
+        for file in Path(installed).rglob("*"):
+            name = file.relative_to(installed)
+            if file.is_file() and not any(fnmatch(str(part), pattern)
+                                          for part in (name, *name.parents) for pattern in patterns):
+                yield f"{name} is installed, but in no package"
 
 
 def main():
-    found = list(faults(Path(sys.argv[1])))
+    root = Path(sys.argv[1])
+    found = [*faults(root), *files_of_no_package(root, sys.argv[2])]
     print("\n".join(found) or "no fault")
     sys.exit(1 if found else 0)
 

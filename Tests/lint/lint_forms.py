@@ -58,6 +58,11 @@ class Form:
             for size in ("maximumSize", "baseSize"):
                 if widget.find(f"property[@name='{size}']") is not None:
                     yield f"{name} has a {size}, beyond which its text could not grow"
+            if widget.get("class") == "QTabWidget" and widget.findtext("property[@name='currentIndex']/number", "0") != "0":
+                yield f"{name} does not open at its first tab"
+            fields = text_of(widget, "olCompanionOf")
+            if fields and fields not in self.names:
+                yield f"{name} is a companion of {fields}, which does not exist"
             if widget.get("class") in CONTAINERS and widget.find("widget") is not None and widget.find("layout") is None:
                 yield f"{name} has children but no layout"
         for alignment in self.page.iter("set"):

@@ -1,7 +1,7 @@
 # Completion of orlo for fish.
 
 complete -c orlo -f
-for suffix in step stp iges igs stl wrl vrml obj gltf glb
+for suffix in step stp iges igs stl wrl vrml obj gltf glb ply 3mf dae off
     complete -c orlo -k -a "(__fish_complete_suffix .$suffix)"
     complete -c orlo -l render -r -k -a "(__fish_complete_suffix .$suffix)" -d 'Write one picture of a model'
 end
@@ -10,7 +10,7 @@ complete -c orlo -l app-name -x -d 'The name of the application'
 complete -c orlo -l store -r -F -d 'Where the preferences are kept'
 complete -c orlo -l plugin -r -F -d 'The preferences plug-in'
 complete -c orlo -l sample -d 'Open a small assembly that the program builds itself'
-complete -c orlo -l save -r -F -d 'Write the sample in the format of the suffix'
+complete -c orlo -l save -r -F -d 'Write the model in the format of the suffix'
 complete -c orlo -l output -r -F -d 'Where the picture goes'
 complete -c orlo -l aids -d 'Show cameras, lights and the cube too'
 complete -c orlo -l edges -d 'Draw the borders of surfaces'

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
+#include <qdrawutil.h>
 
 namespace
 {
@@ -47,8 +48,7 @@ private:
         QPixmap pixmap(size);
         pixmap.fill(QColor::fromRgbF(channel(color.red()), channel(color.green()), channel(color.blue())));
         QPainter painter(&pixmap);
-        painter.setPen(border);
-        painter.drawRect(pixmap.rect().adjusted(0, 0, -1, -1));
+        qDrawPlainRect(&painter, pixmap.rect(), border);
         return QIcon(pixmap);
     }
 };

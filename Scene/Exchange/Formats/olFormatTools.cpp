@@ -1,5 +1,7 @@
 #include "Exchange/Formats/olFormatTools.h"
 
+#include "State/olListed.h"
+
 #include <Interface_Check.hxx>
 #include <TCollection_HAsciiString.hxx>
 
@@ -48,7 +50,7 @@ bool olFormatTools::writePlainly(const QString &file, const std::function<bool(c
 QString olFormatTools::listed(const QStringList &names)
 {
     constexpr int most = 4;
-    const QString first = QStringList(names.mid(0, most)).join(QStringLiteral(", "));
+    const QString first = olListed(names.mid(0, most));
     return names.size() > most ? olReason::tr("%1 and %2 more").arg(first).arg(names.size() - most) : first;
 }
 

@@ -382,6 +382,8 @@ TEST_F(StoreFaults, ProgramsThatStartOnADamagedStoreMendItOnce)
     ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
     for (int round = 0; round < 20; ++round) {
         write(file, bytesOf(file).left(5000));
+        // Of a program that was killed in between, which keeps nobody off.
+        write(file + ".lock", {});
         const auto told = atOnce(3, [this](int) {
             Values read;
             const Opening opening = opened(olPreferencesStore(file), read);
@@ -390,6 +392,7 @@ TEST_F(StoreFaults, ProgramsThatStartOnADamagedStoreMendItOnce)
         });
         ASSERT_EQ(std::accumulate(told.begin(), told.end(), 0), 1);
         ASSERT_EQ(setAside().size(), round + 1);
+        ASSERT_FALSE(QFile::exists(file + ".lock"));
     }
 }
 
