@@ -170,16 +170,16 @@ private:
             olPartChanges::repair(part);
         constexpr double meshing = 1;
         constexpr double stitching = 2;
-        Message_ProgressScope steps(progress, "Part", stitching + meshing);
+        Message_ProgressScope scope(progress, "Part", stitching + meshing);
         if (options.stitching)
-            stitch(label, part, steps.Next(stitching));
+            stitch(label, part, scope.Next(stitching));
         if (m_job.verify)
             dropDegenerate(part.shape);
         if (options.mergeGeometries)
             olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
         if (options.unifySurfaceNormals)
             olPartChanges::unifyNormals(part);
-        olTriangles::mesh(part.shape, fineness(), steps.Next(meshing));
+        olTriangles::mesh(part.shape, fineness(), scope.Next(meshing));
         sharpen(part.shape, options.unifySurfaceNormals);
         const int missing = facesWithoutTriangles(part.shape);
         if (missing > 0)
@@ -193,11 +193,11 @@ private:
     {
         // As it is, and what comes of each of a few tolerances: with many more triangles where that is bad.
         constexpr double trials = 4;
-        Message_ProgressScope tried(progress, "Stitching", trials);
+        Message_ProgressScope scope(progress, "Stitching", trials);
         olChangedPart stitched = part;
         const double wanted = m_job.options.stitchingTolerance;
         const double used = olPartChanges::stitch(stitched, wanted, [&](const TopoDS_Shape &shape) {
-            olTriangles::mesh(shape, fineness(), tried.Next());
+            olTriangles::mesh(shape, fineness(), scope.Next());
             return olTriangles::count(shape);
         });
         if (used < wanted && used > 0)
