@@ -12,6 +12,7 @@ from pathlib import Path
 
 REPETITIONS = 5
 SIZE = "1280x720"
+FRAMES = 20
 
 
 def write_stl(file, triangles):
@@ -93,22 +94,49 @@ class Step:
 
 class Cost:
     """The seconds of the processor and of the clock that a command takes with all processes that it waits for, and the
-    memory in MiB of the largest of them."""
+    memory in MiB that it and what it starts take together when they take most."""
 
     def __init__(self, command, environment):
         runs = [self.once(command, environment) for _ in range(REPETITIONS)]
         self.processor, self.clock, self.memory = (statistics.median(column) for column in zip(*runs))
 
-    @staticmethod
-    def once(command, environment):
+    @classmethod
+    def once(cls, command, environment):
         started = time.monotonic()
-        with subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE) as process:
-            errors = process.stderr.read()
-            _, status, usage = os.wait4(process.pid, 0)
+        most = 0
+        with tempfile.TemporaryFile() as errors, subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
+                                                                  stderr=errors) as process:
+            ended = 0
+            while not ended:
+                most = max(most, cls.memory_of(process.pid))
+                time.sleep(0.02)
+                ended, status, usage = os.wait4(process.pid, os.WNOHANG)
+            clock = time.monotonic() - started
             process.returncode = os.waitstatus_to_exitcode(status)
+            errors.seek(0)
+            said = errors.read().decode(errors="replace")
         if process.returncode != 0:
-            raise RuntimeError(f"{command[0]} ended with {process.returncode}: {errors.decode(errors='replace')}")
-        return usage.ru_utime + usage.ru_stime, time.monotonic() - started, usage.ru_maxrss / 1024
+            raise RuntimeError(f"{command[0]} ended with {process.returncode}: {said}")
+        return usage.ru_utime + usage.ru_stime, clock, most
+
+    @classmethod
+    def memory_of(cls, process):
+        """What processes share counts once."""
+        try:
+            rollup = Path(f"/proc/{process}/smaps_rollup").read_text()
+            children = [child for task in Path(f"/proc/{process}/task").iterdir()
+                        for child in (task / "children").read_text().split()]
+        except OSError:
+            return 0
+        own = sum(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss:")) / 1024
+        return own + sum(cls.memory_of(child) for child in children)
+
+
+def write_interaction(file, moves):
+    """A log of a person who drags the mouse, as f3d plays it."""
+    steps = [f"MouseMoveEvent {640 + 6 * step} {360 + 2 * step}" for step in range(1, moves + 1)]
+    events = ["LeftButtonPressEvent 640 360", *steps, "LeftButtonReleaseEvent 640 360"]
+    file.write_text("# StreamVersion 1\n" + "".join(f"{event} 0 0 0 0 0\n" for event in events))
 
 
 def version(*command):
@@ -140,6 +168,20 @@ def rows(folder):
             return Cost([str(folder / "orlo"), "--store", str(work / "store.db"), "--render", str(model), "--output",
                          str(work / "picture.png"), "--size", SIZE], environment)
 
+        def window(model, moves):
+            return Cost([str(folder / "orlo-bench-window"), str(model), str(moves)], environment)
+
+        def f3d(model, moves=0):
+            write_interaction(work / "log", moves)
+            return Cost([others["f3d"], "--dry-run", f"--resolution={SIZE.replace('x', ',')}",
+                         f"--interaction-test-play={work / 'log'}", f"--output={work / 'other.png'}", str(model)],
+                        environment)
+
+        def frame(program, model):
+            # The first ones find out how long a frame takes, and prepare those that follow.
+            first = 2
+            return (program(model, first + FRAMES).processor - program(model, first).processor) / FRAMES
+
         drawn = {file: render(file) for file in (*meshes.values(), *bars.values())}
         for file, cost in drawn.items():
             print(f"{file.name}: {cost.processor:.2f} s of the processor, {cost.clock:.2f} s, {cost.memory:.0f} MiB")
@@ -148,11 +190,16 @@ def rows(folder):
                  for kind, (small, large), times in (("meshes, four times the triangles", meshes.values(), 4),
                                                      ("STEP, four times the solids", bars.values(), 4))]
         mesh, step = meshes[1_000_000], bars[500]
+        for kind, file in (("STL of 1 M triangles", mesh), ("STEP of 500 solids", step)):
+            found.append((f"{kind}: first picture of the window / --render: processor",
+                          window(file, 0).processor / drawn[file].processor, 1.5))
         if others["f3d"]:
-            command = [others["f3d"], f"--resolution={SIZE.replace('x', ',')}", f"--output={work / 'other.png'}", str(mesh)]
-            cost = Cost(command, environment)
+            cost = f3d(mesh)
             found += [("STL of 1 M triangles / f3d: processor", drawn[mesh].processor / cost.processor, 1.2),
                       ("STL of 1 M triangles / f3d: memory", drawn[mesh].memory / cost.memory, 1.2)]
+            for kind, file in (("STL of 1 M triangles", mesh), ("STEP of 500 solids", step)):
+                found.append((f"{kind}: a frame of orbiting / f3d: processor", frame(window, file) / frame(f3d, file),
+                              0.667))
         if others["FreeCAD"]:
             cost = Cost([others["FreeCAD"], str(read)], {**environment, "MODEL": str(step), "QT_QPA_PLATFORM": "offscreen"})
             found += [("STEP of 500 solids / FreeCAD: processor", drawn[step].processor / cost.processor, 0.8)]

@@ -2197,6 +2197,18 @@ undoは何かを残したときに1です。
         <source>No %1 has the field %2; it is passed over.</source>
         <translation>%1にはフィールド%2がありません。このフィールドは無視されます。</translation>
     </message>
+    <message>
+        <source>the file is damaged: %1 lacks what it is made of</source>
+        <translation>ファイルが破損しています：%1を構成するものが欠けています</translation>
+    </message>
+    <message>
+        <source>the file is damaged: its entry D%1 refers to another that is not there</source>
+        <translation>ファイルが破損しています：項目D%1が、存在しない項目を参照しています</translation>
+    </message>
+    <message>
+        <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
+        <translation>ファイル内の、正しくなく、欠けている可能性のある項目：%1。</translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>

@@ -2197,6 +2197,18 @@ undo는 무언가를 남겼을 때 1입니다.
         <source>No %1 has the field %2; it is passed over.</source>
         <translation>%1에는 필드 %2이(가) 없어 건너뜁니다.</translation>
     </message>
+    <message>
+        <source>the file is damaged: %1 lacks what it is made of</source>
+        <translation>파일이 손상되었습니다: %1을(를) 이루는 것이 빠져 있습니다</translation>
+    </message>
+    <message>
+        <source>the file is damaged: its entry D%1 refers to another that is not there</source>
+        <translation>파일이 손상되었습니다: 항목 D%1이(가) 존재하지 않는 항목을 참조합니다</translation>
+    </message>
+    <message>
+        <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
+        <translation>파일에서 올바르지 않아 빠졌을 수 있는 항목: %1.</translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>

@@ -2197,6 +2197,18 @@ undo 留下未撤回的设置时也为 1。
         <source>No %1 has the field %2; it is passed over.</source>
         <translation>%1 没有字段 %2；已略过。</translation>
     </message>
+    <message>
+        <source>the file is damaged: %1 lacks what it is made of</source>
+        <translation>文件已损坏：%1 缺少其组成部分</translation>
+    </message>
+    <message>
+        <source>the file is damaged: its entry D%1 refers to another that is not there</source>
+        <translation>文件已损坏：其条目 D%1 引用了不存在的条目</translation>
+    </message>
+    <message>
+        <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
+        <translation>文件中不完好、可能缺失的条目：%1。</translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>

@@ -4,6 +4,7 @@
 
 #include <TDocStd_Document.hxx>
 #include <TopoDS_TShape.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFPrs_DocumentExplorer.hxx>
 
 #include <QElapsedTimer>
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QScrollArea>
+#include <QSet>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -110,21 +112,16 @@ void olFactsPanel::begin()
         return;
     m_sum = {};
     m_next = 0;
-    QStringList ids = m_ids;
+    QSet<QString> wanted;
     // A level of detail is its part, drawn more coarsely.
-    for (QString &id : ids)
-        id = id.section(QLatin1Char('#'), 0, 0);
-    ids.removeDuplicates();
-    if (ids.isEmpty()) {
-        for (XCAFPrs_DocumentExplorer node(m_scene.document(), XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes);
-             node.More(); node.Next())
-            ids << QString::fromLatin1(node.Current().Id.ToCString());
-    }
-    for (const QString &id : qAsConst(ids)) {
-        const TopoDS_Shape part =
-            XCAFPrs_DocumentExplorer::FindShapeFromPathId(m_scene.document(), id.toLatin1().constData());
-        if (!part.IsNull())
-            m_parts.push_back(part);
+    for (const QString &id : qAsConst(m_ids))
+        wanted.insert(id.section(QLatin1Char('#'), 0, 0));
+    // The library goes through all that is there to find a single one.
+    for (XCAFPrs_DocumentExplorer explorer(m_scene.document(), XCAFPrs_DocumentExplorerFlags_OnlyLeafNodes);
+         explorer.More(); explorer.Next()) {
+        const XCAFPrs_DocumentNode &node = explorer.Current();
+        if (wanted.isEmpty() || wanted.contains(QString::fromLatin1(node.Id.ToCString())))
+            m_parts.push_back(XCAFDoc_ShapeTool::GetShape(node.RefLabel).Moved(node.Location));
     }
     m_timer.start();
 }

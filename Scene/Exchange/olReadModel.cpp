@@ -168,15 +168,18 @@ private:
             m_faulty << olShownNameOf(label);
         if (m_job.optimize)
             olPartChanges::repair(part);
+        constexpr double meshing = 1;
+        constexpr double stitching = 2;
+        Message_ProgressScope scope(progress, "Part", stitching + meshing);
         if (options.stitching)
-            stitch(label, part);
+            stitch(label, part, scope.Next(stitching));
         if (m_job.verify)
             dropDegenerate(part.shape);
         if (options.mergeGeometries)
             olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
         if (options.unifySurfaceNormals)
             olPartChanges::unifyNormals(part);
-        olTriangles::mesh(part.shape, fineness(), progress);
+        olTriangles::mesh(part.shape, fineness(), scope.Next(meshing));
         sharpen(part.shape, options.unifySurfaceNormals);
         const int missing = facesWithoutTriangles(part.shape);
         if (missing > 0)
@@ -186,12 +189,15 @@ private:
     }
 
     /// Sewing may rebuild faces so that their colours would have nowhere to go; then the part stays as it was read.
-    void stitch(const TDF_Label &label, olChangedPart &part)
+    void stitch(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
     {
+        // As it is, and what comes of each of a few tolerances: with many more triangles where that is bad.
+        constexpr double trials = 4;
+        Message_ProgressScope scope(progress, "Stitching", trials);
         olChangedPart stitched = part;
         const double wanted = m_job.options.stitchingTolerance;
-        const double used = olPartChanges::stitch(stitched, wanted, [this](const TopoDS_Shape &shape) {
-            olTriangles::mesh(shape, fineness());
+        const double used = olPartChanges::stitch(stitched, wanted, [&](const TopoDS_Shape &shape) {
+            olTriangles::mesh(shape, fineness(), scope.Next());
             return olTriangles::count(shape);
         });
         if (used < wanted && used > 0)

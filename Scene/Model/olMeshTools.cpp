@@ -250,7 +250,15 @@ void olMeshTools::orientAlike(const Mesh &mesh)
         mesh->ComputeNormals();
 }
 
-Mesh olMeshTools::coarser(const Mesh &mesh, double triangles)
+double olMeshTools::areaOf(const Mesh &mesh)
+{
+    double area = 0;
+    for (const gp_XYZ &cross : crossesOf(mesh, cornersOf(mesh)))
+        area += cross.Modulus() / 2;
+    return area;
+}
+
+Mesh olMeshTools::coarser(const Mesh &mesh, double edge)
 {
     struct Cluster {
         gp_XYZ place;
@@ -261,15 +269,7 @@ Mesh olMeshTools::coarser(const Mesh &mesh, double triangles)
     if (!mesh->HasNormals())
         mesh->ComputeNormals();
     const std::vector<int> corners = cornersOf(mesh);
-    double area = 0;
-    for (std::size_t at = 0; at < corners.size(); at += 3) {
-        const gp_XYZ first = mesh->Node(corners[at] + 1).XYZ();
-        area += (mesh->Node(corners[at + 1] + 1).XYZ() - first)
-                    .CrossMagnitude(mesh->Node(corners[at + 2] + 1).XYZ() - first) /
-                2;
-    }
-    // A cube of space that a surface passes has two triangles.
-    const double cube = std::max(std::sqrt(2 * area / std::max(triangles, 1.0)), gp::Resolution());
+    const double cube = std::max(edge, gp::Resolution());
     const auto step = [cube](double value) { return std::uint64_t(std::int64_t(std::floor(value / cube))) & 0xfffff; };
     constexpr int directions = 3;
     std::vector<std::uint64_t> cubes;
@@ -299,7 +299,7 @@ Mesh olMeshTools::coarser(const Mesh &mesh, double triangles)
             kept.emplace_back(clusterOf[a], clusterOf[b], clusterOf[c]);
     }
     if (kept.empty())
-        return mesh;
+        return {};
     const Mesh result =
         new Poly_Triangulation(int(clusters.size()), int(kept.size()), mesh->HasUVNodes(), Standard_True);
     for (int node = 1; node <= int(clusters.size()); ++node) {

@@ -4,12 +4,12 @@
 #include "Model/olLevelsOfDetail.h"
 #include "Model/olMeshTools.h"
 #include "Model/olPlainLook.h"
+#include "Model/olTriangles.h"
 
 #include <AIS_ColoredDrawer.hxx>
 #include <AIS_DisplayMode.hxx>
 #include <BRep_Builder.hxx>
 #include <BRep_Tool.hxx>
-#include <Geom_Surface.hxx>
 #include <Graphic3d_ArrayOfTriangles.hxx>
 #include <Graphic3d_AspectFillArea3d.hxx>
 #include <Graphic3d_Aspects.hxx>
@@ -19,12 +19,14 @@
 #include <PrsMgr_Presentation.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopLoc_Location.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFPrs_DocumentNode.hxx>
 #include <gp_Trsf.hxx>
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -35,31 +37,45 @@ constexpr int firstLevelMode = 100;
 /// And behind those of levels.
 constexpr int coarseMode = 1000;
 
-/// Faces without a surface have coarser meshes while this lives.
+/// Faces have about so many triangles all together while this lives, where that is possible.
 class CoarseMeshes
 {
 public:
-    CoarseMeshes(const TopoDS_Shape &shape, double share)
+    CoarseMeshes(const TopoDS_Shape &shape, double triangles)
     {
-        for (TopExp_Explorer each(shape, TopAbs_FACE); each.More(); each.Next()) {
-            const TopoDS_Face &face = TopoDS::Face(each.Current());
+        double area = 0;
+        TopTools_IndexedMapOfShape faces;
+        // Each once, as it has the same triangles in all its places.
+        for (TopExp_Explorer each(shape, TopAbs_FACE); each.More(); each.Next())
+            faces.Add(each.Current().Located({}).Oriented(TopAbs_FORWARD));
+        for (int index = 1; index <= faces.Extent(); ++index) {
+            const TopoDS_Face &face = TopoDS::Face(faces(index));
             TopLoc_Location location;
             const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
-            if (mesh.IsNull() || !BRep_Tool::Surface(face, location).IsNull())
+            if (mesh.IsNull())
                 continue;
             m_meshes.emplace_back(face, mesh);
-            BRep_Builder().UpdateFace(face, olMeshTools::coarser(mesh, share * mesh->NbTriangles()), Standard_True);
+            area += olMeshTools::areaOf(mesh);
         }
-    }
-    ~CoarseMeshes()
-    {
+        // A cube of space that a surface passes has two triangles.
+        const double edge = std::sqrt(2 * area / std::max(triangles, 1.0));
         for (const auto &[face, mesh] : m_meshes)
-            BRep_Builder().UpdateFace(face, mesh, Standard_True);
+            BRep_Builder().UpdateFace(face, olMeshTools::coarser(mesh, edge), Standard_True);
+        // What is so small that nothing would be left stays as it is.
+        if (olTriangles::count(shape) == 0)
+            restore();
     }
+    ~CoarseMeshes() { restore(); }
     CoarseMeshes(const CoarseMeshes &) = delete;
     CoarseMeshes &operator=(const CoarseMeshes &) = delete;
 
 private:
+    void restore()
+    {
+        for (const auto &[face, mesh] : m_meshes)
+            BRep_Builder().UpdateFace(face, mesh, Standard_True);
+    }
+
     std::vector<std::pair<TopoDS_Face, Handle(Poly_Triangulation)>> m_meshes;
 };
 
@@ -109,15 +125,12 @@ olPart::olPart(const XCAFPrs_DocumentNode &node)
     TopLoc_Location location;
     for (TopExp_Explorer each(m_source, TopAbs_FACE); each.More(); each.Next()) {
         const TopoDS_Face &face = TopoDS::Face(each.Current());
-        const Handle(Poly_Triangulation) mesh = BRep_Tool::Triangulation(face, location);
         if (!coloredMeshOf(face, location).IsNull())
             m_colored.push_back(face);
-        else if (!mesh.IsNull() && BRep_Tool::Surface(face, location).IsNull())
-            m_meshTriangles += unsigned(mesh->NbTriangles());
     }
     // What has colours at its nodes, or levels of its own, is drawn as it is.
-    if (!m_colored.empty() || m_levels > 1)
-        m_meshTriangles = 0;
+    if (m_colored.empty() && m_levels == 1)
+        m_triangles = olTriangles::count(m_source);
 }
 
 bool olPart::isFullyTransparent() const
@@ -140,7 +153,7 @@ Standard_Boolean olPart::AcceptDisplayMode(const Standard_Integer mode) const
 {
     const int level = levelOf(mode);
     if (mode == coarseMode)
-        return m_meshTriangles > 0;
+        return m_triangles > 0;
     return level > 0 ? level < m_levels : XCAFPrs_AISObject::AcceptDisplayMode(mode);
 }
 
@@ -151,7 +164,7 @@ void olPart::Compute(const Handle(PrsMgr_PresentationManager) & manager,
     const olLevelsOfDetail::InUse used(m_source, level);
     std::optional<CoarseMeshes> coarse;
     if (mode == coarseMode)
-        coarse.emplace(m_source, m_coarseTriangles / m_meshTriangles);
+        coarse.emplace(m_source, m_coarseTriangles);
     const bool isShaded = level > 0 || coarse || mode == int(AIS_Shaded);
     if (isShaded && !m_colored.empty()) {
         DispatchStyles(Standard_True);

@@ -32,9 +32,9 @@ public:
     /// The level that suits a part of that many pixels.
     [[nodiscard]] int levelFor(double pixels) const;
 
-    /// How many triangles it has that a coarser mesh can stand for while speed counts; and with how many it is drawn
-    /// then, in the other display mode.
-    [[nodiscard]] unsigned meshTriangles() const { return m_meshTriangles; }
+    /// How many triangles it has that fewer can stand for while speed counts; and with how many it is drawn then, in
+    /// the other display mode.
+    [[nodiscard]] unsigned triangles() const { return m_triangles; }
     void setCoarseTriangles(double triangles) { m_coarseTriangles = triangles; }
     [[nodiscard]] static int coarseDisplayMode();
 
@@ -76,6 +76,6 @@ private:
     /// Faces whose nodes have colours of their own, which the library does not draw.
     std::vector<TopoDS_Face> m_colored;
     int m_levels;
-    unsigned m_meshTriangles = 0;
+    unsigned m_triangles = 0;
     double m_coarseTriangles = 0;
 };

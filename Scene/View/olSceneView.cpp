@@ -45,9 +45,9 @@ constexpr double largestAngle = 170.0;
 constexpr double fitMargin = 0.08;
 constexpr double wireWidth = 1.5;
 
-/// With so many triangles all meshes together are drawn while speed counts; smaller ones stay as they are.
+/// With so many triangles all parts together are drawn while speed counts; smaller ones stay as they are.
 constexpr double coarseTriangles = 100000;
-constexpr unsigned largeMesh = 2000;
+constexpr unsigned largePart = 2000;
 
 Quantity_Color colorOf(const osg::Color3f &color)
 {
@@ -135,7 +135,7 @@ public:
     bool isRaytraced = false;
     bool hasEdges = false;
     bool hasTransparency = false;
-    double meshTriangles = 0;
+    double triangles = 0;
 };
 
 olSceneView::olSceneView() : d(std::make_unique<Private>()) {}
@@ -214,9 +214,9 @@ void olSceneView::Private::measure()
             shown.push_back(part);
     }
     box = boxOf(shown);
-    meshTriangles = 0;
+    triangles = 0;
     for (const Handle(olPart) & part : shown)
-        meshTriangles += part->meshTriangles();
+        triangles += part->triangles();
     hasTransparency = std::any_of(shown.begin(), shown.end(), [](const auto &part) { return part->isTransparent(); });
 }
 
@@ -440,18 +440,18 @@ void olSceneView::setEdges(bool on)
 void olSceneView::Private::showCoarse(bool coarse) const
 {
     for (const Handle(olPart) & part : parts) {
-        const bool isWanted = coarse && part->meshTriangles() >= largeMesh;
+        const bool isWanted = coarse && part->triangles() >= largePart;
         if (part->isCoarse == isWanted || !context->IsDisplayed(part))
             continue;
         part->isCoarse = isWanted;
-        part->setCoarseTriangles(coarseTriangles * part->meshTriangles() / meshTriangles);
+        part->setCoarseTriangles(coarseTriangles * part->triangles() / triangles);
         const int mode = isWanted ? olPart::coarseDisplayMode() : olPart::displayModeOf(part->shownLevel);
         context->SetDisplayMode(part, mode, Standard_False);
         part->setWritesDepth(olHostState::the().zWriteTransparency);
     }
 }
 
-bool olSceneView::isHeavy() const { return d->meshTriangles > 2 * coarseTriangles; }
+bool olSceneView::isHeavy() const { return d->triangles > 2 * coarseTriangles; }
 
 void olSceneView::Private::setPixelRatio(double ratio) const
 {

@@ -28,7 +28,7 @@ public:
     struct Frame {
         Eye eye = Eye::Middle;
         bool isMoving = false; ///< The camera is on its way, and speed counts.
-        bool isCoarse = false; ///< Large meshes have fewer triangles.
+        bool isCoarse = false; ///< Large parts have fewer triangles.
         bool isStill = false;  ///< One of the frames of which a still picture is made.
         QPointF shift;         ///< By how much the picture is shifted, in pixels.
         double pixelRatio = 1; ///< How many of its pixels make one that a person would call a pixel.
@@ -55,7 +55,7 @@ public:
     /// By how much each of the pictures is shifted whose mean a frame is, in pixels.
     [[nodiscard]] std::vector<QPointF> shifts(bool isMoving) const;
 
-    /// Whether there are meshes so large that it may take long to draw them.
+    /// Whether there are so many triangles that it may take long to draw them.
     [[nodiscard]] bool isHeavy() const;
 
     /// Draws into the framebuffer that is bound.

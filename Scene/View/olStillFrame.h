@@ -6,8 +6,8 @@
 class olStillFrame
 {
 public:
-    /// The radius in pixels over which the samples are spread.
-    void start(double radius);
+    /// The radius in pixels over which so many pictures are spread.
+    void start(double radius, int pictures);
     void stop() { m_taken = m_wanted = 0; }
 
     [[nodiscard]] bool isRunning() const { return m_taken < m_wanted; }

@@ -42,6 +42,10 @@ constexpr qint64 longestFrame = 50;
 /// Larger pictures than this a side do not fit into a graphics card together with all that it needs to draw them.
 constexpr int largestSide = 8192;
 
+/// How many pictures a still frame is the mean of.
+constexpr int stills = 16;
+constexpr int fewStills = 4;
+
 constexpr int longestGlide = 36000;
 constexpr double longestRest = 24 * 3600.0;
 
@@ -313,7 +317,9 @@ void olViewport::drawFrame()
 void olViewport::startStill(olStillFrame &still) const
 {
     const olHostState &state = olHostState::the();
-    still.start(double(state.antialiasingDistance) * double(state.antialiasingScale));
+    // Where each takes long, fewer have to do.
+    still.start(double(state.antialiasingDistance) * double(state.antialiasingScale),
+                d->view && d->view->isHeavy() ? fewStills : stills);
 }
 
 olFrameMaker::Manner olViewport::manner(const QSize &size) const
@@ -381,7 +387,8 @@ QImage olViewport::stillPicture(const QSize &size)
             startStill(still);
         olFrameMaker::Manner rest = manner(size);
         rest.isMoving = false;
-        bool isDrawn = frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), rest);
+        const QSize wanted = size.isValid() ? size : pictureSize();
+        bool isDrawn = still.isRunning() ? target.bind(wanted) : frames.draw(*d->view, target, wanted, rest);
         while (isDrawn && still.isRunning())
             isDrawn = frames.drawStill(*d->view, target, rest, still);
         if (isDrawn)

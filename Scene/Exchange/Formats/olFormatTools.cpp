@@ -1,6 +1,10 @@
 #include "Exchange/Formats/olFormatTools.h"
 
 #include "State/olListed.h"
+
+#include <Interface_Check.hxx>
+#include <TCollection_HAsciiString.hxx>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,6 +12,30 @@
 QString olFormatTools::cutOff() { return olReason::tr("the file is cut off or damaged"); }
 
 QString olFormatTools::damaged() { return olReason::tr("the file is damaged or of another format"); }
+
+QString olFormatTools::incomplete(const Handle(Interface_InterfaceModel) & model,
+                                  const std::function<bool(const Handle(Standard_Transient) & entity)> &mustBeWhole,
+                                  QStringList &remarks)
+{
+    QStringList others;
+    for (int number = 1; number <= model->NbEntities(); ++number) {
+        if (!model->Check(number, Standard_True)->HasFailed())
+            continue;
+        const Handle(Standard_Transient) entity = model->Value(number);
+        others << QString::fromLatin1(model->StringLabel(entity)->ToCString());
+        if (mustBeWhole(entity))
+            return incomplete(others.last());
+    }
+    if (!others.isEmpty())
+        remarks << olReason::tr("Entries of the file that are not as they should be, and may be missing: %1.")
+                       .arg(listed(others));
+    return {};
+}
+
+QString olFormatTools::incomplete(const QString &entry)
+{
+    return olReason::tr("the file is damaged: %1 lacks what it is made of").arg(entry);
+}
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
 

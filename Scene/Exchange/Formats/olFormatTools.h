@@ -2,6 +2,7 @@
 
 #include "Exchange/olImportJob.h"
 
+#include <Interface_InterfaceModel.hxx>
 #include <TCollection_AsciiString.hxx>
 
 #include <QByteArray>
@@ -27,6 +28,13 @@ namespace olFormatTools
 /// Reasons that are told by several.
 [[nodiscard]] QString cutOff();
 [[nodiscard]] QString damaged();
+
+/// Why what the library has read cannot be taken over: it crashes over some kinds of entities that lack something they
+/// are made of. An empty text where none does; whatever else is not as it should be becomes a remark.
+[[nodiscard]] QString incomplete(const Handle(Interface_InterfaceModel) & model,
+                                 const std::function<bool(const Handle(Standard_Transient) & entity)> &mustBeWhole,
+                                 QStringList &remarks);
+[[nodiscard]] QString incomplete(const QString &entry);
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);

@@ -6,6 +6,7 @@
 #include <IGESCAFControl_Reader.hxx>
 #include <IGESCAFControl_Writer.hxx>
 #include <IGESControl_Controller.hxx>
+#include <IGESData_IGESEntity.hxx>
 #include <IGESGeom_BoundedSurface.hxx>
 #include <IGESGeom_TrimmedSurface.hxx>
 #include <IGESSolid_Face.hxx>
@@ -31,6 +32,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <vector>
 
 using namespace olFormatTools;
 
@@ -56,7 +58,7 @@ public:
         m_section = section;
         ++m_counts[section];
         if (line.at(sectionAt) == 'D')
-            return isDirectory(line);
+            return isDirectory(line) && takePointers(line);
         if (line.at(sectionAt) == 'P')
             return isParameter(line);
         if (line.at(sectionAt) == 'T')
@@ -79,7 +81,51 @@ public:
         return true;
     }
 
+    /// An entry of the directory that refers to what is not there, by the number of its first line; 0 for none.
+    [[nodiscard]] int danglingEntry() const
+    {
+        for (const auto &[entry, pointer, section] : m_pointers) {
+            if (pointer < 1 || pointer > m_counts[section] || (section == directory && pointer % 2 == 0))
+                return entry;
+        }
+        return 0;
+    }
+
 private:
+    struct Pointer {
+        int entry;
+        int to;
+        int section;
+    };
+    static constexpr int directory = 2;
+    static constexpr int parameters = 3;
+
+    /// Remembers what an entry of two lines refers to. Some numbers are pointers only where they are negative.
+    bool takePointers(const QByteArray &line)
+    {
+        const auto number = [&line](int field) { return line.mid(8 * field, 8).trimmed().toInt(); };
+        const int entry = m_counts[directory] - 1 + m_counts[directory] % 2;
+        if (m_counts[directory] % 2 == 0) {
+            constexpr int color = 2;
+            takePointer(entry, -number(color));
+            return true;
+        }
+        // What was deleted has no kind and no parameters.
+        if (number(0) != 0)
+            m_pointers.push_back({entry, number(1), parameters});
+        for (const int structureFontOrLevel : {2, 3, 4})
+            takePointer(entry, -number(structureFontOrLevel));
+        for (const int viewMatrixOrLabel : {5, 6, 7})
+            takePointer(entry, number(viewMatrixOrLabel));
+        return true;
+    }
+
+    void takePointer(int entry, int to)
+    {
+        if (to > 0)
+            m_pointers.push_back({entry, to, directory});
+    }
+
     bool isDirectory(const QByteArray &line) const
     {
         // The second line of each entry ends with a label, which is any text.
@@ -109,6 +155,7 @@ private:
     static inline const QByteArray sections = QByteArrayLiteral("SGDPT");
     int m_section = 0;
     int m_counts[5] = {};
+    std::vector<Pointer> m_pointers;
     QByteArray m_terminate;
 };
 
@@ -126,7 +173,12 @@ QString check(QFile &file, QStringList &)
         if (!line.trimmed().isEmpty() && !lines.take(line))
             return olReason::tr("the file is damaged in line %1").arg(number);
     }
-    return lines.isWhole() ? QString() : cutOff();
+    if (!lines.isWhole())
+        return cutOff();
+    const int dangling = lines.danglingEntry();
+    if (dangling > 0)
+        return olReason::tr("the file is damaged: its entry D%1 refers to another that is not there").arg(dangling);
+    return {};
 }
 
 /// What the library tried to take over, and could not.
@@ -146,6 +198,14 @@ void remarkLost(const IGESCAFControl_Reader &reader, QStringList &remarks)
         remarks << olReason::tr("%1 of its faces cannot be understood and are left out.").arg(faces);
 }
 
+/// Of the kinds 100 to 199, geometry, and 500 to 599, boundaries of solids.
+bool mustBeWhole(const Handle(Standard_Transient) & entity)
+{
+    const Handle(IGESData_IGESEntity) known = Handle(IGESData_IGESEntity)::DownCast(entity);
+    const int hundreds = known.IsNull() ? 0 : known->TypeNumber() / 100;
+    return hundreds == 1 || hundreds == 5;
+}
+
 QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
              QStringList &remarks)
 {
@@ -158,6 +218,9 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     reader.SetReadVisible(!job.options.importInvisibleSurfaces && !job.options.importInvisibleCurves);
     if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
         return damaged();
+    const QString fault = incomplete(reader.WS()->Model(), mustBeWhole, remarks);
+    if (!fault.isEmpty())
+        return fault;
     olScene::Document target = document;
     const bool isTaken = reader.Transfer(target, progress);
     remarkLost(reader, remarks);

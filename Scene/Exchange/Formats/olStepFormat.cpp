@@ -8,10 +8,20 @@
 #include <STEPCAFControl_Controller.hxx>
 #include <STEPCAFControl_Reader.hxx>
 #include <STEPCAFControl_Writer.hxx>
+#include <StepGeom_Curve.hxx>
+#include <StepGeom_Direction.hxx>
+#include <StepGeom_Placement.hxx>
+#include <StepGeom_Point.hxx>
+#include <StepGeom_Surface.hxx>
+#include <StepGeom_Vector.hxx>
+#include <StepRepr_DefinitionalRepresentation.hxx>
+#include <StepRepr_PropertyDefinitionRepresentation.hxx>
 #include <StepRepr_RepresentationItem.hxx>
 #include <StepShape_FaceSurface.hxx>
 #include <StepShape_ShellBasedSurfaceModel.hxx>
 #include <StepShape_SolidModel.hxx>
+#include <StepShape_TopologicalRepresentationItem.hxx>
+#include <StepVisual_SurfaceStyleUsage.hxx>
 #include <TCollection_HAsciiString.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
@@ -29,6 +39,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <istream>
+#include <iterator>
 #include <streambuf>
 #include <string_view>
 #include <utility>
@@ -78,14 +89,18 @@ private:
         bool isDefinition = false;
         quint64 number = 0;
         const char *start = nullptr;
+        std::string_view keyword;
         for (; m_at < m_end && *m_at != ';'; ++m_at) {
             if (*m_at == '\'') {
                 m_at = std::find(m_at + 1, m_end, '\'');
             } else if (*m_at == '/' && m_at + 1 < m_end && m_at[1] == '*') {
                 static const char close[] = "*/";
                 m_at = std::search(m_at + 2, m_end, close, close + 2) + 1;
-            } else if (*m_at == '(' && ++depth > deepest) {
-                return olReason::tr("the file is damaged: its parentheses are nested too deeply");
+            } else if (*m_at == '(') {
+                if (++depth > deepest)
+                    return olReason::tr("the file is damaged: its parentheses are nested too deeply");
+                if (lacksContent(start, keyword))
+                    return incomplete(QLatin1Char('#') + QString::number(number));
             } else if (*m_at == ')') {
                 --depth;
             } else if (*m_at == '#' && m_at + 1 < m_end && m_at[1] >= '0' && m_at[1] <= '9') {
@@ -103,13 +118,54 @@ private:
         }
         if (m_at >= m_end)
             return start ? cutOff() : QString();
+        if (depth != 0)
+            return cutOff();
         if (isDefinition)
             m_defined.push_back(number);
-        const std::string_view keyword =
-            start ? std::string_view(start, std::size_t(m_at - start)) : std::string_view();
+        keyword = start ? std::string_view(start, std::size_t(m_at - start)) : std::string_view();
         m_isEnded = keyword.substr(0, 16) == "END-ISO-10303-21";
         ++m_at;
         return {};
+    }
+
+    /// At an opening parenthesis: whether it opens an empty list in the parameters of a kind over which the library
+    /// crashes then. What stands before it may be a keyword, which becomes the current one.
+    bool lacksContent(const char *start, std::string_view &keyword) const
+    {
+        static constexpr std::string_view kinds[] = {"ADVANCED_FACE",
+                                                     "B_SPLINE_CURVE_WITH_KNOTS",
+                                                     "B_SPLINE_SURFACE_WITH_KNOTS",
+                                                     "CARTESIAN_POINT",
+                                                     "CONNECTED_EDGE_SET",
+                                                     "CURVE_BOUNDED_SURFACE",
+                                                     "DERIVED_UNIT",
+                                                     "DIRECTION",
+                                                     "EDGE_BASED_WIREFRAME_MODEL",
+                                                     "EDGE_LOOP",
+                                                     "FACE_BASED_SURFACE_MODEL",
+                                                     "INTERSECTION_CURVE",
+                                                     "SEAM_CURVE",
+                                                     "SHELL_BASED_SURFACE_MODEL",
+                                                     "SURFACE_CURVE",
+                                                     "SURFACE_STYLE_RENDERING_WITH_PROPERTIES",
+                                                     "TRIMMED_CURVE"};
+        const auto isBlank = [](char letter) { return static_cast<unsigned char>(letter) <= ' '; };
+        const auto isWord = [](char letter) {
+            return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') || letter == '_' ||
+                   (letter >= '0' && letter <= '9');
+        };
+        const char *end = m_at;
+        while (start && end > start && isBlank(end[-1]))
+            --end;
+        const char *first = end;
+        while (start && first > start && isWord(first[-1]))
+            --first;
+        if (first < end) {
+            keyword = std::string_view(first, std::size_t(end - first));
+            return false;
+        }
+        const char *next = std::find_if_not(m_at + 1, m_end, isBlank);
+        return next < m_end && *next == ')' && std::binary_search(std::begin(kinds), std::end(kinds), keyword);
     }
 
     /// Stays on its last digit.
@@ -168,6 +224,24 @@ private:
     const char *m_end;
     Message_ProgressScope m_scope;
 };
+
+/// Shapes, all that they are made of, and what gives them a place or a look.
+bool mustBeWhole(const Handle(Standard_Transient) & entity)
+{
+    const Handle(Standard_Type) kinds[] = {STANDARD_TYPE(StepGeom_Curve),
+                                           STANDARD_TYPE(StepGeom_Direction),
+                                           STANDARD_TYPE(StepGeom_Placement),
+                                           STANDARD_TYPE(StepGeom_Point),
+                                           STANDARD_TYPE(StepGeom_Surface),
+                                           STANDARD_TYPE(StepGeom_Vector),
+                                           STANDARD_TYPE(StepRepr_DefinitionalRepresentation),
+                                           STANDARD_TYPE(StepRepr_PropertyDefinitionRepresentation),
+                                           STANDARD_TYPE(StepShape_SolidModel),
+                                           STANDARD_TYPE(StepShape_TopologicalRepresentationItem),
+                                           STANDARD_TYPE(StepVisual_SurfaceStyleUsage)};
+    return std::any_of(std::begin(kinds), std::end(kinds),
+                       [&entity](const Handle(Standard_Type) & kind) { return entity->IsKind(kind); });
+}
 
 bool isNumber(const TCollection_ExtendedString &text)
 {
@@ -246,6 +320,9 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     std::istream stream(&source);
     if (reader.ChangeReader().ReadStream(path(job.fileToRead()).ToCString(), stream) != IFSelect_RetDone)
         return damaged();
+    const QString fault = incomplete(reader.Reader().WS()->Model(), mustBeWhole, remarks);
+    if (!fault.isEmpty())
+        return fault;
     olScene::Document target = document;
     if (!reader.Transfer(target, scope.Next(8)))
         return olReason::tr("its content cannot be taken over");

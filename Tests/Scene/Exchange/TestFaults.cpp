@@ -103,6 +103,9 @@ const QVector<Broken> &brokenFiles()
         {"view.gltf", gltf(R"("uri":"data:;base64,AAAA","byteLength":3)", "3"), "beyond its end"},
         {"data.gltf", gltf(R"("uri":"data:application/octet-stream;base64,AAAA","byteLength":36)", "3"), "damaged"},
         {"bare.step", step({}), "Cannot read"},
+        {"loop.step", step("#1=EDGE_LOOP('',( ));"), "#1 lacks what it is made of"},
+        {"nowhere.step", step("#1=VERTEX_POINT('',$);"), "#1 lacks what it is made of"},
+        {"open.step", step("#1=DIRECTION('',(1.,0.,0.);"), "cut off or damaged"},
         {"link.step", step("#1=SHAPE('#7',/* #6 */#9);"), "#1 refers to #9, which is not there"},
         {"bare.igs", QByteArray(72, ' ') + "S      1\n" + QByteArray(72, ' ') + "T      1\n", "Cannot read"},
     };
@@ -148,14 +151,62 @@ TEST_F(Fault, NoFormatIsReadFromEmptyForeignCutHugeOrLockedFiles)
 
 TEST_F(Fault, FacesThatCannotBeUnderstoodAreCounted)
 {
-    // One plane lies nowhere.
+    // One lies in a surface of which nothing is known.
     QByteArray step = contentOf(exported(QStringLiteral("whole.step")));
-    const int place = step.indexOf("PLANE('',#") + 9;
-    step.replace(place, step.indexOf(')', place) - place, "$");
+    const int plane = step.indexOf("PLANE('',#");
+    step.replace(plane, step.indexOf(')', plane) - plane, "SURFACE(''");
     const olImportResult result = olImport(olImportJob::of(written(QStringLiteral("face.step"), step)));
     ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
     EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("1 of its faces cannot be understood")))
         << qPrintable(result.remarks.join(QLatin1Char(' ')));
+}
+
+TEST_F(Fault, WhatRefersToNothingIsRefusedBeforeItIsTakenOver)
+{
+    const QByteArray step = contentOf(exported(QStringLiteral("whole.step")));
+    const int face = step.indexOf("ADVANCED_FACE('',(");
+    const int surface = step.indexOf("),#", face) + 2;
+    const int afterSurface = step.indexOf(',', surface);
+    QByteArray without = step;
+    without.replace(surface, afterSurface - surface, "$");
+    EXPECT_TRUE(faultOf(written(QStringLiteral("surface.step"), without)).contains(QStringLiteral("lacks what it is")));
+
+    // An entry of the directory has two lines: pointers to parameters, view and matrix, and to a colour.
+    const QByteArray iges = contentOf(exported(QStringLiteral("whole.igs")));
+    const int entry = iges.indexOf("D0000001") - 72;
+    const int line = iges.indexOf("D0000002") - 72 - entry;
+    ASSERT_GT(entry, 0);
+    for (const int pointer : {entry + 8, entry + 40, entry + 48, entry + line + 16}) {
+        QByteArray dangling = iges;
+        dangling.replace(pointer, 8, pointer > entry + line ? "  -99999" : "   99999");
+        const QString fault = faultOf(written(QStringLiteral("pointer.igs"), dangling));
+        EXPECT_TRUE(fault.contains(QStringLiteral("D1 refers to another"))) << pointer - entry << qPrintable(fault);
+    }
+}
+
+TEST_F(Fault, AnyByteAndAnyLineMayBeWrong)
+{
+    for (const char *name : {"whole.step", "whole.igs"}) {
+        const QByteArray whole = contentOf(exported(QLatin1String(name)));
+        constexpr int variants = 8;
+        for (int variant = 0; variant < variants; ++variant) {
+            const int at = whole.size() / (variants + 1) * (variant + 1);
+            QByteArray damaged = whole;
+            if (variant % 2 == 0)
+                damaged[at] = damaged.at(at) == '$' ? '1' : '$';
+            else
+                damaged.remove(at, damaged.indexOf('\n', at) + 1 - at);
+            olImportJob job = olImportJob::of(written(QStringLiteral("damaged-") + QLatin1String(name), damaged));
+            // What was changed may be a radius, too.
+            job.options.chordDeviation = 10;
+            job.options.normalTolerance = 60;
+            job.patience = 20000;
+            const olImportResult result = olImport(job);
+            // What was changed may be a name or a colour.
+            EXPECT_TRUE(result.isGood() || result.error.startsWith(QStringLiteral("Cannot read"))) << at;
+            EXPECT_EQ(result.error.count(QLatin1Char('\n')), 0) << qPrintable(result.error);
+        }
+    }
 }
 
 TEST_F(Fault, OtherSuffixesHaveNoReaderAndTheMessageSaysWhichHave)
