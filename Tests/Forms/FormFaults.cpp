@@ -3,6 +3,7 @@
 #include "Editing/olPageIndex.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -13,6 +14,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStyleOption>
@@ -196,6 +198,39 @@ QStringList FormFaults::withoutLetters(const QWidget &window)
             faults << nameOf(*widget) + QStringLiteral(" has letters that no font has");
     }
     return faults;
+}
+
+QStringList FormFaults::english(const QWidget &window)
+{
+    QStringList texts{window.windowTitle()};
+    std::vector<QWidget *> all = visibleIn(window);
+    for (const QWidget *widget : all) {
+        for (const char *property : {"text", "title", "placeholderText", "toolTip", "suffix", "specialValueText"})
+            texts << widget->property(property).toString();
+        if (const auto *bar = qobject_cast<const QTabBar *>(widget)) {
+            for (int tab = 0; tab < bar->count(); ++tab)
+                texts << bar->tabText(tab);
+        }
+        if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
+            for (int row = 0; row < combo->count(); ++row)
+                texts << combo->itemText(row);
+        }
+        for (const QAction *action : widget->actions())
+            texts << action->text() << action->toolTip();
+    }
+    for (const QAction *action : window.actions())
+        texts << action->text();
+    for (const QHeaderView *header : window.findChildren<QHeaderView *>()) {
+        for (int section = 0; header->orientation() == Qt::Horizontal && section < header->count(); ++section)
+            texts << header->model()->headerData(section, Qt::Horizontal).toString();
+    }
+    static const QRegularExpression own(QStringLiteral("[\\x{3040}-\\x{d7ff}]"));
+    static const QRegularExpression word(QStringLiteral("[A-Za-z]{3,}"));
+    texts.removeDuplicates();
+    texts.erase(std::remove_if(texts.begin(), texts.end(),
+                               [](const QString &text) { return text.contains(own) || !text.contains(word); }),
+                texts.end());
+    return texts;
 }
 
 QStringList FormFaults::misplaced(const QWidget &window)

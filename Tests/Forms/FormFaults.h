@@ -14,6 +14,9 @@ QStringList clipped(const QWidget &window);
 /// Texts with letters that no font has.
 QStringList withoutLetters(const QWidget &window);
 
+/// Of a window in an East Asian language, texts that have none of its letters, but English words.
+QStringList english(const QWidget &window);
+
 /// Widgets beyond the edge of their parent, without any size, or over one another.
 QStringList misplaced(const QWidget &window);
 

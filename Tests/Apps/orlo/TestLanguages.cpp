@@ -1,0 +1,174 @@
+#include "Forms/FormFaults.h"
+#include "Forms/Pictures.h"
+#include "WindowTest.h"
+#include "olImportDialog.h"
+#include "olStartFault.h"
+
+#include "Dialog/olConsentBox.h"
+#include "Dialog/olPreferencesDialog.h"
+#include "Exchange/olExportScene.h"
+#include "Exchange/olImportJob.h"
+#include "Model/olScene.h"
+#include "Session/olTranslations.h"
+#include "View/olViewport.h"
+#include "Widgets/QOLSlider.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QDialog>
+#include <QFile>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace
+{
+
+/// Comes before the window, whose texts are then of that language.
+struct Language {
+    explicit Language(int language)
+    {
+        translations.load(language);
+        translations.loadOfToolkit();
+        translations.loadOfPlugin(pluginUnderTest());
+    }
+    olTranslations translations;
+};
+
+/// The viewer's own windows, as the preferences' pages are looked at elsewhere.
+class ViewerInLanguages : public testing::WithParamInterface<int>, private Language, public WindowTest
+{
+protected:
+    ViewerInLanguages() : Language(GetParam()) {}
+
+    void look(QWidget &shown, const QString &name)
+    {
+        QTest::qWait(50);
+        Pictures::take(shown, olTranslations::languages()[GetParam()] + QLatin1Char(' ') + name);
+        for (const QStringList &faults :
+             {FormFaults::clipped(shown), FormFaults::withoutLetters(shown), FormFaults::english(shown)})
+            EXPECT_TRUE(faults.isEmpty()) << name.toStdString() << ":\n  " << faults.join("\n  ").toStdString();
+    }
+
+    static QList<QDialog *> openDialogs()
+    {
+        QList<QDialog *> open;
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            auto *dialog = qobject_cast<QDialog *>(widget);
+            if (dialog && dialog->isVisible())
+                open << dialog;
+        }
+        return open;
+    }
+
+    /// What the call opens, be it that it waits for that; it is closed again.
+    void lookAtWhatOpens(const QString &name, const std::function<void()> &call)
+    {
+        const QList<QDialog *> before = openDialogs();
+        bool isSeen = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            for (QDialog *dialog : openDialogs()) {
+                if (isSeen || before.contains(dialog))
+                    continue;
+                isSeen = true;
+                look(*dialog, name);
+                dialog->done(0);
+            }
+        });
+        timer.start(20);
+        call();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen && openDialogs().size() <= before.size(); }))
+            << name.toStdString();
+    }
+
+    QAction &translated(const char *context, const char *text)
+    {
+        const QString wanted = QCoreApplication::translate(context, text);
+        for (QAction *each : window.findChildren<QAction *>()) {
+            if (each->text() == wanted)
+                return *each;
+        }
+        throw std::runtime_error(std::string("no action ") + text);
+    }
+};
+
+TEST_P(ViewerInLanguages, HasRoomForItsTextsInItsOwnWindows)
+{
+    window.showIntegratorPanels();
+    view.select({idOf(node("Housing"))});
+    look(window, "window");
+    for (QMenu *menu : window.findChildren<QMenu *>()) {
+        if (menu->isEmpty())
+            continue;
+        menu->popup(window.mapToGlobal(QPoint(50, 50)));
+        look(*menu, "menu " + menu->title().remove('&'));
+        menu->close();
+    }
+    lookAtWhatOpens("about", [this] { translated("olMainWindow", "&About ORLO").trigger(); });
+    lookAtWhatOpens("import file", [this] { translated("olModelFiles", "&Import...").trigger(); });
+    lookAtWhatOpens("export file", [this] { translated("olModelFiles", "&Export...").trigger(); });
+    lookAtWhatOpens("fault of the store", [] { (void)olAskAboutStore("/store"); });
+    lookAtWhatOpens("fault of the plug-in", [] { (void)olAskAboutPlugin("/plug-in"); });
+}
+
+TEST_P(ViewerInLanguages, HasRoomForTheTextsOfAnImport)
+{
+    for (const char *name : {"model.step", "model.stl"}) {
+        const QString file = path(name);
+        ASSERT_EQ(olExportScene(window.scene().document(), file).error, "");
+        olImportDialog dialog({olImportJob::of(file)}, true, &window);
+        dialog.show();
+        look(dialog, QString("import of ") + name);
+        dialog.showReading();
+        dialog.setPercent(40);
+        look(dialog, QString("reading of ") + name);
+        dialog.showOutcome(olImportDialog::Success::WithRemarks, "-");
+        look(dialog, QString("outcome of ") + name);
+    }
+}
+
+TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
+{
+    olPreferencesDialog &dialog = window.openPreferences();
+    ASSERT_TRUE(dialog.openAt("Camera fov"));
+    dialog.resize(1100, 700);
+    look(dialog, "preferences");
+    lookAtWhatOpens("question", [&] {
+        olConsentBox box(*session.warning("WebInterface enable web server2", true), &dialog);
+        box.exec();
+    });
+    QMenu &more = *dialog.findChild<QToolButton *>("more")->menu();
+    more.popup(dialog.mapToGlobal(QPoint(20, 20)));
+    look(more, "more");
+    more.close();
+
+    QFile preferences(path("preferences.json"));
+    ASSERT_TRUE(preferences.open(QIODevice::WriteOnly));
+    preferences.write(R"({"Camera fov": {"type": "float", "value": 30}, "Camera fow": {"type": "float", "value": 1},
+        "MainWindow window opacity": {"type": "float", "value": 7}})");
+    preferences.close();
+    lookAtWhatOpens("import preview", [&] { dialog.importFrom(preferences.fileName()); });
+    dialog.findChild<QOLSlider *>("fieldOfView")->setValue(33);
+    lookAtWhatOpens("changes", [&] { dialog.findChild<QAbstractButton *>("changes")->click(); });
+    lookAtWhatOpens("loss", [&] { dialog.reject(); });
+    ASSERT_TRUE(dialog.apply());
+    lookAtWhatOpens("history", [&] { translated("olPreferencesDialog", "&History...").trigger(); });
+    lookAtWhatOpens("profile", [&] { translated("olProfilesMenu", "&Save As...").trigger(); });
+    lookAtWhatOpens("import of preferences", [&] { more.actions().first()->trigger(); });
+    dialog.exportTo(path("exported.json"));
+    look(dialog, "note");
+    dialog.exportTo("/none/exported.json");
+    look(dialog, "error");
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, ViewerInLanguages, testing::Values(1, 2, 3), [](const auto &language) {
+    return olTranslations::languages()[language.param].toStdString();
+});
+
+} // namespace
