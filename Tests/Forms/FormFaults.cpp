@@ -226,9 +226,12 @@ QStringList FormFaults::english(const QWidget &window)
     }
     static const QRegularExpression own(QStringLiteral("[\\x{3040}-\\x{d7ff}]"));
     static const QRegularExpression word(QStringLiteral("[A-Za-z]{3,}"));
+    static const QRegularExpression file(QStringLiteral("/|\\*\\.|^\\S+\\.\\w+$"));
     texts.removeDuplicates();
     texts.erase(std::remove_if(texts.begin(), texts.end(),
-                               [](const QString &text) { return text.contains(own) || !text.contains(word); }),
+                               [](const QString &text) {
+                                   return text.contains(own) || !text.contains(word) || text.contains(file);
+                               }),
                 texts.end());
     return texts;
 }

@@ -14,7 +14,7 @@ QStringList clipped(const QWidget &window);
 /// Texts with letters that no font has.
 QStringList withoutLetters(const QWidget &window);
 
-/// Of a window in an East Asian language, texts that have none of its letters, but English words.
+/// Of a window in an East Asian language, texts that have none of its letters, but words, and name no file.
 QStringList english(const QWidget &window);
 
 /// Widgets beyond the edge of their parent, without any size, or over one another.

