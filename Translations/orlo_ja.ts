@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>コマンドラインオプションのヘルプを表示する。</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Qt固有のオプションも含むヘルプを表示する。</translation>
+    </message>
+</context>
+<context>
     <name>QOLColorDialog</name>
     <message>
         <source>Choose Color</source>
@@ -18,10 +29,6 @@
 <context>
     <name>olAbout</name>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
-    </message>
-    <message>
         <source>About ORLO</source>
         <translation>ORLOについて</translation>
     </message>
@@ -32,6 +39,10 @@
     <message>
         <source>&amp;Notices</source>
         <translation>ライセンス表示(&amp;N)</translation>
+    </message>
+    <message>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD (3条項)&lt;/li&gt;&lt;li&gt;Coin：BSD (3条項)&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
     </message>
 </context>
 <context>
@@ -884,6 +895,19 @@
     </message>
 </context>
 <context>
+    <name>olListed</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>one name of a list, and the next</comment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>one sentence, and the next</comment>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
     <name>olMainWindow</name>
     <message>
         <source>ORLO</source>
@@ -1590,6 +1614,238 @@
     </message>
 </context>
 <context>
+    <name>olPrefsCommands</name>
+    <message>
+        <source>all modules with their settings, values and defaults</source>
+        <translation>すべてのモジュールとその設定、値、既定値</translation>
+    </message>
+    <message>
+        <source>Lists the modules with their settings: key, type, value, and the default where the value is another.
+  --json      one array of modules, for programs
+  --markdown  the catalogue of the documentation: keys, types, defaults, ranges and choices, when a new
+              value counts, and where they are on the pages, with the tooltips there
+</source>
+        <translation>モジュールとその設定を一覧にします：キー、型、値、値が既定値と異なるときは既定値も。
+  --json      モジュールの配列1つ、プログラム用
+  --markdown  ドキュメントのカタログ：キー、型、既定値、範囲と選択肢、新しい値が
+              いつ有効になるか、ページ上の場所、そこにあるツールチップ
+</translation>
+    </message>
+    <message>
+        <source>prints the value of a setting as JSON</source>
+        <translation>設定の値をJSONで出力</translation>
+    </message>
+    <message>
+        <source>Prints the value that is in force: the stored one, else the default.
+</source>
+        <translation>有効な値を出力します：保存された値、なければ既定値です。
+</translation>
+    </message>
+    <message>
+        <source>stores a value, JSON or plain text</source>
+        <translation>値を保存、JSONまたは普通のテキスト</translation>
+    </message>
+    <message>
+        <source>Stores a value. VALUE is JSON of the setting&apos;s type; a text needs no quotes. A value that the control of
+the setting could not hold is refused, and so is any value of a locked setting. The viewer may be running.
+</source>
+        <translation>値を保存します。VALUEは設定の型のJSONで、テキストに引用符は要りません。設定のコントロールに入らない値と、
+ロック済みの設定の値は拒否されます。ビューアーは実行中でもかまいません。
+</translation>
+    </message>
+    <message>
+        <source>takes a setting back to its default</source>
+        <translation>設定を既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Takes a setting back to its default, which is the site&apos;s where the site gives one.
+  --all       all settings
+</source>
+        <translation>設定を既定値に戻します。サイトが既定値を定めているときは、その値です。
+  --all       すべての設定
+</translation>
+    </message>
+    <message>
+        <source>what differs from the defaults</source>
+        <translation>既定値と異なる設定</translation>
+    </message>
+    <message>
+        <source>Prints a line for each setting that differs from its default: KEY  DEFAULT -&gt; VALUE.
+</source>
+        <translation>既定値と異なる設定ごとに1行を出力します：KEY  DEFAULT -&gt; VALUE
+</translation>
+    </message>
+    <message>
+        <source>writes all settings to a file of preferences</source>
+        <translation>すべての設定を環境設定のファイルに書き込む</translation>
+    </message>
+    <message>
+        <source>Writes the values in force of all settings, with their types, as JSON to a file, or to the standard output
+with - or without a name. An existing file is replaced.
+</source>
+        <translation>すべての設定の有効な値を型とともにJSONでファイルに書き込みます。-のとき、または名前がないときは
+標準出力に書き込みます。既存のファイルは置き換えられます。
+</translation>
+    </message>
+    <message>
+        <source>stores the settings of such a file</source>
+        <translation>そのようなファイルの設定を保存</translation>
+    </message>
+    <message>
+        <source>Stores the settings of a file that export wrote, read from the standard input with -. Unknown keys, values
+of another type or out of range, and locked settings are named on the standard error stream and skipped.
+  --dry-run   prints what would change, KEY  VALUE -&gt; NEW VALUE, and stores nothing
+</source>
+        <translation>exportが書き込んだファイルの設定を保存します。-のときは標準入力から読み込みます。不明なキー、型が異なる値や
+範囲外の値、ロック済みの設定は、標準エラー出力で知らせてスキップします。
+  --dry-run   変わるものをKEY  VALUE -&gt; NEW VALUEの形で出力し、何も保存しない
+</translation>
+    </message>
+    <message>
+        <source>keeps settings under a name, and takes them from there</source>
+        <translation>設定に名前を付けて保存し、そこから適用</translation>
+    </message>
+    <message>
+        <source>A profile is a set of settings with a name, in a file of preferences. The site may have some too.
+  list                             the names
+  save NAME [--changed | --module M]
+                                   keeps all settings, those that differ from their defaults, or a module&apos;s
+  apply NAME [--dry-run]           stores its settings as import does; or only prints what would change
+  delete NAME
+</source>
+        <translation>プロファイルは名前の付いた設定の集まりで、環境設定のファイルに入っています。サイトのものもあり得ます。
+  list                             名前の一覧
+  save NAME [--changed | --module M]
+                                   すべての設定、既定値と異なる設定、またはモジュールの設定を保存
+  apply NAME [--dry-run]           importのように設定を保存。または変わるものを出力するだけ
+  delete NAME
+</translation>
+    </message>
+    <message>
+        <source>what was changed when, and by which program</source>
+        <translation>いつ、どのプログラムが何を変更したか</translation>
+    </message>
+    <message>
+        <source>Lists the last saves, the latest first: how far back it is, when, by which program, and what it changed. Of
+confidential settings nothing is told.
+  KEY         only the changes of that setting
+  --json      one array, for programs
+</source>
+        <translation>最近の保存を新しい順に一覧にします：何回前か、いつか、どのプログラムか、何を変更したか。
+機密の設定については何も表示しません。
+  KEY         その設定の変更だけ
+  --json      配列1つ、プログラム用
+</translation>
+    </message>
+    <message>
+        <source>takes the last N saves back</source>
+        <translation>最近のN回の保存を取り消す</translation>
+    </message>
+    <message>
+        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
+save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
+standard error stream and left; the exit status is then 1.
+  --dry-run   only prints, and stores nothing
+</source>
+        <translation>最近の保存、または最近のN回の保存を取り消し、それで変わるものをKEY  VALUE -&gt; NEW VALUEの形で出力します。これも
+1回の保存であり、取り消せます。その後に変更された設定とロック済みの設定は、標準エラー出力で知らせて
+そのまま残します。そのとき終了ステータスは1です。
+  --dry-run   出力するだけで、何も保存しない
+</translation>
+    </message>
+    <message>
+        <source>looks for damage in the store and faults in the site&apos;s files</source>
+        <translation>保存ファイルの破損とサイトのファイルの誤りを調べる</translation>
+    </message>
+    <message>
+        <source>Prints a line for each thing that is wrong with the store, its copy or the site&apos;s files, also
+for keys that no edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.
+  --site FILE  judges such a file of the site&apos;s before it is installed, and nothing else
+</source>
+        <translation>保存ファイル、そのバックアップ、サイトのファイルの問題ごとに1行を出力します。
+どのエディションにもないキーも対象で、何も変更しません。問題がなければ終了ステータスは0、あれば1です。
+  --site FILE  インストール前のサイトのファイルを調べ、ほかは調べない
+</translation>
+    </message>
+    <message>
+        <source>prints a JSON Schema of the files that name settings</source>
+        <translation>設定を記すファイルのJSON Schemaを出力</translation>
+    </message>
+    <message>
+        <source>Prints a JSON Schema of the file that export writes and import reads, and of a site&apos;s
+site.json, for editors to complete and check them by. Settings and ranges are those of the edition.
+</source>
+        <translation>exportが書き込みimportが読み込むファイルと、サイトのsite.jsonのJSON Schemaを出力します。
+エディターの補完と検査に使えます。設定と範囲はエディションのものです。
+</translation>
+    </message>
+    <message>
+        <source>runs a script from a file or the standard input</source>
+        <translation>ファイルまたは標準入力のスクリプトを実行</translation>
+    </message>
+    <message>
+        <source>Drives the modules operation by operation and prints every host call. A script begins
+with empty preferences, or with those of --store, and never writes any.
+</source>
+        <translation>モジュールを操作ごとに動かし、すべてのホスト呼び出しを出力します。スクリプトは空の環境設定、
+または--storeのもので始まり、書き込みは行いません。
+</translation>
+    </message>
+    <message>
+        <source>Usage: %1
+</source>
+        <translation>使い方：%1
+</translation>
+    </message>
+    <message>
+        <source>Shows and changes ORLO&apos;s preferences, and drives them by script. It needs no display.
+
+Commands; orlo-prefs COMMAND --help tells more of each
+</source>
+        <translation>ORLOの環境設定を表示、変更し、スクリプトで動かします。ディスプレイは要りません。
+
+コマンド。詳しくはorlo-prefs COMMAND --help
+</translation>
+    </message>
+    <message>
+        <source>The exit status is 0, or 2 with a message on the standard error stream; of check 1 when it
+finds something, and of undo when it leaves something.
+</source>
+        <translation>終了ステータスは0、または標準エラー出力のメッセージとともに2です。checkは何かを見つけたとき、
+undoは何かを残したときに1です。
+</translation>
+    </message>
+</context>
+<context>
+    <name>olPrefsOptions</name>
+    <message>
+        <source>Options, before the command
+  --edition NAME     %1 (default professional)
+  --app-name NAME    the application&apos;s name (default orlo)
+  --store FILE       where the preferences are kept (default the user&apos;s store; a script
+                     begins empty without it, and never writes)
+  --plugin FILE      the preferences plug-in (default beside the program, then the
+                     installed plug-in folder)
+  --language NAME    of the messages: en, zh, ja, ko, or user for the one that is stored
+                     (default en)
+  --yes              agrees to what the page would ask before it takes a value
+  --help, --version
+</source>
+        <translation>オプション、コマンドの前に書く
+  --edition NAME     %1 (既定はprofessional)
+  --app-name NAME    アプリケーションの名前 (既定はorlo)
+  --store FILE       環境設定の保存先 (既定はユーザーの保存ファイル。スクリプトは
+                     これがなければ空で始まり、書き込みは行わない)
+  --plugin FILE      環境設定のプラグイン (既定はプログラムの隣のもの、次に
+                     インストール先のプラグインフォルダーのもの)
+  --language NAME    メッセージの言語：en、zh、ja、ko、またはuser (保存された言語)
+                     (既定はen)
+  --yes              値を受け取る前にページが尋ねることに同意する
+  --help, --version
+</translation>
+    </message>
+</context>
+<context>
     <name>olProfiles</name>
     <message>
         <source>&quot;%1&quot; is no name for a profile: it must not be empty, have a slash in it or begin with a dot.</source>
@@ -2120,6 +2376,85 @@
     </message>
 </context>
 <context>
+    <name>olSettingsCatalogue</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>%1以上</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>%1以下</translation>
+    </message>
+    <message>
+        <source>%1, %2 decimals</source>
+        <translation>%1、小数%2桁</translation>
+    </message>
+    <message>
+        <source>next import</source>
+        <translation>次回のインポート時</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>次回の起動時</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
+        <source>or any text</source>
+        <translation>または任意のテキスト</translation>
+    </message>
+    <message>
+        <source>No settings.</source>
+        <translation>設定はありません。</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>型</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>range or choices</source>
+        <translation>範囲または選択肢</translation>
+    </message>
+    <message>
+        <source>effect</source>
+        <translation>有効になる時</translation>
+    </message>
+    <message>
+        <source>on the page</source>
+        <translation>ページ上の場所</translation>
+    </message>
+    <message>
+        <source>tooltip</source>
+        <translation>ツールチップ</translation>
+    </message>
+    <message>
+        <source># Settings
+
+All settings of all modules, in the order of registration and of writing, with the defaults of the Professional
+edition. Made by `orlo-prefs list --markdown`.
+</source>
+        <translation># 設定
+
+すべてのモジュールのすべての設定を、登録と書き込みの順に示します。既定値はProfessionalエディションのものです。
+`orlo-prefs list --markdown`で作成しました。
+</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsLock</name>
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
@@ -2357,6 +2692,25 @@
     </message>
 </context>
 <context>
+    <name>olSupport</name>
+    <message>
+        <source>orlo %1, edition %2</source>
+        <translation>orlo %1、エディション %2</translation>
+    </message>
+    <message>
+        <source>Changed settings:</source>
+        <translation>変更済みの設定：</translation>
+    </message>
+    <message>
+        <source>Changed and left out: %1</source>
+        <translation>変更済みで省かれたもの：%1</translation>
+    </message>
+    <message>
+        <source>End of the log:</source>
+        <translation>ログの終わり：</translation>
+    </message>
+</context>
+<context>
     <name>olTesselationSettings</name>
     <message>
         <source>T&amp;essellation</source>
@@ -2530,10 +2884,6 @@
         <translation>スキップしました：「%1」は%2</translation>
     </message>
     <message>
-        <source>there is no module &quot;%1&quot;%2</source>
-        <translation>モジュール「%1」はありません%2</translation>
-    </message>
-    <message>
         <source>%1 saves cannot be taken back: there are only %2</source>
         <translation>%1件の保存は取り消せません：%2件しかありません</translation>
     </message>
@@ -2544,10 +2894,6 @@
     <message>
         <source>Some settings were left as they are.</source>
         <translation>一部の設定は変更されませんでした。</translation>
-    </message>
-    <message>
-        <source>there is no setting &quot;%1&quot;%2</source>
-        <translation>設定「%1」はありません%2</translation>
     </message>
     <message>
         <source>the button &quot;%1&quot;</source>
@@ -2582,10 +2928,6 @@
         <translation>ディレクトリの選択「%1」</translation>
     </message>
     <message>
-        <source>; did you mean &quot;%1&quot;?</source>
-        <translation>。「%1」のことですか？</translation>
-    </message>
-    <message>
         <source>a command is missing: %1; see --help</source>
         <translation>コマンドがありません：%1。--helpを参照してください</translation>
     </message>
@@ -2616,10 +2958,6 @@
     <message>
         <source>there is no edition %1, only %2</source>
         <translation>エディション%1はありません：使用できるのは%2です</translation>
-    </message>
-    <message>
-        <source>there is no option %1%2</source>
-        <translation>オプション%1はありません%2</translation>
     </message>
     <message>
         <source>usage: orlo-prefs [OPTIONS] %1</source>
@@ -2690,10 +3028,6 @@
         <translation>%1行目：%2</translation>
     </message>
     <message>
-        <source>there is no command %1%2</source>
-        <translation>コマンド%1はありません%2</translation>
-    </message>
-    <message>
         <source>behind the module only keep may follow</source>
         <translation>モジュールの後に指定できるのはkeepだけです</translation>
     </message>
@@ -2708,10 +3042,6 @@
     <message>
         <source>%1 is no colour</source>
         <translation>%1は色ではありません</translation>
-    </message>
-    <message>
-        <source>there is no fact %1%2</source>
-        <translation>ホスト情報%1はありません%2</translation>
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
@@ -2756,6 +3086,73 @@
     <message>
         <source>there is no language %1, only %2 or user</source>
         <translation>言語%1はありません：使用できるのは%2、またはuserです</translation>
+    </message>
+    <message>
+        <source>there is no module &quot;%1&quot;</source>
+        <translation>モジュール「%1」はありません</translation>
+    </message>
+    <message>
+        <source>%1  (site)</source>
+        <translation>%1  (サイト)</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>there is no setting &quot;%1&quot;</source>
+        <translation>設定「%1」はありません</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <translation>%1。「%2」のことですか？</translation>
+    </message>
+    <message>
+        <source>there is no option %1</source>
+        <translation>オプション%1はありません</translation>
+    </message>
+    <message>
+        <source>there is no command %1</source>
+        <translation>コマンド%1はありません</translation>
+    </message>
+    <message>
+        <source>there is no fact %1</source>
+        <translation>ホスト情報%1はありません</translation>
+    </message>
+    <message>
+        <source>(default %1)</source>
+        <translation>(既定値 %1)</translation>
+    </message>
+</context>
+<context>
+    <name>olTour</name>
+    <message>
+        <source>the folder %1 cannot be created</source>
+        <translation>フォルダー%1を作成できません</translation>
+    </message>
+    <message>
+        <source>the camera has no page in this edition; nothing to show</source>
+        <translation>このエディションにはカメラのページがありません。表示するものがありません</translation>
+    </message>
+    <message>
+        <source>the change could not be applied</source>
+        <translation>変更を適用できませんでした</translation>
+    </message>
+    <message>
+        <source>Applied: Field of View %1</source>
+        <translation>適用しました：視野角 %1</translation>
+    </message>
+    <message>
+        <source>this display shows no 3D view; there is no picture of it</source>
+        <translation>このディスプレイには3Dビューが表示されず、その画像はありません</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be written</source>
+        <translation>画像%1に書き込めません</translation>
+    </message>
+    <message>
+        <source>Picture: %1</source>
+        <translation>画像：%1</translation>
     </message>
 </context>
 <context>
@@ -2992,6 +3389,82 @@
     <message>
         <source>only one model can be converted at a time</source>
         <translation>一度に変換できるモデルは1つだけです</translation>
+    </message>
+    <message>
+        <source>Views, renders and converts CAD models.</source>
+        <translation>CADモデルを表示、レンダリング、変換します。</translation>
+    </message>
+    <message>
+        <source>essentials, design, professional or enterprise.</source>
+        <translation>essentials、design、professional、enterpriseのいずれかです。</translation>
+    </message>
+    <message>
+        <source>The application&apos;s name.</source>
+        <translation>アプリケーションの名前です。</translation>
+    </message>
+    <message>
+        <source>The file that keeps the preferences.</source>
+        <translation>環境設定を保存するファイルです。</translation>
+    </message>
+    <message>
+        <source>The preferences plug-in to load.</source>
+        <translation>読み込む環境設定のプラグインです。</translation>
+    </message>
+    <message>
+        <source>Open a small assembly that the program builds itself.</source>
+        <translation>プログラムが自分で作る小さなアセンブリを開きます。</translation>
+    </message>
+    <message>
+        <source>Write the model, or the sample, in the format of the suffix, and end.</source>
+        <translation>モデルまたはサンプルを拡張子の形式で書き込み、終了します。</translation>
+    </message>
+    <message>
+        <source>Import a model, write one picture of it to --output, and end.</source>
+        <translation>モデルをインポートし、その画像を1枚--outputに書き込み、終了します。</translation>
+    </message>
+    <message>
+        <source>Where --render puts its picture.</source>
+        <translation>--renderが画像を置く場所です。</translation>
+    </message>
+    <message>
+        <source>With --render: show cameras, lights and the cube as the window does.</source>
+        <translation>--renderとともに：ウィンドウと同じようにカメラ、ライト、キューブを表示します。</translation>
+    </message>
+    <message>
+        <source>With --render: draw the borders of surfaces.</source>
+        <translation>--renderとともに：サーフェスの境界を描きます。</translation>
+    </message>
+    <message>
+        <source>The unit of a model that does not say it: mm, cm, m, in or ft.</source>
+        <translation>単位を示さないモデルの単位です：mm、cm、m、in、ftのいずれか。</translation>
+    </message>
+    <message>
+        <source>What is up in a model that does not say it: y or z.</source>
+        <translation>上の向きを示さないモデルの上の軸です：yまたはz。</translation>
+    </message>
+    <message>
+        <source>How large the picture is, in pixels.</source>
+        <translation>画像の大きさ (ピクセル) です。</translation>
+    </message>
+    <message>
+        <source>A setting for --render and --save, as &quot;KEY=VALUE&quot;; nothing is saved.</source>
+        <translation>--renderと--saveのための設定で、「KEY=VALUE」の形です。何も保存しません。</translation>
+    </message>
+    <message>
+        <source>The model to open.</source>
+        <translation>開くモデルです。</translation>
+    </message>
+    <message>
+        <source>Open the preferences beside the view.</source>
+        <translation>ビューの隣に環境設定を開きます。</translation>
+    </message>
+    <message>
+        <source>Open the preferences at a setting.</source>
+        <translation>設定の場所で環境設定を開きます。</translation>
+    </message>
+    <message>
+        <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
+        <translation>環境設定で変更を1つ適用し、画像をフォルダーに残して終了します。</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>명령행 옵션 도움말을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Qt 지정 옵션을 포함한 도움말을 표시합니다.</translation>
+    </message>
+</context>
+<context>
     <name>QOLColorDialog</name>
     <message>
         <source>Choose Color</source>
@@ -18,10 +29,6 @@
 <context>
     <name>olAbout</name>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
-    </message>
-    <message>
         <source>About ORLO</source>
         <translation>ORLO 정보</translation>
     </message>
@@ -32,6 +39,10 @@
     <message>
         <source>&amp;Notices</source>
         <translation>고지 사항(&amp;N)</translation>
+    </message>
+    <message>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD 3조항&lt;/li&gt;&lt;li&gt;Coin: BSD 3조항&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -884,6 +895,19 @@
     </message>
 </context>
 <context>
+    <name>olListed</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>one name of a list, and the next</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>one sentence, and the next</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>olMainWindow</name>
     <message>
         <source>ORLO</source>
@@ -1590,6 +1614,238 @@
     </message>
 </context>
 <context>
+    <name>olPrefsCommands</name>
+    <message>
+        <source>all modules with their settings, values and defaults</source>
+        <translation>모든 모듈과 그 설정, 값, 기본값</translation>
+    </message>
+    <message>
+        <source>Lists the modules with their settings: key, type, value, and the default where the value is another.
+  --json      one array of modules, for programs
+  --markdown  the catalogue of the documentation: keys, types, defaults, ranges and choices, when a new
+              value counts, and where they are on the pages, with the tooltips there
+</source>
+        <translation>모듈과 그 설정을 나열합니다. 키, 형식, 값, 그리고 값이 기본값과 다르면 기본값도 표시합니다.
+  --json      모듈의 배열 하나, 프로그램용
+  --markdown  문서의 목록: 키, 형식, 기본값, 범위와 선택 항목, 새 값이 언제
+              적용되는지, 페이지에서의 위치와 그곳의 도구 설명
+</translation>
+    </message>
+    <message>
+        <source>prints the value of a setting as JSON</source>
+        <translation>설정의 값을 JSON으로 출력</translation>
+    </message>
+    <message>
+        <source>Prints the value that is in force: the stored one, else the default.
+</source>
+        <translation>적용 중인 값을 출력합니다. 저장된 값이며, 없으면 기본값입니다.
+</translation>
+    </message>
+    <message>
+        <source>stores a value, JSON or plain text</source>
+        <translation>값을 저장, JSON 또는 일반 텍스트</translation>
+    </message>
+    <message>
+        <source>Stores a value. VALUE is JSON of the setting&apos;s type; a text needs no quotes. A value that the control of
+the setting could not hold is refused, and so is any value of a locked setting. The viewer may be running.
+</source>
+        <translation>값을 저장합니다. VALUE는 설정 형식의 JSON이며, 텍스트에는 따옴표가 필요 없습니다. 설정의 컨트롤이 담을 수 없는
+값과 잠긴 설정의 값은 모두 거부됩니다. 뷰어가 실행 중이어도 됩니다.
+</translation>
+    </message>
+    <message>
+        <source>takes a setting back to its default</source>
+        <translation>설정을 기본값으로 재설정</translation>
+    </message>
+    <message>
+        <source>Takes a setting back to its default, which is the site&apos;s where the site gives one.
+  --all       all settings
+</source>
+        <translation>설정을 기본값으로 재설정합니다. 사이트가 기본값을 정한 경우에는 그 값입니다.
+  --all       모든 설정
+</translation>
+    </message>
+    <message>
+        <source>what differs from the defaults</source>
+        <translation>기본값과 다른 설정</translation>
+    </message>
+    <message>
+        <source>Prints a line for each setting that differs from its default: KEY  DEFAULT -&gt; VALUE.
+</source>
+        <translation>기본값과 다른 설정마다 한 줄을 출력합니다. KEY  DEFAULT -&gt; VALUE
+</translation>
+    </message>
+    <message>
+        <source>writes all settings to a file of preferences</source>
+        <translation>모든 설정을 환경 설정 파일에 쓰기</translation>
+    </message>
+    <message>
+        <source>Writes the values in force of all settings, with their types, as JSON to a file, or to the standard output
+with - or without a name. An existing file is replaced.
+</source>
+        <translation>모든 설정의 적용 중인 값을 형식과 함께 JSON으로 파일에 씁니다. - 이거나 이름이 없으면
+표준 출력에 씁니다. 기존 파일은 바뀝니다.
+</translation>
+    </message>
+    <message>
+        <source>stores the settings of such a file</source>
+        <translation>그런 파일의 설정을 저장</translation>
+    </message>
+    <message>
+        <source>Stores the settings of a file that export wrote, read from the standard input with -. Unknown keys, values
+of another type or out of range, and locked settings are named on the standard error stream and skipped.
+  --dry-run   prints what would change, KEY  VALUE -&gt; NEW VALUE, and stores nothing
+</source>
+        <translation>export가 쓴 파일의 설정을 저장합니다. - 이면 표준 입력에서 읽습니다. 알 수 없는 키, 형식이 다르거나 범위를
+벗어난 값, 잠긴 설정은 표준 오류 스트림에 알리고 건너뜁니다.
+  --dry-run   바뀔 내용을 KEY  VALUE -&gt; NEW VALUE 로 출력하고 아무것도 저장하지 않음
+</translation>
+    </message>
+    <message>
+        <source>keeps settings under a name, and takes them from there</source>
+        <translation>설정을 이름으로 보관하고 그곳에서 적용</translation>
+    </message>
+    <message>
+        <source>A profile is a set of settings with a name, in a file of preferences. The site may have some too.
+  list                             the names
+  save NAME [--changed | --module M]
+                                   keeps all settings, those that differ from their defaults, or a module&apos;s
+  apply NAME [--dry-run]           stores its settings as import does; or only prints what would change
+  delete NAME
+</source>
+        <translation>프로필은 이름이 있는 설정의 모음이며 환경 설정 파일에 들어 있습니다. 사이트의 프로필도 있을 수 있습니다.
+  list                             이름 목록
+  save NAME [--changed | --module M]
+                                   모든 설정, 기본값과 다른 설정 또는 한 모듈의 설정을 보관
+  apply NAME [--dry-run]           import처럼 설정을 저장하거나, 바뀔 내용만 출력
+  delete NAME
+</translation>
+    </message>
+    <message>
+        <source>what was changed when, and by which program</source>
+        <translation>언제 어느 프로그램이 무엇을 변경했는지</translation>
+    </message>
+    <message>
+        <source>Lists the last saves, the latest first: how far back it is, when, by which program, and what it changed. Of
+confidential settings nothing is told.
+  KEY         only the changes of that setting
+  --json      one array, for programs
+</source>
+        <translation>최근의 저장을 최신순으로 나열합니다. 몇 번째 전인지, 언제인지, 어느 프로그램인지, 무엇을 변경했는지 표시합니다.
+기밀 설정은 표시하지 않습니다.
+  KEY         그 설정의 변경만
+  --json      배열 하나, 프로그램용
+</translation>
+    </message>
+    <message>
+        <source>takes the last N saves back</source>
+        <translation>최근 N번의 저장을 되돌리기</translation>
+    </message>
+    <message>
+        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
+save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
+standard error stream and left; the exit status is then 1.
+  --dry-run   only prints, and stores nothing
+</source>
+        <translation>최근의 저장 또는 최근 N번의 저장을 되돌리고, 그로 인해 바뀌는 내용을 KEY  VALUE -&gt; NEW VALUE 로 출력합니다. 이것도
+하나의 저장이므로 되돌릴 수 있습니다. 그 뒤에 다시 변경되었거나 잠긴 설정은 표준 오류 스트림에 알리고
+그대로 둡니다. 이때 종료 상태는 1입니다.
+  --dry-run   출력만 하고 아무것도 저장하지 않음
+</translation>
+    </message>
+    <message>
+        <source>looks for damage in the store and faults in the site&apos;s files</source>
+        <translation>저장 파일의 손상과 사이트 파일의 오류를 검사</translation>
+    </message>
+    <message>
+        <source>Prints a line for each thing that is wrong with the store, its copy or the site&apos;s files, also
+for keys that no edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.
+  --site FILE  judges such a file of the site&apos;s before it is installed, and nothing else
+</source>
+        <translation>저장 파일, 그 백업 또는 사이트 파일의 문제마다 한 줄을 출력합니다.
+어느 에디션에도 없는 키도 포함하며, 아무것도 변경하지 않습니다. 문제가 없으면 종료 상태는 0, 있으면 1입니다.
+  --site FILE  설치하기 전에 그런 사이트 파일을 검사하고, 다른 것은 검사하지 않음
+</translation>
+    </message>
+    <message>
+        <source>prints a JSON Schema of the files that name settings</source>
+        <translation>설정을 담는 파일의 JSON Schema를 출력</translation>
+    </message>
+    <message>
+        <source>Prints a JSON Schema of the file that export writes and import reads, and of a site&apos;s
+site.json, for editors to complete and check them by. Settings and ranges are those of the edition.
+</source>
+        <translation>export가 쓰고 import가 읽는 파일과 사이트의 site.json의 JSON Schema를 출력합니다.
+편집기가 자동 완성과 검사에 쓸 수 있습니다. 설정과 범위는 에디션의 것입니다.
+</translation>
+    </message>
+    <message>
+        <source>runs a script from a file or the standard input</source>
+        <translation>파일이나 표준 입력의 스크립트를 실행</translation>
+    </message>
+    <message>
+        <source>Drives the modules operation by operation and prints every host call. A script begins
+with empty preferences, or with those of --store, and never writes any.
+</source>
+        <translation>모듈을 동작 하나씩 구동하고 모든 호스트 호출을 출력합니다. 스크립트는 빈 환경 설정 또는
+--store의 환경 설정으로 시작하며, 아무것도 쓰지 않습니다.
+</translation>
+    </message>
+    <message>
+        <source>Usage: %1
+</source>
+        <translation>사용법: %1
+</translation>
+    </message>
+    <message>
+        <source>Shows and changes ORLO&apos;s preferences, and drives them by script. It needs no display.
+
+Commands; orlo-prefs COMMAND --help tells more of each
+</source>
+        <translation>ORLO의 환경 설정을 표시하고 변경하며 스크립트로 구동합니다. 디스플레이가 필요 없습니다.
+
+명령. 자세한 내용은 orlo-prefs COMMAND --help
+</translation>
+    </message>
+    <message>
+        <source>The exit status is 0, or 2 with a message on the standard error stream; of check 1 when it
+finds something, and of undo when it leaves something.
+</source>
+        <translation>종료 상태는 0이거나, 표준 오류 스트림의 메시지와 함께 2입니다. check는 무언가를 찾았을 때,
+undo는 무언가를 남겼을 때 1입니다.
+</translation>
+    </message>
+</context>
+<context>
+    <name>olPrefsOptions</name>
+    <message>
+        <source>Options, before the command
+  --edition NAME     %1 (default professional)
+  --app-name NAME    the application&apos;s name (default orlo)
+  --store FILE       where the preferences are kept (default the user&apos;s store; a script
+                     begins empty without it, and never writes)
+  --plugin FILE      the preferences plug-in (default beside the program, then the
+                     installed plug-in folder)
+  --language NAME    of the messages: en, zh, ja, ko, or user for the one that is stored
+                     (default en)
+  --yes              agrees to what the page would ask before it takes a value
+  --help, --version
+</source>
+        <translation>옵션, 명령 앞에 씁니다
+  --edition NAME     %1 (기본값 professional)
+  --app-name NAME    응용 프로그램의 이름 (기본값 orlo)
+  --store FILE       환경 설정을 보관하는 파일 (기본값은 사용자의 저장 파일. 스크립트는
+                     이것이 없으면 빈 상태로 시작하고 쓰지 않음)
+  --plugin FILE      환경 설정 플러그인 (기본값은 프로그램 옆의 것, 그다음
+                     설치된 플러그인 폴더의 것)
+  --language NAME    메시지의 언어: en, zh, ja, ko 또는 저장된 언어를 뜻하는 user
+                     (기본값 en)
+  --yes              값을 받기 전에 페이지가 묻는 것에 동의함
+  --help, --version
+</translation>
+    </message>
+</context>
+<context>
     <name>olProfiles</name>
     <message>
         <source>&quot;%1&quot; is no name for a profile: it must not be empty, have a slash in it or begin with a dot.</source>
@@ -2120,6 +2376,85 @@
     </message>
 </context>
 <context>
+    <name>olSettingsCatalogue</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1~%2</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>%1 이상</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>%1 이하</translation>
+    </message>
+    <message>
+        <source>%1, %2 decimals</source>
+        <translation>%1, 소수 %2자리</translation>
+    </message>
+    <message>
+        <source>next import</source>
+        <translation>다음 가져오기</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>다음 시작</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>즉시</translation>
+    </message>
+    <message>
+        <source>or any text</source>
+        <translation>또는 임의의 텍스트</translation>
+    </message>
+    <message>
+        <source>No settings.</source>
+        <translation>설정이 없습니다.</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>키</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>형식</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>range or choices</source>
+        <translation>범위 또는 선택 항목</translation>
+    </message>
+    <message>
+        <source>effect</source>
+        <translation>적용 시점</translation>
+    </message>
+    <message>
+        <source>on the page</source>
+        <translation>페이지의 위치</translation>
+    </message>
+    <message>
+        <source>tooltip</source>
+        <translation>도구 설명</translation>
+    </message>
+    <message>
+        <source># Settings
+
+All settings of all modules, in the order of registration and of writing, with the defaults of the Professional
+edition. Made by `orlo-prefs list --markdown`.
+</source>
+        <translation># 설정
+
+모든 모듈의 모든 설정을 등록과 쓰기의 순서대로 보입니다. 기본값은 Professional 에디션의 것입니다.
+`orlo-prefs list --markdown`로 만들었습니다.
+</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsLock</name>
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
@@ -2357,6 +2692,25 @@
     </message>
 </context>
 <context>
+    <name>olSupport</name>
+    <message>
+        <source>orlo %1, edition %2</source>
+        <translation>orlo %1, 에디션 %2</translation>
+    </message>
+    <message>
+        <source>Changed settings:</source>
+        <translation>변경된 설정:</translation>
+    </message>
+    <message>
+        <source>Changed and left out: %1</source>
+        <translation>변경되었으나 제외됨: %1</translation>
+    </message>
+    <message>
+        <source>End of the log:</source>
+        <translation>로그의 끝:</translation>
+    </message>
+</context>
+<context>
     <name>olTesselationSettings</name>
     <message>
         <source>T&amp;essellation</source>
@@ -2530,10 +2884,6 @@
         <translation>건너뜀: &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>there is no module &quot;%1&quot;%2</source>
-        <translation>모듈 &quot;%1&quot;이(가) 없습니다%2</translation>
-    </message>
-    <message>
         <source>%1 saves cannot be taken back: there are only %2</source>
         <translation>저장 %1건을 되돌릴 수 없습니다. 전체: %2건</translation>
     </message>
@@ -2544,10 +2894,6 @@
     <message>
         <source>Some settings were left as they are.</source>
         <translation>일부 설정은 그대로 두었습니다.</translation>
-    </message>
-    <message>
-        <source>there is no setting &quot;%1&quot;%2</source>
-        <translation>설정 &quot;%1&quot;이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>the button &quot;%1&quot;</source>
@@ -2582,10 +2928,6 @@
         <translation>디렉터리 선택기 &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>; did you mean &quot;%1&quot;?</source>
-        <translation>. 혹시 &quot;%1&quot;입니까?</translation>
-    </message>
-    <message>
         <source>a command is missing: %1; see --help</source>
         <translation>명령이 없습니다: %1. --help를 참조하십시오</translation>
     </message>
@@ -2616,10 +2958,6 @@
     <message>
         <source>there is no edition %1, only %2</source>
         <translation>에디션 %1이(가) 없습니다. 사용 가능: %2</translation>
-    </message>
-    <message>
-        <source>there is no option %1%2</source>
-        <translation>옵션 %1이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>usage: orlo-prefs [OPTIONS] %1</source>
@@ -2690,10 +3028,6 @@
         <translation>줄 %1: %2</translation>
     </message>
     <message>
-        <source>there is no command %1%2</source>
-        <translation>명령 %1이(가) 없습니다%2</translation>
-    </message>
-    <message>
         <source>behind the module only keep may follow</source>
         <translation>모듈 뒤에는 keep만 올 수 있습니다</translation>
     </message>
@@ -2708,10 +3042,6 @@
     <message>
         <source>%1 is no colour</source>
         <translation>%1은(는) 색상이 아닙니다</translation>
-    </message>
-    <message>
-        <source>there is no fact %1%2</source>
-        <translation>fact %1이(가) 없습니다%2</translation>
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
@@ -2756,6 +3086,73 @@
     <message>
         <source>there is no language %1, only %2 or user</source>
         <translation>언어 %1은(는) 없습니다. %2 또는 user만 있습니다</translation>
+    </message>
+    <message>
+        <source>there is no module &quot;%1&quot;</source>
+        <translation>모듈 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>%1  (site)</source>
+        <translation>%1  (사이트)</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>there is no setting &quot;%1&quot;</source>
+        <translation>설정 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <translation>%1. &quot;%2&quot;을(를) 뜻하셨습니까?</translation>
+    </message>
+    <message>
+        <source>there is no option %1</source>
+        <translation>옵션 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>there is no command %1</source>
+        <translation>명령 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>there is no fact %1</source>
+        <translation>호스트 상태 항목 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>(default %1)</source>
+        <translation>(기본값 %1)</translation>
+    </message>
+</context>
+<context>
+    <name>olTour</name>
+    <message>
+        <source>the folder %1 cannot be created</source>
+        <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the camera has no page in this edition; nothing to show</source>
+        <translation>이 에디션에는 카메라 페이지가 없어 보여 줄 것이 없습니다</translation>
+    </message>
+    <message>
+        <source>the change could not be applied</source>
+        <translation>변경을 적용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Applied: Field of View %1</source>
+        <translation>적용됨: 시야각 %1</translation>
+    </message>
+    <message>
+        <source>this display shows no 3D view; there is no picture of it</source>
+        <translation>이 디스플레이에는 3D 뷰가 표시되지 않아 그 그림이 없습니다</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be written</source>
+        <translation>그림 %1을(를) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Picture: %1</source>
+        <translation>그림: %1</translation>
     </message>
 </context>
 <context>
@@ -2992,6 +3389,82 @@
     <message>
         <source>expected --unit mm, cm, m, in or ft, and --up y or z</source>
         <translation>--unit에는 mm, cm, m, in 또는 ft, --up에는 y 또는 z가 필요합니다</translation>
+    </message>
+    <message>
+        <source>Views, renders and converts CAD models.</source>
+        <translation>CAD 모델을 보고 렌더링하고 변환합니다.</translation>
+    </message>
+    <message>
+        <source>essentials, design, professional or enterprise.</source>
+        <translation>essentials, design, professional 또는 enterprise입니다.</translation>
+    </message>
+    <message>
+        <source>The application&apos;s name.</source>
+        <translation>응용 프로그램의 이름입니다.</translation>
+    </message>
+    <message>
+        <source>The file that keeps the preferences.</source>
+        <translation>환경 설정을 보관하는 파일입니다.</translation>
+    </message>
+    <message>
+        <source>The preferences plug-in to load.</source>
+        <translation>불러올 환경 설정 플러그인입니다.</translation>
+    </message>
+    <message>
+        <source>Open a small assembly that the program builds itself.</source>
+        <translation>프로그램이 스스로 만드는 작은 어셈블리를 엽니다.</translation>
+    </message>
+    <message>
+        <source>Write the model, or the sample, in the format of the suffix, and end.</source>
+        <translation>모델 또는 샘플을 확장자의 형식으로 쓰고 끝냅니다.</translation>
+    </message>
+    <message>
+        <source>Import a model, write one picture of it to --output, and end.</source>
+        <translation>모델을 가져와 그 그림 한 장을 --output에 쓰고 끝냅니다.</translation>
+    </message>
+    <message>
+        <source>Where --render puts its picture.</source>
+        <translation>--render가 그림을 두는 곳입니다.</translation>
+    </message>
+    <message>
+        <source>With --render: show cameras, lights and the cube as the window does.</source>
+        <translation>--render와 함께: 창에서처럼 카메라, 조명, 큐브를 표시합니다.</translation>
+    </message>
+    <message>
+        <source>With --render: draw the borders of surfaces.</source>
+        <translation>--render와 함께: 곡면의 경계를 그립니다.</translation>
+    </message>
+    <message>
+        <source>The unit of a model that does not say it: mm, cm, m, in or ft.</source>
+        <translation>단위를 밝히지 않는 모델의 단위입니다: mm, cm, m, in 또는 ft.</translation>
+    </message>
+    <message>
+        <source>What is up in a model that does not say it: y or z.</source>
+        <translation>위쪽을 밝히지 않는 모델의 위쪽 축입니다: y 또는 z.</translation>
+    </message>
+    <message>
+        <source>How large the picture is, in pixels.</source>
+        <translation>그림의 크기(픽셀)입니다.</translation>
+    </message>
+    <message>
+        <source>A setting for --render and --save, as &quot;KEY=VALUE&quot;; nothing is saved.</source>
+        <translation>--render와 --save를 위한 설정이며 &quot;KEY=VALUE&quot; 형태입니다. 아무것도 저장하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The model to open.</source>
+        <translation>열 모델입니다.</translation>
+    </message>
+    <message>
+        <source>Open the preferences beside the view.</source>
+        <translation>뷰 옆에 환경 설정을 엽니다.</translation>
+    </message>
+    <message>
+        <source>Open the preferences at a setting.</source>
+        <translation>설정 위치에서 환경 설정을 엽니다.</translation>
+    </message>
+    <message>
+        <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
+        <translation>환경 설정에서 변경 하나를 적용하고 그림을 폴더에 남기고 끝냅니다.</translation>
     </message>
 </context>
 </TS>

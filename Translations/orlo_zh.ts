@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>显示命令行选项的帮助。</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>显示帮助，包括 Qt 特有的选项。</translation>
+    </message>
+</context>
+<context>
     <name>QOLColorDialog</name>
     <message>
         <source>Choose Color</source>
@@ -18,10 +29,6 @@
 <context>
     <name>olAbout</name>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>它使用以下库，均为动态链接，因此可以替换：&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1（附 Open CASCADE 例外条款）&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：公有领域&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1 或更高版本&lt;/li&gt;&lt;li&gt;libspnav：BSD 三条款&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;/ul&gt;其声明见 &lt;i&gt;third-party.md&lt;/i&gt;，与本程序的文档在一起。</translation>
-    </message>
-    <message>
         <source>About ORLO</source>
         <translation>关于 ORLO</translation>
     </message>
@@ -32,6 +39,10 @@
     <message>
         <source>&amp;Notices</source>
         <translation>声明(&amp;N)</translation>
+    </message>
+    <message>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>它使用以下库，均为动态链接，因此可以替换：&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1（附 Open CASCADE 例外条款）&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：公有领域&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1 或更高版本&lt;/li&gt;&lt;li&gt;libspnav：BSD 三条款&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD 三条款&lt;/li&gt;&lt;li&gt;Coin：BSD 三条款&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;其声明见 &lt;i&gt;third-party.md&lt;/i&gt;，与本程序的文档在一起。</translation>
     </message>
 </context>
 <context>
@@ -884,6 +895,19 @@
     </message>
 </context>
 <context>
+    <name>olListed</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>one name of a list, and the next</comment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>one sentence, and the next</comment>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
     <name>olMainWindow</name>
     <message>
         <source>ORLO</source>
@@ -1590,6 +1614,238 @@
     </message>
 </context>
 <context>
+    <name>olPrefsCommands</name>
+    <message>
+        <source>all modules with their settings, values and defaults</source>
+        <translation>所有模块及其设置、值和默认值</translation>
+    </message>
+    <message>
+        <source>Lists the modules with their settings: key, type, value, and the default where the value is another.
+  --json      one array of modules, for programs
+  --markdown  the catalogue of the documentation: keys, types, defaults, ranges and choices, when a new
+              value counts, and where they are on the pages, with the tooltips there
+</source>
+        <translation>列出各模块及其设置：键、类型、值，值不同于默认值时还有默认值。
+  --json      一个由模块组成的数组，供程序使用
+  --markdown  文档中的目录：键、类型、默认值、范围和选项，新值何时
+              生效，在页面上的位置，以及那里的工具提示
+</translation>
+    </message>
+    <message>
+        <source>prints the value of a setting as JSON</source>
+        <translation>以 JSON 输出一个设置的值</translation>
+    </message>
+    <message>
+        <source>Prints the value that is in force: the stored one, else the default.
+</source>
+        <translation>输出当前生效的值：已存储的值，没有时为默认值。
+</translation>
+    </message>
+    <message>
+        <source>stores a value, JSON or plain text</source>
+        <translation>存储一个值，JSON 或纯文本</translation>
+    </message>
+    <message>
+        <source>Stores a value. VALUE is JSON of the setting&apos;s type; a text needs no quotes. A value that the control of
+the setting could not hold is refused, and so is any value of a locked setting. The viewer may be running.
+</source>
+        <translation>存储一个值。VALUE 是该设置类型的 JSON；文本不需要引号。设置的控件无法容纳的值会被拒绝，
+已锁定设置的任何值也会被拒绝。查看器可以正在运行。
+</translation>
+    </message>
+    <message>
+        <source>takes a setting back to its default</source>
+        <translation>将一个设置重置为默认值</translation>
+    </message>
+    <message>
+        <source>Takes a setting back to its default, which is the site&apos;s where the site gives one.
+  --all       all settings
+</source>
+        <translation>将一个设置重置为默认值；站点给出默认值时，为站点的默认值。
+  --all       所有设置
+</translation>
+    </message>
+    <message>
+        <source>what differs from the defaults</source>
+        <translation>与默认值不同的设置</translation>
+    </message>
+    <message>
+        <source>Prints a line for each setting that differs from its default: KEY  DEFAULT -&gt; VALUE.
+</source>
+        <translation>每个与默认值不同的设置输出一行：KEY  DEFAULT -&gt; VALUE。
+</translation>
+    </message>
+    <message>
+        <source>writes all settings to a file of preferences</source>
+        <translation>将所有设置写入首选项文件</translation>
+    </message>
+    <message>
+        <source>Writes the values in force of all settings, with their types, as JSON to a file, or to the standard output
+with - or without a name. An existing file is replaced.
+</source>
+        <translation>将所有设置当前生效的值及其类型以 JSON 写入文件；给出 - 或不给名称时，
+写到标准输出。已有的文件会被替换。
+</translation>
+    </message>
+    <message>
+        <source>stores the settings of such a file</source>
+        <translation>存储这种文件中的设置</translation>
+    </message>
+    <message>
+        <source>Stores the settings of a file that export wrote, read from the standard input with -. Unknown keys, values
+of another type or out of range, and locked settings are named on the standard error stream and skipped.
+  --dry-run   prints what would change, KEY  VALUE -&gt; NEW VALUE, and stores nothing
+</source>
+        <translation>存储由 export 写出的文件中的设置，- 表示从标准输入读取。未知的键、类型不符或超出范围的值，
+以及已锁定的设置，会在标准错误流中列出并跳过。
+  --dry-run   输出将会更改的内容，KEY  VALUE -&gt; NEW VALUE，不存储任何内容
+</translation>
+    </message>
+    <message>
+        <source>keeps settings under a name, and takes them from there</source>
+        <translation>以一个名称保存设置，并从中取用</translation>
+    </message>
+    <message>
+        <source>A profile is a set of settings with a name, in a file of preferences. The site may have some too.
+  list                             the names
+  save NAME [--changed | --module M]
+                                   keeps all settings, those that differ from their defaults, or a module&apos;s
+  apply NAME [--dry-run]           stores its settings as import does; or only prints what would change
+  delete NAME
+</source>
+        <translation>配置文件是一组有名称的设置，保存在首选项文件中。站点也可以有配置文件。
+  list                             列出名称
+  save NAME [--changed | --module M]
+                                   保存所有设置、与默认值不同的设置，或一个模块的设置
+  apply NAME [--dry-run]           像 import 那样存储其中的设置；或只输出将会更改的内容
+  delete NAME
+</translation>
+    </message>
+    <message>
+        <source>what was changed when, and by which program</source>
+        <translation>何时、由哪个程序更改了什么</translation>
+    </message>
+    <message>
+        <source>Lists the last saves, the latest first: how far back it is, when, by which program, and what it changed. Of
+confidential settings nothing is told.
+  KEY         only the changes of that setting
+  --json      one array, for programs
+</source>
+        <translation>列出最近的保存，最新的在前：是倒数第几次，何时，由哪个程序，更改了什么。
+机密设置的内容不会显示。
+  KEY         只列出该设置的更改
+  --json      一个数组，供程序使用
+</translation>
+    </message>
+    <message>
+        <source>takes the last N saves back</source>
+        <translation>撤回最近 N 次保存</translation>
+    </message>
+    <message>
+        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
+save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
+standard error stream and left; the exit status is then 1.
+  --dry-run   only prints, and stores nothing
+</source>
+        <translation>撤回最近一次或最近 N 次保存，并输出由此产生的更改，KEY  VALUE -&gt; NEW VALUE。撤回本身也是一次保存，
+可以再撤回。此后又被更改或已锁定的设置会在标准错误流中列出并保持不变；
+这时退出状态为 1。
+  --dry-run   只输出，不存储任何内容
+</translation>
+    </message>
+    <message>
+        <source>looks for damage in the store and faults in the site&apos;s files</source>
+        <translation>检查存储文件是否损坏、站点文件是否有错误</translation>
+    </message>
+    <message>
+        <source>Prints a line for each thing that is wrong with the store, its copy or the site&apos;s files, also
+for keys that no edition has, and changes nothing. The exit status is 0 when nothing is wrong, else 1.
+  --site FILE  judges such a file of the site&apos;s before it is installed, and nothing else
+</source>
+        <translation>对存储文件、其备份或站点文件中的每个问题输出一行，
+包括任何版本都没有的键，不更改任何内容。没有问题时退出状态为 0，否则为 1。
+  --site FILE  在安装之前检查这样一个站点文件，不检查其他内容
+</translation>
+    </message>
+    <message>
+        <source>prints a JSON Schema of the files that name settings</source>
+        <translation>输出列有设置的文件的 JSON Schema</translation>
+    </message>
+    <message>
+        <source>Prints a JSON Schema of the file that export writes and import reads, and of a site&apos;s
+site.json, for editors to complete and check them by. Settings and ranges are those of the edition.
+</source>
+        <translation>输出一个 JSON Schema，用于 export 写出、import 读取的文件，以及站点的
+site.json，供编辑器补全和检查。设置和范围是该版本的设置和范围。
+</translation>
+    </message>
+    <message>
+        <source>runs a script from a file or the standard input</source>
+        <translation>运行文件或标准输入中的脚本</translation>
+    </message>
+    <message>
+        <source>Drives the modules operation by operation and prints every host call. A script begins
+with empty preferences, or with those of --store, and never writes any.
+</source>
+        <translation>逐个操作地驱动各模块，并输出每次主机调用。脚本以空的首选项开始，
+或以 --store 的首选项开始，从不写入首选项。
+</translation>
+    </message>
+    <message>
+        <source>Usage: %1
+</source>
+        <translation>用法：%1
+</translation>
+    </message>
+    <message>
+        <source>Shows and changes ORLO&apos;s preferences, and drives them by script. It needs no display.
+
+Commands; orlo-prefs COMMAND --help tells more of each
+</source>
+        <translation>显示和更改 ORLO 的首选项，并可用脚本驱动。不需要显示器。
+
+命令；orlo-prefs COMMAND --help 给出每个命令的更多说明
+</translation>
+    </message>
+    <message>
+        <source>The exit status is 0, or 2 with a message on the standard error stream; of check 1 when it
+finds something, and of undo when it leaves something.
+</source>
+        <translation>退出状态为 0；为 2 时标准错误流中有一条消息；check 发现问题时为 1，
+undo 留下未撤回的设置时也为 1。
+</translation>
+    </message>
+</context>
+<context>
+    <name>olPrefsOptions</name>
+    <message>
+        <source>Options, before the command
+  --edition NAME     %1 (default professional)
+  --app-name NAME    the application&apos;s name (default orlo)
+  --store FILE       where the preferences are kept (default the user&apos;s store; a script
+                     begins empty without it, and never writes)
+  --plugin FILE      the preferences plug-in (default beside the program, then the
+                     installed plug-in folder)
+  --language NAME    of the messages: en, zh, ja, ko, or user for the one that is stored
+                     (default en)
+  --yes              agrees to what the page would ask before it takes a value
+  --help, --version
+</source>
+        <translation>选项，写在命令之前
+  --edition NAME     %1（默认 professional）
+  --app-name NAME    应用程序的名称（默认 orlo）
+  --store FILE       保存首选项的文件（默认为用户的存储文件；脚本
+                     没有此选项时以空的首选项开始，并且从不写入）
+  --plugin FILE      首选项插件（默认为程序旁边的插件，其次为
+                     插件安装文件夹中的插件）
+  --language NAME    消息的语言：en、zh、ja、ko，或 user 表示已存储的语言
+                     （默认 en）
+  --yes              同意页面在接受一个值之前会询问的问题
+  --help, --version
+</translation>
+    </message>
+</context>
+<context>
     <name>olProfiles</name>
     <message>
         <source>&quot;%1&quot; is no name for a profile: it must not be empty, have a slash in it or begin with a dot.</source>
@@ -2120,6 +2376,85 @@
     </message>
 </context>
 <context>
+    <name>olSettingsCatalogue</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 到 %2</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>从 %1 起</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>最大 %1</translation>
+    </message>
+    <message>
+        <source>%1, %2 decimals</source>
+        <translation>%1，%2 位小数</translation>
+    </message>
+    <message>
+        <source>next import</source>
+        <translation>下次导入</translation>
+    </message>
+    <message>
+        <source>next start</source>
+        <translation>下次启动</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>立即</translation>
+    </message>
+    <message>
+        <source>or any text</source>
+        <translation>或任意文本</translation>
+    </message>
+    <message>
+        <source>No settings.</source>
+        <translation>没有设置。</translation>
+    </message>
+    <message>
+        <source>key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>range or choices</source>
+        <translation>范围或选项</translation>
+    </message>
+    <message>
+        <source>effect</source>
+        <translation>何时生效</translation>
+    </message>
+    <message>
+        <source>on the page</source>
+        <translation>在页面上</translation>
+    </message>
+    <message>
+        <source>tooltip</source>
+        <translation>工具提示</translation>
+    </message>
+    <message>
+        <source># Settings
+
+All settings of all modules, in the order of registration and of writing, with the defaults of the Professional
+edition. Made by `orlo-prefs list --markdown`.
+</source>
+        <translation># 设置
+
+所有模块的所有设置，按注册和写入的顺序，默认值为 Professional 版本的默认值。
+由 `orlo-prefs list --markdown` 生成。
+</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsLock</name>
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
@@ -2357,6 +2692,25 @@
     </message>
 </context>
 <context>
+    <name>olSupport</name>
+    <message>
+        <source>orlo %1, edition %2</source>
+        <translation>orlo %1，版本 %2</translation>
+    </message>
+    <message>
+        <source>Changed settings:</source>
+        <translation>已更改的设置：</translation>
+    </message>
+    <message>
+        <source>Changed and left out: %1</source>
+        <translation>已更改但未列出：%1</translation>
+    </message>
+    <message>
+        <source>End of the log:</source>
+        <translation>日志的末尾：</translation>
+    </message>
+</context>
+<context>
     <name>olTesselationSettings</name>
     <message>
         <source>T&amp;essellation</source>
@@ -2530,10 +2884,6 @@
         <translation>已跳过：“%1”%2</translation>
     </message>
     <message>
-        <source>there is no module &quot;%1&quot;%2</source>
-        <translation>没有模块“%1”%2</translation>
-    </message>
-    <message>
         <source>%1 saves cannot be taken back: there are only %2</source>
         <translation>无法撤回 %1 次保存：只有 %2 次</translation>
     </message>
@@ -2544,10 +2894,6 @@
     <message>
         <source>Some settings were left as they are.</source>
         <translation>某些设置保持原样。</translation>
-    </message>
-    <message>
-        <source>there is no setting &quot;%1&quot;%2</source>
-        <translation>没有设置“%1”%2</translation>
     </message>
     <message>
         <source>the button &quot;%1&quot;</source>
@@ -2582,10 +2928,6 @@
         <translation>目录选择对话框“%1”</translation>
     </message>
     <message>
-        <source>; did you mean &quot;%1&quot;?</source>
-        <translation>；是否想用“%1”？</translation>
-    </message>
-    <message>
         <source>a command is missing: %1; see --help</source>
         <translation>缺少命令：%1；请参阅 --help</translation>
     </message>
@@ -2616,10 +2958,6 @@
     <message>
         <source>there is no edition %1, only %2</source>
         <translation>没有版本 %1，只有 %2</translation>
-    </message>
-    <message>
-        <source>there is no option %1%2</source>
-        <translation>没有选项 %1%2</translation>
     </message>
     <message>
         <source>usage: orlo-prefs [OPTIONS] %1</source>
@@ -2690,10 +3028,6 @@
         <translation>第 %1 行：%2</translation>
     </message>
     <message>
-        <source>there is no command %1%2</source>
-        <translation>没有命令 %1%2</translation>
-    </message>
-    <message>
         <source>behind the module only keep may follow</source>
         <translation>模块之后只能跟 keep</translation>
     </message>
@@ -2708,10 +3042,6 @@
     <message>
         <source>%1 is no colour</source>
         <translation>%1 不是颜色</translation>
-    </message>
-    <message>
-        <source>there is no fact %1%2</source>
-        <translation>没有主机状态项 %1%2</translation>
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
@@ -2756,6 +3086,73 @@
     <message>
         <source>there is no language %1, only %2 or user</source>
         <translation>没有语言 %1，只有 %2 或 user</translation>
+    </message>
+    <message>
+        <source>there is no module &quot;%1&quot;</source>
+        <translation>没有模块“%1”</translation>
+    </message>
+    <message>
+        <source>%1  (site)</source>
+        <translation>%1  （站点）</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>there is no setting &quot;%1&quot;</source>
+        <translation>没有设置“%1”</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <translation>%1；是否想用“%2”？</translation>
+    </message>
+    <message>
+        <source>there is no option %1</source>
+        <translation>没有选项 %1</translation>
+    </message>
+    <message>
+        <source>there is no command %1</source>
+        <translation>没有命令 %1</translation>
+    </message>
+    <message>
+        <source>there is no fact %1</source>
+        <translation>没有主机状态项 %1</translation>
+    </message>
+    <message>
+        <source>(default %1)</source>
+        <translation>（默认值 %1）</translation>
+    </message>
+</context>
+<context>
+    <name>olTour</name>
+    <message>
+        <source>the folder %1 cannot be created</source>
+        <translation>无法创建文件夹 %1</translation>
+    </message>
+    <message>
+        <source>the camera has no page in this edition; nothing to show</source>
+        <translation>相机在此版本中没有页面；没有可显示的内容</translation>
+    </message>
+    <message>
+        <source>the change could not be applied</source>
+        <translation>无法应用更改</translation>
+    </message>
+    <message>
+        <source>Applied: Field of View %1</source>
+        <translation>已应用：视野 %1</translation>
+    </message>
+    <message>
+        <source>this display shows no 3D view; there is no picture of it</source>
+        <translation>此显示器不显示 3D 视图；没有它的图片</translation>
+    </message>
+    <message>
+        <source>the picture %1 cannot be written</source>
+        <translation>无法写入图片 %1</translation>
+    </message>
+    <message>
+        <source>Picture: %1</source>
+        <translation>图片：%1</translation>
     </message>
 </context>
 <context>
@@ -2992,6 +3389,82 @@
     <message>
         <source>only one model can be converted at a time</source>
         <translation>一次只能转换一个模型</translation>
+    </message>
+    <message>
+        <source>Views, renders and converts CAD models.</source>
+        <translation>查看、渲染和转换 CAD 模型。</translation>
+    </message>
+    <message>
+        <source>essentials, design, professional or enterprise.</source>
+        <translation>essentials、design、professional 或 enterprise。</translation>
+    </message>
+    <message>
+        <source>The application&apos;s name.</source>
+        <translation>应用程序的名称。</translation>
+    </message>
+    <message>
+        <source>The file that keeps the preferences.</source>
+        <translation>保存首选项的文件。</translation>
+    </message>
+    <message>
+        <source>The preferences plug-in to load.</source>
+        <translation>要加载的首选项插件。</translation>
+    </message>
+    <message>
+        <source>Open a small assembly that the program builds itself.</source>
+        <translation>打开程序自身构建的一个小装配体。</translation>
+    </message>
+    <message>
+        <source>Write the model, or the sample, in the format of the suffix, and end.</source>
+        <translation>以后缀所示的格式写出模型或示例，然后结束。</translation>
+    </message>
+    <message>
+        <source>Import a model, write one picture of it to --output, and end.</source>
+        <translation>导入一个模型，将它的一张图片写到 --output，然后结束。</translation>
+    </message>
+    <message>
+        <source>Where --render puts its picture.</source>
+        <translation>--render 存放图片的位置。</translation>
+    </message>
+    <message>
+        <source>With --render: show cameras, lights and the cube as the window does.</source>
+        <translation>与 --render 一起：像窗口中那样显示相机、光源和立方体。</translation>
+    </message>
+    <message>
+        <source>With --render: draw the borders of surfaces.</source>
+        <translation>与 --render 一起：绘制曲面的边界。</translation>
+    </message>
+    <message>
+        <source>The unit of a model that does not say it: mm, cm, m, in or ft.</source>
+        <translation>未说明单位的模型的单位：mm、cm、m、in 或 ft。</translation>
+    </message>
+    <message>
+        <source>What is up in a model that does not say it: y or z.</source>
+        <translation>未说明朝上方向的模型的朝上轴：y 或 z。</translation>
+    </message>
+    <message>
+        <source>How large the picture is, in pixels.</source>
+        <translation>图片的大小，以像素为单位。</translation>
+    </message>
+    <message>
+        <source>A setting for --render and --save, as &quot;KEY=VALUE&quot;; nothing is saved.</source>
+        <translation>用于 --render 和 --save 的设置，写作“KEY=VALUE”；不保存任何内容。</translation>
+    </message>
+    <message>
+        <source>The model to open.</source>
+        <translation>要打开的模型。</translation>
+    </message>
+    <message>
+        <source>Open the preferences beside the view.</source>
+        <translation>在视图旁边打开首选项。</translation>
+    </message>
+    <message>
+        <source>Open the preferences at a setting.</source>
+        <translation>在某个设置处打开首选项。</translation>
+    </message>
+    <message>
+        <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
+        <translation>在首选项中应用一处更改，将图片留在文件夹中，然后结束。</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,4 @@
 #include "Session/olArguments.h"
-#include "olPrefsCommands.h"
 #include "olPrefsOptions.h"
 #include "olPrefsTool.h"
 #include "olToolError.h"
@@ -53,14 +52,12 @@ QStringList arguments(int count, char **values)
 int run(const QStringList &arguments)
 {
     const olPrefsOptions options = olPrefsOptions::parsed(arguments);
-    if (options.help && options.command.isEmpty())
-        olPrefsTool::print(olPrefsCommands::help());
-    else if (options.help)
-        olPrefsTool::print(olPrefsCommands::help(olPrefsCommands::named(options.command)));
-    else if (options.version)
-        olPrefsTool::print("orlo-prefs " ORLO_VERSION "\n");
-    else
+    if (!options.help && !options.version)
         return olPrefsTool(options).run();
+    if (options.help)
+        olPrefsTool(options).printHelp();
+    else
+        olPrefsTool::print("orlo-prefs " ORLO_VERSION "\n");
     return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "olControlDriver.h"
 
 #include "Session/olNumberText.h"
+#include "State/olListed.h"
 #include "State/olValue.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
@@ -141,7 +142,7 @@ int itemOf(const QComboBox &combo, const Value &value)
         QStringList texts;
         for (int index = 0; index < combo.count(); ++index)
             texts << QString::fromStdString(json(combo.itemText(index)));
-        refuse(value, olToolError::tr("an item by its number or its text: %1").arg(texts.join(QStringLiteral(", "))));
+        refuse(value, olToolError::tr("an item by its number or its text: %1").arg(olListed(texts)));
     }
     return item;
 }

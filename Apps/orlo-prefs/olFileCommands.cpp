@@ -66,7 +66,7 @@ void requireModule(const QString &name, const olKnownSettings &settings)
     for (const olKnownSetting &setting : settings.all())
         modules << setting.entry->name();
     if (!modules.contains(name))
-        throw olToolError(olToolError::tr("there is no module \"%1\"%2").arg(name, olDidYouMean(name, modules)));
+        throw olToolError(olDidYouMean(olToolError::tr("there is no module \"%1\"").arg(name), name, modules));
 }
 
 /// All settings, those that differ from their defaults, or those of one module.
@@ -90,7 +90,8 @@ void listProfiles(olPrefsTool &tool, const olProfiles &profiles)
 {
     std::string lines;
     for (const olProfiles::Profile &profile : profiles.list())
-        lines += profile.name.toStdString() + (profile.isSites ? "  (site)\n" : "\n");
+        lines +=
+            (profile.isSites ? olToolError::tr("%1  (site)").arg(profile.name) : profile.name).toStdString() + '\n';
     tool.print(lines);
 }
 

@@ -19,7 +19,7 @@ using namespace olStoreRows;
 namespace
 {
 
-std::string text(const std::optional<Row> &row) { return row ? row->value : "default"; }
+std::string text(const std::optional<Row> &row) { return row ? row->value : olToolError::tr("default").toStdString(); }
 
 std::string json(const std::optional<Row> &row)
 {

@@ -47,7 +47,7 @@ const olKnownSetting &olKnownSettings::named(const QString &key) const
     QStringList known;
     for (const olKnownSetting &setting : m_settings)
         known << QString::fromStdString(setting.key);
-    throw olToolError(olToolError::tr("there is no setting \"%1\"%2").arg(key, olDidYouMean(key, known)));
+    throw olToolError(olDidYouMean(olToolError::tr("there is no setting \"%1\"").arg(key), key, known));
 }
 
 void olKnownSettings::addOffered(olPreferencesEntry &entry)

@@ -1,6 +1,7 @@
 #include "olModalAnswers.h"
 
 #include "Editing/olPageIndex.h"
+#include "State/olListed.h"
 #include "State/olValue.h"
 #include "Widgets/QOLColorDialog.h"
 #include "olToolError.h"
@@ -154,7 +155,7 @@ void olModalAnswers::answerBox(QMessageBox &box)
         texts << QLatin1Char('"') + text + QLatin1Char('"');
     }
     fail(olToolError::tr("the box \"%1\" has no button \"%2\"; it has %3")
-             .arg(box.windowTitle(), answer.text, texts.join(QStringLiteral(", "))));
+             .arg(box.windowTitle(), answer.text, olListed(texts)));
     escape(box);
 }
 

@@ -29,13 +29,13 @@ int distance(const QString &left, const QString &right)
 
 } // namespace
 
-QString olDidYouMean(const QString &written, const QStringList &names)
+QString olDidYouMean(const QString &fault, const QString &written, const QStringList &names)
 {
     const auto nearest = std::min_element(names.begin(), names.end(), [&](const QString &one, const QString &other) {
         return distance(written, one) < distance(written, other);
     });
     const int farthest = std::max(2, written.size() / 3);
     if (nearest == names.end() || distance(written, *nearest) > farthest)
-        return {};
-    return olToolError::tr("; did you mean \"%1\"?").arg(*nearest);
+        return fault;
+    return olToolError::tr("%1; did you mean \"%2\"?").arg(fault, *nearest);
 }

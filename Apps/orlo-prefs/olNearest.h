@@ -3,6 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-/// For messages about a misspelt name: `; did you mean "NAME"?` with the nearest of the names, or nothing where none
-/// is near.
-[[nodiscard]] QString olDidYouMean(const QString &written, const QStringList &names);
+/// What a message says of a misspelt name, and asks `did you mean "NAME"?` with the nearest of the names where one is
+/// near.
+[[nodiscard]] QString olDidYouMean(const QString &fault, const QString &written, const QStringList &names);

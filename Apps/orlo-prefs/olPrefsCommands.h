@@ -2,16 +2,14 @@
 
 #include <QString>
 
-#include <string>
-
 class olPrefsTool;
 
 /// A command of the tool as the user finds it.
 struct olPrefsCommand {
     const char *name;
     const char *usage;   ///< the command and its arguments
-    const char *summary; ///< for the list of all; further lines are of options
-    const char *details; ///< what its own help says besides
+    const char *summary; ///< for the list of all, to be translated
+    const char *details; ///< what its own help says besides, to be translated
     void (*run)(olPrefsTool &);
 };
 
@@ -23,8 +21,8 @@ namespace olPrefsCommands
 [[nodiscard]] const olPrefsCommand &named(const QString &name);
 
 /// The help of the tool, and that of one command.
-[[nodiscard]] std::string help();
-[[nodiscard]] std::string help(const olPrefsCommand &command);
+[[nodiscard]] QString help();
+[[nodiscard]] QString help(const olPrefsCommand &command);
 
 void list(olPrefsTool &tool);
 void get(olPrefsTool &tool);

@@ -2,6 +2,7 @@
 
 #include "Session/olArguments.h"
 #include "Session/olTranslations.h"
+#include "State/olListed.h"
 #include "olNearest.h"
 #include "olToolError.h"
 
@@ -65,7 +66,7 @@ QString language(const QString &name)
 {
     if (name != QLatin1String(olPrefsOptions::ofUser) && !olTranslations::languages().contains(name))
         throw olToolError(olToolError::tr("there is no language %1, only %2 or user")
-                              .arg(name, olTranslations::languages().join(QStringLiteral(", "))));
+                              .arg(name, olListed(olTranslations::languages())));
     return name;
 }
 
@@ -77,6 +78,8 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
                                    QStringLiteral("--plugin"),  QStringLiteral("--language"), QStringLiteral("--yes"),
                                    QStringLiteral("--help"),    QStringLiteral("--version")};
     olPrefsOptions options;
+    // What is wrong with the options behind it is said in that language.
+    olTranslations translations;
     Reader reader(arguments);
     while (reader.atOption()) {
         const QString option = reader.option();
@@ -88,16 +91,17 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
             options.store = olArguments::file(reader.value(option));
         else if (option == QLatin1String("--plugin"))
             options.plugin = olArguments::file(reader.value(option));
-        else if (option == QLatin1String("--language"))
+        else if (option == QLatin1String("--language")) {
             options.language = ::language(reader.value(option));
-        else if (option == QLatin1String("--yes"))
+            translations.load(options.languageIndex());
+        } else if (option == QLatin1String("--yes"))
             options.isAgreed = true;
         else if (option == QLatin1String("--help") || option == QLatin1String("-h"))
             options.help = true;
         else if (option == QLatin1String("--version"))
             options.version = true;
         else
-            throw olToolError(olToolError::tr("there is no option %1%2").arg(option, olDidYouMean(option, known)));
+            throw olToolError(olDidYouMean(olToolError::tr("there is no option %1").arg(option), option, known));
         reader.requireNoValue(option);
     }
     options.arguments = reader.rest();
@@ -106,19 +110,22 @@ olPrefsOptions olPrefsOptions::parsed(const QStringList &arguments)
     return options;
 }
 
-std::string olPrefsOptions::optionsHelp()
+int olPrefsOptions::languageIndex() const { return qMax(0, olTranslations::languages().indexOf(language)); }
+
+QString olPrefsOptions::optionsHelp()
 {
-    return "Options, before the command\n"
-           "  --edition NAME     " +
-           editionNames().toStdString() +
-           " (default professional)\n"
-           "  --app-name NAME    the application's name (default orlo)\n"
-           "  --store FILE       where the preferences are kept (default the user's store; a script\n"
-           "                     begins empty without it, and never writes)\n"
-           "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
-           "                     installed plug-in folder)\n"
-           "  --language NAME    of the messages: en, zh, ja, ko, or user for the one that is stored\n"
-           "                     (default en)\n"
-           "  --yes              agrees to what the page would ask before it takes a value\n"
-           "  --help, --version\n";
+    return QCoreApplication::translate(
+               "olPrefsOptions",
+               "Options, before the command\n"
+               "  --edition NAME     %1 (default professional)\n"
+               "  --app-name NAME    the application's name (default orlo)\n"
+               "  --store FILE       where the preferences are kept (default the user's store; a script\n"
+               "                     begins empty without it, and never writes)\n"
+               "  --plugin FILE      the preferences plug-in (default beside the program, then the\n"
+               "                     installed plug-in folder)\n"
+               "  --language NAME    of the messages: en, zh, ja, ko, or user for the one that is stored\n"
+               "                     (default en)\n"
+               "  --yes              agrees to what the page would ask before it takes a value\n"
+               "  --help, --version\n")
+        .arg(editionNames());
 }

@@ -5,8 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <string>
-
 /// The command line of the tool taken apart.
 struct olPrefsOptions {
     /// The language that is stored.
@@ -26,6 +24,9 @@ struct olPrefsOptions {
     /// Throws olToolError where an option is not known or its value is none.
     [[nodiscard]] static olPrefsOptions parsed(const QStringList &arguments);
 
+    /// Of the messages where no store has a say in it.
+    [[nodiscard]] int languageIndex() const;
+
     /// The paragraph of the help about the options.
-    [[nodiscard]] static std::string optionsHelp();
+    [[nodiscard]] static QString optionsHelp();
 };

@@ -31,16 +31,30 @@ olPrefsTool::olPrefsTool(const olPrefsOptions &options)
 
 int olPrefsTool::run()
 {
+    m_session.translations().load(m_options.languageIndex());
     m_command = &olPrefsCommands::named(m_options.command);
-    if (isForPeople())
-        m_session.translations().load(qMax(0, olTranslations::languages().indexOf(m_options.language)));
     // Only in the first place: later it may be a value.
     const QString first = m_options.arguments.value(0);
-    if (first == QLatin1String("--help") || first == QLatin1String("-h"))
-        print(olPrefsCommands::help(*m_command));
-    else
-        m_command->run(*this);
+    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+        printHelp();
+        return 0;
+    }
+    if (!isForPeople())
+        m_session.translations().load(0);
+    m_command->run(*this);
     return m_status;
+}
+
+void olPrefsTool::printHelp()
+{
+    m_session.translations().load(m_options.languageIndex());
+    // A store that cannot be read leaves it English.
+    if (isOfUser() && m_session.loadStore(olStoreUse::LookAt).isOk())
+        m_session.translations().load(olHostState::the().displayLanguage);
+    const QString &command = m_options.command;
+    const QString text =
+        command.isEmpty() ? olPrefsCommands::help() : olPrefsCommands::help(olPrefsCommands::named(command));
+    print(text.toStdString());
 }
 
 bool olPrefsTool::isForPeople() const
@@ -63,7 +77,7 @@ void olPrefsTool::failUsage() const
 void olPrefsTool::loadStore(olStoreUse use)
 {
     requireSuccess(m_session.loadStore(use));
-    if (isForPeople() && m_options.language == QLatin1String(olPrefsOptions::ofUser))
+    if (isForPeople() && isOfUser())
         m_session.translations().load(olHostState::the().displayLanguage);
     printNotices();
 }

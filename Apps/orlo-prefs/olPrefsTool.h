@@ -23,6 +23,9 @@ public:
     /// Returns the program's exit status.
     [[nodiscard]] int run();
 
+    /// Of the command, or of the tool where none is given.
+    void printHelp();
+
     /// Of a command that did what it was asked for.
     void setStatus(int status) { m_status = status; }
 
@@ -65,6 +68,9 @@ public:
 private:
     /// Programs and scripts go by the English texts, whatever language is asked for.
     [[nodiscard]] bool isForPeople() const;
+
+    /// They are in the language that is stored.
+    [[nodiscard]] bool isOfUser() const { return m_options.language == QLatin1String(olPrefsOptions::ofUser); }
 
     void printNotices();
 

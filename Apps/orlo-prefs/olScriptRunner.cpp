@@ -5,6 +5,7 @@
 #include "KernelServices/olPreferencesService.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olHostState.h"
+#include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
@@ -72,7 +73,7 @@ QString moduleNames()
     QStringList names;
     for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries())
         names << entry->name();
-    return names.join(QStringLiteral(", "));
+    return olListed(names);
 }
 
 QStringList factNames()
@@ -125,7 +126,7 @@ void olScriptRunner::runLine(const QByteArray &text)
             throw olToolError(error);
         return;
     }
-    throw olToolError(olToolError::tr("there is no command %1%2").arg(name, olDidYouMean(name, names)));
+    throw olToolError(olDidYouMean(olToolError::tr("there is no command %1").arg(name), name, names));
 }
 
 const std::vector<olScriptRunner::Command> &olScriptRunner::commands()
@@ -299,7 +300,7 @@ void olScriptRunner::host(olScriptParser &line)
     const QString name = line.word("FACT").text;
     olHostValueBase *fact = olHostState::the().find(name.toLatin1());
     if (!fact || !fact->isFact())
-        throw olToolError(olToolError::tr("there is no fact %1%2").arg(name, olDidYouMean(name, factNames())));
+        throw olToolError(olDidYouMean(olToolError::tr("there is no fact %1").arg(name), name, factNames()));
     const olScriptValue value = line.value();
     const std::string type = olValue::typeName(fact->any());
     if (!fact->setAny(value.as(type)))

@@ -8,6 +8,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
+#include "olToolError.h"
 
 #include <algorithm>
 #include <cmath>
@@ -148,7 +149,9 @@ std::string row(const olPreferencesEntry &entry, const olOfferedDefault &setting
     std::string text = "  " + padded(setting.key, widths.key) + padded(olValue::typeName(setting.value), widths.type) +
                        olValue::toJson(value);
     if (!olValue::equal(value, setting.value))
-        text += "  (default " + olValue::toJson(setting.value) + ')';
+        text +=
+            "  " +
+            olToolError::tr("(default %1)").arg(QString::fromStdString(olValue::toJson(setting.value))).toStdString();
     return text + '\n';
 }
 

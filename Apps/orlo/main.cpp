@@ -143,6 +143,10 @@ QString uselessOption(const QCommandLineParser &options)
 /// What stands on the command line but makes no sense; empty where all does.
 QString misuse(const QCommandLineParser &options)
 {
+    const QString edition = options.value(QStringLiteral("edition"));
+    if (!olEditionNamed(edition))
+        return Words::tr("there is no edition %1; there are essentials, design, professional and enterprise")
+            .arg(edition);
     const QString useless = uselessOption(options);
     if (!useless.isEmpty())
         return useless;
@@ -228,11 +232,17 @@ QStringList missingLetters(int language)
 /// Whether there is somebody at a window to ask.
 bool canAsk(const QCommandLineParser &options) { return !isBatch(options) && !options.isSet(QStringLiteral("tour")); }
 
+/// The one given, else the user's own.
+QString storeOf(const QCommandLineParser &options)
+{
+    const QString given = fileOf(options, "store");
+    return given.isEmpty() ? olPreferencesStore::userFile() : given;
+}
+
 /// With the store given or chosen, or with one in that folder for this run alone; null where there shall be none.
 std::unique_ptr<olPreferencesSession> loadedSession(const QCommandLineParser &options, const QTemporaryDir &passing)
 {
-    const QString given = fileOf(options, "store");
-    QString file = given.isEmpty() ? olPreferencesStore::userFile() : given;
+    QString file = storeOf(options);
     while (true) {
         auto session = std::make_unique<olPreferencesSession>(file);
         const olResult<> stored = session->loadStore();
@@ -278,14 +288,7 @@ QStringList hostArguments(const QCommandLineParser &options)
 int run(const QCommandLineParser &options, QStringList &again)
 {
     olHostState &host = olHostState::the();
-    const auto edition = olEditionNamed(options.value(QStringLiteral("edition")));
-    if (!edition)
-        return refuse(Words::tr("there is no edition %1; there are essentials, design, professional and enterprise")
-                          .arg(options.value(QStringLiteral("edition"))));
-    const QString wrong = misuse(options);
-    if (!wrong.isEmpty())
-        return refuse(wrong);
-    host.edition = *edition;
+    host.edition = *olEditionNamed(options.value(QStringLiteral("edition")));
     host.applicationName = options.value(QStringLiteral("app-name"));
 
     const olWebServer webServer;
@@ -360,51 +363,64 @@ std::vector<std::string> withOwnPlugin(int count, char **values)
     return arguments;
 }
 
-/// What the command line takes.
+// The toolkit's own Japanese lacks these.
+[[maybe_unused]] constexpr const char *toolkitTexts[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays help on commandline options."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Displays help including Qt specific options.")};
+
+/// What the command line takes, in the language that is spoken.
 void describe(QCommandLineParser &options)
 {
-    options.setApplicationDescription(QStringLiteral("Views, renders and converts CAD models."));
+    options.setApplicationDescription(Words::tr("Views, renders and converts CAD models."));
     options.addHelpOption();
     options.addVersionOption();
-    options.addOption({QStringLiteral("edition"), QStringLiteral("essentials, design, professional or enterprise."),
+    options.addOption({QStringLiteral("edition"), Words::tr("essentials, design, professional or enterprise."),
                        QStringLiteral("name"), QStringLiteral("professional")});
-    options.addOption({QStringLiteral("app-name"), QStringLiteral("The application's name."), QStringLiteral("name"),
+    options.addOption({QStringLiteral("app-name"), Words::tr("The application's name."), QStringLiteral("name"),
                        QStringLiteral("orlo")});
     options.addOption(
-        {QStringLiteral("store"), QStringLiteral("The file that keeps the preferences."), QStringLiteral("file")});
+        {QStringLiteral("store"), Words::tr("The file that keeps the preferences."), QStringLiteral("file")});
     options.addOption(
-        {QStringLiteral("plugin"), QStringLiteral("The preferences plug-in to load."), QStringLiteral("file")});
-    options.addOption(
-        {QStringLiteral("sample"), QStringLiteral("Open a small assembly that the program builds itself.")});
+        {QStringLiteral("plugin"), Words::tr("The preferences plug-in to load."), QStringLiteral("file")});
+    options.addOption({QStringLiteral("sample"), Words::tr("Open a small assembly that the program builds itself.")});
     options.addOption({QStringLiteral("save"),
-                       QStringLiteral("Write the model, or the sample, in the format of the suffix, and end."),
+                       Words::tr("Write the model, or the sample, in the format of the suffix, and end."),
                        QStringLiteral("file")});
     options.addOption({QStringLiteral("render"),
-                       QStringLiteral("Import a model, write one picture of it to --output, and end."),
+                       Words::tr("Import a model, write one picture of it to --output, and end."),
                        QStringLiteral("model")});
     options.addOption(
-        {QStringLiteral("output"), QStringLiteral("Where --render puts its picture."), QStringLiteral("picture")});
-    options.addOption({QStringLiteral("aids"),
-                       QStringLiteral("With --render: show cameras, lights and the cube as the window does.")});
-    options.addOption({QStringLiteral("edges"), QStringLiteral("With --render: draw the borders of surfaces.")});
-    options.addOption({QStringLiteral("unit"),
-                       QStringLiteral("The unit of a model that does not say it: mm, cm, m, in or ft."),
-                       QStringLiteral("unit"), QStringLiteral("mm")});
-    options.addOption({QStringLiteral("up"), QStringLiteral("What is up in a model that does not say it: y or z."),
-                       QStringLiteral("axis"), QStringLiteral("z")});
-    options.addOption({QStringLiteral("size"), QStringLiteral("How large the picture is, in pixels."),
-                       QStringLiteral("WxH"), QStringLiteral("1280x720")});
-    options.addOption({QStringLiteral("set"),
-                       QStringLiteral("A setting for --render and --save, as \"KEY=VALUE\"; nothing is saved."),
-                       QStringLiteral("setting")});
-    options.addPositionalArgument(QStringLiteral("model"), QStringLiteral("The model to open."),
-                                  QStringLiteral("[model]"));
-    options.addOption({QStringLiteral("preferences"), QStringLiteral("Open the preferences beside the view.")});
+        {QStringLiteral("output"), Words::tr("Where --render puts its picture."), QStringLiteral("picture")});
     options.addOption(
-        {QStringLiteral("setting"), QStringLiteral("Open the preferences at a setting."), QStringLiteral("key")});
+        {QStringLiteral("aids"), Words::tr("With --render: show cameras, lights and the cube as the window does.")});
+    options.addOption({QStringLiteral("edges"), Words::tr("With --render: draw the borders of surfaces.")});
+    options.addOption({QStringLiteral("unit"),
+                       Words::tr("The unit of a model that does not say it: mm, cm, m, in or ft."),
+                       QStringLiteral("unit"), QStringLiteral("mm")});
+    options.addOption({QStringLiteral("up"), Words::tr("What is up in a model that does not say it: y or z."),
+                       QStringLiteral("axis"), QStringLiteral("z")});
+    options.addOption({QStringLiteral("size"), Words::tr("How large the picture is, in pixels."), QStringLiteral("WxH"),
+                       QStringLiteral("1280x720")});
+    options.addOption({QStringLiteral("set"),
+                       Words::tr("A setting for --render and --save, as \"KEY=VALUE\"; nothing is saved."),
+                       QStringLiteral("setting")});
+    options.addPositionalArgument(QStringLiteral("model"), Words::tr("The model to open."), QStringLiteral("[model]"));
+    options.addOption({QStringLiteral("preferences"), Words::tr("Open the preferences beside the view.")});
+    options.addOption(
+        {QStringLiteral("setting"), Words::tr("Open the preferences at a setting."), QStringLiteral("key")});
     options.addOption({QStringLiteral("tour"),
-                       QStringLiteral("Apply a change in the preferences, leave pictures in the folder, and end."),
+                       Words::tr("Apply a change in the preferences, leave pictures in the folder, and end."),
                        QStringLiteral("folder")});
+}
+
+/// Has help and refusals in the language that the person chose, whose store is read for nothing else; English where it
+/// cannot be read.
+void speakLanguageOfUser(const QCommandLineParser &options, olTranslations &texts)
+{
+    if (!olPreferencesSession(storeOf(options)).loadStore(olStoreUse::LookAt).isOk())
+        return;
+    texts.load(olHostState::the().displayLanguage);
+    texts.loadOfToolkit();
 }
 
 /// Questions that are answered without a display.
@@ -437,14 +453,25 @@ int main(int argc, char *argv[])
     describe(options);
     if (asksOnly(arguments)) {
         const QCoreApplication application(argumentCount, argumentTexts.data());
-        options.process(application);
+        options.parse(QCoreApplication::arguments());
+        olTranslations texts;
+        speakLanguageOfUser(options, texts);
+        QCommandLineParser answer;
+        describe(answer);
+        answer.process(application);
     }
     QApplication application(argumentCount, argumentTexts.data());
     QApplication::setStyle(new olPageStyle); // owned by the application
     QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
-    if (!options.parse(QApplication::arguments()))
-        return refuse(options.errorText());
+    const auto fault = [&options] {
+        return options.parse(QApplication::arguments()) ? misuse(options) : options.errorText();
+    };
+    if (!fault().isEmpty()) {
+        olTranslations texts;
+        speakLanguageOfUser(options, texts);
+        return refuse(fault());
+    }
     options.process(application);
     QStringList again;
     const int result = run(options, again);

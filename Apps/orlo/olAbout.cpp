@@ -26,7 +26,10 @@ void olShowAbout(QWidget &parent)
                   "<li>SQLite: public domain</li>"
                   "<li>GNU libmicrohttpd: LGPL 2.1 or later</li>"
                   "<li>libspnav: BSD, 3 clauses</li>"
-                  "<li>Boost: Boost Software License 1.0</li></ul>"
+                  "<li>Boost: Boost Software License 1.0</li>"
+                  "<li>assimp: BSD, 3 clauses</li>"
+                  "<li>Coin: BSD, 3 clauses</li>"
+                  "<li>libseccomp: LGPL 2.1</li></ul>"
                   "Their notices are in <i>third-party.md</i>, beside the documents of this program.")
             .arg(QStringLiteral(OCC_VERSION_COMPLETE), QString::fromLatin1(qVersion()));
     const QString what = Words::tr("A desktop application to view, render and review CAD models in 3D.");

@@ -1,6 +1,7 @@
 #include "olImportSummary.h"
 
 #include "Exchange/olModelFormat.h"
+#include "State/olListed.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -32,7 +33,7 @@ QString list(const QVector<QPair<bool, QString>> &items)
         if (isOn)
             texts << text;
     }
-    return texts.isEmpty() ? Words::tr("nothing") : texts.join(QStringLiteral(", "));
+    return texts.isEmpty() ? Words::tr("nothing") : olListed(texts);
 }
 
 } // namespace
@@ -47,7 +48,7 @@ QString olImportSummary(const olImportJob &job)
     const QStringList kinds{kind(Words::tr("surfaces"), options.importSurfaces, options.importInvisibleSurfaces),
                             kind(Words::tr("curves"), options.importCurves, options.importInvisibleCurves),
                             kind(Words::tr("meshes"), options.importMeshes, options.importInvisibleMeshes)};
-    rows += row(Words::tr("Kinds"), kinds.join(QStringLiteral(", ")));
+    rows += row(Words::tr("Kinds"), olListed(kinds));
     // Where there are surfaces, it is asked what is to be tidied up.
     if (!format->holds(olModelFormat::Surfaces))
         rows += row(Words::tr("Tidied up"), list({{options.mergeGeometries, Words::tr("meshes merged")},

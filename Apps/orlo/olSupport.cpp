@@ -4,6 +4,7 @@
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olHostState.h"
+#include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
 #include "Store/olConfidentialSettings.h"
@@ -17,6 +18,10 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olSupport)
+};
 
 constexpr int mostLines = 100;
 constexpr const char *editions[] = {"essentials", "design", "professional", "enterprise"};
@@ -50,16 +55,16 @@ QString olSupportInformation(const olPreferencesSession &session, const olLogTai
             changed[key] = now;
     }
     QStringList lines{
-        QStringLiteral("orlo %1, edition %2")
+        Words::tr("orlo %1, edition %2")
             .arg(QCoreApplication::applicationVersion(),
                  QLatin1String(editions[int(olEdition(olHostState::the().edition))])),
         QStringLiteral("Qt %1, OpenCASCADE %2").arg(QLatin1String(qVersion()), QLatin1String(OCC_VERSION_COMPLETE)),
         QStringLiteral("%1, %2").arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()),
         QString(),
-        QStringLiteral("Changed settings:"),
+        Words::tr("Changed settings:"),
         QString::fromUtf8(olPreferencesFile::toJson(changed)).trimmed()};
     if (!secrets.isEmpty())
-        lines << QStringLiteral("Changed and left out: %1").arg(secrets.join(QStringLiteral(", ")));
-    lines << QString() << QStringLiteral("End of the log:") << log.lines();
+        lines << Words::tr("Changed and left out: %1").arg(olListed(secrets));
+    lines << QString() << Words::tr("End of the log:") << log.lines();
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }

@@ -8,6 +8,7 @@
 #include "Widgets/QOLSlider.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
@@ -19,6 +20,12 @@
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olTour)
+};
+
+void complain(const QString &what) { std::fprintf(stderr, "orlo: %s\n", qPrintable(what)); }
 
 constexpr double changedFieldOfView = 25.0;
 
@@ -48,7 +55,7 @@ int olTour::run(const QString &folder)
     QTextStream out(stdout);
     m_folder = folder;
     if (!QDir().mkpath(folder)) {
-        std::fprintf(stderr, "orlo: the folder %s cannot be created\n", qPrintable(folder));
+        complain(Words::tr("the folder %1 cannot be created").arg(folder));
         return 1;
     }
 
@@ -58,7 +65,7 @@ int olTour::run(const QString &folder)
     const QString setting = QStringLiteral("Camera fov");
     QOLSlider *slider = preferences.openAt(setting) ? sliderFor(preferences, setting) : nullptr;
     if (!slider) {
-        std::fprintf(stderr, "orlo: the camera has no page in this edition; nothing to show\n");
+        complain(Words::tr("the camera has no page in this edition; nothing to show"));
         return 1;
     }
     bool saved = viewPicture(QStringLiteral("view-before.png"));
@@ -69,7 +76,7 @@ int olTour::run(const QString &folder)
 
     const int callsBefore = m_window.journal().calls().size();
     if (!preferences.apply()) {
-        std::fprintf(stderr, "orlo: the change could not be applied\n");
+        complain(Words::tr("the change could not be applied"));
         return 1;
     }
     settle();
@@ -77,7 +84,7 @@ int olTour::run(const QString &folder)
     saved = picture(m_window, QStringLiteral("after.png")) && saved;
     saved = moreOfPreferences(preferences) && saved;
     const QStringList calls = m_window.journal().calls().mid(callsBefore);
-    out << "Applied: Field of View " << changedFieldOfView << '\n';
+    out << Words::tr("Applied: Field of View %1").arg(changedFieldOfView) << '\n';
     for (const QString &call : calls)
         out << "  " << call << '\n';
     return saved && !calls.isEmpty() ? 0 : 1;
@@ -100,7 +107,7 @@ bool olTour::viewPicture(const QString &name) const
 {
     olViewport *viewport = m_window.viewport();
     if (!viewport) {
-        std::fprintf(stderr, "orlo: this display shows no 3D view; there is no picture of it\n");
+        complain(Words::tr("this display shows no 3D view; there is no picture of it"));
         return false;
     }
     return save(viewport->picture(), name);
@@ -112,9 +119,9 @@ bool olTour::save(const QImage &image, const QString &name) const
 {
     const QString file = QDir(m_folder).absoluteFilePath(name);
     if (!image.save(file)) {
-        std::fprintf(stderr, "orlo: the picture %s cannot be written\n", qPrintable(file));
+        complain(Words::tr("the picture %1 cannot be written").arg(file));
         return false;
     }
-    QTextStream(stdout) << "Picture: " << file << '\n';
+    QTextStream(stdout) << Words::tr("Picture: %1").arg(file) << '\n';
     return true;
 }

@@ -1,5 +1,6 @@
 #include "Dialog/olChangesView.h"
 
+#include "State/olListed.h"
 #include "State/olValue.h"
 
 #include <OpenSG/OSGColor.h>
@@ -74,7 +75,7 @@ void showValue(QTreeWidgetItem &item, Column column, const QString &text, const 
     QStringList names;
     for (const QColor &color : colors)
         names << color.name();
-    item.setText(column, colors.empty() ? text : names.join(QStringLiteral(", ")));
+    item.setText(column, colors.empty() ? text : olListed(names));
     if (!colors.empty())
         item.setIcon(column, swatches(colors, *item.treeWidget()));
     item.setToolTip(column, colors.empty() ? text : QString::fromStdString(olValue::toJson(value)));

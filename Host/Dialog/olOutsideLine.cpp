@@ -2,6 +2,7 @@
 
 #include "Dialog/olMessageLine.h"
 #include "Editing/olPendingChanges.h"
+#include "State/olListed.h"
 #include "State/olValue.h"
 
 #include <QHBoxLayout>
@@ -103,7 +104,7 @@ void olOutsideLine::ask()
     }
     const olOutsideChange &conflict = m_conflicts.front();
     const QString mine = m_textOf(conflict.key, m_pending.value(conflict.key));
-    m_message->showNote(told(conflict) + QLatin1Char(' ') + tr("Your change to %1 is pending.").arg(mine));
+    m_message->showNote(olSentences({told(conflict), tr("Your change to %1 is pending.").arg(mine)}));
     m_theirs->setText(tr("&Use %1").arg(m_textOf(conflict.key, conflict.after)));
     m_mine->setText(tr("&Keep %1").arg(mine));
     setVisible(true);

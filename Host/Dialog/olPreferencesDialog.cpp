@@ -20,6 +20,7 @@
 #include "Editing/olValueText.h"
 #include "Session/olRecordedSettings.h"
 #include "Session/olUndo.h"
+#include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 
@@ -490,7 +491,7 @@ void olPreferencesDialog::tellWhatWaits(const std::vector<olPendingChange> &appl
     const bool canRestart =
         !start.isEmpty() && isSignalConnected(QMetaMethod::fromSignal(&olPreferencesDialog::restartAsked));
     if (!sentences.isEmpty())
-        m_message->showNote(sentences.join(QLatin1Char(' ')), canRestart ? tr("Restart Now") : QString());
+        m_message->showNote(olSentences(sentences), canRestart ? tr("Restart Now") : QString());
 }
 
 bool olPreferencesDialog::store()

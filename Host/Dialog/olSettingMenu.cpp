@@ -5,6 +5,7 @@
 #include "Editing/olValueText.h"
 #include "Session/olPreferencesFile.h"
 #include "Session/olPreferencesSession.h"
+#include "State/olListed.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -161,7 +162,7 @@ void olSettingMenu::addResets(QMenu &menu, const olFoundControl &control)
         for (const QString &key : keys)
             m_changes.takeBack(key.toStdString());
     });
-    const QString shown = texts.join(QStringLiteral(", ")).replace(QLatin1Char('&'), QLatin1String("&&"));
+    const QString shown = olListed(texts).replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction *reset = menu.addAction(tr("&Reset to Default: %1").arg(shown));
     reset->setObjectName(QStringLiteral("reset"));
     reset->setEnabled(differs && !isLocked);

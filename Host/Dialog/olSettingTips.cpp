@@ -3,6 +3,7 @@
 #include "Editing/olValueText.h"
 #include "Session/olNumberText.h"
 #include "Session/olPreferencesSession.h"
+#include "State/olListed.h"
 
 #include <QHelpEvent>
 #include <QTextDocument>
@@ -93,8 +94,7 @@ QStringList olSettingTips::facts(const olFoundControl &control) const
     QStringList defaults;
     for (const QString &key : control.keys)
         defaults << olShortValueText(key.toStdString(), m_session.defaultValue(key.toStdString()));
-    QStringList lines{rangeText(setting), tr("Default: %1").arg(defaults.join(QStringLiteral(", "))),
-                      effectText(setting.effect)};
+    QStringList lines{rangeText(setting), tr("Default: %1").arg(olListed(defaults)), effectText(setting.effect)};
     lines.removeAll({});
     return lines;
 }

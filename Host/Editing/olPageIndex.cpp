@@ -1,5 +1,6 @@
 #include "Editing/olPageIndex.h"
 
+#include "State/olListed.h"
 #include "Widgets/QOLCollapsibleFrame.h"
 #include "Widgets/QOLColorManipulator.h"
 #include "Widgets/QOLSlider.h"
@@ -241,7 +242,7 @@ QString listed(const Controls &controls)
         if (!control->names.isEmpty())
             paths << QLatin1Char('"') + control->path() + QLatin1Char('"');
     }
-    return paths.join(QStringLiteral(", "));
+    return olListed(paths);
 }
 
 template <class Condition> Controls chosen(const std::vector<olPageControl> &controls, Condition &&condition)

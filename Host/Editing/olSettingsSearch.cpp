@@ -64,8 +64,9 @@ bool isNearly(const QString &text, const QString &word)
 /// Empty where that is what the person sees.
 QString inEnglish(const QString &text)
 {
-    const QString english = olTranslations::english(text);
-    return english == text ? QString() : olPlainText(english);
+    QStringList all = olTranslations::english(text);
+    std::transform(all.begin(), all.end(), all.begin(), olPlainText);
+    return all.join(border);
 }
 
 olFoundControl indexed(const olPageControl &control)

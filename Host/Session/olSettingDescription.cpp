@@ -2,6 +2,7 @@
 
 #include "Session/olModuleAccess.h"
 #include "Session/olNumberText.h"
+#include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olValue.h"
 
@@ -112,7 +113,7 @@ QString olSettingDescription::expectation() const
         QStringList values;
         for (const olSettingChoice &choice : choices)
             values << json(choice.value);
-        return Words::tr("one of %1").arg(values.join(QStringLiteral(", ")));
+        return Words::tr("one of %1").arg(olListed(values));
     }
     if (maximumLength)
         return Words::tr("at most %1 characters").arg(*maximumLength);

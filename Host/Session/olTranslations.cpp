@@ -1,5 +1,6 @@
 #include "Session/olTranslations.h"
 
+#include "State/olListed.h"
 #include "Utilities/olLog.h"
 
 #include <QCoreApplication>
@@ -22,10 +23,11 @@ struct Words {
 // Of the application: the programs that it starts speak its language.
 constexpr auto filesProperty = "olTranslationFiles";
 
-/// English by translation. Whoever knows a setting by its English name finds it in any language.
-QHash<QString, QString> &sources()
+/// English by translation, which several texts may share. Whoever knows a setting by its English name finds it in any
+/// language.
+QHash<QString, QStringList> &sources()
 {
-    static QHash<QString, QString> texts;
+    static QHash<QString, QStringList> texts;
     return texts;
 }
 
@@ -43,8 +45,12 @@ public:
     QString translate(const char *context, const char *text, const char *comment, int count) const override
     {
         const QString translated = QTranslator::translate(context, text, comment, count);
-        if (!translated.isEmpty())
-            sources().insert(withoutMnemonic(translated), withoutMnemonic(QString::fromUtf8(text)));
+        if (translated.isEmpty())
+            return translated;
+        QStringList &english = sources()[withoutMnemonic(translated)];
+        const QString source = withoutMnemonic(QString::fromUtf8(text));
+        if (!english.contains(source))
+            english << source;
         return translated;
     }
 };
@@ -93,7 +99,7 @@ void olTranslations::loadOfPlugin(const QString &library)
             {QFileInfo(library).dir().filePath(QStringLiteral("translations"))});
 }
 
-QString olTranslations::english(const QString &text) { return sources().value(withoutMnemonic(text), text); }
+QStringList olTranslations::english(const QString &text) { return sources().value(withoutMnemonic(text)); }
 
 void olTranslations::add(const QString &name, const QStringList &folders)
 {
@@ -110,6 +116,6 @@ void olTranslations::add(const QString &name, const QStringList &folders)
         application->setProperty(filesProperty, application->property(filesProperty).toStringList() << file);
         return;
     }
-    olLog::error(Words::tr("There is no usable translation %1.qm in %2: its texts stay English.")
-                     .arg(name, folders.join(QStringLiteral(", "))));
+    olLog::error(
+        Words::tr("There is no usable translation %1.qm in %2: its texts stay English.").arg(name, olListed(folders)));
 }

@@ -33,9 +33,9 @@ public:
     /// Takes the texts of a plug-in, which lie in the folder "translations" beside its library, in the same language.
     void loadOfPlugin(const QString &library);
 
-    /// What a translated text is in English, both without the mark of a mnemonic; the text itself where it was not
+    /// All that a translated text is in English, both without the mark of a mnemonic; empty where it was not
     /// translated.
-    [[nodiscard]] static QString english(const QString &text);
+    [[nodiscard]] static QStringList english(const QString &text);
 
 private:
     void add(const QString &name, const QStringList &folders);

@@ -6,6 +6,7 @@
 #include "Exchange/olPartChanges.h"
 #include "Model/olDocumentCopy.h"
 #include "Model/olLibraryMessages.h"
+#include "State/olListed.h"
 
 #include <Standard_Failure.hxx>
 #include <TDF_LabelSequence.hxx>
@@ -109,7 +110,7 @@ QStringList lossesOf(const olScene::Document &document, const olModelFormat &for
         losses << Words::tr("%1 knows no exact surfaces; their triangles are written.").arg(QLatin1String(format.name));
     if (!names.isEmpty())
         losses << Words::tr("These are not in the file, as %1 does not know them: %2.")
-                      .arg(QLatin1String(format.name), names.join(QStringLiteral(", ")));
+                      .arg(QLatin1String(format.name), olListed(names));
     return losses;
 }
 

@@ -1,5 +1,7 @@
 #include "Exchange/olModelFormat.h"
 
+#include "State/olListed.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -30,7 +32,7 @@ struct Words {
 };
 
 /// Of all formats that can be read, or of those that can be written.
-QString allSuffixes(const QString &before, const QString &between, bool isWritten)
+QStringList allSuffixes(const QString &before, bool isWritten)
 {
     QStringList suffixes;
     for (const olModelFormat &format : olModelFormat::all()) {
@@ -39,7 +41,7 @@ QString allSuffixes(const QString &before, const QString &between, bool isWritte
         for (const QString &suffix : format.suffixes)
             suffixes << before + suffix;
     }
-    return suffixes.join(between);
+    return suffixes;
 }
 
 QString suffixText(const QString &file)
@@ -71,19 +73,19 @@ const olModelFormat *olModelFormat::ofFile(const QString &file)
 QString olModelFormat::noReader(const QString &file)
 {
     return Words::tr("Cannot read %1: there is no reader for %2. These can be read: %3.")
-        .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", "), false));
+        .arg(file, suffixText(file), olListed(allSuffixes({}, false)));
 }
 
 QString olModelFormat::noWriter(const QString &file)
 {
     return Words::tr("Cannot write %1: there is no writer for %2. These can be written: %3.")
-        .arg(file, suffixText(file), allSuffixes({}, QStringLiteral(", "), true));
+        .arg(file, suffixText(file), olListed(allSuffixes({}, true)));
 }
 
 QString olModelFormat::filter(bool isWritten)
 {
     QStringList filters{
-        Words::tr("Models (%1)").arg(allSuffixes(QStringLiteral("*."), QStringLiteral(" "), isWritten))};
+        Words::tr("Models (%1)").arg(allSuffixes(QStringLiteral("*."), isWritten).join(QLatin1Char(' ')))};
     for (const olModelFormat &format : all()) {
         if (!isWritten || format.write)
             filters << QStringLiteral("%1 (*.%2)")

@@ -10,6 +10,7 @@
 #include "Model/olMeshTools.h"
 #include "Model/olPlainLook.h"
 #include "Model/olTriangles.h"
+#include "State/olListed.h"
 
 #include <BRepBndLib.hxx>
 #include <BRepTools_ReShape.hxx>
@@ -111,7 +112,7 @@ public:
             if (isOne)
                 texts << text;
         }
-        return texts.join(QStringLiteral(", "));
+        return olListed(texts);
     }
 
 private:

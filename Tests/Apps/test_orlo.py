@@ -57,10 +57,23 @@ class Batch(tool_test.ToolTest):
 
     def test_questions_are_answered_without_a_display(self):
         del self.environment["DISPLAY"]
-        for question, answer in (("--help", "--render"), ("--version", "orlo ")):
+        for question, answer in (("--help", "Import a model"), ("--version", "orlo ")):
             result = self.tool(question)
             self.assertEqual((result.stderr, result.returncode), ("", 0))
             self.assertIn(answer, result.stdout)
+
+    def test_help_and_refusals_are_in_the_language_that_is_stored(self):
+        self.store_language("2")
+        self.assertIn("モデルをインポートし", self.stored("--help").stdout)
+        for misuse, refusal in ((["--aids"], "--aidsには--renderが必要です"), (["--edition", "no"], "エディションnoはありません")):
+            self.assertIn(f"orlo: {refusal}", self.stored(*misuse).stderr)
+        self.store.write_text("no store")
+        self.assertIn("Import a model", self.stored("--help").stdout)
+
+    def store_language(self, language):
+        preferences = pathlib.Path(self.program).parent / "orlo-prefs"
+        subprocess.run([preferences, "--store", self.store, "set", "MainWindow user language", language],
+                       env=self.environment, timeout=tool_test.SECONDS, check=True)
 
     def test_settings_hold_for_one_run(self):
         model = self.sample_as("step")
@@ -143,13 +156,11 @@ class Batch(tool_test.ToolTest):
                     self.assertIn("orlo: ", result.stderr)
 
     def test_the_tour_goes_through_in_every_language(self):
-        preferences = pathlib.Path(self.program).parent / "orlo-prefs"
         for language in ("0", "2"):
             with self.subTest(language=language):
                 folder = self.folder / f"tour{language}"
                 self.store = self.folder / f"store{language}.db"
-                subprocess.run([preferences, "--store", self.store, "set", "MainWindow user language", language],
-                               env=self.environment, timeout=tool_test.SECONDS, check=True)
+                self.store_language(language)
                 result = self.stored("--sample", "--tour", folder)
                 self.assertEqual(result.returncode, 0, result.stderr)
                 self.assertIn("olOSGWidget::setFov(-1, 25)", result.stdout)

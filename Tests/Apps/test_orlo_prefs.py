@@ -153,6 +153,15 @@ class Bounds(ToolTest):
         self.assertEqual(answered().stderr, english.stderr)
         for command in (["list", "--json"], ["schema"], ["export"]):
             self.assertEqual(answered("--language", "ko", arguments=command).stdout, answered(arguments=command).stdout)
+        for asked in (["--help"], ["import", "--help"], ["list", "--markdown"]):
+            with self.subTest(asked):
+                texts = [answered("--language", language, arguments=asked).stdout for language in ("en", "ja", "user")]
+                self.assertEqual(texts[1], texts[2])
+                self.assertNotEqual(texts[0].split("\n")[-2], texts[1].split("\n")[-2])
+                # What is typed is the same in every language, and stands where it stood.
+                words = [re.findall(r"(?m)^(?:  (?:[a-z]+|--[a-z-]+)|\| `[^`]+`) ", text) for text in texts]
+                self.assertEqual(words[0], words[1])
+        self.assert_refused(answered("--language", "ja", "--nix"), "オプション--nixはありません")
         self.assert_refused(answered("--language", "fr"), "there is no language fr, only en, zh, ja, ko or user")
 
     def test_what_the_control_could_not_hold_is_refused_with_what_it_could(self):

@@ -25,20 +25,36 @@ class Shells(tool_test.ToolTest):
         self.folder_of_programs = pathlib.Path(self.program).parent
         self.environment["PATH"] = f"{self.folder_of_programs}:{os.environ['PATH']}"
 
-    def test_every_option_and_command_is_told_of_everywhere(self):
+    def listed(self, program, *command):
+        return subprocess.run([self.folder_of_programs / program, *command, "--help"], env=self.environment, check=True,
+                              capture_output=True, encoding="utf-8").stdout
+
+    def words_of(self, program):
+        """The options and commands that the program's own help tells of, and the options of each command."""
+        listed = self.listed(program)
+        words = {"".join(found) for found in re.findall(r"(?m)^ .*?(--[a-z-]+)|^  ([a-z]+) ", listed)}
+        words |= set(re.findall(r"--[a-z-]+", listed))
+        words -= {"--help-all", "model"}
+        if program == "orlo-prefs":
+            for command in [word for word in words if not word.startswith("--")]:
+                words |= set(re.findall(r"--[a-z-]+", self.listed(program, command)))
+        return words
+
+    def test_every_option_and_command_is_told_of_everywhere_and_no_other(self):
         for program in ("orlo", "orlo-prefs"):
-            listed = subprocess.run([self.folder_of_programs / program, "--help"], env=self.environment, check=True,
-                                    capture_output=True, encoding="utf-8").stdout
-            words = set(re.findall(r"(?m)^ .*?(--[a-z-]+)|^  ([a-z]+) ", listed))
-            words = {option or command for option, command in words} - {"--help-all", "model"}
-            words |= {"--json", "--markdown", "--all", "--dry-run", "--site", "--changed", "--module"} if program == "orlo-prefs" else set()
-            self.assertIn("--edition", words)
+            words = self.words_of(program)
+            self.assertLessEqual({"--edition", "--help", "--version"}, words)
+            options = {word for word in words if word.startswith("--")}
             for file, dashes in ((SOURCE / f"docs/{program}.1", "--"), (COMPLETIONS / program, "--"),
                                  (COMPLETIONS / f"_{program}", "--"), (COMPLETIONS / f"{program}.fish", "-l ")):
                 text = file.read_text().replace("\\-", "-")
                 for word in words:
                     with self.subTest(file=file.name, word=word):
                         self.assertRegex(text, rf"(?<![\w-]){word.replace('--', dashes)}(?![\w-])")
+                # In fish -l makes a variable local, too.
+                lines = [line for line in text.split("\n") if dashes == "--" or line.startswith("complete ")]
+                told = re.findall(rf"[\s'\"(*]{dashes}([a-z][a-z-]+)", "\n".join(lines))
+                self.assertLessEqual({f"--{name}" for name in told}, options, file.name)
 
     @unittest.skipUnless(shutil.which("groff"), "needs groff")
     def test_manual_pages_are_typeset_without_a_warning(self):

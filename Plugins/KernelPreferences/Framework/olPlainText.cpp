@@ -1,5 +1,7 @@
 #include "Framework/olPlainText.h"
 
+#include <QStringList>
+
 #include <array>
 #include <charconv>
 #include <cmath>

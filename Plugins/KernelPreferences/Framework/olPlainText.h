@@ -4,13 +4,12 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <QStringList>
 
 #include <string>
 #include <vector>
 
 /// How a value reads for a person who sees no control: numbers in the shortest decimals that read back the same, lists
-/// with commas, "none" for nothing.
+/// as the language separates them, "none" for nothing.
 class olPlainText
 {
     Q_DECLARE_TR_FUNCTIONS(olPlainText)
@@ -26,10 +25,11 @@ public:
     [[nodiscard]] static QString of(const osg::Color3f &value);
     template <class Element> [[nodiscard]] static QString of(const std::vector<Element> &list)
     {
-        QStringList texts;
+        QString text;
         for (const Element &element : list)
-            texts << of(element);
-        return of(texts.join(QLatin1String(", ")));
+            text =
+                text.isEmpty() ? of(element) : tr("%1, %2", "one value of a list, and the next").arg(text, of(element));
+        return of(text);
     }
 
     /// A number with its unit behind it; the degree stands at the number itself.

@@ -1318,6 +1318,11 @@
         <source>none</source>
         <translation>なし</translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>one value of a list, and the next</comment>
+        <translation>%1、%2</translation>
+    </message>
 </context>
 <context>
     <name>olPreferences</name>

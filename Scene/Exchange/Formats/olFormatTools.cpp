@@ -1,5 +1,6 @@
 #include "Exchange/Formats/olFormatTools.h"
 
+#include "State/olListed.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -21,7 +22,7 @@ bool olFormatTools::writePlainly(const QString &file, const std::function<bool(c
 QString olFormatTools::listed(const QStringList &names)
 {
     constexpr int most = 4;
-    const QString first = QStringList(names.mid(0, most)).join(QStringLiteral(", "));
+    const QString first = olListed(names.mid(0, most));
     return names.size() > most ? olReason::tr("%1 and %2 more").arg(first).arg(names.size() - most) : first;
 }
 
