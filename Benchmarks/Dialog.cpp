@@ -3,8 +3,12 @@
 #include "Groups.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
+#include "Support/Allocations.h"
 #include "Support/BenchHost.h"
 
+#include <KConfigDialog>
+#include <KConfigSkeleton>
+#include <KSharedConfig>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
@@ -54,26 +58,78 @@ olPreferencesEntry &module(const QString &name)
     return *found;
 }
 
-/// From nothing to the first page painted, in a host that has started but never shown a dialog.
-void openDialog(benchmark::State &state, const QString &name)
+enum class Opening { First, Second };
+
+/// From nothing to the first page painted, in a host that has started but never shown a dialog; or once more. The
+/// memory is that of host, modules and dialog.
+void openDialog(benchmark::State &state, const QString &name, Opening opening)
 {
     std::unique_ptr<BenchHost> host;
     std::unique_ptr<olPreferencesDialog> dialog;
+    std::size_t before = 0;
     const auto open = [&] {
-        dialog = std::make_unique<olPreferencesDialog>(host->session());
+        if (!dialog)
+            dialog = std::make_unique<olPreferencesDialog>(host->session());
         dialog->open(name);
         Painting().of(*module(name).page());
     };
     measure(
         state, open,
         [&] {
+            before = heapInUse();
             QSettings().clear();
             host = std::make_unique<BenchHost>();
             QApplication::processEvents();
+            if (opening == Opening::Second) {
+                open();
+                dialog->close();
+                QApplication::processEvents();
+            }
         },
         [&] {
+            state.counters["memory"] = double(heapInUse() - before);
             dialog.reset();
             host.reset();
+        });
+}
+
+/// The same forms in the dialog that programs of KDE have, with no setting behind any control: it cannot do with less.
+void openKConfigDialog(benchmark::State &state, Opening opening)
+{
+    std::unique_ptr<KConfigDialog> dialog;
+    KConfigSkeleton skeleton(KSharedConfig::openConfig(QString(), KConfig::SimpleConfig));
+    QWidget *shown = nullptr;
+    std::size_t before = 0;
+    const auto open = [&] {
+        if (!dialog) {
+            dialog = std::make_unique<KConfigDialog>(nullptr, QStringLiteral("preferences"), &skeleton);
+            for (auto &form : BareForms::all()) {
+                const bool isShown = form->objectName() == QLatin1String("olRenderOptionsPreferencesGUI");
+                QWidget *page = form.release(); // the dialog's own from here on
+                auto *item = dialog->addPage(page, QStringLiteral("Page"));
+                if (isShown) {
+                    dialog->setCurrentPage(item);
+                    shown = page;
+                }
+            }
+            require(shown, "the form is not among them");
+        }
+        dialog->show();
+        Painting().of(*shown);
+    };
+    measure(
+        state, open,
+        [&] {
+            before = heapInUse();
+            if (opening == Opening::Second) {
+                open();
+                dialog->close();
+                QApplication::processEvents();
+            }
+        },
+        [&] {
+            state.counters["memory"] = double(heapInUse() - before);
+            dialog.reset();
         });
 }
 
@@ -154,10 +210,19 @@ std::shared_ptr<void> registerDialog()
             const BenchHost host;
             return module(qtName).className();
         }();
-        benchmark::RegisterBenchmark((std::string("open/") + name).c_str(), openDialog, qtName)
+        benchmark::RegisterBenchmark((std::string("open/") + name).c_str(), openDialog, qtName, Opening::First)
             ->UseManualTime()
             ->Iterations(repeats);
         benchmark::RegisterBenchmark((std::string("open furnished/") + name).c_str(), openFurnishedDialog, moduleClass)
+            ->UseManualTime()
+            ->Iterations(repeats);
+    }
+    for (const auto &[name, opening] : {std::pair("first", Opening::First), std::pair("second", Opening::Second)}) {
+        benchmark::RegisterBenchmark((std::string("dialog/") + name).c_str(), openDialog,
+                                     QStringLiteral("Render Options"), opening)
+            ->UseManualTime()
+            ->Iterations(repeats);
+        benchmark::RegisterBenchmark((std::string("KConfigDialog/") + name).c_str(), openKConfigDialog, opening)
             ->UseManualTime()
             ->Iterations(repeats);
     }

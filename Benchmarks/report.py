@@ -150,13 +150,19 @@ def dialog(program):
     pages = sorted(name.split("/")[1] for name in figures.runs if name.startswith("open/"))
     rows = [at_most(f"first page of the dialog ({page}) / furnished dialog",
                     figures.ratio(f"open/{page}", f"open furnished/{page}"), 1.3) for page in pages]
+    rows += [at_most(f"{opening} opening of the dialog / KConfigDialog with the same forms",
+                     figures.ratio(f"dialog/{opening}", f"KConfigDialog/{opening}"), 0.5) for opening in ("first", "second")]
+    for name, what in (("dialog", "dialog, host and modules"), ("KConfigDialog", "KConfigDialog with the same forms")):
+        print(f"{what}: {figures.counter(f'{name}/first', 'memory') / 2**20:.1f} MiB, first opening "
+              f"{1000 * figures.seconds(f'{name}/first'):.1f} ms, second {1000 * figures.seconds(f'{name}/second'):.1f} ms")
     return rows + [at_most("search over all pages / one frame", slowest / FRAME, 1)]
 
 
 def save(program):
     figures = Figures([program, "save"], 15)
     return [
-        at_most("save of one changed setting / QSettings", figures.ratio("save", "QSettings save"), 5),
+        at_most("save of one changed setting / QSettings and fsync of file and folder",
+                figures.ratio("save", "QSettings save"), 2),
         at_most("save of nothing: write calls", figures.counter("save nothing", "writes"), 0),
     ]
 
