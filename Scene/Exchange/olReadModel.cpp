@@ -170,7 +170,7 @@ private:
             olPartChanges::repair(part);
         constexpr double meshing = 1;
         constexpr double stitching = 2;
-        Message_ProgressScope scope(progress, "Part", stitching + meshing);
+        Message_ProgressScope scope(progress, nullptr, stitching + meshing);
         if (options.stitching)
             stitch(label, part, scope.Next(stitching));
         if (m_job.verify)
@@ -193,7 +193,7 @@ private:
     {
         // As it is, and what comes of each of a few tolerances: with many more triangles where that is bad.
         constexpr double trials = 4;
-        Message_ProgressScope scope(progress, "Stitching", trials);
+        Message_ProgressScope scope(progress, nullptr, trials);
         olChangedPart stitched = part;
         const double wanted = m_job.options.stitchingTolerance;
         const double used = olPartChanges::stitch(stitched, wanted, [&](const TopoDS_Shape &shape) {
