@@ -754,6 +754,30 @@
         <source>Without this they hold for this import alone.</source>
         <translation>オフの場合、これらは今回のインポートでのみ有効です。</translation>
     </message>
+    <message>
+        <source>Import none</source>
+        <translation>インポートしない</translation>
+    </message>
+    <message>
+        <source>Import visible</source>
+        <translation>表示中のみインポート</translation>
+    </message>
+    <message>
+        <source>Import all</source>
+        <translation>すべてインポート</translation>
+    </message>
+    <message>
+        <source>Sur&amp;faces</source>
+        <translation>サーフェス(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves and Polygon &amp;Lines</source>
+        <translation>曲線とポリライン(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Mes&amp;hes</source>
+        <translation>メッシュ(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>
@@ -1498,6 +1522,14 @@
     <message>
         <source>%1 is locked: %2 The lock stands in %3.</source>
         <translation>「%1」は%3でロックされています：%2</translation>
+    </message>
+    <message>
+        <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
+        <translation>ビューに関する変更をその場で表示します。「OK」または「適用」を押すまで何も保存されず、「キャンセル」を押すとビューは元に戻ります。</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
     </message>
 </context>
 <context>

@@ -754,6 +754,30 @@
         <source>Without this they hold for this import alone.</source>
         <translation>선택하지 않으면 이번 가져오기에만 적용됩니다.</translation>
     </message>
+    <message>
+        <source>Import none</source>
+        <translation>가져오지 않음</translation>
+    </message>
+    <message>
+        <source>Import visible</source>
+        <translation>보이는 것만 가져오기</translation>
+    </message>
+    <message>
+        <source>Import all</source>
+        <translation>모두 가져오기</translation>
+    </message>
+    <message>
+        <source>Sur&amp;faces</source>
+        <translation>곡면(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves and Polygon &amp;Lines</source>
+        <translation>곡선 및 폴리라인(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Mes&amp;hes</source>
+        <translation>메시(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>
@@ -1498,6 +1522,14 @@
     <message>
         <source>%1 is locked: %2 The lock stands in %3.</source>
         <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
+    </message>
+    <message>
+        <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
+        <translation>뷰에 관한 변경을 즉시 보여 줍니다. 확인 또는 적용을 누르기 전에는 아무것도 저장되지 않으며, 취소하면 뷰가 원래대로 돌아갑니다.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
     </message>
 </context>
 <context>

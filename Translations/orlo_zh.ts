@@ -754,6 +754,30 @@
         <source>Without this they hold for this import alone.</source>
         <translation>不选中时，这些选项仅对本次导入有效。</translation>
     </message>
+    <message>
+        <source>Import none</source>
+        <translation>不导入</translation>
+    </message>
+    <message>
+        <source>Import visible</source>
+        <translation>导入可见项</translation>
+    </message>
+    <message>
+        <source>Import all</source>
+        <translation>导入全部</translation>
+    </message>
+    <message>
+        <source>Sur&amp;faces</source>
+        <translation>曲面(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Curves and Polygon &amp;Lines</source>
+        <translation>曲线和多段线(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Mes&amp;hes</source>
+        <translation>网格(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>olImportSummary</name>
@@ -1498,6 +1522,14 @@
     <message>
         <source>%1 is locked: %2 The lock stands in %3.</source>
         <translation>%1 已锁定：%2 该锁定位于 %3 中。</translation>
+    </message>
+    <message>
+        <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
+        <translation>更改视图设置时立即显示效果。单击“确定”或“应用”之前不会保存任何内容，“取消”会使视图恢复原状。</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
 </context>
 <context>

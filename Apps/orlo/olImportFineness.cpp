@@ -6,10 +6,26 @@
 #include "Exchange/olModelFormat.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+
+namespace
+{
+
+/// What of a kind is imported: the items of its box.
+enum Wanted { none, visible, all };
+
+Wanted wantedOf(bool isWanted, bool isInvisibleWanted)
+{
+    if (!isWanted)
+        return none;
+    return isInvisibleWanted ? all : visible;
+}
+
+} // namespace
 
 olImportFineness::olImportFineness(const olImportJob &job, const LockReason &lockReason, QWidget *parent)
     : QWidget(parent),
@@ -24,6 +40,19 @@ olImportFineness::olImportFineness(const olImportJob &job, const LockReason &loc
         const QString reason = lockReason(key);
         box.setEnabled(reason.isEmpty());
         box.setToolTip(reason);
+    };
+    const auto addKind = [&](const QString &name, bool olImportRecord::*option, bool olImportRecord::*invisible,
+                             const char *kind) {
+        auto *box = new QComboBox;
+        box->addItems({tr("Import none"), tr("Import visible"), tr("Import all")});
+        box->setCurrentIndex(wantedOf(m_before.*option, m_before.*invisible));
+        box->setObjectName(QLatin1String(kind));
+        form->addRow(name, box);
+        const std::string import = m_prefix + "import ";
+        m_kinds.push_back({option, invisible, import + kind, import + "invisible " + kind, box});
+        guard(*box, m_kinds.back().key);
+        if (box->isEnabled())
+            guard(*box, m_kinds.back().invisibleKey);
     };
     const auto addNumber = [&](const QString &name, double olImportRecord::*option, const char *key, double lowest,
                                double highest, const QString &unit) {
@@ -53,6 +82,10 @@ olImportFineness::olImportFineness(const olImportJob &job, const LockReason &loc
         m_flags.push_back({option, m_prefix + key, box});
         guard(*box, m_prefix + key);
     };
+    addKind(tr("Sur&faces"), &olImportRecord::importSurfaces, &olImportRecord::importInvisibleSurfaces, "surfaces");
+    addKind(tr("Curves and Polygon &Lines"), &olImportRecord::importCurves, &olImportRecord::importInvisibleCurves,
+            "curves");
+    addKind(tr("Mes&hes"), &olImportRecord::importMeshes, &olImportRecord::importInvisibleMeshes, "meshes");
     addNumber(tr("&Chord Deviation"), &olImportRecord::chordDeviation, "chord deviation", 0.0001, 1000.0,
               QStringLiteral(" mm"));
     addNumber(tr("&Normal Tolerance"), &olImportRecord::normalTolerance, "normal tolerance", 0.1, 90.0,
@@ -81,6 +114,15 @@ void olImportFineness::judge() const
 
 void olImportFineness::changeIn(olImportRecord &options) const
 {
+    for (const Kind &kind : m_kinds) {
+        const int wanted = kind.box->currentIndex();
+        if (wanted == wantedOf(m_before.*kind.option, m_before.*kind.invisible))
+            continue;
+        options.*kind.option = wanted != none;
+        // Of what is not imported it does not count whether the invisible is.
+        if (wanted != none)
+            options.*kind.invisible = wanted == all;
+    }
     // A field shows four decimals of what may have more.
     for (const Number &number : m_numbers) {
         if (qAbs(number.box->value() - m_before.*number.option) > 0.00005)
@@ -99,6 +141,12 @@ olImportFineness::Values olImportFineness::kept() const
         return values;
     olImportRecord now = m_before;
     changeIn(now);
+    for (const Kind &kind : m_kinds) {
+        if (now.*kind.option != m_before.*kind.option)
+            values[kind.key] = now.*kind.option;
+        if (now.*kind.invisible != m_before.*kind.invisible)
+            values[kind.invisibleKey] = now.*kind.invisible;
+    }
     for (const Number &number : m_numbers) {
         if (now.*number.option != m_before.*number.option)
             values[number.key] = now.*number.option;

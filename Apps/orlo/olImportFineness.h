@@ -11,11 +11,12 @@
 #include <vector>
 
 class QCheckBox;
+class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
 struct olImportJob;
 
-/// How fine surfaces are read and what is tidied up on the way, for one import or for good.
+/// What of a model with surfaces is read, how fine, and what is tidied up on the way, for one import or for good.
 class olImportFineness : public QWidget
 {
     Q_OBJECT
@@ -42,6 +43,13 @@ private:
         QDoubleSpinBox *box;
         QLabel *judgement;
     };
+    struct Kind {
+        bool olImportRecord::*option;
+        bool olImportRecord::*invisible;
+        std::string key;
+        std::string invisibleKey;
+        QComboBox *box;
+    };
     struct Flag {
         bool olImportRecord::*option;
         std::string key;
@@ -53,6 +61,7 @@ private:
     olImportRecord m_before;
     std::string m_prefix;
     double m_extent = 0.0; ///< 0 where it is not known
+    std::vector<Kind> m_kinds;
     std::vector<Number> m_numbers;
     std::vector<Flag> m_flags;
     QCheckBox *m_keep;

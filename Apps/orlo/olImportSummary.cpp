@@ -48,12 +48,13 @@ QString olImportSummary(const olImportJob &job)
     const QStringList kinds{kind(Words::tr("surfaces"), options.importSurfaces, options.importInvisibleSurfaces),
                             kind(Words::tr("curves"), options.importCurves, options.importInvisibleCurves),
                             kind(Words::tr("meshes"), options.importMeshes, options.importInvisibleMeshes)};
-    rows += row(Words::tr("Kinds"), olListed(kinds));
-    // Where there are surfaces, it is asked what is to be tidied up.
-    if (!format->holds(olModelFormat::Surfaces))
+    // Where there are surfaces, it is asked which kinds are to be read and what is to be tidied up.
+    if (!format->holds(olModelFormat::Surfaces)) {
+        rows += row(Words::tr("Kinds"), olListed(kinds));
         rows += row(Words::tr("Tidied up"), list({{options.mergeGeometries, Words::tr("meshes merged")},
                                                   {options.removeEmptyGroups, Words::tr("empty groups removed")},
                                                   {options.unifySurfaceNormals, Words::tr("normals unified")}}));
+    }
     rows += row(Words::tr("Checks"),
                 list({{job.verify, Words::tr("geometry verified")}, {job.optimize, Words::tr("faults repaired")}}));
     rows += row(Words::tr("Textures"),

@@ -203,6 +203,7 @@ olPreferencesDialog &olMainWindow::openPreferences(const QString &module)
 {
     if (!m_preferences) {
         m_preferences = std::make_unique<olPreferencesDialog>(m_session, this);
+        m_preferences->offerPreview();
         connect(m_preferences.get(), &olPreferencesDialog::restartAsked, this, &olMainWindow::restart);
         if (m_dockPreferences->isChecked())
             dockPreferences(true);

@@ -22,17 +22,37 @@ QFont captionFont(const QWidget *widget)
     return bold;
 }
 
+QColor borderOf(const QPalette &palette)
+{
+    return olBlended(palette.color(QPalette::Window), palette.color(QPalette::WindowText), borderShare);
+}
+
+/// The desktop's own borders are darker than what they stand on, which nothing is on black.
+void drawBorder(const QStyleOption &option, QPainter &painter)
+{
+    constexpr int nearlyBlack = 16;
+    if (option.palette.color(QPalette::Window).lightness() > nearlyBlack)
+        return;
+    painter.save();
+    painter.setPen(borderOf(option.palette));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
 } // namespace
 
 void olPageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                 const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_Frame ||
+        element == PE_FrameTabWidget)
+        drawBorder(*option, *painter);
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
         return;
     painter->save();
-    painter->setPen(
-        olBlended(option->palette.color(QPalette::Window), option->palette.color(QPalette::WindowText), borderShare));
+    painter->setPen(borderOf(option->palette));
     painter->setBrush(Qt::NoBrush);
     painter->setRenderHint(QPainter::Antialiasing);
     const QRectF border = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
@@ -65,6 +85,8 @@ void olPageStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     const auto *box = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
     if (control != CC_GroupBox || !box) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_ComboBox || control == CC_SpinBox)
+            drawBorder(*option, *painter);
         return;
     }
     painter->save();

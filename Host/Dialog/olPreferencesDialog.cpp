@@ -97,6 +97,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
           session, *m_pending, [this](const std::string &key) { return placeOf(key); },
           [](const std::string &key, const boost::any &value) { return olShortValueText(key, value); })),
       m_changes(new QPushButton),
+      m_preview(new QCheckBox(tr("Preview"))),
       m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel))
 {
     setWindowTitle(tr("Preferences"));
@@ -123,6 +124,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
 olPreferencesDialog::~olPreferencesDialog()
 {
     remember();
+    m_preview->setChecked(false);
     m_tree->disconnect(this);
     const QList<QWidget *> pages = m_frames.keys();
     for (QWidget *page : pages)
@@ -214,15 +216,21 @@ QWidget *olPreferencesDialog::buildBottom()
     m_changes->setObjectName(QStringLiteral("changes"));
     m_changes->setAutoDefault(false);
     m_changes->setToolTip(tr("Lists what OK and Apply will change."));
+    m_preview->setObjectName(QStringLiteral("preview"));
+    m_preview->setToolTip(tr("Shows changes of the view as they are made. Nothing is stored before OK or Apply, and "
+                             "Cancel shows the view as it was."));
+    m_preview->setVisible(false);
+    // A click on it or on Apply leaves the focus where one works.
+    m_preview->setFocusPolicy(Qt::TabFocus);
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("&OK"));
     m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("&Cancel"));
     m_buttons->button(QDialogButtonBox::Apply)->setText(tr("&Apply"));
-    // A click on it leaves the focus where one works.
     m_buttons->button(QDialogButtonBox::Apply)->setFocusPolicy(Qt::TabFocus);
     auto *bottom = new QWidget;
     auto *layout = new QHBoxLayout(bottom);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_changes);
+    layout->addWidget(m_preview);
     layout->addStretch(1);
     layout->addWidget(m_buttons);
     return bottom;
@@ -240,6 +248,7 @@ void olPreferencesDialog::connectParts()
     connect(m_foundList, &olFoundSettings::menuAsked, this, &olPreferencesDialog::openMenuOfFound);
     connect(m_restorePage, &QPushButton::clicked, this, &olPreferencesDialog::restorePage);
     connect(m_changes, &QPushButton::clicked, this, &olPreferencesDialog::showChanges);
+    connect(m_preview, &QCheckBox::toggled, m_pending.get(), &olPendingChanges::preview);
     connect(m_message, &olMessageLine::actionAsked, this, &olPreferencesDialog::restartAsked);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &olPreferencesDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &olPreferencesDialog::reject);
@@ -352,17 +361,24 @@ int olPreferencesDialog::panelWidth() const
     return std::max(usual, (frame ? frame->pageWidth() : 0) + around.left() + around.right());
 }
 
-/// Where it is narrow, beside a model say, the modules stand above their pages.
+/// Where it is narrow, beside a model say, the modules stand above their pages; before that they give up what they need
+/// not have.
 void olPreferencesDialog::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    constexpr int narrow = 85; // characters
+    constexpr int page = 68; // characters of the widest one
+    constexpr int both = 98;
     const int character = fontMetrics().averageCharWidth();
-    const auto wanted = width() < character * narrow ? Qt::Vertical : Qt::Horizontal;
-    if (m_splitter->orientation() == wanted)
-        return;
-    m_splitter->setOrientation(wanted);
-    m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{1, 3} : treeAndPage(*m_tree));
+    const auto wanted = width() < character * both ? Qt::Vertical : Qt::Horizontal;
+    if (m_splitter->orientation() != wanted) {
+        m_splitter->setOrientation(wanted);
+        m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{1, 3} : treeAndPage(*m_tree));
+    }
+    const QList<int> sizes = m_splitter->sizes();
+    const int missing = character * page - sizes.last();
+    const int names = std::max(m_tree->sizeHint().width(), sizes.first() - missing);
+    if (wanted == Qt::Horizontal && missing > 0 && names < sizes.first())
+        m_splitter->setSizes({names, sizes.first() + sizes.last() - names});
 }
 
 void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
@@ -406,6 +422,7 @@ void olPreferencesDialog::accept()
     // What the host has to say about the saving is read first; a second OK finds nothing more to do.
     if (!store() || tellNotices())
         return;
+    m_preview->setChecked(false);
     m_pending->drop();
     QDialog::accept();
 }
@@ -414,6 +431,7 @@ void olPreferencesDialog::reject()
 {
     if (isVisible() && !mayLeave())
         return;
+    m_preview->setChecked(false);
     // The next opening fills the pages again, over whatever was edited.
     m_pending->drop();
     QDialog::reject();
@@ -631,9 +649,9 @@ std::vector<QWidget *> olPreferencesDialog::tabStops() const
         const auto buttons = line->findChildren<QAbstractButton *>();
         stops.insert(stops.end(), buttons.begin(), buttons.end());
     }
-    for (QWidget *button : std::initializer_list<QWidget *>{m_changes, m_buttons->button(QDialogButtonBox::Ok),
-                                                            m_buttons->button(QDialogButtonBox::Cancel),
-                                                            m_buttons->button(QDialogButtonBox::Apply)})
+    for (QWidget *button : std::initializer_list<QWidget *>{
+             m_changes, m_preview, m_buttons->button(QDialogButtonBox::Ok), m_buttons->button(QDialogButtonBox::Cancel),
+             m_buttons->button(QDialogButtonBox::Apply)})
         stops.push_back(button);
     const auto takesNoTab = [this](const QWidget *widget) {
         return !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() || !widget->isVisible() ||
@@ -856,6 +874,7 @@ void olPreferencesDialog::refresh()
     m_changes->setText(changesText(count));
     m_changes->setVisible(count > 0);
     apply->setEnabled(count > 0);
+    m_pending->preview(m_preview->isChecked());
     std::set<const olPreferencesEntry *> pending;
     for (const olPendingChange &change : changes)
         pending.insert(change.entry);
@@ -964,6 +983,8 @@ void olPreferencesDialog::chooseImport()
     if (!file.isEmpty())
         importFrom(file);
 }
+
+void olPreferencesDialog::offerPreview() { m_preview->setVisible(true); }
 
 void olPreferencesDialog::importFrom(const QString &file)
 {

@@ -59,6 +59,9 @@ public:
     /// The same at the control of a setting. False, with nothing opened, where no page has one.
     [[nodiscard]] bool openAt(const QString &key);
 
+    /// Offers to preview edits in the view: for a host that has one.
+    void offerPreview();
+
     /// How wide it must be for the page shown to need no scrolling sideways, where the modules stand above the page; in
     /// pixels. The same for every page that is narrow.
     [[nodiscard]] int panelWidth() const;
@@ -174,6 +177,7 @@ private:
     olMessageLine *m_message;
     olOutsideLine *m_outside;
     QPushButton *m_changes;
+    QCheckBox *m_preview;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;
     QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;

@@ -187,15 +187,23 @@ void olSettingMarks::paintRemark(QPainter &painter, const Remark &remark) const
             layoutDirection(), place,
             {place.topLeft(), QSize(std::min(place.width(), widget->sizeHint().width()), place.height())});
     const QWidget *around = widget->parentWidget();
-    // A unit may stand there.
+    QRect room(around->mapTo(parentWidget(), QPoint()), around->size());
+    // A unit may stand there, or the next column.
     for (const QObject *child : around->children()) {
-        const auto *label = qobject_cast<const QLabel *>(child);
-        const QRect beside = label ? QRect(label->mapTo(parentWidget(), QPoint()), label->size()) : QRect();
+        const auto *neighbour = qobject_cast<const QWidget *>(child);
+        if (!neighbour || !neighbour->isVisible())
+            continue;
+        const QRect beside(neighbour->mapTo(parentWidget(), QPoint()), neighbour->size());
         const bool isBehind = isRightToLeft() ? beside.right() < place.left() : beside.left() > place.right();
-        if (label && label->isVisible() && isBehind && beside.top() < place.bottom() && beside.bottom() > place.top())
+        if (!isBehind || beside.top() >= place.bottom() || beside.bottom() <= place.top())
+            continue;
+        if (qobject_cast<const QLabel *>(neighbour))
             place |= beside;
+        else if (isRightToLeft())
+            room.setLeft(std::max(room.left(), beside.right() + marginWidth));
+        else
+            room.setRight(std::min(room.right(), beside.left() - marginWidth));
     }
-    const QRect room(around->mapTo(parentWidget(), QPoint()), around->size());
     constexpr int gap = 10;
     const int free = isRightToLeft() ? place.left() - room.left() : room.right() - place.right();
     const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);

@@ -6,6 +6,8 @@
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
 
+#include <QLineEdit>
+
 #include <algorithm>
 #include <iterator>
 
@@ -206,6 +208,17 @@ void olPendingChanges::put(const olSettingValues &values)
     for (const auto &[owner, own] : byOwner)
         putOwn(*owner, own);
     emit edited();
+}
+
+void olPendingChanges::preview(bool isOn)
+{
+    olSettingValues shown;
+    for (const olPendingChange &change : isOn ? list() : std::vector<olPendingChange>()) {
+        const auto *field = qobject_cast<QLineEdit *>(change.control.data());
+        if (!change.key.empty() && (!field || field->hasAcceptableInput()))
+            shown[change.key] = change.after;
+    }
+    m_session.preview(shown);
 }
 
 bool olPendingChanges::isAgreed(const std::string &key, const boost::any &value) const

@@ -70,6 +70,9 @@ public:
     /// The values in force of all settings, pending edits left out.
     [[nodiscard]] olSettingValues inForce() const;
 
+    /// Shows in the view what of the edits can be previewed and is typed to the end, or all that is in force.
+    void preview(bool isOn);
+
     /// Who asks the question that goes with a value; without one, or without consent, the value is passed over.
     void askWith(std::function<bool(const olSettingWarning &)> ask) { m_ask = std::move(ask); }
 

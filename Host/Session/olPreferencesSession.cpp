@@ -4,6 +4,7 @@
 #include "KernelServices/olPreferencesService.h"
 #include "Session/olModuleAccess.h"
 #include "Session/olSettingsLock.h"
+#include "Session/olValueOverlay.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
@@ -287,8 +288,10 @@ void olPreferencesSession::start()
 
 void olPreferencesSession::newScene()
 {
-    for (olPreferencesEntry *entry : entries())
+    for (olPreferencesEntry *entry : entries()) {
+        const olValueOverlay shown(*entry, previewedOf(*entry));
         entry->preferencesNewScene();
+    }
 }
 
 bool olPreferencesSession::isLocked(const std::string &key) const { return lockReason(key).has_value(); }
@@ -431,6 +434,8 @@ olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> 
         entry->applyPreferences();
         entry->markClean();
     }
+    // What was previewed and not confirmed goes from the view.
+    preview({});
     std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
                   [this](auto *entry) { emit tookOver(*entry); });
     return saved;
@@ -512,7 +517,7 @@ void olPreferencesSession::putIntoForce(const std::vector<olOutsideChange> &chan
                 changed.insert(change.key);
         }
         if (!changed.empty())
-            applyIn(*entry, changed);
+            takeOverIn(*entry, changed);
     }
     emit changedOutside(changes);
 }
@@ -552,15 +557,59 @@ bool olPreferencesSession::isHeldBack(const olPreferencesStore::Key &key) const
 }
 
 /// As if a person had confirmed these changes on the module's page, and nothing else.
-void olPreferencesSession::applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed)
+void olPreferencesSession::takeOverIn(olPreferencesEntry &entry, const std::set<std::string> &changed)
 {
     emit aboutToTakeOver(entry);
     entry.updateGUI();
-    for (const std::string &key : keysOf(entry))
-        entry.setChanged(key, changed.count(key) != 0);
-    entry.applyPreferences();
-    entry.markClean();
+    applyIn(entry, changed);
     emit tookOver(entry);
+}
+
+/// With what is previewed: a module may apply more than what has changed.
+void olPreferencesSession::applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed) const
+{
+    {
+        const olValueOverlay shown(entry, previewedOf(entry));
+        for (const std::string &key : keysOf(entry))
+            entry.setChanged(key, changed.count(key) != 0);
+        entry.applyPreferences();
+    }
+    entry.markClean();
+}
+
+olSettingValues olPreferencesSession::previewedOf(const olPreferencesEntry &entry) const
+{
+    olSettingValues values;
+    for (const auto &[key, value] : m_previewed) {
+        if (entry.findDefault(key))
+            values[key] = value;
+    }
+    return values;
+}
+
+void olPreferencesSession::preview(const olSettingValues &values)
+{
+    olSettingValues wanted;
+    for (const auto &[key, value] : values) {
+        if (description(key).canBePreviewed && whyNot(key, value).isEmpty())
+            wanted[key] = olValue::adopted(value);
+    }
+    const olSettingValues before = std::exchange(m_previewed, wanted);
+    olSettingValues touched = before;
+    touched.insert(wanted.begin(), wanted.end());
+    for (olPreferencesEntry *entry : entries()) {
+        std::set<std::string> changed;
+        for (const auto &[key, value] : touched) {
+            const auto shownIn = [entry = entry, &key = key](const olSettingValues &previewed) {
+                const auto found = previewed.find(key);
+                return found == previewed.end() ? entry->value(key) : found->second;
+            };
+            if (entry->findDefault(key) && !olValue::identical(shownIn(before), shownIn(wanted)))
+                changed.insert(key);
+        }
+        if (!changed.empty())
+            applyIn(*entry, changed);
+    }
 }
 
 boost::any olPreferencesSession::defaultValue(const std::string &key) const

@@ -99,6 +99,11 @@ public:
     olResult<> commit(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides = {},
                       const std::set<std::string> &restored = {});
 
+    /// Lets the view show these values instead of those in force, and those in force again for what an earlier call
+    /// gave and this one does not. Passed over is what can not be previewed, or not have that value. The values in
+    /// force stay what they are: nothing else reads, stores or compares with those previewed. A commit() ends it.
+    void preview(const olSettingValues &values);
+
     /// Unloads the plug-in. Values are not stored by this.
     void stop();
 
@@ -169,7 +174,9 @@ private:
     [[nodiscard]] std::vector<olOutsideChange> replaceStored(const olPreferencesStore::Values &stored);
     [[nodiscard]] bool isHeldBack(const olPreferencesStore::Key &key) const;
     void putIntoForce(const std::vector<olOutsideChange> &changes);
-    void applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed);
+    void takeOverIn(olPreferencesEntry &entry, const std::set<std::string> &changed);
+    void applyIn(olPreferencesEntry &entry, const std::set<std::string> &changed) const;
+    [[nodiscard]] olSettingValues previewedOf(const olPreferencesEntry &entry) const;
     [[nodiscard]] Changes changesTo(const olPreferencesStore::Values &stored,
                                     const olPreferencesStore::Values &kept) const;
     [[nodiscard]] bool isLocked(const std::string &key) const;
@@ -184,6 +191,7 @@ private:
     std::map<olPreferencesStore::Key, olOutsideChange> m_heldBack; ///< until somebody agrees to them
     std::set<std::string> m_chosen;
     std::set<std::string> m_restored;
+    olSettingValues m_previewed;
     olSiteDefaults m_site;
     QStringList m_siteFiles;
     QStringList m_notices;

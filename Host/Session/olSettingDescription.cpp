@@ -100,6 +100,7 @@ olSettingDescription olSettingDescription::of(const olPreferencesEntry &entry, c
     description.choices = choicesFrom(told("choices").toList(), description.type);
     description.isEditable = told("editable").toBool();
     description.effect = map.value(QStringLiteral("effect"), description.effect).toString();
+    description.canBePreviewed = told("preview").toBool();
     description.warning = warningFrom(told("warning").toMap(), description.type);
     description.label = told("label").toString();
     description.toolTip = told("toolTip").toString();

@@ -41,6 +41,7 @@ struct ORLO_HOST_EXPORT olSettingDescription {
     std::vector<olSettingChoice> choices;
     bool isEditable = false;                ///< whether other values than the choices can be typed
     QString effect = QStringLiteral("now"); ///< or "next import" or "next start"
+    bool canBePreviewed = false;            ///< it changes the view alone, and its former value undoes that
     std::optional<olSettingWarning> warning;
     QString label;
     QString toolTip;

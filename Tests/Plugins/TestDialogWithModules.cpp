@@ -56,6 +56,7 @@ protected:
     {
         session.start();
         dialog = std::make_unique<olPreferencesDialog>(session);
+        dialog->offerPreview();
         dialog->open(QStringLiteral("Camera"));
         calls.take();
     }
@@ -116,7 +117,7 @@ TEST_F(DialogWithModules, TabGoesFromTheHeaderThroughThePageToTheButtons)
     QWidget *search = named("search");
     const std::vector<QWidget *> before{search, named("changedOnly"), named("more"), dialog->findChild<QTreeWidget *>(),
                                         named("restorePage")};
-    const std::vector<QWidget *> after{buttons->button(QDialogButtonBox::Ok),
+    const std::vector<QWidget *> after{named("preview"), buttons->button(QDialogButtonBox::Ok),
                                        buttons->button(QDialogButtonBox::Cancel)};
     QApplication::setActiveWindow(dialog.get());
     for (olPreferencesEntry *entry : modules()) {

@@ -46,6 +46,8 @@ void describeRange(double lowest, double highest, const std::optional<int> &deci
 QVariantMap describeTraits(const olSettingTraits &traits)
 {
     QVariantMap description{{QLatin1String("effect"), name(traits.effect)}};
+    if (traits.isPutBack && traits.effect == olEffect::Now)
+        description.insert(QLatin1String("preview"), true);
     describeRange(traits.lowest, traits.highest, traits.decimals, description);
     if (*traits.unit)
         description.insert(QLatin1String("unit"), QString::fromUtf8(traits.unit));

@@ -43,6 +43,8 @@ QVariantMap olSettingList::describe(const olListedSetting &setting) const
     QVariantMap description = setting.describe();
     if (!m_asks)
         description.remove(QLatin1String("warning"));
+    if (!m_touchesOnlyTheView)
+        description.remove(QLatin1String("preview"));
     return description;
 }
 

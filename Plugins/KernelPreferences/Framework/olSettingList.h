@@ -92,6 +92,10 @@ public:
 
     void removeKeys() const;
 
+    /// From here on the host may try the settings out before they are confirmed: for a module whose settings change
+    /// nothing but what the view shows.
+    void touchOnlyTheView() { m_touchesOnlyTheView = true; }
+
     /// From here on no setting has a question to be asked first: for a module whose page asks none.
     void askNothing() { m_asks = false; }
 
@@ -114,4 +118,5 @@ private:
     std::set<std::string> m_foreign;
     std::unique_ptr<olSettingAccess> m_access;
     bool m_asks = true;
+    bool m_touchesOnlyTheView = false;
 };

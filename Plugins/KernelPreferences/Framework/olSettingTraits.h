@@ -26,6 +26,9 @@ struct olSettingTraits {
     const char *unit = "";
     olEffect effect = olEffect::Now;
 
+    /// Whether applying the former value again undoes all that applying another one has done.
+    bool isPutBack = true;
+
     /// Whether its control stands as the form has it before the page is first filled, and not at the default.
     bool isFormsAtFirst = false;
 
@@ -51,6 +54,12 @@ struct olSettingTraits {
         traits.isFormsAtFirst = true;
         return traits;
     }
+    [[nodiscard]] olSettingTraits notPutBack() const
+    {
+        olSettingTraits traits = *this;
+        traits.isPutBack = false;
+        return traits;
+    }
     [[nodiscard]] olSettingTraits effective(olEffect when) const
     {
         olSettingTraits traits = *this;
@@ -69,6 +78,7 @@ inline olSettingTraits between(double lowest, double highest)
 inline olSettingTraits atLeast(double lowest) { return between(lowest, std::numeric_limits<double>::infinity()); }
 inline olSettingTraits inUnit(const char *unit) { return olSettingTraits().inUnit(unit); }
 inline olSettingTraits asFormHasIt() { return olSettingTraits().asFormHasIt(); }
+inline olSettingTraits notPutBack() { return olSettingTraits().notPutBack(); }
 inline olSettingTraits atNextImport() { return olSettingTraits().effective(olEffect::NextImport); }
 inline olSettingTraits atNextStart() { return olSettingTraits().effective(olEffect::NextStart); }
 inline olSettingTraits warned(olWarning (*question)())

@@ -29,6 +29,7 @@ olCameraPreferencesGUII::olCameraPreferencesGUII() : olModule(tr("Camera"), QStr
     settings().add(powerwallWidth, form.projectionWidth);
     settings().add(powerwallHeight, form.projectionHeight);
     settings().add(powerwallDistance, form.projectionDistance);
+    settings().touchOnlyTheView();
 
     // Essentials applies the stored camera but has no page to change it on.
     if (!olController::isOrloEssentials())

@@ -38,6 +38,7 @@ olMarkerPreferencesGUII::olMarkerPreferencesGUII() : olModule(tr("Selection"), Q
     settings().add(wireframeSelection, form.wireframeSelection);
     settings().add(selectionColor, form.wireframeColor);
     settings().add(selectionInFront, form.alwaysInFront);
+    settings().touchOnlyTheView();
 
     handOverPage();
 }

@@ -67,6 +67,7 @@ olNavigatorPreferencesGUII::olNavigatorPreferencesGUII() : olModule(tr("Navigato
 
     // Only the user's choice sets off a preset; filling the page must keep what is stored.
     settings().add(interactionMode, quiet(byData(form.interactionMode)));
+    settings().touchOnlyTheView();
 
     handOverPage();
 }

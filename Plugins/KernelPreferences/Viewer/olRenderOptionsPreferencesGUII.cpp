@@ -40,7 +40,8 @@ const olSetting<Positions> backgroundPositions{"RenderOptions background ints", 
 const olSetting<bool> sortTransparency{"RenderOptions sort trans", true};
 const olSetting<bool> zWriteTransparency{"RenderOptions zwrite trans", false};
 const olSetting<bool> fastFullscreen{"RenderOptions fast fullscreen", true};
-const olSetting<int> headlightMode{"RenderOptions headlight mode", 3};
+// Two of its modes leave the light as another one has switched it.
+const olSetting<int> headlightMode{"RenderOptions headlight mode", 3, notPutBack()};
 const olSetting<bool> coordinateSystem{"RenderOptions coordinate system", false};
 const olSetting<bool> auxiliaryNodes{"RenderOptions auxiliary nodes", true};
 const olSetting<bool> navigationCube{"RenderOptions viewcube", true};
@@ -253,6 +254,7 @@ void olRenderOptionsPreferencesGUII::listSettings()
     settings().add(showJoints, form.showJoints, &olOSGWidget::getJointsVisible);
     settings().addRetired("RenderOptions local lights");
     settings().addRetired("RenderOptions use back buffer");
+    settings().touchOnlyTheView();
 }
 
 void olRenderOptionsPreferencesGUII::applyStillframe(const olApply &apply) const

@@ -117,6 +117,57 @@ TEST_F(MainWindow, RestartsOnTheSamePageWithWhatWasOpen)
     EXPECT_EQ(QSettings().value(QStringLiteral("preferencesDialog/page")).toString(), "MainWindow");
 }
 
+TEST_F(MainWindow, EditsArePreviewedInTheViewWhereThatIsAskedForAndCancelLeavesNoneThere)
+{
+    const QImage before = view.picture();
+    const auto fov = [] { return olHostState::the().fov.get(); };
+    olPreferencesDialog &preferences = window.openPreferences();
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("RenderOptions coordinate system")));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
+    const auto click = [](QWidget *box) {
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    };
+    auto *asked = preferences.findChild<QCheckBox *>(QStringLiteral("preview"));
+    EXPECT_FALSE(asked->isChecked());
+    click(preferences.focusWidget());
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("Camera fov")));
+    QTest::keyClick(preferences.focusWidget(), Qt::Key_PageUp);
+    QTest::qWait(50);
+    EXPECT_TRUE(isLike(before));
+
+    click(asked);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isLike(before); }, 2000));
+    EXPECT_GT(fov(), 45.0f);
+    EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 45.0f);
+    EXPECT_EQ(preferences.findChild<QPushButton *>(QStringLiteral("changes"))->text(), "2 Chan&ges...");
+    const float shown = fov();
+    QTest::keyClick(preferences.focusWidget(), Qt::Key_PageUp);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fov() > shown; }, 2000)) << "as it is edited";
+    click(asked);
+    EXPECT_TRUE(isLike(before));
+
+    click(asked);
+    EXPECT_FALSE(isLike(before));
+    QTimer::singleShot(0, &window, [] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QTest::mouseClick(box->button(QMessageBox::Discard), Qt::LeftButton);
+    });
+    QTest::keyClick(&preferences, Qt::Key_Escape);
+    EXPECT_FALSE(preferences.isVisible());
+    EXPECT_TRUE(isLike(before));
+    EXPECT_FALSE(asked->isChecked()) << "off by default, each time";
+
+    window.openPreferences();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&preferences));
+    click(asked);
+    ASSERT_TRUE(preferences.openAt(QStringLiteral("Camera fov")));
+    QTest::keyClick(preferences.focusWidget(), Qt::Key_PageUp);
+    QTest::mouseClick(preferences.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_GT(fov(), 45.0f);
+    EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), fov());
+    EXPECT_EQ(session.origin("Camera fov"), "stored");
+}
+
 TEST_F(MainWindow, ThePreferencesFitBesideTheViewAsAPanelOnASmallScreen)
 {
     olPreferencesDialog &preferences = window.openPreferences(QStringLiteral("Step"));
@@ -192,12 +243,18 @@ TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
     deviation->setFocus();
     deviation->selectAll();
     QTest::keyClicks(deviation, QStringLiteral("0.5"));
+    auto *curves = dialog->findChild<QComboBox *>(QStringLiteral("curves"));
+    EXPECT_EQ(curves->currentIndex(), 0);
+    curves->setFocus();
+    QTest::keyClick(curves, Qt::Key_Down);
     auto *keep = dialog->findChild<QCheckBox *>(QStringLiteral("keep"));
     QTest::mouseClick(keep, Qt::LeftButton, Qt::NoModifier, QPoint(8, keep->height() / 2));
     emit dialog->findChild<QDialogButtonBox *>()->accepted();
     EXPECT_EQ(stored(), 0.5);
     EXPECT_EQ(olHostState::the().importRecord("STEP")->chordDeviation, 0.5);
     EXPECT_EQ(session.origin("STEPOptions chord deviation"), "stored");
+    EXPECT_TRUE(boost::any_cast<bool>(record().get("STEPOptions import curves")));
+    EXPECT_EQ(session.origin("STEPOptions import invisible curves"), "default");
     EXPECT_EQ(session.origin("STEPOptions stitching"), "default") << "what was not changed is not kept";
 }
 
