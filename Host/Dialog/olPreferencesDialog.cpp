@@ -220,10 +220,11 @@ QWidget *olPreferencesDialog::buildBottom()
     m_preview->setToolTip(tr("Shows changes of the view as they are made. Nothing is stored before OK or Apply, and "
                              "Cancel shows the view as it was."));
     m_preview->setVisible(false);
+    // A click on it or on Apply leaves the focus where one works.
+    m_preview->setFocusPolicy(Qt::TabFocus);
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("&OK"));
     m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("&Cancel"));
     m_buttons->button(QDialogButtonBox::Apply)->setText(tr("&Apply"));
-    // A click on it leaves the focus where one works.
     m_buttons->button(QDialogButtonBox::Apply)->setFocusPolicy(Qt::TabFocus);
     auto *bottom = new QWidget;
     auto *layout = new QHBoxLayout(bottom);

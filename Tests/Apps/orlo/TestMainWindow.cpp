@@ -3,7 +3,6 @@
 #include "olFactsPanel.h"
 #include "olHostStatePanel.h"
 #include "olImportDialog.h"
-#include "olModelExtent.h"
 #include "olRecentModels.h"
 #include "olStartFault.h"
 
@@ -257,37 +256,6 @@ TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
     EXPECT_TRUE(boost::any_cast<bool>(record().get("STEPOptions import curves")));
     EXPECT_EQ(session.origin("STEPOptions import invisible curves"), "default");
     EXPECT_EQ(session.origin("STEPOptions stitching"), "default") << "what was not changed is not kept";
-}
-
-TEST_F(MainWindow, AModelsSizeIsToldFromAnyFileOfSurfaces)
-{
-    const QString step = path(QStringLiteral("sample.step"));
-    ASSERT_EQ(olExportScene(window.scene().document(), step).error, QString());
-    const QString iges = path(QStringLiteral("sample.igs"));
-    ASSERT_EQ(olExportScene(window.scene().document(), iges).error, QString());
-    const double extent = olModelExtent(step).value_or(0.0);
-    EXPECT_GT(extent, 0.0);
-    EXPECT_NEAR(olModelExtent(iges).value_or(0.0), extent, extent / 2) << "about as large as that";
-
-    // A square of 3 by 4 inches; its edge in the surface's own parameters is far longer, and a text has the signs
-    // between fields in it.
-    const auto line = [](const QByteArray &text, char section, int number) {
-        return text.leftJustified(72) + section + QByteArray::number(number).rightJustified(7) + '\n';
-    };
-    const auto ofEntity = [](const char *text, int entity) {
-        return QByteArray(text).leftJustified(64) + QByteArray::number(entity).rightJustified(8);
-    };
-    QFile square(path(QStringLiteral("square.igs")));
-    ASSERT_TRUE(square.open(QIODevice::WriteOnly));
-    square.write(line("made by hand", 'S', 1));
-    square.write(line("1H,,1H;,3Ha,;,4Hfile,,,32,38,6,308,15,,1.,1,2HIN,1,0.,;", 'G', 1));
-    square.write(line(ofEntity("128,1,1,1,1,0,0,1,0,0,0.,0.,1.,1.,0.,0.,1.,1.,1.,1.,1.,1.,", 1), 'P', 1));
-    square.write(line(ofEntity("0.,0.,0.,3.D0,0.,0.,0.,4.,0.,3.,4.,0.,0.,1.,0.,1.;", 1), 'P', 2));
-    square.write(line(ofEntity("110,0.,0.,0.,900.,0.,0.;", 3), 'P', 3));
-    square.write(line(ofEntity("102,1,3;", 5), 'P', 4));
-    square.write(line(ofEntity("142,0,1,5,7,2;", 9), 'P', 5));
-    square.close();
-    EXPECT_NEAR(olModelExtent(square.fileName()).value_or(0.0), 5 * 25.4, 0.001);
 }
 
 TEST_F(MainWindow, F1ShowsTheSettingsLineInTheDocuments)
