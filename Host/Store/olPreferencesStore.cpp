@@ -182,7 +182,10 @@ Contents readFile(const QString &file, bool wasStore)
     if (!exists(file))
         return contents;
     try {
-        look(file, [&](olSqlite &database) { contents = olStoreTables::read(database, wasStore); });
+        look(file, [&](olSqlite &database) {
+            contents = olStoreTables::read(database, wasStore);
+            contents.history = olStoreTables::readHistory(database);
+        });
         // Only now: another program may just have filled the file.
         const QByteArray versions = versionsIn(headerOf(file));
         if (!contents.seal.empty() && versions != "\1\1" && versions != "\2\2")
