@@ -149,7 +149,8 @@ void look(const QString &file, const Work &work)
     const mode_t mode = statusOf(file).st_mode;
     if (mode != 0 && !S_ISREG(mode))
         throw olStoreError(Kind::Access, olPreferencesStore::tr("it is no regular file"));
-    constexpr int attempts = 20;
+    // Others may save one after the other; who saves waits as long for them.
+    constexpr int attempts = lockMilliseconds / 10;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const QByteArray before = stampOf(file);
         if (!hasJournal(file) && !versionsIn(headerOf(file)).contains('\2')) {
