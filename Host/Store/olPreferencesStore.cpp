@@ -149,7 +149,8 @@ void look(const QString &file, const Work &work)
     const mode_t mode = statusOf(file).st_mode;
     if (mode != 0 && !S_ISREG(mode))
         throw olStoreError(Kind::Access, olPreferencesStore::tr("it is no regular file"));
-    constexpr int attempts = 20;
+    // Others may save one after the other; who saves waits as long for them.
+    constexpr int attempts = lockMilliseconds / 10;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const QByteArray before = stampOf(file);
         if (!hasJournal(file) && !versionsIn(headerOf(file)).contains('\2')) {
@@ -182,7 +183,10 @@ Contents readFile(const QString &file, bool wasStore)
     if (!exists(file))
         return contents;
     try {
-        look(file, [&](olSqlite &database) { contents = olStoreTables::read(database, wasStore); });
+        look(file, [&](olSqlite &database) {
+            contents = olStoreTables::read(database, wasStore);
+            contents.history = olStoreTables::readHistory(database);
+        });
         // Only now: another program may just have filled the file.
         const QByteArray versions = versionsIn(headerOf(file));
         if (!contents.seal.empty() && versions != "\1\1" && versions != "\2\2")

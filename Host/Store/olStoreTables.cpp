@@ -93,23 +93,6 @@ std::string sealOf(const std::vector<olSqlite::Row> &settings)
     return checksum({checksums});
 }
 
-History historyIn(olSqlite &database)
-{
-    History history;
-    for (olSqlite::Row &row : database.run("SELECT * FROM history NOT INDEXED ORDER BY save")) {
-        const Text proof = row.back();
-        row.pop_back();
-        if (proof != checksum(row))
-            throw olStoreError(Kind::Damaged, Words::tr("its history was changed"));
-        const int number = std::atoi(row[0].value_or("").c_str());
-        if (history.empty() || history.back().number != number)
-            history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});
-        if (const auto key = keyOf(row[3], row[4]))
-            history.back().changes.push_back({*key, rowOf(row[5], row[6]), rowOf(row[7], row[8])});
-    }
-    return history;
-}
-
 void bringToCurrentFormat(olSqlite &database)
 {
     const int format = database.number("PRAGMA user_version");
@@ -148,9 +131,26 @@ Contents olStoreTables::read(olSqlite &database, bool wasStore)
         if (key && !value.empty())
             contents.values[*key] = std::move(value);
     }
-    if (database.number("PRAGMA user_version") != earlierFormat)
-        contents.history = historyIn(database);
     return contents;
+}
+
+History olStoreTables::readHistory(olSqlite &database)
+{
+    History history;
+    if (database.number("PRAGMA user_version") < currentFormat)
+        return history;
+    for (olSqlite::Row &row : database.run("SELECT * FROM history NOT INDEXED ORDER BY save")) {
+        const Text proof = row.back();
+        row.pop_back();
+        if (proof != checksum(row))
+            throw olStoreError(Kind::Damaged, Words::tr("its history was changed"));
+        const int number = std::atoi(row[0].value_or("").c_str());
+        if (history.empty() || history.back().number != number)
+            history.push_back({number, row[1].value_or(""), row[2].value_or(""), {}});
+        if (const auto key = keyOf(row[3], row[4]))
+            history.back().changes.push_back({*key, rowOf(row[5], row[6]), rowOf(row[7], row[8])});
+    }
+    return history;
 }
 
 bool olStoreTables::change(olSqlite &database, const std::vector<Change> &changes, std::vector<Change> *left)

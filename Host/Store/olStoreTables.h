@@ -11,9 +11,12 @@ class olSqlite;
 namespace olStoreTables
 {
 
-/// Proves tables, structure, rows and history. A file that was made but never filled has no seal, and is damaged where
-/// a store was in it.
+/// Proves tables, structure and rows. A file that was made but never filled has no seal, and is damaged where a store
+/// was in it.
 [[nodiscard]] olStoreRows::Contents read(olSqlite &database, bool wasStore);
+
+/// Proves the history too.
+[[nodiscard]] olStoreRows::History readHistory(olSqlite &database);
 
 /// Makes the changes, within a transaction, and remembers them under this program's name; false where there was nothing
 /// to do. See olPreferencesStore::save() for `left`. Makes the tables where there are none, and those of the earlier
