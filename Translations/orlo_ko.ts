@@ -3228,6 +3228,33 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
 </context>
 <context>
+    <name>olViewAids</name>
+    <message>
+        <source>RIGHT</source>
+        <translation>오른쪽</translation>
+    </message>
+    <message>
+        <source>LEFT</source>
+        <translation>왼쪽</translation>
+    </message>
+    <message>
+        <source>FRONT</source>
+        <translation>앞</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <translation>뒤</translation>
+    </message>
+    <message>
+        <source>TOP</source>
+        <translation>위</translation>
+    </message>
+    <message>
+        <source>BOTTOM</source>
+        <translation>아래</translation>
+    </message>
+</context>
+<context>
     <name>olViewport</name>
     <message>
         <source>3D view</source>

@@ -3228,6 +3228,33 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
 </context>
 <context>
+    <name>olViewAids</name>
+    <message>
+        <source>RIGHT</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>LEFT</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>FRONT</source>
+        <translation>前</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <translation>后</translation>
+    </message>
+    <message>
+        <source>TOP</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>BOTTOM</source>
+        <translation>下</translation>
+    </message>
+</context>
+<context>
     <name>olViewport</name>
     <message>
         <source>3D view</source>

@@ -23,6 +23,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFont>
 #include <QFontDatabase>
 #include <QIcon>
 #include <QMessageBox>
@@ -218,12 +219,34 @@ int startAndRunBatch(olPreferencesSession &session, const QCommandLineParser &op
     return result;
 }
 
-/// What a person is told where no font has the letters of the language: in English, as that can be read.
-QStringList missingLetters(int language)
+/// The fonts that have the letters of the language, those that draw them in its own manner first.
+QStringList fontsOf(int language)
 {
     constexpr QFontDatabase::WritingSystem letters[] = {QFontDatabase::Latin, QFontDatabase::SimplifiedChinese,
                                                         QFontDatabase::Japanese, QFontDatabase::Korean};
-    if (!QFontDatabase().families(letters[language]).isEmpty())
+    constexpr const char *manners[] = {"", " SC", " JP", " KR"};
+    QStringList fonts = QFontDatabase().families(letters[language]);
+    std::stable_partition(fonts.begin(), fonts.end(), [&](const QString &font) {
+        return font.startsWith(QLatin1String("Noto Sans")) && font.endsWith(QLatin1String(manners[language]));
+    });
+    return fonts;
+}
+
+/// Left to itself the toolkit takes each letter from the first font that has it, whatever language that is for.
+void useFontOf(int language)
+{
+    QFont font = QApplication::font();
+    const QStringList fonts = fontsOf(language);
+    if (language == 0 || fonts.isEmpty())
+        return;
+    font.setFamilies({font.family(), fonts.first()});
+    QApplication::setFont(font);
+}
+
+/// What a person is told where no font has the letters of the language: in English, as that can be read.
+QStringList missingLetters(int language)
+{
+    if (!fontsOf(language).isEmpty())
         return {};
     return {QStringLiteral("No font on this system has the letters of the language that is chosen, so many texts show "
                            "boxes in their place. The package fonts-noto-cjk brings such a font.")};
@@ -305,6 +328,7 @@ int run(const QCommandLineParser &options, QStringList &again)
     if (isBatch(options))
         return startAndRunBatch(session, options);
 
+    useFontOf(host.displayLanguage);
     olTakeFormerSettingsOver();
     olMainWindow window(session);
     if (!loadPlugin(session, options))

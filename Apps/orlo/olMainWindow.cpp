@@ -24,6 +24,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
@@ -176,6 +177,12 @@ void olMainWindow::addViewActions()
     all->setShortcut(QKeySequence(Qt::Key_Home));
     QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(palette()), tr("&Zoom To"));
     zoom->setShortcut(QKeySequence(Qt::Key_End));
+    // East Asian texts have their mnemonic in brackets, which mean nothing on a button.
+    static const QRegularExpression mnemonic(QStringLiteral("\\(&\\w\\)|&"));
+    for (QAction *action : {all, zoom}) {
+        action->setIconText(action->text().remove(mnemonic));
+        action->setToolTip(action->iconText());
+    }
     zoom->setToolTip(tr("Brings what is selected near"));
     view->addActions({all, zoom});
     view->addSeparator();

@@ -8,18 +8,29 @@
 #include <AIS_LightSource.hxx>
 #include <AIS_Trihedron.hxx>
 #include <AIS_ViewCube.hxx>
+#include <Font_FTFont.hxx>
+#include <Font_FontMgr.hxx>
 #include <Geom_Axis2Placement.hxx>
 #include <Graphic3d_Camera.hxx>
 #include <Graphic3d_TransformPers.hxx>
 #include <Prs3d_DatumAspect.hxx>
 #include <Prs3d_Drawer.hxx>
 #include <Prs3d_PointAspect.hxx>
+#include <V3d_TypeOfOrientation.hxx>
 #include <gp_Ax2.hxx>
 
+#include <QCoreApplication>
+#include <QString>
+
 #include <algorithm>
+#include <utility>
 
 namespace
 {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(olViewAids)
+};
 
 constexpr double cubeSize = 46.0;
 constexpr double textShare = 0.27;
@@ -38,6 +49,14 @@ Handle(AIS_Trihedron) makeTrihedron(const gp_Ax2 &place, double size)
     trihedron->SetDatumPartColor(Prs3d_DatumParts_ZAxis, Quantity_NOC_BLUE2);
     trihedron->SetTextColor(Quantity_NOC_WHITE);
     return trihedron;
+}
+
+/// Whether the renderer finds a font for a text.
+bool hasLetters(const QString &text)
+{
+    const Font_UnicodeSubset letters = Font_FTFont::CharSubset(text.at(0).unicode());
+    return letters == Font_UnicodeSubset_Western ||
+           !Font_FontMgr::GetInstance()->FindFallbackFont(letters, Font_FontAspect_Regular).IsNull();
 }
 
 /// A camera that looks at the scene from its front, as deep as it is easily seen.
@@ -69,6 +88,16 @@ olViewAids::olViewAids(const Handle(AIS_InteractiveContext) & context)
     m_cube->SetDrawAxes(Standard_False);
     m_cube->SetFixedAnimationLoop(false);
     m_cube->SetAutoStartAnimation(false);
+    for (const auto &[side, name] : {std::pair(V3d_Xpos, Words::tr("RIGHT")),
+                                     {V3d_Xneg, Words::tr("LEFT")},
+                                     {V3d_Yneg, Words::tr("FRONT")},
+                                     {V3d_Ypos, Words::tr("BACK")},
+                                     {V3d_Zpos, Words::tr("TOP")},
+                                     {V3d_Zneg, Words::tr("BOTTOM")}}) {
+        // Without a font for them they stay as they are, which is English.
+        if (hasLetters(name))
+            m_cube->SetBoxSideLabel(side, name.toUtf8().constData());
+    }
 
     m_coordinateSystem->SetZLayer(Graphic3d_ZLayerId_Topmost);
     m_coordinateSystem->SetInfiniteState(Standard_True);

@@ -10,7 +10,7 @@ import xml.etree.ElementTree as xml
 # What reads as prose or as a caption, and is neither: by file, or by folder; else by the call that takes it.
 NOT_FOR_PEOPLE = {
     # what is said where no letters of the language are there to say it in, and by a program that nobody starts
-    "Apps/orlo/main.cpp": ["No font on this system has the letters"],
+    "Apps/orlo/main.cpp": ["No font on this system has the letters", "Noto Sans"],
     "Scene/Exchange/olReaderMain.cpp": ["orlo-reader is started by orlo"],
     # lines of the log that others look for, and the answers of the web server
     "Plugins/KernelPreferences/FileIO/olFileIOPreferencesGUII.cpp": ["FileIO preferences: tmp path"],
