@@ -16,7 +16,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDialog>
-#include <QFile>
 #include <QFileDialog>
 #include <QMenu>
 #include <QPushButton>
@@ -51,7 +50,11 @@ protected:
     {
         QTest::qWait(50);
         Pictures::take(shown, olTranslations::languages()[GetParam()] + QLatin1Char(' ') + name);
-        QStringList faults = FormFaults::withoutLetters(shown) + FormFaults::english(shown);
+        QStringList faults = FormFaults::english(shown);
+        // Formats go by their own names.
+        for (const olPreferencesEntry *entry : modules())
+            faults.removeAll(entry->name());
+        faults << FormFaults::withoutLetters(shown);
         // How wide its columns are is the toolkit's own affair.
         if (!qobject_cast<QFileDialog *>(&shown))
             faults << FormFaults::clipped(shown);
@@ -151,21 +154,18 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
     look(more, "more");
     more.close();
 
-    QFile preferences(path("preferences.json"));
-    ASSERT_TRUE(preferences.open(QIODevice::WriteOnly));
-    preferences.write(R"({"Camera fov": {"type": "float", "value": 30}, "Camera fow": {"type": "float", "value": 1},
-        "MainWindow window opacity": {"type": "float", "value": 7}})");
-    preferences.close();
-    lookAtWhatOpens("import preview", [&] { dialog.importFrom(preferences.fileName()); });
+    dialog.exportTo(path("preferences.json"));
+    look(dialog, "note");
     dialog.findChild<QOLSlider *>("fieldOfView")->setValue(33);
+    lookAtWhatOpens("import preview", [&] { dialog.importFrom(path("preferences.json")); });
     lookAtWhatOpens("changes", [&] { dialog.findChild<QAbstractButton *>("changes")->click(); });
     lookAtWhatOpens("loss", [&] { dialog.reject(); });
     ASSERT_TRUE(dialog.apply());
     lookAtWhatOpens("history", [&] { translated("olPreferencesDialog", "&History...").trigger(); });
+    for (QMenu *menu : more.findChildren<QMenu *>() + dialog.findChildren<QMenu *>())
+        emit menu->aboutToShow();
     lookAtWhatOpens("profile", [&] { translated("olProfilesMenu", "&Save As...").trigger(); });
     lookAtWhatOpens("import of preferences", [&] { more.actions().first()->trigger(); });
-    dialog.exportTo(path("exported.json"));
-    look(dialog, "note");
     dialog.exportTo("/none/exported.json");
     look(dialog, "error");
 }
