@@ -1657,8 +1657,8 @@
         <translation>%1：%2。</translation>
     </message>
     <message>
-        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
-        <translation> そのバージョンを使用してください。そのようなバージョンがない場合、ファイルは破損しています：ファイルを別の場所に移動して既定値で開始するか、バックアップ%1があれば、その名前をこのファイルの名前に変更してください。</translation>
+        <source>Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
+        <translation>そのバージョンを使用してください。そのようなバージョンがない場合、ファイルは破損しています：ファイルを別の場所に移動して既定値で開始するか、バックアップ%1があれば、その名前をこのファイルの名前に変更してください。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2.</source>

@@ -1657,8 +1657,8 @@
         <translation>%1: %2.</translation>
     </message>
     <message>
-        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
-        <translation> 해당 버전을 사용하십시오. 그런 버전이 없다면 파일이 손상된 것입니다. 기본값으로 시작하려면 파일을 다른 곳으로 옮기고, 백업 %1이(가) 있으면 이름을 이 파일의 이름으로 바꾸어도 됩니다.</translation>
+        <source>Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
+        <translation>해당 버전을 사용하십시오. 그런 버전이 없다면 파일이 손상된 것입니다. 기본값으로 시작하려면 파일을 다른 곳으로 옮기고, 백업 %1이(가) 있으면 이름을 이 파일의 이름으로 바꾸어도 됩니다.</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2.</source>

@@ -1657,8 +1657,8 @@
         <translation>%1：%2。</translation>
     </message>
     <message>
-        <source> Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
-        <translation> 请使用该版本。如果没有该版本，则文件已损坏：请将其移走，以便使用默认值启动；或将其备份 %1（如果有）重命名为该文件的名称。</translation>
+        <source>Use that version. If there is none, the file is damaged: move it away to start with defaults, or rename its copy %1, where there is one, to it.</source>
+        <translation>请使用该版本。如果没有该版本，则文件已损坏：请将其移走，以便使用默认值启动；或将其备份 %1（如果有）重命名为该文件的名称。</translation>
     </message>
     <message>
         <source>The preferences file %1 is damaged: %2.</source>

@@ -1,5 +1,6 @@
 #include "Store/olPreferencesStore.h"
 
+#include "State/olListed.h"
 #include "Store/olSqlite.h"
 #include "Store/olStoreTables.h"
 
@@ -318,17 +319,19 @@ olPreferencesStore::olPreferencesStore(const QString &file)
 bool olPreferencesStore::isStore() const { return m_isStore || exists(m_copy); }
 
 /// A file of a newer version is not ours to touch; but it may also be damaged just where its version stands.
-QString olPreferencesStore::wayOut(const olStoreError &error) const
+olFailure olPreferencesStore::withWayOut(const QString &fault, const olStoreError &error) const
 {
-    return error.kind() == Kind::Newer ? tr(" Use that version. If there is none, the file is damaged: move it away to "
-                                            "start with defaults, or rename its copy %1, where there is one, to it.")
-                                             .arg(m_copy)
-                                       : QString();
+    if (error.kind() != Kind::Newer)
+        return {fault};
+    return {
+        olSentences({fault, tr("Use that version. If there is none, the file is damaged: move it away to start with "
+                               "defaults, or rename its copy %1, where there is one, to it.")
+                                .arg(m_copy)})};
 }
 
 olFailure olPreferencesStore::cannotRead(const olStoreError &error) const
 {
-    return {tr("Cannot read the preferences %1: %2.").arg(m_file, error.reason()) + wayOut(error)};
+    return withWayOut(tr("Cannot read the preferences %1: %2.").arg(m_file, error.reason()), error);
 }
 
 Contents olPreferencesStore::read()
@@ -398,7 +401,7 @@ olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
     } catch (const olStoreError &error) {
         told << tr("It could not be set aside: %1.").arg(error.reason());
     }
-    return {values.value_or(Values()), (told << remark).join(QLatin1Char(' '))};
+    return {values.value_or(Values()), olSentences(told << remark)};
 }
 
 void olPreferencesStore::keepCopy(const std::string &seal) const
@@ -434,9 +437,9 @@ olResult<> olPreferencesStore::save(const std::vector<Change> &changes, std::vec
         return {};
     } catch (const olStoreError &error) {
         m_isBroken = error.kind() == Kind::Damaged;
-        return olFailure{
-            tr("Cannot save the preferences to %1: %2. What it held before is unchanged.").arg(m_file, error.reason()) +
-            wayOut(error)};
+        return withWayOut(
+            tr("Cannot save the preferences to %1: %2. What it held before is unchanged.").arg(m_file, error.reason()),
+            error);
     }
 }
 

@@ -70,7 +70,7 @@ public:
 
 private:
     [[nodiscard]] bool isStore() const;
-    [[nodiscard]] QString wayOut(const olStoreError &error) const;
+    [[nodiscard]] olFailure withWayOut(const QString &fault, const olStoreError &error) const;
     [[nodiscard]] olFailure cannotRead(const olStoreError &error) const;
     [[nodiscard]] olStoreRows::Contents read();
     void keepCopy(const std::string &seal) const;
