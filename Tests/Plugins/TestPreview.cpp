@@ -138,7 +138,7 @@ TEST_F(Preview, OnlyWhatIsPreviewedCountsAsChangedAndWhatElseHappensMeanwhileLea
     session.preview({{"Navigator dolly speed", 7.0f}, {"RenderOptions background colors", red}});
     olPreferencesStore other(session.store().file());
     ASSERT_EQ(session.loadStore().error(), QString());
-    ASSERT_TRUE(other.save({{{olHome::Record, "Navigator panning speed"}, 3.0f}}, {}).isOk());
+    ASSERT_TRUE(other.save({{{olHome::Record, "Navigator panning speed"}, {}, olStoreRows::Row::of(3.0f)}}).isOk());
     session.takeOver();
     session.newScene();
     EXPECT_EQ(olHostState::the().navPanningSpeed, 3.0f);
