@@ -128,7 +128,8 @@ QByteArray stampOf(const QString &file)
 void copyPart(const QString &from, const QString &to)
 {
     QFile source(from);
-    if (source.size() > 0 && !source.copy(to))
+    // What went away meanwhile is no fault, but a change.
+    if (!source.copy(to) && source.exists())
         throw olStoreError(Kind::Access,
                            olPreferencesStore::tr("%1 cannot be read: %2").arg(from, source.errorString()));
     QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
