@@ -6,6 +6,7 @@
 #include "Session/olSettingsLock.h"
 #include "Session/olValueOverlay.h"
 #include "State/olHostState.h"
+#include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
@@ -398,9 +399,9 @@ olResult<> olPreferencesSession::saveIntoMended(const olFailure &failure, const 
     const bool isOthers = opened->notice.isEmpty() && !opened->values.empty();
     olResult<> saved = m_store.save(changesTo(isOthers ? m_stored : opened->values, kept));
     if (saved.isOk() && !opened->notice.isEmpty())
-        m_notices << opened->notice + QLatin1Char(' ') +
-                         QCoreApplication::translate("olPreferencesSession",
-                                                     "All settings of this run were then saved into it.");
+        m_notices << olSentences(
+            {opened->notice,
+             QCoreApplication::translate("olPreferencesSession", "All settings of this run were then saved into it.")});
     return saved;
 }
 
