@@ -1,7 +1,6 @@
 #include "Groups.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
-#include "State/olValue.h"
 #include "Support/BenchHost.h"
 
 #include <QFile>
@@ -11,7 +10,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <algorithm>
 
 namespace
 {
