@@ -7,6 +7,9 @@
 #include <QSettings>
 #include <benchmark/benchmark.h>
 
+#include <set>
+#include <string>
+
 #include <fcntl.h>
 #include <unistd.h>
 
