@@ -65,6 +65,7 @@ void olHistoryView::add(const olStoreRows::Save &save, const olUndo &undo, const
     const int count = int(save.changes.size());
     auto *item = new QTreeWidgetItem(m_list, {when, QString::fromStdString(save.program),
                                               count == 1 ? line(save.changes.front()) : tr("%1 settings").arg(count)});
+    item->setData(0, Qt::UserRole, save.number);
     for (const olStoreRows::Change &change : save.changes) {
         const QString told = line(change);
         if (count == 1)
@@ -81,7 +82,7 @@ void olHistoryView::choose()
         return;
     if (item->parent())
         item = item->parent();
-    const auto saves = std::size_t(m_list->indexOfTopLevelItem(item)) + 1;
+    const int number = item->data(0, Qt::UserRole).toInt();
     accept();
-    emit chosen(saves);
+    emit chosen(number);
 }

@@ -251,8 +251,7 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
 
     ASSERT_EQ(saveFov(68), QString());
     QByteArray bytes = bytesOf(file);
-    bytes[bytes.indexOf("Row 9") + 4] = '0';
-    write(file, bytes);
+    write(file, bytes.replace("Row 9", "Row 0"));
     EXPECT_TRUE(saveFov(69).contains(file)) << "damaged behind the database's back";
     EXPECT_TRUE(store.isBroken());
 
