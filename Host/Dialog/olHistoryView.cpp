@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -43,7 +44,8 @@ olHistoryView::olHistoryView(const olUndo &undo, const PlaceOf &placeOf, QWidget
         m_list->resizeColumnToContents(column);
         m_list->setColumnWidth(column, m_list->columnWidth(column) + fontMetrics().averageCharWidth() * 2);
     }
-    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 26);
+    const QSize comfortable(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 26);
+    resize(comfortable.boundedTo(parent->screen()->availableSize() * 9 / 10));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_goBack, &QPushButton::clicked, this, &olHistoryView::choose);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this,
