@@ -6,6 +6,7 @@
 #include "olHostExport.h"
 
 #include <QCoreApplication>
+#include <QString>
 #include <boost/any.hpp>
 
 #include <cstddef>
