@@ -414,7 +414,7 @@ TEST_F(StoreFaults, ABusyStoreIsWaitedForBrieflyAndThenReported)
     olPreferencesStore store(file);
     EXPECT_EQ(faultIn(store.save(to({{key("a"), 2}})).error(), "busy"), "");
     EXPECT_GT(timer.elapsed(), 1000);
-    EXPECT_LT(timer.elapsed(), 6000);
+    EXPECT_LT(timer.elapsed(), 20000) << "it counts its attempts, which a busy machine draws out";
     Values values;
     EXPECT_EQ(opened(store, values).error, QString()) << "who reads need not wait for who writes";
     sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
