@@ -164,7 +164,7 @@
         <translation>%1はメッシュです。この形式では保持できないため、除外されます。</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>色</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>パーツの名前</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>頂点カラー</translation>
     </message>
     <message>
@@ -2078,7 +2078,7 @@ standard error stream and left; the exit status is then 1.
         <translation>モデルの末尾に、どの面にも使用されない点があります。ファイルが途中で切れている可能性があります。</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>マテリアルファイル%1がありません。モデルには色が付きません。</translation>
     </message>
     <message>
@@ -2296,7 +2296,7 @@ standard error stream and left; the exit status is then 1.
         <translation>三角形：%1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>色：%1</translation>
     </message>
     <message>
@@ -2937,7 +2937,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>ディレクトリ</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>色</translation>
     </message>
     <message>
@@ -2953,7 +2953,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>ボックス「%1」にボタン「%2」はありません：あるのは%3です</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>色のダイアログ</translation>
     </message>
     <message>
@@ -3073,7 +3073,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>noneには列を指定できません</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1は色ではありません</translation>
     </message>
     <message>
@@ -3241,7 +3241,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>3つの数値 ([1, 0.5, 0]など)</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>色のリスト ([[0, 0, 0], [1, 1, 1]]など)</translation>
     </message>
 </context>
