@@ -24,9 +24,11 @@ endif()
 foreach(part Base System)
     if(NOT TARGET OpenSG1::${part})
         string(TOUPPER ${part} upper)
-        add_library(OpenSG1::${part} UNKNOWN IMPORTED)
-        # Its headers name each other without the folder that they lie in.
+        add_library(OpenSG1::${part} SHARED IMPORTED)
+        # Its headers name each other without the folder that they lie in. A library without a name of its own would be
+        # needed by the path where it lay when this was built.
         set_target_properties(OpenSG1::${part} PROPERTIES
+            IMPORTED_NO_SONAME TRUE
             IMPORTED_LOCATION ${OpenSG_${upper}_LIBRARY}
             INTERFACE_INCLUDE_DIRECTORIES "${OpenSG_INCLUDE_DIR};${OpenSG_INCLUDE_DIR}/OpenSG"
             INTERFACE_LINK_LIBRARIES "OpenGL::GLU;OpenGL::GL")
