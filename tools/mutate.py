@@ -31,6 +31,8 @@ COPY = WORK / "copy"
 # at more than the folder: the view, which sees of a setting what the calls before it say, and the forms at every scale.
 SEES = {
     "Plugins": ["orlo-prefs", "plugins-tests", "model-tests"],
+    "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests"],
+    "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests"],
 }
 QUICK_SECONDS = 3.0  # on the unchanged copy
 HUNG_SECONDS = 120
