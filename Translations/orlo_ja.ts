@@ -5,11 +5,11 @@
     <name>QCommandLineParser</name>
     <message>
         <source>Displays help on commandline options.</source>
-        <translation>コマンドラインオプションのヘルプを表示する。</translation>
+        <translation>コマンドラインオプションのヘルプを表示します。</translation>
     </message>
     <message>
         <source>Displays help including Qt specific options.</source>
-        <translation>Qt固有のオプションも含むヘルプを表示する。</translation>
+        <translation>Qt固有のオプションも含むヘルプを表示します。</translation>
     </message>
 </context>
 <context>
@@ -2215,7 +2215,7 @@ undoは何かを残したときに1です。
     </message>
     <message>
         <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
-        <translation>ファイル内の、正しくなく、欠けている可能性のある項目：%1。</translation>
+        <translation>ファイル内の不正な項目 (欠けている可能性があります)：%1。</translation>
     </message>
 </context>
 <context>
@@ -2561,11 +2561,11 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
     <message>
         <source>takes true or false for &quot;locked&quot;</source>
-        <translation>「locked」にtrueまたはfalseを指定する必要があります</translation>
+        <translation>「locked」の値としてtrueまたはfalseが必要です</translation>
     </message>
     <message>
         <source>takes a text for &quot;reason&quot;</source>
-        <translation>「reason」にテキストを指定する必要があります</translation>
+        <translation>「reason」の値としてテキストが必要です</translation>
     </message>
     <message>
         <source>has &quot;%1&quot;, where only &quot;value&quot;, &quot;locked&quot; and &quot;reason&quot; can stand</source>
@@ -2589,7 +2589,7 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
     <message>
         <source>&quot;%1&quot; %2</source>
-        <translation>「%1」は、%2</translation>
+        <translation>「%1」は%2</translation>
     </message>
 </context>
 <context>
@@ -3086,7 +3086,7 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
-        <translation>%1はホスト情報%2に合いません：%3が必要です</translation>
+        <translation>%1はホストの状態の項目%2に合いません：%3が必要です</translation>
     </message>
     <message>
         <source>no variable can be called %1</source>
@@ -3158,7 +3158,7 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
     <message>
         <source>there is no fact %1</source>
-        <translation>ホスト情報%1はありません</translation>
+        <translation>ホストの状態に項目%1はありません</translation>
     </message>
     <message>
         <source>(default %1)</source>
@@ -3293,6 +3293,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>BOTTOM</source>
         <translation>下</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>ランプ</translation>
     </message>
 </context>
 <context>

@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>Edit &gt; Preferences &gt; FileIO decides over these, format by format.</source>
-        <translation>이 옵션은 편집 &gt; 환경 설정 &gt; 파일 입출력에서 형식별로 설정합니다.</translation>
+        <translation>이 옵션은 &quot;편집 &gt; 환경 설정 &gt; 파일 입출력&quot;에서 형식별로 설정합니다.</translation>
     </message>
     <message>
         <source>Progress of the import</source>
@@ -939,11 +939,11 @@
     </message>
     <message>
         <source>Edit &gt; Preferences changes what you see here.</source>
-        <translation>편집 &gt; 환경 설정에서 여기에 보이는 것을 변경할 수 있습니다.</translation>
+        <translation>&quot;편집 &gt; 환경 설정&quot;에서 여기에 보이는 것을 변경할 수 있습니다.</translation>
     </message>
     <message>
         <source>The 3D view needs an X display, or XWayland, with OpenGL. The preferences work without it.</source>
-        <translation>3D 뷰에는 OpenGL을 지원하는 X 디스플레이 또는 XWayland가 필요합니다. 환경 설정은 없어도 작동합니다.</translation>
+        <translation>3D 뷰에는 OpenGL을 지원하는 X 디스플레이 또는 XWayland가 필요합니다. 환경 설정은 이것이 없어도 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>%1 frames/s</source>
@@ -975,7 +975,7 @@
     </message>
     <message>
         <source>&amp;Zoom To</source>
-        <translation>선택 항목 확대(&amp;Z)</translation>
+        <translation>선택 항목으로 줌(&amp;Z)</translation>
     </message>
     <message>
         <source>Brings what is selected near</source>
@@ -1356,11 +1356,11 @@
     </message>
     <message>
         <source>Shows the defaults of this page. Nothing changes before OK or Apply.</source>
-        <translation>이 페이지의 기본값을 표시합니다. 확인 또는 적용을 누르기 전에는 아무것도 변경되지 않습니다.</translation>
+        <translation>이 페이지의 기본값을 표시합니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누르기 전에는 아무것도 변경되지 않습니다.</translation>
     </message>
     <message>
         <source>Lists what OK and Apply will change.</source>
-        <translation>확인 및 적용으로 변경될 내용을 나열합니다.</translation>
+        <translation>&quot;확인&quot; 및 &quot;적용&quot;으로 변경될 내용을 나열합니다.</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -1392,7 +1392,7 @@
     </message>
     <message>
         <source>All pages show their defaults. OK or Apply makes them count, Cancel takes them back.</source>
-        <translation>모든 페이지에 기본값이 표시됩니다. 확인 또는 적용을 누르면 적용되고 취소를 누르면 되돌립니다.</translation>
+        <translation>모든 페이지에 기본값이 표시됩니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누르면 적용되고 &quot;취소&quot;를 누르면 되돌립니다.</translation>
     </message>
     <message>
         <source>%1 Locked</source>
@@ -1469,7 +1469,7 @@
     </message>
     <message>
         <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation>다음 설정의 값이 바뀝니다. 확인 또는 적용을 누를 때까지 보류됩니다.</translation>
+        <translation>다음 설정의 값이 바뀝니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누를 때까지 보류됩니다.</translation>
     </message>
     <message>
         <source>Go Back</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
-        <translation>뷰에 관한 변경을 즉시 보여 줍니다. 확인 또는 적용을 누르기 전에는 아무것도 저장되지 않으며, 취소하면 뷰가 원래대로 돌아갑니다.</translation>
+        <translation>뷰에 관한 변경을 즉시 보여 줍니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누르기 전에는 아무것도 저장되지 않으며, &quot;취소&quot;를 누르면 뷰가 원래대로 돌아갑니다.</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -1693,9 +1693,9 @@
   --markdown  the catalogue of the documentation: keys, types, defaults, ranges and choices, when a new
               value counts, and where they are on the pages, with the tooltips there
 </source>
-        <translation>모듈과 그 설정을 나열합니다. 키, 형식, 값, 그리고 값이 기본값과 다르면 기본값도 표시합니다.
+        <translation>모듈과 그 설정을 나열합니다. 키, 유형, 값, 그리고 값이 기본값과 다르면 기본값도 표시합니다.
   --json      모듈의 배열 하나, 프로그램용
-  --markdown  문서의 목록: 키, 형식, 기본값, 범위와 선택 항목, 새 값이 언제
+  --markdown  문서의 목록: 키, 유형, 기본값, 범위와 선택 항목, 새 값이 언제
               적용되는지, 페이지에서의 위치와 그곳의 도구 설명
 </translation>
     </message>
@@ -1717,7 +1717,7 @@
         <source>Stores a value. VALUE is JSON of the setting&apos;s type; a text needs no quotes. A value that the control of
 the setting could not hold is refused, and so is any value of a locked setting. The viewer may be running.
 </source>
-        <translation>값을 저장합니다. VALUE는 설정 형식의 JSON이며, 텍스트에는 따옴표가 필요 없습니다. 설정의 컨트롤이 담을 수 없는
+        <translation>값을 저장합니다. VALUE는 설정 유형의 JSON이며, 텍스트에는 따옴표가 필요 없습니다. 설정의 컨트롤이 담을 수 없는
 값과 잠긴 설정의 값은 모두 거부됩니다. 뷰어가 실행 중이어도 됩니다.
 </translation>
     </message>
@@ -1751,7 +1751,7 @@ the setting could not hold is refused, and so is any value of a locked setting. 
         <source>Writes the values in force of all settings, with their types, as JSON to a file, or to the standard output
 with - or without a name. An existing file is replaced.
 </source>
-        <translation>모든 설정의 적용 중인 값을 형식과 함께 JSON으로 파일에 씁니다. - 이거나 이름이 없으면
+        <translation>모든 설정의 적용 중인 값을 유형과 함께 JSON으로 파일에 씁니다. - 이거나 이름이 없으면
 표준 출력에 씁니다. 기존 파일은 바뀝니다.
 </translation>
     </message>
@@ -1764,7 +1764,7 @@ with - or without a name. An existing file is replaced.
 of another type or out of range, and locked settings are named on the standard error stream and skipped.
   --dry-run   prints what would change, KEY  VALUE -&gt; NEW VALUE, and stores nothing
 </source>
-        <translation>export가 쓴 파일의 설정을 저장합니다. - 이면 표준 입력에서 읽습니다. 알 수 없는 키, 형식이 다르거나 범위를
+        <translation>export가 쓴 파일의 설정을 저장합니다. - 이면 표준 입력에서 읽습니다. 알 수 없는 키, 유형이 다르거나 범위를
 벗어난 값, 잠긴 설정은 표준 오류 스트림에 알리고 건너뜁니다.
   --dry-run   바뀔 내용을 KEY  VALUE -&gt; NEW VALUE 로 출력하고 아무것도 저장하지 않음
 </translation>
@@ -2455,7 +2455,7 @@ undo는 무언가를 남겼을 때 1입니다.
     <name>olSettingsCatalogue</name>
     <message>
         <source>%1 to %2</source>
-        <translation>%1~%2</translation>
+        <translation>%1 ~ %2</translation>
     </message>
     <message>
         <source>from %1</source>
@@ -2495,7 +2495,7 @@ undo는 무언가를 남겼을 때 1입니다.
     </message>
     <message>
         <source>type</source>
-        <translation>형식</translation>
+        <translation>유형</translation>
     </message>
     <message>
         <source>default</source>
@@ -3086,7 +3086,7 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
     <message>
         <source>%1 does not fit the fact %2: expected %3</source>
-        <translation>%1은(는) fact %2에 맞지 않습니다. 필요한 값: %3</translation>
+        <translation>%1은(는) 호스트 상태 항목 %2에 맞지 않습니다. 필요한 값: %3</translation>
     </message>
     <message>
         <source>no variable can be called %1</source>
@@ -3293,6 +3293,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>BOTTOM</source>
         <translation>아래</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>램프</translation>
     </message>
 </context>
 <context>

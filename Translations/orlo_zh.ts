@@ -1224,7 +1224,7 @@
     </message>
     <message>
         <source>Your change to %1 is pending.</source>
-        <translation>你将其改为 %1，此更改待应用。</translation>
+        <translation>改为 %1 的更改尚待应用。</translation>
     </message>
     <message>
         <source>&amp;Use %1</source>
@@ -3294,6 +3294,10 @@ edition. Made by `orlo-prefs list --markdown`.
         <source>BOTTOM</source>
         <translation>下</translation>
     </message>
+    <message>
+        <source>Lamp</source>
+        <translation>灯</translation>
+    </message>
 </context>
 <context>
     <name>olViewport</name>
@@ -3484,7 +3488,7 @@ edition. Made by `orlo-prefs list --markdown`.
     </message>
     <message>
         <source>Write the model, or the sample, in the format of the suffix, and end.</source>
-        <translation>以后缀所示的格式写出模型或示例，然后结束。</translation>
+        <translation>以扩展名所示的格式写出模型或示例，然后结束。</translation>
     </message>
     <message>
         <source>Import a model, write one picture of it to --output, and end.</source>

@@ -19,6 +19,7 @@
 #include <V3d_TypeOfOrientation.hxx>
 #include <gp_Ax2.hxx>
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 
@@ -27,10 +28,6 @@
 
 namespace
 {
-
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(olViewAids)
-};
 
 constexpr double cubeSize = 46.0;
 constexpr double textShare = 0.27;
@@ -57,6 +54,13 @@ bool hasLetters(const QString &text)
     const Font_UnicodeSubset letters = Font_FTFont::CharSubset(text.at(0).unicode());
     return letters == Font_UnicodeSubset_Western ||
            !Font_FontMgr::GetInstance()->FindFallbackFont(letters, Font_FontAspect_Regular).IsNull();
+}
+
+/// In the language that is spoken; in English without a font for it.
+QByteArray shownName(const char *english)
+{
+    const QString translated = QCoreApplication::translate("olViewAids", english);
+    return hasLetters(translated) ? translated.toUtf8() : QByteArray(english);
 }
 
 /// A camera that looks at the scene from its front, as deep as it is easily seen.
@@ -88,15 +92,13 @@ olViewAids::olViewAids(const Handle(AIS_InteractiveContext) & context)
     m_cube->SetDrawAxes(Standard_False);
     m_cube->SetFixedAnimationLoop(false);
     m_cube->SetAutoStartAnimation(false);
-    for (const auto &[side, name] : {std::pair(V3d_Xpos, Words::tr("RIGHT")),
-                                     {V3d_Xneg, Words::tr("LEFT")},
-                                     {V3d_Yneg, Words::tr("FRONT")},
-                                     {V3d_Ypos, Words::tr("BACK")},
-                                     {V3d_Zpos, Words::tr("TOP")},
-                                     {V3d_Zneg, Words::tr("BOTTOM")}}) {
-        // Without a font for them they stay as they are, which is English.
-        if (hasLetters(name))
-            m_cube->SetBoxSideLabel(side, name.toUtf8().constData());
+    for (const auto &[side, name] : {std::pair(V3d_Xpos, QT_TRANSLATE_NOOP("olViewAids", "RIGHT")),
+                                     {V3d_Xneg, QT_TRANSLATE_NOOP("olViewAids", "LEFT")},
+                                     {V3d_Yneg, QT_TRANSLATE_NOOP("olViewAids", "FRONT")},
+                                     {V3d_Ypos, QT_TRANSLATE_NOOP("olViewAids", "BACK")},
+                                     {V3d_Zpos, QT_TRANSLATE_NOOP("olViewAids", "TOP")},
+                                     {V3d_Zneg, QT_TRANSLATE_NOOP("olViewAids", "BOTTOM")}}) {
+        m_cube->SetBoxSideLabel(side, shownName(name).constData());
     }
 
     m_coordinateSystem->SetZLayer(Graphic3d_ZLayerId_Topmost);
@@ -148,6 +150,7 @@ void olViewAids::setScene(const Bnd_Box &scene, const Handle(Graphic3d_CLight) &
 
     const double size = scene.CornerMin().Distance(scene.CornerMax());
     m_camera = makeCamera(scene);
+    lamp->SetName(shownName(QT_TRANSLATE_NOOP("olViewAids", "Lamp")).constData());
     const Handle(AIS_LightSource) light = new AIS_LightSource(lamp);
     light->SetDisplayRange(false);
     light->SetSize(size * 0.04);

@@ -42,7 +42,6 @@ olViewLights::olViewLights(const Handle(V3d_Viewer) & viewer)
     const Handle(V3d_AmbientLight) everywhere = new V3d_AmbientLight();
     everywhere->SetIntensity(faint);
     m_lamp->SetIntensity(lampStrength);
-    m_lamp->SetName("Lamp");
     for (const Handle(Graphic3d_CLight) & light : {Handle(Graphic3d_CLight)(everywhere), m_lamp}) {
         m_viewer->AddLight(light);
         m_viewer->SetLightOn(light);

@@ -34,7 +34,6 @@ NOT_FOR_PEOPLE = {
     # languages of others: of databases, graphics cards and models; what is in the sample; names inside OpenCASCADE
     "Host/Store/": ["PRAGMA ", "BEGIN ", "VACUUM ", "CREATE ", "SELECT ", "ALTER ", "INSERT ", "DELETE ", "UPDATE ", "SQLite format 3"],
     "Scene/View/olPictureMean.cpp": ["\nattribute ", "\nuniform "],
-    "Scene/View/olViewLights.cpp": ["Lamp"],
     "Scene/Exchange/": ["facet normal ", "\\nouter loop", "texture file", "Unknown field ", "appearance ", " texture ",
                         "geometry ", "coord ", "normal ", "texCoord ", "color ", "Kd", "Ks", "Ke", "Ns ", "Shape { ",
                         "Inline", "File", "Triangles", "Parts", "Import"],

@@ -2172,7 +2172,7 @@
     </message>
     <message>
         <source>Restarting the application is mandatory after modifying the localhost only option!</source>
-        <translation>ローカルホスト限定のオプションを変更した後は、アプリケーションを再起動する必要があります！</translation>
+        <translation>「ローカルホストからの要求のみ許可」を変更した後は、アプリケーションを再起動する必要があります！</translation>
     </message>
     <message>
         <source>Allow request from &amp;localhost only</source>

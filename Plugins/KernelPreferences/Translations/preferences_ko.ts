@@ -964,7 +964,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>미리보기</translation>
+        <translation>미리 보기</translation>
     </message>
 </context>
 <context>
@@ -1248,7 +1248,7 @@
     </message>
     <message>
         <source>Animates the camera change when using Zoom To and Show All</source>
-        <translation>선택 항목 확대와 모두 표시를 사용할 때 카메라 변경을 애니메이션으로 보여 줍니다</translation>
+        <translation>&quot;선택 항목으로 줌&quot;과 &quot;모두 표시&quot;를 사용할 때 카메라 변경을 애니메이션으로 보여 줍니다</translation>
     </message>
     <message>
         <source>Animate camera c&amp;hange</source>
@@ -1419,11 +1419,11 @@
     </message>
     <message>
         <source>Interactive &amp;Material Preview</source>
-        <translation>대화형 재질 미리보기(&amp;M)</translation>
+        <translation>대화형 재질 미리 보기(&amp;M)</translation>
     </message>
     <message>
         <source>Interactive Material Preview: Use OpenGL for Interactive Rendering</source>
-        <translation>대화형 재질 미리보기: 대화형 렌더링에 OpenGL 사용</translation>
+        <translation>대화형 재질 미리 보기: 대화형 렌더링에 OpenGL 사용</translation>
     </message>
     <message>
         <source>Use OpenGL for &amp;Interactive Rendering</source>
@@ -1579,7 +1579,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Sets the occlusion culling mode. Accurate always renders all visible objects while Fast takes the visibility information from the previous frame. Note that the Fast option may cause wrong rendering when there are huge changes between frames.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;오클루전 컬링 모드를 설정합니다. 정확은 보이는 모든 개체를 항상 렌더링하고, 빠름은 이전 프레임의 가시성 정보를 사용합니다. 빠름 옵션을 사용하면 프레임 사이의 변화가 클 때 잘못 렌더링될 수 있습니다.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;오클루전 컬링 모드를 설정합니다. &quot;정확&quot;은 보이는 모든 개체를 항상 렌더링하고, &quot;빠름&quot;은 이전 프레임의 가시성 정보를 사용합니다. &quot;빠름&quot; 옵션을 사용하면 프레임 사이의 변화가 클 때 잘못 렌더링될 수 있습니다.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Accurate</source>
@@ -1623,7 +1623,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Sets the SLI mode to use. Alternate Frame only works correctly for mono rendering by rendering a frame on one GPU and the next on the second GPU. This works best for mono rendering and does not work for virtual reality headsets. Multicast Stereo only works for stereo rendering by using one GPU for each eye and therefore is also compatible with virtual reality headsets.&lt;/p&gt;&lt;p&gt;Changing this option requires a restart of ORLO.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;사용할 SLI 모드를 설정합니다. 교대 프레임은 한 프레임을 한 GPU에서, 다음 프레임을 두 번째 GPU에서 렌더링하므로 모노 렌더링에서만 올바르게 작동합니다. 모노 렌더링에 가장 적합하며 가상 현실 헤드셋에서는 작동하지 않습니다. 멀티캐스트 스테레오는 눈마다 GPU를 하나씩 사용하므로 스테레오 렌더링에서만 작동하며 가상 현실 헤드셋에서도 사용할 수 있습니다.&lt;/p&gt;&lt;p&gt;이 옵션을 변경하면 ORLO를 다시 시작해야 합니다.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;사용할 SLI 모드를 설정합니다. &quot;교대 프레임&quot;은 한 프레임을 한 GPU에서, 다음 프레임을 두 번째 GPU에서 렌더링하므로 모노 렌더링에서만 올바르게 작동합니다. 모노 렌더링에 가장 적합하며 가상 현실 헤드셋에서는 작동하지 않습니다. &quot;멀티캐스트 스테레오&quot;는 눈마다 GPU를 하나씩 사용하므로 스테레오 렌더링에서만 작동하며 가상 현실 헤드셋에서도 사용할 수 있습니다.&lt;/p&gt;&lt;p&gt;이 옵션을 변경하면 ORLO를 다시 시작해야 합니다.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>SLI Mo&amp;de</source>
@@ -2172,7 +2172,7 @@
     </message>
     <message>
         <source>Restarting the application is mandatory after modifying the localhost only option!</source>
-        <translation>localhost 전용 옵션을 변경한 후에는 프로그램을 반드시 다시 시작해야 합니다!</translation>
+        <translation>&quot;localhost의 요청만 허용&quot; 옵션을 변경한 후에는 프로그램을 반드시 다시 시작해야 합니다!</translation>
     </message>
     <message>
         <source>Allow request from &amp;localhost only</source>
@@ -2219,7 +2219,7 @@
     <message>
         <source>Do you really want to enable the Web Server?
 The Web Server allows the execution of Python commands from remote locations!</source>
-        <translation>웹 서버를 사용하시겠습니까?
+        <translation>정말 웹 서버를 사용하시겠습니까?
 웹 서버를 사용하면 원격 위치에서 Python 명령을 실행할 수 있습니다!</translation>
     </message>
     <message>
