@@ -164,7 +164,7 @@
         <translation>%1はメッシュです。この形式では保持できないため、除外されます。</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>色</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>パーツの名前</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>頂点カラー</translation>
     </message>
     <message>
@@ -2086,7 +2086,7 @@ undoは何かを残したときに1です。
         <translation>モデルの末尾に、どの面にも使用されない点があります。ファイルが途中で切れている可能性があります。</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>マテリアルファイル%1がありません。モデルには色が付きません。</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@ undoは何かを残したときに1です。
         <translation>三角形：%1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>色：%1</translation>
     </message>
     <message>
@@ -2945,7 +2945,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>ディレクトリ</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>色</translation>
     </message>
     <message>
@@ -2961,7 +2961,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>ボックス「%1」にボタン「%2」はありません：あるのは%3です</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>色のダイアログ</translation>
     </message>
     <message>
@@ -3081,7 +3081,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>noneには列を指定できません</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1は色ではありません</translation>
     </message>
     <message>
@@ -3249,7 +3249,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>3つの数値 ([1, 0.5, 0]など)</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>色のリスト ([[0, 0, 0], [1, 1, 1]]など)</translation>
     </message>
 </context>

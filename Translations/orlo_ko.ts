@@ -164,7 +164,7 @@
         <translation>%1은(는) 이 형식에 담을 수 없는 메시이므로 제외합니다.</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>색상</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>부품 이름</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>정점 색상</translation>
     </message>
     <message>
@@ -2086,7 +2086,7 @@ undo는 무언가를 남겼을 때 1입니다.
         <translation>모델이 어떤 면에서도 쓰이지 않는 점으로 끝납니다. 파일이 잘렸을 수 있습니다.</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>재질 파일 %1이(가) 없어 모델에 색상이 없습니다.</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@ undo는 무언가를 남겼을 때 1입니다.
         <translation>삼각형: %1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>색상: %1</translation>
     </message>
     <message>
@@ -2945,7 +2945,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>디렉터리</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>색상</translation>
     </message>
     <message>
@@ -2961,7 +2961,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>메시지 상자 &quot;%1&quot;에 버튼 &quot;%2&quot;이(가) 없습니다. 있는 버튼: %3</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>색상 대화 상자</translation>
     </message>
     <message>
@@ -3081,7 +3081,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>none에는 열을 지정할 수 없습니다</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1은(는) 색상이 아닙니다</translation>
     </message>
     <message>
@@ -3249,7 +3249,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>[1, 0.5, 0]과 같은 숫자 3개</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>[[0, 0, 0], [1, 1, 1]]과 같은 색상 목록</translation>
     </message>
 </context>

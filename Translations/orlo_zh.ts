@@ -164,7 +164,7 @@
         <translation>%1 是网格，此格式无法保存；已略去。</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>颜色</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>零件名称</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>顶点颜色</translation>
     </message>
     <message>
@@ -2086,7 +2086,7 @@ undo 留下未撤回的设置时也为 1。
         <translation>模型末尾有未被任何面使用的点；文件可能被截断。</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>材质文件 %1 不存在；模型没有颜色。</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@ undo 留下未撤回的设置时也为 1。
         <translation>三角形：%1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>颜色：%1</translation>
     </message>
     <message>
@@ -2945,7 +2945,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>目录</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>颜色</translation>
     </message>
     <message>
@@ -2961,7 +2961,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>对话框“%1”没有按钮“%2”；现有：%3</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>颜色对话框</translation>
     </message>
     <message>
@@ -3081,7 +3081,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>none 不能与列一起使用</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1 不是颜色</translation>
     </message>
     <message>
@@ -3249,7 +3249,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>三个数字，例如 [1, 0.5, 0]</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>颜色列表，例如 [[0, 0, 0], [1, 1, 1]]</translation>
     </message>
 </context>

@@ -97,7 +97,7 @@ private:
     void takeState();
     void redraw();
     void drawFrame();
-    [[nodiscard]] olFrameMaker::Manner manner(const QSize &size = {}) const;
+    [[nodiscard]] olFrameMaker::Options frameOptions(const QSize &size = {}) const;
     void startStill(olStillFrame &still) const;
     void drawStillSample();
     void measureFrame();

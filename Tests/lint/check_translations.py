@@ -28,7 +28,7 @@ NOT_FOR_PEOPLE = {
     "Plugins/KernelPreferences/FileIO/": ["FileIO create uber materials", "Wire", "Collada", "Parasolid"],
     "Plugins/KernelPreferences/Viewer/olRenderOptionsPreferencesGUII.cpp": ["RenderOptions local lights",
                                                                            "RenderOptions use back buffer"],
-    "Host/Session/olRecordedSettings.cpp": ["Options ", "PLMXML load ", "Render"],
+    "Host/Session/olRecordedSettings.cpp": ["PLMXML load "],
     "Apps/orlo/olImportFineness.cpp": ["Options "],
     "Sdk/State/olPlatform.cpp": ["Reset"],
     # languages of others: of databases, graphics cards and models; what is in the sample; names inside OpenCASCADE
