@@ -3538,5 +3538,9 @@ edition. Made by `orlo-prefs list --markdown`.
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>環境設定で変更を1つ適用し、画像をフォルダーに残して終了します。</translation>
     </message>
+    <message>
+        <source>there is no display to open a window on; --save needs none</source>
+        <translation>ウィンドウを開くためのディスプレイがありません。--saveにはディスプレイは不要です</translation>
+    </message>
 </context>
 </TS>

@@ -3538,5 +3538,9 @@ edition. Made by `orlo-prefs list --markdown`.
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>환경 설정에서 변경 하나를 적용하고 그림을 폴더에 남기고 끝냅니다.</translation>
     </message>
+    <message>
+        <source>there is no display to open a window on; --save needs none</source>
+        <translation>창을 열 디스플레이가 없습니다. --save에는 디스플레이가 필요하지 않습니다</translation>
+    </message>
 </context>
 </TS>

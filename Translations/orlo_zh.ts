@@ -3538,5 +3538,9 @@ edition. Made by `orlo-prefs list --markdown`.
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>在首选项中应用一处更改，将图片留在文件夹中，然后结束。</translation>
     </message>
+    <message>
+        <source>there is no display to open a window on; --save needs none</source>
+        <translation>没有可用于打开窗口的显示；--save 不需要显示</translation>
+    </message>
 </context>
 </TS>
