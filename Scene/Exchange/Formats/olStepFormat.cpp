@@ -3,6 +3,7 @@
 #include "Model/olPlainLook.h"
 
 #include <IFSelect_ReturnStatus.hxx>
+#include <Interface_InterfaceModel.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressScope.hxx>
 #include <STEPCAFControl_Controller.hxx>
