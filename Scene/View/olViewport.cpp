@@ -18,6 +18,7 @@
 #include <Standard_Failure.hxx>
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
@@ -116,17 +117,26 @@ public:
     int measuredFrames = 0;
 };
 
-void olViewport::prepareApplication()
+bool olViewport::prepareApplication()
 {
-    // Only X11 lets the renderer share the context; a Wayland session has an X server too.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    // Only X11 lets the renderer share the context. A Wayland session mostly has an X server too, and where it has
+    // none, all but the view works.
+    QByteArrayList platforms{qgetenv("QT_QPA_PLATFORM")};
+    if (platforms.first().isEmpty()) {
+        platforms.clear();
+        for (const auto &[display, platform] : {std::pair("DISPLAY", "xcb"), {"WAYLAND_DISPLAY", "wayland"}}) {
+            if (!qEnvironmentVariableIsEmpty(display))
+                platforms << platform;
+        }
+        qputenv("QT_QPA_PLATFORM", platforms.isEmpty() ? "offscreen" : platforms.join(';'));
+    }
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QSurfaceFormat format;
     format.setDepthBufferSize(24);
     format.setStencilBufferSize(8);
     format.setProfile(QSurfaceFormat::CompatibilityProfile);
     QSurfaceFormat::setDefaultFormat(format);
+    return !platforms.isEmpty();
 }
 
 bool olViewport::isSupported() { return olX11Display() != nullptr; }

@@ -32,7 +32,7 @@ NOT_FOR_PEOPLE = {
     "Apps/orlo/olImportFineness.cpp": ["Options "],
     "Sdk/State/olPlatform.cpp": ["Reset"],
     # languages of others: of databases, graphics cards and models; what is in the sample; names inside OpenCASCADE
-    "Host/Store/": ["PRAGMA ", "BEGIN ", "VACUUM ", "CREATE ", "SELECT ", "ALTER ", "INSERT ", "DELETE ", "UPDATE ", "SQLite format 3"],
+    "Host/Store/": ["PRAGMA ", "BEGIN ", "CREATE ", "SELECT ", "ALTER ", "INSERT ", "DELETE ", "UPDATE ", "SQLite format 3"],
     "Scene/View/olPictureMean.cpp": ["\nattribute ", "\nuniform "],
     "Scene/Exchange/": ["facet normal ", "\\nouter loop", "texture file", "Unknown field ", "appearance ", " texture ",
                         "geometry ", "coord ", "normal ", "texCoord ", "color ", "Kd", "Ks", "Ke", "Ns ", "Shape { ",
