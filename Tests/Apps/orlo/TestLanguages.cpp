@@ -17,10 +17,12 @@
 #include <QAction>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <functional>
 #include <stdexcept>
@@ -145,6 +147,13 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
     ASSERT_TRUE(dialog.openAt("Camera fov"));
     dialog.resize(1100, 700);
     look(dialog, "preferences");
+    const QString fov = QCoreApplication::translate("olCameraPreferencesGUI", "Field of View");
+    for (const QString &name : {fov, QString("field of view")}) {
+        dialog.findChild<QLineEdit *>("search")->setText(name);
+        EXPECT_EQ(dialog.findChild<QTreeView *>("found")->model()->index(0, 0).data().toString(), fov);
+        look(dialog, "search for " + name);
+    }
+    dialog.findChild<QLineEdit *>("search")->clear();
     lookAtWhatOpens("question", [&] {
         olConsentBox box(*session.warning("WebInterface enable web server2", true), &dialog);
         box.exec();
