@@ -3,7 +3,6 @@
 #include "State/olPreferencesEntry.h"
 #include "Support/BenchHost.h"
 
-#include <QVariant>
 #include <benchmark/benchmark.h>
 
 #include <functional>

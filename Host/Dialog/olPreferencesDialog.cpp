@@ -1048,9 +1048,13 @@ void olPreferencesDialog::showHistory()
     view->open();
 }
 
-void olPreferencesDialog::goBack(std::size_t saves)
+void olPreferencesDialog::goBack(int number)
 {
-    const olResult<olUndo> undo = olUndo::of(m_session, saves);
+    // Others may have saved while the list was shown.
+    const olResult<olUndo> now = olUndo::of(m_session, 0);
+    const auto isTakenBack = [number](const olStoreRows::Save &save) { return save.number >= number; };
+    const auto saves = now.isOk() ? std::count_if(now->history().begin(), now->history().end(), isTakenBack) : 0;
+    const olResult<olUndo> undo = olUndo::of(m_session, std::size_t(saves));
     if (!undo.isOk()) {
         m_message->showError(undo.error());
         return;

@@ -21,30 +21,6 @@ constexpr QChar border(0x1f);
 /// As it is compared: whoever writes "antialiasing" also means "Anti-Aliasing".
 QString folded(QString text) { return text.remove(QLatin1Char('-')).toCaseFolded(); }
 
-/// How many letters must be typed in another way to get from one word to the other; more than the most is not counted.
-int distance(const QString &left, const QString &right, int most)
-{
-    if (std::abs(left.size() - right.size()) > most)
-        return most + 1;
-    std::vector<int> before(std::size_t(right.size()) + 1);
-    std::iota(before.begin(), before.end(), 0);
-    std::vector<int> last = before;
-    std::vector<int> row = before;
-    for (int at = 0; at < left.size(); ++at) {
-        row[0] = at + 1;
-        for (int other = 0; other < right.size(); ++other) {
-            const auto here = std::size_t(other);
-            row[here + 1] =
-                std::min({last[here] + (left[at] == right[other] ? 0 : 1), last[here + 1] + 1, row[here] + 1});
-            // Two letters in the wrong order are one slip.
-            if (at > 0 && other > 0 && left[at] == right[other - 1] && left[at - 1] == right[other])
-                row[here + 1] = std::min(row[here + 1], before[here - 1] + 1);
-        }
-        before = std::exchange(last, row);
-    }
-    return last.back();
-}
-
 /// Whether the word stands there but for a slip of the fingers. Short words have too many neighbours for that.
 bool isNearly(const QString &text, const QString &word)
 {
@@ -58,7 +34,7 @@ bool isNearly(const QString &text, const QString &word)
     static const QRegularExpression apart(QStringLiteral("[^\\w]+"));
     const auto parts = text.splitRef(apart, Qt::SkipEmptyParts);
     return std::any_of(parts.begin(), parts.end(),
-                       [&](const QStringRef &part) { return distance(word, part.toString(), most) <= most; });
+                       [&](const QStringRef &part) { return olTypingDistance(word, part.toString(), most) <= most; });
 }
 
 /// Empty where that is what the person sees.
@@ -102,6 +78,29 @@ bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const
 }
 
 } // namespace
+
+int olTypingDistance(const QString &left, const QString &right, int most)
+{
+    if (std::abs(left.size() - right.size()) > most)
+        return most + 1;
+    std::vector<int> before(std::size_t(right.size()) + 1);
+    std::iota(before.begin(), before.end(), 0);
+    std::vector<int> last = before;
+    std::vector<int> row = before;
+    for (int at = 0; at < left.size(); ++at) {
+        row[0] = at + 1;
+        for (int other = 0; other < right.size(); ++other) {
+            const auto here = std::size_t(other);
+            row[here + 1] =
+                std::min({last[here] + (left[at] == right[other] ? 0 : 1), last[here + 1] + 1, row[here] + 1});
+            // Two letters in the wrong order are one slip.
+            if (at > 0 && other > 0 && left[at] == right[other - 1] && left[at - 1] == right[other])
+                row[here + 1] = std::min(row[here + 1], before[here - 1] + 1);
+        }
+        before = std::exchange(last, row);
+    }
+    return last.back();
+}
 
 olSettingsSearch::olSettingsSearch()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Editing/olPageIndex.h"
+#include "olHostExport.h"
 
 #include <QObject>
 #include <QPointer>
@@ -13,6 +14,9 @@
 #include <vector>
 
 class olPreferencesEntry;
+
+/// How many letters must be typed in another way to get from one word to the other; more than the most is not counted.
+[[nodiscard]] ORLO_HOST_EXPORT int olTypingDistance(const QString &left, const QString &right, int most);
 
 /// One control as the search knows it. The widgets are null once they are gone.
 struct olFoundControl {

@@ -202,7 +202,7 @@ olPreferencesSession::~olPreferencesSession() { stop(); }
 
 olResult<> olPreferencesSession::loadStore(olStoreUse use)
 {
-    const olResult<olStoreOpening> opened = m_store.open(use);
+    const olResult<olStoreRows::Contents> opened = m_store.open(use);
     if (opened.isOk()) {
         m_stored = opened->values;
         if (!opened->notice.isEmpty())
@@ -392,7 +392,7 @@ olResult<> olPreferencesSession::save()
 /// What this run holds is newer than any copy, so all of it goes into the file that it mends.
 olResult<> olPreferencesSession::saveIntoMended(const olFailure &failure, const Values &kept)
 {
-    const olResult<olStoreOpening> opened = m_store.open();
+    const olResult<olStoreRows::Contents> opened = m_store.open();
     if (!opened.isOk())
         return failure;
     // What another program has mended may hold newer values of its own.

@@ -15,7 +15,7 @@ SOURCE = pathlib.Path(__file__).resolve().parents[2]
 COMPLETIONS = SOURCE / "tools/completion"
 # What is typed before the tabulator, and the words that stand on the line after it.
 TYPED = [("--ed", ["--edition"]), ("--edition de", ["--edition", "design"]), ("list --ma", ["list", "--markdown"]),
-         ("reset Camera", ["reset", "Camera fov"]),
+         ("reset Camera", ["reset", "Camera fov"]), ("profile apply far", ["profile", "apply", "far away"]),
          ("--edition design set Camera", ["--edition", "design", "set", "Camera fov"])]
 
 
@@ -23,6 +23,9 @@ class Shells(tool_test.ToolTest):
     def setUp(self):
         super().setUp()
         self.folder_of_programs = pathlib.Path(self.program).parent
+        profile = self.folder / ".config/orlo/profiles/far away.json"
+        profile.parent.mkdir(parents=True)
+        profile.write_text("{}")
         self.environment["PATH"] = f"{self.folder_of_programs}:{os.environ['PATH']}"
 
     def listed(self, program, *command):
@@ -62,6 +65,17 @@ class Shells(tool_test.ToolTest):
             result = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", page], capture_output=True,
                                     encoding="utf-8", check=False)
             self.assertEqual((result.stderr, result.returncode), ("", 0))
+
+    def test_bash_completes_commands_options_and_keys(self):
+        script = (f"source {COMPLETIONS}/orlo-prefs; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _orlo_prefs\n"
+                  'printf "%s\\n" "${COMPREPLY[@]}"')
+        cases = [(typed.split(), words[-1].replace(" ", "\\ ")) for typed, words in TYPED]
+        for typed, offered in [*cases, (["set", "Camera\\ f"], "Camera\\ fov"), (["reset", '"Camera f'], "Camera fov"),
+                               (["get", "Camera\\ fov", ""], ""), (["get", "no such"], "")]:
+            with self.subTest(typed):
+                result = subprocess.run(["bash", "-c", script, "bash", "orlo-prefs", *typed], env=self.environment,
+                                        capture_output=True, encoding="utf-8", check=False)
+                self.assertEqual((result.stdout, result.stderr), (offered + "\n", ""))
 
     @unittest.skipUnless(shutil.which("fish"), "needs fish")
     def test_fish_completes_commands_options_and_keys(self):
