@@ -3,6 +3,7 @@
 #include "State/olPreferencesEntry.h"
 #include "Support/BenchHost.h"
 
+#include <QVariant>
 #include <benchmark/benchmark.h>
 
 #include <functional>

@@ -1597,6 +1597,14 @@
         <source>All settings of this run were then saved into it.</source>
         <translation>その後、今回の実行のすべての設定がこのファイルに保存されました。</translation>
     </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>モジュール %1 でエラーが発生しました (理由は不明です)。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>モジュール %1 でエラーが発生しました：%2。</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>

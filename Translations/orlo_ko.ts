@@ -1597,6 +1597,14 @@
         <source>All settings of this run were then saved into it.</source>
         <translation>그런 다음 이번 실행의 모든 설정을 이 파일에 저장했습니다.</translation>
     </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>모듈 %1에서 오류가 발생했으며 이유를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>모듈 %1에서 오류가 발생했습니다: %2.</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>

@@ -1597,6 +1597,14 @@
         <source>All settings of this run were then saved into it.</source>
         <translation>随后已将本次运行的所有设置保存到其中。</translation>
     </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>模块 %1 出错，且未说明原因。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>模块 %1 出错：%2。</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>

@@ -37,8 +37,8 @@ run(${PYTHON} ${SOURCE}/Tests/lint/check_needed.py ${WORK}/build/bin/libOrloSdk.
     ${WORK}/build/bin/libKernelPreferences.so SYSTEM)
 
 # What is refused stands in the host's log.
-run(${COMPILER} -std=c++17 -fPIC -I${SOURCE}/Sdk -I${installed}/include -I${installed}/include/OpenSG ${here}/Loaders.cpp
-    -o ${WORK}/loaders -L${WORK}/build/bin -lOrloSdk -L${installed}/lib -lOSGSystem -lOSGBase -lGLU -lGL
+run(${COMPILER} -std=c++17 -I${installed}/include -I${installed}/include/OpenSG ${here}/Loaders.cpp
+    -o ${WORK}/loaders -Wl,--no-as-needed -L${WORK}/build/bin -lOrloSdk -L${installed}/lib -lOSGSystem -lOSGBase -lGLU -lGL
     -Wl,-rpath,${WORK}/build/bin:${installed}/lib)
 execute_process(COMMAND ${WORK}/loaders RESULT_VARIABLE result ERROR_VARIABLE log)
 if(NOT result EQUAL 0 OR NOT log STREQUAL "info: OpenSG has no loader for vrml; options for it are not kept.\n")
