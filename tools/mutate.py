@@ -6,7 +6,8 @@ A place is a condition, a number, a text such as a key, a call left out, or two 
 a control. N of them (30) are drawn by the seed (1), as many of each kind as there are. Each is changed in a copy of the
 sources as committed, under build/mutate; there the copy is built, and its tests that can see the folders are run, the
 likely ones first and those that take long last. Where no test fails, the change has survived: a test is missing, or
-nobody could notice it. A change that does not compile counts for nothing, and another one is drawn.
+nobody could notice it; these are listed in Tests/survivors.md. A change that does not compile counts for nothing, and
+another one is drawn.
 
 What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped; with --again it tries
 those that survived once more, for when the tests have become sharper. The environment may name a command that building
