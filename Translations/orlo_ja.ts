@@ -747,8 +747,8 @@
         <translation>空のグループを削除(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Unify Surface Normals</source>
-        <translation>サーフェスの法線を統一(&amp;U)</translation>
+        <source>Unif&amp;y Surface Normals</source>
+        <translation>サーフェスの法線を統一(&amp;Y)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>

@@ -747,8 +747,8 @@
         <translation>빈 그룹 제거(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Unify Surface Normals</source>
-        <translation>곡면 법선 통일(&amp;U)</translation>
+        <source>Unif&amp;y Surface Normals</source>
+        <translation>곡면 법선 통일(&amp;Y)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>

@@ -747,8 +747,8 @@
         <translation>移除空组(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Unify Surface Normals</source>
-        <translation>统一曲面法线(&amp;U)</translation>
+        <source>Unif&amp;y Surface Normals</source>
+        <translation>统一曲面法线(&amp;Y)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>
