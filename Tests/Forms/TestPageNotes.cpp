@@ -4,7 +4,9 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace
 {
@@ -36,6 +38,7 @@ TEST_F(PageNotes, SayWhatHoldsForAllOrMostOfAPage)
     EXPECT_EQ(noteOn("Camera"), QString());
     EXPECT_TRUE(noteOn("Catia V4").contains(QStringLiteral("reader")));
     EXPECT_TRUE(noteOn("Step").contains(QStringLiteral("next import")));
+    EXPECT_TRUE(noteOn("STL").contains(QStringLiteral("next import"))) << "but for what it writes";
     EXPECT_EQ(noteOn("MainWindow"), QString());
 }
 
@@ -52,10 +55,16 @@ TEST_F(PageNotes, UnitsStandInTheFieldsOfNumbers)
         return texts;
     };
     dialog.open(QStringLiteral("Navigator"));
-    EXPECT_EQ(units("Camera"), QStringList{QString::fromUtf8("°")});
+    EXPECT_EQ(units("Camera"), (QStringList{QString::fromUtf8("°"), "mm", "mm", "mm", "mm", "mm"}));
     EXPECT_EQ(units("Navigator"), (QStringList{"px", "ms"}));
     dialog.open(QStringLiteral("Step"));
     EXPECT_EQ(units("Step"), QStringList()) << "they stand behind the fields already";
+    dialog.open(QStringLiteral("MainWindow"));
+    EXPECT_EQ(units("MainWindow"), QStringList{"= 100 %"});
+    auto &opacity = *control<QWidget>("MainWindow", "windowOpacity").findChild<QLineEdit *>();
+    opacity.selectAll();
+    QTest::keyClicks(&opacity, QStringLiteral("0.35"));
+    EXPECT_EQ(units("MainWindow"), QStringList{"= 35 %"});
 }
 
 } // namespace
