@@ -137,6 +137,7 @@ class Batch(tool_test.ToolTest):
                 (["--nonsense"], "Unknown option 'nonsense'.")):
             with self.subTest(arguments=arguments):
                 self.assert_refused(self.stored(*arguments), f"orlo: {message}")
+
     def test_a_start_that_fails_shows_a_window_where_there_is_somebody_to_ask(self):
         foreign = sqlite3.connect(self.folder / "foreign.db")
         foreign.execute("CREATE TABLE t (x)")
@@ -165,11 +166,6 @@ class Batch(tool_test.ToolTest):
                 self.assertEqual(result.returncode, 0, result.stderr)
                 self.assertIn("olOSGWidget::setFov(-1, 25)", result.stdout)
                 self.assertEqual(len(list(folder.glob("*.png"))), 7)
-
-    def test_a_missing_plugin_is_told_with_status_1(self):
-        missing = self.stored("--sample", "--save", "m.step", plugin="/missing.so")
-        self.assertIn("/missing.so", missing.stderr)
-        self.assertEqual(missing.returncode, 1)
 
 
 if __name__ == "__main__":

@@ -29,6 +29,7 @@ WORDS = {
 
 CONTROLS = {
     'show Camera "Fov"': 'Camera: there is no control "Fov"; there is: "Base/Field of View", "Stereo/Eye Separation", ',
+    'show "Render Options" "Multisampling"': 'Render Options: 4 controls answer to "Multisampling": ',
     'edit Navigator "Panning Speed" 2': 'Navigator "Panning Speed" is disabled',
     'edit Help "Help Path" "x"': 'Help "Help Path" is hidden',
     'click Tesselation "Remove"': 'Tesselation "Remove" is disabled',

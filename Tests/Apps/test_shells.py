@@ -63,6 +63,17 @@ class Shells(tool_test.ToolTest):
                                     encoding="utf-8", check=False)
             self.assertEqual((result.stderr, result.returncode), ("", 0))
 
+    def test_bash_completes_commands_options_and_keys(self):
+        script = (f"source {COMPLETIONS}/orlo-prefs; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _orlo_prefs\n"
+                  'printf "%s\\n" "${COMPREPLY[@]}"')
+        cases = [(typed.split(), words[-1].replace(" ", "\\ ")) for typed, words in TYPED]
+        for typed, offered in [*cases, (["set", "Camera\\ f"], "Camera\\ fov"), (["reset", '"Camera f'], "Camera fov"),
+                               (["get", "Camera\\ fov", ""], ""), (["get", "no such"], "")]:
+            with self.subTest(typed):
+                result = subprocess.run(["bash", "-c", script, "bash", "orlo-prefs", *typed], env=self.environment,
+                                        capture_output=True, encoding="utf-8", check=False)
+                self.assertEqual((result.stdout, result.stderr), (offered + "\n", ""))
+
     @unittest.skipUnless(shutil.which("fish"), "needs fish")
     def test_fish_completes_commands_options_and_keys(self):
         for typed, words in TYPED:

@@ -1,16 +1,23 @@
 #pragma once
 
-#include "Model/GuardModel.h"
 #include "Model/RandomLines.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olEdition.h"
 #include "State/olJournal.h"
 #include "olScriptRunner.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QString>
 
+#include <boost/any.hpp>
+
+#include <cstdio>
+#include <map>
 #include <memory>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 /// What should never have come about.
 class ModelFailure : public std::runtime_error
@@ -37,17 +44,13 @@ private:
     void writeDown(const QByteArray &line);
     void check(const QByteArray &line, const DrivenModule &module, const Values &before);
     void checkTypes(const DrivenModule &module) const;
-    void checkOrigins(const DrivenModule &module);
     [[nodiscard]] static Values valuesOf(const DrivenModule &module);
 
     RandomLines m_lines;
     std::vector<DrivenModule> m_modules;
     std::FILE *m_nowhere;
     QFile m_script;
-    std::unique_ptr<GuardModel> m_model;
     olPreferencesSession m_session;
     std::unique_ptr<olScriptRunner> m_runner;
-    GuardModel::Calls m_calls;
-    std::set<std::string> m_liveBefore;
-    std::map<std::string, std::set<std::string>> m_readBefore;
+    std::vector<std::string> m_calls;
 };

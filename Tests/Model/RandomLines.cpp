@@ -38,11 +38,10 @@ QByteArray RandomLines::next(const DrivenModule *&module)
     const int dice = below(100);
     if (dice < 3)
         return host();
-    // The modules whose calls are foretold get their fair share among the many formats.
-    const auto isForetold = [](const DrivenModule &one) { return one.entry->category().isEmpty(); };
+    // The modules that differ from each other get their fair share among the many formats.
     do
         module = &m_modules[std::size_t(below(int(m_modules.size())))];
-    while (!isForetold(*module) && below(3) != 0);
+    while (!module->entry->category().isEmpty() && below(3) != 0);
 
     const QByteArray name = quoted(module->name);
     if (dice < 30)
@@ -131,14 +130,14 @@ QByteArray RandomLines::number(bool isWhole)
     case 1:
         return isWhole ? "2147483647" : QByteArray::number(below(2) == 0 ? 1e30 : 0.015625);
     default:
-        return QByteArray::number(100000 + ++m_unique) + (isWhole ? "" : ".5");
+        return QByteArray::number(below(100000)) + (isWhole ? "" : ".5");
     }
 }
 
 QByteArray RandomLines::text()
 {
     static const QByteArray odd[] = {R"("")", R"("1e5")", R"("-,5")", R"("\"\\,=\n")", "\"\xc3\xbc\""};
-    return below(3) == 0 ? odd[below(int(std::size(odd)))] : "\"text" + QByteArray::number(++m_unique) + '"';
+    return below(3) == 0 ? odd[below(int(std::size(odd)))] : "\"text" + QByteArray::number(below(1000)) + '"';
 }
 
 QByteArray RandomLines::list(const std::string &elementType)

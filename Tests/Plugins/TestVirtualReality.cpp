@@ -21,15 +21,6 @@ protected:
     static olPreferencesEntry &vr() { return module("Virtual Reality"); }
     static QComboBox &renderMode() { return control<QComboBox>("Virtual Reality", "renderMode"); }
 
-    static void expectEditable(bool foveated)
-    {
-        const auto isEnabled = [](const char *name) { return control<QWidget>("Virtual Reality", name).isEnabled(); };
-        for (const char *name : {"foveatedFovFactor", "foveatedResolutionScale", "nonFoveatedResolutionScale"})
-            EXPECT_EQ(isEnabled(name), foveated) << name;
-        for (const char *name : {"frontViewResolutionScale", "sideViewResolutionScale", "singleTexturePerEye"})
-            EXPECT_EQ(isEnabled(name), !foveated) << name;
-    }
-
     Calls applied()
     {
         calls.take();
@@ -68,18 +59,6 @@ TEST_F(VirtualReality, TheRenderModeIsInvertedAndFillingItIsSilent)
     EXPECT_FALSE(service.getBool(foveatedKey, true));
     EXPECT_EQ(service.getFloat("StarVR Foveated Resolution Scale", 1.0f), 0.01f)
         << "sliders take less than their handles reach";
-}
-
-TEST_F(VirtualReality, OnlyWhatTheRenderModeUsesCanBeEdited)
-{
-    expectEditable(renderMode().currentIndex() == 0);
-    for (const bool foveated : {false, true, false}) {
-        service.setBool(foveatedKey, foveated);
-        vr().updateGUI();
-        expectEditable(foveated);
-    }
-    renderMode().setCurrentIndex(0);
-    expectEditable(true);
 }
 
 TEST_F(VirtualReality, OnAnotherDisplayThanTheHeadsetNothingRestarts)

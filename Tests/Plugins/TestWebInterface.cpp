@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -128,35 +127,22 @@ TEST_F(WebInterface, ASwitchInTheEnvironmentCountsAtConstructionAlone)
     EXPECT_EQ(applied(), (Calls{stop, "olWebInterface::setDebugMode(true)"}));
 }
 
-/// Presses that button of each box, or Escape where there is none, and keeps the last one's buttons.
+/// Presses that button of each box, or Escape where there is none.
 class Answer : public BoxWatch
 {
 public:
-    explicit Answer(const QString &button) : BoxWatch([this, button](QMessageBox &box) { press(box, button); }) {}
-
-    QString defaultButton;
-    QMap<QString, QMessageBox::ButtonRole> buttons;
-
-private:
-    void press(QMessageBox &box, const QString &button)
+    explicit Answer(const QString &button)
+        : BoxWatch([button](QMessageBox &box) {
+              for (QAbstractButton *each : box.buttons()) {
+                  if (each->text() == button)
+                      return each->click();
+              }
+              QTest::keyClick(&box, Qt::Key_Escape);
+          })
     {
-        QAbstractButton *wanted = nullptr;
-        const auto all = box.buttons();
-        for (QAbstractButton *each : all) {
-            buttons[each->text()] = box.buttonRole(each);
-            if (static_cast<QPushButton *>(each)->isDefault())
-                defaultButton = each->text();
-            if (each->text() == button)
-                wanted = each;
-        }
-        if (wanted)
-            wanted->click();
-        else
-            QTest::keyClick(&box, Qt::Key_Escape);
     }
 };
 
-// What the box says is in the transcript of a script.
 TEST_F(WebInterface, AsksBeforeTheServerIsSwitchedOnAndARefusalGoesBackSilently)
 {
     for (const char *reply : {"Do Not Enable", "", "Enable"}) {
@@ -167,9 +153,6 @@ TEST_F(WebInterface, AsksBeforeTheServerIsSwitchedOnAndARefusalGoesBackSilently)
         const Answer answer{QLatin1String(reply)};
         box("enableWebServer").setChecked(true);
         EXPECT_EQ(answer.count, 1);
-        EXPECT_EQ(answer.buttons, (QMap<QString, QMessageBox::ButtonRole>{{"Enable", QMessageBox::AcceptRole},
-                                                                          {"Do Not Enable", QMessageBox::RejectRole}}));
-        EXPECT_EQ(answer.defaultButton, "Do Not Enable");
         EXPECT_EQ(box("enableWebServer").isChecked(), qstrcmp(reply, "Enable") == 0);
         EXPECT_EQ(toggles.size(), 1) << "the user's own toggle alone";
         for (const char *name : {"port", "portLabel", "allowedHosts", "localhostOnly", "securePython"})

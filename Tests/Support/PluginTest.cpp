@@ -1,9 +1,8 @@
 #include "Support/PluginTest.h"
 
-#include "KernelServices/olKernelServiceFactory.h"
-#include "KernelServices/olPreferencesService.h"
 #include "State/olHostState.h"
 #include "State/olPreferencesRegistry.h"
+#include "Support/CleanHost.h"
 
 #include <stdexcept>
 
@@ -21,13 +20,8 @@ PluginTest::~PluginTest() { plugin.unload(); }
 void PluginTest::restart(olEdition edition)
 {
     plugin.unload();
-    const olMessage::Entries left = record().entries();
-    for (const auto &entry : left)
-        record().remove(entry.first);
-    olKernelServiceFactory::the<olPreferencesService>()->clear();
-    olHostState &host = olHostState::the();
-    host.reset();
-    host.edition = edition;
+    cleanHost();
+    olHostState::the().edition = edition;
 
     const olResult<> loaded = plugin.load(pluginUnderTest());
     if (!loaded.isOk())

@@ -1,4 +1,5 @@
-"""docs/settings-in-the-view.md says of exactly those settings that they are only recorded of which the host says so too.
+"""docs/settings-in-the-view.md names every setting, and says of exactly those that they are only recorded of which the
+host says so too.
 
     check_recorded.py TOOL REPOSITORY
 """
@@ -29,6 +30,16 @@ def told(section, name):
     return next((text for text in section.split("\n\n") if not text.startswith("|") and name in " ".join(text.split())), "")
 
 
+def unexplained(modules, document):
+    """Every setting is named where it stands what it does here: as the page calls it, or without a control by its key."""
+    words = " ".join(document.split())
+    for module in modules:
+        for setting in module["settings"]:
+            name = setting.get("label") or f"`{setting['key']}`"
+            if name not in words:
+                yield f"it says nothing of {name} ({setting['key']})"
+
+
 def faults(modules, document):
     of_module = {name: text for title, text in sections(document) for name in title.split(", ")}
     for module in modules:
@@ -50,9 +61,11 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         listed = subprocess.run([tool, "--store", f"{folder}/preferences.db", "list", "--json"], check=True,
                                 capture_output=True, encoding="utf-8").stdout
-    found = list(faults(json.loads(listed), (repository / "docs/settings-in-the-view.md").read_text()))
+    modules, document = json.loads(listed), (repository / "docs/settings-in-the-view.md").read_text()
+    found = [*unexplained(modules, document), *faults(modules, document)]
     print("\n".join(found) or "no fault")
     sys.exit(1 if found else 0)
 
 
-main()
+if __name__ == "__main__":
+    main()

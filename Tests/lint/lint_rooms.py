@@ -74,6 +74,9 @@ def include_faults(root, path):
         # What moc and uic make, and OpenSG's own headers.
         if places and room_of(places[0]) not in allowed:
             yield f"{path}: {room} includes {name} of {room_of(places[0])}, which its line of the table does not name"
+        # What plug-ins include cannot need what is not installed.
+        if places and path.suffix == ".h" and room in SDK.split() and room_of(places[0]) == "Sdk/State":
+            yield f"{path}: a header of the SDK includes {name}, which stands behind it"
 
 
 def main():

@@ -6,6 +6,7 @@
 
 import argparse
 import difflib
+import json
 import os
 import re
 import shutil
@@ -14,9 +15,8 @@ import sys
 from pathlib import Path
 
 PLUGIN = "Plugins/KernelPreferences"
-FORMATS = "Tests/Plugins/cad-formats.txt"
 TRANSCRIPTS = "--gtest_filter=CallsOfSettings*:Pages*:Reactions*:ShownValues*"
-CHECKS = "--gtest_filter=Contract*:CadFormats*:CallsOfSettings*:Pages*:Reactions*:ShownValues*:Descriptions*"
+CHECKS = "--gtest_filter=Contract*:CallsOfSettings*:Pages*:Reactions*:ShownValues*:Descriptions*"
 
 
 def insert(file, line, behind):
@@ -30,7 +30,7 @@ def apply(source, copy):
     shutil.rmtree(copy, ignore_errors=True)
     shutil.copytree(source / PLUGIN, copy / PLUGIN)
     transcripts = [file.relative_to(source) for file in source.glob("Tests/Plugins/*.expected")]
-    for name in [*transcripts, FORMATS, "docs/settings-in-the-view.md"]:
+    for name in [*transcripts, "docs/settings-in-the-view.md"]:
         (copy / name).parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(source / name, copy / name)
 
@@ -38,12 +38,10 @@ def apply(source, copy):
     files = re.findall(r"(?s)^`(FileIO/\w+\.(?:h|cpp))`\n\n```cpp\n(.*?)```", document, re.M)
     for name, text in files:
         (copy / PLUGIN / name).write_text(text)
-    include, creation, row = re.search(
-        r"(?s)`olKernelPreferences.cpp`.*?```cpp\n(#include.*?)```.*?```cpp\n(    create.*?)```.*?  ```text\n  (.*?)  ```",
-        document).groups()
+    include, creation = re.search(
+        r"(?s)`olKernelPreferences.cpp`.*?```cpp\n(#include.*?)```.*?```cpp\n(    create.*?)```", document).groups()
     insert(copy / PLUGIN / "olKernelPreferences.cpp", include, '#include "FileIO/')
     insert(copy / PLUGIN / "olKernelPreferences.cpp", creation, "    create<olPLMXML")
-    insert(copy / FORMATS, row, "PLM XML")
 
 
 def check(source, copy, options):
@@ -65,11 +63,10 @@ def check(source, copy, options):
             sys.exit(f"{expected} changes for other modules:\n" + "\n".join(changed))
         shutil.move(now, expected)
 
-    listed = run(options.tool, "--store", str(copy / "store.db"), "--plugin", options.plugin, "list", "--markdown")
-    (copy / "docs/settings.md").write_text(listed.stdout)
+    listed = run(options.tool, "--store", str(copy / "store.db"), "--plugin", options.plugin, "list", "--json")
     sys.path.insert(0, str(source / "Tests/lint"))
-    from lint_sources import unexplained_settings
-    faults = list(unexplained_settings(copy))
+    from check_recorded import unexplained
+    faults = list(unexplained(json.loads(listed.stdout), (copy / "docs/settings-in-the-view.md").read_text()))
     judged = run(options.tests, CHECKS)
     if faults or judged.returncode != 0 or "ParasolidOptions" not in listed.stdout:
         sys.exit("\n".join([*faults, listed.stderr, judged.stdout, judged.stderr]))
