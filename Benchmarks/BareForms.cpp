@@ -18,6 +18,8 @@
 #include "ui_olWebInterfacePreferencesGUI.h"
 #include "ui_olWrlPreferencesGUI.h"
 
+#include <map>
+
 namespace
 {
 
@@ -55,19 +57,12 @@ constexpr int cadFormats = 18;
 
 } // namespace
 
-void BareForms::setUp(const std::string &moduleClass, QWidget &widget)
-{
-    const auto found = forms().find(moduleClass);
-    if (found == forms().end())
-        setUpForm<Ui::olFileTypePreferencesGUI>(widget);
-    else
-        found->second(widget);
-}
-
 std::unique_ptr<QWidget> BareForms::of(const std::string &moduleClass)
 {
     auto widget = std::make_unique<QWidget>();
-    setUp(moduleClass, *widget);
+    const auto found = forms().find(moduleClass);
+    const SetUp setUp = found == forms().end() ? &setUpForm<Ui::olFileTypePreferencesGUI> : found->second;
+    setUp(*widget);
     return widget;
 }
 

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,8 +14,5 @@ std::vector<std::unique_ptr<QWidget>> all();
 
 /// The form of one module, by the module's class.
 std::unique_ptr<QWidget> of(const std::string &moduleClass);
-
-/// Sets the form up in a widget of the caller's.
-void setUp(const std::string &moduleClass, QWidget &widget);
 
 } // namespace BareForms

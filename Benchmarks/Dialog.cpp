@@ -10,17 +10,9 @@
 #include <KConfigSkeleton>
 #include <KSharedConfig>
 #include <QApplication>
-#include <QCheckBox>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QEvent>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QScrollArea>
 #include <QSettings>
-#include <QTreeWidget>
 #include <benchmark/benchmark.h>
 
 namespace
@@ -62,16 +54,17 @@ enum class Opening { First, Second };
 
 /// From nothing to the first page painted, in a host that has started but never shown a dialog; or once more. The
 /// memory is that of host, modules and dialog.
-void openDialog(benchmark::State &state, const QString &name, Opening opening)
+void openDialog(benchmark::State &state, Opening opening)
 {
+    const QString page = QStringLiteral("Render Options");
     std::unique_ptr<BenchHost> host;
     std::unique_ptr<olPreferencesDialog> dialog;
     std::size_t before = 0;
     const auto open = [&] {
         if (!dialog)
             dialog = std::make_unique<olPreferencesDialog>(host->session());
-        dialog->open(name);
-        Painting().of(*module(name).page());
+        dialog->open(page);
+        Painting().of(*module(page).page());
     };
     measure(
         state, open,
@@ -133,45 +126,6 @@ void openKConfigDialog(benchmark::State &state, Opening opening)
         });
 }
 
-/// What a list of all pages, a search field and the buttons cost whoever writes them, before they do anything.
-void openFurnishedDialog(benchmark::State &state, const std::string &moduleClass)
-{
-    QStringList names;
-    {
-        const BenchHost host;
-        for (const olPreferencesEntry *module : olPreferencesRegistry::the().entries())
-            names << module->name();
-    }
-    std::unique_ptr<QDialog> dialog;
-    const auto open = [&] {
-        dialog = std::make_unique<QDialog>();
-        auto *list = new QTreeWidget;
-        list->setHeaderHidden(true);
-        for (const QString &name : names)
-            new QTreeWidgetItem(list, {name});
-        auto *form = new QWidget;
-        BareForms::setUp(moduleClass, *form);
-        auto *pages = new QScrollArea;
-        pages->setWidgetResizable(true);
-        pages->setWidget(form);
-        auto *layout = new QGridLayout(dialog.get());
-        layout->addWidget(new QLineEdit, 0, 0);
-        layout->addWidget(new QCheckBox(QStringLiteral("Changed only")), 1, 0);
-        layout->addWidget(list, 2, 0);
-        layout->addWidget(new QLabel(QStringLiteral("Page")), 0, 1);
-        layout->addWidget(new QPushButton(QStringLiteral("Restore")), 1, 1);
-        layout->addWidget(pages, 2, 1);
-        layout->addWidget(
-            new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel), 3, 0, 1,
-            2);
-        const QFontMetrics metrics = dialog->fontMetrics();
-        dialog->resize(metrics.averageCharWidth() * 130, metrics.height() * 36);
-        dialog->show();
-        Painting().of(*form);
-    };
-    measure(state, open, {}, [&] { dialog.reset(); });
-}
-
 /// A host with the dialog open, for questions to its search.
 struct OpenDialog {
     OpenDialog()
@@ -204,22 +158,8 @@ void search(benchmark::State &state, OpenDialog &open, const QString &text)
 
 std::shared_ptr<void> registerDialog()
 {
-    for (const char *name : {"Camera", "Render Options", "Step"}) {
-        const QString qtName = QString::fromLatin1(name);
-        const std::string moduleClass = [&] {
-            const BenchHost host;
-            return module(qtName).className();
-        }();
-        benchmark::RegisterBenchmark((std::string("open/") + name).c_str(), openDialog, qtName, Opening::First)
-            ->UseManualTime()
-            ->Iterations(repeats);
-        benchmark::RegisterBenchmark((std::string("open furnished/") + name).c_str(), openFurnishedDialog, moduleClass)
-            ->UseManualTime()
-            ->Iterations(repeats);
-    }
     for (const auto &[name, opening] : {std::pair("first", Opening::First), std::pair("second", Opening::Second)}) {
-        benchmark::RegisterBenchmark((std::string("dialog/") + name).c_str(), openDialog,
-                                     QStringLiteral("Render Options"), opening)
+        benchmark::RegisterBenchmark((std::string("dialog/") + name).c_str(), openDialog, opening)
             ->UseManualTime()
             ->Iterations(repeats);
         benchmark::RegisterBenchmark((std::string("KConfigDialog/") + name).c_str(), openKConfigDialog, opening)

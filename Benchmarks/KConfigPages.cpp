@@ -9,7 +9,6 @@
 #include <KSharedConfig>
 
 #include <deque>
-#include <map>
 
 namespace
 {

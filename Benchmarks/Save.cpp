@@ -1,17 +1,17 @@
 #include "Groups.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
-#include "State/olValue.h"
 #include "Support/BenchHost.h"
 
 #include <QFile>
 #include <QSettings>
 #include <benchmark/benchmark.h>
 
+#include <set>
+#include <string>
+
 #include <fcntl.h>
 #include <unistd.h>
-
-#include <algorithm>
 
 namespace
 {

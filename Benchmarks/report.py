@@ -147,10 +147,7 @@ def dialog(program):
     figures = Figures([program, "dialog"], 9)
     searches = Figures([program, "search"], 9)
     slowest = max(searches.seconds(name) for name in searches.runs)
-    pages = sorted(name.split("/")[1] for name in figures.runs if name.startswith("open/"))
-    rows = [at_most(f"first page of the dialog ({page}) / furnished dialog",
-                    figures.ratio(f"open/{page}", f"open furnished/{page}"), 1.3) for page in pages]
-    rows += [at_most(f"{opening} opening of the dialog / KConfigDialog with the same forms",
+    rows = [at_most(f"{opening} opening of the dialog / KConfigDialog with the same forms",
                      figures.ratio(f"dialog/{opening}", f"KConfigDialog/{opening}"), 0.5) for opening in ("first", "second")]
     for name, what in (("dialog", "dialog, host and modules"), ("KConfigDialog", "KConfigDialog with the same forms")):
         print(f"{what}: {figures.counter(f'{name}/first', 'memory') / 2**20:.1f} MiB, first opening "

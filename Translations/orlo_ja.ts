@@ -164,7 +164,7 @@
         <translation>%1はメッシュです。この形式では保持できないため、除外されます。</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>色</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>パーツの名前</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>頂点カラー</translation>
     </message>
     <message>
@@ -1601,6 +1601,14 @@
         <source>All settings of this run were then saved into it.</source>
         <translation>その後、今回の実行のすべての設定がこのファイルに保存されました。</translation>
     </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>モジュール %1 でエラーが発生しました (理由は不明です)。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>モジュール %1 でエラーが発生しました：%2。</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
@@ -1649,10 +1657,6 @@
         <translation>バックアップも読み込めないため (%1)、すべての設定が既定値になっています。</translation>
     </message>
     <message>
-        <source>its folder is read-only, or another program keeps it busy</source>
-        <translation>フォルダーが読み取り専用か、別のプログラムがファイルを使用中です</translation>
-    </message>
-    <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
         <translation>環境設定を%1に保存できません：%2。以前の内容は変わっていません。</translation>
     </message>
@@ -1675,6 +1679,10 @@
     <message>
         <source>It could not be set aside: %1.</source>
         <translation>破損したファイルを退避できませんでした：%1。</translation>
+    </message>
+    <message>
+        <source>its folder is read-only or full, or another program keeps it busy</source>
+        <translation>フォルダーが読み取り専用か、空き容量がないか、別のプログラムがファイルを使用中です</translation>
     </message>
 </context>
 <context>
@@ -1806,18 +1814,6 @@ confidential settings nothing is told.
         <translation>最近のN回の保存を取り消す</translation>
     </message>
     <message>
-        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
-save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
-standard error stream and left; the exit status is then 1.
-  --dry-run   only prints, and stores nothing
-</source>
-        <translation>最近の保存、または最近のN回の保存を取り消し、それで変わるものをKEY  VALUE -&gt; NEW VALUEの形で出力します。これも
-1回の保存であり、取り消せます。その後に変更された設定とロック済みの設定は、標準エラー出力で知らせて
-そのまま残します。そのとき終了ステータスは1です。
-  --dry-run   出力するだけで、何も保存しない
-</translation>
-    </message>
-    <message>
         <source>looks for damage in the store and faults in the site&apos;s files</source>
         <translation>保存ファイルの破損とサイトのファイルの誤りを調べる</translation>
     </message>
@@ -1877,6 +1873,18 @@ finds something, and of undo when it leaves something.
 </source>
         <translation>終了ステータスは0、または標準エラー出力のメッセージとともに2です。checkは何かを見つけたとき、
 undoは何かを残したときに1です。
+</translation>
+    </message>
+    <message>
+        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
+save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
+standard error stream and left; the exit status is then 1.
+  --dry-run   tells the same, with the same exit status, but stores nothing
+</source>
+        <translation>最近の保存、または最近のN回の保存を取り消し、それで変わるものをKEY  VALUE -&gt; NEW VALUEの形で出力します。これも
+1回の保存であり、取り消せます。その後に変更された設定とロック済みの設定は、標準エラー出力で知らせて
+そのまま残します。そのとき終了ステータスは1です。
+  --dry-run   同じ内容を同じ終了ステータスで知らせるだけで、何も保存しない
 </translation>
     </message>
 </context>
@@ -2082,7 +2090,7 @@ undoは何かを残したときに1です。
         <translation>モデルの末尾に、どの面にも使用されない点があります。ファイルが途中で切れている可能性があります。</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>マテリアルファイル%1がありません。モデルには色が付きません。</translation>
     </message>
     <message>
@@ -2300,7 +2308,7 @@ undoは何かを残したときに1です。
         <translation>三角形：%1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>色：%1</translation>
     </message>
     <message>
@@ -2941,7 +2949,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>ディレクトリ</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>色</translation>
     </message>
     <message>
@@ -2957,7 +2965,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>ボックス「%1」にボタン「%2」はありません：あるのは%3です</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>色のダイアログ</translation>
     </message>
     <message>
@@ -3077,7 +3085,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>noneには列を指定できません</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1は色ではありません</translation>
     </message>
     <message>
@@ -3245,7 +3253,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>3つの数値 ([1, 0.5, 0]など)</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>色のリスト ([[0, 0, 0], [1, 1, 1]]など)</translation>
     </message>
 </context>
@@ -3533,6 +3541,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>環境設定で変更を1つ適用し、画像をフォルダーに残して終了します。</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; --save needs none</source>
+        <translation>ウィンドウを開くためのディスプレイがありません。--saveにはディスプレイは不要です</translation>
     </message>
 </context>
 </TS>

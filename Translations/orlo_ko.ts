@@ -164,7 +164,7 @@
         <translation>%1은(는) 이 형식에 담을 수 없는 메시이므로 제외합니다.</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>색상</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>부품 이름</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>정점 색상</translation>
     </message>
     <message>
@@ -1601,6 +1601,14 @@
         <source>All settings of this run were then saved into it.</source>
         <translation>그런 다음 이번 실행의 모든 설정을 이 파일에 저장했습니다.</translation>
     </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>모듈 %1에서 오류가 발생했으며 이유를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>모듈 %1에서 오류가 발생했습니다: %2.</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
@@ -1649,10 +1657,6 @@
         <translation>백업도 읽을 수 없으므로(%1) 모든 설정이 기본값입니다.</translation>
     </message>
     <message>
-        <source>its folder is read-only, or another program keeps it busy</source>
-        <translation>폴더가 읽기 전용이거나 다른 프로그램이 사용 중입니다</translation>
-    </message>
-    <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
         <translation>환경 설정을 %1에 저장할 수 없습니다: %2. 이전에 들어 있던 내용은 그대로입니다.</translation>
     </message>
@@ -1675,6 +1679,10 @@
     <message>
         <source>It could not be set aside: %1.</source>
         <translation>이 파일을 따로 보관할 수 없습니다: %1.</translation>
+    </message>
+    <message>
+        <source>its folder is read-only or full, or another program keeps it busy</source>
+        <translation>폴더가 읽기 전용이거나 가득 찼거나 다른 프로그램이 사용 중입니다</translation>
     </message>
 </context>
 <context>
@@ -1806,18 +1814,6 @@ confidential settings nothing is told.
         <translation>최근 N번의 저장을 되돌리기</translation>
     </message>
     <message>
-        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
-save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
-standard error stream and left; the exit status is then 1.
-  --dry-run   only prints, and stores nothing
-</source>
-        <translation>최근의 저장 또는 최근 N번의 저장을 되돌리고, 그로 인해 바뀌는 내용을 KEY  VALUE -&gt; NEW VALUE 로 출력합니다. 이것도
-하나의 저장이므로 되돌릴 수 있습니다. 그 뒤에 다시 변경되었거나 잠긴 설정은 표준 오류 스트림에 알리고
-그대로 둡니다. 이때 종료 상태는 1입니다.
-  --dry-run   출력만 하고 아무것도 저장하지 않음
-</translation>
-    </message>
-    <message>
         <source>looks for damage in the store and faults in the site&apos;s files</source>
         <translation>저장 파일의 손상과 사이트 파일의 오류를 검사</translation>
     </message>
@@ -1877,6 +1873,18 @@ finds something, and of undo when it leaves something.
 </source>
         <translation>종료 상태는 0이거나, 표준 오류 스트림의 메시지와 함께 2입니다. check는 무언가를 찾았을 때,
 undo는 무언가를 남겼을 때 1입니다.
+</translation>
+    </message>
+    <message>
+        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
+save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
+standard error stream and left; the exit status is then 1.
+  --dry-run   tells the same, with the same exit status, but stores nothing
+</source>
+        <translation>최근의 저장 또는 최근 N번의 저장을 되돌리고, 그로 인해 바뀌는 내용을 KEY  VALUE -&gt; NEW VALUE 로 출력합니다. 이것도
+하나의 저장이므로 되돌릴 수 있습니다. 그 뒤에 다시 변경되었거나 잠긴 설정은 표준 오류 스트림에 알리고
+그대로 둡니다. 이때 종료 상태는 1입니다.
+  --dry-run   같은 내용을 같은 종료 상태로 알리기만 하고 아무것도 저장하지 않음
 </translation>
     </message>
 </context>
@@ -2082,7 +2090,7 @@ undo는 무언가를 남겼을 때 1입니다.
         <translation>모델이 어떤 면에서도 쓰이지 않는 점으로 끝납니다. 파일이 잘렸을 수 있습니다.</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>재질 파일 %1이(가) 없어 모델에 색상이 없습니다.</translation>
     </message>
     <message>
@@ -2300,7 +2308,7 @@ undo는 무언가를 남겼을 때 1입니다.
         <translation>삼각형: %1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>색상: %1</translation>
     </message>
     <message>
@@ -2941,7 +2949,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>디렉터리</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>색상</translation>
     </message>
     <message>
@@ -2957,7 +2965,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>메시지 상자 &quot;%1&quot;에 버튼 &quot;%2&quot;이(가) 없습니다. 있는 버튼: %3</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>색상 대화 상자</translation>
     </message>
     <message>
@@ -3077,7 +3085,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>none에는 열을 지정할 수 없습니다</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1은(는) 색상이 아닙니다</translation>
     </message>
     <message>
@@ -3245,7 +3253,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>[1, 0.5, 0]과 같은 숫자 3개</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>[[0, 0, 0], [1, 1, 1]]과 같은 색상 목록</translation>
     </message>
 </context>
@@ -3533,6 +3541,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>환경 설정에서 변경 하나를 적용하고 그림을 폴더에 남기고 끝냅니다.</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; --save needs none</source>
+        <translation>창을 열 디스플레이가 없습니다. --save에는 디스플레이가 필요하지 않습니다</translation>
     </message>
 </context>
 </TS>

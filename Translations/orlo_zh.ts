@@ -164,7 +164,7 @@
         <translation>%1 是网格，此格式无法保存；已略去。</translation>
     </message>
     <message>
-        <source>colours</source>
+        <source>colors</source>
         <translation>颜色</translation>
     </message>
     <message>
@@ -216,7 +216,7 @@
         <translation>零件名称</translation>
     </message>
     <message>
-        <source>colours of corners</source>
+        <source>colors of corners</source>
         <translation>顶点颜色</translation>
     </message>
     <message>
@@ -1601,6 +1601,14 @@
         <source>All settings of this run were then saved into it.</source>
         <translation>随后已将本次运行的所有设置保存到其中。</translation>
     </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>模块 %1 出错，且未说明原因。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>模块 %1 出错：%2。</translation>
+    </message>
 </context>
 <context>
     <name>olPreferencesStore</name>
@@ -1649,10 +1657,6 @@
         <translation>其备份也无法读取（%1），因此所有设置均为默认值。</translation>
     </message>
     <message>
-        <source>its folder is read-only, or another program keeps it busy</source>
-        <translation>其文件夹为只读，或另一个程序正在占用它</translation>
-    </message>
-    <message>
         <source>Cannot save the preferences to %1: %2. What it held before is unchanged.</source>
         <translation>无法将首选项保存到 %1：%2。其原有内容未变。</translation>
     </message>
@@ -1675,6 +1679,10 @@
     <message>
         <source>It could not be set aside: %1.</source>
         <translation>无法将其另存：%1。</translation>
+    </message>
+    <message>
+        <source>its folder is read-only or full, or another program keeps it busy</source>
+        <translation>其文件夹为只读或已满，或另一个程序正在占用它</translation>
     </message>
 </context>
 <context>
@@ -1806,18 +1814,6 @@ confidential settings nothing is told.
         <translation>撤回最近 N 次保存</translation>
     </message>
     <message>
-        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
-save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
-standard error stream and left; the exit status is then 1.
-  --dry-run   only prints, and stores nothing
-</source>
-        <translation>撤回最近一次或最近 N 次保存，并输出由此产生的更改，KEY  VALUE -&gt; NEW VALUE。撤回本身也是一次保存，
-可以再撤回。此后又被更改或已锁定的设置会在标准错误流中列出并保持不变；
-这时退出状态为 1。
-  --dry-run   只输出，不存储任何内容
-</translation>
-    </message>
-    <message>
         <source>looks for damage in the store and faults in the site&apos;s files</source>
         <translation>检查存储文件是否损坏、站点文件是否有错误</translation>
     </message>
@@ -1877,6 +1873,18 @@ finds something, and of undo when it leaves something.
 </source>
         <translation>退出状态为 0；为 2 时标准错误流中有一条消息；check 发现问题时为 1，
 undo 留下未撤回的设置时也为 1。
+</translation>
+    </message>
+    <message>
+        <source>Takes the last save, or the last N, back and prints what that changes, KEY  VALUE -&gt; NEW VALUE. It is a
+save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on the
+standard error stream and left; the exit status is then 1.
+  --dry-run   tells the same, with the same exit status, but stores nothing
+</source>
+        <translation>撤回最近一次或最近 N 次保存，并输出由此产生的更改，KEY  VALUE -&gt; NEW VALUE。撤回本身也是一次保存，
+可以再撤回。此后又被更改或已锁定的设置会在标准错误流中列出并保持不变；
+这时退出状态为 1。
+  --dry-run   输出相同的内容，退出状态也相同，但不存储任何内容
 </translation>
     </message>
 </context>
@@ -2082,7 +2090,7 @@ undo 留下未撤回的设置时也为 1。
         <translation>模型末尾有未被任何面使用的点；文件可能被截断。</translation>
     </message>
     <message>
-        <source>The materials file %1 is not there; the model has no colours.</source>
+        <source>The materials file %1 is not there; the model has no colors.</source>
         <translation>材质文件 %1 不存在；模型没有颜色。</translation>
     </message>
     <message>
@@ -2300,7 +2308,7 @@ undo 留下未撤回的设置时也为 1。
         <translation>三角形：%1</translation>
     </message>
     <message>
-        <source>Colour: %1</source>
+        <source>Color: %1</source>
         <translation>颜色：%1</translation>
     </message>
     <message>
@@ -2941,7 +2949,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>目录</translation>
     </message>
     <message>
-        <source>a colour</source>
+        <source>a color</source>
         <translation>颜色</translation>
     </message>
     <message>
@@ -2957,7 +2965,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>对话框“%1”没有按钮“%2”；现有：%3</translation>
     </message>
     <message>
-        <source>a colour dialog</source>
+        <source>a color dialog</source>
         <translation>颜色对话框</translation>
     </message>
     <message>
@@ -3077,7 +3085,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>none 不能与列一起使用</translation>
     </message>
     <message>
-        <source>%1 is no colour</source>
+        <source>%1 is no color</source>
         <translation>%1 不是颜色</translation>
     </message>
     <message>
@@ -3245,7 +3253,7 @@ edition. Made by `orlo-prefs list --markdown`.
         <translation>三个数字，例如 [1, 0.5, 0]</translation>
     </message>
     <message>
-        <source>a list of colours, as [[0, 0, 0], [1, 1, 1]]</source>
+        <source>a list of colors, as [[0, 0, 0], [1, 1, 1]]</source>
         <translation>颜色列表，例如 [[0, 0, 0], [1, 1, 1]]</translation>
     </message>
 </context>
@@ -3533,6 +3541,10 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>Apply a change in the preferences, leave pictures in the folder, and end.</source>
         <translation>在首选项中应用一处更改，将图片留在文件夹中，然后结束。</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; --save needs none</source>
+        <translation>没有可用于打开窗口的显示；--save 不需要显示</translation>
     </message>
 </context>
 </TS>

@@ -44,16 +44,9 @@ NAMED_BY_US = """
     olPreferencesService::setBool olPreferencesService::setFloat olPreferencesService::setInt
     olPreferencesService::setDefaultBool olPreferencesService::setDefaultFloat olPreferencesService::setDefaultInt
 """.split()
-# What it knows nothing of: fields tell their bounds, and the block of tessellation settings its values and which control
-# is whose.
-OURS = """
-    QOLSlider::decimals QOLSlider::maximum QOLSlider::minimum
-    QOLWheelPrec::decimals QOLWheelPrec::maximum QOLWheelPrec::minimum
-    olTesselationSettings::chordDeviation olTesselationSettings::control olTesselationSettings::isStitchingEnabled
-    olTesselationSettings::isTessellationEnabled olTesselationSettings::maxChordLength
-    olTesselationSettings::normalTolerance olTesselationSettings::setQualityEnds
-    olTesselationSettings::setTessellationEnabled olTesselationSettings::stitchingTolerance
-""".split()
+# What it knows nothing of: the block of tessellation settings tells which control is whose, and takes the form's texts.
+OUR_HEADER = "olWithoutMnemonic"
+OURS = ["olTesselationSettings::control", "olTesselationSettings::setQualityEnds"]
 
 
 def symbols(library, *which):
@@ -93,7 +86,9 @@ def section(functions):
     types = sorted({Path(header).stem for file in sorted((SOURCE / "Plugins").rglob("*.[ch]*"))
                     for header in re.findall(r'#include ["<]((?:%s|OpenSG)/\w+\.h)[">]' % "|".join(FOLDERS),
                                              file.read_text())})
-    return (f"Headers, each with the type that it is named for: {', '.join(f'`{name}`' for name in types)}.\n\n"
+    types.remove(OUR_HEADER)
+    return (f"Headers, each with the type that it is named for: {', '.join(f'`{name}`' for name in types)}; and "
+            f"`{OUR_HEADER}`, a function of ours that stands in its header alone.\n\n"
             "### In the contract by name\n\n" + listed(lambda name: name not in NAMED_BY_US and name not in OURS) +
             "\n### In the contract without a name, which is ours\n\n" + listed(lambda name: name in NAMED_BY_US) +
             "\n### Ours alone\n\n" + listed(lambda name: name in OURS))

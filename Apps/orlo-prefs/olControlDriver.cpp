@@ -8,9 +8,9 @@
 #include "Widgets/QOLWheelPrec.h"
 #include "olToolError.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
@@ -18,12 +18,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTextEdit>
 #include <QToolButton>
-#include <QTreeView>
 #include <QValidator>
 
 #include <cmath>

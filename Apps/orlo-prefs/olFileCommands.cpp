@@ -144,7 +144,8 @@ void olPrefsCommands::profile(olPrefsTool &tool)
     const bool isAll = arguments.size() == 1;
     const bool isChanged = arguments.size() == 2 && which == QLatin1String("--changed");
     const bool isModules = arguments.size() == 3 && which == QLatin1String("--module");
-    if (action != QLatin1String("save") || !(isAll || isChanged || isModules))
+    const bool isSave = action == QLatin1String("save") && (isAll || isChanged || isModules);
+    if (!isSave || arguments.first().startsWith(QLatin1String("--")))
         tool.failUsage();
     tool.open(olStoreUse::LookAt);
     olPrefsTool::requireSuccess(profiles.save(arguments.first(), valuesToKeep(arguments.mid(1))));

@@ -109,14 +109,12 @@ void olPrefsCommands::undo(olPrefsTool &tool)
         return olPreferencesImport::Change{change.key.second, undo.value(change.key, change.before),
                                            undo.value(change.key, change.after)};
     };
-    if (!isDryRun) {
-        for (const Change &change : undo.changes()) {
-            if (const auto warning = tool.session().warning(change.key.second, shown(change).after))
-                tool.requireConsent(change.key.second, *warning);
-        }
-        if (const olResult<> saved = undo.save(); !saved.isOk())
-            throw olToolError(saved.error());
+    for (const Change &change : undo.changes()) {
+        if (const auto warning = tool.session().warning(change.key.second, shown(change).after))
+            tool.requireConsent(change.key.second, *warning);
     }
+    if (!isDryRun)
+        olPrefsTool::requireSuccess(undo.save());
     std::vector<olPreferencesImport::Change> changes;
     std::transform(undo.changes().begin(), undo.changes().end(), std::back_inserter(changes), shown);
     tool.print(olSettingsList::changes(changes));

@@ -70,7 +70,7 @@ QString nameOf(const olModalAnswer &answer)
     case Kind::Directory:
         return olToolError::tr("a directory");
     case Kind::Color:
-        return olToolError::tr("a colour");
+        return olToolError::tr("a color");
     case Kind::Cancel:
         break;
     }
@@ -167,7 +167,7 @@ void olModalAnswers::answerColors(QOLColorDialog &dialog)
         return dialog.accept();
     }
     if (answer.kind != Kind::Cancel)
-        fail(misfit(olToolError::tr("a colour dialog"), answer));
+        fail(misfit(olToolError::tr("a color dialog"), answer));
     dialog.reject();
 }
 

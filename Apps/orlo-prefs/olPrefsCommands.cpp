@@ -85,7 +85,7 @@ const olPrefsCommand commands[] = {
          "save itself and can be taken back. Settings that were changed since otherwise, or are locked, are named on "
          "the\n"
          "standard error stream and left; the exit status is then 1.\n"
-         "  --dry-run   only prints, and stores nothing\n"),
+         "  --dry-run   tells the same, with the same exit status, but stores nothing\n"),
      &olPrefsCommands::undo},
     {"check", "check [--site FILE]",
      QT_TRANSLATE_NOOP("olPrefsCommands", "looks for damage in the store and faults in the site's files"),

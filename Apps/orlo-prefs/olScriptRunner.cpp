@@ -124,20 +124,33 @@ void olScriptRunner::runLine(const QByteArray &text)
         const QString error = m_answers.takeError();
         if (!error.isEmpty())
             throw olToolError(error);
+        const QStringList failed = m_session.takeNotices();
+        if (!failed.isEmpty())
+            throw olToolError(olSentences(failed));
         return;
     }
     throw olToolError(olDidYouMean(olToolError::tr("there is no command %1").arg(name), name, names));
+}
+
+template <auto operation> void olScriptRunner::forModules(olScriptParser &line)
+{
+    std::optional<olScriptWord> module;
+    if (!line.atEnd())
+        module = line.word("MODULE");
+    line.end();
+    for (olPreferencesEntry *entry : modules(module))
+        (entry->*operation)();
 }
 
 const std::vector<olScriptRunner::Command> &olScriptRunner::commands()
 {
     static const std::vector<Command> all{
         {"defaults", "defaults [MODULE] [keep]", &olScriptRunner::defaults},
-        {"gui", "gui [MODULE]", &olScriptRunner::gui},
-        {"data", "data [MODULE]", &olScriptRunner::data},
-        {"apply", "apply [MODULE]", &olScriptRunner::apply},
-        {"newscene", "newscene [MODULE]", &olScriptRunner::newScene},
-        {"settled", "settled [MODULE]", &olScriptRunner::settled},
+        {"gui", "gui [MODULE]", &olScriptRunner::forModules<&olPreferencesEntry::updateGUI>},
+        {"data", "data [MODULE]", &olScriptRunner::forModules<&olPreferencesEntry::updateData>},
+        {"apply", "apply [MODULE]", &olScriptRunner::forModules<&olPreferencesEntry::applyPreferences>},
+        {"newscene", "newscene [MODULE]", &olScriptRunner::forModules<&olPreferencesEntry::preferencesNewScene>},
+        {"settled", "settled [MODULE]", &olScriptRunner::forModules<&olPreferencesEntry::markClean>},
         {"put", "put TYPE \"KEY\" VALUE", &olScriptRunner::put},
         {"remove", "remove \"KEY\"", &olScriptRunner::remove},
         {"get", "get \"KEY\"", &olScriptRunner::get},
@@ -176,31 +189,6 @@ void olScriptRunner::defaults(olScriptParser &line)
     line.end();
     for (olPreferencesEntry *entry : modules(module))
         entry->setDefaults(!keep);
-}
-
-void olScriptRunner::gui(olScriptParser &line)
-{
-    forModules(line, [](olPreferencesEntry &entry) { entry.updateGUI(); });
-}
-
-void olScriptRunner::data(olScriptParser &line)
-{
-    forModules(line, [](olPreferencesEntry &entry) { entry.updateData(); });
-}
-
-void olScriptRunner::apply(olScriptParser &line)
-{
-    forModules(line, [](olPreferencesEntry &entry) { entry.applyPreferences(); });
-}
-
-void olScriptRunner::newScene(olScriptParser &line)
-{
-    forModules(line, [](olPreferencesEntry &entry) { entry.preferencesNewScene(); });
-}
-
-void olScriptRunner::settled(olScriptParser &line)
-{
-    forModules(line, [](olPreferencesEntry &entry) { entry.markClean(); });
 }
 
 void olScriptRunner::put(olScriptParser &line)
@@ -287,7 +275,7 @@ void olScriptRunner::answer(olScriptParser &line)
         const olScriptValue value = line.value();
         const boost::any color = value.as("color");
         if (color.empty())
-            line.fail(olToolError::tr("%1 is no colour").arg(QString::fromUtf8(value.written)));
+            line.fail(olToolError::tr("%1 is no color").arg(QString::fromUtf8(value.written)));
         answer.kind = Kind::Color;
         answer.color = boost::any_cast<const osg::Color3f &>(color);
     }
@@ -340,16 +328,6 @@ void olScriptRunner::unload(olScriptParser &line)
     line.end();
     requireLibrary();
     m_session.stop();
-}
-
-void olScriptRunner::forModules(olScriptParser &line, Operation operation)
-{
-    std::optional<olScriptWord> module;
-    if (!line.atEnd())
-        module = line.word("MODULE");
-    line.end();
-    for (olPreferencesEntry *entry : modules(module))
-        operation(*entry);
 }
 
 std::vector<olPreferencesEntry *> olScriptRunner::modules(const std::optional<olScriptWord> &name) const

@@ -9,7 +9,6 @@
 #include <boost/any.hpp>
 
 #include <cstdio>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,7 +35,6 @@ private:
         const char *usage;
         void (olScriptRunner::*run)(olScriptParser &);
     };
-    using Operation = void (*)(olPreferencesEntry &);
 
     /// A control of a page, and how the line named it.
     struct Target {
@@ -49,11 +47,8 @@ private:
     void runLine(const QByteArray &text);
 
     void defaults(olScriptParser &line);
-    void gui(olScriptParser &line);
-    void data(olScriptParser &line);
-    void apply(olScriptParser &line);
-    void newScene(olScriptParser &line);
-    void settled(olScriptParser &line);
+    /// The operation of one module, or of all.
+    template <auto operation> void forModules(olScriptParser &line);
     void put(olScriptParser &line);
     void remove(olScriptParser &line);
     void get(olScriptParser &line);
@@ -68,7 +63,6 @@ private:
     void appSetting(olScriptParser &line);
     void unload(olScriptParser &line);
 
-    void forModules(olScriptParser &line, Operation operation);
     [[nodiscard]] std::vector<olPreferencesEntry *> modules(const std::optional<olScriptWord> &name) const;
     void requireLibrary() const;
     [[nodiscard]] Target target(olScriptParser &line) const;

@@ -317,6 +317,7 @@ int run(const QCommandLineParser &options, QStringList &again)
     const olSpacemouseLink spacemouse;
     const olJoystickLink joystick;
 
+    olTakeFormerSettingsOver();
     const QTemporaryDir passing;
     const std::unique_ptr<olPreferencesSession> loaded = loadedSession(options, passing);
     if (!loaded)
@@ -328,7 +329,6 @@ int run(const QCommandLineParser &options, QStringList &again)
         return startAndRunBatch(session, options);
 
     useFontOf(host.displayLanguage);
-    olTakeFormerSettingsOver();
     olMainWindow window(session);
     if (!loadPlugin(session, options))
         return 1;
@@ -461,7 +461,7 @@ int main(int argc, char *argv[])
     olKeepFileNames();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    olViewport::prepareApplication();
+    const bool hasDisplay = olViewport::prepareApplication();
     std::vector<std::string> arguments = withOwnPlugin(argc, argv);
     std::vector<char *> argumentTexts;
     argumentTexts.reserve(arguments.size() + 1);
@@ -487,8 +487,13 @@ int main(int argc, char *argv[])
     QApplication::setStyle(new olPageStyle); // owned by the application
     QApplication::setDesktopFileName(QStringLiteral("org.example.orlo"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.example.orlo")));
-    const auto fault = [&options] {
-        return options.parse(QApplication::arguments()) ? misuse(options) : options.errorText();
+    const auto fault = [&options, hasDisplay] {
+        if (!options.parse(QApplication::arguments()))
+            return options.errorText();
+        const QString wrong = misuse(options);
+        return wrong.isEmpty() && !hasDisplay && !isBatch(options)
+                   ? Words::tr("there is no display to open a window on; --save needs none")
+                   : wrong;
     };
     if (!fault().isEmpty()) {
         olTranslations texts;

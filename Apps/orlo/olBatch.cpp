@@ -51,11 +51,11 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
                     const olImportChoice &choice)
 {
     const olImportResult result = read(model, choice);
-    if (!result.isGood())
-        return fail(result.error, 2);
+    if (!result.document.isOk())
+        return fail(result.document.error(), 2);
     remark(result.remarks);
     olScene scene;
-    scene.setDocument(result.document);
+    scene.setDocument(*result.document);
     if (!olViewport::isSupported())
         return fail(Words::tr("The 3D view needs an X display, or XWayland, with OpenGL."), 1);
 
@@ -79,20 +79,20 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
 int olBatch::convert(const QString &model, const QString &file, const olImportChoice &choice)
 {
     const olImportResult result = read(model, choice);
-    if (!result.isGood())
-        return fail(result.error, 2);
+    if (!result.document.isOk())
+        return fail(result.document.error(), 2);
     remark(result.remarks);
     olScene scene;
-    scene.setDocument(result.document);
+    scene.setDocument(*result.document);
     return save(scene, file);
 }
 
 int olBatch::save(const olScene &scene, const QString &file)
 {
-    const olExportResult result = olExportScene(scene.document(), file);
-    if (!result.error.isEmpty())
-        return fail(result.error, 1);
-    remark(result.remarks);
+    const olResult<QStringList> remarks = olExportScene(scene.document(), file);
+    if (!remarks.isOk())
+        return fail(remarks.error(), 1);
+    remark(*remarks);
     return 0;
 }
 

@@ -35,7 +35,7 @@ Success successOf(const QVector<olImportReport> &reports)
 {
     Success success = Success::Good;
     for (const olImportReport &report : reports) {
-        if (!report.error.isEmpty())
+        if (!report.outcome.isOk())
             return Success::Failed;
         if (!report.remarks.isEmpty() || report.isCancelled)
             success = Success::WithRemarks;
@@ -105,16 +105,15 @@ void olModelFiles::chooseExport()
     if (file.isEmpty())
         return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const olExportResult result = olExportScene(m_scene.document(), file);
+    const olResult<QStringList> remarks = olExportScene(m_scene.document(), file);
     QApplication::restoreOverrideCursor();
-    const QString remarks = result.remarks.join(QLatin1Char('\n'));
-    if (!result.error.isEmpty()) {
+    if (!remarks.isOk()) {
         emit told(tr("The export failed."));
-        return report(true, tr("The export failed."), result.error);
+        return report(true, tr("The export failed."), remarks.error());
     }
     emit told(tr("%1 was written.").arg(QDir::toNativeSeparators(file)));
-    if (!remarks.isEmpty())
-        report(false, tr("%1 was written, with remarks.").arg(nameOf(file)), remarks);
+    if (!remarks->isEmpty())
+        report(false, tr("%1 was written, with remarks.").arg(nameOf(file)), remarks->join(QLatin1Char('\n')));
 }
 
 void olModelFiles::openAgain(const QString &file)
@@ -191,9 +190,9 @@ void olModelFiles::finish(int import, const QVector<olImportReport> &reports)
     for (const olImportReport &report : reports) {
         if (report.isCancelled)
             continue;
-        if (report.error.isEmpty())
+        if (report.outcome.isOk())
             good << report.file;
-        texts << (report.error.isEmpty() ? tr("%1 was read.").arg(nameOf(report.file)) : report.error);
+        texts << (report.outcome.isOk() ? tr("%1 was read.").arg(nameOf(report.file)) : report.outcome.error());
         texts << report.remarks;
     }
     if (!good.isEmpty()) {

@@ -63,7 +63,7 @@ QString hintOf(const olSceneNode &node)
     if (node.kind != Kind::Group)
         lines << olSceneTree::tr("Triangles: %1").arg(node.triangles);
     if (node.color.isValid())
-        lines << olSceneTree::tr("Colour: %1").arg(node.color.name());
+        lines << olSceneTree::tr("Color: %1").arg(node.color.name());
     if (node.color.isValid() && node.color.alpha() < 255)
         lines << olSceneTree::tr("Opacity: %1 %").arg(qRound(node.color.alphaF() * 100));
     return lines.join(QLatin1Char('\n'));

@@ -29,8 +29,8 @@ void complain(const QString &what) { std::fprintf(stderr, "orlo: %s\n", qPrintab
 
 constexpr double changedFieldOfView = 25.0;
 
-/// Lets the windows draw themselves before they are looked at.
-void settle()
+/// Before they are looked at.
+void letWindowsDraw()
 {
     QElapsedTimer timer;
     timer.start();
@@ -61,7 +61,7 @@ int olTour::run(const QString &folder)
 
     m_window.showIntegratorPanels();
     olPreferencesDialog &preferences = m_window.openPreferences();
-    settle();
+    letWindowsDraw();
     const QString setting = QStringLiteral("Camera fov");
     QOLSlider *slider = preferences.openAt(setting) ? sliderFor(preferences, setting) : nullptr;
     if (!slider) {
@@ -71,7 +71,7 @@ int olTour::run(const QString &folder)
     bool saved = viewPicture(QStringLiteral("view-before.png"));
     saved = picture(m_window, QStringLiteral("before.png")) && saved;
     slider->setValue(changedFieldOfView);
-    settle();
+    letWindowsDraw();
     saved = picture(preferences, QStringLiteral("preferences.png")) && saved;
 
     const int callsBefore = m_window.journal().calls().size();
@@ -79,7 +79,7 @@ int olTour::run(const QString &folder)
         complain(Words::tr("the change could not be applied"));
         return 1;
     }
-    settle();
+    letWindowsDraw();
     saved = viewPicture(QStringLiteral("view-after.png")) && saved;
     saved = picture(m_window, QStringLiteral("after.png")) && saved;
     saved = moreOfPreferences(preferences) && saved;
@@ -95,11 +95,11 @@ bool olTour::moreOfPreferences(olPreferencesDialog &preferences) const
 {
     auto *search = preferences.findChild<QLineEdit *>(QStringLiteral("search"));
     search->setText(QStringLiteral("clipping"));
-    settle();
+    letWindowsDraw();
     const bool saved = picture(preferences, QStringLiteral("preferences-search.png"));
     search->clear();
     preferences.open(QStringLiteral("Step"));
-    settle();
+    letWindowsDraw();
     return picture(preferences, QStringLiteral("preferences-import.png")) && saved;
 }
 

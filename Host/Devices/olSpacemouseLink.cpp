@@ -27,7 +27,6 @@ struct Words {
 /// How long the GUI thread waits for a daemon that is there and in good health, or for the news that there is none.
 constexpr std::chrono::milliseconds patience{50};
 constexpr std::chrono::milliseconds checkInterval{50};
-constexpr std::chrono::seconds patienceAtTheEnd{2};
 
 /// A device that is moved all the time must not keep everything else waiting.
 constexpr int eventsAtOnce = 64;
@@ -41,6 +40,17 @@ bool connectToDaemon()
     sigaddset(&brokenPipe, SIGPIPE);
     pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
     return spnav_open() == 0;
+}
+
+/// Ends a wait for a daemon that does not take the call. One that took it and does not answer is given up by the
+/// library itself.
+void interrupt(std::thread &thread)
+{
+    // Without the flag by which the system would go on waiting.
+    struct sigaction woken = {};
+    woken.sa_handler = [](int) {};
+    sigaction(SIGUSR1, &woken, nullptr);
+    pthread_kill(thread.native_handle(), SIGUSR1);
 }
 
 bool isHungUp(int socket)
@@ -68,12 +78,9 @@ olSpacemouseLink::~olSpacemouseLink()
     close();
     if (!m_opening.valid())
         return;
-    // The library gives up on a daemon that does not answer. One that does not even take the call is left to the end of
-    // the program, which must not wait for it.
-    if (m_opening.wait_for(patienceAtTheEnd) == std::future_status::ready)
-        finishOpening();
-    else
-        m_opener.detach();
+    while (m_opening.wait_for(patience) != std::future_status::ready)
+        interrupt(m_opener);
+    finishOpening();
 }
 
 void olSpacemouseLink::stateChanged(const olHostValueBase &value)

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -43,7 +44,8 @@ olHistoryView::olHistoryView(const olUndo &undo, const PlaceOf &placeOf, QWidget
         m_list->resizeColumnToContents(column);
         m_list->setColumnWidth(column, m_list->columnWidth(column) + fontMetrics().averageCharWidth() * 2);
     }
-    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 26);
+    const QSize comfortable(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 26);
+    resize(comfortable.boundedTo(parent->screen()->availableSize() * 9 / 10));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_goBack, &QPushButton::clicked, this, &olHistoryView::choose);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this,
@@ -65,6 +67,7 @@ void olHistoryView::add(const olStoreRows::Save &save, const olUndo &undo, const
     const int count = int(save.changes.size());
     auto *item = new QTreeWidgetItem(m_list, {when, QString::fromStdString(save.program),
                                               count == 1 ? line(save.changes.front()) : tr("%1 settings").arg(count)});
+    item->setData(0, Qt::UserRole, save.number);
     for (const olStoreRows::Change &change : save.changes) {
         const QString told = line(change);
         if (count == 1)
@@ -81,7 +84,7 @@ void olHistoryView::choose()
         return;
     if (item->parent())
         item = item->parent();
-    const auto saves = std::size_t(m_list->indexOfTopLevelItem(item)) + 1;
+    const int number = item->data(0, Qt::UserRole).toInt();
     accept();
-    emit chosen(saves);
+    emit chosen(number);
 }

@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <QString>
 
-#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -24,8 +23,8 @@ public:
     olHistoryView(const olUndo &undo, const PlaceOf &placeOf, QWidget *parent);
 
 signals:
-    /// That many saves, counted from the latest, are to be taken back. The view closes.
-    void chosen(std::size_t saves);
+    /// The save of that number and all later ones are to be taken back. The view closes.
+    void chosen(int number);
 
 private:
     void add(const olStoreRows::Save &save, const olUndo &undo, const PlaceOf &placeOf);

@@ -128,7 +128,7 @@ private:
     [[nodiscard]] std::vector<QWidget *> tabStops() const;
     void giveBack(QWidget *page);
 
-    void filter();
+    bool filter(); ///< whether something is searched for
     void revealFirstHit();
     bool collectFound();
     [[nodiscard]] QString foundText(const Found &found, olFoundSettings::Column column) const;
@@ -153,7 +153,7 @@ private:
                                               const boost::any &after) const;
     [[nodiscard]] bool isAgreed(const olSettingWarning &question);
     void preview(const QString &title, const QString &action, const olResult<olPreferencesFile::Contents> &contents);
-    void goBack(std::size_t saves);
+    void goBack(int number);
     void chooseImport();
     void chooseExport();
 

@@ -5,7 +5,6 @@
 #include "Session/olPreferencesSession.h"
 #include "olHostExport.h"
 
-#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>

@@ -21,8 +21,69 @@ constexpr QChar border(0x1f);
 /// As it is compared: whoever writes "antialiasing" also means "Anti-Aliasing".
 QString folded(QString text) { return text.remove(QLatin1Char('-')).toCaseFolded(); }
 
-/// How many letters must be typed in another way to get from one word to the other; more than the most is not counted.
-int distance(const QString &left, const QString &right, int most)
+/// Whether the word stands there but for a slip of the fingers. Short words have too many neighbours for that.
+bool isNearly(const QString &text, const QString &word)
+{
+    constexpr int shortest = 5;
+    constexpr int lengthForTwo = 9;
+    if (text.contains(word))
+        return true;
+    if (word.size() < shortest)
+        return false;
+    const int most = word.size() < lengthForTwo ? 1 : 2;
+    static const QRegularExpression apart(QStringLiteral("[^\\w]+"));
+    const auto parts = text.splitRef(apart, Qt::SkipEmptyParts);
+    return std::any_of(parts.begin(), parts.end(),
+                       [&](const QStringRef &part) { return olTypingDistance(word, part.toString(), most) <= most; });
+}
+
+/// Empty where that is what the person sees.
+QString inEnglish(const QString &text)
+{
+    QStringList all = olTranslations::english(text);
+    std::transform(all.begin(), all.end(), all.begin(), olPlainText);
+    return all.join(border);
+}
+
+olFoundControl indexed(const olPageControl &control)
+{
+    olFoundControl found;
+    found.widget = control.widget;
+    for (QWidget *label : control.labels)
+        found.labels.emplace_back(label);
+    found.name = control.names.value(0);
+    found.keys = control.settingKeys;
+    found.captions = control.captions;
+    found.texts = control.names + control.captions + control.choices + QStringList{control.toolTip};
+    return found;
+}
+
+QString comparable(const olFoundControl &control)
+{
+    QStringList texts = control.keys;
+    for (const QString &text : control.texts)
+        texts << olPlainText(text) << inEnglish(text);
+    return folded(texts.join(border));
+}
+
+using Compare = bool (*)(const QString &text, const QString &word);
+
+bool stands(const QString &text, const QString &word) { return text.contains(word); }
+
+bool hasAll(const QString &text, const QStringList &words, Compare compare)
+{
+    return std::all_of(words.begin(), words.end(), [&](const QString &word) { return compare(text, word); });
+}
+
+bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const QStringList &words, Compare compare)
+{
+    return control.widget && hasAll(control.searched, words, compare) &&
+           olPageIndex::isShown(*entry.page(), *control.widget);
+}
+
+} // namespace
+
+int olTypingDistance(const QString &left, const QString &right, int most)
 {
     if (std::abs(left.size() - right.size()) > most)
         return most + 1;
@@ -45,64 +106,6 @@ int distance(const QString &left, const QString &right, int most)
     return last.back();
 }
 
-/// Whether the word stands there but for a slip of the fingers. Short words have too many neighbours for that.
-bool isNearly(const QString &text, const QString &word)
-{
-    constexpr int shortest = 5;
-    constexpr int lengthForTwo = 9;
-    if (text.contains(word))
-        return true;
-    if (word.size() < shortest)
-        return false;
-    const int most = word.size() < lengthForTwo ? 1 : 2;
-    static const QRegularExpression apart(QStringLiteral("[^\\w]+"));
-    const auto parts = text.splitRef(apart, Qt::SkipEmptyParts);
-    return std::any_of(parts.begin(), parts.end(),
-                       [&](const QStringRef &part) { return distance(word, part.toString(), most) <= most; });
-}
-
-/// Empty where that is what the person sees.
-QString inEnglish(const QString &text)
-{
-    QStringList all = olTranslations::english(text);
-    std::transform(all.begin(), all.end(), all.begin(), olPlainText);
-    return all.join(border);
-}
-
-olFoundControl indexed(const olPageControl &control)
-{
-    olFoundControl found;
-    found.widget = control.widget;
-    for (QWidget *label : control.labels)
-        found.labels.emplace_back(label);
-    found.name = control.names.value(0);
-    found.keys = control.settingKeys;
-    const QStringList shown = control.names + control.captions + control.choices + QStringList{control.toolTip};
-    QStringList texts = control.settingKeys;
-    for (const QString &text : shown)
-        texts << olPlainText(text) << inEnglish(text);
-    found.captions = control.captions;
-    found.searched = folded(texts.join(border));
-    return found;
-}
-
-using Compare = bool (*)(const QString &text, const QString &word);
-
-bool stands(const QString &text, const QString &word) { return text.contains(word); }
-
-bool hasAll(const QString &text, const QStringList &words, Compare compare)
-{
-    return std::all_of(words.begin(), words.end(), [&](const QString &word) { return compare(text, word); });
-}
-
-bool isHit(const olPreferencesEntry &entry, const olFoundControl &control, const QStringList &words, Compare compare)
-{
-    return control.widget && hasAll(control.searched, words, compare) &&
-           olPageIndex::isShown(*entry.page(), *control.widget);
-}
-
-} // namespace
-
 olSettingsSearch::olSettingsSearch()
 {
     const auto *news = &olPreferencesRegistry::the().news();
@@ -119,7 +122,9 @@ std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
     for (const Compare compare : {stands, isNearly}) {
         for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
             olSearchResult result{entry, {}};
-            for (const olFoundControl &control : controls(*entry)) {
+            for (olFoundControl &control : page(*entry)) {
+                if (control.searched.isEmpty())
+                    control.searched = comparable(control);
                 if (isHit(*entry, control, words, compare))
                     result.hits.push_back(&control);
             }
@@ -133,7 +138,9 @@ std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
     return results;
 }
 
-const std::vector<olFoundControl> &olSettingsSearch::controls(const olPreferencesEntry &entry)
+const std::vector<olFoundControl> &olSettingsSearch::controls(const olPreferencesEntry &entry) { return page(entry); }
+
+std::vector<olFoundControl> &olSettingsSearch::page(const olPreferencesEntry &entry)
 {
     const auto known = m_pages.find(&entry);
     if (known != m_pages.end())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Editing/olPageIndex.h"
+#include "olHostExport.h"
 
 #include <QObject>
 #include <QPointer>
@@ -14,6 +15,9 @@
 
 class olPreferencesEntry;
 
+/// How many letters must be typed in another way to get from one word to the other; more than the most is not counted.
+[[nodiscard]] ORLO_HOST_EXPORT int olTypingDistance(const QString &left, const QString &right, int most);
+
 /// One control as the search knows it. The widgets are null once they are gone.
 struct olFoundControl {
     QPointer<QWidget> widget;
@@ -21,7 +25,8 @@ struct olFoundControl {
     QString name;
     QStringList keys;
     QStringList captions; ///< of tabs, frames and groups around it, outermost first
-    QString searched;
+    QStringList texts;    ///< in which it is searched
+    QString searched;     ///< these and their English ones as they are compared, once somebody searches
 };
 
 /// A page on which something was found, and what.
@@ -55,5 +60,7 @@ public:
     void invalidate();
 
 private:
+    [[nodiscard]] std::vector<olFoundControl> &page(const olPreferencesEntry &entry);
+
     std::map<const olPreferencesEntry *, std::vector<olFoundControl>> m_pages;
 };

@@ -4,7 +4,6 @@
 
 #include <QPointer>
 #include <QString>
-#include <QVariant>
 #include <QVariantMap>
 #include <boost/any.hpp>
 

@@ -25,6 +25,7 @@ constexpr Told told[] = {
     {"RenderOptions nvidia sli mode", "sliMode"},
     {"RenderOptions occlusion culling", "occlusionCulling"},
     {"RenderOptions interactive material preview", "interactiveMaterialPreview"},
+    {"BCADOptions max parallel tasks", "maxParallelImportTasks"},
     {"Help Popup", "simpleToolclips"},
     {"Optimizer Topology Tolerance", "topologyTolerance"},
     {"Optimizer Topology Method", "topologyMethod"},
@@ -57,13 +58,17 @@ constexpr std::string_view recorded[] = {
     "MainWindow redirect osg log", "MainWindow show tool buttons text",
     // compressed textures, and readers that work side by side within one file
     "Loader compress texture mode", "Loader compress texture size", "Loader parallel loading",
-    // options of the VRML format
-    "WrlFileIO inline textures", "WrlFileIO reader optimization",
     // requests that run anything, and help to open
     "WebInterface secure python", "Help Location", "Help Path"};
 
-// Of formats without a reader, beside those that begin with a format's import options.
-constexpr std::string_view recordedPrefixes[] = {"MirraFileIO ", "PLMXML load "};
+// With what the settings of formats begin that have no reader, or one that goes by none of them.
+constexpr std::string_view recordedFormats[] = {
+    "BCADOptions ",       "CatiaV4Options ",    "CatiaV5Options ", "DGNOptions ",   "DraftixOptions ",
+    "JTOptions ",         "KbxOptions ",        "MirraFileIO ",    "NXOptions ",    "PLMXML load ",
+    "PLMXMLOptions ",     "PartwrightOptions ", "ProEOptions ",    "RhinoOptions ", "SolidEdgeOptions ",
+    "SolidWorksOptions ", "WireOptions ",       "WrlFileIO "};
+
+constexpr std::string_view readFormats[] = {"IGESOptions ", "STEPOptions ", "STLOptions "};
 
 // Of the formats that are read.
 constexpr std::string_view recordedOptions[] = {"max chord length",
@@ -78,14 +83,6 @@ constexpr std::string_view recordedOptions[] = {"max chord length",
                                                 "import variants",
                                                 "import template geometries",
                                                 "import mesh LODs"};
-constexpr std::string_view readFormats[] = {"STEP", "IGES", "STL"};
-
-// What stands between a format, or what else has options, and one of them.
-constexpr std::string_view optionsOf = "Options ";
-constexpr std::string_view render = "Render";
-
-// How many files are read at once, of whichever format.
-constexpr std::string_view parallelTasks = "BCADOptions max parallel tasks";
 
 bool startsWith(std::string_view text, std::string_view beginning)
 {
@@ -101,20 +98,17 @@ template <std::size_t count> bool isAmong(const std::string_view (&list)[count],
 
 bool olIsOnlyRecorded(const std::string &key)
 {
-    if (key == parallelTasks)
-        return false;
     for (const Told &setting : told) {
         if (setting.key == key)
             return olHostState::the().find(setting.value)->isRecordedOnly();
     }
-    for (const std::string_view prefix : recordedPrefixes) {
-        if (startsWith(key, prefix))
+    for (const std::string_view format : recordedFormats) {
+        if (startsWith(key, format))
             return true;
     }
-    const std::size_t end = key.find(optionsOf);
-    const std::string_view format = std::string_view(key).substr(0, end);
-    if (end != std::string::npos && format != render)
-        return !isAmong(readFormats, format) ||
-               isAmong(recordedOptions, std::string_view(key).substr(end + optionsOf.size()));
+    for (const std::string_view format : readFormats) {
+        if (startsWith(key, format))
+            return isAmong(recordedOptions, std::string_view(key).substr(format.size()));
+    }
     return isAmong(recorded, key);
 }

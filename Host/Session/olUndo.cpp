@@ -7,6 +7,8 @@
 
 using namespace olStoreRows;
 
+QString olUndo::changedSince() { return tr("was changed since"); }
+
 olResult<olUndo> olUndo::of(olPreferencesSession &session, std::size_t saves)
 {
     // What the session follows has still to come into force there.
@@ -23,8 +25,12 @@ olResult<olUndo> olUndo::of(olPreferencesSession &session, std::size_t saves)
             whole.emplace(change.key, change).first->second.after = change.after;
     });
     for (const auto &[key, change] : whole) {
+        const auto row = contents->rows.find(key);
+        const auto now = row == contents->rows.end() ? std::nullopt : std::optional(row->second);
         if (const auto reason = session.lockReason(key.second))
             undo.m_left.push_back({key.second, tr("is locked: %1").arg(*reason)});
+        else if (change.before != change.after && now != change.after)
+            undo.m_left.push_back({key.second, changedSince()});
         else if (change.before != change.after)
             undo.m_changes.push_back({key, change.after, change.before});
     }
@@ -36,7 +42,7 @@ olResult<> olUndo::save()
     std::vector<Change> left;
     olResult<> saved = m_session.store().save(m_changes, &left);
     for (const Change &change : left) {
-        m_left.push_back({change.key.second, tr("was changed since")});
+        m_left.push_back({change.key.second, changedSince()});
         m_changes.erase(std::find_if(m_changes.begin(), m_changes.end(),
                                      [&change](const Change &known) { return known.key == change.key; }));
     }

@@ -6,6 +6,7 @@
 #include "olHostExport.h"
 
 #include <QCoreApplication>
+#include <QString>
 #include <boost/any.hpp>
 
 #include <cstddef>
@@ -20,7 +21,7 @@ class ORLO_HOST_EXPORT olUndo
     Q_DECLARE_TR_FUNCTIONS(olUndo)
 
 public:
-    /// Fails where the store cannot be read. Locked settings are left as they are.
+    /// Fails where the store cannot be read. What is locked or was changed since is left as it is.
     static olResult<olUndo> of(olPreferencesSession &session, std::size_t saves);
 
     /// All saves that are remembered, the earliest first.
@@ -30,7 +31,7 @@ public:
     [[nodiscard]] const std::vector<olStoreRows::Change> &changes() const { return m_changes; }
     [[nodiscard]] const std::vector<olSkippedSetting> &left() const { return m_left; }
 
-    /// Stores the changes, as a save of its own. Settings that changed since are left as they are, too.
+    /// Stores the changes, as a save of its own. Settings that changed even since of() are left as they are, too.
     olResult<> save();
 
     /// A setting's value in a row; where it has none the default, which may be empty.
@@ -38,6 +39,7 @@ public:
 
 private:
     explicit olUndo(olPreferencesSession &session) : m_session(session) {}
+    [[nodiscard]] static QString changedSince();
 
     olPreferencesSession &m_session;
     olStoreRows::History m_history;

@@ -11,28 +11,29 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QLockFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QThread>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <functional>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace
 {
 
 using Kind = olStoreError::Kind;
-using Work = std::function<void(olSqlite &)>;
 using namespace olStoreRows;
 
-constexpr int lockMilliseconds = 3000;
+constexpr int waitMilliseconds = 3000;
 
 // What may stand beside a database: the journal of a save, and the log of an earlier version.
 const QLatin1String journals[] = {QLatin1String("-journal"), QLatin1String("-wal")};
@@ -41,9 +42,11 @@ constexpr int headerSize = 100;
 
 QByteArray pathOf(const QString &name) { return QFile::encodeName(name); }
 
-olStoreError systemError() { return {Kind::Access, QString::fromLocal8Bit(std::strerror(errno))}; }
+olStoreError accessError(const QString &reason) { return {Kind::Access, reason}; }
 
-olStoreError busy() { return {Kind::Access, olPreferencesStore::tr("another program keeps it busy")}; }
+olStoreError systemError() { return accessError(QString::fromLocal8Bit(std::strerror(errno))); }
+
+olStoreError busy() { return accessError(olPreferencesStore::tr("another program keeps it busy")); }
 
 /// What is made beside a link, a journal or a copy, belongs beside what it leads to.
 QString targetOf(QString file)
@@ -77,24 +80,7 @@ void rename(const QString &from, const QString &to)
         throw systemError();
 }
 
-/// The bytes of a new file are kept through a power cut only when they are written, and its name when its folder is.
-void sync(const QString &name)
-{
-    const int file = ::open(pathOf(name).constData(), O_RDONLY | O_CLOEXEC);
-    ::fsync(file);
-    ::close(file);
-}
-
-/// Empty, for its owner alone.
-void makeFile(const QString &name)
-{
-    const int file = ::open(pathOf(name).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    if (file < 0)
-        throw systemError();
-    ::close(file);
-}
-
-/// To be read while the file is not open: to close it lets go of all locks that this process has on it.
+/// To be read while no transaction is under way: to close it lets go of all locks that this process has on it.
 QByteArray headerOf(const QString &name)
 {
     QFile file(name);
@@ -125,105 +111,110 @@ QByteArray stampOf(const QString &file)
     return stamp;
 }
 
-void copyPart(const QString &from, const QString &to)
-{
-    QFile source(from);
-    // What went away meanwhile is no fault, but a change.
-    if (!source.copy(to) && source.exists())
-        throw olStoreError(Kind::Access,
-                           olPreferencesStore::tr("%1 cannot be read: %2").arg(from, source.errorString()));
-    QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
-}
-
 QByteArray bytesOf(const QString &file)
 {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
-        throw olStoreError(Kind::Access, source.errorString());
+        throw accessError(source.errorString());
     return source.readAll();
 }
 
-/// Looks at a copy, so that the disk stays as it is, no lock is needed and nobody is waited for. In memory, where a
-/// full disk is in nobody's way; where a save was begun or an earlier version left its log, the database works that
-/// into files of our own.
-void look(const QString &file, const Work &work)
+/// The file with its journal or log beside it as the database makes them one, in a folder of our own. In memory, where
+/// a full disk is in nobody's way.
+QByteArray unitedBytesOf(const QString &file)
+{
+    const QString memory = QStringLiteral("/dev/shm");
+    const QTemporaryDir folder((QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + "/orlo-XXXXXX");
+    const QString copy = folder.filePath(QStringLiteral("copy.db"));
+    for (const QLatin1String part : {QLatin1String(""), journals[0], journals[1]}) {
+        QFile source(file + part);
+        if (!source.copy(copy + part) && source.exists())
+            throw accessError(
+                olPreferencesStore::tr("%1 cannot be read: %2").arg(source.fileName(), source.errorString()));
+        QFile::setPermissions(copy + part, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    olSqlite(copy, olSqlite::Access::Private).run("PRAGMA journal_mode = DELETE");
+    return bytesOf(copy);
+}
+
+/// All that a file holds; nothing where somebody wrote into it meanwhile. So the disk stays as it is, no lock is needed
+/// and nobody is waited for.
+std::optional<QByteArray> snapshotOf(const QString &file)
 {
     const mode_t mode = statusOf(file).st_mode;
     if (mode != 0 && !S_ISREG(mode))
-        throw olStoreError(Kind::Access, olPreferencesStore::tr("it is no regular file"));
-    // Others may save one after the other; who saves waits as long for them.
-    constexpr int attempts = lockMilliseconds / 10;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        const QByteArray before = stampOf(file);
-        if (!hasJournal(file) && !versionsIn(headerOf(file)).contains('\2')) {
-            const QByteArray bytes = bytesOf(file);
-            if (stampOf(file) == before) {
-                olSqlite database(bytes);
-                return work(database);
-            }
-        } else {
-            const QString memory = QStringLiteral("/dev/shm");
-            const QTemporaryDir folder((QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + "/orlo-XXXXXX");
-            const QString copy = folder.filePath(QStringLiteral("copy.db"));
-            for (const QLatin1String part : {QLatin1String(""), journals[0], journals[1]})
-                copyPart(file + part, copy + part);
-            if (stampOf(file) == before) {
-                olSqlite database(copy, olSqlite::Access::Private);
-                return work(database);
-            }
-        }
-        ::usleep(10000);
+        throw accessError(olPreferencesStore::tr("it is no regular file"));
+    const QByteArray stamp = stampOf(file);
+    try {
+        QByteArray bytes = bytesOf(file);
+        const QByteArray versions = versionsIn(bytes);
+        if (bytes.startsWith("SQLite format 3") && versions != "\1\1" && versions != "\2\2")
+            throw olStoreError(Kind::Damaged, olPreferencesStore::tr("its header is not what it was"));
+        if (hasJournal(file) || versions == "\2\2")
+            bytes = unitedBytesOf(file);
+        return stampOf(file) == stamp ? std::optional(bytes) : std::nullopt;
+    } catch (const olStoreError &) {
+        if (stampOf(file) == stamp)
+            throw;
+        return std::nullopt;
     }
-    throw busy();
 }
 
-/// Everything in a file, after it was proved sound; nothing where there is no file, or nothing in it yet. Where a store
-/// was before, whatever is there now is not foreign but damaged.
-Contents readFile(const QString &file, bool wasStore)
+/// What that means, after it was proved sound. Where a store was before, whatever is there now is not foreign but
+/// damaged.
+std::optional<Contents> tryToRead(const QString &file, bool wasStore)
 {
-    Contents contents;
-    if (!exists(file))
-        return contents;
     try {
-        look(file, [&](olSqlite &database) {
-            contents = olStoreTables::read(database, wasStore);
-            contents.history = olStoreTables::readHistory(database);
-        });
-        // Only now: another program may just have filled the file.
-        const QByteArray versions = versionsIn(headerOf(file));
-        if (!contents.seal.empty() && versions != "\1\1" && versions != "\2\2")
-            throw olStoreError(Kind::Damaged, olPreferencesStore::tr("its header is not what it was"));
+        const std::optional<QByteArray> bytes = snapshotOf(file);
+        if (!bytes)
+            return std::nullopt;
+        olSqlite database(*bytes);
+        Contents contents = olStoreTables::read(database, wasStore);
+        contents.history = olStoreTables::readHistory(database);
+        contents.file = *bytes;
         return contents;
     } catch (const olStoreError &error) {
         if (error.kind() == Kind::Damaged && !wasStore && !looksLikeAStore(headerOf(file)))
-            throw olStoreError(Kind::Access, olPreferencesStore::tr("it is no preferences file"));
+            throw accessError(olPreferencesStore::tr("it is no preferences file"));
         throw;
     }
 }
 
-/// A copy of the file, which must be sound, ready to take the place of another.
-QString copyBeside(const QString &file, const QString &other)
+/// Nothing where there is no file, or nothing in it yet.
+Contents read(const QString &file, bool wasStore)
 {
-    const QString fresh = other + QStringLiteral(".new");
-    QFile::remove(fresh);
-    try {
-        makeFile(fresh);
-        look(file, [&fresh](olSqlite &database) { database.run("VACUUM INTO ?", {pathOf(fresh).toStdString()}); });
-        QFile::setPermissions(fresh, QFile::permissions(file));
-        sync(fresh);
-    } catch (const olStoreError &) {
-        QFile::remove(fresh);
-        throw;
+    // Others may save one after the other; who saves waits as long for them.
+    const QDeadlineTimer end(waitMilliseconds);
+    while (exists(file)) {
+        if (std::optional<Contents> contents = tryToRead(file, wasStore))
+            return std::move(*contents);
+        if (end.hasExpired())
+            throw busy();
+        QThread::msleep(10);
     }
+    return {};
+}
+
+/// A new file beside another, with the bytes and the mode of an original, whole and on the disk, to be put in its
+/// place.
+std::unique_ptr<QTemporaryFile> writtenBeside(const QString &file, const QByteArray &bytes, const QString &original)
+{
+    auto fresh = std::make_unique<QTemporaryFile>(file + QStringLiteral(".XXXXXX"));
+    if (!fresh->open() || fresh->write(bytes) != bytes.size() || !fresh->flush() ||
+        !fresh->setPermissions(QFile::permissions(original)) || ::fsync(fresh->handle()) != 0)
+        throw accessError(fresh->errorString());
     return fresh;
 }
 
-/// Keeps the file, with its journal, under the dated name that is returned. The copy, where one is named, takes its
-/// place; where that cannot be made everything is as it was.
-QString setAside(const QString &file, const QString &copy)
+void putInPlace(QTemporaryFile &fresh, const QString &file)
 {
-    // Built before anything is moved, so that a full disk leaves everything where it is.
-    const QString fresh = copy.isEmpty() ? QString() : copyBeside(copy, file);
+    rename(fresh.fileName(), file);
+    fresh.setAutoRemove(false);
+}
+
+/// Keeps the file, with its journal, under the dated name that is returned.
+QString setAside(const QString &file)
+{
     const QString aside =
         file + QDateTime::currentDateTime().toString(QStringLiteral("'.damaged-'yyyy-MM-dd_HH-mm-ss-zzz"));
     // A second name first: at no moment is the file without one. Not all file systems know second names.
@@ -235,67 +226,8 @@ QString setAside(const QString &file, const QString &copy)
             rename(file + journal, aside + journal);
     }
     QFile::remove(file + QStringLiteral("-shm"));
-    if (copy.isEmpty())
-        QFile::remove(file);
-    else
-        rename(fresh, file);
-    sync(QFileInfo(file).absolutePath());
     return aside;
 }
-
-/// Keeps programs from mending or copying a store at the same time. The system takes it from a program that is killed.
-class Lock
-{
-public:
-    explicit Lock(const QString &store) : m_name(QFile::encodeName(store + QLatin1String(".lock"))) {}
-    ~Lock()
-    {
-        if (m_isHeld)
-            ::unlink(m_name.constData());
-        shut();
-    }
-    Lock(const Lock &) = delete;
-    Lock &operator=(const Lock &) = delete;
-
-    [[nodiscard]] bool tryLock(int milliseconds)
-    {
-        const QDeadlineTimer end(milliseconds);
-        for (;;) {
-            m_file = ::open(m_name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-            if (m_file < 0)
-                return false;
-            if (::flock(m_file, LOCK_EX | LOCK_NB) == 0 && isOfThatName()) {
-                m_isHeld = true;
-                return true;
-            }
-            shut();
-            if (end.hasExpired())
-                return false;
-            QThread::msleep(10);
-        }
-    }
-
-private:
-    /// Who held it before may have taken the name away in between, and then it keeps nobody off.
-    [[nodiscard]] bool isOfThatName() const
-    {
-        struct stat held {
-        };
-        struct stat named {
-        };
-        return ::fstat(m_file, &held) == 0 && ::stat(m_name.constData(), &named) == 0 && held.st_ino == named.st_ino;
-    }
-    void shut()
-    {
-        if (m_file >= 0)
-            ::close(m_file);
-        m_file = -1;
-    }
-
-    QByteArray m_name;
-    int m_file = -1;
-    bool m_isHeld = false;
-};
 
 } // namespace
 
@@ -320,26 +252,21 @@ olPreferencesStore::olPreferencesStore(const QString &file)
 bool olPreferencesStore::isStore() const { return m_isStore || exists(m_copy); }
 
 /// A file of a newer version is not ours to touch; but it may also be damaged just where its version stands.
-olFailure olPreferencesStore::withWayOut(const QString &fault, const olStoreError &error) const
+olFailure olPreferencesStore::failure(const QString &fault, const olStoreError &error) const
 {
-    if (error.kind() != Kind::Newer)
-        return {fault};
-    return {
-        olSentences({fault, tr("Use that version. If there is none, the file is damaged: move it away to start with "
-                               "defaults, or rename its copy %1, where there is one, to it.")
-                                .arg(m_copy)})};
+    QStringList told{fault.arg(m_file, error.reason())};
+    if (error.kind() == Kind::Newer)
+        told << tr("Use that version. If there is none, the file is damaged: move it away to start with defaults, or "
+                   "rename its copy %1, where there is one, to it.")
+                    .arg(m_copy);
+    return {olSentences(told)};
 }
 
-olFailure olPreferencesStore::cannotRead(const olStoreError &error) const
-{
-    return withWayOut(tr("Cannot read the preferences %1: %2.").arg(m_file, error.reason()), error);
-}
-
-Contents olPreferencesStore::read()
+Contents olPreferencesStore::readFile()
 {
     // Before: what is saved meanwhile is still to be read.
     const QByteArray stamp = stampOf(m_file);
-    Contents contents = readFile(m_file, isStore());
+    Contents contents = read(m_file, isStore());
     m_isStore = !contents.seal.empty();
     m_stamp = stamp;
     return contents;
@@ -348,44 +275,44 @@ Contents olPreferencesStore::read()
 olResult<Contents> olPreferencesStore::load()
 {
     try {
-        return read();
+        return readFile();
     } catch (const olStoreError &error) {
-        return cannotRead(error);
+        return failure(tr("Cannot read the preferences %1: %2."), error);
     }
 }
 
 bool olPreferencesStore::mayHaveChanged() const { return m_stamp.isEmpty() || m_stamp != stampOf(m_file); }
 
-olResult<olStoreOpening> olPreferencesStore::open(olStoreUse use)
+olResult<Contents> olPreferencesStore::open(olStoreUse use)
 {
     try {
-        Contents contents = read();
-        if (use == olStoreUse::Own)
-            keepCopy(contents.seal);
-        return olStoreOpening{std::move(contents.values), {}};
+        Contents contents = readFile();
+        if (use == olStoreUse::Own && !contents.seal.empty())
+            keepCopy(contents);
+        return contents;
     } catch (const olStoreError &error) {
         if (error.kind() == Kind::Damaged)
             return mend(error.reason(), use);
-        return cannotRead(error);
+        return failure(tr("Cannot read the preferences %1: %2."), error);
     }
 }
 
-olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
+Contents olPreferencesStore::mend(const QString &reason, olStoreUse use)
 {
-    Lock lock(m_file);
-    const bool isHeld = use == olStoreUse::Own && lock.tryLock(lockMilliseconds);
+    QLockFile lock(m_file + QStringLiteral(".lock"));
+    const bool isHeld = use == olStoreUse::Own && lock.tryLock(waitMilliseconds);
     try {
         // Another program may have mended it meanwhile.
         if (isHeld)
-            return {read().values, {}};
+            return readFile();
     } catch (const olStoreError &) {
     }
     QStringList told{tr("The preferences file %1 is damaged: %2.").arg(m_file, reason)};
     QString remark = tr("There is no copy of it yet, so all settings are at their defaults.");
-    std::optional<Values> values;
+    Contents copy;
     try {
         if (exists(m_copy)) {
-            values = readFile(m_copy, true).values;
+            copy = read(m_copy, true);
             remark = tr("The copy of %1 was loaded; what was changed after that is not in it.")
                          .arg(QLocale().toString(QFileInfo(m_copy).lastModified(), QLocale::ShortFormat));
         }
@@ -394,34 +321,37 @@ olStoreOpening olPreferencesStore::mend(const QString &reason, olStoreUse use)
     }
     try {
         if (isHeld) {
-            told << tr("It is now kept as %1.").arg(setAside(m_file, values ? m_copy : QString()));
-            m_isStore = values.has_value();
+            // Before anything is moved, so that a full disk leaves everything where it is.
+            const auto fresh = copy.seal.empty() ? nullptr : writtenBeside(m_file, copy.file, m_copy);
+            told << tr("It is now kept as %1.").arg(setAside(m_file));
+            if (fresh)
+                putInPlace(*fresh, m_file);
+            else
+                QFile::remove(m_file);
+            m_isStore = fresh != nullptr;
         } else if (use == olStoreUse::Own) {
-            throw olStoreError(Kind::Access, tr("its folder is read-only, or another program keeps it busy"));
+            throw accessError(tr("its folder is read-only or full, or another program keeps it busy"));
         }
     } catch (const olStoreError &error) {
         told << tr("It could not be set aside: %1.").arg(error.reason());
     }
-    return {values.value_or(Values()), olSentences(told << remark)};
+    copy.notice = olSentences(told << remark);
+    return copy;
 }
 
-void olPreferencesStore::keepCopy(const std::string &seal) const
+void olPreferencesStore::keepCopy(const Contents &contents) const
 {
-    // Who cannot have the lock lets the other one make the copy; and without one all is as good as before.
-    Lock lock(m_file);
-    if (seal.empty() || !lock.tryLock(0))
-        return;
     try {
-        if (readFile(m_copy, true).seal == seal)
+        if (read(m_copy, true).seal == contents.seal)
             return;
     } catch (const olStoreError &error) {
         if (error.kind() == Kind::Newer)
             return;
     }
     try {
-        rename(copyBeside(m_file, m_copy), m_copy);
-        sync(QFileInfo(m_copy).absolutePath());
+        putInPlace(*writtenBeside(m_copy, contents.file, m_file), m_copy);
     } catch (const olStoreError &) {
+        // Without one all is as good as before.
     }
 }
 
@@ -438,9 +368,7 @@ olResult<> olPreferencesStore::save(const std::vector<Change> &changes, std::vec
         return {};
     } catch (const olStoreError &error) {
         m_isBroken = error.kind() == Kind::Damaged;
-        return withWayOut(
-            tr("Cannot save the preferences to %1: %2. What it held before is unchanged.").arg(m_file, error.reason()),
-            error);
+        return failure(tr("Cannot save the preferences to %1: %2. What it held before is unchanged."), error);
     }
 }
 
@@ -453,11 +381,15 @@ void olPreferencesStore::change(const std::vector<Change> &changes, std::vector<
         QFile::remove(m_copy);
         if (!makeFolder(QFileInfo(m_file).absolutePath()))
             throw olStoreError(Kind::Access, tr("its folder cannot be created"));
-        makeFile(m_file);
+        const int made = ::open(pathOf(m_file).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+        if (made < 0)
+            throw systemError();
+        ::close(made);
     }
-    // What the database would work in from another file is proved on a copy before.
+    // What the database would work in from another file is proved on a copy before. A journal that changes meanwhile is
+    // the work of a program that lives, which the database waits for.
     if (hasJournal(m_file) || versionsIn(headerOf(m_file)) != "\1\1")
-        (void)readFile(m_file, m_isStore);
+        (void)tryToRead(m_file, m_isStore);
     olSqlite database(m_file, olSqlite::Access::Shared);
     if (database.text("PRAGMA journal_mode = DELETE") != "delete")
         throw busy();
@@ -477,7 +409,7 @@ QStringList olPreferencesStore::check() const
     QStringList findings;
     for (const auto &[file, wasStore] : {std::pair(m_file, isStore()), std::pair(m_copy, true)}) {
         try {
-            (void)readFile(file, wasStore);
+            (void)read(file, wasStore);
         } catch (const olStoreError &error) {
             findings << tr("%1: %2.").arg(file, error.reason());
         }

@@ -17,12 +17,6 @@ class olStoreError;
 /// as it is.
 enum class olStoreUse { Own, LookAt };
 
-/// What opening a store gave.
-struct olStoreOpening {
-    olStoreRows::Values values;
-    QString notice; ///< these are not the values of the file, and why; to be told to the person, once
-};
-
 /// Where the values of settings are kept between runs: one database file, written whole or not at all, that finds out
 /// when it is damaged, a copy beside it to go back to, and a history of all saves. Several programs may use it at once.
 /// What fails says why in a sentence that names the file.
@@ -49,7 +43,7 @@ public:
     /// under a dated name and puts the copy in its place, and makes a sound file the last good copy. A file that does
     /// not exist yet holds nothing. Rows whose value cannot be understood stay in the file and are not among the
     /// values.
-    olResult<olStoreOpening> open(olStoreUse use = olStoreUse::Own);
+    olResult<olStoreRows::Contents> open(olStoreUse use = olStoreUse::Own);
 
     /// Only what the file itself holds: damage is a failure.
     olResult<olStoreRows::Contents> load();
@@ -70,11 +64,10 @@ public:
 
 private:
     [[nodiscard]] bool isStore() const;
-    [[nodiscard]] olFailure withWayOut(const QString &fault, const olStoreError &error) const;
-    [[nodiscard]] olFailure cannotRead(const olStoreError &error) const;
-    [[nodiscard]] olStoreRows::Contents read();
-    void keepCopy(const std::string &seal) const;
-    [[nodiscard]] olStoreOpening mend(const QString &reason, olStoreUse use);
+    [[nodiscard]] olFailure failure(const QString &fault, const olStoreError &error) const;
+    [[nodiscard]] olStoreRows::Contents readFile();
+    void keepCopy(const olStoreRows::Contents &contents) const;
+    [[nodiscard]] olStoreRows::Contents mend(const QString &reason, olStoreUse use);
     void change(const std::vector<olStoreRows::Change> &changes, std::vector<olStoreRows::Change> *left) const;
 
     QString m_file;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <sqlite3.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -15,7 +16,14 @@ namespace
 
 using Kind = olStoreError::Kind;
 
-constexpr int waitMilliseconds = 3000;
+/// The database's own waits grow longer and longer, and miss the moments between the saves of programs that hardly
+/// pause.
+int waitOnce(void *, int attempts)
+{
+    constexpr int mostAttempts = 1500;
+    ::usleep(2000);
+    return int(attempts < mostAttempts);
+}
 
 olStoreError errorOf(int code, int systemError, const QString &message)
 {
@@ -64,7 +72,7 @@ olSqlite::olSqlite(const QByteArray &path, const char *fileSystem) : m_handle(nu
     m_handle.reset(handle);
     require(result);
     sqlite3_extended_result_codes(handle, 1);
-    sqlite3_busy_timeout(handle, waitMilliseconds);
+    sqlite3_busy_handler(handle, waitOnce, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     run("PRAGMA cell_size_check = ON");
@@ -93,8 +101,6 @@ void olSqlite::require(int result) const
     if (result == SQLITE_OK)
         return;
     sqlite3 *handle = m_handle.get();
-    if (!handle)
-        throw errorOf(result, 0, QString::fromUtf8(sqlite3_errstr(result)));
     // Not every failure of the system reaches the database's own note of it.
     const int systemError = sqlite3_system_errno(handle) != 0 ? sqlite3_system_errno(handle) : lastError;
     throw errorOf(sqlite3_extended_errcode(handle), systemError, QString::fromUtf8(sqlite3_errmsg(handle)));

@@ -4,6 +4,7 @@
 #include "State/olValue.h"
 
 #include <QByteArray>
+#include <QString>
 #include <boost/any.hpp>
 
 #include <map>
@@ -50,9 +51,12 @@ struct Save {
 using History = std::vector<Save>;
 
 struct Contents {
+    std::map<Key, Row> rows;
     Values values; ///< but for rows whose value cannot be understood
     History history;
     std::string seal; ///< differs where the rows do; empty where there is no store
+    QByteArray file;  ///< that holds it all
+    QString notice;   ///< where these are not the file's values, why; to be told to the person, once
 };
 
 /// As the file has it.

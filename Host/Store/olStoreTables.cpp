@@ -126,10 +126,11 @@ Contents olStoreTables::read(olSqlite &database, bool wasStore)
     if (database.text("SELECT group_concat(rows) FROM seal") != contents.seal)
         throw olStoreError(Kind::Damaged, Words::tr("rows were changed or are missing"));
     for (const olSqlite::Row &row : settings) {
-        const auto key = keyOf(row[0], row[1]);
-        boost::any value = Row{row[2].value_or(""), row[3].value_or("")}.parsed();
-        if (key && !value.empty())
-            contents.values[*key] = std::move(value);
+        if (const auto key = keyOf(row[0], row[1])) {
+            const Row &kept = contents.rows[*key] = {row[2].value_or(""), row[3].value_or("")};
+            if (boost::any value = kept.parsed(); !value.empty())
+                contents.values[*key] = std::move(value);
+        }
     }
     return contents;
 }

@@ -22,32 +22,33 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(olWebServer)
 };
 
-/// Reads a file of the certificate. Returns why it cannot be used; empty where it can.
-QString read(QFile &file, bool isSecret, QByteArray &content)
+/// A file of the certificate; not what cannot be used.
+olResult<QByteArray> read(const QString &name, bool isSecret)
 {
+    QFile file(name);
     const QFileInfo info(file);
     // Opening anything else might never end.
     if (info.exists() && !info.isFile())
-        return Words::tr("it is no regular file");
+        return olFailure{Words::tr("it is no regular file")};
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return olFailure{file.errorString()};
     if (isSecret && (file.permissions() & (QFile::ReadGroup | QFile::ReadOther)))
-        return Words::tr("others than its owner can read it");
-    content = file.read(maxFileSize);
+        return olFailure{Words::tr("others than its owner can read it")};
+    const QByteArray content = file.read(maxFileSize);
     if (file.error() != QFile::NoError)
-        return file.errorString();
-    return content.isEmpty() ? Words::tr("it is empty") : QString();
+        return olFailure{file.errorString()};
+    if (content.isEmpty())
+        return olFailure{Words::tr("it is empty")};
+    return content;
 }
 
 /// Empty, and told in the log, where it cannot be used.
 QByteArray contentOf(const QString &name, bool isSecret)
 {
-    QFile file(name);
-    QByteArray content;
-    const QString fault = read(file, isSecret, content);
-    if (fault.isEmpty())
-        return content;
-    olLog::error(Words::tr("The web server cannot use %1: %2").arg(name, fault));
+    const olResult<QByteArray> content = read(name, isSecret);
+    if (content.isOk())
+        return *content;
+    olLog::error(Words::tr("The web server cannot use %1: %2").arg(name, content.error()));
     return {};
 }
 

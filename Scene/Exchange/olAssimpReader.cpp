@@ -110,7 +110,7 @@ public:
         const double wanted = std::clamp(double(part), 0.0, 1.0) * steps;
         if (wanted > m_scope.Value())
             m_scope.Next(wanted - m_scope.Value());
-        return !m_scope.UserBreak();
+        return true;
     }
 
 private:
@@ -133,11 +133,15 @@ float screenOf(float light)
 class Conversion
 {
 public:
-    Conversion(const aiScene &scene, const olAssimpReader::Manner &manner, const olScene::Document &document,
+    Conversion(const aiScene &scene, const olAssimpReader::Conventions &conventions, const olScene::Document &document,
                const QString &name)
-        : m_scene(scene), m_manner(manner), m_document(document), m_name(name), m_turn(1, 0, 0, 0, 1, 0, 0, 0, 1)
+        : m_scene(scene),
+          m_conventions(conventions),
+          m_document(document),
+          m_name(name),
+          m_turn(1, 0, 0, 0, 1, 0, 0, 0, 1)
     {
-        if (manner.isYUp)
+        if (conventions.isYUp)
             m_turn = gp_Mat(1, 0, 0, 0, 0, -1, 0, 1, 0);
     }
 
@@ -147,11 +151,11 @@ public:
         findSame();
         for (unsigned index = 0; index < m_scene.mNumMaterials; ++index)
             m_looks.push_back(addLook(*m_scene.mMaterials[index]));
-        const gp_Mat scale(m_manner.unit, 0, 0, 0, m_manner.unit, 0, 0, 0, m_manner.unit);
+        const gp_Mat scale(m_conventions.unit, 0, 0, 0, m_conventions.unit, 0, 0, 0, m_conventions.unit);
         const aiNode &root = *m_scene.mRootNode;
         std::vector<olMeshDocument::Member> members;
         // A root that the library made up only says where the rest stands.
-        const bool isOwn = m_manner.hasOwnRoot && textOf(root.mName) != QLatin1String("ROOT");
+        const bool isOwn = m_conventions.hasOwnRoot && textOf(root.mName) != QLatin1String("ROOT");
         if (root.mNumMeshes == 0 && !isOwn)
             addChildren(root, turned(root.mTransformation), scale, 0, members);
         else
@@ -343,7 +347,7 @@ private:
     [[nodiscard]] std::vector<std::uint32_t> colorsOf(const aiMesh &mesh) const
     {
         aiColor4D base(1, 1, 1, 1);
-        if (m_manner.isLinear)
+        if (m_conventions.isLinear)
             m_scene.mMaterials[mesh.mMaterialIndex]->Get(AI_MATKEY_BASE_COLOR, base);
         std::vector<std::uint32_t> colors;
         colors.reserve(mesh.mNumVertices);
@@ -351,7 +355,7 @@ private:
             const aiColor4D color = mesh.mColors[0][index] * base;
             std::uint32_t packed = 0;
             for (unsigned part = 0; part < 4; ++part) {
-                const float value = part < 3 && m_manner.isLinear ? screenOf(color[part]) : color[part];
+                const float value = part < 3 && m_conventions.isLinear ? screenOf(color[part]) : color[part];
                 // What is no number is black.
                 packed |= std::uint32_t(value > 0 ? std::min(value, 1.0f) * 255.0f + 0.5f : 0.0f) << (8 * part);
             }
@@ -368,7 +372,7 @@ private:
         if (textOf(name) == QLatin1String(AI_DEFAULT_MATERIAL_NAME))
             return {};
         const Handle(XCAFDoc_VisMaterial) look = new XCAFDoc_VisMaterial;
-        if (m_manner.isLinear)
+        if (m_conventions.isLinear)
             setPhysical(*look, material);
         else
             setCommon(*look, material);
@@ -465,7 +469,7 @@ private:
     }
 
     const aiScene &m_scene;
-    const olAssimpReader::Manner &m_manner;
+    const olAssimpReader::Conventions &m_conventions;
     olMeshDocument m_document;
     QString m_name;
     gp_Mat m_turn;
@@ -478,8 +482,9 @@ private:
 
 } // namespace
 
-QString olAssimpReader::read(const olImportJob &job, const Manner &manner, const olScene::Document &document,
-                             const Message_ProgressRange &progress, QStringList &remarks)
+olResult<> olAssimpReader::read(const olImportJob &job, const Conventions &conventions,
+                                const olScene::Document &document, const Message_ProgressRange &progress,
+                                QStringList &remarks)
 {
     Assimp::Importer importer;
     importer.SetIOHandler(new Files(job.fileToRead(), remarks));
@@ -490,12 +495,18 @@ QString olAssimpReader::read(const olImportJob &job, const Manner &manner, const
                           aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices);
     if (!scene || !scene->mRootNode) {
         const QString fault = QString::fromUtf8(importer.GetErrorString()).section(QLatin1Char('\n'), 0, 0).trimmed();
-        return fault.isEmpty() ? damaged() : olReason::tr("the file is damaged (%1)").arg(fault);
+        return fault.isEmpty() ? damaged() : olFailure{olReason::tr("the file is damaged (%1)").arg(fault)};
     }
-    Conversion conversion(*scene, manner, document, QFileInfo(job.file).completeBaseName());
+    Conversion conversion(*scene, conventions, document, QFileInfo(job.file).completeBaseName());
     if (!conversion.run())
-        return olReason::tr("its groups are nested too deeply");
+        return olFailure{olReason::tr("its groups are nested too deeply")};
     if (conversion.leftOut() > 0)
         remarks << olReason::tr("%1 of its meshes are lines or points, which are left out.").arg(conversion.leftOut());
     return {};
+}
+
+olResult<> olAssimpReader::read(const olImportJob &job, const olScene::Document &document,
+                                const Message_ProgressRange &progress, QStringList &remarks)
+{
+    return read(job, Conventions(), document, progress, remarks);
 }

@@ -2,6 +2,7 @@
 
 #include "Exchange/olImportJob.h"
 #include "Model/olScene.h"
+#include "State/olResult.h"
 
 #include <QStringList>
 
@@ -11,8 +12,8 @@ class Message_ProgressRange;
 namespace olAssimpReader
 {
 
-/// What a format leaves open.
-struct Manner {
+/// What a format takes for granted.
+struct Conventions {
     /// The length of the file's unit in millimetres.
     double unit = 1.0;
 
@@ -26,8 +27,12 @@ struct Manner {
     bool isLinear = false;
 };
 
-/// Returns why it could not, in half a sentence; empty on success.
-[[nodiscard]] QString read(const olImportJob &job, const Manner &manner, const olScene::Document &document,
-                           const Message_ProgressRange &progress, QStringList &remarks);
+/// Says why it could not in half a sentence.
+olResult<> read(const olImportJob &job, const Conventions &conventions, const olScene::Document &document,
+                const Message_ProgressRange &progress, QStringList &remarks);
+
+/// Of a format that takes nothing else for granted.
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                QStringList &remarks);
 
 } // namespace olAssimpReader

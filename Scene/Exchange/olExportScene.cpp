@@ -92,8 +92,8 @@ QStringList lossesOf(const olScene::Document &document, const olModelFormat &for
         {olModelFormat::Curves, Words::tr("curves")},
         {olModelFormat::Names, Words::tr("names of parts")},
         {olModelFormat::Structure, Words::tr("groups of parts")},
-        {olModelFormat::Colors, Words::tr("colours")},
-        {olModelFormat::CornerColors, Words::tr("colours of corners")},
+        {olModelFormat::Colors, Words::tr("colors")},
+        {olModelFormat::CornerColors, Words::tr("colors of corners")},
         {olModelFormat::Opacity, Words::tr("opacity")},
         {olModelFormat::Textures, Words::tr("textures")},
         {olModelFormat::Substances, Words::tr("physical materials")},
@@ -115,81 +115,77 @@ QStringList lossesOf(const olScene::Document &document, const olModelFormat &for
 }
 
 /// Puts one finished file in the place of what was there. Says why it could not, in half a sentence.
-QString putInPlace(const QString &finished, const QString &target)
+olResult<> putInPlace(const QString &finished, const QString &target)
 {
     constexpr qint64 block = 1 << 20;
     QFile source(finished);
     QSaveFile destination(target);
     if (!source.open(QIODevice::ReadOnly))
-        return source.errorString();
+        return olFailure{source.errorString()};
     if (!destination.open(QIODevice::WriteOnly))
-        return destination.errorString();
+        return olFailure{destination.errorString()};
     while (!source.atEnd()) {
         if (destination.write(source.read(block)) < 0)
-            return destination.errorString();
+            return olFailure{destination.errorString()};
     }
-    return destination.commit() ? QString() : destination.errorString();
+    return destination.commit() ? olResult<>() : olFailure{destination.errorString()};
 }
 
 /// Written where it disturbs nobody first: a format may take several files, and half of one is worse than none.
-QString writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file,
-                              QStringList &remarks)
+olResult<> writeThroughTemporary(const olScene::Document &document, const olModelFormat &format, const QString &file,
+                                 QStringList &remarks)
 {
     const QTemporaryDir folder(
         QDir(olImportJob::of(file).temporaryDirectory).filePath(QStringLiteral("orlo-export-XXXXXX")));
     if (!folder.isValid())
-        return Words::tr("the temporary directory cannot be written to");
+        return olFailure{Words::tr("the temporary directory cannot be written to")};
     const QFileInfo target(file);
     // A name that begins with a colon is not another place.
     const QString draft = folder.path() + QLatin1Char('/') + target.fileName();
-    if (!format.write(document, draft, remarks))
-        return Words::tr("the writer failed");
-    if (!QFileInfo(draft).isFile())
-        return Words::tr("the writer failed");
+    if (!format.write(document, draft, remarks) || !QFileInfo(draft).isFile())
+        return olFailure{Words::tr("the writer failed")};
     // Textures stand in a folder of their own.
     const QDir from(folder.path());
     for (QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories); each.hasNext();) {
         const QString written = each.next();
         const QString place = target.absolutePath() + QLatin1Char('/') + from.relativeFilePath(written);
         if (!QDir().mkpath(QFileInfo(place).path()))
-            return Words::tr("the folder %1 cannot be made").arg(QFileInfo(place).path());
-        const QString fault = putInPlace(written, place);
-        if (!fault.isEmpty())
-            return fault;
+            return olFailure{Words::tr("the folder %1 cannot be made").arg(QFileInfo(place).path())};
+        const olResult<> put = putInPlace(written, place);
+        if (!put.isOk())
+            return put;
     }
     return {};
 }
 
-QString attempt(const olScene::Document &document, const olModelFormat &format, const QString &file,
-                QStringList &remarks)
+olResult<> attempt(const olScene::Document &document, const olModelFormat &format, const QString &file,
+                   QStringList &remarks)
 {
     try {
         const olScene::Document content =
             format.holds(olModelFormat::Meshes) ? document : withoutMeshes(document, remarks);
         if (isEmpty(content))
-            return Words::tr("there is nothing that this format can hold");
+            return olFailure{Words::tr("there is nothing that this format can hold")};
         remarks << lossesOf(content, format);
         return writeThroughTemporary(content, format, file, remarks);
     } catch (const Standard_Failure &failure) {
-        return Words::tr("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+        return olFailure{Words::tr("the writer failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()))};
     } catch (const std::exception &failure) {
-        return Words::tr("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+        return olFailure{Words::tr("the writer failed (%1)").arg(QString::fromLocal8Bit(failure.what()))};
     }
 }
 
 } // namespace
 
-olExportResult olExportScene(const olScene::Document &document, const QString &file)
+olResult<QStringList> olExportScene(const olScene::Document &document, const QString &file)
 {
     olSilenceLibrary();
-    olExportResult result;
     const olModelFormat *format = olModelFormat::ofFile(file);
-    if (!format || !format->write) {
-        result.error = olModelFormat::noWriter(file);
-        return result;
-    }
-    const QString fault = attempt(document, *format, file, result.remarks);
-    if (!fault.isEmpty())
-        result.error = Words::tr("Cannot write %1: %2.").arg(file, fault);
-    return result;
+    if (!format || !format->write)
+        return olFailure{olModelFormat::noWriter(file)};
+    QStringList remarks;
+    const olResult<> written = attempt(document, *format, file, remarks);
+    if (!written.isOk())
+        return olFailure{Words::tr("Cannot write %1: %2.").arg(file, written.error())};
+    return remarks;
 }

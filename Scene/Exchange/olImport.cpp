@@ -3,7 +3,6 @@
 #include "Exchange/Formats/olFormatTools.h"
 #include "Exchange/olModelFormat.h"
 #include "Exchange/olReaderProtocol.h"
-#include "Model/olLibraryMessages.h"
 
 #include <TDocStd_Document.hxx>
 
@@ -86,34 +85,35 @@ public:
     Reader(const Reader &) = delete;
     Reader &operator=(const Reader &) = delete;
 
-    /// What went wrong, in half a sentence.
-    QString run(olImportResult &result)
+    /// Says why there is no result of it in half a sentence.
+    olResult<> run(olImportResult &result)
     {
-        const QString fault = start();
-        if (!fault.isEmpty())
-            return fault;
-        const QString interrupted = follow(result);
-        if (!interrupted.isEmpty() || result.isCancelled)
-            return interrupted;
+        const olResult<> started = start();
+        if (!started.isOk())
+            return started;
+        const olResult<> followed = follow(result);
+        if (!followed.isOk() || result.isCancelled)
+            return followed;
         int status = 0;
         waitpid(m_process, &status, 0);
         m_process = 0;
         if (WIFSIGNALED(status))
-            return WTERMSIG(status) == SIGKILL ? Words::tr("the system ended its reader, probably for want of memory")
-                                               : Words::tr("the file is damaged in a way that makes its reader crash");
+            return olFailure{WTERMSIG(status) == SIGKILL
+                                 ? Words::tr("the system ended its reader, probably for want of memory")
+                                 : Words::tr("the file is damaged in a way that makes its reader crash")};
         if (WEXITSTATUS(status) != 0 || !takeResult(result))
-            return Words::tr("its reader failed");
+            return olFailure{Words::tr("its reader failed")};
         return {};
     }
 
 private:
-    QString start()
+    olResult<> start()
     {
         const QByteArray job = olReaderProtocol::packed(m_job);
         int ends[2];
         if (m_input.number() < 0 || m_result.number() < 0 || pipe2(ends, O_CLOEXEC) != 0 ||
             ::write(m_input.number(), job.constData(), std::size_t(job.size())) != job.size())
-            return Words::tr("its reader cannot be started (%1)").arg(qt_error_string(errno));
+            return olFailure{Words::tr("its reader cannot be started (%1)").arg(qt_error_string(errno))};
         lseek(m_input.number(), 0, SEEK_SET);
         const OpenFile writing(ends[1]);
         m_progress.emplace(ends[0]);
@@ -134,12 +134,12 @@ private:
         if (error == 0)
             return {};
         m_process = 0;
-        return Words::tr("its reader %1 cannot be started (%2)")
-            .arg(QFile::decodeName(program), qt_error_string(error));
+        return olFailure{
+            Words::tr("its reader %1 cannot be started (%2)").arg(QFile::decodeName(program), qt_error_string(error))};
     }
 
     /// Until the process closes its end, or nobody wants to wait any longer.
-    QString follow(olImportResult &result)
+    olResult<> follow(olImportResult &result)
     {
         Clock::time_point heard = Clock::now();
         QByteArray lines;
@@ -152,8 +152,8 @@ private:
             }
             if (!isThere) {
                 if (Clock::now() - heard > std::chrono::milliseconds(m_job.patience))
-                    return Words::tr("reading it made no progress for %1 seconds")
-                        .arg(QString::number(m_job.patience / 1000.0));
+                    return olFailure{Words::tr("reading it made no progress for %1 seconds")
+                                         .arg(QString::number(m_job.patience / 1000.0))};
                 continue;
             }
             char bytes[4096];
@@ -210,35 +210,32 @@ private:
     pid_t m_process = 0;
 };
 
-/// What is wrong before anything is read, and then what the reader says.
-QString attempt(olImportJob job, const olImportWatch &watch, olImportResult &result)
+olResult<> attempt(olImportJob job, const olImportWatch &watch, olImportResult &result)
 {
     std::optional<olFormatTools::Secluded> alone;
     if (!job.options.importReferencedFiles) {
         alone.emplace(job);
         if (!alone->isReady())
-            return Words::tr("the temporary directory cannot be written to");
+            return olFailure{Words::tr("the temporary directory cannot be written to")};
         job.loneFile = alone->file();
     }
-    QString fault = Reader(job, watch).run(result);
-    return fault.isEmpty() ? result.error : fault;
+    return Reader(job, watch).run(result);
 }
 
 } // namespace
 
 olImportResult olImport(const olImportJob &job, const olImportWatch &watch)
 {
-    olSilenceLibrary();
     olImportResult result;
     if (!olModelFormat::ofFile(job.file)) {
-        result.error = QFileInfo(job.file).isDir() ? Words::tr("Cannot read %1: this is a folder.").arg(job.file)
-                                                   : olModelFormat::noReader(job.file);
+        result.document =
+            olFailure{QFileInfo(job.file).isDir() ? Words::tr("Cannot read %1: this is a folder.").arg(job.file)
+                                                  : olModelFormat::noReader(job.file)};
         return result;
     }
-    const QString fault = attempt(job, watch, result);
-    result.error =
-        fault.isEmpty() || result.isCancelled ? QString() : Words::tr("Cannot read %1: %2.").arg(job.file, fault);
-    if (!result.isGood())
-        result.document.Nullify();
+    const olResult<> ran = attempt(job, watch, result);
+    if (!result.isCancelled && !(ran.isOk() && result.document.isOk()))
+        result.document = olFailure{
+            Words::tr("Cannot read %1: %2.").arg(job.file, ran.isOk() ? result.document.error() : ran.error())};
     return result;
 }

@@ -2,15 +2,16 @@
 
 #include "Exchange/olImportJob.h"
 #include "Model/olScene.h"
+#include "State/olResult.h"
 
 #include <QStringList>
 
 #include <functional>
 
-/// What an import gave: a document, or one message that names the file and the reason.
+/// What an import gave.
 struct olImportResult {
-    olScene::Document document;
-    QString error;
+    /// Or one message that names the file and the reason; none where it was cancelled.
+    olResult<olScene::Document> document = olFailure{};
     bool isCancelled = false;
 
     /// What was read all the same but is not as it should be.
@@ -18,8 +19,6 @@ struct olImportResult {
 
     /// For the host's log: guards of the reading that the system does not have.
     QStringList missingGuards;
-
-    [[nodiscard]] bool isGood() const { return error.isEmpty() && !isCancelled; }
 };
 
 /// How somebody goes along with an import. Both are called in the thread that imports, and may be empty.

@@ -24,22 +24,22 @@ QString gigabytes(qint64 bytes) { return QString::number(double(bytes) / (1 << 3
 
 } // namespace
 
-QString olImportFileCheck(const QString &name, const olModelFormat &format, QStringList &remarks)
+olResult<> olImportFileCheck(const QString &name, const olModelFormat &format, QStringList &remarks)
 {
     const QFileInfo info(name);
     if (!info.exists())
-        return Words::tr("there is no such file");
+        return olFailure{Words::tr("there is no such file")};
     if (!info.isFile())
-        return Words::tr("this is no file");
+        return olFailure{Words::tr("this is no file")};
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return olFailure{file.errorString()};
     if (file.size() == 0)
-        return Words::tr("the file is empty");
+        return olFailure{Words::tr("the file is empty")};
     if (file.size() > memory() / memoryPerFile)
-        return Words::tr("the file is too large for this machine: %1 GB with %2 GB of memory")
-            .arg(gigabytes(file.size()), gigabytes(memory()));
+        return olFailure{Words::tr("the file is too large for this machine: %1 GB with %2 GB of memory")
+                             .arg(gigabytes(file.size()), gigabytes(memory()))};
     if (file.size() > std::numeric_limits<int>::max())
-        return Words::tr("the file is too large: %1 GB, of which 2 can be read").arg(gigabytes(file.size()));
+        return olFailure{Words::tr("the file is too large: %1 GB, of which 2 can be read").arg(gigabytes(file.size()))};
     return format.check(file, remarks);
 }

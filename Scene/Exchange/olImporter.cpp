@@ -24,7 +24,9 @@ public:
     [[nodiscard]] const olImportResult &result() const { return m_result; }
     [[nodiscard]] olImportReport report() const
     {
-        return {m_job.file, m_result.error, m_result.isCancelled, m_result.remarks};
+        const bool isFailed = !m_result.document.isOk() && !m_result.isCancelled;
+        return {m_job.file, isFailed ? olFailure{m_result.document.error()} : olResult<>(), m_result.isCancelled,
+                m_result.remarks};
     }
 
     /// Not read at all.
@@ -182,8 +184,8 @@ void olImporter::take(const Import &import)
 {
     std::vector<olScene::Document> documents;
     for (const std::unique_ptr<Reading> &reading : import.readings) {
-        if (reading->result().isGood())
-            documents.push_back(reading->result().document);
+        if (reading->result().document.isOk())
+            documents.push_back(*reading->result().document);
     }
     if (documents.empty())
         return;

@@ -11,10 +11,11 @@
 
 class olScene;
 
-/// What became of one file of an import. An empty error without `isCancelled` is success.
+/// What became of one file of an import.
 struct olImportReport {
     QString file;
-    QString error;
+    /// Good, too, where it was cancelled.
+    olResult<> outcome;
     bool isCancelled = false;
     QStringList remarks;
 };

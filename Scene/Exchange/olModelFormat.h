@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Model/olScene.h"
+#include "State/olResult.h"
 
 #include <QString>
 #include <QStringList>
@@ -47,14 +48,14 @@ struct olModelFormat {
 
     unsigned content;
 
-    /// Looks at the open file before it is read. Returns what is wrong with it, in half a sentence; empty where nothing
-    /// is. What is merely odd becomes a remark.
-    QString (*check)(QFile &file, QStringList &remarks);
+    /// Looks at the open file before it is read. Says what is wrong with it in half a sentence; what is merely odd
+    /// becomes a remark.
+    olResult<> (*check)(QFile &file, QStringList &remarks);
 
-    /// Reads the file into an empty document, just as the file has it. Returns why it could not, in half a sentence;
-    /// empty on success. May throw what the library throws.
-    QString (*read)(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-                    QStringList &remarks);
+    /// Reads the file into an empty document, just as the file has it. Says why it could not in half a sentence. May
+    /// throw what the library throws.
+    olResult<> (*read)(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                       QStringList &remarks);
 
     /// Writes a document that holds nothing but what the format can hold. Whether it could; may throw too. Null for a
     /// format that is only read.

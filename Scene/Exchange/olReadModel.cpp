@@ -11,6 +11,7 @@
 #include "Model/olPlainLook.h"
 #include "Model/olTriangles.h"
 #include "State/olListed.h"
+#include "State/olResult.h"
 
 #include <BRepBndLib.hxx>
 #include <BRepTools_ReShape.hxx>
@@ -83,10 +84,6 @@ public:
             return isWanted;
         };
         copy.changePart = [this, &scope](const TDF_Label &label, olChangedPart &part) {
-            if (scope.UserBreak()) {
-                part.shape.Nullify();
-                return;
-            }
             change(label, part, scope.Next());
         };
         const olScene::Document treated = copy.copy(m_raw);
@@ -399,52 +396,49 @@ olScene::Document interpreted(const olScene::Document &raw, const olImportJob &j
     return copy.copy(raw);
 }
 
-QString readAndTreat(const olImportJob &job, const olModelFormat &format, olImportResult &result,
-                     const Message_ProgressRange &progress)
+olResult<olScene::Document> readAndTreat(const olImportJob &job, const olModelFormat &format, QStringList &remarks,
+                                         const Message_ProgressRange &progress)
 {
     constexpr double readingShare = 60;
     constexpr double treatmentShare = 40;
     Message_ProgressScope scope(progress, "Import", readingShare + treatmentShare);
     const olScene::Document file = olScene::newDocument();
-    const QString fault = format.read(job, file, scope.Next(readingShare), result.remarks);
-    result.isCancelled = scope.UserBreak();
-    if (!fault.isEmpty() || result.isCancelled)
-        return fault;
+    const olResult<> read = format.read(job, file, scope.Next(readingShare), remarks);
+    if (!read.isOk())
+        return olFailure{read.error()};
     constexpr double mostInstances = 1e6;
     if (Instances(file).count() > mostInstances)
-        return Words::tr("it has more than a million parts");
+        return olFailure{Words::tr("it has more than a million parts")};
     if (!isWhole(file))
-        return Words::tr("the file is damaged: it has triangles without their points, or points beyond all measure");
+        return olFailure{
+            Words::tr("the file is damaged: it has triangles without their points, or points beyond all measure")};
     const olScene::Document raw = interpreted(file, job, format);
     if (!hasGeometry(raw))
-        return Words::tr("there is no geometry in it");
-    olFindTextures(job, raw, result.remarks);
+        return olFailure{Words::tr("there is no geometry in it")};
+    olFindTextures(job, raw, remarks);
     olPlainLook::addTo(raw);
 
-    Treatment treatment(job, raw, result.remarks);
+    Treatment treatment(job, raw, remarks);
     const olScene::Document treated = treatment.run(scope.Next(treatmentShare));
-    result.isCancelled = scope.UserBreak();
-    if (result.isCancelled)
-        return {};
     if (!hasGeometry(treated))
-        return Words::tr("the import options leave nothing of it (%1)").arg(treatment.refusals());
-    result.document = placed(treated, job);
-    return {};
+        return olFailure{Words::tr("the import options leave nothing of it (%1)").arg(treatment.refusals())};
+    return placed(treated, job);
 }
 
-/// What went wrong, in half a sentence; empty on success.
-QString attempt(const olImportJob &job, const olModelFormat &format, olImportResult &result,
-                const Message_ProgressRange &progress)
+olResult<olScene::Document> attempt(const olImportJob &job, const olModelFormat &format, QStringList &remarks,
+                                    const Message_ProgressRange &progress)
 {
     try {
-        const QString fault = olImportFileCheck(job.file, format, result.remarks);
-        return fault.isEmpty() ? readAndTreat(job, format, result, progress) : fault;
+        const olResult<> checked = olImportFileCheck(job.file, format, remarks);
+        if (!checked.isOk())
+            return olFailure{checked.error()};
+        return readAndTreat(job, format, remarks, progress);
     } catch (const Standard_Failure &failure) {
-        return Words::tr("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()));
+        return olFailure{Words::tr("the reader failed (%1)").arg(QString::fromUtf8(failure.DynamicType()->Name()))};
     } catch (const std::bad_alloc &) {
-        return Words::tr("there is not enough memory for it");
+        return olFailure{Words::tr("there is not enough memory for it")};
     } catch (const std::exception &failure) {
-        return Words::tr("the reader failed (%1)").arg(QString::fromLocal8Bit(failure.what()));
+        return olFailure{Words::tr("the reader failed (%1)").arg(QString::fromLocal8Bit(failure.what()))};
     }
 }
 
@@ -454,9 +448,9 @@ olImportResult olReadModel(const olImportJob &job, const Message_ProgressRange &
 {
     olSilenceLibrary();
     olImportResult result;
-    const olModelFormat *format = olModelFormat::ofFile(job.file);
-    result.error = format ? attempt(job, *format, result, progress) : olFormatTools::damaged();
-    if (!result.isGood())
-        result.document.Nullify();
+    if (const olModelFormat *format = olModelFormat::ofFile(job.file))
+        result.document = attempt(job, *format, result.remarks, progress);
+    else
+        result.document = olFormatTools::damaged();
     return result;
 }

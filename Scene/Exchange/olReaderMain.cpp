@@ -47,7 +47,6 @@ int run()
     std::setlocale(LC_NUMERIC, "C");
     // Nobody waits for a result when the viewer is gone.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    olImportResult result;
     const QStringList missingGuards = olSandbox::enter();
     QFile input;
     olImportJob job;
@@ -57,7 +56,7 @@ int run()
         return 2;
     }
     const Handle(Message_ProgressIndicator) indicator = new Indicator;
-    result = olReadModel(job, indicator->Start());
+    olImportResult result = olReadModel(job, indicator->Start());
     result.missingGuards = missingGuards;
     dprintf(olReaderProtocol::progressFile, "100\n");
     return olReaderProtocol::write(result, olReaderProtocol::resultFile) ? 0 : 1;

@@ -87,11 +87,11 @@ bool olReaderProtocol::write(const olImportResult &result, int file)
 {
     QByteArray head;
     QDataStream stream(&head, QIODevice::WriteOnly);
-    stream << result.error << result.remarks << result.missingGuards << !result.document.IsNull();
+    stream << result.document.error() << result.remarks << result.missingGuards << result.document.isOk();
     if (!send(file, head))
         return false;
-    if (!result.document.IsNull())
-        olDocumentStream::write(result.document, file);
+    if (result.document.isOk())
+        olDocumentStream::write(*result.document, file);
     return true;
 }
 
@@ -108,12 +108,17 @@ bool olReaderProtocol::read(const unsigned char *bytes, std::size_t count, olImp
         return false;
     const QByteArray head = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(size));
     QDataStream stream(head);
+    QString error;
     bool hasDocument = false;
-    stream >> result.error >> result.remarks >> result.missingGuards >> hasDocument;
-    if (stream.status() != QDataStream::Ok || hasDocument != result.error.isEmpty())
+    stream >> error >> result.remarks >> result.missingGuards >> hasDocument;
+    if (stream.status() != QDataStream::Ok || hasDocument != error.isEmpty())
         return false;
-    if (!hasDocument)
+    if (!hasDocument) {
+        result.document = olFailure{error};
         return true;
-    result.document = olDocumentStream::read(bytes + size, count - size);
-    return !result.document.IsNull();
+    }
+    const olScene::Document document = olDocumentStream::read(bytes + size, count - size);
+    if (!document.IsNull())
+        result.document = document;
+    return result.document.isOk();
 }

@@ -1,6 +1,7 @@
 #include "Model/olScene.h"
 
 #include "Model/olDocumentCopy.h"
+#include "Model/olLibraryMessages.h"
 #include "Model/olSampleAssembly.h"
 #include "Model/olTriangles.h"
 
@@ -32,7 +33,7 @@ QSet<QString> hiddenIn(const olScene::Document &document)
 
 } // namespace
 
-olScene::olScene(QObject *parent) : QObject(parent), m_document(newDocument()) {}
+olScene::olScene(QObject *parent) : QObject(parent), m_document(newDocument()) { olSilenceLibrary(); }
 
 olScene::~olScene() = default;
 

@@ -22,15 +22,15 @@ void olFrameMaker::release()
     m_mean.release();
 }
 
-bool olFrameMaker::draw(olSceneView &view, olPictureTarget &target, const QSize &size, const Manner &manner)
+bool olFrameMaker::draw(olSceneView &view, olPictureTarget &target, const QSize &size, const Options &options)
 {
     olSceneView::Frame frame;
-    frame.isMoving = manner.isMoving;
-    frame.isCoarse = manner.isCoarse;
-    frame.pixelRatio = manner.pixelRatio;
-    const std::vector<QPointF> shifts = view.shifts(manner.isMoving);
+    frame.isMoving = options.isMoving;
+    frame.isCoarse = options.isCoarse;
+    frame.pixelRatio = options.pixelRatio;
+    const std::vector<QPointF> shifts = view.shifts(options.isMoving);
     const olPictureMean::Finish finish = wantedFinish();
-    const bool isPlain = shifts.size() == 1 && !manner.isAnaglyph && !finish.smoothsEdges && !finish.hidesBands;
+    const bool isPlain = shifts.size() == 1 && !options.isAnaglyph && !finish.smoothsEdges && !finish.hidesBands;
     if (isPlain)
         return target.bind(size) && view.draw(frame);
 
@@ -38,14 +38,14 @@ bool olFrameMaker::draw(olSceneView &view, olPictureTarget &target, const QSize 
         return false;
     for (const QPointF &shift : shifts) {
         frame.shift = shift;
-        if (!addPicture(view, size, manner, frame))
+        if (!addPicture(view, size, options, frame))
             return false;
     }
     m_mean.finish(target, int(shifts.size()), finish);
     return true;
 }
 
-bool olFrameMaker::drawStill(olSceneView &view, olPictureTarget &target, const Manner &manner, olStillFrame &still)
+bool olFrameMaker::drawStill(olSceneView &view, olPictureTarget &target, const Options &options, olStillFrame &still)
 {
     const QSize size = target.size();
     if (still.taken() == 0 && !m_mean.start(size))
@@ -54,16 +54,16 @@ bool olFrameMaker::drawStill(olSceneView &view, olPictureTarget &target, const M
     const std::vector<QPointF> shifts = view.shifts(false);
     olSceneView::Frame frame;
     frame.isStill = true;
-    frame.pixelRatio = manner.pixelRatio;
+    frame.pixelRatio = options.pixelRatio;
     frame.shift = still.nextShift() + shifts[std::size_t(still.taken()) % shifts.size()];
-    if (!addPicture(view, size, manner, frame))
+    if (!addPicture(view, size, options, frame))
         return false;
     still.advance();
     m_mean.finish(target, still.taken(), wantedFinish());
     return true;
 }
 
-bool olFrameMaker::addPicture(olSceneView &view, const QSize &size, const Manner &manner,
+bool olFrameMaker::addPicture(olSceneView &view, const QSize &size, const Options &options,
                               const olSceneView::Frame &frame)
 {
     using Eye = olSceneView::Eye;
@@ -83,5 +83,5 @@ bool olFrameMaker::addPicture(olSceneView &view, const QSize &size, const Manner
         m_mean.add(m_picture, look.channels);
         return true;
     };
-    return manner.isAnaglyph ? add(both[0]) && add(both[1]) : add(one[0]);
+    return options.isAnaglyph ? add(both[0]) && add(both[1]) : add(one[0]);
 }

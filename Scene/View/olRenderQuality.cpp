@@ -34,23 +34,23 @@ const olHostState::AntialiasingPreset *presetInUse()
 }
 
 /// While the camera moves, nothing of the real-time kind may be wanted.
-const olHostState::AntialiasingPreset *presetFor(const olRenderQuality::Wishes &wishes)
+const olHostState::AntialiasingPreset *presetFor(const olRenderQuality::Conditions &conditions)
 {
-    return wishes.isMoving && olHostState::the().autoSuperSampling ? nullptr : presetInUse();
+    return conditions.isMoving && olHostState::the().autoSuperSampling ? nullptr : presetInUse();
 }
 
-int samplesOf(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Wishes &wishes)
+int samplesOf(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Conditions &conditions)
 {
-    const int wanted = wishes.isRaytraced ? preset.raytracingSamples : preset.multisamples;
+    const int wanted = conditions.isRaytraced ? preset.raytracingSamples : preset.multisamples;
     return std::clamp(wanted, 1, largestSampleCount);
 }
 
 /// The graphics card takes its samples faster than one picture after the other, but neither sorts it transparent
 /// surfaces in them nor does it filter or work at another scale. It serves where speed counts.
-bool takesSamplesOnCard(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Wishes &wishes)
+bool takesSamplesOnCard(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Conditions &conditions)
 {
-    const bool sorts = wishes.hasTransparency && olHostState::the().sortTransparency;
-    return wishes.isMoving && !wishes.isRaytraced && !sorts && !preset.supersampling;
+    const bool sorts = conditions.hasTransparency && olHostState::the().sortTransparency;
+    return conditions.isMoving && !conditions.isRaytraced && !sorts && !preset.supersampling;
 }
 
 /// As likely far out as a tent is high there, for a number that is evenly spread from 0 to 1.
@@ -78,29 +78,29 @@ std::vector<QPointF> spread(int count, bool isFiltered)
 
 } // namespace
 
-void olRenderQuality::apply(Graphic3d_RenderingParams &parameters, const Wishes &wishes)
+void olRenderQuality::apply(Graphic3d_RenderingParams &parameters, const Conditions &conditions)
 {
     const olHostState &state = olHostState::the();
-    const olHostState::AntialiasingPreset *preset = presetFor(wishes);
-    parameters.NbMsaaSamples = preset && takesSamplesOnCard(*preset, wishes) ? samplesOf(*preset, wishes) : 0;
+    const olHostState::AntialiasingPreset *preset = presetFor(conditions);
+    parameters.NbMsaaSamples = preset && takesSamplesOnCard(*preset, conditions) ? samplesOf(*preset, conditions) : 0;
     parameters.ToEnableAlphaToCoverage = Standard_False;
     parameters.TransparencyMethod =
         state.sortTransparency ? Graphic3d_RTM_DEPTH_PEELING_OIT : Graphic3d_RTM_BLEND_UNORDERED;
-    parameters.Method = wishes.isRaytraced ? Graphic3d_RM_RAYTRACING : Graphic3d_RM_RASTERIZATION;
+    parameters.Method = conditions.isRaytraced ? Graphic3d_RM_RAYTRACING : Graphic3d_RM_RASTERIZATION;
     parameters.IsShadowEnabled = Standard_True;
     parameters.IsReflectionEnabled = Standard_True;
-    if (!wishes.isRaytraced)
+    if (!conditions.isRaytraced)
         parameters.RenderResolutionScale = preset && preset->supersampling ? superSampled : 1.0f;
-    else if (wishes.isMoving && state.raytracingDownscale)
+    else if (conditions.isMoving && state.raytracingDownscale)
         parameters.RenderResolutionScale = 1.0f / float(std::clamp(state.raytracingDownscaleFactor.get(), 1u, 8u));
     else
         parameters.RenderResolutionScale = 1.0f;
 }
 
-std::vector<QPointF> olRenderQuality::shifts(const Wishes &wishes)
+std::vector<QPointF> olRenderQuality::shifts(const Conditions &conditions)
 {
-    const olHostState::AntialiasingPreset *preset = presetFor(wishes);
-    if (!preset || takesSamplesOnCard(*preset, wishes))
+    const olHostState::AntialiasingPreset *preset = presetFor(conditions);
+    if (!preset || takesSamplesOnCard(*preset, conditions))
         return {QPointF()};
-    return spread(samplesOf(*preset, wishes), preset->pixelfilter);
+    return spread(samplesOf(*preset, conditions), preset->pixelfilter);
 }

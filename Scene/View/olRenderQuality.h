@@ -11,15 +11,15 @@ namespace olRenderQuality
 {
 
 /// What the frame is like.
-struct Wishes {
+struct Conditions {
     bool isMoving = false;
     bool isRaytraced = false;
     bool hasTransparency = false;
 };
 
-void apply(Graphic3d_RenderingParams &parameters, const Wishes &wishes);
+void apply(Graphic3d_RenderingParams &parameters, const Conditions &conditions);
 
 /// By how much each of the pictures is shifted, in pixels, whose mean the frame is. At least one.
-[[nodiscard]] std::vector<QPointF> shifts(const Wishes &wishes);
+[[nodiscard]] std::vector<QPointF> shifts(const Conditions &conditions);
 
 } // namespace olRenderQuality

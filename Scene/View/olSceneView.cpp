@@ -114,7 +114,7 @@ public:
     void showSelection();
     void showCoarse(bool coarse) const;
     void setPixelRatio(double ratio) const;
-    [[nodiscard]] olRenderQuality::Wishes wishes(bool isMoving) const;
+    [[nodiscard]] olRenderQuality::Conditions conditions(bool isMoving) const;
     [[nodiscard]] Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
     [[nodiscard]] Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
 
@@ -463,16 +463,19 @@ void olSceneView::Private::setPixelRatio(double ratio) const
     aids->setPixelRatio(ratio);
 }
 
-olRenderQuality::Wishes olSceneView::Private::wishes(bool isMoving) const
+olRenderQuality::Conditions olSceneView::Private::conditions(bool isMoving) const
 {
-    olRenderQuality::Wishes wishes;
-    wishes.isMoving = isMoving;
-    wishes.isRaytraced = isRaytraced;
-    wishes.hasTransparency = hasTransparency;
-    return wishes;
+    olRenderQuality::Conditions conditions;
+    conditions.isMoving = isMoving;
+    conditions.isRaytraced = isRaytraced;
+    conditions.hasTransparency = hasTransparency;
+    return conditions;
 }
 
-std::vector<QPointF> olSceneView::shifts(bool isMoving) const { return olRenderQuality::shifts(d->wishes(isMoving)); }
+std::vector<QPointF> olSceneView::shifts(bool isMoving) const
+{
+    return olRenderQuality::shifts(d->conditions(isMoving));
+}
 
 bool olSceneView::draw(const Frame &frame)
 {
@@ -486,7 +489,7 @@ bool olSceneView::draw(const Frame &frame)
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
     olGlBinding::setFloatBuffers(d->view, state.rgb16F);
-    olRenderQuality::apply(d->view->ChangeRenderingParams(), d->wishes(frame.isMoving));
+    olRenderQuality::apply(d->view->ChangeRenderingParams(), d->conditions(frame.isMoving));
     d->setPixelRatio(frame.pixelRatio);
 
     const Handle(Graphic3d_Camera) &camera = d->view->Camera();

@@ -18,6 +18,7 @@
 #include <Standard_Failure.hxx>
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
@@ -106,17 +107,26 @@ public:
     int measuredFrames = 0;
 };
 
-void olViewport::prepareApplication()
+bool olViewport::prepareApplication()
 {
-    // Only X11 lets the renderer share the context; a Wayland session has an X server too.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    // Only X11 lets the renderer share the context. A Wayland session mostly has an X server too, and where it has
+    // none, all but the view works.
+    QByteArrayList platforms{qgetenv("QT_QPA_PLATFORM")};
+    if (platforms.first().isEmpty()) {
+        platforms.clear();
+        for (const auto &[display, platform] : {std::pair("DISPLAY", "xcb"), {"WAYLAND_DISPLAY", "wayland"}}) {
+            if (!qEnvironmentVariableIsEmpty(display))
+                platforms << platform;
+        }
+        qputenv("QT_QPA_PLATFORM", platforms.isEmpty() ? "offscreen" : platforms.join(';'));
+    }
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QSurfaceFormat format;
     format.setDepthBufferSize(24);
     format.setStencilBufferSize(8);
     format.setProfile(QSurfaceFormat::CompatibilityProfile);
     QSurfaceFormat::setDefaultFormat(format);
+    return !platforms.isEmpty();
 }
 
 bool olViewport::isSupported() { return olX11Display() != nullptr; }
@@ -299,7 +309,7 @@ void olViewport::drawFrame()
     d->still.stop();
     takeState();
     d->navigator.setPictureHeight(std::min(pictureSize().width(), pictureSize().height()));
-    olFrameMaker::Manner wanted = manner();
+    olFrameMaker::Options wanted = frameOptions();
     const bool isHeavy = wanted.isMoving && d->view->isHeavy();
     wanted.isCoarse = isHeavy && d->wholeFrame > longestFrame;
     QElapsedTimer time;
@@ -322,19 +332,19 @@ void olViewport::startStill(olStillFrame &still) const
                 d->view && d->view->isHeavy() ? fewStills : stills);
 }
 
-olFrameMaker::Manner olViewport::manner(const QSize &size) const
+olFrameMaker::Options olViewport::frameOptions(const QSize &size) const
 {
-    olFrameMaker::Manner manner;
-    manner.isMoving = d->isDragging || d->glideTimer.isActive() || d->devices.isMoving();
-    manner.isAnaglyph = d->isAnaglyph;
+    olFrameMaker::Options options;
+    options.isMoving = d->isDragging || d->glideTimer.isActive() || d->devices.isMoving();
+    options.isAnaglyph = d->isAnaglyph;
     // A picture whose size is given is not for this screen.
-    manner.pixelRatio = size.isValid() ? 1.0 : devicePixelRatioF();
-    return manner;
+    options.pixelRatio = size.isValid() ? 1.0 : devicePixelRatioF();
+    return options;
 }
 
 void olViewport::drawStillSample()
 {
-    if (!d->frames.drawStill(*d->view, d->target, manner(), d->still)) {
+    if (!d->frames.drawStill(*d->view, d->target, frameOptions(), d->still)) {
         d->still.stop();
         return;
     }
@@ -369,7 +379,7 @@ QImage olViewport::picture(const QSize &size)
         olPictureTarget target;
         // A still frame that is on its way is not to be disturbed.
         olFrameMaker frames;
-        if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), manner(size)))
+        if (frames.draw(*d->view, target, size.isValid() ? size : pictureSize(), frameOptions(size)))
             result = target.picture();
     });
     return result;
@@ -385,7 +395,7 @@ QImage olViewport::stillPicture(const QSize &size)
         olStillFrame still;
         if (olHostState::the().antialiasing)
             startStill(still);
-        olFrameMaker::Manner rest = manner(size);
+        olFrameMaker::Options rest = frameOptions(size);
         rest.isMoving = false;
         const QSize wanted = size.isValid() ? size : pictureSize();
         bool isDrawn = still.isRunning() ? target.bind(wanted) : frames.draw(*d->view, target, wanted, rest);

@@ -23,8 +23,9 @@ public:
     explicit olViewport(QWidget *parent = nullptr);
     ~olViewport() override;
 
-    /// What must be set before the application object is made.
-    static void prepareApplication();
+    /// What must be set before the application object is made. Returns whether there is a display; where there is none,
+    /// the program runs without showing anything.
+    static bool prepareApplication();
 
     /// Whether this display can show the view at all; to be asked before one is made.
     [[nodiscard]] static bool isSupported();
@@ -97,7 +98,7 @@ private:
     void takeState();
     void redraw();
     void drawFrame();
-    [[nodiscard]] olFrameMaker::Manner manner(const QSize &size = {}) const;
+    [[nodiscard]] olFrameMaker::Options frameOptions(const QSize &size = {}) const;
     void startStill(olStillFrame &still) const;
     void drawStillSample();
     void measureFrame();

@@ -1,7 +1,15 @@
 #include "Display/olStarVRHandler.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
+
+namespace
+{
+
+using State = olHostState;
+
+constexpr olHostCalls calls("olStarVRHandler");
+
+} // namespace
 
 olStarVRHandler *olStarVRHandler::getHandler()
 {
@@ -11,42 +19,29 @@ olStarVRHandler *olStarVRHandler::getHandler()
 
 void olStarVRHandler::setFoveatedRendering(bool enable)
 {
-    olJournal::call("olStarVRHandler::setFoveatedRendering", enable);
-    olHostState::the().starVRFoveatedRendering = enable;
+    calls.set("setFoveatedRendering", &State::starVRFoveatedRendering, enable);
 }
-
 void olStarVRHandler::setFoveatedFovFactor(float factor)
 {
-    olJournal::call("olStarVRHandler::setFoveatedFovFactor", factor);
-    olHostState::the().starVRFoveatedFovFactor = factor;
+    calls.set("setFoveatedFovFactor", &State::starVRFoveatedFovFactor, factor);
 }
-
 void olStarVRHandler::setFoveatedResolutionScale(float scale)
 {
-    olJournal::call("olStarVRHandler::setFoveatedResolutionScale", scale);
-    olHostState::the().starVRFoveatedResolutionScale = scale;
+    calls.set("setFoveatedResolutionScale", &State::starVRFoveatedResolutionScale, scale);
 }
-
 void olStarVRHandler::setNonFoveatedResolutionScale(float scale)
 {
-    olJournal::call("olStarVRHandler::setNonFoveatedResolutionScale", scale);
-    olHostState::the().starVRNonFoveatedResolutionScale = scale;
+    calls.set("setNonFoveatedResolutionScale", &State::starVRNonFoveatedResolutionScale, scale);
 }
-
 void olStarVRHandler::setFrontViewResolutionScale(float scale)
 {
-    olJournal::call("olStarVRHandler::setFrontViewResolutionScale", scale);
-    olHostState::the().starVRFrontViewResolutionScale = scale;
+    calls.set("setFrontViewResolutionScale", &State::starVRFrontViewResolutionScale, scale);
 }
-
 void olStarVRHandler::setSideViewResolutionScale(float scale)
 {
-    olJournal::call("olStarVRHandler::setSideViewResolutionScale", scale);
-    olHostState::the().starVRSideViewResolutionScale = scale;
+    calls.set("setSideViewResolutionScale", &State::starVRSideViewResolutionScale, scale);
 }
-
 void olStarVRHandler::setUseSingleTexture(bool use)
 {
-    olJournal::call("olStarVRHandler::setUseSingleTexture", use);
-    olHostState::the().starVRSingleTexture = use;
+    calls.set("setUseSingleTexture", &State::starVRSingleTexture, use);
 }

@@ -1,9 +1,17 @@
 #include "Kernel/olController.h"
 
 #include "Kernel/olWebInterface.h"
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
 #include "Utilities/olMessage.h"
+
+namespace
+{
+
+using State = olHostState;
+
+constexpr olHostCalls calls("olController");
+
+} // namespace
 
 bool olController::isOrloEssentials() { return olHostState::the().edition == olEdition::Essentials; }
 
@@ -14,42 +22,17 @@ bool olController::isOrloProfessional() { return olHostState::the().edition == o
 bool olController::isOrloEnterprise() { return olHostState::the().edition == olEdition::Enterprise; }
 
 bool olController::isViewer() { return olHostState::the().viewer; }
-
 bool olController::isOServerNode() { return olHostState::the().renderServerNode; }
-
 bool olController::getAnalysisMode() { return olHostState::the().analysisMode; }
-
 int olController::getDisplayLanguage() { return olHostState::the().displayLanguage; }
-
-void olController::setSleepTime(unsigned milliseconds)
-{
-    olJournal::call("olController::setSleepTime", milliseconds);
-    olHostState::the().sleepTime = milliseconds;
-}
-
-void olController::showFPS(bool show)
-{
-    olJournal::call("olController::showFPS", show);
-    olHostState::the().fpsShown = show;
-}
-
-void olController::setWindowOpacity(double opacity)
-{
-    olJournal::call("olController::setWindowOpacity", opacity);
-    olHostState::the().windowOpacity = opacity;
-}
-
+void olController::setSleepTime(unsigned milliseconds) { calls.set("setSleepTime", &State::sleepTime, milliseconds); }
+void olController::showFPS(bool show) { calls.set("showFPS", &State::fpsShown, show); }
+void olController::setWindowOpacity(double opacity) { calls.set("setWindowOpacity", &State::windowOpacity, opacity); }
 void olController::setMainWindowDocking(bool enable)
 {
-    olJournal::call("olController::setMainWindowDocking", enable);
-    olHostState::the().mainWindowDocking = enable;
+    calls.set("setMainWindowDocking", &State::mainWindowDocking, enable);
 }
-
-void olController::showButtonText(bool show)
-{
-    olJournal::call("olController::showButtonText", show);
-    olHostState::the().buttonTextShown = show;
-}
+void olController::showButtonText(bool show) { calls.set("showButtonText", &State::buttonTextShown, show); }
 
 void olController::setJoystickNavigation(int id, bool enable)
 {
@@ -61,24 +44,17 @@ void olController::setJoystickNavigation(int id, bool enable)
 
 void olController::setShowImportOptions(bool show)
 {
-    olJournal::call("olController::setShowImportOptions", show);
-    olHostState::the().importOptionsShown = show;
+    calls.set("setShowImportOptions", &State::importOptionsShown, show);
 }
-
 void olController::setImportOptionsCenterInOrigin(bool center)
 {
-    olJournal::call("olController::setImportOptionsCenterInOrigin", center);
-    olHostState::the().importCenteredInOrigin = center;
+    calls.set("setImportOptionsCenterInOrigin", &State::importCenteredInOrigin, center);
 }
-
 void olController::setImportOptionsPutOnGround(bool put)
 {
-    olJournal::call("olController::setImportOptionsPutOnGround", put);
-    olHostState::the().importPutOnGround = put;
+    calls.set("setImportOptionsPutOnGround", &State::importPutOnGround, put);
 }
-
 int olController::getWebInterfacePort() { return olHostState::the().webInterfacePort; }
-
 std::string olController::getWebInterfacePipe() { return olHostState::the().webInterfacePipe; }
 
 olWebInterface *olController::getWebInterface()
@@ -90,8 +66,7 @@ olWebInterface *olController::getWebInterface()
 
 void olController::enableWebInterface(bool enable)
 {
-    olJournal::call("olController::enableWebInterface", enable);
-    olHostState::the().webInterfaceWanted = enable;
+    calls.set("enableWebInterface", &State::webInterfaceWanted, enable);
 }
 
 void olController::call(const std::string &command, const olMessage &arguments, int receiver)

@@ -1,52 +1,36 @@
 #include "Kernel/olFileIO.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
 
-void olFileIO::enableVerifyGeometry(bool enable)
+namespace
 {
-    olJournal::call("olFileIO::enableVerifyGeometry", enable);
-    olHostState::the().verifyGeometry = enable;
-}
 
+using State = olHostState;
+
+constexpr olHostCalls calls("olFileIO");
+
+} // namespace
+
+void olFileIO::enableVerifyGeometry(bool enable) { calls.set("enableVerifyGeometry", &State::verifyGeometry, enable); }
 void olFileIO::enableOptimizeGeometry(bool enable)
 {
-    olJournal::call("olFileIO::enableOptimizeGeometry", enable);
-    olHostState::the().optimizeGeometry = enable;
+    calls.set("enableOptimizeGeometry", &State::optimizeGeometry, enable);
 }
-
 void olFileIO::enableOptimizeTransparencies(bool enable)
 {
-    olJournal::call("olFileIO::enableOptimizeTransparencies", enable);
-    olHostState::the().optimizeTransparencies = enable;
+    calls.set("enableOptimizeTransparencies", &State::optimizeTransparencies, enable);
 }
-
 void olFileIO::setShowFileIOProgress(bool show)
 {
-    olJournal::call("olFileIO::setShowFileIOProgress", show);
-    olHostState::the().fileIOProgressShown = show;
+    calls.set("setShowFileIOProgress", &State::fileIOProgressShown, show);
 }
-
 void olFileIO::setMaxParallelImportTasks(int count)
 {
-    olJournal::call("olFileIO::setMaxParallelImportTasks", count);
-    olHostState::the().maxParallelImportTasks = count;
+    calls.set("setMaxParallelImportTasks", &State::maxParallelImportTasks, count);
 }
-
-void olFileIO::setUseLegacyJtLoader(bool use)
-{
-    olJournal::call("olFileIO::setUseLegacyJtLoader", use);
-    olHostState::the().legacyJtLoader = use;
-}
-
+void olFileIO::setUseLegacyJtLoader(bool use) { calls.set("setUseLegacyJtLoader", &State::legacyJtLoader, use); }
 void olFileIO::setUseLegacyRhinoLoader(bool use)
 {
-    olJournal::call("olFileIO::setUseLegacyRhinoLoader", use);
-    olHostState::the().legacyRhinoLoader = use;
+    calls.set("setUseLegacyRhinoLoader", &State::legacyRhinoLoader, use);
 }
-
-void olFileIO::setStlExportFormat(int format)
-{
-    olJournal::call("olFileIO::setStlExportFormat", format);
-    olHostState::the().stlExportFormat = format;
-}
+void olFileIO::setStlExportFormat(int format) { calls.set("setStlExportFormat", &State::stlExportFormat, format); }

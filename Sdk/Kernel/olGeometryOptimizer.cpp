@@ -1,34 +1,30 @@
 #include "Kernel/olGeometryOptimizer.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
+
+namespace
+{
+
+using State = olHostState;
+
+constexpr olHostCalls calls("olGeometryOptimizer");
+
+} // namespace
 
 void olGeometryOptimizer::setTopologyTolerance(float tolerance)
 {
-    olJournal::call("olGeometryOptimizer::setTopologyTolerance", tolerance);
-    olHostState::the().topologyTolerance = tolerance;
+    calls.set("setTopologyTolerance", &State::topologyTolerance, tolerance);
 }
-
 void olGeometryOptimizer::setTopologyMethod(int method)
 {
-    olJournal::call("olGeometryOptimizer::setTopologyMethod", method);
-    olHostState::the().topologyMethod = method;
+    calls.set("setTopologyMethod", &State::topologyMethod, method);
 }
-
-void olGeometryOptimizer::setOffsetFactor(float factor)
-{
-    olJournal::call("olGeometryOptimizer::setOffsetFactor", factor);
-    olHostState::the().offsetFactor = factor;
-}
-
+void olGeometryOptimizer::setOffsetFactor(float factor) { calls.set("setOffsetFactor", &State::offsetFactor, factor); }
 void olGeometryOptimizer::setTessellationQuality(const std::vector<float> &tolerances)
 {
-    olJournal::call("olGeometryOptimizer::setTessellationQuality", tolerances);
-    olHostState::the().tessellationQuality = tolerances;
+    calls.set("setTessellationQuality", &State::tessellationQuality, tolerances);
 }
-
 void olGeometryOptimizer::setCheckOrientation(bool check)
 {
-    olJournal::call("olGeometryOptimizer::setCheckOrientation", check);
-    olHostState::the().checkOrientation = check;
+    calls.set("setCheckOrientation", &State::checkOrientation, check);
 }

@@ -6,7 +6,6 @@
 
 #include <QString>
 
-#include <map>
 #include <utility>
 #include <vector>
 

@@ -1,7 +1,6 @@
 #include "Kernel/olOSGWidget.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
 #include "Utilities/olLog.h"
 
 #include <QCoreApplication>
@@ -13,9 +12,14 @@
 namespace
 {
 
-void setPreset(olHostState::AntialiasingPreset &preset, int multisamples, bool pixelfilter, bool supersample,
-               int raytracingSamples)
+using State = olHostState;
+
+constexpr olHostCalls calls("olOSGWidget");
+
+void setPreset(const char *function, olHostState::AntialiasingPreset &preset, int multisamples, bool pixelfilter,
+               bool supersample, int raytracingSamples)
 {
+    olJournal::callOf("olOSGWidget", function, multisamples, pixelfilter, supersample, raytracingSamples);
     preset.multisamples = multisamples;
     preset.pixelfilter = pixelfilter;
     preset.supersampling = supersample;
@@ -32,14 +36,11 @@ void olOSGWidget::setFov(int view, float degrees)
 
 void olOSGWidget::setGlobalEyeSeparation(float separation)
 {
-    olJournal::call("olOSGWidget::setGlobalEyeSeparation", separation);
-    olHostState::the().eyeSeparation = separation;
+    calls.set("setGlobalEyeSeparation", &State::eyeSeparation, separation);
 }
-
 void olOSGWidget::setGlobalZeroParallaxDistance(float distance)
 {
-    olJournal::call("olOSGWidget::setGlobalZeroParallaxDistance", distance);
-    olHostState::the().zeroParallaxDistance = distance;
+    calls.set("setGlobalZeroParallaxDistance", &State::zeroParallaxDistance, distance);
 }
 
 void olOSGWidget::setPowerwallWindow(int view, float width, float height, float distance)
@@ -83,12 +84,7 @@ void olOSGWidget::setNearFarPlaneLimit(bool limit, float nearest, float farthest
 }
 
 bool olOSGWidget::isRenderEnabled() { return olHostState::the().renderEnabled; }
-
-void olOSGWidget::enableRender(int enable)
-{
-    olJournal::call("olOSGWidget::enableRender", enable);
-    olHostState::the().renderEnabled = enable != 0;
-}
+void olOSGWidget::enableRender(int enable) { calls.set("enableRender", &State::renderEnabled, enable); }
 
 void olOSGWidget::updateAllMGLW()
 {
@@ -106,34 +102,19 @@ void olOSGWidget::setAllGradientBackgrounds(const std::vector<osg::Color3f> &col
     state.backgroundPositions = positions;
 }
 
-void olOSGWidget::setSortTrans(int sort)
-{
-    olJournal::call("olOSGWidget::setSortTrans", sort);
-    olHostState::the().sortTransparency = sort != 0;
-}
-
-void olOSGWidget::setZWriteTrans(int write)
-{
-    olJournal::call("olOSGWidget::setZWriteTrans", write);
-    olHostState::the().zWriteTransparency = write != 0;
-}
-
+void olOSGWidget::setSortTrans(int sort) { calls.set("setSortTrans", &State::sortTransparency, sort); }
+void olOSGWidget::setZWriteTrans(int write) { calls.set("setZWriteTrans", &State::zWriteTransparency, write); }
 void olOSGWidget::setOcclusionCulling(int enable)
 {
-    olJournal::call("olOSGWidget::setOcclusionCulling", enable);
-    olHostState::the().occlusionCulling = enable != 0;
+    calls.set("setOcclusionCulling", &State::occlusionCulling, enable);
 }
-
 void olOSGWidget::enableRaytracingDownscale(int enable)
 {
-    olJournal::call("olOSGWidget::enableRaytracingDownscale", enable);
-    olHostState::the().raytracingDownscale = enable != 0;
+    calls.set("enableRaytracingDownscale", &State::raytracingDownscale, enable);
 }
-
 void olOSGWidget::setRaytracingDownscaleFactor(unsigned factor)
 {
-    olJournal::call("olOSGWidget::setRaytracingDownscaleFactor", factor);
-    olHostState::the().raytracingDownscaleFactor = factor;
+    calls.set("setRaytracingDownscaleFactor", &State::raytracingDownscaleFactor, factor);
 }
 
 void olOSGWidget::setFixedRenderWindowSize(int width, int height)
@@ -146,56 +127,21 @@ void olOSGWidget::setFixedRenderWindowSize(int width, int height)
 
 void olOSGWidget::showInteractiveMaterialPreview(bool show)
 {
-    olJournal::call("olOSGWidget::showInteractiveMaterialPreview", show);
-    olHostState::the().interactiveMaterialPreview = show;
+    calls.set("showInteractiveMaterialPreview", &State::interactiveMaterialPreview, show);
 }
-
-void olOSGWidget::setRGB10(bool use)
-{
-    olJournal::call("olOSGWidget::setRGB10", use);
-    olHostState::the().rgb10 = use;
-}
-
-void olOSGWidget::setRGB16F(bool use)
-{
-    olJournal::call("olOSGWidget::setRGB16F", use);
-    olHostState::the().rgb16F = use;
-}
-
+void olOSGWidget::setRGB10(bool use) { calls.set("setRGB10", &State::rgb10, use); }
+void olOSGWidget::setRGB16F(bool use) { calls.set("setRGB16F", &State::rgb16F, use); }
 void olOSGWidget::setUseSinglePassStereo(bool use)
 {
-    olJournal::call("olOSGWidget::setUseSinglePassStereo", use);
-    olHostState::the().singlePassStereo = use;
+    calls.set("setUseSinglePassStereo", &State::singlePassStereo, use);
 }
-
-void olOSGWidget::setForceGLFinish(bool force)
-{
-    olJournal::call("olOSGWidget::setForceGLFinish", force);
-    olHostState::the().forceGLFinish = force;
-}
-
-void olOSGWidget::setSLI(bool enable)
-{
-    olJournal::call("olOSGWidget::setSLI", enable);
-    olHostState::the().sli = enable;
-}
-
-void olOSGWidget::setSLIMode(int mode)
-{
-    olJournal::call("olOSGWidget::setSLIMode", mode);
-    olHostState::the().sliMode = mode;
-}
-
-void olOSGWidget::enableAntialiasing(int enable)
-{
-    olJournal::call("olOSGWidget::enableAntialiasing", enable);
-    olHostState::the().antialiasing = enable != 0;
-}
-
+void olOSGWidget::setForceGLFinish(bool force) { calls.set("setForceGLFinish", &State::forceGLFinish, force); }
+void olOSGWidget::setSLI(bool enable) { calls.set("setSLI", &State::sli, enable); }
+void olOSGWidget::setSLIMode(int mode) { calls.set("setSLIMode", &State::sliMode, mode); }
+void olOSGWidget::enableAntialiasing(int enable) { calls.set("enableAntialiasing", &State::antialiasing, enable); }
 void olOSGWidget::setPostprocessAntialiasing(unsigned quality)
 {
-    olJournal::call("olOSGWidget::setPostprocessAntialiasing", quality);
-    olHostState::the().postprocessAntialiasing = quality;
+    calls.set("setPostprocessAntialiasing", &State::postprocessAntialiasing, quality);
 }
 
 void olOSGWidget::setAntialiasing(float distance, float scale, double time)
@@ -208,126 +154,68 @@ void olOSGWidget::setAntialiasing(float distance, float scale, double time)
 }
 
 bool olOSGWidget::getHighQualityAntialiasing() { return olHostState::the().highQualityAntialiasing; }
-
 void olOSGWidget::setHighQualityAntialiasing(bool enable)
 {
-    olJournal::call("olOSGWidget::setHighQualityAntialiasing", enable);
-    olHostState::the().highQualityAntialiasing = enable;
+    calls.set("setHighQualityAntialiasing", &State::highQualityAntialiasing, enable);
 }
-
 void olOSGWidget::setAuxiliaryNodesVisibleDuringAntialiasing(bool visible)
 {
-    olJournal::call("olOSGWidget::setAuxiliaryNodesVisibleDuringAntialiasing", visible);
-    olHostState::the().auxiliaryNodesDuringAntialiasing = visible;
+    calls.set("setAuxiliaryNodesVisibleDuringAntialiasing", &State::auxiliaryNodesDuringAntialiasing, visible);
 }
-
 void olOSGWidget::setAutoSuperSampling(bool enable)
 {
-    olJournal::call("olOSGWidget::setAutoSuperSampling", enable);
-    olHostState::the().autoSuperSampling = enable;
+    calls.set("setAutoSuperSampling", &State::autoSuperSampling, enable);
 }
-
-void olOSGWidget::setSuperSampling(bool enable)
-{
-    olJournal::call("olOSGWidget::setSuperSampling", enable);
-    olHostState::the().superSampling = enable;
-}
-
+void olOSGWidget::setSuperSampling(bool enable) { calls.set("setSuperSampling", &State::superSampling, enable); }
 void olOSGWidget::setSuperSamplingQuality(unsigned samples)
 {
-    olJournal::call("olOSGWidget::setSuperSamplingQuality", samples);
-    olHostState::the().superSamplingQuality = samples;
+    calls.set("setSuperSamplingQuality", &State::superSamplingQuality, samples);
 }
 
 void olOSGWidget::setAntialiasingQualityLow(int multisamples, bool pixelfilter, bool supersample, int raytracingSamples)
 {
-    olJournal::call("olOSGWidget::setAntialiasingQualityLow", multisamples, pixelfilter, supersample,
-                    raytracingSamples);
-    setPreset(olHostState::the().antialiasingLow, multisamples, pixelfilter, supersample, raytracingSamples);
+    setPreset("setAntialiasingQualityLow", State::the().antialiasingLow, multisamples, pixelfilter, supersample,
+              raytracingSamples);
 }
 
 void olOSGWidget::setAntialiasingQualityMedium(int multisamples, bool pixelfilter, bool supersample,
                                                int raytracingSamples)
 {
-    olJournal::call("olOSGWidget::setAntialiasingQualityMedium", multisamples, pixelfilter, supersample,
-                    raytracingSamples);
-    setPreset(olHostState::the().antialiasingMedium, multisamples, pixelfilter, supersample, raytracingSamples);
+    setPreset("setAntialiasingQualityMedium", State::the().antialiasingMedium, multisamples, pixelfilter, supersample,
+              raytracingSamples);
 }
 
 void olOSGWidget::setAntialiasingQualityHigh(int multisamples, bool pixelfilter, bool supersample,
                                              int raytracingSamples)
 {
-    olJournal::call("olOSGWidget::setAntialiasingQualityHigh", multisamples, pixelfilter, supersample,
-                    raytracingSamples);
-    setPreset(olHostState::the().antialiasingHigh, multisamples, pixelfilter, supersample, raytracingSamples);
+    setPreset("setAntialiasingQualityHigh", State::the().antialiasingHigh, multisamples, pixelfilter, supersample,
+              raytracingSamples);
 }
 
 void olOSGWidget::setAntialiasingQualityUltra(int multisamples, bool pixelfilter, bool supersample,
                                               int raytracingSamples)
 {
-    olJournal::call("olOSGWidget::setAntialiasingQualityUltra", multisamples, pixelfilter, supersample,
-                    raytracingSamples);
-    setPreset(olHostState::the().antialiasingUltra, multisamples, pixelfilter, supersample, raytracingSamples);
+    setPreset("setAntialiasingQualityUltra", State::the().antialiasingUltra, multisamples, pixelfilter, supersample,
+              raytracingSamples);
 }
 
-void olOSGWidget::enableHeadlight(int enable)
-{
-    olJournal::call("olOSGWidget::enableHeadlight", enable);
-    olHostState::the().headlightEnabled = enable != 0;
-}
-
-void olOSGWidget::showCoordinateSystem(int show)
-{
-    olJournal::call("olOSGWidget::showCoordinateSystem", show);
-    olHostState::the().coordinateSystem = show != 0;
-}
-
-void olOSGWidget::showViewCube(bool show)
-{
-    olJournal::call("olOSGWidget::showViewCube", show);
-    olHostState::the().viewCube = show;
-}
-
-void olOSGWidget::showLogo(bool show)
-{
-    olJournal::call("olOSGWidget::showLogo", show);
-    olHostState::the().logo = show;
-}
-
+void olOSGWidget::enableHeadlight(int enable) { calls.set("enableHeadlight", &State::headlightEnabled, enable); }
+void olOSGWidget::showCoordinateSystem(int show) { calls.set("showCoordinateSystem", &State::coordinateSystem, show); }
+void olOSGWidget::showViewCube(bool show) { calls.set("showViewCube", &State::viewCube, show); }
+void olOSGWidget::showLogo(bool show) { calls.set("showLogo", &State::logo, show); }
 bool olOSGWidget::getCamerasVisible() { return olHostState::the().camerasVisible; }
-
-void olOSGWidget::setCamerasVisible(bool visible)
-{
-    olJournal::call("olOSGWidget::setCamerasVisible", visible);
-    olHostState::the().camerasVisible = visible;
-}
-
+void olOSGWidget::setCamerasVisible(bool visible) { calls.set("setCamerasVisible", &State::camerasVisible, visible); }
 bool olOSGWidget::getLightsVisible() { return olHostState::the().lightsVisible; }
-
-void olOSGWidget::setLightsVisible(bool visible)
-{
-    olJournal::call("olOSGWidget::setLightsVisible", visible);
-    olHostState::the().lightsVisible = visible;
-}
-
+void olOSGWidget::setLightsVisible(bool visible) { calls.set("setLightsVisible", &State::lightsVisible, visible); }
 bool olOSGWidget::getJointsVisible() { return olHostState::the().jointsVisible; }
-
-void olOSGWidget::setJointsVisible(bool visible)
-{
-    olJournal::call("olOSGWidget::setJointsVisible", visible);
-    olHostState::the().jointsVisible = visible;
-}
-
+void olOSGWidget::setJointsVisible(bool visible) { calls.set("setJointsVisible", &State::jointsVisible, visible); }
 void olOSGWidget::setWireframeSelection(bool enable)
 {
-    olJournal::call("olOSGWidget::setWireframeSelection", enable);
-    olHostState::the().wireframeSelection = enable;
+    calls.set("setWireframeSelection", &State::wireframeSelection, enable);
 }
-
 void olOSGWidget::setWireframeAlwaysInFront(bool inFront)
 {
-    olJournal::call("olOSGWidget::setWireframeAlwaysInFront", inFront);
-    olHostState::the().wireframeAlwaysInFront = inFront;
+    calls.set("setWireframeAlwaysInFront", &State::wireframeAlwaysInFront, inFront);
 }
 
 void olOSGWidget::setNavMode(int view, Mode mode)
@@ -338,152 +226,72 @@ void olOSGWidget::setNavMode(int view, Mode mode)
 
 void olOSGWidget::setInteractionMode(InteractionMode mode)
 {
-    olJournal::call("olOSGWidget::setInteractionMode", int(mode));
-    olHostState::the().interactionMode = mode;
+    calls.set("setInteractionMode", &State::interactionMode, int(mode));
 }
-
-void olOSGWidget::setNavAutoCenter(bool enable)
-{
-    olJournal::call("olOSGWidget::setNavAutoCenter", enable);
-    olHostState::the().navAutoCenter = enable;
-}
-
+void olOSGWidget::setNavAutoCenter(bool enable) { calls.set("setNavAutoCenter", &State::navAutoCenter, enable); }
 void olOSGWidget::setNavInvertDollyAxis(bool invert)
 {
-    olJournal::call("olOSGWidget::setNavInvertDollyAxis", invert);
-    olHostState::the().navInvertDollyAxis = invert;
+    calls.set("setNavInvertDollyAxis", &State::navInvertDollyAxis, invert);
 }
-
 void olOSGWidget::setNavInvertWheelDolly(bool invert)
 {
-    olJournal::call("olOSGWidget::setNavInvertWheelDolly", invert);
-    olHostState::the().navInvertWheelDolly = invert;
+    calls.set("setNavInvertWheelDolly", &State::navInvertWheelDolly, invert);
 }
-
-void olOSGWidget::setAnimateNavCam(bool animate)
-{
-    olJournal::call("olOSGWidget::setAnimateNavCam", animate);
-    olHostState::the().animateNavCam = animate;
-}
-
+void olOSGWidget::setAnimateNavCam(bool animate) { calls.set("setAnimateNavCam", &State::animateNavCam, animate); }
 void olOSGWidget::setAnimateNavCamDuration(float duration)
 {
-    olJournal::call("olOSGWidget::setAnimateNavCamDuration", duration);
-    olHostState::the().animateNavCamDuration = duration;
+    calls.set("setAnimateNavCamDuration", &State::animateNavCamDuration, duration);
 }
-
 bool olOSGWidget::getNavUsePivotBasedPanning() { return olHostState::the().navUsePivotBasedPanning; }
-
 void olOSGWidget::setNavUsePivotBasedPanning(bool use)
 {
-    olJournal::call("olOSGWidget::setNavUsePivotBasedPanning", use);
-    olHostState::the().navUsePivotBasedPanning = use;
+    calls.set("setNavUsePivotBasedPanning", &State::navUsePivotBasedPanning, use);
 }
-
 float olOSGWidget::getNavPanningSpeed() { return olHostState::the().navPanningSpeed; }
-
-void olOSGWidget::setNavPanningSpeed(float factor)
-{
-    olJournal::call("olOSGWidget::setNavPanningSpeed", factor);
-    olHostState::the().navPanningSpeed = factor;
-}
-
+void olOSGWidget::setNavPanningSpeed(float factor) { calls.set("setNavPanningSpeed", &State::navPanningSpeed, factor); }
 int olOSGWidget::getNavSpeedMode() { return olHostState::the().navSpeedMode; }
-
-void olOSGWidget::setNavSpeedMode(int mode)
-{
-    olJournal::call("olOSGWidget::setNavSpeedMode", mode);
-    olHostState::the().navSpeedMode = mode;
-}
-
+void olOSGWidget::setNavSpeedMode(int mode) { calls.set("setNavSpeedMode", &State::navSpeedMode, mode); }
 float olOSGWidget::getNavDollySpeed() { return olHostState::the().navDollySpeed; }
-
-void olOSGWidget::setNavDollySpeed(float factor)
-{
-    olJournal::call("olOSGWidget::setNavDollySpeed", factor);
-    olHostState::the().navDollySpeed = factor;
-}
-
+void olOSGWidget::setNavDollySpeed(float factor) { calls.set("setNavDollySpeed", &State::navDollySpeed, factor); }
 int olOSGWidget::getNavDollyAxis() { return olHostState::the().navDollyAxis; }
-
-void olOSGWidget::setNavDollyAxis(int axis)
-{
-    olJournal::call("olOSGWidget::setNavDollyAxis", axis);
-    olHostState::the().navDollyAxis = axis;
-}
-
+void olOSGWidget::setNavDollyAxis(int axis) { calls.set("setNavDollyAxis", &State::navDollyAxis, axis); }
 bool olOSGWidget::getNavDollyToPivot() { return olHostState::the().navDollyToPivot; }
-
-void olOSGWidget::setNavDollyToPivot(bool enable)
-{
-    olJournal::call("olOSGWidget::setNavDollyToPivot", enable);
-    olHostState::the().navDollyToPivot = enable;
-}
-
+void olOSGWidget::setNavDollyToPivot(bool enable) { calls.set("setNavDollyToPivot", &State::navDollyToPivot, enable); }
 bool olOSGWidget::getNavOrbitMode() { return olHostState::the().navOrbitMode; }
-
-void olOSGWidget::setNavOrbitMode(bool enable)
-{
-    olJournal::call("olOSGWidget::setNavOrbitMode", enable);
-    olHostState::the().navOrbitMode = enable;
-}
-
+void olOSGWidget::setNavOrbitMode(bool enable) { calls.set("setNavOrbitMode", &State::navOrbitMode, enable); }
 int olOSGWidget::getNavOrbitDetectionArea() { return olHostState::the().navOrbitDetectionArea; }
-
 void olOSGWidget::setNavOrbitDetectionArea(int area)
 {
-    olJournal::call("olOSGWidget::setNavOrbitDetectionArea", area);
-    olHostState::the().navOrbitDetectionArea = area;
+    calls.set("setNavOrbitDetectionArea", &State::navOrbitDetectionArea, area);
 }
-
 int olOSGWidget::getNavOrbitDetectionTime() { return olHostState::the().navOrbitDetectionTime; }
-
 void olOSGWidget::setNavOrbitDetectionTime(int time)
 {
-    olJournal::call("olOSGWidget::setNavOrbitDetectionTime", time);
-    olHostState::the().navOrbitDetectionTime = time;
+    calls.set("setNavOrbitDetectionTime", &State::navOrbitDetectionTime, time);
 }
-
 void olOSGWidget::setSpacemouseViewMode(int mode)
 {
-    olJournal::call("olOSGWidget::setSpacemouseViewMode", mode);
-    olHostState::the().spacemouseViewMode = mode;
+    calls.set("setSpacemouseViewMode", &State::spacemouseViewMode, mode);
 }
-
 void olOSGWidget::setSpacemousePivotMode(int mode)
 {
-    olJournal::call("olOSGWidget::setSpacemousePivotMode", mode);
-    olHostState::the().spacemousePivotMode = mode;
+    calls.set("setSpacemousePivotMode", &State::spacemousePivotMode, mode);
 }
-
 void olOSGWidget::setSpacemouseTwoAxis(bool enable)
 {
-    olJournal::call("olOSGWidget::setSpacemouseTwoAxis", enable);
-    olHostState::the().spacemouseTwoAxis = enable;
+    calls.set("setSpacemouseTwoAxis", &State::spacemouseTwoAxis, enable);
 }
-
 void olOSGWidget::setSpacemouseHelicopter(bool enable)
 {
-    olJournal::call("olOSGWidget::setSpacemouseHelicopter", enable);
-    olHostState::the().spacemouseHelicopter = enable;
+    calls.set("setSpacemouseHelicopter", &State::spacemouseHelicopter, enable);
 }
-
 void olOSGWidget::setSpacemouseUseFixedHeight(bool use)
 {
-    olJournal::call("olOSGWidget::setSpacemouseUseFixedHeight", use);
-    olHostState::the().spacemouseUseFixedHeight = use;
+    calls.set("setSpacemouseUseFixedHeight", &State::spacemouseUseFixedHeight, use);
 }
-
 void olOSGWidget::setSpacemouseFixedHeight(float height)
 {
-    olJournal::call("olOSGWidget::setSpacemouseFixedHeight", height);
-    olHostState::the().spacemouseFixedHeight = height;
+    calls.set("setSpacemouseFixedHeight", &State::spacemouseFixedHeight, height);
 }
-
 int olOSGWidget::getDisplayType() { return olHostState::the().displayType; }
-
-void olOSGWidget::setDisplayType(int display)
-{
-    olJournal::call("olOSGWidget::setDisplayType", display);
-    olHostState::the().displayType = display;
-}
+void olOSGWidget::setDisplayType(int display) { calls.set("setDisplayType", &State::displayType, display); }

@@ -1,13 +1,16 @@
 #include "Kernel/olScenegraph.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
 #include "State/olSceneLoaders.h"
 
 #include <OpenSG/OSGNode.h>
 
 namespace
 {
+
+using State = olHostState;
+
+constexpr olHostCalls calls("olScenegraph");
 
 osg::NodePtr makeHeadlight()
 {
@@ -23,50 +26,23 @@ osg::NodePtr olScenegraph::getHeadlight()
     return olHostState::the().headlight ? headlight : osg::NodePtr(osg::NullFC);
 }
 
-void olScenegraph::setHeadlightMode(int mode)
-{
-    olJournal::call("olScenegraph::setHeadlightMode", mode);
-    olHostState::the().headlightMode = mode;
-}
-
-void olScenegraph::setMarkerSize(float size)
-{
-    olJournal::call("olScenegraph::setMarkerSize", size);
-    olHostState::the().markerSize = size;
-}
-
-void olScenegraph::setLODSelection(bool enable)
-{
-    olJournal::call("olScenegraph::setLODSelection", enable);
-    olHostState::the().lodSelection = enable;
-}
-
-void olScenegraph::setAutoScroll(bool enable)
-{
-    olJournal::call("olScenegraph::setAutoScroll", enable);
-    olHostState::the().selectionAutoScroll = enable;
-}
-
+void olScenegraph::setHeadlightMode(int mode) { calls.set("setHeadlightMode", &State::headlightMode, mode); }
+void olScenegraph::setMarkerSize(float size) { calls.set("setMarkerSize", &State::markerSize, size); }
+void olScenegraph::setLODSelection(bool enable) { calls.set("setLODSelection", &State::lodSelection, enable); }
+void olScenegraph::setAutoScroll(bool enable) { calls.set("setAutoScroll", &State::selectionAutoScroll, enable); }
 void olScenegraph::setPreselectionEnabled(bool enable)
 {
-    olJournal::call("olScenegraph::setPreselectionEnabled", enable);
-    olHostState::the().preselectionEnabled = enable;
+    calls.set("setPreselectionEnabled", &State::preselectionEnabled, enable);
 }
-
 void olScenegraph::setPreselectionColor(const osg::Color3f &color)
 {
-    olJournal::call("olScenegraph::setPreselectionColor", color);
-    olHostState::the().preselectionColor = color;
+    calls.set("setPreselectionColor", &State::preselectionColor, color);
 }
-
 void olScenegraph::setSelectionColor(const osg::Color3f &color)
 {
-    olJournal::call("olScenegraph::setSelectionColor", color);
-    olHostState::the().selectionColor = color;
+    calls.set("setSelectionColor", &State::selectionColor, color);
 }
-
 void olScenegraph::setWireframeOverride(bool enable)
 {
-    olJournal::call("olScenegraph::setWireframeOverride", enable);
-    olHostState::the().wireframeOverride = enable;
+    calls.set("setWireframeOverride", &State::wireframeOverride, enable);
 }

@@ -1,34 +1,33 @@
 #include "KernelServices/olImmersiveInteractionService.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
+
+namespace
+{
+
+using State = olHostState;
+
+constexpr olHostCalls calls("olImmersiveInteractionService");
+
+} // namespace
 
 void olImmersiveInteractionService::setTeleportGroundMode(int mode)
 {
-    olJournal::call("olImmersiveInteractionService::setTeleportGroundMode", mode);
-    olHostState::the().teleportGroundMode = mode;
+    calls.set("setTeleportGroundMode", &State::teleportGroundMode, mode);
 }
-
 void olImmersiveInteractionService::setTeleportRange(float range)
 {
-    olJournal::call("olImmersiveInteractionService::setTeleportRange", range);
-    olHostState::the().teleportRange = range;
+    calls.set("setTeleportRange", &State::teleportRange, range);
 }
-
 void olImmersiveInteractionService::setVisualiseHands(int mode)
 {
-    olJournal::call("olImmersiveInteractionService::setVisualiseHands", mode);
-    olHostState::the().visualiseHands = mode;
+    calls.set("setVisualiseHands", &State::visualiseHands, mode);
 }
-
 void olImmersiveInteractionService::setAutoCreateCollisionObjects(bool create)
 {
-    olJournal::call("olImmersiveInteractionService::setAutoCreateCollisionObjects", create);
-    olHostState::the().autoCreateCollisionObjects = create;
+    calls.set("setAutoCreateCollisionObjects", &State::autoCreateCollisionObjects, create);
 }
-
 void olImmersiveInteractionService::setShowTooltipsOnStart(bool show)
 {
-    olJournal::call("olImmersiveInteractionService::setShowTooltipsOnStart", show);
-    olHostState::the().showTooltipsOnStart = show;
+    calls.set("setShowTooltipsOnStart", &State::showTooltipsOnStart, show);
 }

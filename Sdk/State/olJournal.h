@@ -35,6 +35,14 @@ public:
             report(function, {text(arguments)...});
     }
 
+    /// The same for a function of that type.
+    template <class... Arguments>
+    static void callOf(const char *type, const char *function, const Arguments &...arguments)
+    {
+        if (s_observer)
+            report(std::string(type) + "::" + function, {text(arguments)...});
+    }
+
     /// A call on an object that bears a name: `olImportOptions("JT")::write()`.
     template <class... Arguments>
     static void callOn(const char *type, const std::string &object, const char *function, const Arguments &...arguments)

@@ -6,7 +6,6 @@
 #include <OpenSG/OSGBaseFunctions.h>
 #include <OpenSG/OSGSceneFileHandler.h>
 #include <QCoreApplication>
-#include <QString>
 
 void olStartOpenSG()
 {

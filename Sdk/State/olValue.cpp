@@ -301,8 +301,7 @@ const std::vector<Type> &types()
         type<std::vector<std::string>>("strings", QT_TRANSLATE_NOOP("olValue", "a list of texts, as [\"a\", \"b\"]")),
         type<std::vector<float>>("floats", QT_TRANSLATE_NOOP("olValue", "a list of numbers, as [1, 0.5]")),
         type<Color>("color", QT_TRANSLATE_NOOP("olValue", "three numbers, as [1, 0.5, 0]")),
-        type<std::vector<Color>>("colors",
-                                 QT_TRANSLATE_NOOP("olValue", "a list of colours, as [[0, 0, 0], [1, 1, 1]]")),
+        type<std::vector<Color>>("colors", QT_TRANSLATE_NOOP("olValue", "a list of colors, as [[0, 0, 0], [1, 1, 1]]")),
     };
     return all;
 }

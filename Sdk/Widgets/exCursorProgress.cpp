@@ -1,7 +1,15 @@
 #include "Widgets/exCursorProgress.h"
 
-#include "State/olHostState.h"
-#include "State/olJournal.h"
+#include "State/olHostCalls.h"
+
+namespace
+{
+
+using State = olHostState;
+
+constexpr olHostCalls calls("exCursorProgress");
+
+} // namespace
 
 int exCursorProgress::getBaseSize() { return olHostState::the().progressBaseSize; }
 
@@ -11,21 +19,12 @@ exCursorProgress::Position exCursorProgress::getPreferredPosition()
 }
 
 bool exCursorProgress::getPreferredVisibility() { return olHostState::the().progressVisible; }
-
-void exCursorProgress::setPreferredSize(int pixels)
-{
-    olJournal::call("exCursorProgress::setPreferredSize", pixels);
-    olHostState::the().progressBaseSize = pixels;
-}
-
+void exCursorProgress::setPreferredSize(int pixels) { calls.set("setPreferredSize", &State::progressBaseSize, pixels); }
 void exCursorProgress::setPreferredPosition(Position position)
 {
-    olJournal::call("exCursorProgress::setPreferredPosition", int(position));
-    olHostState::the().progressPosition = position;
+    calls.set("setPreferredPosition", &State::progressPosition, int(position));
 }
-
 void exCursorProgress::setPreferredVisibility(bool visible)
 {
-    olJournal::call("exCursorProgress::setPreferredVisibility", visible);
-    olHostState::the().progressVisible = visible;
+    calls.set("setPreferredVisibility", &State::progressVisible, visible);
 }

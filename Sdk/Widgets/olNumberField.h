@@ -10,6 +10,7 @@ class QDoubleValidator;
 class olNumberField : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(double value READ value WRITE setValue)
 
 public:
     explicit olNumberField(QWidget *parent = nullptr);

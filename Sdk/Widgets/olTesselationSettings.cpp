@@ -119,27 +119,13 @@ void olTesselationSettings::updateQualityPreset()
     m_quality->setValue(nearest);
 }
 
-bool olTesselationSettings::isTessellationEnabled() const { return m_tessellation->isChecked(); }
-
-void olTesselationSettings::setTessellationEnabled(bool enabled) { m_tessellation->setChecked(enabled); }
-
-double olTesselationSettings::chordDeviation() const { return m_chordDeviation.number->value(); }
-
 void olTesselationSettings::setChordDeviation(double millimetres) { m_chordDeviation.number->setValue(millimetres); }
-
-double olTesselationSettings::normalTolerance() const { return m_normalTolerance.number->value(); }
 
 void olTesselationSettings::setNormalTolerance(double degrees) { m_normalTolerance.number->setValue(degrees); }
 
-double olTesselationSettings::maxChordLength() const { return m_maxChordLength.number->value(); }
-
 void olTesselationSettings::setMaxChordLength(double millimetres) { m_maxChordLength.number->setValue(millimetres); }
 
-bool olTesselationSettings::isStitchingEnabled() const { return m_stitching->isChecked(); }
-
 void olTesselationSettings::setStitchingEnabled(bool enabled) { m_stitching->setChecked(enabled); }
-
-double olTesselationSettings::stitchingTolerance() const { return m_stitchingTolerance.number->value(); }
 
 void olTesselationSettings::setStitchingTolerance(double millimetres)
 {
@@ -237,6 +223,7 @@ void olTesselationSettings::updateEnabled()
 double olTesselationSettings::distanceTo(int preset) const
 {
     const Preset &values = presets.at(std::size_t(preset));
-    return distance(chordDeviation(), values.chordDeviation) + distance(normalTolerance(), values.normalTolerance) +
-           distance(maxChordLength(), values.maxChordLength);
+    return distance(m_chordDeviation.number->value(), values.chordDeviation) +
+           distance(m_normalTolerance.number->value(), values.normalTolerance) +
+           distance(m_maxChordLength.number->value(), values.maxChordLength);
 }

@@ -10,7 +10,7 @@ class QLabel;
 class QSlider;
 class olNumberField;
 
-/// How finely surfaces are tessellated on import, and how they are stitched. Every value is its own control; a getter
+/// How finely surfaces are tessellated on import, and how they are stitched. Every value is its own control, which
 /// returns exactly what was set until the user edits it.
 class ORLO_SDK_EXPORT olTesselationSettings : public QWidget
 {
@@ -46,29 +46,22 @@ public:
     /// Moves the slider to the preset nearest to the tolerances, and changes none of them.
     void updateQualityPreset();
 
-    [[nodiscard]] bool isTessellationEnabled() const;
-    void setTessellationEnabled(bool enabled);
-
     /// Largest distance between a surface and its triangles, in millimetres.
-    [[nodiscard]] double chordDeviation() const;
     void setChordDeviation(double millimetres);
 
     /// Largest angle between the normals at the ends of an edge, in degrees.
-    [[nodiscard]] double normalTolerance() const;
     void setNormalTolerance(double degrees);
 
     /// Longest edge of a triangle, in millimetres.
-    [[nodiscard]] double maxChordLength() const;
     void setMaxChordLength(double millimetres);
 
-    [[nodiscard]] bool isStitchingEnabled() const;
     void setStitchingEnabled(bool enabled);
 
     /// Widest gap between two surfaces that is closed, in millimetres.
-    [[nodiscard]] double stitchingTolerance() const;
     void setStitchingTolerance(double millimetres);
 
-    /// The widget of one value, for whoever wants to mark it or explain it.
+    /// The widget of one value, to read, mark or explain it: a check box for what is on or off, a slider for the
+    /// quality, and a field for a number, which is its property "value".
     [[nodiscard]] QWidget *control(Control which) const;
 
 private:

@@ -62,6 +62,15 @@ class Batch(tool_test.ToolTest):
             self.assertEqual((result.stderr, result.returncode), ("", 0))
             self.assertIn(answer, result.stdout)
 
+    def test_a_model_is_converted_without_a_display_and_the_rest_is_refused(self):
+        del self.environment["DISPLAY"]
+        self.environment.pop("QT_QPA_PLATFORM", None)
+        model = self.sample_as("stl")
+        self.assert_refused(self.stored(model), "orlo: there is no display to open a window on; --save needs none")
+        result = self.stored("--render", model, "--output", "picture.png")
+        self.assertEqual((result.stderr, result.returncode),
+                         ("orlo: The 3D view needs an X display, or XWayland, with OpenGL.\n", 1))
+
     def test_help_and_refusals_are_in_the_language_that_is_stored(self):
         self.store_language("2")
         self.assertIn("モデルをインポートし", self.stored("--help").stdout)
@@ -74,6 +83,15 @@ class Batch(tool_test.ToolTest):
         preferences = pathlib.Path(self.program).parent / "orlo-prefs"
         subprocess.run([preferences, "--store", self.store, "set", "MainWindow user language", language],
                        env=self.environment, timeout=tool_test.SECONDS, check=True)
+
+    def test_what_was_remembered_under_the_former_name_is_taken_over_once(self):
+        former, now = (self.folder / ".config" / name / "orlo.conf" for name in ("ORLO", "orlo"))
+        for kept in (1, 2):
+            former.parent.mkdir(parents=True)
+            former.write_text(f"[General]\nkept={kept}\n")
+            self.sample_as("stl")
+            self.assertIn("kept=1\n", now.read_text())
+            self.assertEqual(former.parent.exists(), kept == 2)
 
     def test_settings_hold_for_one_run(self):
         model = self.sample_as("step")

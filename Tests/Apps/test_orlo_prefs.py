@@ -193,6 +193,8 @@ class Bounds(ToolTest):
         self.assert_printed(self.tool("import", file, options=agreed), "")
         self.assert_printed(self.stored("set", server, "true"), "")
         self.assert_printed(self.stored("set", server, "false"), "")
+        for arguments in (["--dry-run"], []):
+            self.assert_refused(self.stored("undo", *arguments), refusal)
         self.assert_printed(self.tool("set", server, "true", options=agreed), "")
 
         self.site({server: {"value": True}})
@@ -327,10 +329,11 @@ class History(ToolTest):
         self.stored("set", "Camera fov", "60")
         with sqlite3.connect(self.store) as database:
             database.execute("DELETE FROM history WHERE save = 2")
-        result = self.stored("undo")
-        self.assertEqual((result.stdout, result.returncode), ("", 1))
-        self.assertEqual(result.stderr,
-                         'left: "Camera fov" was changed since\nSome settings were left as they are.\n')
+        for arguments in (["--dry-run"], []):
+            result = self.stored("undo", *arguments)
+            self.assertEqual((result.stdout, result.returncode), ("", 1))
+            self.assertEqual(result.stderr,
+                             'left: "Camera fov" was changed since\nSome settings were left as they are.\n')
 
 
 class Profiles(ToolTest):
@@ -561,7 +564,7 @@ class CommandLine(ToolTest):
                 ("export", "a", "b"): "usage: orlo-prefs [OPTIONS] export [FILE|-]",
                 ("import", "--dry-run"): "usage: orlo-prefs [OPTIONS] import [--dry-run] FILE|-",
                 ("profile",): "usage: orlo-prefs [OPTIONS] profile list|save|apply|delete",
-                ("profile", "save", "a", "--all"): "usage: orlo-prefs [OPTIONS] profile list|save|apply|delete",
+                ("profile", "save", "--changed"): "usage: orlo-prefs [OPTIONS] profile list|save|apply|delete",
                 ("undo", "0"): "usage: orlo-prefs [OPTIONS] undo [N] [--dry-run]",
                 ("script",): "usage: orlo-prefs [OPTIONS] script FILE|-"}.items():
             with self.subTest(arguments):

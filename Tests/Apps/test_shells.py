@@ -15,7 +15,7 @@ SOURCE = pathlib.Path(__file__).resolve().parents[2]
 COMPLETIONS = SOURCE / "tools/completion"
 # What is typed before the tabulator, and the words that stand on the line after it.
 TYPED = [("--ed", ["--edition"]), ("--edition de", ["--edition", "design"]), ("list --ma", ["list", "--markdown"]),
-         ("reset Camera", ["reset", "Camera fov"]),
+         ("reset Camera", ["reset", "Camera fov"]), ("profile apply far", ["profile", "apply", "far away"]),
          ("--edition design set Camera", ["--edition", "design", "set", "Camera fov"])]
 
 
@@ -23,6 +23,9 @@ class Shells(tool_test.ToolTest):
     def setUp(self):
         super().setUp()
         self.folder_of_programs = pathlib.Path(self.program).parent
+        profile = self.folder / ".config/orlo/profiles/far away.json"
+        profile.parent.mkdir(parents=True)
+        profile.write_text("{}")
         self.environment["PATH"] = f"{self.folder_of_programs}:{os.environ['PATH']}"
 
     def listed(self, program, *command):

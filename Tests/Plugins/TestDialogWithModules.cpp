@@ -168,15 +168,16 @@ TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsTh
     auto &block = control<olTesselationSettings>("Step", "tesselation");
     auto *quality = qobject_cast<QSlider *>(block.control(olTesselationSettings::Control::Quality));
     EXPECT_FALSE(quality->isEnabled());
-    const double kept = block.chordDeviation();
+    const QWidget &chordDeviation = *block.control(olTesselationSettings::Control::ChordDeviation);
+    const double kept = chordDeviation.property("value").toDouble();
     quality->setValue(quality->maximum());
     QTest::qWait(1);
     QCoreApplication::processEvents();
-    EXPECT_EQ(block.chordDeviation(), kept);
+    EXPECT_EQ(chordDeviation.property("value").toDouble(), kept);
     auto *changes = locked.findChild<QPushButton *>(QStringLiteral("changes"));
     EXPECT_EQ(changes->text(), "2 Chan&ges...") << "the two tolerances that are free, not the one that is locked";
     ASSERT_TRUE(locked.apply());
-    EXPECT_EQ(block.chordDeviation(), kept);
+    EXPECT_EQ(chordDeviation.property("value").toDouble(), kept);
     EXPECT_EQ(boost::any_cast<double>(record().get("STEPOptions chord deviation")), kept);
 
     locked.open(QStringLiteral("Render Options"));

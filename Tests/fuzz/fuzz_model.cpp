@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         std::abort();
     file.close();
     QStringList remarks;
-    if (!file.open(QIODevice::ReadOnly) || !olModelFormat::ofFile(file.fileName())->check(file, remarks).isEmpty())
+    if (!file.open(QIODevice::ReadOnly) || !olModelFormat::ofFile(file.fileName())->check(file, remarks).isOk())
         return 0;
 
     const olImportJob job = olImportJob::of(file.fileName());

@@ -52,8 +52,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
 
     (void)store.check();
-    const olResult<olStoreOpening> looked = store.open(olStoreUse::LookAt);
-    const olResult<olStoreOpening> opened = store.open();
+    const olResult<olStoreRows::Contents> looked = store.open(olStoreUse::LookAt);
+    const olResult<olStoreRows::Contents> opened = store.open();
     if (looked.isOk() != opened.isOk() || (opened.isOk() && looked->values.size() != opened->values.size()))
         std::abort();
     // Whatever was found: what is opened can be saved to.

@@ -8,6 +8,23 @@ import sys
 import tempfile
 from fnmatch import fnmatch
 from pathlib import Path
+from xml.etree import ElementTree
+
+MIME = "{http://www.freedesktop.org/standards/shared-mime-info}"
+
+
+def suffixes_that_open_nothing(root, opened):
+    """Of the files that the viewer reads, those that a desktop does not know to be of a type that the entry names."""
+    system = Path("/usr/share/mime/packages/freedesktop.org.xml")
+    if not system.exists():
+        return
+    known = {glob.get("pattern") for file in (system, root / "Apps/orlo/desktop/org.example.orlo.xml")
+             for kind in ElementTree.parse(file).iter(f"{MIME}mime-type") if kind.get("type") in opened
+             for glob in kind.iter(f"{MIME}glob")}
+    for source in sorted((root / "Scene/Exchange/Formats").glob("*Format.cpp")):
+        suffixes = re.search(r"\n    return \{[^;]*?\{(QStringLiteral[^}]*)\}", source.read_text()).group(1)
+        yield from (f"a desktop opens no .{suffix} file with the viewer" for suffix in re.findall(r'"(\w+)"', suffixes)
+                    if f"*.{suffix}" not in known)
 
 
 def faults(root):
@@ -23,6 +40,7 @@ def faults(root):
     opened = re.search(r"MimeType=(.*);", entry).group(1).split(";")
     if opened != re.findall(r"<mediatype>(.*)</mediatype>", component):
         yield "the desktop entry and the metadata name other types of files"
+    yield from suffixes_that_open_nothing(root, opened)
 
     version = re.search(r"project\(orlo VERSION ([\d.]+)", (root / "CMakeLists.txt").read_text()).group(1)
     told = {"debian/changelog": re.search(r"\((.*?)\)", (root / "debian/changelog").read_text()).group(1),

@@ -16,9 +16,9 @@ WORDS = "only recorded"
 
 
 def sections(document):
-    for part in re.split(r"^## ", document, flags=re.M)[1:]:
-        title, text = part.split("\n", 1)
-        yield title.strip(), text
+    """Each by every name in its title."""
+    parts = (part.split("\n", 1) for part in re.split(r"^## ", document, flags=re.M)[1:])
+    return {name: text for title, text in parts for name in title.strip().split(", ")}
 
 
 def told(section, name):
@@ -33,7 +33,10 @@ def told(section, name):
 def unexplained(modules, document):
     """Every setting is named where it stands what it does here: as the page calls it, or without a control by its key."""
     words = " ".join(document.split())
+    of_module = sections(document)
     for module in modules:
+        if module["settings"] and module["name"] not in of_module and module["name"] not in of_module[OTHERS]:
+            yield f"it says nowhere what becomes of the settings of {module['name']}"
         for setting in module["settings"]:
             name = setting.get("label") or f"`{setting['key']}`"
             if name not in words:
@@ -41,7 +44,7 @@ def unexplained(modules, document):
 
 
 def faults(modules, document):
-    of_module = {name: text for title, text in sections(document) for name in title.split(", ")}
+    of_module = sections(document)
     for module in modules:
         section = of_module.get(module["name"])
         for setting in module["settings"]:

@@ -28,11 +28,11 @@ NOT_FOR_PEOPLE = {
     "Plugins/KernelPreferences/FileIO/": ["FileIO create uber materials", "Wire", "Collada", "Parasolid"],
     "Plugins/KernelPreferences/Viewer/olRenderOptionsPreferencesGUII.cpp": ["RenderOptions local lights",
                                                                            "RenderOptions use back buffer"],
-    "Host/Session/olRecordedSettings.cpp": ["Options ", "PLMXML load ", "Render"],
+    "Host/Session/olRecordedSettings.cpp": ["PLMXML load "],
     "Apps/orlo/olImportFineness.cpp": ["Options "],
     "Sdk/State/olPlatform.cpp": ["Reset"],
     # languages of others: of databases, graphics cards and models; what is in the sample; names inside OpenCASCADE
-    "Host/Store/": ["PRAGMA ", "BEGIN ", "VACUUM ", "CREATE ", "SELECT ", "ALTER ", "INSERT ", "DELETE ", "UPDATE ", "SQLite format 3"],
+    "Host/Store/": ["PRAGMA ", "BEGIN ", "CREATE ", "SELECT ", "ALTER ", "INSERT ", "DELETE ", "UPDATE ", "SQLite format 3"],
     "Scene/View/olPictureMean.cpp": ["\nattribute ", "\nuniform "],
     "Scene/Exchange/": ["facet normal ", "\\nouter loop", "texture file", "Unknown field ", "appearance ", " texture ",
                         "geometry ", "coord ", "normal ", "texCoord ", "color ", "Kd", "Ks", "Ke", "Ns ", "Shape { ",

@@ -36,6 +36,15 @@ run(${CMAKE_COMMAND} --build ${WORK}/build --target orlo-prefs KernelPreferences
 run(${PYTHON} ${SOURCE}/Tests/lint/check_needed.py ${WORK}/build/bin/libOrloSdk.so
     ${WORK}/build/bin/libKernelPreferences.so SYSTEM)
 
+# What is refused stands in the host's log.
+run(${COMPILER} -std=c++17 -I${installed}/include -I${installed}/include/OpenSG ${here}/Loaders.cpp
+    -o ${WORK}/loaders -Wl,--no-as-needed -L${WORK}/build/bin -lOrloSdk -L${installed}/lib -lOSGSystem -lOSGBase -lGLU -lGL
+    -Wl,-rpath,${WORK}/build/bin:${installed}/lib)
+execute_process(COMMAND ${WORK}/loaders RESULT_VARIABLE result ERROR_VARIABLE log)
+if(NOT result EQUAL 0 OR NOT log STREQUAL "info: OpenSG has no loader for vrml; options for it are not kept.\n")
+    message(FATAL_ERROR "loaders of an installed OpenSG end with ${result} and say\n${log}")
+endif()
+
 # The journal tells of the options for loaders as ever, those that the library refuses among them.
 file(GLOB folders ${SOURCE}/Tests/scripts/*)
 foreach(folder IN LISTS folders)

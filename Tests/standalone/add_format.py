@@ -42,6 +42,8 @@ def apply(source, copy):
         r"(?s)`olKernelPreferences.cpp`.*?```cpp\n(#include.*?)```.*?```cpp\n(    create.*?)```", document).groups()
     insert(copy / PLUGIN / "olKernelPreferences.cpp", include, '#include "FileIO/')
     insert(copy / PLUGIN / "olKernelPreferences.cpp", creation, "    create<olPLMXML")
+    explained = copy / "docs/settings-in-the-view.md"
+    explained.write_text(explained.read_text().replace("PLM XML, ", "PLM XML, Parasolid, ", 1))
 
 
 def check(source, copy, options):

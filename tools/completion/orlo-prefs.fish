@@ -28,8 +28,8 @@ function __orlo_prefs_after
     test (count $words) -eq 1; and contains -- $words[1] $argv
 end
 
-# With the options that choose what is listed.
-function __orlo_prefs_keys
+# What a command lists, with the options that choose that.
+function __orlo_prefs_tool
     set -l words (commandline -opc)
     set -l command $words[1]
     for index in (seq 2 (count $words))
@@ -37,7 +37,20 @@ function __orlo_prefs_keys
             set -a command $words[$index] $words[(math $index + 1)]
         end
     end
-    $command list 2>/dev/null | string match -r '^  \S.*' | string trim -l | string replace -r '  .*' '' | sort -u
+    $command $argv 2>/dev/null
+end
+
+function __orlo_prefs_keys
+    __orlo_prefs_tool list | string match -r '^  \S.*' | string trim -l | string replace -r '  .*' '' | sort -u
+end
+
+function __orlo_prefs_profiles
+    __orlo_prefs_tool profile list | string replace -r '  \(site\)$' ''
+end
+
+function __orlo_prefs_names_profile
+    set -l words (__orlo_prefs_words)
+    test (count $words) -eq 2; and test $words[1] = profile; and test $words[2] != list
 end
 
 complete -c orlo-prefs -f
@@ -62,6 +75,7 @@ complete -c orlo-prefs -n '__orlo_prefs_after reset' -l all -d 'Every setting'
 complete -c orlo-prefs -n '__orlo_prefs_after import undo' -l dry-run -d 'Only tell what would change'
 complete -c orlo-prefs -n '__orlo_prefs_after check' -l site -r -F -d 'Judge a file before it is installed'
 complete -c orlo-prefs -n '__orlo_prefs_after profile' -a 'list save apply delete'
+complete -c orlo-prefs -n __orlo_prefs_names_profile -a '(__orlo_prefs_profiles)'
 complete -c orlo-prefs -n '__fish_seen_subcommand_from profile' -l changed -d 'What differs from the defaults'
 complete -c orlo-prefs -n '__fish_seen_subcommand_from profile' -l module -x -d 'Those of a module'
 complete -c orlo-prefs -n '__fish_seen_subcommand_from profile' -l dry-run -d 'Only tell what would change'

@@ -65,7 +65,7 @@ void olCadImportPreferences::updateGUI()
 {
     settings().showOnPage();
     olTesselationSettings &tesselation = *page().form().tesselation;
-    tesselation.enableGroups(olTesselationSettings::AllGroups);
+    tesselation.enableGroups(~0u);
     tesselation.updateQualityPreset();
 }
 
@@ -77,20 +77,14 @@ void olCadImportPreferences::listImportSettings()
     const auto &form = page().form();
     Block *block = form.tesselation;
 
-    settings().add(import.stitching,
-                   valueOf(block, Part::Stitching, &Block::isStitchingEnabled, &Block::setStitchingEnabled));
-    settings().add(import.stitchingTolerance,
-                   valueOf(block, Part::StitchingTolerance, &Block::stitchingTolerance, &Block::setStitchingTolerance));
-    settings().add(import.tessellation,
-                   valueOf(block, Part::Tessellation, &Block::isTessellationEnabled, &Block::setTessellationEnabled));
+    settings().add(import.stitching, valueOf(block, Part::Stitching, &Block::setStitchingEnabled));
+    settings().add(import.stitchingTolerance, valueOf(block, Part::StitchingTolerance, &Block::setStitchingTolerance));
+    settings().add(import.tessellation, qobject_cast<QCheckBox *>(block->control(Part::Tessellation)));
     settings().add(import.keepSurfaceData, form.keepSurfaceData);
     settings().add(import.createGroupsForLayers, form.createGroupsForLayers);
-    settings().add(import.chordDeviation,
-                   valueOf(block, Part::ChordDeviation, &Block::chordDeviation, &Block::setChordDeviation));
-    settings().add(import.normalTolerance,
-                   valueOf(block, Part::NormalTolerance, &Block::normalTolerance, &Block::setNormalTolerance));
-    settings().add(import.maxChordLength,
-                   valueOf(block, Part::MaxChordLength, &Block::maxChordLength, &Block::setMaxChordLength));
+    settings().add(import.chordDeviation, valueOf(block, Part::ChordDeviation, &Block::setChordDeviation));
+    settings().add(import.normalTolerance, valueOf(block, Part::NormalTolerance, &Block::setNormalTolerance));
+    settings().add(import.maxChordLength, valueOf(block, Part::MaxChordLength, &Block::setMaxChordLength));
     settings().add(import.mergeGeometries, form.mergeGeometries);
     settings().add(import.removeEmptyGroups, form.removeEmptyGroups);
     settings().add(import.unshareNodes, form.unshareNodes);

@@ -12,9 +12,8 @@
 #include <functional>
 #include <set>
 
-olFileIOPreferencesGUIW::olFileIOPreferencesGUIW() : m_form(std::make_unique<Ui::olFileIOPreferencesGUI>())
+olFileIOPreferencesGUIW::olFileIOPreferencesGUIW()
 {
-    m_form->setupUi(this);
     m_form->searchPaths->setHorizontalHeaderLabels({QCoreApplication::translate("olPreferences", "Path")});
     setSearchPaths({});
     setUpBrowseButton();

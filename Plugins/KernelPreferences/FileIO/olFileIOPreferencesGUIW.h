@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
+#include "Framework/olFormPage.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,15 +11,13 @@ class olFileIOPreferencesGUI;
 }
 
 /// The page of the settings that hold for every import, and of the directories searched for textures.
-class olFileIOPreferencesGUIW : public olPageWidget
+class olFileIOPreferencesGUIW : public olFormPage<Ui::olFileIOPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olFileIOPreferencesGUIW();
     ~olFileIOPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olFileIOPreferencesGUI &form() const { return *m_form; }
 
     /// The rows of the table from the top (UTF-8). What is set stands in the given order until the user sorts it.
     void setSearchPaths(const std::vector<std::string> &paths);
@@ -35,6 +32,4 @@ private:
     void setUpBrowseButton();
     void appendSearchPath(const QString &path);
     [[nodiscard]] bool hasSearchPath(const QString &path) const;
-
-    std::unique_ptr<Ui::olFileIOPreferencesGUI> m_form;
 };

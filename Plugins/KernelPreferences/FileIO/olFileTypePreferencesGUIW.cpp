@@ -2,9 +2,8 @@
 
 #include "ui_olFileTypePreferencesGUI.h"
 
-olFileTypePreferencesGUIW::olFileTypePreferencesGUIW() : m_form(std::make_unique<Ui::olFileTypePreferencesGUI>())
+olFileTypePreferencesGUIW::olFileTypePreferencesGUIW()
 {
-    m_form->setupUi(this);
     m_form->tesselation->setConnections();
     m_form->tesselation->setQualityEnds(*m_form->lowestQuality, *m_form->highestQuality);
     for (QWidget *group : {m_form->jtLoader, m_form->jtBreps, m_form->rhino, m_form->stl, m_form->kbx})

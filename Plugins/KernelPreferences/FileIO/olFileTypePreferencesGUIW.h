@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,15 +8,13 @@ class olFileTypePreferencesGUI;
 }
 
 /// The page of a CAD format. At first it has what all formats have; the groups of single ones are hidden.
-class olFileTypePreferencesGUIW : public olPageWidget
+class olFileTypePreferencesGUIW : public olFormPage<Ui::olFileTypePreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olFileTypePreferencesGUIW();
     ~olFileTypePreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olFileTypePreferencesGUI &form() const { return *m_form; }
 
     void showJtGroups();
 
@@ -32,6 +28,4 @@ public:
 
 private:
     void orderTabKey();
-
-    std::unique_ptr<Ui::olFileTypePreferencesGUI> m_form;
 };

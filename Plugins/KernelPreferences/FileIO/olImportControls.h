@@ -8,27 +8,29 @@
 
 // The controls of the import page that stand for their settings in a way of their own.
 
-/// A value inside the tessellation block.
+/// A value inside the tessellation block, which is given to the block and read from its own control.
 template <class Value> struct olTesselationValue {
     olTesselationSettings *block;
     QWidget *widget;
-    Value (olTesselationSettings::*get)() const;
     void (olTesselationSettings::*set)(Value);
 };
 template <class Value>
 olTesselationValue<Value> valueOf(olTesselationSettings *block, olTesselationSettings::Control control,
-                                  Value (olTesselationSettings::*get)() const,
                                   void (olTesselationSettings::*set)(Value))
 {
-    return {block, block->control(control), get, set};
+    return {block, block->control(control), set};
 }
 template <class Value> void showOn(const olTesselationValue<Value> &part, Value value)
 {
     (part.block->*part.set)(value);
 }
-template <class Value> void takeFrom(const olTesselationValue<Value> &part, Value &value)
+inline void takeFrom(const olTesselationValue<bool> &part, bool &value)
 {
-    value = (part.block->*part.get)();
+    value = part.widget->property("checked").toBool();
+}
+inline void takeFrom(const olTesselationValue<double> &part, double &value)
+{
+    value = part.widget->property("value").toDouble();
 }
 
 /// The choices of a combo box over two settings: whether a kind of entity is imported, and its invisible ones too.

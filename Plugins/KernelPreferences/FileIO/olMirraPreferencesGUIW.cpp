@@ -5,9 +5,8 @@
 #include "Utilities/olPlatform.h"
 #include "ui_olMirraPreferencesGUI.h"
 
-olMirraPreferencesGUIW::olMirraPreferencesGUIW() : m_form(std::make_unique<Ui::olMirraPreferencesGUI>())
+olMirraPreferencesGUIW::olMirraPreferencesGUIW()
 {
-    m_form->setupUi(this);
     m_form->setLocation->setIcon(olPlatform::getIcon(QLatin1String("FileOpen")));
     connect(m_form->setLocation, SIGNAL(clicked()), this, SLOT(clickedSetMirraLocation()));
 }

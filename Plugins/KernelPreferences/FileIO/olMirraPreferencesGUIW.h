@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,7 +8,7 @@ class olMirraPreferencesGUI;
 }
 
 /// The page of the Mirra settings.
-class olMirraPreferencesGUIW : public olPageWidget
+class olMirraPreferencesGUIW : public olFormPage<Ui::olMirraPreferencesGUI>
 {
     Q_OBJECT
 
@@ -18,11 +16,6 @@ public:
     olMirraPreferencesGUIW();
     ~olMirraPreferencesGUIW() override;
 
-    [[nodiscard]] const Ui::olMirraPreferencesGUI &form() const { return *m_form; }
-
 public slots:
     void clickedSetMirraLocation();
-
-private:
-    std::unique_ptr<Ui::olMirraPreferencesGUI> m_form;
 };

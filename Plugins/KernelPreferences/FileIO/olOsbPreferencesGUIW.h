@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,14 +8,11 @@ class olOsbPreferencesGUI;
 }
 
 /// The page of the native scene format, which tells that there is nothing to set.
-class olOsbPreferencesGUIW : public olPageWidget
+class olOsbPreferencesGUIW : public olFormPage<Ui::olOsbPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olOsbPreferencesGUIW();
     ~olOsbPreferencesGUIW() override;
-
-private:
-    std::unique_ptr<Ui::olOsbPreferencesGUI> m_form;
 };

@@ -15,9 +15,7 @@ constexpr float newTolerance = 0.1f;
 } // namespace
 
 olTesselationPreferencesGUIW::olTesselationPreferencesGUIW()
-    : m_form(std::make_unique<Ui::olTesselationPreferencesGUI>())
 {
-    m_form->setupUi(this);
     setQualities({});
 
     connect(m_form->qualities, SIGNAL(itemSelectionChanged()), this, SLOT(selectionChanged()));

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
+#include "Framework/olFormPage.h"
 
-#include <memory>
 #include <vector>
 
 class QTreeWidgetItem;
@@ -13,15 +12,13 @@ class olTesselationPreferencesGUI;
 }
 
 /// The page of the tessellation settings, with the list of qualities that is edited in place.
-class olTesselationPreferencesGUIW : public olPageWidget
+class olTesselationPreferencesGUIW : public olFormPage<Ui::olTesselationPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olTesselationPreferencesGUIW();
     ~olTesselationPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olTesselationPreferencesGUI &form() const { return *m_form; }
 
     /// The rows of the list from the top. What is set stands in the given order until the user sorts it.
     void setQualities(const std::vector<float> &tolerances);
@@ -32,7 +29,4 @@ public slots:
     void itemChanged(QTreeWidgetItem *item, int column);
     void clickedAdd();
     void clickedRemove();
-
-private:
-    std::unique_ptr<Ui::olTesselationPreferencesGUI> m_form;
 };

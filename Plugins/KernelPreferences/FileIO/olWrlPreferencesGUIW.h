@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,16 +8,11 @@ class olWrlPreferencesGUI;
 }
 
 /// The page of the VRML settings.
-class olWrlPreferencesGUIW : public olPageWidget
+class olWrlPreferencesGUIW : public olFormPage<Ui::olWrlPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olWrlPreferencesGUIW();
     ~olWrlPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olWrlPreferencesGUI &form() const { return *m_form; }
-
-private:
-    std::unique_ptr<Ui::olWrlPreferencesGUI> m_form;
 };

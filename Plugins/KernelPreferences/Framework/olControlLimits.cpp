@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QSpinBox>
+#include <QVariant>
 
 #include <cmath>
 #include <limits>
@@ -33,7 +34,21 @@ public:
     }
 };
 
-std::optional<int> kept(int decimals) { return decimals < 0 ? std::nullopt : std::optional<int>(decimals); }
+/// What a control tells of itself; a host's widgets need not have such a property.
+double told(const QWidget &control, const char *property, double otherwise)
+{
+    const QVariant value = control.property(property);
+    return value.isValid() ? value.toDouble() : otherwise;
+}
+
+olControlLimits toldLimits(const QWidget &control, const char *lowest, const char *highest)
+{
+    const int decimals = int(told(control, "decimals", -1.0));
+    return {told(control, lowest, -unbounded),
+            told(control, highest, unbounded),
+            decimals < 0 ? std::nullopt : std::optional<int>(decimals),
+            {}};
+}
 
 template <class Box> void pushBounds(const olSettingTraits &traits, Box &box)
 {
@@ -48,12 +63,10 @@ template <class Box> void pushBounds(const olSettingTraits &traits, Box &box)
 
 olControlLimits olControlLimits::of(const QWidget &control)
 {
-    if (const auto *box = qobject_cast<const QSpinBox *>(&control))
-        return {double(box->minimum()), double(box->maximum()), {}, {}};
-    if (const auto *slider = qobject_cast<const QOLSlider *>(&control))
-        return {slider->minimum(), slider->maximum(), kept(slider->decimals()), {}};
-    if (const auto *wheel = qobject_cast<const QOLWheelPrec *>(&control))
-        return {wheel->minimum(), wheel->maximum(), kept(wheel->decimals()), {}};
+    if (qobject_cast<const QSpinBox *>(&control) || qobject_cast<const QOLWheelPrec *>(&control))
+        return toldLimits(control, "minimum", "maximum");
+    if (qobject_cast<const QOLSlider *>(&control))
+        return toldLimits(control, "hardMinValue", "hardMaxValue");
     if (qobject_cast<const QOLColorManipulator *>(&control))
         return {0.0, 1.0, {}, {}};
     if (const auto *field = qobject_cast<const QLineEdit *>(&control)) {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,16 +8,11 @@ class olCameraPreferencesGUI;
 }
 
 /// The page of the camera settings.
-class olCameraPreferencesGUIW : public olPageWidget
+class olCameraPreferencesGUIW : public olFormPage<Ui::olCameraPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olCameraPreferencesGUIW();
     ~olCameraPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olCameraPreferencesGUI &form() const { return *m_form; }
-
-private:
-    std::unique_ptr<Ui::olCameraPreferencesGUI> m_form;
 };

@@ -2,9 +2,6 @@
 
 #include "ui_olDevicesPreferencesGUI.h"
 
-olDevicesPreferencesGUIW::olDevicesPreferencesGUIW() : m_form(std::make_unique<Ui::olDevicesPreferencesGUI>())
-{
-    m_form->setupUi(this);
-}
+olDevicesPreferencesGUIW::olDevicesPreferencesGUIW() = default;
 
 olDevicesPreferencesGUIW::~olDevicesPreferencesGUIW() = default;

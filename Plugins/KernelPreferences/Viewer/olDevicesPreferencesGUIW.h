@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,16 +8,11 @@ class olDevicesPreferencesGUI;
 }
 
 /// The page of the device settings.
-class olDevicesPreferencesGUIW : public olPageWidget
+class olDevicesPreferencesGUIW : public olFormPage<Ui::olDevicesPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olDevicesPreferencesGUIW();
     ~olDevicesPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olDevicesPreferencesGUI &form() const { return *m_form; }
-
-private:
-    std::unique_ptr<Ui::olDevicesPreferencesGUI> m_form;
 };

@@ -12,9 +12,8 @@ constexpr int simpleToolclips = 1;
 
 } // namespace
 
-olHelpPreferencesGUIW::olHelpPreferencesGUIW() : m_form(std::make_unique<Ui::olHelpPreferencesGUI>())
+olHelpPreferencesGUIW::olHelpPreferencesGUIW()
 {
-    m_form->setupUi(this);
     const QSize iconSize(olPlatform::getMediumIconSizeX(), olPlatform::getMediumIconSizeY());
     m_form->browsePath->setIcon(olPlatform::getIcon(QLatin1String("FileOpen")));
     m_form->browsePath->setIconSize(iconSize);

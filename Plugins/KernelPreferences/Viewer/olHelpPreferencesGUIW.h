@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,15 +8,13 @@ class olHelpPreferencesGUI;
 }
 
 /// The page of the help settings.
-class olHelpPreferencesGUIW : public olPageWidget
+class olHelpPreferencesGUIW : public olFormPage<Ui::olHelpPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olHelpPreferencesGUIW();
     ~olHelpPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olHelpPreferencesGUI &form() const { return *m_form; }
 
 public slots:
     /// The path is only wanted for installed help.
@@ -29,7 +25,4 @@ public slots:
 
     /// Tells over the box what the chosen kind of help looks like.
     void indexChangedPopup(int);
-
-private:
-    std::unique_ptr<Ui::olHelpPreferencesGUI> m_form;
 };

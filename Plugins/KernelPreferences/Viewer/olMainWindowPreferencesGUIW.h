@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,16 +8,11 @@ class olMainWindowPreferencesGUI;
 }
 
 /// The page of the main window settings.
-class olMainWindowPreferencesGUIW : public olPageWidget
+class olMainWindowPreferencesGUIW : public olFormPage<Ui::olMainWindowPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olMainWindowPreferencesGUIW();
     ~olMainWindowPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olMainWindowPreferencesGUI &form() const { return *m_form; }
-
-private:
-    std::unique_ptr<Ui::olMainWindowPreferencesGUI> m_form;
 };

@@ -5,10 +5,8 @@
 
 #include <algorithm>
 
-olMarkerPreferencesGUIW::olMarkerPreferencesGUIW() : m_form(std::make_unique<Ui::olMarkerPreferencesGUI>())
+olMarkerPreferencesGUIW::olMarkerPreferencesGUIW()
 {
-    m_form->setupUi(this);
-
     // Essentials selects in one way only; how that shows remains the user's choice.
     m_form->selectionModes->setVisible(!olController::isOrloEssentials());
 

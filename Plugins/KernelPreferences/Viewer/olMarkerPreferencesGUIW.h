@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,7 +8,7 @@ class olMarkerPreferencesGUI;
 }
 
 /// The page of the selection settings.
-class olMarkerPreferencesGUIW : public olPageWidget
+class olMarkerPreferencesGUIW : public olFormPage<Ui::olMarkerPreferencesGUI>
 {
     Q_OBJECT
 
@@ -18,12 +16,7 @@ public:
     olMarkerPreferencesGUIW();
     ~olMarkerPreferencesGUIW() override;
 
-    [[nodiscard]] const Ui::olMarkerPreferencesGUI &form() const { return *m_form; }
-
 public slots:
     /// Previews the colour on the page.
     void changedSelectionColor(float red, float green, float blue);
-
-private:
-    std::unique_ptr<Ui::olMarkerPreferencesGUI> m_form;
 };

@@ -33,9 +33,8 @@ constexpr std::array<Preset, 3> presets = {{
 
 } // namespace
 
-olNavigatorPreferencesGUIW::olNavigatorPreferencesGUIW() : m_form(std::make_unique<Ui::olNavigatorPreferencesGUI>())
+olNavigatorPreferencesGUIW::olNavigatorPreferencesGUIW()
 {
-    m_form->setupUi(this);
     if (olController::isOrloEssentials())
         hideRow(*m_form->autoCenter);
 

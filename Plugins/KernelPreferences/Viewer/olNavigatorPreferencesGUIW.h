@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,15 +8,13 @@ class olNavigatorPreferencesGUI;
 }
 
 /// The page of the navigation settings.
-class olNavigatorPreferencesGUIW : public olPageWidget
+class olNavigatorPreferencesGUIW : public olFormPage<Ui::olNavigatorPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olNavigatorPreferencesGUIW();
     ~olNavigatorPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olNavigatorPreferencesGUI &form() const { return *m_form; }
 
     /// Enables and disables what depends on other controls, by what these hold now.
     void updateEnabling();
@@ -34,6 +30,4 @@ private:
     void fillCombos();
     void connectRules();
     void updatePanning();
-
-    std::unique_ptr<Ui::olNavigatorPreferencesGUI> m_form;
 };

@@ -27,9 +27,7 @@ QSize scaled(const QSize &size)
 } // namespace
 
 olRenderOptionsPreferencesGUIW::olRenderOptionsPreferencesGUIW()
-    : m_form(std::make_unique<Ui::olRenderOptionsPreferencesGUI>())
 {
-    m_form->setupUi(this);
     fillSampleCombos();
     hideWithheldControls();
     adaptToEdition();

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 class QOLColorDialog;
 
@@ -12,15 +10,13 @@ class olRenderOptionsPreferencesGUI;
 }
 
 /// The page of the render options, spread over tabs. Which of its controls are offered depends on the edition.
-class olRenderOptionsPreferencesGUIW : public olPageWidget
+class olRenderOptionsPreferencesGUIW : public olFormPage<Ui::olRenderOptionsPreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olRenderOptionsPreferencesGUIW();
     ~olRenderOptionsPreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olRenderOptionsPreferencesGUI &form() const { return *m_form; }
 
 public slots:
     void clickedAdd();
@@ -37,6 +33,5 @@ private:
     void setUpBackground();
     QOLColorDialog &colorDialog();
 
-    std::unique_ptr<Ui::olRenderOptionsPreferencesGUI> m_form;
     QOLColorDialog *m_colorDialog = nullptr;
 };

@@ -3,10 +3,7 @@
 #include "ui_olVirtualRealityPreferencesGUI.h"
 
 olVirtualRealityPreferencesGUIW::olVirtualRealityPreferencesGUIW()
-    : m_form(std::make_unique<Ui::olVirtualRealityPreferencesGUI>())
 {
-    m_form->setupUi(this);
-
     connect(m_form->renderMode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &olVirtualRealityPreferencesGUIW::followRenderMode);
     followRenderMode();

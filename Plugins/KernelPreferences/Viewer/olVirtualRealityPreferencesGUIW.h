@@ -1,8 +1,6 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
-
-#include <memory>
+#include "Framework/olFormPage.h"
 
 namespace Ui
 {
@@ -10,7 +8,7 @@ class olVirtualRealityPreferencesGUI;
 }
 
 /// The page of the immersive sessions' and the headset's settings. Only what the chosen render mode uses can be edited.
-class olVirtualRealityPreferencesGUIW : public olPageWidget
+class olVirtualRealityPreferencesGUIW : public olFormPage<Ui::olVirtualRealityPreferencesGUI>
 {
     Q_OBJECT
 
@@ -18,11 +16,6 @@ public:
     olVirtualRealityPreferencesGUIW();
     ~olVirtualRealityPreferencesGUIW() override;
 
-    [[nodiscard]] const Ui::olVirtualRealityPreferencesGUI &form() const { return *m_form; }
-
 public slots:
     void followRenderMode();
-
-private:
-    std::unique_ptr<Ui::olVirtualRealityPreferencesGUI> m_form;
 };

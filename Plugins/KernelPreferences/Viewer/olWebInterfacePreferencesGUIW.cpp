@@ -6,11 +6,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-olWebInterfacePreferencesGUIW::olWebInterfacePreferencesGUIW()
-    : m_form(std::make_unique<Ui::olWebInterfacePreferencesGUI>())
-{
-    m_form->setupUi(this);
-}
+olWebInterfacePreferencesGUIW::olWebInterfacePreferencesGUIW() = default;
 
 olWebInterfacePreferencesGUIW::~olWebInterfacePreferencesGUIW() = default;
 

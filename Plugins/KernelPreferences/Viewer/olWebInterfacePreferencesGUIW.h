@@ -1,9 +1,7 @@
 #pragma once
 
-#include "Framework/olPageWidget.h"
+#include "Framework/olFormPage.h"
 #include "Framework/olSettingTraits.h"
-
-#include <memory>
 
 namespace Ui
 {
@@ -12,15 +10,13 @@ class olWebInterfacePreferencesGUI;
 
 /// The page of the web server's settings. Switching the server on must be confirmed, and the two ways of restricting
 /// it exclude each other.
-class olWebInterfacePreferencesGUIW : public olPageWidget
+class olWebInterfacePreferencesGUIW : public olFormPage<Ui::olWebInterfacePreferencesGUI>
 {
     Q_OBJECT
 
 public:
     olWebInterfacePreferencesGUIW();
     ~olWebInterfacePreferencesGUIW() override;
-
-    [[nodiscard]] const Ui::olWebInterfacePreferencesGUI &form() const { return *m_form; }
 
     /// What is asked before the server is switched on.
     [[nodiscard]] static olWarning enablingQuestion();
@@ -54,7 +50,6 @@ public slots:
 private:
     [[nodiscard]] bool confirmsServer();
 
-    std::unique_ptr<Ui::olWebInterfacePreferencesGUI> m_form;
     bool m_neverAsks = false;
     bool m_isFilling = false;
 };

@@ -7,26 +7,24 @@
 
 #include <QFile>
 
-using namespace olFormatTools;
-
 olModelFormat olColladaFormat();
 
 namespace
 {
 
-QString check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &)
 {
-    return file.read(1 << 16).contains("<COLLADA") ? QString() : olReason::tr("this is no COLLADA file");
+    return file.read(1 << 16).contains("<COLLADA") ? olResult<>() : olFailure{olReason::tr("this is no COLLADA file")};
 }
 
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                QStringList &remarks)
 {
     // The library makes metres of all units, and turns what stands otherwise.
-    olAssimpReader::Manner manner;
-    manner.unit = 1000;
-    manner.isYUp = true;
-    return olAssimpReader::read(job, manner, document, progress, remarks);
+    olAssimpReader::Conventions conventions;
+    conventions.unit = 1000;
+    conventions.isYUp = true;
+    return olAssimpReader::read(job, conventions, document, progress, remarks);
 }
 
 } // namespace

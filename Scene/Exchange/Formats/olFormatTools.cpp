@@ -9,13 +9,16 @@
 #include <QFile>
 #include <QFileInfo>
 
-QString olFormatTools::cutOff() { return olReason::tr("the file is cut off or damaged"); }
+olFailure olFormatTools::cutOff() { return {olReason::tr("the file is cut off or damaged")}; }
 
-QString olFormatTools::damaged() { return olReason::tr("the file is damaged or of another format"); }
+olFailure olFormatTools::damaged() { return {olReason::tr("the file is damaged or of another format")}; }
 
-QString olFormatTools::incomplete(const Handle(Interface_InterfaceModel) & model,
-                                  const std::function<bool(const Handle(Standard_Transient) & entity)> &mustBeWhole,
-                                  QStringList &remarks)
+olFailure olFormatTools::untaken() { return {olReason::tr("its content cannot be taken over")}; }
+
+olResult<>
+olFormatTools::checkEntities(const Handle(Interface_InterfaceModel) & model,
+                             const std::function<bool(const Handle(Standard_Transient) & entity)> &mustBeWhole,
+                             QStringList &remarks)
 {
     QStringList others;
     for (int number = 1; number <= model->NbEntities(); ++number) {
@@ -32,9 +35,9 @@ QString olFormatTools::incomplete(const Handle(Interface_InterfaceModel) & model
     return {};
 }
 
-QString olFormatTools::incomplete(const QString &entry)
+olFailure olFormatTools::incomplete(const QString &entry)
 {
-    return olReason::tr("the file is damaged: %1 lacks what it is made of").arg(entry);
+    return {olReason::tr("the file is damaged: %1 lacks what it is made of").arg(entry)};
 }
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }

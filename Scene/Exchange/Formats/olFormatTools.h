@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Exchange/olImportJob.h"
+#include "State/olResult.h"
 
 #include <Interface_InterfaceModel.hxx>
 #include <TCollection_AsciiString.hxx>
@@ -26,15 +27,16 @@ namespace olFormatTools
 {
 
 /// Reasons that are told by several.
-[[nodiscard]] QString cutOff();
-[[nodiscard]] QString damaged();
+[[nodiscard]] olFailure cutOff();
+[[nodiscard]] olFailure damaged();
+[[nodiscard]] olFailure untaken();
+[[nodiscard]] olFailure incomplete(const QString &entry);
 
-/// Why what the library has read cannot be taken over: it crashes over some kinds of entities that lack something they
-/// are made of. An empty text where none does; whatever else is not as it should be becomes a remark.
-[[nodiscard]] QString incomplete(const Handle(Interface_InterfaceModel) & model,
-                                 const std::function<bool(const Handle(Standard_Transient) & entity)> &mustBeWhole,
-                                 QStringList &remarks);
-[[nodiscard]] QString incomplete(const QString &entry);
+/// Whether what the library has read can be taken over: it crashes over some kinds of entities that lack something they
+/// are made of. Whatever else is not as it should be becomes a remark.
+olResult<> checkEntities(const Handle(Interface_InterfaceModel) & model,
+                         const std::function<bool(const Handle(Standard_Transient) & entity)> &mustBeWhole,
+                         QStringList &remarks);
 
 /// The name as the library wants it: the bytes that the system has.
 [[nodiscard]] TCollection_AsciiString path(const QString &file);

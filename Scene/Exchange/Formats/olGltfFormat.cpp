@@ -60,7 +60,7 @@ double elementSize(const QJsonObject &accessor)
 /// Numbers of a file can be larger than any integer, so they are compared as they stand.
 double value(const QJsonObject &object, const char *key) { return object.value(QLatin1String(key)).toDouble(); }
 
-QString bufferFault(const QJsonObject &buffer, const QDir &folder)
+olResult<> checkBuffer(const QJsonObject &buffer, const QDir &folder)
 {
     const QString uri = buffer.value(QLatin1String("uri")).toString();
     if (uri.isEmpty() || uri.startsWith(QLatin1String("data:")))
@@ -68,14 +68,14 @@ QString bufferFault(const QJsonObject &buffer, const QDir &folder)
     const QString name = QFile::decodeName(QByteArray::fromPercentEncoding(uri.toUtf8()));
     const QFileInfo info(olFormatTools::fileIn(folder, name));
     if (!info.isFile() || !info.isReadable())
-        return olReason::tr("the file %1 that it refers to cannot be read").arg(name);
-    return double(info.size()) < value(buffer, "byteLength")
-               ? olReason::tr("the file %1 that it refers to is cut off").arg(name)
-               : QString();
+        return olFailure{olReason::tr("the file %1 that it refers to cannot be read").arg(name)};
+    if (double(info.size()) < value(buffer, "byteLength"))
+        return olFailure{olReason::tr("the file %1 that it refers to is cut off").arg(name)};
+    return {};
 }
 
 /// What a file may require of its reader. The rest would be read, but wrongly.
-QString extensionFault(const QJsonObject &model)
+olResult<> checkExtensions(const QJsonObject &model)
 {
     static const QStringList known{QStringLiteral("KHR_draco_mesh_compression"),
                                    QStringLiteral("KHR_lights_punctual"),
@@ -95,13 +95,13 @@ QString extensionFault(const QJsonObject &model)
     const QJsonArray required = model.value(QLatin1String("extensionsRequired")).toArray();
     for (const QJsonValue &each : required) {
         if (!known.contains(each.toString()))
-            return olReason::tr("it requires the extension %1, which is not supported").arg(each.toString());
+            return olFailure{olReason::tr("it requires the extension %1, which is not supported").arg(each.toString())};
     }
     return {};
 }
 
 /// Nodes below nodes, which must come to an end.
-QString nestingFault(const QJsonObject &model)
+olResult<> checkNesting(const QJsonObject &model)
 {
     constexpr int deepest = 200;
     const QJsonArray nodes = model.value(QLatin1String("nodes")).toArray();
@@ -111,7 +111,7 @@ QString nestingFault(const QJsonObject &model)
         for (const QJsonValue &child : children) {
             const int number = child.toInt(-1);
             if (number < 0 || number >= nodes.size())
-                return olReason::tr("the file is damaged: a node refers to one that is not there");
+                return olFailure{olReason::tr("the file is damaged: a node refers to one that is not there")};
             parents[std::size_t(number)] = index;
         }
     }
@@ -119,30 +119,31 @@ QString nestingFault(const QJsonObject &model)
         int depth = 0;
         for (int up = node; up >= 0; up = parents[std::size_t(up)]) {
             if (++depth > deepest)
-                return olReason::tr("its groups are nested too deeply");
+                return olFailure{olReason::tr("its groups are nested too deeply")};
         }
     }
     return {};
 }
 
-QString contentFault(const QJsonObject &model, const QDir &folder)
+olResult<> checkContent(const QJsonObject &model, const QDir &folder)
 {
-    for (const QString &fault : {extensionFault(model), nestingFault(model)}) {
-        if (!fault.isEmpty())
-            return fault;
+    for (const auto check : {checkExtensions, checkNesting}) {
+        const olResult<> checked = check(model);
+        if (!checked.isOk())
+            return checked;
     }
     const QJsonArray buffers = model.value(QLatin1String("buffers")).toArray();
     const QJsonArray views = model.value(QLatin1String("bufferViews")).toArray();
     for (const QJsonValue &buffer : buffers) {
-        const QString fault = bufferFault(buffer.toObject(), folder);
-        if (!fault.isEmpty())
-            return fault;
+        const olResult<> checked = checkBuffer(buffer.toObject(), folder);
+        if (!checked.isOk())
+            return checked;
     }
     for (const QJsonValue &each : views) {
         const QJsonObject view = each.toObject();
         const QJsonObject buffer = buffers.at(int(value(view, "buffer"))).toObject();
         if (value(view, "byteOffset") + value(view, "byteLength") > value(buffer, "byteLength"))
-            return olReason::tr("the file is damaged: a part of it lies beyond its end");
+            return olFailure{olReason::tr("the file is damaged: a part of it lies beyond its end")};
     }
     const QJsonArray accessors = model.value(QLatin1String("accessors")).toArray();
     for (const QJsonValue &each : accessors) {
@@ -152,45 +153,44 @@ QString contentFault(const QJsonObject &model, const QDir &folder)
         const QJsonObject view = views.at(accessor.value(QLatin1String("bufferView")).toInt(-1)).toObject();
         const double needed = value(accessor, "byteOffset") + value(accessor, "count") * elementSize(accessor);
         if (needed > value(view, "byteLength"))
-            return olReason::tr("the file is damaged: it announces more than it holds");
+            return olFailure{olReason::tr("the file is damaged: it announces more than it holds")};
     }
     return {};
 }
 
-QString modelFault(const QByteArray &text, const QString &file)
+olResult<> checkModel(const QByteArray &text, const QString &file)
 {
     QJsonParseError error{};
     const QJsonDocument model = QJsonDocument::fromJson(text, &error);
     if (error.error == QJsonParseError::NoError)
-        return contentFault(model.object(), QFileInfo(file).absoluteDir());
+        return checkContent(model.object(), QFileInfo(file).absoluteDir());
     // The parser has a limit of its own, which the reader does not share.
-    return error.error == QJsonParseError::DocumentTooLarge ? QString()
-                                                            : olReason::tr("the file is cut off or damaged");
+    return error.error == QJsonParseError::DocumentTooLarge ? olResult<>() : olFormatTools::cutOff();
 }
 
-QString check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &)
 {
     const QByteArray head = file.read(binaryHead + chunkHead);
     if (!head.startsWith("glTF")) {
         file.seek(0);
-        return head.trimmed().startsWith('{') ? modelFault(file.readAll(), file.fileName())
-                                              : olReason::tr("this is no glTF file");
+        return head.trimmed().startsWith('{') ? checkModel(file.readAll(), file.fileName())
+                                              : olFailure{olReason::tr("this is no glTF file")};
     }
     if (head.size() < binaryHead + chunkHead || file.size() < number(head, 8) ||
         file.size() < qint64(binaryHead + chunkHead) + number(head, binaryHead))
-        return olReason::tr("the file is cut off or damaged");
-    return modelFault(file.read(number(head, binaryHead)), file.fileName());
+        return olFormatTools::cutOff();
+    return checkModel(file.read(number(head, binaryHead)), file.fileName());
 }
 
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                QStringList &remarks)
 {
-    olAssimpReader::Manner manner;
-    manner.unit = 1000;
-    manner.isYUp = true;
-    manner.isLinear = true;
-    manner.hasOwnRoot = true;
-    return olAssimpReader::read(job, manner, document, progress, remarks);
+    olAssimpReader::Conventions conventions;
+    conventions.unit = 1000;
+    conventions.isYUp = true;
+    conventions.isLinear = true;
+    conventions.hasOwnRoot = true;
+    return olAssimpReader::read(job, conventions, document, progress, remarks);
 }
 
 QJsonArray arrayOf(std::initializer_list<double> values)

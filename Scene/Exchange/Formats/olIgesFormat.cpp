@@ -159,11 +159,11 @@ private:
     QByteArray m_terminate;
 };
 
-QString check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &)
 {
     const QByteArray first = file.readLine(256);
     if (first.size() < 73 || (first.at(72) != 'S' && first.at(72) != 'C' && first.at(72) != 'B'))
-        return olReason::tr("this is no IGES file");
+        return olFailure{olReason::tr("this is no IGES file")};
     file.seek(0);
     Lines lines;
     for (int number = 1; !file.atEnd(); ++number) {
@@ -171,13 +171,14 @@ QString check(QFile &file, QStringList &)
         while (line.endsWith('\n') || line.endsWith('\r'))
             line.chop(1);
         if (!line.trimmed().isEmpty() && !lines.take(line))
-            return olReason::tr("the file is damaged in line %1").arg(number);
+            return olFailure{olReason::tr("the file is damaged in line %1").arg(number)};
     }
     if (!lines.isWhole())
         return cutOff();
     const int dangling = lines.danglingEntry();
     if (dangling > 0)
-        return olReason::tr("the file is damaged: its entry D%1 refers to another that is not there").arg(dangling);
+        return olFailure{
+            olReason::tr("the file is damaged: its entry D%1 refers to another that is not there").arg(dangling)};
     return {};
 }
 
@@ -206,8 +207,8 @@ bool mustBeWhole(const Handle(Standard_Transient) & entity)
     return hundreds == 1 || hundreds == 5;
 }
 
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                QStringList &remarks)
 {
     IGESControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
@@ -218,13 +219,13 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     reader.SetReadVisible(!job.options.importInvisibleSurfaces && !job.options.importInvisibleCurves);
     if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
         return damaged();
-    const QString fault = incomplete(reader.WS()->Model(), mustBeWhole, remarks);
-    if (!fault.isEmpty())
-        return fault;
+    const olResult<> whole = checkEntities(reader.WS()->Model(), mustBeWhole, remarks);
+    if (!whole.isOk())
+        return whole;
     olScene::Document target = document;
     const bool isTaken = reader.Transfer(target, progress);
     remarkLost(reader, remarks);
-    return isTaken ? QString() : olReason::tr("its content cannot be taken over");
+    return isTaken ? olResult<>() : untaken();
 }
 
 /// Takes the instances of a document apart.

@@ -43,8 +43,7 @@ bool isNumber(const QByteArray &text)
 class Lines
 {
 public:
-    /// What is wrong with a line, empty where nothing is.
-    QString take(const QByteArray &line)
+    olResult<> take(const QByteArray &line)
     {
         const QList<QByteArray> words = line.simplified().split(' ');
         const QByteArray &kind = words.first();
@@ -65,24 +64,24 @@ public:
     [[nodiscard]] bool endsWithPoints() const { return m_points > m_highest; }
 
 private:
-    static QString count(qint64 &number, const QList<QByteArray> &words, int needed)
+    static olResult<> count(qint64 &number, const QList<QByteArray> &words, int needed)
     {
         ++number;
         for (int index = 1; index <= needed; ++index) {
             if (index >= words.size() || !isNumber(words.at(index)))
-                return olReason::tr("a point lacks a coordinate");
+                return olFailure{olReason::tr("a point lacks a coordinate")};
         }
         return {};
     }
 
-    QString face(const QList<QByteArray> &words)
+    olResult<> face(const QList<QByteArray> &words)
     {
         if (words.size() < 4)
-            return olReason::tr("a face has fewer than three corners");
+            return olFailure{olReason::tr("a face has fewer than three corners")};
         for (int index = 1; index < words.size(); ++index) {
             const QList<QByteArray> corner = words.at(index).split('/');
             if (!refers(corner, 0, m_points) || !refers(corner, 1, m_textures) || !refers(corner, 2, m_normals))
-                return olReason::tr("a face refers to a point that is not there");
+                return olFailure{olReason::tr("a face refers to a point that is not there")};
         }
         return {};
     }
@@ -108,7 +107,7 @@ private:
     QString m_materials;
 };
 
-QString check(QFile &file, QStringList &remarks)
+olResult<> check(QFile &file, QStringList &remarks)
 {
     Lines lines;
     bool endsWithLine = true;
@@ -118,13 +117,14 @@ QString check(QFile &file, QStringList &remarks)
         while (line.endsWith("\\\n") || line.endsWith("\\\r\n"))
             line = line.left(line.lastIndexOf('\\')) + ' ' + file.readLine();
         if (line.contains('\0'))
-            return olReason::tr("this is no OBJ file");
-        const QString fault = lines.take(line);
-        if (!fault.isEmpty())
-            return olReason::tr("the file is cut off or damaged: in line %1 %2").arg(number).arg(fault);
+            return olFailure{olReason::tr("this is no OBJ file")};
+        const olResult<> taken = lines.take(line);
+        if (!taken.isOk())
+            return olFailure{
+                olReason::tr("the file is cut off or damaged: in line %1 %2").arg(number).arg(taken.error())};
     }
     if (!endsWithLine && lines.endsWithPoints())
-        return olReason::tr("the file is cut off or damaged: it ends within its points");
+        return olFailure{olReason::tr("the file is cut off or damaged: it ends within its points")};
     if (lines.endsWithPoints())
         remarks << olReason::tr("The model ends with points that no face uses; the file may be cut off.");
     const QString materials = lines.materials();
@@ -135,14 +135,8 @@ QString check(QFile &file, QStringList &remarks)
                              return QFileInfo::exists(olFormatTools::fileIn(folder, word));
                          });
     if (!materials.isEmpty() && !isThere)
-        remarks << olReason::tr("The materials file %1 is not there; the model has no colours.").arg(materials);
+        remarks << olReason::tr("The materials file %1 is not there; the model has no colors.").arg(materials);
     return {};
-}
-
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
-{
-    return olAssimpReader::read(job, {}, document, progress, remarks);
 }
 
 /// Names end with their line, and blanks around them do not count.
@@ -291,6 +285,6 @@ olModelFormat olObjFormat()
             olModelFormat::Meshes | olModelFormat::Colors | olModelFormat::Opacity | olModelFormat::Textures |
                 olModelFormat::CornerColors | olModelFormat::Names,
             check,
-            read,
+            olAssimpReader::read,
             write};
 }

@@ -2,33 +2,28 @@
 #include "Exchange/olAssimpReader.h"
 #include "Exchange/olModelFormat.h"
 
-#include <Message_ProgressRange.hxx>
-#include <TDocStd_Document.hxx>
-
 #include <QFile>
-
-using namespace olFormatTools;
 
 olModelFormat olOffFormat();
 
 namespace
 {
 
-QString check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &)
 {
     const QByteArray head = file.readLine(256);
-    return head.contains("OFF") ? QString() : olReason::tr("this is no OFF file");
-}
-
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
-{
-    return olAssimpReader::read(job, {}, document, progress, remarks);
+    return head.contains("OFF") ? olResult<>() : olFailure{olReason::tr("this is no OFF file")};
 }
 
 } // namespace
 
 olModelFormat olOffFormat()
 {
-    return {"OFF", "OFF", {QStringLiteral("off")}, olModelFormat::Meshes | olModelFormat::Colors, check, read, nullptr};
+    return {"OFF",
+            "OFF",
+            {QStringLiteral("off")},
+            olModelFormat::Meshes | olModelFormat::Colors,
+            check,
+            olAssimpReader::read,
+            nullptr};
 }

@@ -59,20 +59,20 @@ class Instances
 public:
     explicit Instances(const QByteArray &text) : m_at(text.constData()), m_end(text.constData() + text.size()) {}
 
-    /// What is wrong, in half a sentence.
-    QString fault()
+    olResult<> check()
     {
         while (m_at < m_end && !m_isEnded) {
-            const QString found = statement();
-            if (!found.isEmpty())
-                return found;
+            const olResult<> checked = statement();
+            if (!checked.isOk())
+                return checked;
         }
         if (!m_isEnded)
             return cutOff();
         std::sort(m_defined.begin(), m_defined.end());
         for (const auto &[from, to] : m_references) {
             if (!std::binary_search(m_defined.begin(), m_defined.end(), to))
-                return olReason::tr("the file is damaged: #%1 refers to #%2, which is not there").arg(from).arg(to);
+                return olFailure{
+                    olReason::tr("the file is damaged: #%1 refers to #%2, which is not there").arg(from).arg(to)};
         }
         return {};
     }
@@ -82,7 +82,7 @@ public:
 
 private:
     /// Up to the semicolon.
-    QString statement()
+    olResult<> statement()
     {
         constexpr int deepest = 500;
         int depth = 0;
@@ -98,7 +98,7 @@ private:
                 m_at = std::search(m_at + 2, m_end, close, close + 2) + 1;
             } else if (*m_at == '(') {
                 if (++depth > deepest)
-                    return olReason::tr("the file is damaged: its parentheses are nested too deeply");
+                    return olFailure{olReason::tr("the file is damaged: its parentheses are nested too deeply")};
                 if (lacksContent(start, keyword))
                     return incomplete(QLatin1Char('#') + QString::number(number));
             } else if (*m_at == ')') {
@@ -116,9 +116,9 @@ private:
             if (!start && static_cast<unsigned char>(*m_at) > ' ' && *m_at != '/')
                 start = m_at;
         }
-        if (m_at >= m_end)
-            return start ? cutOff() : QString();
-        if (depth != 0)
+        if (m_at >= m_end && !start)
+            return {};
+        if (m_at >= m_end || depth != 0)
             return cutOff();
         if (isDefinition)
             m_defined.push_back(number);
@@ -184,17 +184,17 @@ private:
     std::vector<std::pair<quint64, quint64>> m_references;
 };
 
-QString check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &)
 {
     const uchar *bytes = file.map(0, file.size());
     if (!bytes)
-        return file.errorString();
+        return olFailure{file.errorString()};
     const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
     if (!text.left(4096).contains("ISO-10303-21"))
-        return olReason::tr("this is no STEP file");
-    const QString fault = Instances(text).fault();
+        return olFailure{olReason::tr("this is no STEP file")};
+    olResult<> checked = Instances(text).check();
     file.unmap(const_cast<uchar *>(bytes));
-    return fault;
+    return checked;
 }
 
 /// The file up to its end without what signs it, in blocks, so that one sees how far the library is.
@@ -297,8 +297,8 @@ void remarkLost(const STEPCAFControl_Reader &reader, QStringList &remarks)
         remarks << olReason::tr("Bodies that cannot be understood and are left out: %1.").arg(listed(bodies));
 }
 
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                QStringList &remarks)
 {
     STEPCAFControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
@@ -311,21 +311,21 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     QFile file(job.fileToRead());
     const uchar *bytes = file.open(QIODevice::ReadOnly) ? file.map(0, file.size()) : nullptr;
     if (!bytes)
-        return file.errorString();
+        return olFailure{file.errorString()};
     const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
     Instances instances(text);
-    (void)instances.fault();
+    (void)instances.check();
     Message_ProgressScope scope(progress, "STEP", 10);
     Source source(text.constData(), std::size_t(instances.end() - text.constData()), scope.Next(2));
     std::istream stream(&source);
     if (reader.ChangeReader().ReadStream(path(job.fileToRead()).ToCString(), stream) != IFSelect_RetDone)
         return damaged();
-    const QString fault = incomplete(reader.Reader().WS()->Model(), mustBeWhole, remarks);
-    if (!fault.isEmpty())
-        return fault;
+    const olResult<> whole = checkEntities(reader.Reader().WS()->Model(), mustBeWhole, remarks);
+    if (!whole.isOk())
+        return whole;
     olScene::Document target = document;
     if (!reader.Transfer(target, scope.Next(8)))
-        return olReason::tr("its content cannot be taken over");
+        return untaken();
     nameNumberedInstances(document);
     remarkLost(reader, remarks);
     return {};

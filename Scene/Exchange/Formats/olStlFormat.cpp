@@ -56,7 +56,7 @@ bool isText(const QByteArray &start)
     return words.startsWith("solid") && (words.contains("facet") || words.contains("endsolid"));
 }
 
-QString check(QFile &file, QStringList &remarks)
+olResult<> check(QFile &file, QStringList &remarks)
 {
     const QByteArray start = file.read(4096);
     // Some programs begin binary files with the word that begins text.
@@ -70,8 +70,8 @@ QString check(QFile &file, QStringList &remarks)
         }
     }
     if (isText(start))
-        return tailOf(file).toLower().contains("endsolid") ? QString() : cutOff();
-    return start.size() < binaryHead ? olReason::tr("this is no STL file") : cutOff();
+        return tailOf(file).toLower().contains("endsolid") ? olResult<>() : cutOff();
+    return start.size() < binaryHead ? olFailure{olReason::tr("this is no STL file")} : cutOff();
 }
 
 /// Corners that lie in one place become one node.
@@ -236,10 +236,13 @@ bool readFacet(Words &words, Solid &solid)
     return isGood;
 }
 
-QString readText(const QByteArray &text, std::vector<Solid> &solids, Message_ProgressScope &scope, QStringList &remarks)
+olResult<> readText(const QByteArray &text, std::vector<Solid> &solids, Message_ProgressScope &scope,
+                    QStringList &remarks)
 {
     Words words(text);
-    const auto damagedHere = [&] { return olReason::tr("the file is damaged in line %1").arg(words.line(text)); };
+    const auto damagedHere = [&] {
+        return olFailure{olReason::tr("the file is damaged in line %1").arg(words.line(text))};
+    };
     std::size_t told = words.left();
     for (std::string_view word = words.next(); !word.empty(); word = words.next()) {
         const bool isSolid = word.size() == 5 && QByteArray::fromRawData(word.data(), 5).toLower() == "solid";
@@ -293,15 +296,15 @@ Handle(Poly_Triangulation) meshOf(const Solid &solid)
     return mesh;
 }
 
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
-             QStringList &remarks)
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,
+                QStringList &remarks)
 {
     QFile file(job.fileToRead());
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return olFailure{file.errorString()};
     const uchar *bytes = file.map(0, file.size());
     if (!bytes)
-        return file.errorString();
+        return olFailure{file.errorString()};
     Message_ProgressScope scope(progress, "Triangles", 1);
     std::vector<Solid> solids;
     const bool isBinary = file.size() >= binaryHead &&
@@ -309,9 +312,9 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
     // Not more than an integer counts: the size of a file is checked before.
     const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
     if (!isBinary && isText(text.left(4096))) {
-        const QString fault = readText(text, solids, scope, remarks);
-        if (!fault.isEmpty())
-            return fault;
+        const olResult<> taken = readText(text, solids, scope, remarks);
+        if (!taken.isOk())
+            return taken;
     } else {
         solids.emplace_back();
         readBinary(bytes, solids.back(), scope);
@@ -329,7 +332,7 @@ QString read(const olImportJob &job, const olScene::Document &document, const Me
         parts.push_back({part, {}, solid.name});
     }
     if (parts.empty())
-        return olReason::tr("there is no geometry in it");
+        return olFailure{olReason::tr("there is no geometry in it")};
     if (solids.size() > 1)
         target.addGroup(name, parts);
     target.finish();

@@ -69,11 +69,12 @@ olModelFormat olVrmlFormat();
 namespace
 {
 
-QString check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &)
 {
     const QByteArray head = file.read(64);
-    return head.startsWith("#VRML V2") || head.startsWith("#VRML V1") ? QString()
-                                                                      : olReason::tr("this is no VRML file");
+    if (!head.startsWith("#VRML V2") && !head.startsWith("#VRML V1"))
+        return olFailure{olReason::tr("this is no VRML file")};
+    return {};
 }
 
 /// The first fault that Coin finds in a file; it goes on reading all the same, or not.
@@ -445,15 +446,15 @@ SoSeparator *readRoot(const QString &name, std::vector<QStringList> &links, bool
     return nullptr;
 }
 
-QString faultOfText()
+olFailure faultOfText()
 {
     static const QRegularExpression place(QStringLiteral("line (\\d+)"));
     const QString line = place.match(firstFault()).captured(1);
     const QString what = firstFault().section(QLatin1Char('\n'), 0, 0).section(QStringLiteral(": "), 1).trimmed();
     if (what.isEmpty())
         return damaged();
-    return line.isEmpty() ? olReason::tr("the file is damaged (%1)").arg(what)
-                          : olReason::tr("the file is damaged: line %1 cannot be understood (%2)").arg(line, what);
+    return {line.isEmpty() ? olReason::tr("the file is damaged (%1)").arg(what)
+                           : olReason::tr("the file is damaged: line %1 cannot be understood (%2)").arg(line, what)};
 }
 
 /// Builds a document from Coin's scene.
@@ -469,8 +470,7 @@ public:
         m_openFiles << QFileInfo(job.file).canonicalFilePath();
     }
 
-    /// What is wrong with it, in half a sentence.
-    QString run(const QString &file)
+    olResult<> run(const QString &file)
     {
         bool isOld = false;
         const Held<SoSeparator> held(readRoot(file, m_links, isOld, m_remarks));
@@ -490,7 +490,7 @@ public:
         if (m_lineSets > 0)
             m_remarks
                 << olReason::tr("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
-        return m_fault;
+        return m_result;
     }
 
 private:
@@ -562,11 +562,11 @@ private:
 
     void add(SoNode *node, const gp_Mat &rest, int depth, Members &members)
     {
-        if (!node || !m_fault.isEmpty())
+        if (!node || !m_result.isOk())
             return;
         if (depth > deepest || m_open.count(node) > 0) {
-            m_fault = depth > deepest ? olReason::tr("its groups are nested too deeply")
-                                      : olReason::tr("a group in it holds itself");
+            m_result = olFailure{depth > deepest ? olReason::tr("its groups are nested too deeply")
+                                                 : olReason::tr("a group in it holds itself")};
             return;
         }
         const olMeshDocument::Placement placement =
@@ -623,7 +623,7 @@ private:
         if (!geometry)
             return {};
         if (!hasItsPoints(geometry)) {
-            m_fault = olReason::tr("the file is damaged: a face refers to a point that is not there");
+            m_result = olFailure{olReason::tr("the file is damaged: a face refers to a point that is not there")};
             return {};
         }
         SoNode *node = shape->appearance.getValue();
@@ -723,7 +723,7 @@ private:
         }
         const QString name = file.canonicalFilePath();
         if (m_openFiles.contains(name)) {
-            m_fault = olReason::tr("it refers to itself through %1").arg(url);
+            m_result = olFailure{olReason::tr("it refers to itself through %1").arg(url)};
             return nullptr;
         }
         if (SoSeparator *known = m_roots.value(name))
@@ -731,7 +731,7 @@ private:
         bool isOld = false;
         SoSeparator *content = readRoot(name, m_links, isOld, m_remarks);
         if (!content) {
-            m_fault = olReason::tr("the file %1 that it refers to cannot be read").arg(url);
+            m_result = olFailure{olReason::tr("the file %1 that it refers to cannot be read").arg(url)};
             return nullptr;
         }
         m_roots.insert(name, content);
@@ -792,7 +792,7 @@ private:
             return SoCallbackAction::CONTINUE;
         if (refersToPoints(static_cast<const SoIndexedShape &>(shape).coordIndex, at.getNumCoordinates()))
             return SoCallbackAction::CONTINUE;
-        m_fault = olReason::tr("the file is damaged: a face refers to a point that is not there");
+        m_result = olFailure{olReason::tr("the file is damaged: a face refers to a point that is not there")};
         return SoCallbackAction::ABORT;
     }
 
@@ -811,7 +811,7 @@ private:
     QString m_name;
     olMeshDocument m_target;
     QStringList &m_remarks;
-    QString m_fault;
+    olResult<> m_result;
     QStringList m_openFiles;
     QHash<QString, SoSeparator *> m_roots;
     QHash<SoVRMLAppearance *, Handle(Image_Texture)> m_bare;
@@ -824,8 +824,8 @@ private:
     std::vector<const SoTexture2 *> m_textures;
 };
 
-QString read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &,
-             QStringList &remarks)
+olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &,
+                QStringList &remarks)
 {
     return Walk(job, document, remarks).run(job.file);
 }

@@ -127,7 +127,7 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsOfAnImport)
 {
     for (const char *name : {"model.step", "model.stl"}) {
         const QString file = path(name);
-        ASSERT_EQ(olExportScene(window.scene().document(), file).error, "");
+        ASSERT_EQ(olExportScene(window.scene().document(), file).error(), "");
         olImportDialog dialog({olImportJob::of(file)}, true, &window);
         dialog.show();
         look(dialog, QString("import of ") + name);

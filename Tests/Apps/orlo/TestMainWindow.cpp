@@ -209,7 +209,7 @@ TEST_F(MainWindow, ThePreferencesFitBesideTheViewAsAPanelOnASmallScreen)
 TEST_F(MainWindow, AnImportIsMadeFinerForItselfOrForGood)
 {
     const QString file = path(QStringLiteral("sample.step"));
-    ASSERT_EQ(olExportScene(window.scene().document(), file).error, QString());
+    ASSERT_EQ(olExportScene(window.scene().document(), file).error(), QString());
     const auto ask = [&] {
         delete window.findChild<olImportDialog *>();
         EXPECT_TRUE(drop({file}));

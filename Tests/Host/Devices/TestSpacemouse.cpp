@@ -14,6 +14,7 @@
 #include <atomic>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -30,9 +31,9 @@ constexpr auto daemonSocketVariable = "SPNAV_SOCKET";
 class Daemon
 {
 public:
-    enum Manner { Answers, KeepsSilent };
+    enum Reply { Answers, KeepsSilent, TakesNoCall };
 
-    explicit Daemon(Manner manner) : m_listening(socket(AF_UNIX, SOCK_STREAM, 0))
+    explicit Daemon(Reply reply) : m_listening(socket(AF_UNIX, SOCK_STREAM, 0))
     {
         const QByteArray file = QFile::encodeName(m_folder.filePath("spnav.sock"));
         qputenv(daemonSocketVariable, file);
@@ -41,13 +42,19 @@ public:
         std::strncpy(address.sun_path, file.constData(), sizeof address.sun_path - 1);
         EXPECT_EQ(bind(m_listening, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
         listen(m_listening, 1);
-        m_greeter = std::thread([this, manner] { greet(manner); });
+        if (reply == TakesNoCall)
+            fillTheLine(address);
+        else
+            m_greeter = std::thread([this, reply] { greet(reply); });
     }
 
     ~Daemon()
     {
         shutdown(m_listening, SHUT_RDWR);
-        m_greeter.join();
+        if (m_greeter.joinable())
+            m_greeter.join();
+        for (const int caller : m_callers)
+            close(caller);
         hangUp();
         close(m_listening);
         qunsetenv(daemonSocketVariable);
@@ -84,11 +91,19 @@ public:
     }
 
 private:
-    void greet(Manner manner)
+    /// Whoever calls next has to wait.
+    void fillTheLine(const sockaddr_un &address)
+    {
+        do
+            m_callers.push_back(socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0));
+        while (connect(m_callers.back(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0);
+    }
+
+    void greet(Reply reply)
     {
         m_client = accept(m_listening, nullptr, nullptr);
         std::int32_t protocol = 0;
-        if (manner == Answers && m_client >= 0 && read(m_client, &protocol, sizeof protocol) > 0) {
+        if (reply == Answers && m_client >= 0 && read(m_client, &protocol, sizeof protocol) > 0) {
             EXPECT_EQ(write(m_client, &protocol, sizeof protocol), ssize_t(sizeof protocol));
         }
     }
@@ -102,6 +117,7 @@ private:
     int m_listening;
     std::atomic<int> m_client{-1};
     std::thread m_greeter;
+    std::vector<int> m_callers;
 };
 
 /// On a host as new; the connection is closed again at the end.
@@ -127,9 +143,10 @@ protected:
     olHostState &host = olHostState::the();
     QStringList log;
 
+    std::unique_ptr<olSpacemouseLink> link = std::make_unique<olSpacemouseLink>();
+
 private:
     olLogObserver *m_before;
-    olSpacemouseLink m_link;
 };
 
 TEST_F(Spacemouse, MotionAndButtonsAreSeenInTheHostsState)
@@ -164,6 +181,16 @@ TEST_F(Spacemouse, ASilentDaemonHoldsNobodyUpAndIsUsedLater)
     ASSERT_TRUE(connects());
     daemon.sendMotion({1, 2, 3, 4, 5, 6});
     EXPECT_TRUE(QTest::qWaitFor([this] { return host.spacemouseMotion.get().back() == 6; }));
+}
+
+TEST_F(Spacemouse, ADaemonThatTakesNoCallHoldsUpNoEnd)
+{
+    const Daemon daemon(Daemon::TakesNoCall);
+    olSpacemouse::init();
+    QElapsedTimer timer;
+    timer.start();
+    link.reset();
+    EXPECT_LT(timer.elapsed(), 5000);
 }
 
 TEST_F(Spacemouse, ADaemonThatGoesIsNoticedAndItsSuccessorIsFound)

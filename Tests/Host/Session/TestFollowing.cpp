@@ -146,6 +146,7 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     EXPECT_EQ(list->topLevelItem(0)->text(2), "Studio: Mode: default to Accurate") << "not its number";
     EXPECT_EQ(list->topLevelItem(1)->text(2), "Studio: Samples: 8 to 16");
     list->setCurrentItem(list->topLevelItem(1));
+    saveOutside({{key("Studio scale"), 2.5f}});
     view->findChild<QPushButton *>(QStringLiteral("goBack"))->click();
     auto *changesView = opened<QDialog>();
     ASSERT_NE(changesView, nullptr);

@@ -20,6 +20,7 @@
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -42,18 +43,18 @@ public:
 
     void setDefaults(olMessage &, bool flag) override
     {
-        told.emplace_back("defaults");
+        tell("defaults");
         getData().set(m_key, defaultValue, flag);
     }
     void updateGUI() override
     {
-        told.emplace_back("gui");
+        tell("gui");
         const int *value = boost::any_cast<int>(&getData().get(m_key));
         page.setValue(value ? *value : -1);
     }
     void updateData() override
     {
-        told.emplace_back("data");
+        tell("data");
         const int *before = boost::any_cast<int>(&getData().get(m_key));
         if (before && *before == page.value())
             addUnchanged(m_key.c_str());
@@ -61,13 +62,14 @@ public:
     }
     void applyPreferences() override
     {
-        told.emplace_back("apply");
+        tell("apply");
         appliedChange = isChanged(m_key.c_str());
     }
-    void preferencesLoaded(olMessage &) override { told.emplace_back("loaded"); }
+    void preferencesLoaded(olMessage &) override { tell("loaded"); }
+    void preferencesNewScene(olMessage &) override { tell("scene"); }
     void preferencesInitialApply(olMessage &message) override
     {
-        told.emplace_back("initial");
+        tell("initial");
         olPreferences::preferencesInitialApply(message);
     }
 
@@ -75,10 +77,18 @@ public:
 
     QSpinBox page;
     std::vector<std::string> told;
+    std::string failing; ///< what it throws at
     bool appliedChange = false;
     int defaultValue = 3;
 
 private:
+    void tell(const std::string &asked)
+    {
+        told.push_back(asked);
+        if (asked == failing)
+            throw std::runtime_error("no more paint");
+    }
+
     std::string m_key;
 };
 
@@ -190,6 +200,34 @@ TEST_F(Session, WhenStoringFailsEverythingIsAsItWasAndNothingIsApplied)
     EXPECT_EQ(session->commit(shown).error(), QString());
     EXPECT_TRUE(module.appliedChange);
     EXPECT_EQ(module.value(), 7);
+}
+
+TEST_F(Session, AModuleThatThrowsIsToldOfAndNothingElseComesToHarm)
+{
+    const QString failure = QStringLiteral("The module Counter has failed: no more paint.");
+    CountingModule other("Other");
+    for (const char *asked : {"defaults", "loaded", "gui", "initial", "scene"}) {
+        module.failing = asked;
+        other.told.clear();
+        session->start();
+        session->newScene();
+        EXPECT_EQ(session->takeNotices(), QStringList(failure)) << asked;
+        EXPECT_EQ(other.told, (Told{"defaults", "loaded", "gui", "initial", "apply", "scene"})) << asked;
+    }
+
+    module.failing = "data";
+    module.page.setValue(7);
+    other.page.setValue(7);
+    shown.insert(shown.begin(), olPreferencesRegistry::the().find(QStringLiteral("Other")));
+    EXPECT_EQ(session->commit(shown).error(), failure);
+    EXPECT_EQ(other.value(), 3);
+    EXPECT_FALSE(QFile::exists(file));
+
+    module.failing = "apply";
+    EXPECT_EQ(session->commit(shown).error(), QString());
+    EXPECT_EQ(session->takeNotices(), QStringList(failure));
+    nextRun();
+    EXPECT_EQ(module.value() + other.value(), 14);
 }
 
 TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)

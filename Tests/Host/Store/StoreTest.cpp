@@ -25,7 +25,7 @@ void StoreTest::write(const QString &name, const QByteArray &bytes)
 
 StoreTest::Opening StoreTest::opened(olPreferencesStore &store, Values &values, olStoreUse use)
 {
-    const olResult<olStoreOpening> opening = store.open(use);
+    const olResult<olStoreRows::Contents> opening = store.open(use);
     values = opening.isOk() ? opening->values : Values();
     return {opening.error(), opening.isOk() ? opening->notice : QString()};
 }

@@ -88,7 +88,7 @@ ImportTest::ImportTest()
 QString ImportTest::exported(const QString &name)
 {
     const QString file = path(name);
-    EXPECT_EQ(olExportScene(m_scene.document(), file).error.toStdString(), "");
+    EXPECT_EQ(olExportScene(m_scene.document(), file).error().toStdString(), "");
     return file;
 }
 
@@ -110,15 +110,14 @@ QByteArray ImportTest::contentOf(const QString &name)
 olScene::Document ImportTest::imported(const olImportJob &job)
 {
     const olImportResult result = olImport(job);
-    EXPECT_EQ(result.error.toStdString(), "");
-    EXPECT_FALSE(result.document.IsNull());
-    return result.document.IsNull() ? olScene::newDocument() : result.document;
+    EXPECT_EQ(result.document.error().toStdString(), "");
+    return result.document.isOk() ? *result.document : olScene::newDocument();
 }
 
 QString ImportTest::faultOf(const QString &file)
 {
     const olImportResult result = olImport(olImportJob::of(file));
-    EXPECT_TRUE(result.document.IsNull());
-    EXPECT_TRUE(result.error.contains(file)) << qPrintable(result.error);
-    return result.error;
+    EXPECT_FALSE(result.document.isOk());
+    EXPECT_TRUE(result.document.error().contains(file)) << qPrintable(result.document.error());
+    return result.document.error();
 }

@@ -158,8 +158,8 @@ TEST_F(Construct, SoundFilesAreReadWholeAndWhatIsLeftOutIsSaid)
     for (const Sound &sound : soundFiles()) {
         SCOPED_TRACE(sound.name);
         const olImportResult result = olImport(olImportJob::of(written(QLatin1String(sound.name), sound.content)));
-        ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
-        const Outline outline(result.document);
+        ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
+        const Outline outline(*result.document);
         EXPECT_EQ(outline.triangles, sound.triangles);
         EXPECT_NEAR(sizeOf(outline), sound.size, 1e-3 * sound.size);
         const QString remarks = result.remarks.join(QLatin1Char(' '));

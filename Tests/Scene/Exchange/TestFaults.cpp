@@ -156,7 +156,7 @@ TEST_F(Fault, FacesThatCannotBeUnderstoodAreCounted)
     const int plane = step.indexOf("PLANE('',#");
     step.replace(plane, step.indexOf(')', plane) - plane, "SURFACE(''");
     const olImportResult result = olImport(olImportJob::of(written(QStringLiteral("face.step"), step)));
-    ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
+    ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
     EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("1 of its faces cannot be understood")))
         << qPrintable(result.remarks.join(QLatin1Char(' ')));
 }
@@ -203,8 +203,9 @@ TEST_F(Fault, AnyByteAndAnyLineMayBeWrong)
             job.patience = 20000;
             const olImportResult result = olImport(job);
             // What was changed may be a name or a colour.
-            EXPECT_TRUE(result.isGood() || result.error.startsWith(QStringLiteral("Cannot read"))) << at;
-            EXPECT_EQ(result.error.count(QLatin1Char('\n')), 0) << qPrintable(result.error);
+            EXPECT_TRUE(result.document.isOk() || result.document.error().startsWith(QStringLiteral("Cannot read")))
+                << at;
+            EXPECT_EQ(result.document.error().count(QLatin1Char('\n')), 0) << qPrintable(result.document.error());
         }
     }
 }

@@ -56,7 +56,7 @@ TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
     const std::vector<olImportJob> good = jobs({"good.step"});
     const int bad = m_importer.start(written(QStringLiteral("bad.step"), "no"));
     wait();
-    EXPECT_FALSE(m_ended.value(bad).first().error.isEmpty());
+    EXPECT_FALSE(m_ended.value(bad).first().outcome.isOk());
     EXPECT_EQ(m_scene.document(), before);
 
     const int given = m_importer.start(good);
@@ -69,8 +69,8 @@ TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
     mixed.push_back(olImportJob::of(written(QStringLiteral("bad.obj"), "f 1 2 3\n")));
     const int partly = m_importer.start(mixed);
     wait();
-    EXPECT_TRUE(m_ended.value(partly).first().error.isEmpty());
-    EXPECT_TRUE(m_ended.value(partly).last().error.contains(QStringLiteral("bad.obj")));
+    EXPECT_TRUE(m_ended.value(partly).first().outcome.isOk());
+    EXPECT_TRUE(m_ended.value(partly).last().outcome.error().contains(QStringLiteral("bad.obj")));
     EXPECT_TRUE(Outline(m_scene.document()).names.contains(QStringLiteral("a"))) << "the good one is not lost";
 }
 

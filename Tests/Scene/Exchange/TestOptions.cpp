@@ -140,7 +140,7 @@ protected:
     olImportJob job(const char *name, const Model &model)
     {
         const QString file = path(QLatin1String(name));
-        EXPECT_EQ(olExportScene(model.document(), file).error.toStdString(), "");
+        EXPECT_EQ(olExportScene(model.document(), file).error().toStdString(), "");
         return olImportJob::of(file);
     }
 
@@ -231,12 +231,14 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
     meshes.options.importSurfaces = false;
     EXPECT_EQ(Outline(imported(meshes)).triangles, 2u);
     meshes.options.importMeshes = false;
-    EXPECT_TRUE(olImport(meshes).error.contains(QStringLiteral("leave nothing of it (no meshes are imported)")));
+    EXPECT_TRUE(
+        olImport(meshes).document.error().contains(QStringLiteral("leave nothing of it (no meshes are imported)")));
     kinds.options.importSurfaces = true;
     kinds.options.importInvisibleSurfaces = kinds.options.importInvisibleCurves = kinds.options.importCurves = false;
     Model hidden;
     hidden.hide(hidden.part("Hidden box", box(20)));
-    EXPECT_TRUE(olImport(job("hidden.step", hidden)).error.contains(QStringLiteral("(no invisible surfaces are")));
+    EXPECT_TRUE(
+        olImport(job("hidden.step", hidden)).document.error().contains(QStringLiteral("(no invisible surfaces are")));
 }
 
 TEST_F(ImportOption, HiddenInstancesComeInHiddenOrNotAtAll)
@@ -325,7 +327,7 @@ TEST_F(ImportOption, FilesThatAFileRefersToAreReadOrLeftAlone)
     olImportJob references = olImportJob::of(file);
     EXPECT_EQ(Outline(imported(references)).parts, 2);
     references.options.importReferencedFiles = false;
-    EXPECT_NE(olImport(references).error, QString());
+    EXPECT_NE(olImport(references).document.error(), QString());
 
     (void)written(QStringLiteral("m.mtl"), "newmtl green\nKd 0 1 0\n");
     references = job("m.obj", QByteArray("mtllib m.mtl\nusemtl green\n") + twoTriangles);
@@ -362,9 +364,9 @@ TEST_F(ImportOption, OptimizingRepairsWhatTheCheckFindsFaulty)
     const olImportResult asItIs = olImport(repair);
     repair.optimize = true;
     const olImportResult repaired = olImport(repair);
-    ASSERT_TRUE(asItIs.isGood() && repaired.isGood());
-    EXPECT_EQ(count(asItIs.document, TopAbs_FACE), count(repaired.document, TopAbs_FACE));
-    EXPECT_TRUE(BRepCheck_Analyzer(wholeOf(repaired.document)).IsValid());
+    ASSERT_TRUE(asItIs.document.isOk() && repaired.document.isOk());
+    EXPECT_EQ(count(*asItIs.document, TopAbs_FACE), count(*repaired.document, TopAbs_FACE));
+    EXPECT_TRUE(BRepCheck_Analyzer(wholeOf(*repaired.document)).IsValid());
 }
 
 TEST_F(ImportOption, TheModelIsMovedToTheOriginAndTheGround)
@@ -422,7 +424,7 @@ TEST_F(ImportOption, TheTemporaryDirectoryIsUsedWhereOneIsGivenAndLeftClean)
     imported(alone);
     EXPECT_TRUE(QDir(own).isEmpty());
     alone.temporaryDirectory = path(QStringLiteral("nowhere"));
-    EXPECT_TRUE(olImport(alone).error.contains(QStringLiteral("temporary directory")));
+    EXPECT_TRUE(olImport(alone).document.error().contains(QStringLiteral("temporary directory")));
     qputenv("ORLO_FILEIO_TMP_DIR", path(QStringLiteral("nowhere")).toUtf8());
     EXPECT_EQ(olImportJob::of(alone.file).temporaryDirectory, QDir::tempPath());
     qputenv("ORLO_FILEIO_TMP_DIR", before);
@@ -447,14 +449,14 @@ TEST_F(ImportOption, TexturesAreFoundBesideTheModelElseInTheSearchPathsElseNamed
          {textured("t.obj", "mtllib t.mtl\n" + corners), textured("t.wrl", vrml), textured("t.gltf", gltf)}) {
         SCOPED_TRACE(search.file.toStdString());
         const olImportResult without = olImport(search);
-        ASSERT_TRUE(without.isGood()) << qPrintable(without.error);
-        EXPECT_EQ(textures(without.document), QStringList());
+        ASSERT_TRUE(without.document.isOk()) << qPrintable(without.document.error());
+        EXPECT_EQ(textures(*without.document), QStringList());
         EXPECT_TRUE(without.remarks.join(QString()).contains(QStringLiteral("red.png was not found")));
 
         search.textureDirectories = {path(QStringLiteral("pictures")).toStdString()};
         const olImportResult with = olImport(search);
-        EXPECT_EQ(textures(with.document), QStringList{path(QStringLiteral("pictures/red.png"))});
+        EXPECT_EQ(textures(*with.document), QStringList{path(QStringLiteral("pictures/red.png"))});
         EXPECT_TRUE(with.remarks.isEmpty());
-        EXPECT_TRUE(firstMesh(with.document)->HasUVNodes());
+        EXPECT_TRUE(firstMesh(*with.document)->HasUVNodes());
     }
 }

@@ -82,7 +82,7 @@ TEST_F(ReaderProcess, AReadingWithoutProgressEndsAfterItsPatience)
 {
     olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
     job.patience = 1;
-    EXPECT_TRUE(olImport(job).error.contains(QStringLiteral("made no progress for 0.001 seconds")));
+    EXPECT_TRUE(olImport(job).document.error().contains(QStringLiteral("made no progress for 0.001 seconds")));
 }
 
 TEST_F(ReaderProcess, ACancelledReadingEndsAtOnce)
@@ -94,7 +94,7 @@ TEST_F(ReaderProcess, ACancelledReadingEndsAtOnce)
     since.start();
     const olImportResult result = olImport(job, {{}, [&since] { return since.elapsed() > 200; }});
     EXPECT_TRUE(result.isCancelled);
-    EXPECT_TRUE(result.document.IsNull());
+    EXPECT_FALSE(result.document.isOk());
     EXPECT_LT(since.elapsed(), 2000);
 }
 
@@ -118,7 +118,7 @@ TEST_F(ReaderProcess, PipesAndDevicesAreNotWaitedFor)
         olImportJob job = olImportJob::of(file);
         job.patience = 20000;
         const olImportResult result = olImport(job);
-        EXPECT_TRUE(result.isGood()) << qPrintable(result.error);
+        EXPECT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
         EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("pipe."))) << qPrintable(file);
     }
 }

@@ -197,7 +197,7 @@ TEST_F(RoundTrip, WhatAFormatCanHoldComesBackAndTheRestIsSaid)
         models.append({name, imported(olImportJob::of(written(name, content)))});
     for (const char *name : {"s.step", "s.igs", "s.glb"}) {
         const QString file = path(QLatin1String(name));
-        ASSERT_EQ(olExportScene(models.first().second, file).error, QString());
+        ASSERT_EQ(olExportScene(models.first().second, file).error(), QString());
         models.append({QLatin1String(name), imported(olImportJob::of(file))});
     }
 
@@ -208,23 +208,23 @@ TEST_F(RoundTrip, WhatAFormatCanHoldComesBackAndTheRestIsSaid)
             const QString file = path(name + QStringLiteral(" out.") + QLatin1String(suffix));
             SCOPED_TRACE(file.toStdString());
             const olModelFormat &format = *olModelFormat::ofFile(file);
-            const olExportResult result = olExportScene(model, file);
-            const QString remarks = result.remarks.join(QLatin1Char(' '));
-            if (keptOf(content, format) & (olModelFormat::Meshes | olModelFormat::Surfaces | olModelFormat::Curves)) {
-                ASSERT_EQ(result.error, QString());
-            } else {
-                EXPECT_TRUE(result.error.contains(QStringLiteral("nothing that this format can hold")));
+            const olResult<QStringList> result = olExportScene(model, file);
+            if (!(keptOf(content, format) &
+                  (olModelFormat::Meshes | olModelFormat::Surfaces | olModelFormat::Curves))) {
+                EXPECT_TRUE(result.error().contains(QStringLiteral("nothing that this format can hold")));
                 continue;
             }
+            ASSERT_EQ(result.error(), QString());
+            const QString remarks = result->join(QLatin1Char(' '));
             EXPECT_TRUE((content & ~format.content) == 0 || !remarks.isEmpty());
             olImportJob job = olImportJob::of(file);
             job.options.importInvisibleSurfaces = job.options.importInvisibleCurves = true;
             job.options.importInvisibleInstances = job.options.importCurves = true;
             const olImportResult back = olImport(job);
-            ASSERT_TRUE(back.isGood()) << qPrintable(back.error);
+            ASSERT_TRUE(back.document.isOk()) << qPrintable(back.document.error());
             EXPECT_EQ(back.remarks.join(QString()).toStdString(), "");
-            EXPECT_EQ(keptOf(content, format) & ~olDocumentContent(back.document), 0u) << qPrintable(remarks);
-            const Outline after(back.document);
+            EXPECT_EQ(keptOf(content, format) & ~olDocumentContent(*back.document), 0u) << qPrintable(remarks);
+            const Outline after(*back.document);
             if (!format.holds(olModelFormat::Meshes))
                 continue;
             EXPECT_NEAR(after.triangles, before.triangles, few);
@@ -233,7 +233,7 @@ TEST_F(RoundTrip, WhatAFormatCanHoldComesBackAndTheRestIsSaid)
                 EXPECT_NEAR(after.high[axis], before.high[axis], near);
             }
             if (format.holds(olModelFormat::Colors)) {
-                EXPECT_EQ(coloursOf(back.document).join(QLatin1Char('\n')).toStdString(),
+                EXPECT_EQ(coloursOf(*back.document).join(QLatin1Char('\n')).toStdString(),
                           coloursOf(model).join(QLatin1Char('\n')).toStdString());
             }
         }
@@ -251,12 +251,12 @@ TEST_F(RoundTrip, TexturesComeBackAlthoughTheFirstOnesAreGone)
                 "mtllib m.mtl\nusemtl m\nvt 0 0\nvt 1 0\nvt 1 1\nv 0 0 0\nv 1 0 0\nv 1 1 0\nf 1/1 2/2 3/3\n")));
     ASSERT_EQ(textures(model), 1);
     for (const char *suffix : {"obj", "gltf", "glb"})
-        EXPECT_EQ(olExportScene(model, path(QLatin1String("out.") + QLatin1String(suffix))).error, QString());
+        EXPECT_EQ(olExportScene(model, path(QLatin1String("out.") + QLatin1String(suffix))).error(), QString());
     QDir().remove(path(QStringLiteral("red.png")));
     for (const char *suffix : {"obj", "gltf", "glb"}) {
         const olImportResult result = olImport(olImportJob::of(path(QLatin1String("out.") + QLatin1String(suffix))));
-        ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
-        EXPECT_EQ(textures(result.document), 1) << suffix << qPrintable(result.remarks.join(QLatin1Char(' ')));
+        ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
+        EXPECT_EQ(textures(*result.document), 1) << suffix << qPrintable(result.remarks.join(QLatin1Char(' ')));
     }
 }
 
@@ -309,12 +309,12 @@ TEST_F(RoundTrip, NamesOfFilesKeepTheirBytes)
         SCOPED_TRACE(suffix);
         const bool isOfSurfaces = qstrcmp(suffix, "step") == 0 || qstrcmp(suffix, "igs") == 0;
         const QString file = folder + QFile::decodeName("/\xfc.") + QLatin1String(suffix);
-        EXPECT_EQ(olExportScene(isOfSurfaces ? m_scene.document() : document, file).error, QString());
+        EXPECT_EQ(olExportScene(isOfSurfaces ? m_scene.document() : document, file).error(), QString());
         EXPECT_EQ(access(QFile::encodeName(file).constData(), F_OK), 0);
         const olImportResult result = olImport(olImportJob::of(file));
-        ASSERT_TRUE(result.isGood()) << qPrintable(result.error);
+        ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
         if (!isOfSurfaces && qstrcmp(suffix, "stl") != 0) {
-            EXPECT_EQ(textures(result.document), 1) << qPrintable(result.remarks.join(QLatin1Char(' ')));
+            EXPECT_EQ(textures(*result.document), 1) << qPrintable(result.remarks.join(QLatin1Char(' ')));
         }
     }
 }

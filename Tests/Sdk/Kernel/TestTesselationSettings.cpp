@@ -18,6 +18,7 @@ protected:
     TesselationSettings() { settings.setConnections(); }
 
     template <class Widget> Widget &control(Control which) { return dynamic_cast<Widget &>(*settings.control(which)); }
+    double number(Control which) { return control<QWidget>(which).property("value").toDouble(); }
     int quality() { return control<QSlider>(Control::Quality).value(); }
     void type(Control which, const QString &text)
     {
@@ -33,9 +34,10 @@ TEST_F(TesselationSettings, SliderSetsTheThreeTolerancesAndTheDefaultsOfAnImport
 {
     auto &slider = control<QSlider>(Control::Quality);
     const auto tolerances = [this] {
-        return std::vector<double>{settings.chordDeviation(), settings.normalTolerance(), settings.maxChordLength()};
+        return std::vector<double>{number(Control::ChordDeviation), number(Control::NormalTolerance),
+                                   number(Control::MaxChordLength)};
     };
-    const double stitching = settings.stitchingTolerance();
+    const double stitching = number(Control::StitchingTolerance);
     slider.setValue(slider.minimum());
     for (int preset = slider.minimum() + 1; preset <= slider.maximum(); ++preset) {
         const std::vector<double> before = tolerances();
@@ -43,7 +45,7 @@ TEST_F(TesselationSettings, SliderSetsTheThreeTolerancesAndTheDefaultsOfAnImport
         for (std::size_t index = 0; index < before.size(); ++index)
             EXPECT_LT(tolerances()[index], before[index]);
     }
-    EXPECT_EQ(settings.stitchingTolerance(), stitching);
+    EXPECT_EQ(number(Control::StitchingTolerance), stitching);
 
     slider.setValue((slider.minimum() + slider.maximum()) / 2);
     EXPECT_EQ(tolerances(), (std::vector<double>{0.075, 10.0, 200.0}));
@@ -60,13 +62,13 @@ TEST_F(TesselationSettings, SliderFollowsWhatIsTypedAndChangesNothingElse)
     const int before = quality();
     type(Control::ChordDeviation, "0.0001");
     EXPECT_GT(quality(), before);
-    EXPECT_EQ(settings.chordDeviation(), 0.0001);
-    EXPECT_EQ(settings.normalTolerance(), 10.0);
+    EXPECT_EQ(number(Control::ChordDeviation), 0.0001);
+    EXPECT_EQ(number(Control::NormalTolerance), 10.0);
 
     type(Control::ChordDeviation, "500");
     EXPECT_LT(quality(), before);
-    EXPECT_EQ(settings.chordDeviation(), 500.0);
-    EXPECT_EQ(settings.maxChordLength(), 200.0);
+    EXPECT_EQ(number(Control::ChordDeviation), 500.0);
+    EXPECT_EQ(number(Control::MaxChordLength), 200.0);
 }
 
 TEST_F(TesselationSettings, CheckBoxesAndGroupsDecideWhatIsEnabled)
