@@ -186,13 +186,13 @@ bool olTour::imports(olPreferencesDialog &preferences) const
     saved = dialog(QStringLiteral("preferences-rows.png")) && saved;
 
     const QString model = QDir(m_folder).filePath(QStringLiteral("sample.step"));
-    const QString fault = olExportScene(m_window.scene().document(), model).error;
-    if (!fault.isEmpty())
-        complain(fault);
+    const olResult<QStringList> exported = olExportScene(m_window.scene().document(), model);
+    if (!exported.isOk())
+        complain(exported.error());
     olImportDialog import({olImportJob::of(model)}, true, &m_window, [](const std::string &) { return QString(); });
     import.show();
     letWindowsDraw();
-    return picture(import, QStringLiteral("import.png")) && fault.isEmpty() && saved;
+    return picture(import, QStringLiteral("import.png")) && exported.isOk() && saved;
 }
 
 /// Where the site has locked a setting, in the dark, and as a panel on a small screen.
