@@ -125,7 +125,7 @@
         <translation>このホストでは記録されるだけです</translation>
     </message>
     <message>
-        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <source>This host only records these settings: no reader or other part of it goes by them.</source>
         <translation>このホストではこれらの設定は記録されるだけです。形式の読み込み機能など、これらの設定を反映する機能がないためです。</translation>
     </message>
     <message>
@@ -1240,6 +1240,10 @@
     <message>
         <source>Not chosen</source>
         <translation>未選択</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>すぐに反映</translation>
     </message>
 </context>
 <context>

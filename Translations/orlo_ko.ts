@@ -125,7 +125,7 @@
         <translation>이 호스트에서는 기록만 합니다</translation>
     </message>
     <message>
-        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <source>This host only records these settings: no reader or other part of it goes by them.</source>
         <translation>이 호스트는 이 설정을 기록만 합니다. 이 설정을 사용하는 기능(예: 해당 형식의 읽기 기능)이 없습니다.</translation>
     </message>
     <message>
@@ -1240,6 +1240,10 @@
     <message>
         <source>Not chosen</source>
         <translation>선택 안 함</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>즉시 적용</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,7 @@
         <translation>此主机仅作记录</translation>
     </message>
     <message>
-        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <source>This host only records these settings: no reader or other part of it goes by them.</source>
         <translation>此主机仅记录这些设置：其中没有使用这些设置的组件，例如该格式的读取程序。</translation>
     </message>
     <message>
@@ -1240,6 +1240,10 @@
     <message>
         <source>Not chosen</source>
         <translation>未选择</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>立即生效</translation>
     </message>
 </context>
 <context>
