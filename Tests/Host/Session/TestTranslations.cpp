@@ -1,5 +1,5 @@
 #include "Session/olTranslations.h"
-#include "Utilities/olLog.h"
+#include "Support/RecordedLog.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,18 +11,13 @@
 namespace
 {
 
-class Translations : public testing::Test, private olLogObserver
+class Translations : public testing::Test
 {
 protected:
-    Translations() : before(olLog::observe(this)) {}
-    ~Translations() override { olLog::observe(before); }
-
-    void logged(olLogLevel, const QString &text) override { lines << text; }
-
     static QString changes() { return QCoreApplication::translate("olChangesView", "Changes"); }
 
-    olLogObserver *before;
-    QStringList lines;
+    RecordedLog log;
+    QStringList &lines = log.lines;
 };
 
 TEST_F(Translations, AreOfOneLanguageAsLongAsTheyStandAndKnowTheirEnglish)
