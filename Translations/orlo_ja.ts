@@ -125,7 +125,7 @@
         <translation>このホストでは記録されるだけです</translation>
     </message>
     <message>
-        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <source>This host only records these settings: no reader or other part of it goes by them.</source>
         <translation>このホストではこれらの設定は記録されるだけです。形式の読み込み機能など、これらの設定を反映する機能がないためです。</translation>
     </message>
     <message>
@@ -747,8 +747,8 @@
         <translation>空のグループを削除(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Unify Surface Normals</source>
-        <translation>サーフェスの法線を統一(&amp;U)</translation>
+        <source>Unif&amp;y Surface Normals</source>
+        <translation>サーフェスの法線を統一(&amp;Y)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>
@@ -1241,6 +1241,10 @@
         <source>Not chosen</source>
         <translation>未選択</translation>
     </message>
+    <message>
+        <source>at once</source>
+        <translation>すぐに反映</translation>
+    </message>
 </context>
 <context>
     <name>olPageIndex</name>
@@ -1596,6 +1600,14 @@
     <message>
         <source>All settings of this run were then saved into it.</source>
         <translation>その後、今回の実行のすべての設定がこのファイルに保存されました。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>モジュール %1 でエラーが発生しました (理由は不明です)。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>モジュール %1 でエラーが発生しました：%2。</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,7 @@
         <translation>이 호스트에서는 기록만 합니다</translation>
     </message>
     <message>
-        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <source>This host only records these settings: no reader or other part of it goes by them.</source>
         <translation>이 호스트는 이 설정을 기록만 합니다. 이 설정을 사용하는 기능(예: 해당 형식의 읽기 기능)이 없습니다.</translation>
     </message>
     <message>
@@ -747,8 +747,8 @@
         <translation>빈 그룹 제거(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Unify Surface Normals</source>
-        <translation>곡면 법선 통일(&amp;U)</translation>
+        <source>Unif&amp;y Surface Normals</source>
+        <translation>곡면 법선 통일(&amp;Y)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>
@@ -1241,6 +1241,10 @@
         <source>Not chosen</source>
         <translation>선택 안 함</translation>
     </message>
+    <message>
+        <source>at once</source>
+        <translation>즉시 적용</translation>
+    </message>
 </context>
 <context>
     <name>olPageIndex</name>
@@ -1596,6 +1600,14 @@
     <message>
         <source>All settings of this run were then saved into it.</source>
         <translation>그런 다음 이번 실행의 모든 설정을 이 파일에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>모듈 %1에서 오류가 발생했으며 이유를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>모듈 %1에서 오류가 발생했습니다: %2.</translation>
     </message>
 </context>
 <context>

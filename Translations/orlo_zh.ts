@@ -125,7 +125,7 @@
         <translation>此主机仅作记录</translation>
     </message>
     <message>
-        <source>This host only records these settings: it has no part that goes by them, such as a reader for the format.</source>
+        <source>This host only records these settings: no reader or other part of it goes by them.</source>
         <translation>此主机仅记录这些设置：其中没有使用这些设置的组件，例如该格式的读取程序。</translation>
     </message>
     <message>
@@ -747,8 +747,8 @@
         <translation>移除空组(&amp;E)</translation>
     </message>
     <message>
-        <source>&amp;Unify Surface Normals</source>
-        <translation>统一曲面法线(&amp;U)</translation>
+        <source>Unif&amp;y Surface Normals</source>
+        <translation>统一曲面法线(&amp;Y)</translation>
     </message>
     <message>
         <source>Without this they hold for this import alone.</source>
@@ -1241,6 +1241,10 @@
         <source>Not chosen</source>
         <translation>未选择</translation>
     </message>
+    <message>
+        <source>at once</source>
+        <translation>立即生效</translation>
+    </message>
 </context>
 <context>
     <name>olPageIndex</name>
@@ -1596,6 +1600,14 @@
     <message>
         <source>All settings of this run were then saved into it.</source>
         <translation>随后已将本次运行的所有设置保存到其中。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed and does not say why.</source>
+        <translation>模块 %1 出错，且未说明原因。</translation>
+    </message>
+    <message>
+        <source>The module %1 has failed: %2.</source>
+        <translation>模块 %1 出错：%2。</translation>
     </message>
 </context>
 <context>

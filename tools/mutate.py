@@ -1,14 +1,15 @@
 """Changes one place of one source at a time and tells which changes no test notices.
 
-    tools/mutate.sh FOLDER [--count N] [--seed S] [--again]
+    tools/mutate.sh FOLDER... [--count N] [--seed S] [--again]
 
 A place is a condition, a number, a text such as a key, a call left out, or two calls swapped; of a form what it says of
 a control. N of them (30) are drawn by the seed (1), as many of each kind as there are. Each is changed in a copy of the
-sources as committed, under build/mutate; there the copy is built, and its quick tests are run, then all others that can see the
-folder. Where no test fails, the change has survived: a test is missing, or nobody could notice it. A change that does
-not compile counts for nothing, and another one is drawn.
+sources as committed, under build/mutate; there the copy is built, and its tests that can see the folders are run, the
+likely ones first and those that take long last. Where no test fails, the change has survived: a test is missing, or
+nobody could notice it; these are listed in Tests/survivors.md. A change that does not compile counts for nothing, and
+another one is drawn.
 
-What came out stands in build/mutate/FOLDER-S.json. The same command goes on where it was stopped; with --again it tries
+What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped; with --again it tries
 those that survived once more, for when the tests have become sharper. The environment may name a command that building
 and testing is run through (MUTATE_RUN="nice -n 5") and options for configuring the copy (MUTATE_CMAKE).
 """
@@ -31,8 +32,12 @@ COPY = WORK / "copy"
 # at more than the folder: the view, which sees of a setting what the calls before it say, and the forms at every scale.
 SEES = {
     "Plugins": ["orlo-prefs", "plugins-tests", "model-tests"],
+    "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests"],
+    "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests"],
 }
-QUICK_SECONDS = 3.0  # on the unchanged copy
+# How a source is laid out says nothing of what it does, and what is packed or built once more nothing new.
+BLIND = ("check_format", "check_packaging", "build_plugin_alone")
+QUICK_SECONDS = 3.0
 HUNG_SECONDS = 120
 
 OPPOSITES = {"==": "!=", "!=": "==", "<": ">=", ">": "<=", "<=": ">", ">=": "<", "&&": "||", "||": "&&",
@@ -78,10 +83,10 @@ def changes_of_code(lines, at, isHeader):
             yield "calls swapped", lines[at + 1] + "\n" + line
 
 
-def drawn(folder, seed):
+def drawn(folders, seed):
     """All places in the order in which they are tried: one of each kind, then the next one of each."""
     kinds = {}
-    for path in sorted((COPY / folder).rglob("*")):
+    for path in sorted(path for folder in folders for path in (COPY / folder).rglob("*")):
         name = str(path.relative_to(COPY))
         lines = path.read_text().split("\n") if path.suffix in (".cpp", ".h", ".ui") else []
         for at, line in enumerate(lines):
@@ -99,62 +104,54 @@ def drawn(folder, seed):
 class Copy:
     """The sources as they are committed, built and tested without getting in anyone's way."""
 
-    def __init__(self, folder):
-        self.programs = SEES.get(folder.strip("/"), [])
+    def __init__(self, folders):
+        seen = [SEES.get(folder.partition("/")[0], []) for folder in folders]
+        self.programs = sorted(set(sum(seen, []))) if all(seen) else []
         if not COPY.exists():
             self.git("clone", "--quiet", "--no-checkout", ROOT, COPY)
-        before = self.git("-C", COPY, "rev-parse", "HEAD")
         self.git("-C", COPY, "fetch", "--quiet", ROOT, "HEAD")
         # Files that are the same keep their times, so that only what changed is built.
         self.git("-C", COPY, "checkout", "--quiet", "--force", "--detach", "FETCH_HEAD")
-        known = WORK / f"{self.name(folder)}-tests.json"
-        if not known.exists() or self.git("-C", COPY, "rev-parse", "HEAD") != before:
-            known.unlink(missing_ok=True)
-            known.write_text(json.dumps(self.measured()))
-        self.quick, self.others = json.loads(known.read_text())
+        # No change of ours is one of what a library offers, so what links it need not be linked again.
+        self.run("cmake", "-S", COPY, "-B", COPY / "build", "-G", "Ninja", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
+                 *shlex.split(os.environ.get("MUTATE_CMAKE", "")))
+        if not self.builds():
+            sys.exit("the unchanged sources do not build")
         self.numbers = self.tests()
+        self.trusted = set()
 
     @staticmethod
     def git(*command):
         return subprocess.run(["git", *map(str, command)], text=True, stdout=subprocess.PIPE, check=True).stdout
 
     @staticmethod
-    def name(folder):
-        return folder.strip("/").replace("/", "-")
+    def name(folders):
+        return "-".join(folder.strip("/").replace("/", "-") for folder in folders)
 
-    def measured(self):
-        """The numbers of the quick tests and of the others that pass on the unchanged sources."""
-        self.run("cmake", "-S", COPY, "-B", COPY / "build", "-G", "Ninja",
-                 *shlex.split(os.environ.get("MUTATE_CMAKE", "")))
-        numbers = self.tests() if self.builds() else sys.exit("the unchanged sources do not build")
-        # Such as those that measure time, where others are at work.
-        for name in self.failures(numbers.values()):
-            print(f"left out, as it fails on the unchanged sources: {name}", flush=True)
-            numbers.pop(name, None)
-        costs = (COPY / "build/Testing/Temporary/CTestCostData.txt").read_text().partition("---")[0]
+    def slow(self):
+        """The numbers of the tests that took long so far."""
+        costs = COPY / "build/Testing/Temporary/CTestCostData.txt"
+        lines = costs.read_text().partition("---")[0].splitlines() if costs.exists() else []
         # Names of tests may have blanks in them.
-        costs = [line.rsplit(" ", 2) for line in costs.splitlines()]
-        slow = {name for name, _, cost in costs if float(cost) > QUICK_SECONDS}
-        return ([number for name, number in numbers.items() if name not in slow],
-                [number for name, number in numbers.items() if name in slow])
+        known = {name: float(cost) for name, _, cost in (line.rsplit(" ", 2) for line in lines)}
+        return {number for name, number in self.numbers.items() if known.get(name, 0) > QUICK_SECONDS}
 
     @staticmethod
     def run(*command):
         through = shlex.split(os.environ.get("MUTATE_RUN", ""))
         return subprocess.run([*through, *map(str, command)], cwd=COPY, text=True, capture_output=True, check=False)
 
-    def builds(self):
+    def builds(self, source=Path("form.ui")):
         # That a header made of a form is new is seen the second time.
         return all(self.run("ninja", "-C", "build", "-j", os.cpu_count(), *self.programs).returncode == 0
-                   for _ in range(2))
+                   for _ in range(2 if source.suffix == ".ui" else 1))
 
     def tests(self):
         shown = self.run("ctest", "--test-dir", "build", "--show-only=json-v1").stdout
         numbers = {}
         for number, test in enumerate(json.loads(shown)["tests"], 1):
             command = " ".join(test.get("command", ["NOT_BUILT"]))
-            # How a source is laid out says nothing of what it does.
-            isSeen = "check_format" not in command and \
+            isSeen = not any(name in command for name in BLIND) and \
                 (any(f"/bin/{program}" in f"{command} " for program in self.programs) or "/lint/" in command)
             if (isSeen or not self.programs) and '"slow"' not in json.dumps(test):
                 numbers[test["name"]] = number
@@ -174,9 +171,29 @@ class Copy:
             numbers = [number for number in numbers if number not in again]
         return None
 
-    def verdict(self, place, noticed):
-        """The test that noticed the change, "" where none did, nothing where it did not compile. Tests that noticed
-        others come first."""
+    def likely(self, source, counted):
+        """Tests that noticed other changes of the source or are called as it is, then those that noticed any."""
+        name = re.sub("^(ol|QOL)", "", source.stem).lower()
+        of_source = {place["verdict"] for place in counted if place["file"].rpartition(".")[0].endswith(source.stem)}
+        near = {test for test in self.numbers
+                if test in of_source or test.partition(".")[0].lower() in name or name in test.lower()}
+        for tests in (near, {place["verdict"] for place in counted} - near):
+            yield [self.numbers[test] for test in sorted(tests) if test in self.numbers]
+
+    def verdict(self, place, counted):
+        """The test that noticed the change, "" where none did, nothing where it did not compile."""
+        while (failed := self.noticed(place, counted)) and failed not in self.trusted:
+            # One that fails on the unchanged sources, too, notices nothing: say, because it measures time on a machine
+            # that is busy.
+            self.builds(COPY / place["file"])
+            if not self.failures([self.numbers[failed]]):
+                self.trusted.add(failed)
+            else:
+                print(f"left out, as it fails on the unchanged sources: {failed}", flush=True)
+                del self.numbers[failed]
+        return failed
+
+    def noticed(self, place, counted):
         source = COPY / place["file"]
         text = source.read_text()
         lines = text.split("\n")
@@ -186,13 +203,14 @@ class Copy:
         lines[at:at + place["is"].count("\n") + 1] = place["is"].split("\n")
         source.write_text("\n".join(lines))
         try:
-            if not self.builds():
+            if not self.builds(source):
                 return None
-            first = [self.numbers[name] for name in noticed if name in self.numbers]
-            for stage in (first, self.quick, self.others):
-                numbers = [number for number in stage if stage is first or number not in first]
-                if failed := numbers and self.failure(numbers):
+            done, slow = set(), self.slow()
+            quick = [number for number in self.numbers.values() if number not in slow]
+            for stage in (*self.likely(source, counted), quick, sorted(slow)):
+                if failed := self.failure([number for number in stage if number not in done]):
                     return failed
+                done.update(stage)
             return ""
         finally:
             source.write_text(text)
@@ -201,25 +219,25 @@ class Copy:
 def main():
     parser = argparse.ArgumentParser(prog="tools/mutate.sh", description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("folder")
+    parser.add_argument("folders", nargs="+")
     parser.add_argument("--count", type=int, default=30)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--again", action="store_true")
     arguments = parser.parse_args()
 
-    kept = WORK / f"{Copy.name(arguments.folder)}-{arguments.seed}.json"
+    kept = WORK / f"{Copy.name(arguments.folders)}-{arguments.seed}.json"
     WORK.mkdir(parents=True, exist_ok=True)
     tried = json.loads(kept.read_text()) if kept.exists() else []
     known = {(place["file"], place["was"], place["is"]) for place in tried}
     counted = [place for place in tried if place["verdict"] is not None]
-    copy = Copy(arguments.folder)
+    copy = Copy(arguments.folders)
     waiting = [place for place in counted if place["verdict"] == ""] if arguments.again else \
-        (place for place in drawn(arguments.folder, arguments.seed)
+        (place for place in drawn(arguments.folders, arguments.seed)
          if (place["file"], place["was"], place["is"]) not in known)
     for place in waiting:
         if not arguments.again and len(counted) >= arguments.count:
             break
-        place["verdict"] = copy.verdict(place, {place["verdict"] for place in counted})
+        place["verdict"] = copy.verdict(place, counted)
         if not arguments.again:
             tried.append(place)
             counted += [place] if place["verdict"] is not None else []

@@ -1,24 +1,41 @@
 #!/usr/bin/env bash
-# Makes the pictures in docs/pictures anew, with the viewer as it was built last. Needs no display.
+# Makes the pictures in docs/pictures anew, with the viewer as it was built last. Needs no display, and root: a site's
+# lock, which one of them shows, counts in a file of root's alone.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 [ -x build/bin/orlo ] || { echo "screenshots.sh: build/bin/orlo is not there; build first" >&2; exit 1; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+mkdir -p "$work/site/orlo" "$work/english" "$work/japanese"
+cat > "$work/site/orlo/site.json" <<'SITE'
+{"Powerwall width": {"locked": true, "value": 2400, "reason": "The wall in the review room is 2.4 m wide."}}
+SITE
 
 # A home and a store of its own: the pictures show what everyone sees at the first start.
-HOME="$work" XDG_CONFIG_HOME="$work" XDG_RUNTIME_DIR="$work" tools/with-display.sh \
-    build/bin/orlo --sample --store "$work/preferences.db" --tour "$work"
+with_settings_of() {
+    local who="$work/$1" program=$2
+    shift 2
+    HOME="$who" XDG_CONFIG_HOME="$who" XDG_CONFIG_DIRS="$work/site" XDG_RUNTIME_DIR="$who" \
+        tools/with-display.sh "build/bin/$program" --store "$who/preferences.db" "$@"
+}
+
+japanese=2
+with_settings_of english orlo --sample --tour "$work/english"
+with_settings_of japanese orlo-prefs set "MainWindow user language" "$japanese"
+with_settings_of japanese orlo --sample --tour "$work/japanese"
+mv "$work/japanese/preferences.png" "$work/english/preferences-japanese.png"
+mv "$work/english/after.png" "$work/english/viewer.png"
 
 largest=200000
 mkdir -p docs/pictures
-for picture in after:viewer preferences:preferences preferences-search:preferences-search \
-    preferences-import:preferences-import; do
-    from="$work/${picture%%:*}.png"
+for name in viewer import \
+    preferences{,-search,-changed,-card,-changes,-applied,-rows,-history,-import,-locks,-dark,-panel,-japanese}; do
+    from="$work/english/$name.png"
+    [ -f "$from" ] || { echo "screenshots.sh: $name.png was not made" >&2; exit 1; }
     if [ "$(stat -c %s "$from")" -ge "$largest" ]; then
-        echo "screenshots.sh: $from is too large for the repository" >&2
+        echo "screenshots.sh: $name.png is too large for the repository" >&2
         exit 1
     fi
-    install -m 644 "$from" "docs/pictures/${picture##*:}.png"
+    install -m 644 "$from" "docs/pictures/$name.png"
 done

@@ -124,6 +124,9 @@ void olScriptRunner::runLine(const QByteArray &text)
         const QString error = m_answers.takeError();
         if (!error.isEmpty())
             throw olToolError(error);
+        const QStringList failed = m_session.takeNotices();
+        if (!failed.isEmpty())
+            throw olToolError(olSentences(failed));
         return;
     }
     throw olToolError(olDidYouMean(olToolError::tr("there is no command %1").arg(name), name, names));

@@ -15,6 +15,8 @@
 #include <QRegularExpression>
 
 #include <cstdio>
+#include <future>
+#include <optional>
 
 namespace
 {
@@ -32,11 +34,11 @@ int fail(const QString &error, int status)
     return status;
 }
 
-olImportResult read(const QString &model, const olImportChoice &choice)
+olImportJob jobFor(const QString &model, const olImportChoice &choice)
 {
     olImportJob job = olImportJob::of(model);
     choice.applyTo(job);
-    return olImport(job);
+    return job;
 }
 
 void remark(const QStringList &remarks)
@@ -50,25 +52,33 @@ void remark(const QStringList &remarks)
 int olBatch::render(const QString &model, const QString &pictureFile, const QSize &size, bool hasEdges,
                     const olImportChoice &choice)
 {
-    const olImportResult result = read(model, choice);
+    // The model is read in another process; meanwhile this one makes the view.
+    std::future<olImportResult> reading =
+        std::async(std::launch::async, olImport, jobFor(model, choice), olImportWatch());
+    std::optional<olViewport> view;
+    if (olViewport::isSupported()) {
+        view.emplace();
+        view->setAttribute(Qt::WA_DontShowOnScreen);
+        // Nobody sees what a window would show.
+        view->setUpdatesEnabled(false);
+        view->resize(size);
+        view->show();
+        view->setEdges(hasEdges);
+    }
+    const olImportResult result = reading.get();
     if (!result.document.isOk())
         return fail(result.document.error(), 2);
     remark(result.remarks);
-    olScene scene;
-    scene.setDocument(*result.document);
-    if (!olViewport::isSupported())
+    if (!view)
         return fail(Words::tr("The 3D view needs an X display, or XWayland, with OpenGL."), 1);
 
-    olViewport view;
-    view.setAttribute(Qt::WA_DontShowOnScreen);
-    view.resize(size);
-    view.setScene(&scene);
-    view.show();
-    view.setEdges(hasEdges);
-    view.fillPicture(size);
-    const QImage picture = view.stillPicture(size);
+    olScene scene;
+    scene.setDocument(*result.document);
+    view->setScene(&scene);
+    view->fillPicture(size);
+    const QImage picture = view->stillPicture(size);
     if (picture.isNull())
-        return fail(Words::tr("The model %1 cannot be drawn: %2").arg(model, view.error()), 1);
+        return fail(Words::tr("The model %1 cannot be drawn: %2").arg(model, view->error()), 1);
     QImageWriter writer(pictureFile);
     if (!writer.write(picture))
         return fail(Words::tr("Cannot write %1: %2.").arg(pictureFile, writer.errorString()), 1);
@@ -78,7 +88,7 @@ int olBatch::render(const QString &model, const QString &pictureFile, const QSiz
 
 int olBatch::convert(const QString &model, const QString &file, const olImportChoice &choice)
 {
-    const olImportResult result = read(model, choice);
+    const olImportResult result = olImport(jobFor(model, choice));
     if (!result.document.isOk())
         return fail(result.document.error(), 2);
     remark(result.remarks);

@@ -50,6 +50,7 @@ olFactsPanel::olFactsPanel(olScene &scene, QWidget *parent) : QWidget(parent), m
 {
     auto *content = new QWidget;
     auto *rows = new QFormLayout(content);
+    rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_what = new QLabel;
     m_what->setWordWrap(true);
     m_what->setTextFormat(Qt::PlainText);

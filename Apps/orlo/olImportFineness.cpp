@@ -95,7 +95,7 @@ olImportFineness::olImportFineness(const olImportJob &job, const LockReason &loc
               QStringLiteral(" mm"));
     addFlag(tr("&Merge Geometries"), &olImportRecord::mergeGeometries, "merge geometries");
     addFlag(tr("Remove &Empty Groups"), &olImportRecord::removeEmptyGroups, "remove empty groups");
-    addFlag(tr("&Unify Surface Normals"), &olImportRecord::unifySurfaceNormals, "unify surface normals");
+    addFlag(tr("Unif&y Surface Normals"), &olImportRecord::unifySurfaceNormals, "unify surface normals");
     m_keep->setObjectName(QStringLiteral("keep"));
     m_keep->setToolTip(tr("Without this they hold for this import alone."));
     form->addRow(m_keep);

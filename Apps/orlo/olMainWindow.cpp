@@ -341,6 +341,7 @@ void olMainWindow::addMenus()
     preferences->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma));
     connect(preferences, &QAction::triggered, this, [this] { openPreferences(); });
     m_dockPreferences = edit->addAction(tr("Preferences as a Pa&nel"));
+    m_dockPreferences->setObjectName(QStringLiteral("dockPreferences"));
     m_dockPreferences->setCheckable(true);
     m_dockPreferences->setChecked(QSettings().value(QLatin1String(dockedKey)).toBool());
     connect(m_dockPreferences, &QAction::toggled, this, &olMainWindow::dockPreferences);

@@ -1,16 +1,16 @@
 #include "olModelExtent.h"
 
+#include "olBox.h"
+#include "olIgesExtent.h"
+
 #include "Exchange/olModelFormat.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFile>
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
 
 namespace
 {
@@ -33,7 +33,7 @@ double unitOf(const QByteArray &text)
 }
 
 /// The three numbers behind a point's name; false where there are fewer.
-bool readPoint(const QByteArray &text, int place, std::array<double, 3> &point)
+bool readPoint(const QByteArray &text, int place, olBox::Point &point)
 {
     const int list = text.indexOf(",(", place);
     if (list < 0)
@@ -49,30 +49,31 @@ bool readPoint(const QByteArray &text, int place, std::array<double, 3> &point)
     return true;
 }
 
+std::optional<double> stepExtent(QFile &model)
+{
+    const QByteArray text = model.read(mostBytes).replace(' ', "").toUpper();
+    olBox box;
+    for (int place = text.indexOf("CARTESIAN_POINT("); place >= 0;
+         place = text.indexOf("CARTESIAN_POINT(", place + 1)) {
+        olBox::Point point{};
+        if (readPoint(text, place, point))
+            box.add(point);
+    }
+    const std::optional<double> extent = box.extent();
+    return extent ? std::optional<double>(*extent * unitOf(text)) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<double> olModelExtent(const QString &file)
 {
     const olModelFormat *format = olModelFormat::ofFile(file);
     QFile model(file);
-    if (!format || qstrcmp(format->optionsType, "STEP") != 0 || !model.open(QIODevice::ReadOnly))
+    if (!format || !model.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QByteArray text = model.read(mostBytes).replace(' ', "").toUpper();
-    constexpr double limit = std::numeric_limits<double>::max();
-    std::array<double, 3> low{limit, limit, limit};
-    std::array<double, 3> high{-limit, -limit, -limit};
-    for (int place = text.indexOf("CARTESIAN_POINT("); place >= 0;
-         place = text.indexOf("CARTESIAN_POINT(", place + 1)) {
-        std::array<double, 3> point{};
-        if (!readPoint(text, place, point))
-            continue;
-        for (std::size_t axis = 0; axis < point.size(); ++axis) {
-            low[axis] = std::min(low[axis], point[axis]);
-            high[axis] = std::max(high[axis], point[axis]);
-        }
-    }
-    const double extent = std::hypot(high[0] - low[0], high[1] - low[1], high[2] - low[2]);
-    return low[0] <= high[0] && extent > 0.0 ? std::optional<double>(extent * unitOf(text)) : std::nullopt;
+    if (qstrcmp(format->optionsType, "STEP") == 0)
+        return stepExtent(model);
+    return qstrcmp(format->optionsType, "IGES") == 0 ? olIgesExtent(model) : std::nullopt;
 }
 
 QString olToleranceInWords(double tolerance, double extent)

@@ -18,7 +18,11 @@ public:
     [[nodiscard]] int run(const QString &folder);
 
 private:
-    [[nodiscard]] bool moreOfPreferences(olPreferencesDialog &preferences) const;
+    [[nodiscard]] bool pending(olPreferencesDialog &preferences) const;
+    [[nodiscard]] bool lists(olPreferencesDialog &preferences) const;
+    [[nodiscard]] bool imports(olPreferencesDialog &preferences) const;
+    [[nodiscard]] bool surroundings(olPreferencesDialog &preferences) const;
+    [[nodiscard]] bool dialog(const QString &name) const;
     [[nodiscard]] bool viewPicture(const QString &name) const;
     [[nodiscard]] bool save(const QImage &image, const QString &name) const;
     [[nodiscard]] bool picture(QWidget &widget, const QString &name) const;

@@ -23,6 +23,8 @@ bool isLabelBehind(QWidget &control)
     });
 }
 
+QString perCent(double share) { return QStringLiteral("= %1 %").arg(share * 100.0, 0, 'g', 3); }
+
 } // namespace
 
 olFieldUnits::~olFieldUnits()
@@ -60,6 +62,26 @@ void olFieldUnits::show(QWidget &control, const QString &unit)
         if (auto *box = qobject_cast<QAbstractSpinBox *>(field->parentWidget()))
             box->setMinimumWidth(box->sizeHint().width() + label->sizeHint().width() + gap);
         place(*field);
+    }
+}
+
+void olFieldUnits::showShare(QWidget &control)
+{
+    // The room for the longest of them.
+    show(control, perCent(1.0));
+    const QList<QLineEdit *> fields = control.findChildren<QLineEdit *>();
+    for (QLineEdit *field : fields) {
+        const QPointer<QLabel> label = m_units.value(field);
+        const auto tell = [this, field, label](const QString &text) {
+            bool isNumber = false;
+            const double share = text.toDouble(&isNumber);
+            if (!label)
+                return;
+            label->setText(isNumber ? perCent(share) : QString());
+            place(*field);
+        };
+        connect(field, &QLineEdit::textChanged, this, tell);
+        tell(field->text());
     }
 }
 

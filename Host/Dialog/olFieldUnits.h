@@ -21,6 +21,9 @@ public:
     /// In every field of the control; a control without a field shows none, nor one with a label behind it.
     void show(QWidget &control, const QString &unit);
 
+    /// The same with what the number, a part of one, is in per cent.
+    void showShare(QWidget &control);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

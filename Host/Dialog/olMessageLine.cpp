@@ -3,6 +3,7 @@
 #include "Widgets/olBlended.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -57,12 +58,27 @@ void olMessageLine::show(const QString &text, const QString &action, bool isErro
     m_icon->setPixmap(style()->standardIcon(icon).pixmap(size, size));
     m_text->setText(text);
 
-    QPalette shaded;
-    const QColor accent = isError ? QColor(Qt::red) : shaded.color(QPalette::Highlight);
-    shaded.setColor(QPalette::Window, olBlended(shaded.color(QPalette::Window), accent, isError ? 0.15 : 0.1));
-    setPalette(shaded);
+    m_isError = isError;
+    shade();
     setVisible(true);
 
     QAccessibleEvent alert(m_text, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+/// The desktop's colours may become others while it is shown.
+void olMessageLine::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && isVisible())
+        shade();
+}
+
+void olMessageLine::shade()
+{
+    QPalette shaded;
+    const QColor accent = m_isError ? QColor(Qt::red) : shaded.color(QPalette::Highlight);
+    shaded.setColor(QPalette::Window, olBlended(shaded.color(QPalette::Window), accent, m_isError ? 0.15 : 0.1));
+    if (shaded.color(QPalette::Window) != palette().color(QPalette::Window))
+        setPalette(shaded);
 }

@@ -28,11 +28,16 @@ signals:
     /// The button of the note was pressed.
     void actionAsked();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void show(const QString &text, const QString &action, bool isError);
+    void shade();
 
     QLabel *m_icon;
     QLabel *m_text;
     QPushButton *m_action;
     QToolButton *m_close;
+    bool m_isError = false;
 };

@@ -49,21 +49,26 @@ void olPageFrame::tell(const olPreferencesEntry &entry, const std::vector<olFoun
         const olSettingDescription setting = olSettingDescription::of(entry, key);
         if (!setting.unit.isEmpty() && control.keys.size() == 1)
             m_units.show(*control.widget, setting.unit);
+        else if (setting.isShare)
+            m_units.showShare(*control.widget);
         const olEffectText text = olEffectText::of(key, setting.effect);
         ++notes[text.page];
-        if (!text.brief.isEmpty()) {
-            remarks.push_back({control, text.brief});
-            pages << text.page;
-        }
+        remarks.push_back({control, text.brief});
+        pages << text.page;
     }
-    // What holds for most is said once, where something is to be said of all.
-    if (!notes.empty() && notes.count(QString()) == 0)
+    // What holds for most is said once, and then of the few others what holds for them.
+    constexpr int few = 8;
+    const int others = notes[QString()];
+    notes.erase(QString());
+    if (!notes.empty() && others * few <= pages.size())
         m_note = std::max_element(notes.begin(), notes.end(), [](const auto &one, const auto &other) {
                      return one.second < other.second;
                  })->first;
-    for (std::size_t index = 0; index < remarks.size(); ++index) {
+    for (std::size_t index = 0; !m_note.isEmpty() && index < remarks.size(); ++index) {
         if (pages[int(index)] == m_note)
             remarks[index].brief.clear();
+        else if (pages[int(index)].isEmpty())
+            remarks[index].brief = tr("at once");
     }
     m_marks->setRemarks(std::move(remarks));
 }

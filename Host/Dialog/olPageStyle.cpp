@@ -22,21 +22,28 @@ QFont captionFont(const QWidget *widget)
     return bold;
 }
 
-QColor borderOf(const QPalette &palette)
+QColor borderOf(const QPalette &palette, double share = borderShare)
 {
-    return olBlended(palette.color(QPalette::Window), palette.color(QPalette::WindowText), borderShare);
+    return olBlended(palette.color(QPalette::Window), palette.color(QPalette::WindowText), share);
 }
 
-/// The desktop's own borders are darker than what they stand on, which nothing is on black.
-void drawBorder(const QStyleOption &option, QPainter &painter)
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+/// The desktop's own borders are darker than what they stand on, which is little in the dark and nothing on black.
+void drawBorder(const QPalette &palette, const QRect &rect, QPainter &painter)
 {
     constexpr int nearlyBlack = 16;
-    if (option.palette.color(QPalette::Window).lightness() > nearlyBlack)
+    constexpr double shareInTheDark = 0.55; // still 3 to 1, but no glaring lines
+    if (!isDark(palette))
         return;
+    const bool isBlack = palette.color(QPalette::Window).lightness() <= nearlyBlack;
     painter.save();
-    painter.setPen(borderOf(option.palette));
+    painter.setPen(borderOf(palette, isBlack ? borderShare : shareInTheDark));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.restore();
 }
 
@@ -48,7 +55,7 @@ void olPageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_Frame ||
         element == PE_FrameTabWidget)
-        drawBorder(*option, *painter);
+        drawBorder(option->palette, option->rect, *painter);
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
         return;
     painter->save();
@@ -66,6 +73,15 @@ void olPageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
 void olPageStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                               const QWidget *widget) const
 {
+    if (element == CE_TabBarTabShape) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        painter->save();
+        painter->setClipRect(option->rect);
+        // Open to the tab's page.
+        drawBorder(option->palette, option->rect.adjusted(0, 0, 0, option->state & State_Selected ? 2 : 0), *painter);
+        painter->restore();
+        return;
+    }
     const auto *shown = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     const auto *box = qobject_cast<const QComboBox *>(widget);
     if (element != CE_ComboBoxLabel || !shown || !box || !shown->currentText.isEmpty() || box->currentIndex() >= 0) {
@@ -79,6 +95,18 @@ void olPageStyle::drawControl(ControlElement element, const QStyleOption *option
     QProxyStyle::drawControl(element, &hint, painter, widget);
 }
 
+/// The handle, and what lies before and behind it.
+void olPageStyle::drawSlider(const QStyleOptionComplex &option, QPainter &painter, const QWidget *widget) const
+{
+    const QRect handle = proxy()->subControlRect(CC_Slider, &option, SC_SliderHandle, widget);
+    const QRect groove = proxy()->subControlRect(CC_Slider, &option, SC_SliderGroove, widget);
+    painter.save();
+    painter.setClipRegion(QRegion(option.rect) - QRegion(handle));
+    drawBorder(option.palette, groove, painter);
+    painter.restore();
+    drawBorder(option.palette, handle, painter);
+}
+
 void olPageStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                      const QWidget *widget) const
 {
@@ -86,7 +114,11 @@ void olPageStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     if (control != CC_GroupBox || !box) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         if (control == CC_ComboBox || control == CC_SpinBox)
-            drawBorder(*option, *painter);
+            drawBorder(option->palette, option->rect, *painter);
+        else if (control == CC_ScrollBar)
+            drawBorder(option->palette, proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget), *painter);
+        else if (control == CC_Slider)
+            drawSlider(*option, *painter, widget);
         return;
     }
     painter->save();

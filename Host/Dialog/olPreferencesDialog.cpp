@@ -337,8 +337,8 @@ void olPreferencesDialog::showEvent(QShowEvent *event)
     m_outside->clear();
     // Texts and choices may have changed since the last time.
     m_search->invalidate();
-    filter();
-    showCurrent();
+    if (filter())
+        showCurrent();
     m_searchField->setFocus();
 }
 
@@ -680,7 +680,7 @@ void olPreferencesDialog::giveBack(QWidget *page)
     delete m_frames.take(page);
 }
 
-void olPreferencesDialog::filter()
+bool olPreferencesDialog::filter()
 {
     const bool isFiltered = collectFound();
     for (olPageFrame *frame : qAsConst(m_frames))
@@ -692,13 +692,14 @@ void olPreferencesDialog::filter()
     if (!isFiltered) {
         m_tree->showAll();
         showCurrent();
-        return;
+        return false;
     }
     std::map<const olPreferencesEntry *, int> counts;
     for (const Found &found : m_found)
         counts[found.entry] += found.control.widget ? 1 : 0;
     m_tree->showOnly(counts);
     showFound();
+    return true;
 }
 
 /// Settings that match the search and differ from their default where only those are wanted. False where nothing is

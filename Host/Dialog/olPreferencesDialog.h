@@ -128,7 +128,7 @@ private:
     [[nodiscard]] std::vector<QWidget *> tabStops() const;
     void giveBack(QWidget *page);
 
-    void filter();
+    bool filter(); ///< whether something is searched for
     void revealFirstHit();
     bool collectFound();
     [[nodiscard]] QString foundText(const Found &found, olFoundSettings::Column column) const;

@@ -6,8 +6,7 @@ olEffectText olEffectText::of(const std::string &key, const QString &effect)
 {
     if (olIsOnlyRecorded(key))
         return {tr("only recorded"), tr("Is only recorded by this host"),
-                tr("This host only records these settings: it has no part that goes by them, such as a reader "
-                   "for the format.")};
+                tr("This host only records these settings: no reader or other part of it goes by them.")};
     if (effect == QLatin1String("next import"))
         return {tr("next import"), tr("Takes effect at the next import"),
                 tr("These settings take effect at the next import.")};

@@ -53,13 +53,17 @@ olFoundControl indexed(const olPageControl &control)
         found.labels.emplace_back(label);
     found.name = control.names.value(0);
     found.keys = control.settingKeys;
-    const QStringList shown = control.names + control.captions + control.choices + QStringList{control.toolTip};
-    QStringList texts = control.settingKeys;
-    for (const QString &text : shown)
-        texts << olPlainText(text) << inEnglish(text);
     found.captions = control.captions;
-    found.searched = folded(texts.join(border));
+    found.texts = control.names + control.captions + control.choices + QStringList{control.toolTip};
     return found;
+}
+
+QString comparable(const olFoundControl &control)
+{
+    QStringList texts = control.keys;
+    for (const QString &text : control.texts)
+        texts << olPlainText(text) << inEnglish(text);
+    return folded(texts.join(border));
 }
 
 using Compare = bool (*)(const QString &text, const QString &word);
@@ -118,7 +122,9 @@ std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
     for (const Compare compare : {stands, isNearly}) {
         for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
             olSearchResult result{entry, {}};
-            for (const olFoundControl &control : controls(*entry)) {
+            for (olFoundControl &control : page(*entry)) {
+                if (control.searched.isEmpty())
+                    control.searched = comparable(control);
                 if (isHit(*entry, control, words, compare))
                     result.hits.push_back(&control);
             }
@@ -132,7 +138,9 @@ std::vector<olSearchResult> olSettingsSearch::find(const QString &text)
     return results;
 }
 
-const std::vector<olFoundControl> &olSettingsSearch::controls(const olPreferencesEntry &entry)
+const std::vector<olFoundControl> &olSettingsSearch::controls(const olPreferencesEntry &entry) { return page(entry); }
+
+std::vector<olFoundControl> &olSettingsSearch::page(const olPreferencesEntry &entry)
 {
     const auto known = m_pages.find(&entry);
     if (known != m_pages.end())

@@ -25,7 +25,8 @@ struct olFoundControl {
     QString name;
     QStringList keys;
     QStringList captions; ///< of tabs, frames and groups around it, outermost first
-    QString searched;
+    QStringList texts;    ///< in which it is searched
+    QString searched;     ///< these and their English ones as they are compared, once somebody searches
 };
 
 /// A page on which something was found, and what.
@@ -59,5 +60,7 @@ public:
     void invalidate();
 
 private:
+    [[nodiscard]] std::vector<olFoundControl> &page(const olPreferencesEntry &entry);
+
     std::map<const olPreferencesEntry *, std::vector<olFoundControl>> m_pages;
 };

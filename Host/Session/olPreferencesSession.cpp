@@ -196,6 +196,8 @@ olPreferencesSession::olPreferencesSession(const QString &storeFile, const QStri
 {
     connect(&m_following, &QTimer::timeout, this, &olPreferencesSession::takeOver);
     connect(&m_following, &QTimer::timeout, this, &olPreferencesSession::followSite);
+    connect(&olPreferencesRegistry::the().news(), &olRegistryNews::moduleFailed, this,
+            &olPreferencesSession::tellOfFailure);
 }
 
 olPreferencesSession::~olPreferencesSession() { stop(); }
@@ -411,10 +413,10 @@ olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> 
     // A module may open a box on the way.
     const QScopedValueRollback<bool> changing(m_isChanging, true);
     const Snapshot before;
-    takeBack(shown, besides);
+    const bool isTakenBack = takeBack(shown, besides);
     for (const std::string &key : restored)
         restore(key);
-    olResult<> saved = save();
+    olResult<> saved = isTakenBack ? save() : olFailure{m_notices.takeLast()};
     m_restored.clear();
     if (!saved.isOk()) {
         before.restore();
@@ -440,6 +442,19 @@ olResult<> olPreferencesSession::commit(const std::vector<olPreferencesEntry *> 
     std::for_each(changed.begin() + std::ptrdiff_t(shown.size()), changed.end(),
                   [this](auto *entry) { emit tookOver(*entry); });
     return saved;
+}
+
+void olPreferencesSession::tellOfFailure(const QString &module, const QString &reason)
+{
+    const QString text =
+        reason.isEmpty()
+            ? QCoreApplication::translate("olPreferencesSession", "The module %1 has failed and does not say why.")
+                  .arg(module)
+            : QCoreApplication::translate("olPreferencesSession", "The module %1 has failed: %2.").arg(module, reason);
+    m_notices.removeAll(text);
+    m_notices << text;
+    // Whoever asks after what is just being done tells it first.
+    QMetaObject::invokeMethod(this, &olPreferencesSession::noticed, Qt::QueuedConnection);
 }
 
 void olPreferencesSession::follow()
@@ -678,12 +693,14 @@ std::optional<olSettingWarning> olPreferencesSession::warning(const std::string 
 
 /// The pages into their values, but for what is locked: that has its value again and counts as if nobody had touched
 /// it.
-void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown,
+bool olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &shown,
                                     const olSettingValues &besides) const
 {
     const Snapshot before;
-    for (olPreferencesEntry *entry : shown)
-        entry->updateData();
+    for (olPreferencesEntry *entry : shown) {
+        if (!entry->updateData())
+            return false;
+    }
     for (const auto &setting : besides) {
         eachOwner(setting.first, [&setting](olPreferencesEntry &owner) {
             owner.setValue(setting.first, setting.second);
@@ -699,6 +716,7 @@ void olPreferencesSession::takeBack(const std::vector<olPreferencesEntry *> &sho
                                                                    entry->value(offered.key)));
         }
     }
+    return true;
 }
 
 void olPreferencesSession::restoreLocked() const

@@ -52,7 +52,7 @@ public:
     olResult<> loadStore(olStoreUse use = olStoreUse::Own);
 
     /// What the person at the screen is to be told, each once: a damaged store and where it is now, faults in a site
-    /// file. To be asked after the start and after each save.
+    /// file, a module that threw. To be asked after the start and after each save.
     [[nodiscard]] QStringList takeNotices() { return std::exchange(m_notices, {}); }
 
     /// Has all texts that are made from now on in a language, the plug-in's too where it is not loaded yet. 0 is
@@ -177,7 +177,8 @@ private:
     [[nodiscard]] bool isLocked(const std::string &key) const;
     olResult<> saveIntoMended(const olFailure &failure, const olPreferencesStore::Values &kept);
     void followSite();
-    void takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
+    void tellOfFailure(const QString &module, const QString &reason);
+    [[nodiscard]] bool takeBack(const std::vector<olPreferencesEntry *> &shown, const olSettingValues &besides) const;
     void restoreLocked() const;
     void keepEmptied() const;
 

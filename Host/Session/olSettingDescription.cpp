@@ -97,6 +97,7 @@ olSettingDescription olSettingDescription::of(const olPreferencesEntry &entry, c
     description.decimals = wholeNumber(told("decimals"));
     description.maximumLength = wholeNumber(told("maximumLength"));
     description.unit = told("unit").toString();
+    description.isShare = told("share").toBool();
     description.choices = choicesFrom(told("choices").toList(), description.type);
     description.isEditable = told("editable").toBool();
     description.effect = map.value(QStringLiteral("effect"), description.effect).toString();

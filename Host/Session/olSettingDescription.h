@@ -38,6 +38,7 @@ struct ORLO_HOST_EXPORT olSettingDescription {
     std::optional<int> decimals; ///< that the control keeps
     std::optional<int> maximumLength;
     QString unit;
+    bool isShare = false; ///< of a whole that is 1
     std::vector<olSettingChoice> choices;
     bool isEditable = false;                ///< whether other values than the choices can be typed
     QString effect = QStringLiteral("now"); ///< or "next import" or "next start"

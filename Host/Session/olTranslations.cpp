@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 #include <QVariant>
 
@@ -65,6 +66,8 @@ void olTranslations::load(int language)
 {
     m_translators.clear();
     sources().clear();
+    if (m_language != 0)
+        QLocale::setDefault(QLocale::system());
     if (QCoreApplication::instance())
         QCoreApplication::instance()->setProperty(filesProperty, QVariant());
     m_language = language;
@@ -81,6 +84,9 @@ void olTranslations::loadOfToolkit()
     if (m_language == 0)
         return;
     const QString &code = languages().at(m_language);
+    // Dates are in the same language; the person's own manner counts where it is of that language.
+    if (QLocale::system().language() != QLocale(code).language())
+        QLocale::setDefault(QLocale(code));
     add(QStringLiteral("qtbase_") + (code == QLatin1String("zh") ? QStringLiteral("zh_CN") : code),
         {QLibraryInfo::location(QLibraryInfo::TranslationsPath)});
 }

@@ -27,7 +27,7 @@ public:
     /// broken leaves its texts English, and a line in the log.
     void load(int language);
 
-    /// Takes those of the toolkit, in the same language: its buttons and dialogs.
+    /// Takes those of the toolkit, in the same language: its buttons, dialogs and dates.
     void loadOfToolkit();
 
     /// Takes the texts of a plug-in, which lie in the folder "translations" beside its library, in the same language.

@@ -2,7 +2,6 @@
 
 #include "Utilities/olLog.h"
 
-#include <QHostInfo>
 #include <QNetworkInterface>
 #include <QRegularExpression>
 #include <QSysInfo>
@@ -58,13 +57,17 @@ void olWebAccess::allowHost(const QString &host)
         m_addresses.insert(QHostAddress(QHostAddress::LocalHost));
         return;
     }
-    QHostInfo::lookupHost(host, this, [this](const QHostInfo &found) {
-        if (found.error() != QHostInfo::NoError)
-            olLog::error(tr("The web server does not answer %1: %2").arg(found.hostName(), found.errorString()));
-        const QList<QHostAddress> addresses = found.addresses();
-        for (const QHostAddress &resolved : addresses)
-            m_addresses.insert(resolved);
-    });
+    // By the slot's name: a function would never be freed if the program ends before the answer.
+    QHostInfo::lookupHost(host, this, SLOT(allowFound(QHostInfo)));
+}
+
+void olWebAccess::allowFound(const QHostInfo &found)
+{
+    if (found.error() != QHostInfo::NoError)
+        olLog::error(tr("The web server does not answer %1: %2").arg(found.hostName(), found.errorString()));
+    const QList<QHostAddress> addresses = found.addresses();
+    for (const QHostAddress &resolved : addresses)
+        m_addresses.insert(resolved);
 }
 
 bool olWebAccess::isAllowed(const olWebRequest &request) const

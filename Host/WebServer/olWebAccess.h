@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QHostAddress>
+#include <QHostInfo>
 #include <QObject>
 #include <QSet>
 #include <QString>
@@ -26,6 +27,9 @@ public:
     void allowOnly(const std::string &list);
 
     [[nodiscard]] bool isAllowed(const olWebRequest &request) const;
+
+private slots:
+    void allowFound(const QHostInfo &found);
 
 private:
     void allowHost(const QString &host);

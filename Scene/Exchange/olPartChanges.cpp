@@ -14,6 +14,8 @@
 #include <Bnd_Box.hxx>
 #include <GProp_GProps.hxx>
 #include <Geom_Surface.hxx>
+#include <Message_ProgressScope.hxx>
+#include <OSD_Parallel.hxx>
 #include <Poly_Triangulation.hxx>
 #include <ShapeBuild_ReShape.hxx>
 #include <ShapeFix_Shape.hxx>
@@ -28,6 +30,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <string>
@@ -170,8 +173,7 @@ void olPartChanges::keepOnly(olChangedPart &part, const Kinds &wanted)
         apply(part, change);
 }
 
-double olPartChanges::stitch(olChangedPart &part, double tolerance,
-                             const std::function<unsigned(const TopoDS_Shape &)> &trianglesOf)
+double olPartChanges::stitch(olChangedPart &part, double tolerance, const MeshUpTo &mesh)
 {
     const std::vector<TopoDS_Face> faces = facesOf(part.shape);
     const bool hasSolids = TopExp_Explorer(part.shape, TopAbs_SOLID).More();
@@ -181,10 +183,10 @@ double olPartChanges::stitch(olChangedPart &part, double tolerance,
     constexpr double share = 0.1;
     constexpr double distorted = 1.5;
     double held = std::min(tolerance, share * smallestOf(faces));
-    const double most = distorted * trianglesOf(part.shape);
+    const auto most = unsigned(distorted * mesh(part.shape, std::numeric_limits<int>::max()));
     for (int attempt = 0; attempt < 3; ++attempt, held *= share) {
         olChangedPart sewn = part;
-        if (held > 0 && sew(sewn, faces, held) && trianglesOf(sewn.shape) <= most) {
+        if (held > 0 && sew(sewn, faces, held) && mesh(sewn.shape, most) <= most) {
             part = sewn;
             return held;
         }
@@ -194,8 +196,6 @@ double olPartChanges::stitch(olChangedPart &part, double tolerance,
 
 void olPartChanges::repair(olChangedPart &part)
 {
-    if (isSound(part.shape))
-        return;
     ShapeFix_Shape fix(part.shape);
     if (!fix.Perform() || fix.Shape().IsNull())
         return;
@@ -206,6 +206,21 @@ void olPartChanges::repair(olChangedPart &part)
 bool olPartChanges::isSound(const TopoDS_Shape &shape)
 {
     return hasMeshes(facesOf(shape)) || BRepCheck_Analyzer(shape).IsValid();
+}
+
+std::vector<char> olPartChanges::areSound(const std::vector<TopoDS_Shape> &shapes,
+                                          const Message_ProgressRange &progress)
+{
+    Message_ProgressScope scope(progress, nullptr, double(std::max<std::size_t>(shapes.size(), 1)));
+    std::vector<Message_ProgressRange> ranges;
+    ranges.reserve(shapes.size());
+    std::generate_n(std::back_inserter(ranges), shapes.size(), [&scope] { return scope.Next(); });
+    std::vector<char> sound(shapes.size());
+    OSD_Parallel::For(0, int(shapes.size()), [&](int index) {
+        const Message_ProgressScope step(ranges[std::size_t(index)], nullptr, 1);
+        sound[std::size_t(index)] = char(isSound(shapes[std::size_t(index)]));
+    });
+    return sound;
 }
 
 void olPartChanges::unifyNormals(olChangedPart &part)

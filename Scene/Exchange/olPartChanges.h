@@ -2,6 +2,8 @@
 
 #include "Model/olDocumentCopy.h"
 
+class Message_ProgressRange;
+
 /// What the import options do to one part.
 namespace olPartChanges
 {
@@ -19,15 +21,19 @@ struct Kinds {
 void keepOnly(olChangedPart &part, const Kinds &wanted);
 
 /// Joins faces whose borders lie within the tolerance of each other, in millimetres. Solids are joined already. Goes by
-/// a smaller tolerance, or by none, where faces would be lost, or the part be no longer what it was: `trianglesOf`
-/// counts the triangles that draw a shape, of which a distorted one needs many more. Returns the tolerance, 0 for none.
-double stitch(olChangedPart &part, double tolerance, const std::function<unsigned(const TopoDS_Shape &)> &trianglesOf);
+/// a smaller tolerance, or by none, where faces would be lost, or the part be no longer what it was: a distorted one
+/// needs many more triangles, and `mesh` tells the number of a shape, or any that is too large where it gives up.
+/// Returns the tolerance, 0 for none.
+using MeshUpTo = std::function<unsigned(const TopoDS_Shape &shape, unsigned most)>;
+double stitch(olChangedPart &part, double tolerance, const MeshUpTo &mesh);
 
 /// Repairs what the check finds broken in surfaces.
 void repair(olChangedPart &part);
 
-/// Whether the check finds the surfaces sound.
+/// Whether the check finds the surfaces sound; of many shapes on all processors.
 [[nodiscard]] bool isSound(const TopoDS_Shape &shape);
+[[nodiscard]] std::vector<char> areSound(const std::vector<TopoDS_Shape> &shapes,
+                                         const Message_ProgressRange &progress);
 
 /// Turns faces, and the triangles of meshes, so that neighbours face the same way and solids face outward.
 void unifyNormals(olChangedPart &part);

@@ -23,6 +23,7 @@
 #include <Quantity_ColorRGBA.hxx>
 #include <Standard_Failure.hxx>
 #include <TDF_LabelIndexedMap.hxx>
+#include <TDF_LabelMap.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
 #include <TopExp.hxx>
@@ -74,7 +75,9 @@ public:
 
     [[nodiscard]] olScene::Document run(const Message_ProgressRange &progress)
     {
-        Message_ProgressScope scope(progress, "Parts", partCount());
+        Message_ProgressScope whole(progress, "Treatment", 2);
+        prepare(whole.Next());
+        Message_ProgressScope scope(whole.Next(), "Parts", partCount());
         olDocumentCopy copy;
         copy.keepEmptyGroups = !m_job.options.removeEmptyGroups;
         copy.isWanted = [this](const TDF_Label &instance) {
@@ -113,6 +116,33 @@ public:
     }
 
 private:
+    /// What is done to all parts at once, on all processors: they are checked, and get their triangles. Where an option
+    /// changes the shape of one, that is done again for it.
+    void prepare(const Message_ProgressRange &progress)
+    {
+        std::vector<TDF_Label> parts;
+        std::vector<TopoDS_Shape> shapes;
+        TDF_LabelSequence labels;
+        m_shapes->GetShapes(labels);
+        for (const TDF_Label &label : labels) {
+            if (!XCAFDoc_ShapeTool::IsSimpleShape(label) || !wantedOf(label).surfaces)
+                continue;
+            parts.push_back(label);
+            shapes.push_back(XCAFDoc_ShapeTool::GetShape(label));
+        }
+        constexpr double checking = 1;
+        constexpr double meshing = 4;
+        Message_ProgressScope scope(progress, nullptr, checking + meshing);
+        if (m_job.verify || m_job.optimize) {
+            const std::vector<char> sound = olPartChanges::areSound(shapes, scope.Next(checking));
+            for (std::size_t index = 0; index < parts.size(); ++index) {
+                if (!sound[index])
+                    m_unsound.Add(parts[index]);
+            }
+        }
+        olTriangles::mesh(shapes, fineness(), scope.Next(meshing));
+    }
+
     /// One remark for all of a kind.
     void tell() const
     {
@@ -147,13 +177,19 @@ private:
                            [this](const TDF_Label &layer) { return m_layers->IsVisible(layer); });
     }
 
-    void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
+    [[nodiscard]] olPartChanges::Kinds wantedOf(const TDF_Label &label) const
     {
         const olImportRecord &options = m_job.options;
         const bool visible = isVisible(label);
-        const olPartChanges::Kinds wanted{options.importSurfaces && (visible || options.importInvisibleSurfaces),
-                                          options.importMeshes && (visible || options.importInvisibleMeshes),
-                                          options.importCurves && (visible || options.importInvisibleCurves)};
+        return {options.importSurfaces && (visible || options.importInvisibleSurfaces),
+                options.importMeshes && (visible || options.importInvisibleMeshes),
+                options.importCurves && (visible || options.importInvisibleCurves)};
+    }
+
+    void change(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
+    {
+        const olImportRecord &options = m_job.options;
+        const olPartChanges::Kinds wanted = wantedOf(label);
         const olPartChanges::Kinds there = olPartChanges::kindsOf(part.shape);
         m_hasLost.surfaces = m_hasLost.surfaces || (there.surfaces && !wanted.surfaces);
         m_hasLost.meshes = m_hasLost.meshes || (there.meshes && !wanted.meshes);
@@ -161,22 +197,27 @@ private:
         olPartChanges::keepOnly(part, wanted);
         if (part.shape.IsNull())
             return;
-        if (m_job.verify && !olPartChanges::isSound(part.shape))
-            m_faulty << olShownNameOf(label);
-        if (m_job.optimize)
-            olPartChanges::repair(part);
+        bool isAsPrepared = part.changes.empty();
+        if ((m_job.verify || m_job.optimize) &&
+            !(isAsPrepared ? !m_unsound.Contains(label) : olPartChanges::isSound(part.shape))) {
+            if (m_job.verify)
+                m_faulty << olShownNameOf(label);
+            if (m_job.optimize)
+                olPartChanges::repair(part);
+        }
         constexpr double meshing = 1;
         constexpr double stitching = 2;
         Message_ProgressScope scope(progress, nullptr, stitching + meshing);
-        if (options.stitching)
-            stitch(label, part, scope.Next(stitching));
+        if (options.stitching && stitch(label, part, scope.Next(stitching)))
+            isAsPrepared = false;
         if (m_job.verify)
             dropDegenerate(part.shape);
         if (options.mergeGeometries)
             olPartChanges::mergeMeshes(part, [this](const TopoDS_Shape &face) { return lookOf(face); });
         if (options.unifySurfaceNormals)
             olPartChanges::unifyNormals(part);
-        olTriangles::mesh(part.shape, fineness(), scope.Next(meshing));
+        if (!isAsPrepared || !part.changes.empty())
+            olTriangles::mesh(part.shape, fineness(), scope.Next(meshing));
         sharpen(part.shape, options.unifySurfaceNormals);
         const int missing = facesWithoutTriangles(part.shape);
         if (missing > 0)
@@ -186,16 +227,18 @@ private:
     }
 
     /// Sewing may rebuild faces so that their colours would have nowhere to go; then the part stays as it was read.
-    void stitch(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
+    /// Whether it, or what it has in common with what was tried, needs its triangles anew.
+    bool stitch(const TDF_Label &label, olChangedPart &part, const Message_ProgressRange &progress)
     {
         // As it is, and what comes of each of a few tolerances: with many more triangles where that is bad.
         constexpr double trials = 4;
         Message_ProgressScope scope(progress, nullptr, trials);
+        bool isAnythingTried = false;
         olChangedPart stitched = part;
         const double wanted = m_job.options.stitchingTolerance;
-        const double used = olPartChanges::stitch(stitched, wanted, [&](const TopoDS_Shape &shape) {
-            olTriangles::mesh(shape, fineness(), scope.Next());
-            return olTriangles::count(shape);
+        const double used = olPartChanges::stitch(stitched, wanted, [&](const TopoDS_Shape &shape, unsigned most) {
+            isAnythingTried = true;
+            return olTriangles::mesh(shape, fineness(), most, scope.Next());
         });
         if (used < wanted && used > 0)
             m_heldBack << Words::tr("%1 (%2 mm)").arg(olShownNameOf(label)).arg(used);
@@ -207,9 +250,10 @@ private:
         XCAFDoc_ShapeTool::GetSubShapes(label, labels);
         for (const TDF_Label &piece : labels) {
             if (!pieces.Contains(stitched.follow(XCAFDoc_ShapeTool::GetShape(piece))))
-                return;
+                return isAnythingTried;
         }
         part = stitched;
+        return isAnythingTried;
     }
 
     /// Without tessellation values of its own an import goes by the usual ones.
@@ -282,6 +326,7 @@ private:
     Handle(XCAFDoc_ColorTool) m_colors;
     Handle(XCAFDoc_LayerTool) m_layers;
     Handle(XCAFDoc_ShapeTool) m_shapes;
+    TDF_LabelMap m_unsound;
     olPartChanges::Kinds m_hasLost{false, false, false};
     bool m_hasLostInstances = false;
     QStringList m_faulty;

@@ -2,6 +2,8 @@
 
 #include "Model/olScene.h"
 
+#include <vector>
+
 class Message_ProgressRange;
 class TopoDS_Shape;
 
@@ -20,6 +22,14 @@ public:
 
     /// The same, which can be watched and given up.
     static void mesh(const TopoDS_Shape &shape, const Fineness &fineness, const Message_ProgressRange &progress);
+
+    /// The same face by face, until there are more triangles than `most`. Returns how many there are then.
+    static unsigned mesh(const TopoDS_Shape &shape, const Fineness &fineness, unsigned most,
+                         const Message_ProgressRange &progress);
+
+    /// The first of many shapes, on all processors.
+    static void mesh(const std::vector<TopoDS_Shape> &shapes, const Fineness &fineness,
+                     const Message_ProgressRange &progress);
 
     [[nodiscard]] static unsigned count(const TopoDS_Shape &shape);
 

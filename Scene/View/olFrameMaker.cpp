@@ -54,12 +54,15 @@ bool olFrameMaker::drawStill(olSceneView &view, olPictureTarget &target, const O
     const std::vector<QPointF> shifts = view.shifts(false);
     olSceneView::Frame frame;
     frame.isStill = true;
+    frame.samples = still.samples();
     frame.pixelRatio = options.pixelRatio;
     frame.shift = still.nextShift() + shifts[std::size_t(still.taken()) % shifts.size()];
     if (!addPicture(view, size, options, frame))
         return false;
     still.advance();
-    m_mean.finish(target, still.taken(), wantedFinish());
+    olPictureMean::Finish finish = wantedFinish();
+    finish.smoothsEdges = finish.smoothsEdges || still.hasSteps();
+    m_mean.finish(target, still.taken(), finish);
     return true;
 }
 

@@ -173,6 +173,12 @@ void olGlBinding::setFloatBuffers(const Handle(V3d_View) & view, bool isFloat)
         own->setColorFormat(isFloat ? GL_RGBA16F : GL_SRGB8_ALPHA8);
 }
 
+int olGlBinding::mostSamples(const Handle(V3d_View) & view)
+{
+    const Handle(OpenGl_Context) context = contextOf(view);
+    return context.IsNull() ? 1 : context->MaxMsaaSamples();
+}
+
 bool olGlBinding::drawIntoBoundFramebuffer(const Handle(V3d_View) & view)
 {
     const Handle(OpenGl_Context) context = contextOf(view);

@@ -21,6 +21,9 @@ namespace olGlBinding
 /// Whether the view resolves colours in floating point, or in 256 steps a channel.
 void setFloatBuffers(const opencascade::handle<V3d_View> &view, bool isFloat);
 
+/// How many samples the graphics card can take in each pixel; at most 1 where it cannot take several.
+[[nodiscard]] int mostSamples(const opencascade::handle<V3d_View> &view);
+
 /// Makes the framebuffer that is bound now the one into which the view draws. To be called before every frame: Qt may
 /// have bound another since.
 [[nodiscard]] bool drawIntoBoundFramebuffer(const opencascade::handle<V3d_View> &view);

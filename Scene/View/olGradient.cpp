@@ -19,7 +19,7 @@ constexpr int columns = 4;
 class Pixels : public Graphic3d_Texture2D
 {
 public:
-    explicit Pixels(const Handle(Image_PixMap) & pixels) : Graphic3d_Texture2D(pixels, Graphic3d_TOT_2D_MIPMAP) {}
+    explicit Pixels(const Handle(Image_PixMap) & pixels) : Graphic3d_Texture2D(pixels, Graphic3d_TOT_2D) {}
 };
 
 /// The renderer mixes light; the numbers of the screen are not in proportion to it.

@@ -128,9 +128,7 @@ olPart::olPart(const XCAFPrs_DocumentNode &node)
         if (!coloredMeshOf(face, location).IsNull())
             m_colored.push_back(face);
     }
-    // What has colours at its nodes, or levels of its own, is drawn as it is.
-    if (m_colored.empty() && m_levels == 1)
-        m_triangles = olTriangles::count(m_source);
+    m_triangles = olTriangles::count(m_source);
 }
 
 bool olPart::isFullyTransparent() const
@@ -153,7 +151,7 @@ Standard_Boolean olPart::AcceptDisplayMode(const Standard_Integer mode) const
 {
     const int level = levelOf(mode);
     if (mode == coarseMode)
-        return m_triangles > 0;
+        return canBeCoarse();
     return level > 0 ? level < m_levels : XCAFPrs_AISObject::AcceptDisplayMode(mode);
 }
 

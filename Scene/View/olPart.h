@@ -32,9 +32,11 @@ public:
     /// The level that suits a part of that many pixels.
     [[nodiscard]] int levelFor(double pixels) const;
 
-    /// How many triangles it has that fewer can stand for while speed counts; and with how many it is drawn then, in
-    /// the other display mode.
     [[nodiscard]] unsigned triangles() const { return m_triangles; }
+
+    /// Whether fewer triangles can stand for its own while speed counts, which what has colours at its nodes or levels
+    /// of its own does without; and with how many it is drawn then, in the other display mode.
+    [[nodiscard]] bool canBeCoarse() const { return m_colored.empty() && m_levels == 1 && m_triangles > 0; }
     void setCoarseTriangles(double triangles) { m_coarseTriangles = triangles; }
     [[nodiscard]] static int coarseDisplayMode();
 

@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr float superSampled = 2.0f;
+constexpr float coarse = 0.5f;
 constexpr int largestSampleCount = 16;
 
 /// The preset that belongs to the samples that the antialiasing quality asks for; null while it is off.
@@ -45,12 +46,16 @@ int samplesOf(const olHostState::AntialiasingPreset &preset, const olRenderQuali
     return std::clamp(wanted, 1, largestSampleCount);
 }
 
+bool sorts(const olRenderQuality::Conditions &conditions)
+{
+    return conditions.hasTransparency && olHostState::the().sortTransparency;
+}
+
 /// The graphics card takes its samples faster than one picture after the other, but neither sorts it transparent
 /// surfaces in them nor does it filter or work at another scale. It serves where speed counts.
 bool takesSamplesOnCard(const olHostState::AntialiasingPreset &preset, const olRenderQuality::Conditions &conditions)
 {
-    const bool sorts = conditions.hasTransparency && olHostState::the().sortTransparency;
-    return conditions.isMoving && !conditions.isRaytraced && !sorts && !preset.supersampling;
+    return conditions.isMoving && !conditions.isRaytraced && !sorts(conditions) && !preset.supersampling;
 }
 
 /// As likely far out as a tent is high there, for a number that is evenly spread from 0 to 1.
@@ -84,17 +89,23 @@ void olRenderQuality::apply(Graphic3d_RenderingParams &parameters, const Conditi
     const olHostState::AntialiasingPreset *preset = presetFor(conditions);
     parameters.NbMsaaSamples = preset && takesSamplesOnCard(*preset, conditions) ? samplesOf(*preset, conditions) : 0;
     parameters.ToEnableAlphaToCoverage = Standard_False;
-    parameters.TransparencyMethod =
-        state.sortTransparency ? Graphic3d_RTM_DEPTH_PEELING_OIT : Graphic3d_RTM_BLEND_UNORDERED;
+    parameters.TransparencyMethod = sorts(conditions) ? Graphic3d_RTM_DEPTH_PEELING_OIT : Graphic3d_RTM_BLEND_UNORDERED;
     parameters.Method = conditions.isRaytraced ? Graphic3d_RM_RAYTRACING : Graphic3d_RM_RASTERIZATION;
     parameters.IsShadowEnabled = Standard_True;
     parameters.IsReflectionEnabled = Standard_True;
-    if (!conditions.isRaytraced)
+    if (!conditions.isRaytraced && conditions.isCoarse)
+        parameters.RenderResolutionScale = coarse;
+    else if (!conditions.isRaytraced)
         parameters.RenderResolutionScale = preset && preset->supersampling ? superSampled : 1.0f;
     else if (conditions.isMoving && state.raytracingDownscale)
         parameters.RenderResolutionScale = 1.0f / float(std::clamp(state.raytracingDownscaleFactor.get(), 1u, 8u));
     else
         parameters.RenderResolutionScale = 1.0f;
+}
+
+bool olRenderQuality::isFreeForSamples(const Conditions &conditions)
+{
+    return !conditions.isRaytraced && !sorts(conditions) && !presetFor(conditions);
 }
 
 std::vector<QPointF> olRenderQuality::shifts(const Conditions &conditions)

@@ -114,7 +114,7 @@ public:
     void showSelection();
     void showCoarse(bool coarse) const;
     void setPixelRatio(double ratio) const;
-    [[nodiscard]] olRenderQuality::Conditions conditions(bool isMoving) const;
+    [[nodiscard]] olRenderQuality::Conditions conditions(bool isMoving, bool isCoarse = false) const;
     [[nodiscard]] Bnd_Box boxOf(const std::vector<Handle(olPart)> &some) const;
     [[nodiscard]] Handle(Graphic3d_Camera) fitted(const Bnd_Box &box) const;
 
@@ -440,7 +440,8 @@ void olSceneView::setEdges(bool on)
 void olSceneView::Private::showCoarse(bool coarse) const
 {
     for (const Handle(olPart) & part : parts) {
-        const bool isWanted = coarse && part->triangles() >= largePart;
+        const bool isWanted =
+            coarse && triangles > 2 * coarseTriangles && part->canBeCoarse() && part->triangles() >= largePart;
         if (part->isCoarse == isWanted || !context->IsDisplayed(part))
             continue;
         part->isCoarse = isWanted;
@@ -451,7 +452,12 @@ void olSceneView::Private::showCoarse(bool coarse) const
     }
 }
 
-bool olSceneView::isHeavy() const { return d->triangles > 2 * coarseTriangles; }
+double olSceneView::triangles() const { return d->triangles; }
+
+bool olSceneView::canTake(int samples) const
+{
+    return olRenderQuality::isFreeForSamples(d->conditions(false)) && olGlBinding::mostSamples(d->view) >= samples;
+}
 
 void olSceneView::Private::setPixelRatio(double ratio) const
 {
@@ -463,10 +469,11 @@ void olSceneView::Private::setPixelRatio(double ratio) const
     aids->setPixelRatio(ratio);
 }
 
-olRenderQuality::Conditions olSceneView::Private::conditions(bool isMoving) const
+olRenderQuality::Conditions olSceneView::Private::conditions(bool isMoving, bool isCoarse) const
 {
     olRenderQuality::Conditions conditions;
     conditions.isMoving = isMoving;
+    conditions.isCoarse = isCoarse;
     conditions.isRaytraced = isRaytraced;
     conditions.hasTransparency = hasTransparency;
     return conditions;
@@ -489,7 +496,11 @@ bool olSceneView::draw(const Frame &frame)
     d->aids->apply(!frame.isStill || state.auxiliaryNodesDuringAntialiasing);
 
     olGlBinding::setFloatBuffers(d->view, state.rgb16F);
-    olRenderQuality::apply(d->view->ChangeRenderingParams(), d->conditions(frame.isMoving));
+    Graphic3d_RenderingParams &parameters = d->view->ChangeRenderingParams();
+    olRenderQuality::apply(parameters, d->conditions(frame.isMoving, frame.isCoarse));
+    if (frame.samples > 1)
+        parameters.NbMsaaSamples = frame.samples;
+    d->view->SetShadingModel(frame.isCoarse ? Graphic3d_TOSM_VERTEX : d->viewer->DefaultShadingModel());
     d->setPixelRatio(frame.pixelRatio);
 
     const Handle(Graphic3d_Camera) &camera = d->view->Camera();

@@ -28,8 +28,9 @@ public:
     struct Frame {
         Eye eye = Eye::Middle;
         bool isMoving = false; ///< The camera is on its way, and speed counts.
-        bool isCoarse = false; ///< Large parts have fewer triangles.
+        bool isCoarse = false; ///< With fewer pixels and less exact light, and fewer triangles where there are many.
         bool isStill = false;  ///< One of the frames of which a still picture is made.
+        int samples = 1;       ///< How many the graphics card shall take in each pixel, where it can.
         QPointF shift;         ///< By how much the picture is shifted, in pixels.
         double pixelRatio = 1; ///< How many of its pixels make one that a person would call a pixel.
     };
@@ -55,8 +56,12 @@ public:
     /// By how much each of the pictures is shifted whose mean a frame is, in pixels.
     [[nodiscard]] std::vector<QPointF> shifts(bool isMoving) const;
 
-    /// Whether there are so many triangles that it may take long to draw them.
-    [[nodiscard]] bool isHeavy() const;
+    /// How many triangles are drawn where speed does not count.
+    [[nodiscard]] double triangles() const;
+
+    /// Whether the graphics card can take so many samples in each pixel of a picture at rest, and nothing else is
+    /// wanted that does the same.
+    [[nodiscard]] bool canTake(int samples) const;
 
     /// Draws into the framebuffer that is bound.
     [[nodiscard]] bool draw(const Frame &frame);

@@ -10,9 +10,10 @@ constexpr double goldenAngle = 2.399963229728653;
 
 } // namespace
 
-void olStillFrame::start(double radius, int pictures)
+void olStillFrame::start(double radius, int pictures, int samples)
 {
-    m_radius = std::isfinite(radius) ? std::abs(radius) : 0.0;
+    m_radius = std::isfinite(radius) && pictures > 1 ? std::abs(radius) : 0.0;
+    m_samples = samples;
     m_taken = 0;
     m_wanted = pictures;
 }

@@ -6,13 +6,18 @@
 class olStillFrame
 {
 public:
-    /// The radius in pixels over which so many pictures are spread.
-    void start(double radius, int pictures);
+    /// The radius in pixels over which so many pictures are spread, in each of which the graphics card takes so many
+    /// samples a pixel.
+    void start(double radius, int pictures, int samples);
     void stop() { m_taken = m_wanted = 0; }
 
     [[nodiscard]] bool isRunning() const { return m_taken < m_wanted; }
     [[nodiscard]] bool isDone() const { return m_wanted > 0 && m_taken == m_wanted; }
     [[nodiscard]] int taken() const { return m_taken; }
+    [[nodiscard]] int samples() const { return m_samples; }
+
+    /// Whether it has but one sample of each pixel, so that its edges have steps.
+    [[nodiscard]] bool hasSteps() const { return m_wanted == 1 && m_samples == 1; }
 
     /// From 0 to 1.
     [[nodiscard]] double progress() const { return m_wanted ? double(m_taken) / m_wanted : 0.0; }
@@ -27,4 +32,5 @@ private:
     double m_radius = 0.0;
     int m_taken = 0;
     int m_wanted = 0;
+    int m_samples = 1;
 };

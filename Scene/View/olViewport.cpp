@@ -37,15 +37,25 @@ using Action = olMouseStyle::Action;
 constexpr int frameMilliseconds = 16;
 constexpr double wheelStep = 120.0;
 
-/// What takes longer than this, in milliseconds, is drawn with fewer triangles while the camera moves.
+/// Where so many frames one after the other take longer than this, in milliseconds, those that follow are coarser while
+/// the camera moves.
 constexpr qint64 longestFrame = 50;
+constexpr int enoughSlowFrames = 2;
 
 /// Larger pictures than this a side do not fit into a graphics card together with all that it needs to draw them.
 constexpr int largestSide = 8192;
 
-/// How many pictures a still frame is the mean of.
+/// How many samples of each pixel a still frame is the mean of: fewer have to do from so many triangles on, and where
+/// there are very many, edges are smoothed in place of that.
 constexpr int stills = 16;
 constexpr int fewStills = 4;
+constexpr double manyTriangles = 50000;
+constexpr double veryManyTriangles = 200000;
+
+/// How many of them the graphics card takes in one picture, where they lie within the pixel, and up to how many pixels
+/// it has the memory for that.
+constexpr int samplesAtOnce = 4;
+constexpr int mostSampledPixels = 1 << 23;
 
 constexpr int longestGlide = 36000;
 constexpr double longestRest = 24 * 3600.0;
@@ -84,7 +94,7 @@ public:
     olProgressWheel wheel;
     QPointer<olScene> scene;
     unsigned staleParts = 0;
-    qint64 wholeFrame = 0;
+    int slowFrames = 0;
     bool isAnaglyph = false;
     bool isRaytraced = false;
     bool hasEdges = false;
@@ -148,7 +158,7 @@ olViewport::olViewport(QWidget *parent) : QOpenGLWidget(parent), d(std::make_uni
     connect(&d->devices, &olDeviceMotion::stopped, this, &olViewport::redraw);
     d->restTimer.setSingleShot(true);
     connect(&d->restTimer, &QTimer::timeout, this, [this] {
-        startStill(d->still);
+        startStill(d->still, pictureSize());
         update();
     });
     olHostState::the().addObserver(*this);
@@ -240,7 +250,7 @@ void olViewport::takeScene()
     else
         d->view->setDocument(olScene::newDocument(), {});
     d->navigator.setScene(d->view->middle(false), d->view->size());
-    d->wholeFrame = 0;
+    d->slowFrames = 0;
     redraw();
 }
 
@@ -310,26 +320,31 @@ void olViewport::drawFrame()
     takeState();
     d->navigator.setPictureHeight(std::min(pictureSize().width(), pictureSize().height()));
     olFrameMaker::Options wanted = frameOptions();
-    const bool isHeavy = wanted.isMoving && d->view->isHeavy();
-    wanted.isCoarse = isHeavy && d->wholeFrame > longestFrame;
+    wanted.isCoarse = wanted.isMoving && d->slowFrames >= enoughSlowFrames;
     QElapsedTimer time;
     time.start();
     const bool isDrawn = d->frames.draw(*d->view, d->target, pictureSize(), wanted);
-    if (isHeavy && !wanted.isCoarse) {
+    if (wanted.isMoving && !wanted.isCoarse) {
         // Only then is it known how long it takes.
         context()->functions()->glFinish();
-        d->wholeFrame = time.elapsed();
+        d->slowFrames = time.elapsed() > longestFrame ? d->slowFrames + 1 : 0;
     }
     if (!isDrawn)
         olLog::error(tr("A frame of the 3D view could not be drawn."));
 }
 
-void olViewport::startStill(olStillFrame &still) const
+void olViewport::startStill(olStillFrame &still, const QSize &size) const
 {
     const olHostState &state = olHostState::the();
-    // Where each takes long, fewer have to do.
-    still.start(double(state.antialiasingDistance) * double(state.antialiasingScale),
-                d->view && d->view->isHeavy() ? fewStills : stills);
+    const double radius = double(state.antialiasingDistance) * double(state.antialiasingScale);
+    const double triangles = d->view ? d->view->triangles() : 0.0;
+    if (triangles > veryManyTriangles)
+        return still.start(radius, 1, 1);
+    const int wanted = triangles > manyTriangles ? fewStills : stills;
+    const bool isOnCard = std::abs(radius) <= 1.0 && size.width() * size.height() <= mostSampledPixels && d->view &&
+                          d->view->canTake(samplesAtOnce);
+    const int samples = isOnCard ? samplesAtOnce : 1;
+    still.start(radius, wanted / samples, samples);
 }
 
 olFrameMaker::Options olViewport::frameOptions(const QSize &size) const
@@ -393,11 +408,11 @@ QImage olViewport::stillPicture(const QSize &size)
         olPictureTarget target;
         olFrameMaker frames;
         olStillFrame still;
+        const QSize wanted = size.isValid() ? size : pictureSize();
         if (olHostState::the().antialiasing)
-            startStill(still);
+            startStill(still, wanted);
         olFrameMaker::Options rest = frameOptions(size);
         rest.isMoving = false;
-        const QSize wanted = size.isValid() ? size : pictureSize();
         bool isDrawn = still.isRunning() ? target.bind(wanted) : frames.draw(*d->view, target, wanted, rest);
         while (isDrawn && still.isRunning())
             isDrawn = frames.drawStill(*d->view, target, rest, still);

@@ -99,7 +99,7 @@ private:
     void redraw();
     void drawFrame();
     [[nodiscard]] olFrameMaker::Options frameOptions(const QSize &size = {}) const;
-    void startStill(olStillFrame &still) const;
+    void startStill(olStillFrame &still, const QSize &size) const;
     void drawStillSample();
     void measureFrame();
     void drag(const QPoint &position);

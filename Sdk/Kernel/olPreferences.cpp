@@ -1,36 +1,20 @@
 #include "Kernel/olPreferences.h"
 
-#include "State/olPreferencesEntry.h"
+#include "State/olModuleEntry.h"
 #include "State/olPreferencesRegistry.h"
-
-#include <QObject>
-#include <boost/core/demangle.hpp>
 
 #include <set>
 #include <string>
-#include <typeinfo>
 
 namespace
 {
 
 /// A module whose values live in the shared record.
-class RecordEntry : public olPreferencesEntry
+class RecordEntry : public olModuleEntry<olPreferences>
 {
 public:
-    RecordEntry(olPreferences &module, const QString &name, const QString &category)
-        : olPreferencesEntry(name, category), m_module(module)
-    {
-    }
+    using olModuleEntry::olModuleEntry;
 
-    [[nodiscard]] std::string className() const override { return boost::core::demangle(typeid(m_module).name()); }
-    [[nodiscard]] QObject *object() const override { return dynamic_cast<QObject *>(&m_module); }
-
-    void applyPreferences() override { m_module.applyPreferences(); }
-    void updateGUI() override { m_module.updateGUI(); }
-    void updateData() override { m_module.updateData(); }
-    void preferencesNewScene() override { m_module.preferencesNewScene(record()); }
-    void preferencesLoaded() override { m_module.preferencesLoaded(record()); }
-    void preferencesInitialApply() override { m_module.preferencesInitialApply(record()); }
     void markClean() override { unchanged.clear(); }
 
     [[nodiscard]] olHome home() const override { return olHome::Record; }
@@ -48,14 +32,6 @@ public:
 
     /// What the module reported since the last markClean().
     std::set<std::string> unchanged;
-
-protected:
-    void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
-
-private:
-    static olMessage &record() { return olPreferencesRegistry::the().record(); }
-
-    olPreferences &m_module;
 };
 
 std::set<std::string> &unchangedOf(olPreferencesEntry &entry) { return static_cast<RecordEntry &>(entry).unchanged; }

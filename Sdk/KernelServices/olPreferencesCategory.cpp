@@ -2,13 +2,7 @@
 
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
-#include "State/olPreferencesEntry.h"
-#include "State/olPreferencesRegistry.h"
-
-#include <QObject>
-#include <boost/core/demangle.hpp>
-
-#include <typeinfo>
+#include "State/olModuleEntry.h"
 
 namespace
 {
@@ -16,23 +10,11 @@ namespace
 olPreferencesService &service() { return *olKernelServiceFactory::the<olPreferencesService>(); }
 
 /// A module whose values live in the preferences service.
-class ServiceEntry : public olPreferencesEntry
+class ServiceEntry : public olModuleEntry<olPreferencesCategory>
 {
 public:
-    ServiceEntry(olPreferencesCategory &module, const QString &name)
-        : olPreferencesEntry(name, QString()), m_module(module)
-    {
-    }
+    using olModuleEntry::olModuleEntry;
 
-    [[nodiscard]] std::string className() const override { return boost::core::demangle(typeid(m_module).name()); }
-    [[nodiscard]] QObject *object() const override { return dynamic_cast<QObject *>(&m_module); }
-
-    void applyPreferences() override { m_module.applyPreferences(); }
-    void updateGUI() override { m_module.updateGUI(); }
-    void updateData() override { m_module.updateData(); }
-    void preferencesNewScene() override { m_module.preferencesNewScene(record()); }
-    void preferencesLoaded() override { m_module.preferencesLoaded(record()); }
-    void preferencesInitialApply() override { m_module.preferencesInitialApply(record()); }
     void markClean() override { service().markClean(); }
 
     [[nodiscard]] olHome home() const override { return olHome::Service; }
@@ -41,14 +23,6 @@ public:
     void removeValue(const std::string &key) override { service().remove(key); }
 
     void setChanged(const std::string &key, bool changed) override { service().setChanged(key, changed); }
-
-protected:
-    void writeDefaults(bool flag) override { m_module.setDefaults(record(), flag); }
-
-private:
-    static olMessage &record() { return olPreferencesRegistry::the().record(); }
-
-    olPreferencesCategory &m_module;
 };
 
 } // namespace
@@ -60,7 +34,7 @@ olPreferencesCategory::~olPreferencesCategory() = default;
 void olPreferencesCategory::registerCategory()
 {
     if (!m_entry)
-        m_entry = std::make_unique<ServiceEntry>(*this, m_name);
+        m_entry = std::make_unique<ServiceEntry>(*this, m_name, QString());
 }
 
 void olPreferencesCategory::preferencesNewScene(olMessage &) {}

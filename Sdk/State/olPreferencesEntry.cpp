@@ -4,6 +4,7 @@
 #include "State/olValue.h"
 
 #include <algorithm>
+#include <exception>
 
 // A text of the plug-in's may lie in its read-only memory; what the host keeps is a copy of its own.
 olPreferencesEntry::olPreferencesEntry(const QString &name, const QString &category)
@@ -36,6 +37,20 @@ void olPreferencesEntry::setDefaults(bool flag)
     olPreferencesRegistry::the().forgetOffers();
     m_defaults.clear();
     writeDefaults(flag);
+}
+
+bool olPreferencesEntry::guarded(const std::function<void()> &call) const
+{
+    QString reason;
+    try {
+        call();
+        return true;
+    } catch (const std::exception &exception) {
+        reason = QString::fromLocal8Bit(exception.what());
+    } catch (...) {
+    }
+    emit olPreferencesRegistry::the().news().moduleFailed(m_name, reason);
+    return false;
 }
 
 const olOfferedDefault *olPreferencesEntry::findDefault(const std::string &key) const

@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <boost/any.hpp>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -53,9 +54,10 @@ public:
     /// module has no such setting.
     void replaceDefault(const std::string &key, const boost::any &value);
 
+    /// What the host asks of the module. Where it throws, olRegistryNews::moduleFailed() tells of it.
     virtual void applyPreferences() = 0;
     virtual void updateGUI() = 0;
-    virtual void updateData() = 0;
+    virtual bool updateData() = 0; ///< false where it threw: its values may then be half those of the page
     virtual void preferencesNewScene() = 0;
     virtual void preferencesLoaded() = 0;
     virtual void preferencesInitialApply() = 0;
@@ -74,6 +76,9 @@ public:
     virtual void setChanged(const std::string &key, bool changed) = 0;
 
 protected:
+    /// Whether the call came back without an exception.
+    bool guarded(const std::function<void()> &call) const;
+
     virtual void writeDefaults(bool flag) = 0;
 
 private:

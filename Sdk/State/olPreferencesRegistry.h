@@ -21,7 +21,8 @@ struct olOffer {
     const olOfferedDefault *offered;
 };
 
-/// Tells of modules and pages that come and go. It goes with the application object, which the registry outlives.
+/// Tells of modules and pages that come and go, and of modules that throw. It goes with the application object, which
+/// the registry outlives.
 class ORLO_SDK_EXPORT olRegistryNews : public QObject
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ public:
 signals:
     void pageAboutToGo(QWidget *page);
     void changed();
+    void moduleFailed(const QString &name, const QString &reason); ///< empty where the exception says nothing
 };
 
 /// The host's index of all modules, in the order of their registration, and the record that they share.

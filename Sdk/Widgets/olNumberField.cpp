@@ -132,7 +132,8 @@ QSize olNumberField::sizeHint() const
     QStyleOptionFrame option;
     initStyleOption(&option);
     const int text = fontMetrics().horizontalAdvance(QStringLiteral("-0.0000000"));
-    const QSize contents(text, fontMetrics().height());
+    const QMargins margins = textMargins(); // for what a host shows beside the number
+    const QSize contents(text + margins.left() + margins.right(), fontMetrics().height());
     return {style()->sizeFromContents(QStyle::CT_LineEdit, &option, contents, this).width(),
             QLineEdit::sizeHint().height()};
 }

@@ -174,7 +174,10 @@ class Batch(tool_test.ToolTest):
                     self.assertEqual((result.stdout, result.returncode), ("", 1))
                     self.assertIn("orlo: ", result.stderr)
 
-    def test_the_tour_goes_through_in_every_language(self):
+    def test_the_tour_goes_through_in_every_language_and_without_its_letters(self):
+        fonts = self.folder / "fonts.conf"
+        fonts.write_text("<fontconfig><dir>/usr/share/fonts/truetype/dejavu</dir></fontconfig>")
+        self.environment["FONTCONFIG_FILE"] = str(fonts)
         for language in ("0", "2"):
             with self.subTest(language=language):
                 folder = self.folder / f"tour{language}"
@@ -183,7 +186,11 @@ class Batch(tool_test.ToolTest):
                 result = self.stored("--sample", "--tour", folder)
                 self.assertEqual(result.returncode, 0, result.stderr)
                 self.assertIn("olOSGWidget::setFov(-1, 25)", result.stdout)
-                self.assertEqual(len(list(folder.glob("*.png"))), 7)
+                self.assertEqual(len(list(folder.glob("*.png"))), 16)
+                self.assertEqual(result.stderr.count("fonts-noto-cjk"), 0 if language == "0" else 1)
+
+    def test_a_setting_that_no_page_has_opens_nothing(self):
+        self.assert_refused(self.stored("--setting", "Camera foz"), 'orlo: no page has the setting "Camera foz"')
 
 
 if __name__ == "__main__":

@@ -5,6 +5,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLineEdit>
+#include <QSlider>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -77,6 +79,32 @@ TEST(Style, AnUncheckedBoxIsSeenInEveryPalette)
         const QRect groupBox = style.subControlRect(QStyle::CC_GroupBox, &frame, QStyle::SC_GroupBoxCheckBox, group);
         EXPECT_GE(borderContrast(window, groupBox.translated(group->mapTo(&window, QPoint()))), 3.0);
         EXPECT_FALSE(group->isChecked());
+    }
+}
+
+TEST(Style, FieldsAndSlidersAreSeenInTheDark)
+{
+    for (const QPalette &palette : {Palettes::dark(), Palettes::contrast()}) {
+        QTabWidget window;
+        window.setPalette(palette);
+        auto *tab = new QWidget;
+        window.addTab(tab, QStringLiteral("Picture"));
+        auto *layout = new QVBoxLayout(tab);
+        auto *field = new QLineEdit;
+        auto *slider = new QSlider(Qt::Horizontal);
+        layout->setContentsMargins(20, 20, 20, 20);
+        layout->addWidget(field);
+        layout->addWidget(slider);
+        window.resize(300, 200);
+        window.show();
+        EXPECT_GE(borderContrast(window, QRect(field->mapTo(&window, QPoint()), field->size())), 3.0);
+        QStyleOptionSlider option;
+        option.initFrom(slider);
+        option.orientation = Qt::Horizontal;
+        option.maximum = slider->maximum();
+        const QRect handle =
+            QApplication::style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider);
+        EXPECT_GE(borderContrast(window, handle.translated(slider->mapTo(&window, QPoint()))), 3.0);
     }
 }
 

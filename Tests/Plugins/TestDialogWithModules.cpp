@@ -426,6 +426,7 @@ TEST_F(DialogWithModules, ANoteSaysWhatHoldsForAllOrMostOfAPage)
     EXPECT_EQ(note("Camera"), QString());
     EXPECT_TRUE(note("Catia V4").contains(QStringLiteral("reader")));
     EXPECT_TRUE(note("Step").contains(QStringLiteral("next import")));
+    EXPECT_TRUE(note("STL").contains(QStringLiteral("next import"))) << "but for what it writes";
     EXPECT_EQ(note("MainWindow"), QString());
 }
 
@@ -438,9 +439,14 @@ TEST_F(DialogWithModules, UnitsStandInTheFieldsOfNumbers)
             texts << label->text();
         return texts;
     };
-    EXPECT_EQ(units("Camera"), QStringList{QString::fromUtf8("°")});
+    EXPECT_EQ(units("Camera"), (QStringList{QString::fromUtf8("°"), "mm", "mm", "mm", "mm", "mm"}));
     EXPECT_EQ(units("Navigator"), (QStringList{"px", "ms"}));
     EXPECT_EQ(units("Step"), QStringList()) << "they stand behind the fields already";
+    EXPECT_EQ(units("MainWindow"), QStringList{"= 100 %"});
+    auto &opacity = *control<QWidget>("MainWindow", "windowOpacity").findChild<QLineEdit *>();
+    opacity.selectAll();
+    QTest::keyClicks(&opacity, QStringLiteral("0.35"));
+    EXPECT_EQ(units("MainWindow"), QStringList{"= 35 %"});
 }
 
 TEST_F(DialogWithModules, AProfileHoldsAllSettingsOrThoseThatDifferOrThoseOfAModule)

@@ -1,7 +1,5 @@
 #include "Editing/olEditedPage.h"
 #include "Editing/olPendingChanges.h"
-#include "Session/olModuleAccess.h"
-#include "State/olValue.h"
 #include "Support/PluginTest.h"
 #include "Widgets/QOLSlider.h"
 
@@ -13,7 +11,6 @@
 #include <QSpinBox>
 #include <QTest>
 
-#include <set>
 #include <string>
 
 // Numbers as people type them into the pages, key by key, in the locale of the person.
@@ -153,31 +150,5 @@ TEST_P(Typing, AnUnfinishedNumberIsNotTakenBackFromThePage)
 
 INSTANTIATE_TEST_SUITE_P(Locales, Typing, testing::Values("C", "de_DE", "ja_JP"),
                          [](const auto &locale) { return std::string(locale.param).substr(0, 2); });
-
-class BeforeTheFirstFilling : public PluginTest
-{
-};
-
-TEST_F(BeforeTheFirstFilling, ControlsStandAtTheirDefaults)
-{
-    const std::set<std::string> asTheFormHasIt{"WebInterface enable web server2",
-                                               "Navigator animate camera",
-                                               "Navigator animate camera duration",
-                                               "Navigator panning speed",
-                                               "Navigator orbit detection area",
-                                               "Navigator orbit detection time",
-                                               "Help Path",
-                                               "MainWindow user language"};
-    for (olPreferencesEntry *module : modules()) {
-        module->setDefaults(true);
-        for (const olOfferedDefault &offered : module->defaults()) {
-            const boost::any shown = olModuleAccess(*module).value(offered.key, olValue::typeName(offered.value));
-            if (shown.empty() || asTheFormHasIt.count(offered.key))
-                continue;
-            EXPECT_TRUE(olValue::equal(shown, offered.value)) << offered.key << ' ' << olValue::toJson(shown);
-        }
-    }
-    EXPECT_TRUE(control<QCheckBox>("WebInterface", "enableWebServer").isChecked());
-}
 
 } // namespace

@@ -51,6 +51,8 @@ QVariantMap describeTraits(const olSettingTraits &traits)
     describeRange(traits.lowest, traits.highest, traits.decimals, description);
     if (*traits.unit)
         description.insert(QLatin1String("unit"), QString::fromUtf8(traits.unit));
+    if (traits.isShare)
+        description.insert(QLatin1String("share"), true);
     if (traits.warning)
         description.insert(QLatin1String("warning"), described(traits.warning()));
     return description;

@@ -3,6 +3,7 @@
 #include "Widgets/QOLWheelPrec.h"
 
 #include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,14 +24,29 @@ struct FieldLabel {
     [[nodiscard]] int end() const { return inset + widget->sizeHint().width(); }
 };
 
-/// A number of a few digits in a field across the whole page would be far from its end and its unit.
-void keepNarrow(QFormLayout &form, int row)
+/// Boxes of choices above each other end alike.
+int widthOfBoxes(const QFormLayout &form)
+{
+    constexpr int least = 22; // characters
+    int width = 0;
+    for (int row = 0; row < form.rowCount(); ++row) {
+        QLayoutItem *item = form.itemAt(row, QFormLayout::FieldRole);
+        if (const auto *box = item ? qobject_cast<QComboBox *>(item->widget()) : nullptr)
+            width = std::max({width, box->sizeHint().width(), least * box->fontMetrics().averageCharWidth()});
+    }
+    return width;
+}
+
+/// A few digits or words in a field across the whole page would be far from its end and what stands behind it.
+void keepNarrow(QFormLayout &form, int row, int boxWidth)
 {
     QLayoutItem *item = form.itemAt(row, QFormLayout::FieldRole);
     QWidget *field = item ? item->widget() : nullptr;
     const auto *line = qobject_cast<QLineEdit *>(field);
-    if (!qobject_cast<QAbstractSpinBox *>(field) && !qobject_cast<QOLWheelPrec *>(field) &&
-        !(line && line->validator()))
+    if (qobject_cast<QComboBox *>(field)) {
+        field->setMinimumWidth(boxWidth);
+    } else if (!qobject_cast<QAbstractSpinBox *>(field) && !qobject_cast<QOLWheelPrec *>(field) &&
+               !(line && line->validator()))
         return;
     form.setAlignment(field, Qt::AlignLeft | Qt::AlignVCenter);
     // All fields alike, whatever a host shows in some besides the number.
@@ -48,9 +64,10 @@ void collectLabels(const QWidget &place, int inset, std::vector<FieldLabel> &lab
         if (auto *form = qobject_cast<QFormLayout *>(child)) {
             // In a language of long words a field goes below its label rather than out of the page.
             form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+            const int boxWidth = widthOfBoxes(*form);
             for (int row = 0; row < form->rowCount(); ++row) {
                 QLayoutItem *item = form->itemAt(row, QFormLayout::LabelRole);
-                keepNarrow(*form, row);
+                keepNarrow(*form, row, boxWidth);
                 if (auto *label = item ? qobject_cast<QLabel *>(item->widget()) : nullptr)
                     labels.push_back({label, inset});
             }

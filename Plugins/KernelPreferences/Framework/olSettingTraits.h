@@ -26,6 +26,9 @@ struct olSettingTraits {
     const char *unit = "";
     olEffect effect = olEffect::Now;
 
+    /// Whether it is a part of the whole, which is 1.
+    bool isShare = false;
+
     /// Whether applying the former value again undoes all that applying another one has done.
     bool isPutBack = true;
 
@@ -46,6 +49,12 @@ struct olSettingTraits {
     {
         olSettingTraits traits = *this;
         traits.unit = name;
+        return traits;
+    }
+    [[nodiscard]] olSettingTraits asShare() const
+    {
+        olSettingTraits traits = *this;
+        traits.isShare = true;
         return traits;
     }
     [[nodiscard]] olSettingTraits asFormHasIt() const
@@ -77,6 +86,7 @@ inline olSettingTraits between(double lowest, double highest)
 }
 inline olSettingTraits atLeast(double lowest) { return between(lowest, std::numeric_limits<double>::infinity()); }
 inline olSettingTraits inUnit(const char *unit) { return olSettingTraits().inUnit(unit); }
+inline olSettingTraits asShare() { return olSettingTraits().asShare(); }
 inline olSettingTraits asFormHasIt() { return olSettingTraits().asFormHasIt(); }
 inline olSettingTraits notPutBack() { return olSettingTraits().notPutBack(); }
 inline olSettingTraits atNextImport() { return olSettingTraits().effective(olEffect::NextImport); }

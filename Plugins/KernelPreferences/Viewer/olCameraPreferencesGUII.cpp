@@ -10,11 +10,11 @@ namespace
 {
 
 const olSetting<float> fov{"Camera fov", 45.0f, between(1.0, 100.0).inUnit("°")};
-const olSetting<float> eyeSeparation{"Stereo eye separation", 63.0f};
-const olSetting<float> zeroParallaxDistance{"Stereo zero plane parallaxe", 1500.0f};
-const olSetting<float> powerwallWidth{"Powerwall width", 1600.0f};
-const olSetting<float> powerwallHeight{"Powerwall height", 1200.0f};
-const olSetting<float> powerwallDistance{"Powerwall distance", 1000.0f};
+const olSetting<float> eyeSeparation{"Stereo eye separation", 63.0f, inUnit("mm")};
+const olSetting<float> zeroParallaxDistance{"Stereo zero plane parallaxe", 1500.0f, inUnit("mm")};
+const olSetting<float> powerwallWidth{"Powerwall width", 1600.0f, inUnit("mm")};
+const olSetting<float> powerwallHeight{"Powerwall height", 1200.0f, inUnit("mm")};
+const olSetting<float> powerwallDistance{"Powerwall distance", 1000.0f, inUnit("mm")};
 
 constexpr int allViews = -1;
 

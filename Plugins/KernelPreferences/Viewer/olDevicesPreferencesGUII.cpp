@@ -19,7 +19,7 @@ const olSetting<int> rotationPivot{"Devices spacemouse rotation pivot", 0};
 const olSetting<bool> twoAxis{"Devices spacemouse two axis", &olController::isOrloEssentials};
 const olSetting<bool> helicopter{"Devices spacemouse helicopter", &olController::isOrloEssentials};
 const olSetting<bool> fixedHeight{"Devices spacemouse fixed height", false};
-const olSetting<float> height{"Devices spacemouse height", 0.0f};
+const olSetting<float> height{"Devices spacemouse height", 0.0f, inUnit("mm")};
 const olSetting<bool> joystick{"Devices joystick", false};
 const olSetting<int> joystickId{"Devices joystick id", 0, between(0, 99)};
 

@@ -17,7 +17,7 @@ const olSetting<bool> showButtonText{"MainWindow show button text", true, atNext
 const olSetting<bool> showFps{"MainWindow show fps", false};
 const olSetting<bool> redirectOsgLog{"MainWindow redirect osg log", false, atNextStart()};
 // A window that lets everything shine through could not be found again.
-const olSetting<double> windowOpacity{"MainWindow window opacity", 1.0, between(0.1, 1.0)};
+const olSetting<double> windowOpacity{"MainWindow window opacity", 1.0, between(0.1, 1.0).asShare()};
 const olSetting<bool> disableDocking{"MainWindow disable docking", false};
 // On a page that was never filled no language was chosen: it must not be taken for a change.
 const olSetting<int> userLanguage{"MainWindow user language", -1, atNextStart().asFormHasIt()};

@@ -14,16 +14,16 @@ namespace
 {
 
 const olServiceSetting<int> groundMode{"VR Teleport Ground Mode", 1};
-const olServiceSetting<float> teleportRange{"VR Teleport Range", 15000.0f, atLeast(0.0)};
+const olServiceSetting<float> teleportRange{"VR Teleport Range", 15000.0f, atLeast(0.0).inUnit("mm")};
 const olServiceSetting<int> visualiseHands{"VR Visualise Hands", 1};
 const olServiceSetting<bool> createCollisionObjects{"VR Auto Create Collision Objects", true};
 const olServiceSetting<bool> showTooltips{"VR Show Tooltips on start", true};
 const olServiceSetting<bool> foveatedRendering{"StarVR Foveated Rendering Enabled", false};
-const olServiceSetting<float> foveatedFovFactor{"StarVR Foveated FOV Factor", 0.35f};
-const olServiceSetting<float> foveatedScale{"StarVR Foveated Resolution Scale", 0.6f};
-const olServiceSetting<float> nonFoveatedScale{"StarVR Non-Foveated Resolution Scale", 0.4f};
-const olServiceSetting<float> frontViewScale{"StarVR Front View Resolution Scale", 1.0f};
-const olServiceSetting<float> sideViewScale{"StarVR Side View Resolution Scale", 1.0f};
+const olServiceSetting<float> foveatedFovFactor{"StarVR Foveated FOV Factor", 0.35f, asShare()};
+const olServiceSetting<float> foveatedScale{"StarVR Foveated Resolution Scale", 0.6f, asShare()};
+const olServiceSetting<float> nonFoveatedScale{"StarVR Non-Foveated Resolution Scale", 0.4f, asShare()};
+const olServiceSetting<float> frontViewScale{"StarVR Front View Resolution Scale", 1.0f, asShare()};
+const olServiceSetting<float> sideViewScale{"StarVR Side View Resolution Scale", 1.0f, asShare()};
 const olServiceSetting<bool> singleTexture{"StarVR Single Texture Per Eye", false};
 
 /// What the headset takes over only when it starts. The field-of-view factor is not among them: it changes on a

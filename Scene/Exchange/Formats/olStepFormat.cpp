@@ -3,6 +3,7 @@
 #include "Model/olPlainLook.h"
 
 #include <IFSelect_ReturnStatus.hxx>
+#include <Interface_InterfaceModel.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressScope.hxx>
 #include <STEPCAFControl_Controller.hxx>
@@ -10,11 +11,13 @@
 #include <STEPCAFControl_Writer.hxx>
 #include <StepGeom_Curve.hxx>
 #include <StepGeom_Direction.hxx>
+#include <StepGeom_Pcurve.hxx>
 #include <StepGeom_Placement.hxx>
 #include <StepGeom_Point.hxx>
 #include <StepGeom_Surface.hxx>
 #include <StepGeom_Vector.hxx>
 #include <StepRepr_DefinitionalRepresentation.hxx>
+#include <StepRepr_HArray1OfRepresentationItem.hxx>
 #include <StepRepr_PropertyDefinitionRepresentation.hxx>
 #include <StepRepr_RepresentationItem.hxx>
 #include <StepShape_FaceSurface.hxx>
@@ -186,15 +189,9 @@ private:
 
 olResult<> check(QFile &file, QStringList &)
 {
-    const uchar *bytes = file.map(0, file.size());
-    if (!bytes)
-        return olFailure{file.errorString()};
-    const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
-    if (!text.left(4096).contains("ISO-10303-21"))
+    if (!file.read(4096).contains("ISO-10303-21"))
         return olFailure{olReason::tr("this is no STEP file")};
-    olResult<> checked = Instances(text).check();
-    file.unmap(const_cast<uchar *>(bytes));
-    return checked;
+    return {};
 }
 
 /// The file up to its end without what signs it, in blocks, so that one sees how far the library is.
@@ -241,6 +238,21 @@ bool mustBeWhole(const Handle(Standard_Transient) & entity)
                                            STANDARD_TYPE(StepVisual_SurfaceStyleUsage)};
     return std::any_of(std::begin(kinds), std::end(kinds),
                        [&entity](const Handle(Standard_Type) & kind) { return entity->IsKind(kind); });
+}
+
+/// A curve on a surface which says that it is there, but not as a curve; over that the library crashes. Null for none.
+Handle(StepGeom_Pcurve) curveWithoutCurve(const Handle(Interface_InterfaceModel) & model)
+{
+    for (int number = 1; number <= model->NbEntities(); ++number) {
+        const Handle(StepGeom_Pcurve) onSurface = Handle(StepGeom_Pcurve)::DownCast(model->Value(number));
+        if (onSurface.IsNull())
+            continue;
+        const Handle(StepRepr_DefinitionalRepresentation) definition = onSurface->ReferenceToCurve();
+        const bool hasItems = !definition.IsNull() && !definition->Items().IsNull() && definition->NbItems() > 0;
+        if (!hasItems || Handle(StepGeom_Curve)::DownCast(definition->ItemsValue(1)).IsNull())
+            return onSurface;
+    }
+    return {};
 }
 
 bool isNumber(const TCollection_ExtendedString &text)
@@ -314,15 +326,18 @@ olResult<> read(const olImportJob &job, const olScene::Document &document, const
         return olFailure{file.errorString()};
     const QByteArray text = QByteArray::fromRawData(reinterpret_cast<const char *>(bytes), int(file.size()));
     Instances instances(text);
-    (void)instances.check();
+    if (const olResult<> checked = instances.check(); !checked.isOk())
+        return checked;
     Message_ProgressScope scope(progress, "STEP", 10);
     Source source(text.constData(), std::size_t(instances.end() - text.constData()), scope.Next(2));
     std::istream stream(&source);
     if (reader.ChangeReader().ReadStream(path(job.fileToRead()).ToCString(), stream) != IFSelect_RetDone)
         return damaged();
-    const olResult<> whole = checkEntities(reader.Reader().WS()->Model(), mustBeWhole, remarks);
-    if (!whole.isOk())
+    const Handle(Interface_InterfaceModel) &model = reader.Reader().WS()->Model();
+    if (const olResult<> whole = checkEntities(model, mustBeWhole, remarks); !whole.isOk())
         return whole;
+    if (const Handle(StepGeom_Pcurve) odd = curveWithoutCurve(model); !odd.IsNull())
+        return incomplete(QString::fromLatin1(model->StringLabel(odd)->ToCString()));
     olScene::Document target = document;
     if (!reader.Transfer(target, scope.Next(8)))
         return untaken();

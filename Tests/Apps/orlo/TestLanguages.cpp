@@ -17,11 +17,17 @@
 #include <QAction>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -58,6 +64,8 @@ protected:
         // How wide its columns are is the toolkit's own affair.
         if (!qobject_cast<QFileDialog *>(&shown))
             faults << FormFaults::clipped(shown);
+        for (const QScrollArea *area : shown.findChildren<QScrollArea *>())
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << name.toStdString() << " must be scrolled sideways";
         EXPECT_TRUE(faults.isEmpty()) << name.toStdString() << ":\n  " << faults.join("\n  ").toStdString();
     }
 
@@ -108,6 +116,10 @@ TEST_P(ViewerInLanguages, HasRoomForItsTextsInItsOwnWindows)
 {
     window.showIntegratorPanels();
     view.select({idOf(node("Housing"))});
+    const QString measuring = QCoreApplication::translate("olFactsPanel", "measuring...");
+    const auto isMeasuring = [&](const QLabel *label) { return label->text() == measuring; };
+    const QList<QLabel *> labels = window.findChildren<QLabel *>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::none_of(labels.begin(), labels.end(), isMeasuring); }, 20000));
     look(window, "window");
     for (QMenu *menu : window.findChildren<QMenu *>()) {
         if (menu->isEmpty())
@@ -128,7 +140,7 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsOfAnImport)
     for (const char *name : {"model.step", "model.stl"}) {
         const QString file = path(name);
         ASSERT_EQ(olExportScene(window.scene().document(), file).error(), "");
-        olImportDialog dialog({olImportJob::of(file)}, true, &window);
+        olImportDialog dialog({olImportJob::of(file)}, true, &window, [](const std::string &) { return QString(); });
         dialog.show();
         look(dialog, QString("import of ") + name);
         dialog.showReading();
@@ -145,6 +157,13 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
     ASSERT_TRUE(dialog.openAt("Camera fov"));
     dialog.resize(1100, 700);
     look(dialog, "preferences");
+    const QString fov = QCoreApplication::translate("olCameraPreferencesGUI", "Field of View");
+    for (const QString &name : {QString("field of view"), fov}) {
+        dialog.findChild<QLineEdit *>("search")->setText(name);
+        EXPECT_EQ(dialog.findChild<QTreeView *>("found")->model()->index(0, 0).data().toString(), fov);
+    }
+    look(dialog, "search");
+    dialog.findChild<QLineEdit *>("search")->clear();
     lookAtWhatOpens("question", [&] {
         olConsentBox box(*session.warning("WebInterface enable web server2", true), &dialog);
         box.exec();

@@ -1,7 +1,7 @@
 #include "Devices/olJoystickLink.h"
 #include "Kernel/olController.h"
 #include "State/olHostState.h"
-#include "Utilities/olLog.h"
+#include "Support/RecordedLog.h"
 
 #include <QFile>
 #include <QStringList>
@@ -20,20 +20,18 @@ namespace
 {
 
 /// A pipe in a folder of its own stands for the device file; whoever writes into it is the kernel.
-class Joystick : public testing::Test, private olLogObserver
+class Joystick : public testing::Test
 {
 protected:
     Joystick() : file(QFile::encodeName(folder.filePath(QStringLiteral("js2"))))
     {
         host.reset();
-        before = olLog::observe(this);
         mkfifo(file.constData(), 0600);
         kernel = open(file.constData(), O_RDWR | O_CLOEXEC);
     }
     ~Joystick() override
     {
         unplug();
-        olLog::observe(before);
         host.reset();
     }
 
@@ -55,14 +53,12 @@ protected:
         return QTest::qWaitFor([&] { return host.joystickAxes.get() == axes; });
     }
 
-    void logged(olLogLevel, const QString &text) override { log << text; }
-
     olHostState &host = olHostState::the();
     QTemporaryDir folder;
     QByteArray file;
     int kernel = -1;
-    QStringList log;
-    olLogObserver *before = nullptr;
+    RecordedLog recorded;
+    QStringList &log = recorded.lines;
     std::optional<olJoystickLink> link{folder.path()};
 };
 

@@ -1,7 +1,6 @@
 #include "DialogTest.h"
 
-#include "KernelServices/olKernelServiceFactory.h"
-#include "KernelServices/olPreferencesService.h"
+#include "Support/CleanHost.h"
 #include "Utilities/olWithoutMnemonic.h"
 
 #include <QApplication>
@@ -177,10 +176,7 @@ DialogTest::~DialogTest()
     EXPECT_EQ(answered, asked) << "a question that the test expected never came";
     dialog.reset();
     session.reset();
-    const olMessage::Entries left = olPreferences::getData().entries();
-    for (const auto &entry : left)
-        olPreferences::getData().remove(entry.first);
-    olKernelServiceFactory::the<olPreferencesService>()->clear();
+    cleanHost();
 }
 
 void DialogTest::start(const QByteArray &site)

@@ -1,11 +1,13 @@
 #include "Editing/olPageIndex.h"
 
 #include "Widgets/QOLCollapsibleFrame.h"
-#include "Widgets/QOLColorManipulator.h"
-#include "Widgets/QOLSlider.h"
-#include "Widgets/QOLWheelPrec.h"
 
-#include <QtWidgets>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 namespace
@@ -26,7 +28,7 @@ QOLCollapsibleFrame *frame(QWidget &place, const QString &caption)
     return frame;
 }
 
-/// A page with every kind of place: tabs, folding frames and groups.
+/// A page with two tabs.
 class PageIndex : public testing::Test
 {
 protected:
@@ -41,17 +43,6 @@ protected:
         const olPageIndex index(page);
         const olPageControlFound found = index.find(text);
         return found.control ? found.control->widget : nullptr;
-    }
-
-    [[nodiscard]] QString error(const QString &text) const { return olPageIndex(page).find(text).error; }
-
-    [[nodiscard]] QStringList paths() const
-    {
-        QStringList paths;
-        const olPageIndex index(page);
-        for (const olPageControl &control : index.controls())
-            paths << control.path();
-        return paths;
     }
 
     QWidget page;
@@ -82,22 +73,6 @@ TEST_F(PageIndex, ControlsAreCalledWhatAPersonReads)
     EXPECT_EQ(found("Material Preview"), both);
 }
 
-TEST_F(PageIndex, CaptionsTellEqualTextsApart)
-{
-    QWidget *low = frame(*first, QStringLiteral("Low"));
-    QWidget *high = frame(*first, QStringLiteral("High"));
-    auto *inLow = labelled<QComboBox>(*low, QStringLiteral("Samples"));
-    auto *inHigh = labelled<QComboBox>(*high, QStringLiteral("Samples"));
-
-    EXPECT_EQ(found("Low/Samples"), inLow);
-    EXPECT_EQ(found("Quality/High/Samples"), inHigh);
-    EXPECT_EQ(found("Samples"), nullptr);
-    EXPECT_EQ(error("Samples"), "2 controls answer to \"Samples\": \"Quality/Low/Samples\", \"Quality/High/Samples\"");
-    EXPECT_EQ(found("High/Quality/Samples"), nullptr) << "captions count from the outside in";
-    EXPECT_EQ(error("Low/Sample"),
-              "there is no control \"Low/Sample\"; there is: \"Quality/Low/Samples\", \"Quality/High/Samples\"");
-}
-
 TEST_F(PageIndex, AnExactTextWinsOverAPath)
 {
     QWidget *low = frame(*first, QStringLiteral("Low"));
@@ -107,43 +82,7 @@ TEST_F(PageIndex, AnExactTextWinsOverAPath)
     EXPECT_EQ(found("Low/Samples"), exact);
     EXPECT_EQ(found("Quality/Low/Samples"), inside);
     EXPECT_EQ(found("Paths/Low/Samples"), exact) << "a slash may be part of a text";
-}
-
-TEST_F(PageIndex, GroupsToBeCheckedAreControlsAndTablesBearTheCaptionOfTheirFrameElseOfTheirTab)
-{
-    auto *plain = new QGroupBox(QStringLiteral("Stereo"), first);
-    auto *checkable = new QGroupBox(QStringLiteral("Allowed &hosts"), first);
-    checkable->setCheckable(true);
-    auto *field = labelled<QLineEdit>(*plain, QStringLiteral("Separation"));
-    auto *inFrame = new QTreeWidget(frame(*first, QStringLiteral("Background")));
-    auto *inTab = new QTableWidget(second);
-    auto *named = labelled<QTableWidget>(*frame(*second, QStringLiteral("Frame")), QStringLiteral("Entries"));
-    const std::pair<const char *, QWidget *> expected[] = {
-        {"Stereo", nullptr},     {"Quality", nullptr}, {"Allowed hosts", checkable}, {"Stereo/Separation", field},
-        {"Background", inFrame}, {"Paths", inTab},     {"Entries", named},           {"Frame", nullptr}};
-    for (const auto &[text, control] : expected)
-        EXPECT_EQ(found(QLatin1String(text)), control) << text;
-}
-
-TEST_F(PageIndex, InnerPartsAreNoControlsAndTheOthersComeInTheOrderOfTheForm)
-{
-    auto *scrolled = new QScrollArea(first);
-    auto *inside = new QWidget;
-    scrolled->setWidget(inside);
-    auto *combo = labelled<QComboBox>(*inside, QStringLiteral("Combo"));
-    combo->setEditable(true);
-    labelled<QSpinBox>(*inside, QStringLiteral("Spin"));
-    labelled<QOLSlider>(*inside, QStringLiteral("Slider"));
-    labelled<QOLWheelPrec>(*inside, QStringLiteral("Wheel"));
-    labelled<QOLColorManipulator>(*inside, QStringLiteral("Colour"));
-    labelled<QTreeWidget>(*inside, QStringLiteral("Tree"));
-    auto *dialog = new QDialog(inside);
-    new QPushButton(QStringLiteral("Elsewhere"), dialog);
-
-    new QCheckBox(QStringLiteral("Second"), second);
-    new QCheckBox(QStringLiteral("Below"), &page);
-    EXPECT_EQ(paths(), (QStringList{"Quality/Combo", "Quality/Spin", "Quality/Slider", "Quality/Wheel",
-                                    "Quality/Colour", "Quality/Tree", "Paths/Second", "Below"}));
+    EXPECT_EQ(found("Low/Quality/Samples"), nullptr) << "captions count from the outside in";
 }
 
 TEST_F(PageIndex, HiddenIsWhatThePageHides)

@@ -124,50 +124,6 @@ TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
     EXPECT_FALSE(canApply()) << "a preview that is cancelled did nothing";
 }
 
-TEST_F(PreferencesImport, StaysPendingUntilItIsApplied)
-{
-    start();
-    const QString values = file(settings(R"("Studio samples": {"type": "int", "value": 9},
-        "Studio scale": {"type": "float", "value": 1.2345678}, "Studio shadows": {"type": "bool", "value": false},
-        "Studio seed": {"type": "int", "value": 8})"));
-    const auto import = [&] {
-        dialog->importFrom(values);
-        opened<olChangesView>()->accept();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-    module.page.mode->setCurrentIndex(1);
-    import();
-    EXPECT_EQ(module.page.samples->value(), 9);
-    EXPECT_EQ(module.page.mode->currentIndex(), 1) << "other edits stay";
-    EXPECT_EQ(module.value<int>("Studio samples"), 4);
-    EXPECT_EQ(module.value<int>("Studio seed"), 7);
-    answer(QStringLiteral("Discard"));
-    dialog->reject();
-    dialog->open(QString());
-    EXPECT_EQ(module.page.samples->value(), 4);
-
-    import();
-    dialog->accept();
-    EXPECT_EQ(module.value<int>("Studio samples"), 9);
-    EXPECT_EQ(module.value<int>("Studio seed"), 8);
-    EXPECT_EQ(module.value<float>("Studio scale"), 1.2345678f) << "every digit, though the field shows six";
-    EXPECT_FALSE(module.value<bool>("Studio shadows"));
-    EXPECT_EQ(module.page.questions, 0);
-}
-
-TEST_F(PreferencesImport, SkipsWhatTheControlCannotHold)
-{
-    start();
-    dialog->importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 100},
-        "Studio mode": {"type": "int", "value": 7})")));
-    EXPECT_EQ(rows(*opened<olChangesView>(), "skipped"),
-              (QStringList{"Studio mode | cannot be 7: expected one of 0, 1",
-                           "Studio samples | cannot be 100: expected a whole number from 0 to 99"}));
-    EXPECT_FALSE(canApply()) << "asking what a control could hold is no edit";
-    const auto *ok = opened<olChangesView>()->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
-    EXPECT_FALSE(ok->isEnabled()) << "there is nothing to import";
-}
-
 TEST_F(PreferencesImport, WritesWhatIsInForceAndTellsOfWhatIsPending)
 {
     start();

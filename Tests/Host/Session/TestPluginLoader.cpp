@@ -46,17 +46,6 @@ std::string applyFileIO()
 
 } // namespace
 
-TEST(PluginLoader, AModuleThatThrowsAnythingIsReported)
-{
-    olPreferencesRegistry::the().setRegistrationHook([](const QString &) { throw 42; });
-    olPluginLoader plugin;
-    const QString error = plugin.load(pluginFile).error();
-    olPreferencesRegistry::the().setRegistrationHook({});
-    EXPECT_TRUE(error.contains(pluginFile) && error.contains("a module could not be built")) << error.toStdString();
-    EXPECT_FALSE(plugin.isLoaded());
-    EXPECT_TRUE(olPreferencesRegistry::the().entries().empty());
-}
-
 TEST(PluginLoader, AFileThatWasCutIsRefusedAndNotMapped)
 {
     const QTemporaryDir folder;

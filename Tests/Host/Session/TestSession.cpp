@@ -1,11 +1,9 @@
 #include "Dialog/olPreferencesDialog.h"
 #include "Kernel/olPreferences.h"
-#include "KernelServices/olKernelServiceFactory.h"
-#include "KernelServices/olPreferencesService.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
-#include "State/olValue.h"
+#include "Support/CleanHost.h"
 #include "Utilities/olMessage.h"
 
 #include <QApplication>
@@ -20,13 +18,13 @@
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace
 {
-
-using olStoreRows::Row;
 
 /// A module with one number, that tells what the host asks of it.
 class CountingModule : public olPreferences
@@ -42,18 +40,18 @@ public:
 
     void setDefaults(olMessage &, bool flag) override
     {
-        told.emplace_back("defaults");
+        tell("defaults");
         getData().set(m_key, defaultValue, flag);
     }
     void updateGUI() override
     {
-        told.emplace_back("gui");
+        tell("gui");
         const int *value = boost::any_cast<int>(&getData().get(m_key));
         page.setValue(value ? *value : -1);
     }
     void updateData() override
     {
-        told.emplace_back("data");
+        tell("data");
         const int *before = boost::any_cast<int>(&getData().get(m_key));
         if (before && *before == page.value())
             addUnchanged(m_key.c_str());
@@ -61,13 +59,14 @@ public:
     }
     void applyPreferences() override
     {
-        told.emplace_back("apply");
+        tell("apply");
         appliedChange = isChanged(m_key.c_str());
     }
-    void preferencesLoaded(olMessage &) override { told.emplace_back("loaded"); }
+    void preferencesLoaded(olMessage &) override { tell("loaded"); }
+    void preferencesNewScene(olMessage &) override { tell("scene"); }
     void preferencesInitialApply(olMessage &message) override
     {
-        told.emplace_back("initial");
+        tell("initial");
         olPreferences::preferencesInitialApply(message);
     }
 
@@ -75,10 +74,18 @@ public:
 
     QSpinBox page;
     std::vector<std::string> told;
+    std::string failing; ///< what it throws at
     bool appliedChange = false;
     int defaultValue = 3;
 
 private:
+    void tell(const std::string &asked)
+    {
+        told.push_back(asked);
+        if (asked == failing)
+            throw std::runtime_error("no more paint");
+    }
+
     std::string m_key;
 };
 
@@ -87,21 +94,13 @@ using Told = std::vector<std::string>;
 class Session : public testing::Test
 {
 protected:
-    Session() { clear(); }
-    ~Session() override { clear(); }
-
-    static void clear()
-    {
-        const olMessage::Entries left = olPreferences::getData().entries();
-        for (const auto &entry : left)
-            olPreferences::getData().remove(entry.first);
-        olKernelServiceFactory::the<olPreferencesService>()->clear();
-    }
+    Session() { cleanHost(); }
+    ~Session() override { cleanHost(); }
 
     /// A later run of the host with the same store.
     void nextRun()
     {
-        clear();
+        cleanHost();
         session = std::make_unique<olPreferencesSession>(file);
         ASSERT_EQ(session->loadStore().error(), QString());
     }
@@ -122,7 +121,10 @@ TEST_F(Session, StartsInTheHostsOrder)
 
 TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
 {
+    const olPreferencesStore::Key foreign{olHome::Service, "Someone else's"};
+    ASSERT_TRUE(olPreferencesStore(file).save({{foreign, {}, olStoreRows::Row::of(true)}}).isOk());
     CountingModule other("Other");
+    ASSERT_TRUE(session->loadStore().isOk());
     session->start();
     module.page.setValue(7);
     EXPECT_EQ(session->commit(shown).error(), QString());
@@ -143,89 +145,35 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
     EXPECT_EQ(session->commit(shown, {}, {"Counter"}).error(), QString());
     nextRun();
     EXPECT_TRUE(olPreferences::getData().get("Counter").empty());
+    EXPECT_EQ(olPreferencesStore(file).load()->values.count(foreign), 1u) << "what no module knows stays";
 }
 
-TEST_F(Session, KeepsAChoiceThatIsADefaultInTheEditionOfThisRun)
+TEST_F(Session, AModuleThatThrowsIsToldOfAndNothingElseComesToHarm)
 {
-    session->start();
-    module.page.setValue(7);
-    EXPECT_EQ(session->commit(shown).error(), QString());
-
+    const QString failure = QStringLiteral("The module Counter has failed: no more paint.");
     CountingModule other("Other");
-    module.defaultValue = 7;
-    nextRun();
-    session->start();
-    other.page.setValue(8);
-    EXPECT_EQ(session->commit({olPreferencesRegistry::the().find(QStringLiteral("Other"))}).error(), QString());
+    for (const char *asked : {"defaults", "loaded", "gui", "initial", "scene"}) {
+        module.failing = asked;
+        other.told.clear();
+        session->start();
+        session->newScene();
+        EXPECT_EQ(session->takeNotices(), QStringList(failure)) << asked;
+        EXPECT_EQ(other.told, (Told{"defaults", "loaded", "gui", "initial", "apply", "scene"})) << asked;
+    }
 
-    module.defaultValue = 3;
-    nextRun();
-    session->start();
-    EXPECT_EQ(module.value(), 7);
-}
-
-TEST_F(Session, AConfirmationWithoutAnEditChangesNothing)
-{
-    session->start();
-    EXPECT_EQ(session->commit(shown).error(), QString());
-    EXPECT_FALSE(module.appliedChange);
-    EXPECT_FALSE(QFile::exists(file)) << "there was nothing to store";
-}
-
-TEST_F(Session, WhenStoringFailsEverythingIsAsItWasAndNothingIsApplied)
-{
-    session->start();
-    QFile inTheWay(folder.filePath(QStringLiteral("deep")));
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-    module.told.clear();
+    module.failing = "data";
     module.page.setValue(7);
+    other.page.setValue(7);
+    shown.insert(shown.begin(), olPreferencesRegistry::the().find(QStringLiteral("Other")));
+    EXPECT_EQ(session->commit(shown).error(), failure);
+    EXPECT_EQ(other.value(), 3);
+    EXPECT_FALSE(QFile::exists(file));
 
-    const QString error = session->commit(shown).error();
-    EXPECT_TRUE(error.contains(file)) << error.toStdString();
-    EXPECT_EQ(module.told, Told{"data"});
-    EXPECT_EQ(module.value(), 3);
-    EXPECT_EQ(module.page.value(), 7) << "the edit is still there to be confirmed again";
-
-    inTheWay.remove();
+    module.failing = "apply";
     EXPECT_EQ(session->commit(shown).error(), QString());
-    EXPECT_TRUE(module.appliedChange);
-    EXPECT_EQ(module.value(), 7);
-}
-
-TEST_F(Session, WhatNoModuleKnowsStaysInTheStore)
-{
-    olPreferencesStore store(file);
-    const olPreferencesStore::Key foreign{olHome::Record, "Someone else's"};
-    const olPreferencesStore::Key foreignService{olHome::Service, "Someone else's"};
-    ASSERT_EQ(store.save({{foreign, {}, Row::of(0.1f)}, {foreignService, {}, Row::of(true)}}).error(), QString());
-
+    EXPECT_EQ(session->takeNotices(), QStringList(failure));
     nextRun();
-    session->start();
-    module.page.setValue(7);
-    ASSERT_EQ(session->commit(shown).error(), QString());
-
-    const olResult<olStoreRows::Contents> contents = store.load();
-    ASSERT_EQ(contents.error(), QString());
-    olPreferencesStore::Values values = contents->values;
-    EXPECT_EQ(values.size(), 3u);
-    EXPECT_TRUE(olValue::equal(values[foreign], 0.1f));
-    EXPECT_TRUE(olValue::equal(values[foreignService], true));
-}
-
-TEST_F(Session, AFileThatIsNoStoreIsReportedAndLeftAlone)
-{
-    const QString other = folder.filePath(QStringLiteral("letter.txt"));
-    const QByteArray text("Dear reader, this is no database, and it is long enough to look like something else.");
-    QFile letter(other);
-    ASSERT_TRUE(letter.open(QIODevice::WriteOnly));
-    letter.write(text);
-    letter.close();
-
-    olPreferencesStore store(other);
-    EXPECT_TRUE(store.load().error().contains(other));
-    EXPECT_TRUE(store.save({{{olHome::Record, "key"}, {}, Row::of(1)}}).error().contains(other));
-    ASSERT_TRUE(letter.open(QIODevice::ReadOnly));
-    EXPECT_EQ(letter.readAll(), text);
+    EXPECT_EQ(module.value() + other.value(), 14);
 }
 
 TEST_F(Session, TheDialogFillsAPageOnceAnOpeningAndDropsEditsOnCancel)
@@ -254,20 +202,6 @@ TEST_F(Session, TheDialogFillsAPageOnceAnOpeningAndDropsEditsOnCancel)
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(module.told, (Told{"data", "apply"}));
     EXPECT_EQ(module.value(), 9);
-}
-
-TEST_F(Session, TheDialogStaysOpenWithTheEditsWhenStoringFails)
-{
-    session->start();
-    olPreferencesDialog dialog(*session);
-    dialog.open(QStringLiteral("Counter"));
-    QFile inTheWay(folder.filePath(QStringLiteral("deep")));
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-    module.page.setValue(9);
-    dialog.accept();
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(module.page.value(), 9);
-    EXPECT_EQ(module.value(), 3);
 }
 
 TEST_F(Session, TheDialogListsModulesUnderTheirCategoriesAndGivesPagesBack)

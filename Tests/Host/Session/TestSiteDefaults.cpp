@@ -9,11 +9,11 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
+#include "Support/CleanHost.h"
 #include "Utilities/olMessage.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTableWidget>
 
 #include <ctime>
 #include <functional>
@@ -100,8 +100,8 @@ public:
 class Site : public StoreTest
 {
 protected:
-    Site() { clear(); }
-    ~Site() override { clear(); }
+    Site() { cleanHost(); }
+    ~Site() override { cleanHost(); }
 
     void SetUp() override
     {
@@ -109,19 +109,10 @@ protected:
             GTEST_SKIP() << "a site's file counts only where it is root's";
     }
 
-    static void clear()
-    {
-        const olMessage::Entries left = olPreferences::getData().entries();
-        for (const auto &entry : left)
-            olPreferences::getData().remove(entry.first);
-        ServiceModule::service().clear();
-        olHostState::the().displayLanguage = 0;
-    }
-
     /// A run of the host at a site with that file, or with none where it is empty.
     void run(const QByteArray &site)
     {
-        clear();
+        cleanHost();
         QFile::remove(siteFile);
         if (!site.isEmpty())
             write(siteFile, site);
@@ -414,43 +405,6 @@ TEST_F(Site, ValuesThatEqualOnlyThemselvesAreNotStoredAgainAndAgain)
     const QByteArray before = bytesOf(file);
     confirm();
     EXPECT_EQ(bytesOf(file), before);
-}
-
-TEST_F(Site, AListWithoutADefaultIsASettingLikeAnyOther)
-{
-    constexpr auto name = "texture search paths";
-    using Paths = std::vector<std::string>;
-    write(siteFile, R"({"texture search paths": {"value": ["/site"]}})");
-    const auto start = [&] {
-        session.reset();
-        clear();
-        session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
-        EXPECT_EQ(session->loadStore().error(), QString());
-        EXPECT_EQ(session->loadPlugin(QStringLiteral(ORLO_PLUGIN_FILE)).error(), QString());
-        session->start();
-        EXPECT_EQ(session->takeNotices(), QStringList());
-        EXPECT_EQ(session->check(), QStringList());
-    };
-    const auto paths = [] { return olPreferencesRegistry::the().find(QStringLiteral("FileIO")); };
-    const auto rows = [&] { return paths()->page()->findChild<QTableWidget *>(QStringLiteral("searchPaths")); };
-    start();
-    EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
-    ASSERT_EQ(rows()->rowCount(), 1);
-    EXPECT_EQ(session->commit({paths()}).error(), QString());
-    EXPECT_EQ(stored().count(key(name)), 0u) << "the site's own is not stored";
-
-    rows()->removeRow(0);
-    EXPECT_EQ(session->commit({paths()}).error(), QString());
-    start();
-    EXPECT_EQ(rows()->rowCount(), 0) << "what a person took out does not come back";
-
-    write(siteFile, R"({"texture search paths": {"value": ["/site"], "locked": true}})");
-    start();
-    EXPECT_TRUE(session->lockReason(name));
-    rows()->removeRow(0);
-    EXPECT_EQ(session->commit({paths()}).error(), QString());
-    EXPECT_EQ(inRecord<Paths>(name), Paths{"/site"});
-    session.reset();
 }
 
 } // namespace

@@ -1,28 +1,24 @@
 #include "Session/olTranslations.h"
-#include "Utilities/olLog.h"
+#include "Support/RecordedLog.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace
 {
 
-class Translations : public testing::Test, private olLogObserver
+class Translations : public testing::Test
 {
 protected:
-    Translations() : before(olLog::observe(this)) {}
-    ~Translations() override { olLog::observe(before); }
-
-    void logged(olLogLevel, const QString &text) override { lines << text; }
-
     static QString changes() { return QCoreApplication::translate("olChangesView", "Changes"); }
 
-    olLogObserver *before;
-    QStringList lines;
+    RecordedLog log;
+    QStringList &lines = log.lines;
 };
 
 TEST_F(Translations, AreOfOneLanguageAsLongAsTheyStandAndKnowTheirEnglish)
@@ -50,6 +46,7 @@ TEST_F(Translations, OfTheToolkitAreThoseInstalledOrALineInTheLog)
         translations.load(language);
         translations.loadOfToolkit();
         const QString cancel = QCoreApplication::translate("QPlatformTheme", "Cancel");
+        EXPECT_EQ(QLocale().standaloneMonthName(11).contains(QChar(language == 3 ? 0xc6d4 : 0x6708)), language != 0);
         const QString told = lines.join(' ');
         lines.clear();
         if (language == 0 || !told.isEmpty()) {

@@ -3,7 +3,8 @@
 #include "State/olHostState.h"
 #include "State/olPreferencesRegistry.h"
 #include "State/olValue.h"
-#include "Utilities/olLog.h"
+#include "Support/CleanHost.h"
+#include "Support/RecordedLog.h"
 #include "Utilities/olMessage.h"
 #include "WebServer/olWebServer.h"
 
@@ -41,10 +42,10 @@ struct Reply {
 };
 
 /// A host with the record as its modules would fill it, a configuration folder of its own, and a free port.
-class WebServer : public testing::Test, private olLogObserver
+class WebServer : public testing::Test
 {
 protected:
-    WebServer() : m_log(olLog::observe(this))
+    WebServer()
     {
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_configuration.path()));
         host.reset();
@@ -56,19 +57,7 @@ protected:
         record.set("WebInterface white list", std::string());
     }
 
-    ~WebServer() override
-    {
-        host.reset();
-        olLog::observe(m_log);
-        const olMessage::Entries left = record.entries();
-        for (const auto &entry : left)
-            record.remove(entry.first);
-    }
-
-    void logged(olLogLevel level, const QString &text) override
-    {
-        (level == olLogLevel::Error ? errors : lines).append(text);
-    }
+    ~WebServer() override { cleanHost(); }
 
     static int freePort()
     {
@@ -108,11 +97,11 @@ protected:
     olHostState &host = olHostState::the();
     olMessage &record = olPreferencesRegistry::the().record();
     int port = 0;
-    QStringList errors;
-    QStringList lines;
+    RecordedLog log;
+    QStringList &errors = log.errors;
+    QStringList &lines = log.lines;
 
 private:
-    olLogObserver *m_log;
     olWebServer m_server;
 };
 

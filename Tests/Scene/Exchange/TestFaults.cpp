@@ -171,6 +171,13 @@ TEST_F(Fault, WhatRefersToNothingIsRefusedBeforeItIsTakenOver)
     without.replace(surface, afterSurface - surface, "$");
     EXPECT_TRUE(faultOf(written(QStringLiteral("surface.step"), without)).contains(QStringLiteral("lacks what it is")));
 
+    // A curve on a surface, of a kind that nobody knows.
+    const int item = step.indexOf('#', step.indexOf("DEFINITIONAL_REPRESENTATION('',("));
+    const QByteArray name = step.mid(item, step.indexOf(')', item) - item) + " = ";
+    QByteArray odd = step;
+    odd[step.indexOf(name) + name.size()] = 'X';
+    EXPECT_TRUE(faultOf(written(QStringLiteral("curve.step"), odd)).contains(QStringLiteral("lacks what it is")));
+
     // An entry of the directory has two lines: pointers to parameters, view and matrix, and to a colour.
     const QByteArray iges = contentOf(exported(QStringLiteral("whole.igs")));
     const int entry = iges.indexOf("D0000001") - 72;

@@ -1,7 +1,7 @@
 #include "Kernel/olController.h"
 #include "Kernel/olOSGWidget.h"
 #include "State/olHostState.h"
-#include "Utilities/olLog.h"
+#include "Support/RecordedLog.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -80,28 +80,10 @@ TEST(HostState, ObserversMayComeAndGoWhileTheyAreTold)
     EXPECT_EQ(count, 4);
 }
 
-class LoggedErrors : public olLogObserver
-{
-public:
-    LoggedErrors() : m_before(olLog::observe(this)) {}
-    ~LoggedErrors() override { olLog::observe(m_before); }
-
-    void logged(olLogLevel level, const QString &text) override
-    {
-        if (level == olLogLevel::Error)
-            errors << text;
-    }
-
-    QStringList errors;
-
-private:
-    olLogObserver *m_before;
-};
-
 TEST(HostCalls, PlanesThatNoCameraHasAreRefusedAloud)
 {
     const olHostState &state = olHostState::the();
-    LoggedErrors log;
+    RecordedLog log;
     olOSGWidget::setNearFarPlaneLimit(true, 2.0f, 50.0f);
     const std::tuple<float, float, bool, bool> refused[] = {
         {0.0f, 0.0f, true, true}, {-1.0f, 5.0f, true, false}, {9.0f, 9.0f, false, true}, {-5.0f, -1.0f, true, true}};

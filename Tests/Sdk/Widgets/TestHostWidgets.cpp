@@ -168,22 +168,6 @@ TEST(HostNumbers, AreClampedAndRoundOnlyWhereDecimalsAreSet)
     EXPECT_EQ(wheel.value(), 0.0);
 }
 
-TEST(HostNumbers, AreTypedInTheCLocaleWhateverTheUsers)
-{
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QOLWheelPrec wheel;
-    wheel.setLocale(QLocale(QLocale::German));
-    show(wheel);
-    typeAndEnter(fieldOf(wheel), "63.5");
-    EXPECT_EQ(wheel.value(), 63.5);
-    typeAndEnter(fieldOf(wheel), "1,25");
-    EXPECT_EQ(wheel.value(), 1.25) << "a decimal comma becomes a point";
-    typeAndEnter(fieldOf(wheel), "-2e-3");
-    EXPECT_EQ(wheel.value(), -0.002);
-    QLocale::setDefault(before);
-}
-
 TEST(HostNumbers, AreReadWhileTheyAreBeingTypedAndSignalledOnce)
 {
     QOLSlider slider;
