@@ -166,7 +166,8 @@ def rows(folder):
         for count, file in bars.items():
             Step().write(file, count)
         iges = work / "bars500.iges"
-        subprocess.run([folder / "orlo", "--store", work / "store.db", "--save", iges, bars[500]], env=environment, check=True)
+        subprocess.run([folder / "orlo", "--store", work / "store.db", "--save", iges, bars[500]], env=environment,
+                       check=True)
         read = work / "read.py"
         read.write_text("import FreeCAD, Import, os\ndocument = FreeCAD.newDocument()\n"
                         "Import.insert(os.environ['MODEL'], document.Name)\n"

@@ -75,7 +75,7 @@ public:
 
     [[nodiscard]] olScene::Document run(const Message_ProgressRange &progress)
     {
-        Message_ProgressScope whole(progress, "Treatment", 2);
+        Message_ProgressScope whole(progress, nullptr, 2);
         prepare(whole.Next());
         Message_ProgressScope scope(whole.Next(), "Parts", partCount());
         olDocumentCopy copy;
