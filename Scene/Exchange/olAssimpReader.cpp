@@ -209,7 +209,14 @@ private:
 
     static bool isOfTriangles(const aiMesh &mesh)
     {
-        return (mesh.mPrimitiveTypes & aiPrimitiveType_TRIANGLE) != 0 && mesh.mNumFaces > 0;
+        return (mesh.mPrimitiveTypes & aiPrimitiveType_TRIANGLE) != 0 && trianglesIn(mesh) > 0;
+    }
+
+    /// Among those of a damaged file there may be faces of fewer corners.
+    static bool isTriangle(const aiFace &face) { return face.mNumIndices == 3; }
+    static int trianglesIn(const aiMesh &mesh)
+    {
+        return int(std::count_if(mesh.mFaces, mesh.mFaces + mesh.mNumFaces, isTriangle));
     }
 
     /// Names that the library makes up for what has none.
@@ -300,7 +307,7 @@ private:
     [[nodiscard]] Handle(Poly_Triangulation) triangulationOf(const aiMesh &mesh, const gp_Mat &matrix) const
     {
         const int nodes = int(mesh.mNumVertices);
-        const int triangles = int(mesh.mNumFaces);
+        const int triangles = trianglesIn(mesh);
         const bool isColored = hasColors(mesh);
         Handle(olColoredMesh) colored;
         if (isColored)
@@ -326,9 +333,12 @@ private:
         }
         if (isColored)
             colored->colors = colorsOf(mesh);
-        for (int triangle = 0; triangle < triangles; ++triangle) {
-            const unsigned *corner = mesh.mFaces[triangle].mIndices;
-            result->SetTriangle(triangle + 1,
+        int triangle = 0;
+        for (unsigned face = 0; face < mesh.mNumFaces; ++face) {
+            const unsigned *corner = mesh.mFaces[face].mIndices;
+            if (!isTriangle(mesh.mFaces[face]))
+                continue;
+            result->SetTriangle(++triangle,
                                 isMirrored ? Poly_Triangle(int(corner[0]) + 1, int(corner[2]) + 1, int(corner[1]) + 1)
                                            : Poly_Triangle(int(corner[0]) + 1, int(corner[1]) + 1, int(corner[2]) + 1));
         }
