@@ -36,7 +36,18 @@ std::optional<Character> firstCharacter(std::string_view text)
     return Character{code, length};
 }
 
-void appendUtf8(std::string &text, char32_t code) { text += QString::fromUcs4(&code, 1).toStdString(); }
+void appendUtf8(std::string &text, char32_t code)
+{
+    if (code < 0x80) {
+        text += char(code);
+        return;
+    }
+    const int following = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    constexpr unsigned firstMarks[] = {0, 0xc0, 0xe0, 0xf0};
+    text += char(firstMarks[following] | code >> (6u * unsigned(following)));
+    for (int left = following - 1; left >= 0; --left)
+        text += char(0x80u | (code >> (6u * unsigned(left)) & 0x3fu));
+}
 
 void appendEscape(std::string &out, char32_t unit)
 {
