@@ -24,7 +24,6 @@ struct Words {
 };
 
 constexpr int mostLines = 100;
-constexpr const char *editions[] = {"essentials", "design", "professional", "enterprise"};
 
 } // namespace
 
@@ -56,8 +55,7 @@ QString olSupportInformation(const olPreferencesSession &session, const olLogTai
     }
     QStringList lines{
         Words::tr("orlo %1, edition %2")
-            .arg(QCoreApplication::applicationVersion(),
-                 QLatin1String(editions[int(olEdition(olHostState::the().edition))])),
+            .arg(QCoreApplication::applicationVersion(), olEditionName(olHostState::the().edition)),
         QStringLiteral("Qt %1, OpenCASCADE %2").arg(QLatin1String(qVersion()), QLatin1String(OCC_VERSION_COMPLETE)),
         QStringLiteral("%1, %2").arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture()),
         QString(),

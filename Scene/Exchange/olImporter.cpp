@@ -80,8 +80,6 @@ olImporter::~olImporter()
         reading->wait();
 }
 
-int olImporter::start(const QString &file) { return start(std::vector<olImportJob>{olImportJob::of(file)}); }
-
 int olImporter::start(const std::vector<olImportJob> &jobs, Into into)
 {
     if (jobs.empty())

@@ -40,7 +40,6 @@ public:
     /// The files make one scene together, in their order. Returns the number by which the signals name this import; 0,
     /// and no signal, without any files.
     int start(const std::vector<olImportJob> &jobs, Into into = Into::NewScene);
-    int start(const QString &file);
 
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 

@@ -54,7 +54,7 @@ TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
 {
     const olScene::Document before = m_scene.document();
     const std::vector<olImportJob> good = jobs({"good.step"});
-    const int bad = m_importer.start(written(QStringLiteral("bad.step"), "no"));
+    const int bad = m_importer.start({olImportJob::of(written(QStringLiteral("bad.step"), "no"))});
     wait();
     EXPECT_FALSE(m_ended.value(bad).first().outcome.isOk());
     EXPECT_EQ(m_scene.document(), before);
