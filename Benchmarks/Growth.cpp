@@ -53,9 +53,7 @@ private:
     std::vector<std::unique_ptr<olPluginLoader>> m_plugins;
 };
 
-using Operation = void (olPreferencesEntry::*)();
-
-void all(Operation operation)
+template <class Operation> void all(Operation operation)
 {
     for (olPreferencesEntry *module : BenchHost::modules())
         (module->*operation)();
