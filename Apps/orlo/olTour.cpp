@@ -45,12 +45,14 @@ void complain(const QString &what) { std::fprintf(stderr, "orlo: %s\n", qPrintab
 
 constexpr double changedFieldOfView = 25.0;
 
-/// Before they are looked at.
+/// Before they are looked at. One frame of the view may take all of the time on a busy machine, and what a layout asks
+/// for comes a round later.
 void letWindowsDraw()
 {
+    constexpr int leastRounds = 10;
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < 300)
+    for (int round = 0; round < leastRounds || timer.elapsed() < 300; ++round)
         QApplication::processEvents(QEventLoop::AllEvents, 50);
 }
 
@@ -69,6 +71,13 @@ template <class Control> Control *goTo(olPreferencesDialog &preferences, const c
 {
     const QString name = QLatin1String(key);
     return preferences.openAt(name) ? controlFor<Control>(preferences, name) : nullptr;
+}
+
+/// The line on other programs' changes has such a button, too.
+void closeMessage(const olPreferencesDialog &preferences)
+{
+    const auto *message = preferences.findChild<QWidget *>(QStringLiteral("message"));
+    message->findChild<QAbstractButton *>(QStringLiteral("closeMessage"))->click();
 }
 
 QPalette darkPalette()
@@ -148,7 +157,7 @@ bool olTour::pending(olPreferencesDialog &preferences) const
     saved = preferences.apply() && saved;
     letWindowsDraw();
     saved = picture(preferences, QStringLiteral("preferences-applied.png")) && saved;
-    preferences.findChild<QAbstractButton *>(QStringLiteral("closeMessage"))->click();
+    closeMessage(preferences);
     return saved;
 }
 
@@ -206,6 +215,7 @@ bool olTour::surroundings(olPreferencesDialog &preferences) const
         locked->menu()->actions().first()->trigger();
         letWindowsDraw();
         saved = picture(preferences, QStringLiteral("preferences-locks.png"));
+        closeMessage(preferences);
     }
 
     const QPalette light = QApplication::palette();

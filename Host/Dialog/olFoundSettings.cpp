@@ -110,6 +110,8 @@ olFoundSettings::olFoundSettings() : m_model(new olFoundModel(this))
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
+    // The end of a place tells most.
+    setTextElideMode(Qt::ElideMiddle);
     setAllColumnsShowFocus(true);
     header()->setSectionsMovable(false);
     header()->setSectionResizeMode(QHeaderView::Stretch);

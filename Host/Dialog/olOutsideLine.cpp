@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -21,13 +22,17 @@ olOutsideLine::olOutsideLine(olPreferencesSession &session, olPendingChanges &pe
     setObjectName(QStringLiteral("outsideChanges"));
     m_theirs->setObjectName(QStringLiteral("useTheirs"));
     m_mine->setObjectName(QStringLiteral("keepMine"));
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_message, 1);
+    layout->addWidget(m_message);
+    // Below the text, which names a program, a setting and values, and needs the whole width of a narrow dialog.
+    auto *choices = new QHBoxLayout;
+    choices->addStretch(1);
     for (QPushButton *button : {m_theirs, m_mine}) {
         button->setAutoDefault(false);
-        layout->addWidget(button);
+        choices->addWidget(button);
     }
+    layout->addLayout(choices);
     setVisible(false);
     connect(&session, &olPreferencesSession::changedOutside, this, &olOutsideLine::tell);
     // A change that is applied, dropped or edited back leaves nothing to choose.

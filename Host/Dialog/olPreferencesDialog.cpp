@@ -372,7 +372,9 @@ void olPreferencesDialog::resizeEvent(QResizeEvent *event)
     const auto wanted = width() < character * both ? Qt::Vertical : Qt::Horizontal;
     if (m_splitter->orientation() != wanted) {
         m_splitter->setOrientation(wanted);
-        m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{1, 3} : treeAndPage(*m_tree));
+        const int third = m_splitter->height() / 3;
+        m_splitter->setSizes(wanted == Qt::Vertical ? QList<int>{third, m_splitter->height() - third}
+                                                    : treeAndPage(*m_tree));
     }
     const QList<int> sizes = m_splitter->sizes();
     const int missing = character * page - sizes.last();

@@ -54,7 +54,9 @@ protected:
 
     void look(QWidget &shown, const QString &name)
     {
+        // A layout follows its texts some rounds later, and on a busy machine one round may last long.
         QTest::qWait(50);
+        (void)QTest::qWaitFor([&shown] { return FormFaults::clipped(shown).isEmpty(); }, 1000);
         Pictures::take(shown, olTranslations::languages()[GetParam()] + QLatin1Char(' ') + name);
         QStringList faults = FormFaults::english(shown);
         // Formats go by their own names.
