@@ -51,9 +51,13 @@ int main(int argc, char *argv[])
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     awaitPicture(view);
 
+    int picture = QByteArray(argv[2]).toInt();
+    if (picture == 0)
+        return 0; // a click would look for what is below the mouse, which no first picture waits for
+
     QPoint place = view.rect().center();
     mouse(view, QEvent::MouseButtonPress, place);
-    for (int picture = QByteArray(argv[2]).toInt(); picture > 0; --picture) {
+    for (; picture > 0; --picture) {
         place += QPoint(6, 2);
         mouse(view, QEvent::MouseMove, place);
         awaitPicture(view);
