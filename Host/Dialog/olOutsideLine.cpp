@@ -59,7 +59,7 @@ void olOutsideLine::clear()
 
 bool olOutsideLine::isPending(const olOutsideChange &change) const
 {
-    return !olValue::equal(m_pending.value(change.key), change.after);
+    return m_pending.isPending(change.key) && !olValue::equal(m_pending.value(change.key), change.after);
 }
 
 QString olOutsideLine::told(const olOutsideChange &change) const

@@ -104,6 +104,13 @@ TEST_F(Following, PendingChangesStayAndTheSameSettingIsAskedFor)
     choice("keepMine").click();
     EXPECT_TRUE(dialog->apply());
     EXPECT_EQ(module.value<int>("Studio samples"), 5);
+
+    module.page.samples->setValue(3);
+    saveOutside({{key("Studio samples"), 8}});
+    session->takeOver();
+    EXPECT_TRUE(choice("keepMine").isVisible());
+    EXPECT_TRUE(dialog->apply());
+    EXPECT_FALSE(choice("keepMine").isVisible()) << "what is applied leaves nothing to choose";
 }
 
 TEST_F(Following, ASaveWritesNoOlderValueOfWhatWasNotChangedHere)
