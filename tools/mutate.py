@@ -5,12 +5,12 @@
 A place is a condition, a number, a text such as a key, a call left out, or two calls swapped; of a form what it says of
 a control. N of them (30) are drawn by the seed (1), as many of each kind as there are. Each is changed in a copy of the
 sources as committed, under build/mutate; there the copy is built, and its tests that can see the folders are run, the
-likely ones first and those that take long last. Where no test fails, the change has survived: a test is missing, or
-nobody could notice it; these are listed in Tests/survivors.md. A change that does not compile counts for nothing, and
-another one is drawn.
+likely ones first. Where no test fails, the change has survived: a test is missing, or nobody could notice it; these are
+listed in Tests/survivors.md. A change that does not compile counts for nothing, and another one is drawn.
 
-What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped; with --again it tries
-those that survived once more, for when the tests have become sharper. The environment may name a command that building
+What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped. With --again it tries
+those that survived once more, for when the tests have become sharper, and then with the tests that take long, too: they
+would take most of the time where many changes survive the others. The environment may name a command that building
 and testing is run through (MUTATE_RUN="nice -n 5") and options for configuring the copy (MUTATE_CMAKE).
 """
 
@@ -35,8 +35,9 @@ SEES = {
     "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests"],
     "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests"],
 }
-# How a source is laid out says nothing of what it does, and what is packed or built once more nothing new.
-BLIND = ("check_format", "check_packaging", "build_plugin_alone")
+# How a source is laid out says nothing of what it does, what is packed or built once more nothing new, and how memory
+# grows hardly anything.
+BLIND = ("check_format", "check_packaging", "build_plugin_alone", "LoadCycles.")
 QUICK_SECONDS = 3.0
 HUNG_SECONDS = 120
 
@@ -104,7 +105,8 @@ def drawn(folders, seed):
 class Copy:
     """The sources as they are committed, built and tested without getting in anyone's way."""
 
-    def __init__(self, folders):
+    def __init__(self, folders, hasTime):
+        self.hasTime = hasTime
         seen = [SEES.get(folder.partition("/")[0], []) for folder in folders]
         self.programs = sorted(set(sum(seen, []))) if all(seen) else []
         if not COPY.exists():
@@ -118,7 +120,8 @@ class Copy:
         if not self.builds():
             sys.exit("the unchanged sources do not build")
         self.numbers = self.tests()
-        self.trusted = set()
+        # What noticed a change in some run did not fail on the unchanged sources.
+        self.trusted = {place["verdict"] for kept in WORK.glob("*.json") for place in json.loads(kept.read_text())}
 
     @staticmethod
     def git(*command):
@@ -208,6 +211,8 @@ class Copy:
             done, slow = set(), self.slow()
             quick = [number for number in self.numbers.values() if number not in slow]
             for stage in (*self.likely(source, counted), quick, sorted(slow)):
+                if not self.hasTime:
+                    stage = [number for number in stage if number not in slow]
                 if failed := self.failure([number for number in stage if number not in done]):
                     return failed
                 done.update(stage)
@@ -230,7 +235,7 @@ def main():
     tried = json.loads(kept.read_text()) if kept.exists() else []
     known = {(place["file"], place["was"], place["is"]) for place in tried}
     counted = [place for place in tried if place["verdict"] is not None]
-    copy = Copy(arguments.folders)
+    copy = Copy(arguments.folders, arguments.again)
     waiting = [place for place in counted if place["verdict"] == ""] if arguments.again else \
         (place for place in drawn(arguments.folders, arguments.seed)
          if (place["file"], place["was"], place["is"]) not in known)
