@@ -163,7 +163,7 @@ void StudioModule::applyPreferences()
 {
     ++applied;
     changed.clear();
-    for (const char *key : {shadowsKey, samplesKey, modeKey, scaleKey, titleKey, hiddenKey}) {
+    for (const char *key : {shadowsKey, samplesKey, modeKey, scaleKey, titleKey, hiddenKey, seedKey}) {
         if (isChanged(key))
             changed.emplace_back(key);
     }

@@ -72,6 +72,10 @@ TEST_F(Following, WhatAnotherProgramSavesComesIntoForceWithinASecond)
     const int applied = module.applied;
     session->takeOver();
     EXPECT_EQ(module.applied, applied);
+
+    saveOutside({{key("Studio seed"), 3}});
+    session->takeOver();
+    EXPECT_EQ(module.changed, std::vector<std::string>{"Studio seed"}) << "also without a control";
 }
 
 TEST_F(Following, PendingChangesStayAndTheSameSettingIsAskedFor)
