@@ -47,7 +47,14 @@ CONDITION = re.compile(r"(?<= )(?:==|!=|<=|>=|<|>|&&|\|\|)(?= )|\b(?:true|false)
 NUMBER = re.compile(r"(?<![\w.\"'<])\d+(?:\.\d+)?(?=[fu]?[^\w.\"'])")
 TEXT = re.compile(r'"((?:[^"\\]|\\.)+)"')
 CALL = re.compile(r"^\s+(?!(?:return|delete|using|throw|case) )[\w:.>()*-]+\(.*\);$")
+SETTER = re.compile(r"\s+(?:(.+?)(?:->|\.))?(set[A-Z]\w*|connect)\(")
 IN_FORM = re.compile(r"<(number|double|bool|string|set)(?: [^>]*)?>([^<]+)<")
+
+
+def alike(line, following):
+    """Whether both set properties of one object, or the same one of two, where their order hardly ever matters."""
+    one, other = SETTER.match(line), SETTER.match(following)
+    return one and other and (one[1] == other[1] or one[2] == other[2])
 
 
 def increased(number):
@@ -80,8 +87,9 @@ def changes_of_code(lines, at, isHeader):
     if isCall and lines[at - 1].endswith((";", "{", "}", ")", ":", "else")):
         indent = line[:len(line) - len(line.lstrip())]
         yield "call left out", indent + ";"
-        if CALL.match(lines[at + 1]) and lines[at + 1] != line and lines[at + 1].startswith(indent):
-            yield "calls swapped", lines[at + 1] + "\n" + line
+        following = lines[at + 1]
+        if CALL.match(following) and following != line and following.startswith(indent) and not alike(line, following):
+            yield "calls swapped", following + "\n" + line
 
 
 def drawn(folders, seed):

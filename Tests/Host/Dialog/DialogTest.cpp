@@ -163,7 +163,7 @@ void StudioModule::applyPreferences()
 {
     ++applied;
     changed.clear();
-    for (const char *key : {shadowsKey, samplesKey, modeKey, scaleKey, titleKey, hiddenKey, seedKey}) {
+    for (const char *key : {shadowsKey, samplesKey, modeKey, scaleKey, titleKey, hiddenKey}) {
         if (isChanged(key))
             changed.emplace_back(key);
     }
