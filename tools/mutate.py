@@ -8,9 +8,9 @@ sources as committed, under build/mutate; there the copy is built, and its tests
 likely ones first. Where no test fails, the change has survived: a test is missing, or nobody could notice it; these are
 listed in Tests/survivors.md. A change that does not compile counts for nothing, and another one is drawn.
 
-What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped. With --again it tries
-those that survived once more, for when the tests have become sharper, and then with the tests that take long, too: they
-would take most of the time where many changes survive the others. The environment may name a command that building
+What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped. With --again it
+tries those that survived once more, for when the tests have become sharper, and then with the tests that take long,
+too: they would take most of the time where many changes survive the others. The environment may name a command that building
 and testing is run through (MUTATE_RUN="nice -n 5") and options for configuring the copy (MUTATE_CMAKE).
 """
 
@@ -28,16 +28,16 @@ ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build/mutate"
 COPY = WORK / "copy"
 
-# The programs whose tests can see a folder; of any other folder it is all of them. Left out is what takes long and looks
-# at more than the folder: the view, which sees of a setting what the calls before it say, and the forms at every scale.
+# The programs whose tests can see a folder; of any other folder it is all of them. Left out is the view, which takes
+# long and sees of a setting what the calls before it say.
 SEES = {
     "Plugins": ["orlo-prefs", "plugins-tests", "model-tests"],
-    "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests"],
-    "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests"],
+    "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests", "forms-tests"],
+    "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests", "forms-tests"],
 }
-# How a source is laid out says nothing of what it does, what is packed or built once more nothing new, and how memory
-# grows hardly anything.
-BLIND = ("check_format", "check_packaging", "build_plugin_alone", "LoadCycles.")
+# How a source is laid out says nothing of what it does, what is packed, built or shown at one more scale nothing new,
+# and how memory grows hardly anything.
+BLIND = ("check_format", "check_packaging", "build_plugin_alone", "LoadCycles.", "at_scale_1.5", "at_scale_2")
 QUICK_SECONDS = 3.0
 HUNG_SECONDS = 120
 
@@ -162,7 +162,7 @@ class Copy:
         numbers = {}
         for number, test in enumerate(json.loads(shown)["tests"], 1):
             command = " ".join(test.get("command", ["NOT_BUILT"]))
-            isSeen = not any(name in command for name in BLIND) and \
+            isSeen = not any(name in test["name"] + command for name in BLIND) and \
                 (any(f"/bin/{program}" in f"{command} " for program in self.programs) or "/lint/" in command)
             if (isSeen or not self.programs) and '"slow"' not in json.dumps(test):
                 numbers[test["name"]] = number
@@ -193,7 +193,7 @@ class Copy:
             yield [self.numbers[test] for test in sorted(tests) if test in self.numbers]
 
     def verdict(self, place, counted):
-        """The test that noticed the change, "" where none did, nothing where it did not compile."""
+        """The test that noticed the change, "" where none did, nothing where it did not compile or its line is gone."""
         while (failed := self.noticed(place, counted)) and failed not in self.trusted:
             # One that fails on the unchanged sources, too, notices nothing: say, because it measures time on a machine
             # that is busy.
@@ -207,11 +207,13 @@ class Copy:
 
     def noticed(self, place, counted):
         source = COPY / place["file"]
-        text = source.read_text()
+        text = source.read_text() if source.exists() else ""
         lines = text.split("\n")
         at = place["line"] - 1
         if place["was"] not in lines[at:at + 1]:
-            at = lines.index(place["was"]) if place["was"] in lines else sys.exit(f"{place['file']} has changed")
+            if place["was"] not in lines:
+                return None
+            at = lines.index(place["was"])
         lines[at:at + place["is"].count("\n") + 1] = place["is"].split("\n")
         source.write_text("\n".join(lines))
         try:
@@ -257,7 +259,7 @@ def main():
             counted += [place] if place["verdict"] is not None else []
         kept.write_text(json.dumps(tried, indent=1))
         print(f"{len(counted)}: {place['file']}:{place['line']} ({place['kind']}): "
-              f"{'does not compile' if place['verdict'] is None else place['verdict'] or 'SURVIVED'}", flush=True)
+              f"{'no such change' if place['verdict'] is None else place['verdict'] or 'SURVIVED'}", flush=True)
 
     survived = [place for place in counted if place["verdict"] == ""]
     print(f"{len(counted)} changes, {len(survived)} survived")
