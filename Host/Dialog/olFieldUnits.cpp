@@ -54,6 +54,7 @@ void olFieldUnits::show(QWidget &control, const QString &unit)
         label->setObjectName(QStringLiteral("unit"));
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setForegroundRole(QPalette::Text);
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         label->show();
         m_units.insert(field, label);
         connect(field, &QObject::destroyed, this, [this, field] { m_units.remove(field); });
@@ -67,11 +68,13 @@ void olFieldUnits::show(QWidget &control, const QString &unit)
 
 void olFieldUnits::showShare(QWidget &control)
 {
-    // The room for the longest of them.
     show(control, perCent(1.0));
     const QList<QLineEdit *> fields = control.findChildren<QLineEdit *>();
     for (QLineEdit *field : fields) {
         const QPointer<QLabel> label = m_units.value(field);
+        // The room for the longest of them, so that fields below each other are alike.
+        if (label)
+            label->setMinimumWidth(label->sizeHint().width());
         const auto tell = [this, field, label](const QString &text) {
             bool isNumber = false;
             const double share = text.toDouble(&isNumber);
@@ -106,7 +109,7 @@ void olFieldUnits::place(QLineEdit &field) const
     QLabel *label = m_units.value(&field);
     // A mark in the field takes its end.
     label->setVisible(field.actions().isEmpty());
-    const int width = label->sizeHint().width() + gap;
+    const int width = std::max(label->sizeHint().width(), label->minimumWidth()) + gap;
     const bool isMirrored = field.layoutDirection() == Qt::RightToLeft;
     const QMargins margins(isMirrored ? width : 0, 0, isMirrored ? 0 : width, 0);
     if (field.textMargins() != margins)

@@ -2,6 +2,7 @@
 
 #include "olHostExport.h"
 
+#include <QIcon>
 #include <QProxyStyle>
 
 /// The style of the desktop, for pages of settings: boxes to be ticked have a border that can be seen in every palette,
@@ -27,6 +28,8 @@ public:
                                        const QWidget *widget) const override;
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                                          const QWidget *widget) const override;
+    [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                                     const QWidget *widget) const override;
 
 private:
     void drawSlider(const QStyleOptionComplex &option, QPainter &painter, const QWidget *widget) const;
