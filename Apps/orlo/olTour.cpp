@@ -5,6 +5,7 @@
 #include "olMainWindow.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Dialog/olSettingsTransfer.h"
 #include "Exchange/olExportScene.h"
 #include "Exchange/olImportJob.h"
 #include "Model/olScene.h"
@@ -181,7 +182,7 @@ bool olTour::lists(olPreferencesDialog &preferences) const
     letWindowsDraw();
     saved = picture(preferences, QStringLiteral("preferences-profiles.png")) && saved;
     more->menu()->close();
-    preferences.showHistory();
+    preferences.transfer().showHistory();
     return dialog(QStringLiteral("preferences-history.png")) && saved;
 }
 
@@ -198,7 +199,7 @@ bool olTour::imports(olPreferencesDialog &preferences) const
         {{"Camera fov", 40.0f}, {"Navigator mode", 3}, {"RenderOptions near plane", 5.0f}, {"Powerwall height", true}});
     if (!written.isOk())
         complain(written.error());
-    preferences.importFrom(file);
+    preferences.transfer().importFrom(file);
     saved = dialog(QStringLiteral("preferences-rows.png")) && saved;
 
     const QString model = QDir(m_folder).filePath(QStringLiteral("sample.step"));
