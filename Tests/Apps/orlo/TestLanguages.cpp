@@ -183,7 +183,7 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
     lookAtWhatOpens("changes", [&] { dialog.findChild<QAbstractButton *>("changes")->click(); });
     lookAtWhatOpens("loss", [&] { dialog.reject(); });
     ASSERT_TRUE(dialog.apply());
-    lookAtWhatOpens("history", [&] { translated("olPreferencesDialog", "&History...").trigger(); });
+    lookAtWhatOpens("history", [&] { translated("olSettingsTransfer", "&History...").trigger(); });
     for (QMenu *menu : more.findChildren<QMenu *>() + dialog.findChildren<QMenu *>())
         emit menu->aboutToShow();
     lookAtWhatOpens("profile", [&] { translated("olProfilesMenu", "&Save As...").trigger(); });
