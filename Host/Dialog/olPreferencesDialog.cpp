@@ -52,13 +52,13 @@ namespace
 QSize comfortableSize(const QWidget &widget)
 {
     const QFontMetrics metrics = widget.fontMetrics();
-    return {metrics.averageCharWidth() * 130, metrics.height() * 36};
+    return {olWindowPlace::letterWidth(metrics) * 130, metrics.height() * 36};
 }
 
 /// Side by side; every name of the tree has its room.
 QList<int> treeAndPage(const olModuleTree &tree)
 {
-    const int character = tree.fontMetrics().averageCharWidth();
+    const int character = olWindowPlace::letterWidth(tree.fontMetrics());
     const int names = std::max(character * 33, tree.sizeHint().width());
     return {names, character * 130 - names};
 }
@@ -194,6 +194,7 @@ QWidget *olPreferencesDialog::buildRight()
     header->addWidget(m_title);
     header->addStretch(1);
     header->addWidget(m_restorePage);
+    m_title->setMinimumHeight(m_restorePage->sizeHint().height()); // stays where it is without the button, too
     layout->addLayout(header);
     layout->addWidget(m_locked, 0, Qt::AlignLeft);
     layout->addWidget(m_pageNote);
@@ -349,7 +350,7 @@ void olPreferencesDialog::hideEvent(QHideEvent *event)
 
 int olPreferencesDialog::panelWidth() const
 {
-    const int usual = fontMetrics().averageCharWidth() * 70;
+    const int usual = olWindowPlace::letterWidth(fontMetrics()) * 70;
     const auto *frame = qobject_cast<const olPageFrame *>(m_pages->currentWidget());
     const QMargins around = layout()->contentsMargins();
     return std::max(usual, (frame ? frame->pageWidth() : 0) + around.left() + around.right());
@@ -362,7 +363,7 @@ void olPreferencesDialog::resizeEvent(QResizeEvent *event)
     QDialog::resizeEvent(event);
     constexpr int page = 68; // characters of the widest one
     constexpr int both = 98;
-    const int character = fontMetrics().averageCharWidth();
+    const int character = olWindowPlace::letterWidth(fontMetrics());
     const auto wanted = width() < character * both ? Qt::Vertical : Qt::Horizontal;
     if (m_splitter->orientation() != wanted) {
         m_splitter->setOrientation(wanted);

@@ -6,6 +6,7 @@
 
 #include <OpenSG/OSGColor.h>
 #include <QFile>
+#include <QHeaderView>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -120,6 +121,12 @@ TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
     EXPECT_TRUE(skipped.contains(QStringLiteral("Studio shadows | cannot be 1: expected true or false")));
     EXPECT_TRUE(skipped.contains(QStringLiteral("Studio title | is locked: House style.")));
     EXPECT_EQ(module.page.samples->value(), 4);
+
+    view->resize(400, 10);
+    const auto *list = view->findChild<QTreeWidget *>(QStringLiteral("skipped"));
+    EXPECT_LT(list->geometry().bottom(), view->findChild<QWidget *>(QStringLiteral("copyAsText"))->geometry().top());
+    EXPECT_LE(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->header()->length(), list->width())
+        << "old and new value are in sight in a narrow window, too";
 
     view->reject();
     EXPECT_FALSE(canApply()) << "a preview that is cancelled did nothing";
