@@ -372,6 +372,13 @@
     </message>
 </context>
 <context>
+    <name>olFoundRows</name>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
     <name>olFoundSettings</name>
     <message>
         <source>Setting</source>
@@ -1339,24 +1346,8 @@
         <translation>既定値と異なる設定を一覧表示します。</translation>
     </message>
     <message>
-        <source>&amp;Import...</source>
-        <translation>インポート(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>エクスポート(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>Apply Profile %1</source>
-        <translation>プロファイル「%1」の適用</translation>
-    </message>
-    <message>
         <source>&amp;Apply</source>
         <translation>適用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;History...</source>
-        <translation>履歴(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
@@ -1383,18 +1374,6 @@
         <translation>ダイアログに戻る(&amp;S)</translation>
     </message>
     <message>
-        <source>This change is not applied yet and would be lost:</source>
-        <translation>この変更はまだ適用されておらず、失われます：</translation>
-    </message>
-    <message>
-        <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation>これら%1件の変更はまだ適用されておらず、失われます：</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>ほか%1件</translation>
-    </message>
-    <message>
         <source>All settings have their defaults.</source>
         <translation>すべての設定が既定値になっています。</translation>
     </message>
@@ -1405,30 +1384,6 @@
     <message>
         <source>%1 Locked</source>
         <translation>%1件ロック済み</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>locked</source>
-        <translation>ロック済み</translation>
-    </message>
-    <message>
-        <source>pending</source>
-        <translation>保留中</translation>
-    </message>
-    <message>
-        <source>yours</source>
-        <translation>ユーザー</translation>
-    </message>
-    <message>
-        <source>the site&apos;s</source>
-        <translation>サイト</translation>
-    </message>
-    <message>
-        <source>default</source>
-        <translation>既定値</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
@@ -1447,61 +1402,8 @@
         <translation>%1件の設定</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <comment>module and setting</comment>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>edited</source>
-        <translation>編集済み</translation>
-    </message>
-    <message>
         <source>Changes</source>
         <translation>変更</translation>
-    </message>
-    <message>
-        <source>Import Preferences</source>
-        <translation>環境設定のインポート</translation>
-    </message>
-    <message>
-        <source>Preferences (*.json);;All files (*)</source>
-        <translation>環境設定 (*.json);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>インポート(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Nothing would change.</source>
-        <translation>変更される設定はありません。</translation>
-    </message>
-    <message>
-        <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation>これらの設定に新しい値が入ります。「OK」または「適用」を押すまでは保留中です。</translation>
-    </message>
-    <message>
-        <source>Go Back</source>
-        <translation>以前の状態に戻す</translation>
-    </message>
-    <message>
-        <source>&amp;Go Back</source>
-        <translation>以前の状態に戻す(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Export Preferences</source>
-        <translation>環境設定のエクスポート</translation>
-    </message>
-    <message>
-        <source>preferences.json</source>
-        <translation>preferences.json</translation>
-    </message>
-    <message>
-        <source>The preferences were written to %1.</source>
-        <translation>環境設定を%1に書き出しました。</translation>
-    </message>
-    <message>
-        <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation>現在有効な環境設定を、保留中の変更を除いて%1に書き出しました。</translation>
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
@@ -1526,10 +1428,6 @@
     <message>
         <source>Restart Now</source>
         <translation>今すぐ再起動</translation>
-    </message>
-    <message>
-        <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation>「%1」は%3でロックされています：%2</translation>
     </message>
     <message>
         <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
@@ -2488,6 +2386,54 @@ standard error stream and left; the exit status is then 1.
     </message>
 </context>
 <context>
+    <name>olSettingWords</name>
+    <message>
+        <source>default</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>edited</source>
+        <translation>編集済み</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック済み</translation>
+    </message>
+    <message>
+        <source>the site&apos;s</source>
+        <translation>サイト</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか%1件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>module and setting</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>These %1 changes are not applied yet and would be lost:</source>
+        <translation>これら%1件の変更はまだ適用されておらず、失われます：</translation>
+    </message>
+    <message>
+        <source>This change is not applied yet and would be lost:</source>
+        <translation>この変更はまだ適用されておらず、失われます：</translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation>「%1」は%3でロックされています：%2</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>ユーザー</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsCatalogue</name>
     <message>
         <source>%1 to %2</source>
@@ -2571,6 +2517,73 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
         <translation>設定ファイル%1は使用中です：%2 (プロセス%3) がロックを保持しています。保存する内容は、ロックの解除を待っています。</translation>
+    </message>
+</context>
+<context>
+    <name>olSettingsTransfer</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>適用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The preferences in force were written to %1, without the pending changes.</source>
+        <translation>現在有効な環境設定を、保留中の変更を除いて%1に書き出しました。</translation>
+    </message>
+    <message>
+        <source>Export Preferences</source>
+        <translation>環境設定のエクスポート</translation>
+    </message>
+    <message>
+        <source>These settings get new values. They stay pending until OK or Apply.</source>
+        <translation>これらの設定に新しい値が入ります。「OK」または「適用」を押すまでは保留中です。</translation>
+    </message>
+    <message>
+        <source>Import Preferences</source>
+        <translation>環境設定のインポート</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>エクスポート(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>以前の状態に戻す</translation>
+    </message>
+    <message>
+        <source>Apply Profile %1</source>
+        <translation>プロファイル「%1」の適用</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>以前の状態に戻す(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>インポート(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>履歴(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>The preferences were written to %1.</source>
+        <translation>環境設定を%1に書き出しました。</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>変更される設定はありません。</translation>
+    </message>
+    <message>
+        <source>Preferences (*.json);;All files (*)</source>
+        <translation>環境設定 (*.json);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>preferences.json</source>
+        <translation>preferences.json</translation>
     </message>
 </context>
 <context>

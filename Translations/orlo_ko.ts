@@ -372,6 +372,13 @@
     </message>
 </context>
 <context>
+    <name>olFoundRows</name>
+    <message>
+        <source>Page</source>
+        <translation>페이지</translation>
+    </message>
+</context>
+<context>
     <name>olFoundSettings</name>
     <message>
         <source>Setting</source>
@@ -1339,24 +1346,8 @@
         <translation>기본값과 다른 설정을 나열합니다.</translation>
     </message>
     <message>
-        <source>&amp;Import...</source>
-        <translation>가져오기(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>내보내기(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>Apply Profile %1</source>
-        <translation>프로필 %1 적용</translation>
-    </message>
-    <message>
         <source>&amp;Apply</source>
         <translation>적용(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;History...</source>
-        <translation>기록(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
@@ -1383,18 +1374,6 @@
         <translation>계속 편집(&amp;S)</translation>
     </message>
     <message>
-        <source>This change is not applied yet and would be lost:</source>
-        <translation>아직 적용되지 않은 다음 변경 사항이 손실됩니다:</translation>
-    </message>
-    <message>
-        <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation>아직 적용되지 않은 다음 변경 사항 %1개가 손실됩니다:</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>외 %1개</translation>
-    </message>
-    <message>
         <source>All settings have their defaults.</source>
         <translation>모든 설정이 기본값입니다.</translation>
     </message>
@@ -1405,30 +1384,6 @@
     <message>
         <source>%1 Locked</source>
         <translation>잠김 %1개</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>페이지</translation>
-    </message>
-    <message>
-        <source>locked</source>
-        <translation>잠김</translation>
-    </message>
-    <message>
-        <source>pending</source>
-        <translation>보류 중</translation>
-    </message>
-    <message>
-        <source>yours</source>
-        <translation>사용자</translation>
-    </message>
-    <message>
-        <source>the site&apos;s</source>
-        <translation>사이트</translation>
-    </message>
-    <message>
-        <source>default</source>
-        <translation>기본값</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
@@ -1447,61 +1402,8 @@
         <translation>설정 %1개</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <comment>module and setting</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>edited</source>
-        <translation>편집됨</translation>
-    </message>
-    <message>
         <source>Changes</source>
         <translation>변경 사항</translation>
-    </message>
-    <message>
-        <source>Import Preferences</source>
-        <translation>환경 설정 가져오기</translation>
-    </message>
-    <message>
-        <source>Preferences (*.json);;All files (*)</source>
-        <translation>환경 설정 (*.json);;모든 파일 (*)</translation>
-    </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>가져오기(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Nothing would change.</source>
-        <translation>변경될 내용이 없습니다.</translation>
-    </message>
-    <message>
-        <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation>다음 설정의 값이 바뀝니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누를 때까지 보류됩니다.</translation>
-    </message>
-    <message>
-        <source>Go Back</source>
-        <translation>돌아가기</translation>
-    </message>
-    <message>
-        <source>&amp;Go Back</source>
-        <translation>돌아가기(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Export Preferences</source>
-        <translation>환경 설정 내보내기</translation>
-    </message>
-    <message>
-        <source>preferences.json</source>
-        <translation>preferences.json</translation>
-    </message>
-    <message>
-        <source>The preferences were written to %1.</source>
-        <translation>환경 설정을 %1에 저장했습니다.</translation>
-    </message>
-    <message>
-        <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation>보류 중인 변경을 제외하고 현재 적용된 환경 설정을 %1에 저장했습니다.</translation>
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
@@ -1526,10 +1428,6 @@
     <message>
         <source>Restart Now</source>
         <translation>지금 다시 시작</translation>
-    </message>
-    <message>
-        <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
     </message>
     <message>
         <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
@@ -2488,6 +2386,54 @@ standard error stream and left; the exit status is then 1.
     </message>
 </context>
 <context>
+    <name>olSettingWords</name>
+    <message>
+        <source>default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>edited</source>
+        <translation>편집됨</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>보류 중</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>잠김</translation>
+    </message>
+    <message>
+        <source>the site&apos;s</source>
+        <translation>사이트</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>외 %1개</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>module and setting</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These %1 changes are not applied yet and would be lost:</source>
+        <translation>아직 적용되지 않은 다음 변경 사항 %1개가 손실됩니다:</translation>
+    </message>
+    <message>
+        <source>This change is not applied yet and would be lost:</source>
+        <translation>아직 적용되지 않은 다음 변경 사항이 손실됩니다:</translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>사용자</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsCatalogue</name>
     <message>
         <source>%1 to %2</source>
@@ -2571,6 +2517,73 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
         <translation>설정 파일 %1이(가) 사용 중입니다: %2(프로세스 %3)이(가) 파일을 잠갔습니다. 이 파일에 저장할 내용은 잠금이 풀릴 때까지 기다립니다.</translation>
+    </message>
+</context>
+<context>
+    <name>olSettingsTransfer</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>적용(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The preferences in force were written to %1, without the pending changes.</source>
+        <translation>보류 중인 변경을 제외하고 현재 적용된 환경 설정을 %1에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Export Preferences</source>
+        <translation>환경 설정 내보내기</translation>
+    </message>
+    <message>
+        <source>These settings get new values. They stay pending until OK or Apply.</source>
+        <translation>다음 설정의 값이 바뀝니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누를 때까지 보류됩니다.</translation>
+    </message>
+    <message>
+        <source>Import Preferences</source>
+        <translation>환경 설정 가져오기</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>내보내기(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>돌아가기</translation>
+    </message>
+    <message>
+        <source>Apply Profile %1</source>
+        <translation>프로필 %1 적용</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>돌아가기(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>가져오기(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>가져오기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>기록(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>The preferences were written to %1.</source>
+        <translation>환경 설정을 %1에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>변경될 내용이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Preferences (*.json);;All files (*)</source>
+        <translation>환경 설정 (*.json);;모든 파일 (*)</translation>
+    </message>
+    <message>
+        <source>preferences.json</source>
+        <translation>preferences.json</translation>
     </message>
 </context>
 <context>

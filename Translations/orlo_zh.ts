@@ -372,6 +372,13 @@
     </message>
 </context>
 <context>
+    <name>olFoundRows</name>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+</context>
+<context>
     <name>olFoundSettings</name>
     <message>
         <source>Setting</source>
@@ -1339,24 +1346,8 @@
         <translation>列出与默认值不同的设置。</translation>
     </message>
     <message>
-        <source>&amp;Import...</source>
-        <translation>导入(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>导出(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>Apply Profile %1</source>
-        <translation>应用配置文件 %1</translation>
-    </message>
-    <message>
         <source>&amp;Apply</source>
         <translation>应用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;History...</source>
-        <translation>历史记录(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
@@ -1383,18 +1374,6 @@
         <translation>留在此处(&amp;S)</translation>
     </message>
     <message>
-        <source>This change is not applied yet and would be lost:</source>
-        <translation>此更改尚未应用，将会丢失：</translation>
-    </message>
-    <message>
-        <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation>这 %1 项更改尚未应用，将会丢失：</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>以及另外 %1 项</translation>
-    </message>
-    <message>
         <source>All settings have their defaults.</source>
         <translation>所有设置均为默认值。</translation>
     </message>
@@ -1405,30 +1384,6 @@
     <message>
         <source>%1 Locked</source>
         <translation>%1 项已锁定</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>页面</translation>
-    </message>
-    <message>
-        <source>locked</source>
-        <translation>已锁定</translation>
-    </message>
-    <message>
-        <source>pending</source>
-        <translation>待应用</translation>
-    </message>
-    <message>
-        <source>yours</source>
-        <translation>用户</translation>
-    </message>
-    <message>
-        <source>the site&apos;s</source>
-        <translation>站点</translation>
-    </message>
-    <message>
-        <source>default</source>
-        <translation>默认值</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
@@ -1447,61 +1402,8 @@
         <translation>%1 项设置</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <comment>module and setting</comment>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>edited</source>
-        <translation>已编辑</translation>
-    </message>
-    <message>
         <source>Changes</source>
         <translation>更改</translation>
-    </message>
-    <message>
-        <source>Import Preferences</source>
-        <translation>导入首选项</translation>
-    </message>
-    <message>
-        <source>Preferences (*.json);;All files (*)</source>
-        <translation>首选项 (*.json);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>导入(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Nothing would change.</source>
-        <translation>不会有任何更改。</translation>
-    </message>
-    <message>
-        <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation>这些设置将得到新值。在“确定”或“应用”之前为待应用状态。</translation>
-    </message>
-    <message>
-        <source>Go Back</source>
-        <translation>回退</translation>
-    </message>
-    <message>
-        <source>&amp;Go Back</source>
-        <translation>回退(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Export Preferences</source>
-        <translation>导出首选项</translation>
-    </message>
-    <message>
-        <source>preferences.json</source>
-        <translation>preferences.json</translation>
-    </message>
-    <message>
-        <source>The preferences were written to %1.</source>
-        <translation>首选项已写入 %1。</translation>
-    </message>
-    <message>
-        <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation>当前生效的首选项已写入 %1，不含待应用的更改。</translation>
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
@@ -1526,10 +1428,6 @@
     <message>
         <source>Restart Now</source>
         <translation>立即重新启动</translation>
-    </message>
-    <message>
-        <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation>%1 已锁定：%2 该锁定位于 %3 中。</translation>
     </message>
     <message>
         <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
@@ -2488,6 +2386,54 @@ standard error stream and left; the exit status is then 1.
     </message>
 </context>
 <context>
+    <name>olSettingWords</name>
+    <message>
+        <source>default</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>edited</source>
+        <translation>已编辑</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>待应用</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>已锁定</translation>
+    </message>
+    <message>
+        <source>the site&apos;s</source>
+        <translation>站点</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>以及另外 %1 项</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>module and setting</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>These %1 changes are not applied yet and would be lost:</source>
+        <translation>这 %1 项更改尚未应用，将会丢失：</translation>
+    </message>
+    <message>
+        <source>This change is not applied yet and would be lost:</source>
+        <translation>此更改尚未应用，将会丢失：</translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation>%1 已锁定：%2 该锁定位于 %3 中。</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>用户</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsCatalogue</name>
     <message>
         <source>%1 to %2</source>
@@ -2571,6 +2517,73 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
         <translation>设置文件 %1 被占用：%2（进程 %3）持有其锁。要保存到其中的内容需等待。</translation>
+    </message>
+</context>
+<context>
+    <name>olSettingsTransfer</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>应用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The preferences in force were written to %1, without the pending changes.</source>
+        <translation>当前生效的首选项已写入 %1，不含待应用的更改。</translation>
+    </message>
+    <message>
+        <source>Export Preferences</source>
+        <translation>导出首选项</translation>
+    </message>
+    <message>
+        <source>These settings get new values. They stay pending until OK or Apply.</source>
+        <translation>这些设置将得到新值。在“确定”或“应用”之前为待应用状态。</translation>
+    </message>
+    <message>
+        <source>Import Preferences</source>
+        <translation>导入首选项</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>回退</translation>
+    </message>
+    <message>
+        <source>Apply Profile %1</source>
+        <translation>应用配置文件 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>回退(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>导入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>历史记录(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>The preferences were written to %1.</source>
+        <translation>首选项已写入 %1。</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>不会有任何更改。</translation>
+    </message>
+    <message>
+        <source>Preferences (*.json);;All files (*)</source>
+        <translation>首选项 (*.json);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>preferences.json</source>
+        <translation>preferences.json</translation>
     </message>
 </context>
 <context>

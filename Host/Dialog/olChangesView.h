@@ -64,6 +64,9 @@ signals:
     /// page, which is named by its place.
     void takeBackAsked(const QStringList &keys, const QStringList &places);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QTreeWidget *addList(const QStringList &headers, const QString &name);
     QPushButton *addButton(const QString &text, const QString &name, void (olChangesView::*act)());

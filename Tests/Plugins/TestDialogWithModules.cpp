@@ -2,6 +2,7 @@
 
 #include "Dialog/olChangesView.h"
 #include "Dialog/olPreferencesDialog.h"
+#include "Dialog/olSettingsTransfer.h"
 #include "Editing/olPageIndex.h"
 #include "KernelServices/olKernelServiceFactory.h"
 #include "KernelServices/olPreferencesService.h"
@@ -70,7 +71,7 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(R"({"format": 1, "settings": {)" + settings + "}}");
         file.close();
-        dialog->importFrom(file.fileName());
+        dialog->transfer().importFrom(file.fileName());
         return dialog->findChild<olChangesView *>();
     }
 

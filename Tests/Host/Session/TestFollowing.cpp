@@ -1,3 +1,4 @@
+#include "Dialog/olSettingsTransfer.h"
 #include "Host/Dialog/DialogTest.h"
 #include "Session/olUndo.h"
 #include "State/olValue.h"
@@ -144,7 +145,7 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     EXPECT_EQ(undo->history().front().changes.front().after->value, "8");
     ASSERT_EQ(undo->changes().size(), 2u);
 
-    dialog->showHistory();
+    dialog->transfer().showHistory();
     auto *view = opened<QDialog>();
     ASSERT_NE(view, nullptr);
     auto *list = view->findChild<QTreeWidget *>();
