@@ -226,7 +226,7 @@ private:
             if (token.startsWith('"'))
                 m_passedOver << QFile::decodeName(token.mid(1, token.size() - 2));
         }
-        m_content += "Separator { }";
+        m_content += "Group { }";
         return at;
     }
 

@@ -166,7 +166,8 @@ TEST_F(Fault, FacesThatCannotBeUnderstoodAreCounted)
     step.replace(plane, step.indexOf(')', plane) - plane, "SURFACE(''");
     const olImportResult result = olImport(olImportJob::of(written(QStringLiteral("face.step"), step)));
     ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
-    EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("Faces that cannot be understood and are left out: 1.")))
+    EXPECT_TRUE(
+        result.remarks.join(QString()).contains(QStringLiteral("Faces that cannot be understood and are left out: 1.")))
         << qPrintable(result.remarks.join(QLatin1Char(' ')));
 }
 
