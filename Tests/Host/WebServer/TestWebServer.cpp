@@ -466,6 +466,13 @@ TEST_F(WebServer, SpeaksTlsOnTheSslPortWhereACertificateIsInstalled)
 
     olController::enableWebInterface(false);
     EXPECT_EQ(wait(m_client.get(secure)).status, 0);
+
+    errors.clear();
+    record.set("WebInterface port", std::string("80"));
+    record.set("WebInterface ssl port", std::string("443"));
+    olController::enableWebInterface(true);
+    EXPECT_FALSE(host.webInterfaceRunning) << "what is no number opens no port";
+    EXPECT_TRUE(errors.isEmpty());
 }
 
 TEST_F(WebServer, GoesOnWithoutTlsWhenTheCertificateIsUnusable)
