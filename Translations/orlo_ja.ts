@@ -41,8 +41,8 @@
         <translation>ライセンス表示(&amp;N)</translation>
     </message>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD (3条項)&lt;/li&gt;&lt;li&gt;Coin：BSD (3条項)&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;minizip: zlib licence&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD (3条項)&lt;/li&gt;&lt;li&gt;minizip：zlibライセンス&lt;/li&gt;&lt;li&gt;Coin：BSD (3条項)&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
     </message>
 </context>
 <context>
@@ -344,6 +344,10 @@
         <source>%1 mm²</source>
         <translation>%1 mm²</translation>
     </message>
+    <message>
+        <source>%1; one of the parts is not closed and not in it</source>
+        <translation>%1；パーツの1つは閉じておらず、含まれていません</translation>
+    </message>
 </context>
 <context>
     <name>olFieldGuard</name>
@@ -365,6 +369,13 @@
     <message>
         <source>Unfolded</source>
         <translation>展開済み</translation>
+    </message>
+</context>
+<context>
+    <name>olFoundRows</name>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
     </message>
 </context>
 <context>
@@ -1335,24 +1346,8 @@
         <translation>既定値と異なる設定を一覧表示します。</translation>
     </message>
     <message>
-        <source>&amp;Import...</source>
-        <translation>インポート(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>エクスポート(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>Apply Profile %1</source>
-        <translation>プロファイル「%1」の適用</translation>
-    </message>
-    <message>
         <source>&amp;Apply</source>
         <translation>適用(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;History...</source>
-        <translation>履歴(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
@@ -1379,18 +1374,6 @@
         <translation>ダイアログに戻る(&amp;S)</translation>
     </message>
     <message>
-        <source>This change is not applied yet and would be lost:</source>
-        <translation>この変更はまだ適用されておらず、失われます：</translation>
-    </message>
-    <message>
-        <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation>これら%1件の変更はまだ適用されておらず、失われます：</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>ほか%1件</translation>
-    </message>
-    <message>
         <source>All settings have their defaults.</source>
         <translation>すべての設定が既定値になっています。</translation>
     </message>
@@ -1401,30 +1384,6 @@
     <message>
         <source>%1 Locked</source>
         <translation>%1件ロック済み</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
-        <source>locked</source>
-        <translation>ロック済み</translation>
-    </message>
-    <message>
-        <source>pending</source>
-        <translation>保留中</translation>
-    </message>
-    <message>
-        <source>yours</source>
-        <translation>ユーザー</translation>
-    </message>
-    <message>
-        <source>the site&apos;s</source>
-        <translation>サイト</translation>
-    </message>
-    <message>
-        <source>default</source>
-        <translation>既定値</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
@@ -1443,61 +1402,8 @@
         <translation>%1件の設定</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <comment>module and setting</comment>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>edited</source>
-        <translation>編集済み</translation>
-    </message>
-    <message>
         <source>Changes</source>
         <translation>変更</translation>
-    </message>
-    <message>
-        <source>Import Preferences</source>
-        <translation>環境設定のインポート</translation>
-    </message>
-    <message>
-        <source>Preferences (*.json);;All files (*)</source>
-        <translation>環境設定 (*.json);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>インポート(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Nothing would change.</source>
-        <translation>変更される設定はありません。</translation>
-    </message>
-    <message>
-        <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation>これらの設定に新しい値が入ります。「OK」または「適用」を押すまでは保留中です。</translation>
-    </message>
-    <message>
-        <source>Go Back</source>
-        <translation>以前の状態に戻す</translation>
-    </message>
-    <message>
-        <source>&amp;Go Back</source>
-        <translation>以前の状態に戻す(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Export Preferences</source>
-        <translation>環境設定のエクスポート</translation>
-    </message>
-    <message>
-        <source>preferences.json</source>
-        <translation>preferences.json</translation>
-    </message>
-    <message>
-        <source>The preferences were written to %1.</source>
-        <translation>環境設定を%1に書き出しました。</translation>
-    </message>
-    <message>
-        <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation>現在有効な環境設定を、保留中の変更を除いて%1に書き出しました。</translation>
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
@@ -1522,10 +1428,6 @@
     <message>
         <source>Restart Now</source>
         <translation>今すぐ再起動</translation>
-    </message>
-    <message>
-        <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation>「%1」は%3でロックされています：%2</translation>
     </message>
     <message>
         <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
@@ -2122,10 +2024,6 @@ standard error stream and left; the exit status is then 1.
         <translation>STLファイルではありません</translation>
     </message>
     <message>
-        <source>%1 of its numbers are words, which count as 0.</source>
-        <translation>数値のうち%1個が文字になっています。これらは0とみなされます。</translation>
-    </message>
-    <message>
         <source>The solid %1 is empty.</source>
         <translation>ソリッド%1は空です。</translation>
     </message>
@@ -2146,10 +2044,6 @@ standard error stream and left; the exit status is then 1.
         <translation>ファイルが破損しています：%1行目を解釈できません (%2)</translation>
     </message>
     <message>
-        <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation>シェイプのうち%1個は線、点、またはテキストのため、除外されます。</translation>
-    </message>
-    <message>
         <source>a group in it holds itself</source>
         <translation>自分自身を含むグループがあります</translation>
     </message>
@@ -2164,10 +2058,6 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>it refers to itself through %1</source>
         <translation>%1を介して自分自身を参照しています</translation>
-    </message>
-    <message>
-        <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation>メッシュのうち%1個は線または点のため、除外されます。</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -2198,10 +2088,6 @@ standard error stream and left; the exit status is then 1.
         <translation>%1、ほか%2件</translation>
     </message>
     <message>
-        <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation>面のうち%1個は解釈できないため、除外されます。</translation>
-    </message>
-    <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
         <translation>解釈できないため除外されるボディ：%1。</translation>
     </message>
@@ -2220,6 +2106,50 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
         <translation>ファイル内の不正な項目 (欠けている可能性があります)：%1。</translation>
+    </message>
+    <message>
+        <source>%1 without a name</source>
+        <translation>名前のないもの%1個</translation>
+    </message>
+    <message>
+        <source>Extensions that are not supported, so that something may be missing: %1.</source>
+        <translation>対応していない拡張（内容の一部が欠けている可能性があります）：%1。</translation>
+    </message>
+    <message>
+        <source>it has more than a million parts</source>
+        <translation>パーツが100万個を超えています</translation>
+    </message>
+    <message>
+        <source>Faces that cannot be understood and are left out: %1.</source>
+        <translation>解釈できないため除外された面：%1。</translation>
+    </message>
+    <message>
+        <source>Free-form curves and surfaces that are left out: %1.</source>
+        <translation>除外された自由曲線と自由曲面：%1。</translation>
+    </message>
+    <message>
+        <source>Words in the place of numbers, which count as 0: %1.</source>
+        <translation>数値の位置にあり、0として扱われる単語：%1。</translation>
+    </message>
+    <message>
+        <source>Files that it refers to and that are left out: %1.</source>
+        <translation>参照しているが除外されたファイル：%1。</translation>
+    </message>
+    <message>
+        <source>Shapes of lines or points that are left out: %1.</source>
+        <translation>除外された線または点の形状：%1。</translation>
+    </message>
+    <message>
+        <source>The texture %1 is a film, which is left out.</source>
+        <translation>テクスチャ%1は動画のため、除外されます。</translation>
+    </message>
+    <message>
+        <source>Meshes of lines or points that are left out: %1.</source>
+        <translation>除外された線または点のメッシュ：%1。</translation>
+    </message>
+    <message>
+        <source>Textures of kinds that are not drawn here: %1.</source>
+        <translation>ここでは描画されない種類のテクスチャ：%1。</translation>
     </message>
 </context>
 <context>
@@ -2456,6 +2386,54 @@ standard error stream and left; the exit status is then 1.
     </message>
 </context>
 <context>
+    <name>olSettingWords</name>
+    <message>
+        <source>default</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>edited</source>
+        <translation>編集済み</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック済み</translation>
+    </message>
+    <message>
+        <source>the site&apos;s</source>
+        <translation>サイト</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか%1件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>module and setting</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>These %1 changes are not applied yet and would be lost:</source>
+        <translation>これら%1件の変更はまだ適用されておらず、失われます：</translation>
+    </message>
+    <message>
+        <source>This change is not applied yet and would be lost:</source>
+        <translation>この変更はまだ適用されておらず、失われます：</translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation>「%1」は%3でロックされています：%2</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>ユーザー</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsCatalogue</name>
     <message>
         <source>%1 to %2</source>
@@ -2539,6 +2517,73 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
         <translation>設定ファイル%1は使用中です：%2 (プロセス%3) がロックを保持しています。保存する内容は、ロックの解除を待っています。</translation>
+    </message>
+</context>
+<context>
+    <name>olSettingsTransfer</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>適用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The preferences in force were written to %1, without the pending changes.</source>
+        <translation>現在有効な環境設定を、保留中の変更を除いて%1に書き出しました。</translation>
+    </message>
+    <message>
+        <source>Export Preferences</source>
+        <translation>環境設定のエクスポート</translation>
+    </message>
+    <message>
+        <source>These settings get new values. They stay pending until OK or Apply.</source>
+        <translation>これらの設定に新しい値が入ります。「OK」または「適用」を押すまでは保留中です。</translation>
+    </message>
+    <message>
+        <source>Import Preferences</source>
+        <translation>環境設定のインポート</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>エクスポート(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>以前の状態に戻す</translation>
+    </message>
+    <message>
+        <source>Apply Profile %1</source>
+        <translation>プロファイル「%1」の適用</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>以前の状態に戻す(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>インポート(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>履歴(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>The preferences were written to %1.</source>
+        <translation>環境設定を%1に書き出しました。</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>変更される設定はありません。</translation>
+    </message>
+    <message>
+        <source>Preferences (*.json);;All files (*)</source>
+        <translation>環境設定 (*.json);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>preferences.json</source>
+        <translation>preferences.json</translation>
     </message>
 </context>
 <context>

@@ -41,8 +41,8 @@
         <translation>고지 사항(&amp;N)</translation>
     </message>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD 3조항&lt;/li&gt;&lt;li&gt;Coin: BSD 3조항&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;minizip: zlib licence&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD 3조항&lt;/li&gt;&lt;li&gt;minizip: zlib 라이선스&lt;/li&gt;&lt;li&gt;Coin: BSD 3조항&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -344,6 +344,10 @@
         <source>%1 mm²</source>
         <translation>%1 mm²</translation>
     </message>
+    <message>
+        <source>%1; one of the parts is not closed and not in it</source>
+        <translation>%1; 부품 하나는 닫혀 있지 않아 포함되지 않았습니다</translation>
+    </message>
 </context>
 <context>
     <name>olFieldGuard</name>
@@ -365,6 +369,13 @@
     <message>
         <source>Unfolded</source>
         <translation>펼쳐짐</translation>
+    </message>
+</context>
+<context>
+    <name>olFoundRows</name>
+    <message>
+        <source>Page</source>
+        <translation>페이지</translation>
     </message>
 </context>
 <context>
@@ -1335,24 +1346,8 @@
         <translation>기본값과 다른 설정을 나열합니다.</translation>
     </message>
     <message>
-        <source>&amp;Import...</source>
-        <translation>가져오기(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>&amp;Export...</source>
-        <translation>내보내기(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>Apply Profile %1</source>
-        <translation>프로필 %1 적용</translation>
-    </message>
-    <message>
         <source>&amp;Apply</source>
         <translation>적용(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;History...</source>
-        <translation>기록(&amp;H)...</translation>
     </message>
     <message>
         <source>&amp;Restore All Defaults</source>
@@ -1379,18 +1374,6 @@
         <translation>계속 편집(&amp;S)</translation>
     </message>
     <message>
-        <source>This change is not applied yet and would be lost:</source>
-        <translation>아직 적용되지 않은 다음 변경 사항이 손실됩니다:</translation>
-    </message>
-    <message>
-        <source>These %1 changes are not applied yet and would be lost:</source>
-        <translation>아직 적용되지 않은 다음 변경 사항 %1개가 손실됩니다:</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>외 %1개</translation>
-    </message>
-    <message>
         <source>All settings have their defaults.</source>
         <translation>모든 설정이 기본값입니다.</translation>
     </message>
@@ -1401,30 +1384,6 @@
     <message>
         <source>%1 Locked</source>
         <translation>잠김 %1개</translation>
-    </message>
-    <message>
-        <source>Page</source>
-        <translation>페이지</translation>
-    </message>
-    <message>
-        <source>locked</source>
-        <translation>잠김</translation>
-    </message>
-    <message>
-        <source>pending</source>
-        <translation>보류 중</translation>
-    </message>
-    <message>
-        <source>yours</source>
-        <translation>사용자</translation>
-    </message>
-    <message>
-        <source>the site&apos;s</source>
-        <translation>사이트</translation>
-    </message>
-    <message>
-        <source>default</source>
-        <translation>기본값</translation>
     </message>
     <message>
         <source>Every setting has its default.</source>
@@ -1443,61 +1402,8 @@
         <translation>설정 %1개</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <comment>module and setting</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>edited</source>
-        <translation>편집됨</translation>
-    </message>
-    <message>
         <source>Changes</source>
         <translation>변경 사항</translation>
-    </message>
-    <message>
-        <source>Import Preferences</source>
-        <translation>환경 설정 가져오기</translation>
-    </message>
-    <message>
-        <source>Preferences (*.json);;All files (*)</source>
-        <translation>환경 설정 (*.json);;모든 파일 (*)</translation>
-    </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>가져오기(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Nothing would change.</source>
-        <translation>변경될 내용이 없습니다.</translation>
-    </message>
-    <message>
-        <source>These settings get new values. They stay pending until OK or Apply.</source>
-        <translation>다음 설정의 값이 바뀝니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누를 때까지 보류됩니다.</translation>
-    </message>
-    <message>
-        <source>Go Back</source>
-        <translation>돌아가기</translation>
-    </message>
-    <message>
-        <source>&amp;Go Back</source>
-        <translation>돌아가기(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Export Preferences</source>
-        <translation>환경 설정 내보내기</translation>
-    </message>
-    <message>
-        <source>preferences.json</source>
-        <translation>preferences.json</translation>
-    </message>
-    <message>
-        <source>The preferences were written to %1.</source>
-        <translation>환경 설정을 %1에 저장했습니다.</translation>
-    </message>
-    <message>
-        <source>The preferences in force were written to %1, without the pending changes.</source>
-        <translation>보류 중인 변경을 제외하고 현재 적용된 환경 설정을 %1에 저장했습니다.</translation>
     </message>
     <message>
         <source>The documents about the settings are not installed.</source>
@@ -1522,10 +1428,6 @@
     <message>
         <source>Restart Now</source>
         <translation>지금 다시 시작</translation>
-    </message>
-    <message>
-        <source>%1 is locked: %2 The lock stands in %3.</source>
-        <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
     </message>
     <message>
         <source>Shows changes of the view as they are made. Nothing is stored before OK or Apply, and Cancel shows the view as it was.</source>
@@ -2122,10 +2024,6 @@ standard error stream and left; the exit status is then 1.
         <translation>STL 파일이 아닙니다</translation>
     </message>
     <message>
-        <source>%1 of its numbers are words, which count as 0.</source>
-        <translation>숫자 중 %1개가 단어여서 0으로 처리합니다.</translation>
-    </message>
-    <message>
         <source>The solid %1 is empty.</source>
         <translation>솔리드 %1이(가) 비어 있습니다.</translation>
     </message>
@@ -2146,10 +2044,6 @@ standard error stream and left; the exit status is then 1.
         <translation>파일이 손상되었습니다: %1번째 줄을 해석할 수 없습니다(%2)</translation>
     </message>
     <message>
-        <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation>도형 중 %1개가 선, 점 또는 텍스트이므로 제외합니다.</translation>
-    </message>
-    <message>
         <source>a group in it holds itself</source>
         <translation>그룹이 자기 자신을 포함합니다</translation>
     </message>
@@ -2164,10 +2058,6 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>it refers to itself through %1</source>
         <translation>%1을(를) 통해 자기 자신을 참조합니다</translation>
-    </message>
-    <message>
-        <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation>메시 중 %1개가 선 또는 점이므로 제외합니다.</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -2194,10 +2084,6 @@ standard error stream and left; the exit status is then 1.
         <translation>%1 외 %2개</translation>
     </message>
     <message>
-        <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation>면 %1개를 해석할 수 없어 제외합니다.</translation>
-    </message>
-    <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
         <translation>해석할 수 없어 제외한 바디: %1.</translation>
     </message>
@@ -2220,6 +2106,50 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
         <translation>파일에서 올바르지 않아 빠졌을 수 있는 항목: %1.</translation>
+    </message>
+    <message>
+        <source>%1 without a name</source>
+        <translation>이름 없는 항목 %1개</translation>
+    </message>
+    <message>
+        <source>Extensions that are not supported, so that something may be missing: %1.</source>
+        <translation>지원되지 않아 일부 내용이 빠졌을 수 있는 확장: %1.</translation>
+    </message>
+    <message>
+        <source>it has more than a million parts</source>
+        <translation>부품이 백만 개를 넘습니다</translation>
+    </message>
+    <message>
+        <source>Faces that cannot be understood and are left out: %1.</source>
+        <translation>해석할 수 없어 제외한 면: %1.</translation>
+    </message>
+    <message>
+        <source>Free-form curves and surfaces that are left out: %1.</source>
+        <translation>제외한 자유 곡선과 곡면: %1.</translation>
+    </message>
+    <message>
+        <source>Words in the place of numbers, which count as 0: %1.</source>
+        <translation>숫자 자리에 있어 0으로 처리한 단어: %1.</translation>
+    </message>
+    <message>
+        <source>Files that it refers to and that are left out: %1.</source>
+        <translation>참조하지만 제외한 파일: %1.</translation>
+    </message>
+    <message>
+        <source>Shapes of lines or points that are left out: %1.</source>
+        <translation>제외한 선 또는 점 형상: %1.</translation>
+    </message>
+    <message>
+        <source>The texture %1 is a film, which is left out.</source>
+        <translation>텍스처 %1은(는) 동영상이므로 제외합니다.</translation>
+    </message>
+    <message>
+        <source>Meshes of lines or points that are left out: %1.</source>
+        <translation>제외한 선 또는 점 메시: %1.</translation>
+    </message>
+    <message>
+        <source>Textures of kinds that are not drawn here: %1.</source>
+        <translation>여기에서 그리지 않는 종류의 텍스처: %1.</translation>
     </message>
 </context>
 <context>
@@ -2456,6 +2386,54 @@ standard error stream and left; the exit status is then 1.
     </message>
 </context>
 <context>
+    <name>olSettingWords</name>
+    <message>
+        <source>default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>edited</source>
+        <translation>편집됨</translation>
+    </message>
+    <message>
+        <source>pending</source>
+        <translation>보류 중</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>잠김</translation>
+    </message>
+    <message>
+        <source>the site&apos;s</source>
+        <translation>사이트</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>외 %1개</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>module and setting</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These %1 changes are not applied yet and would be lost:</source>
+        <translation>아직 적용되지 않은 다음 변경 사항 %1개가 손실됩니다:</translation>
+    </message>
+    <message>
+        <source>This change is not applied yet and would be lost:</source>
+        <translation>아직 적용되지 않은 다음 변경 사항이 손실됩니다:</translation>
+    </message>
+    <message>
+        <source>%1 is locked: %2 The lock stands in %3.</source>
+        <translation>%1이(가) 잠겨 있습니다: %2 잠금이 지정된 파일: %3.</translation>
+    </message>
+    <message>
+        <source>yours</source>
+        <translation>사용자</translation>
+    </message>
+</context>
+<context>
     <name>olSettingsCatalogue</name>
     <message>
         <source>%1 to %2</source>
@@ -2539,6 +2517,73 @@ edition. Made by `orlo-prefs list --markdown`.
     <message>
         <source>The settings file %1 is busy: %2 (process %3) holds its lock. What is to be kept there waits for it.</source>
         <translation>설정 파일 %1이(가) 사용 중입니다: %2(프로세스 %3)이(가) 파일을 잠갔습니다. 이 파일에 저장할 내용은 잠금이 풀릴 때까지 기다립니다.</translation>
+    </message>
+</context>
+<context>
+    <name>olSettingsTransfer</name>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>적용(&amp;A)</translation>
+    </message>
+    <message>
+        <source>The preferences in force were written to %1, without the pending changes.</source>
+        <translation>보류 중인 변경을 제외하고 현재 적용된 환경 설정을 %1에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Export Preferences</source>
+        <translation>환경 설정 내보내기</translation>
+    </message>
+    <message>
+        <source>These settings get new values. They stay pending until OK or Apply.</source>
+        <translation>다음 설정의 값이 바뀝니다. &quot;확인&quot; 또는 &quot;적용&quot;을 누를 때까지 보류됩니다.</translation>
+    </message>
+    <message>
+        <source>Import Preferences</source>
+        <translation>환경 설정 가져오기</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>내보내기(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Go Back</source>
+        <translation>돌아가기</translation>
+    </message>
+    <message>
+        <source>Apply Profile %1</source>
+        <translation>프로필 %1 적용</translation>
+    </message>
+    <message>
+        <source>&amp;Go Back</source>
+        <translation>돌아가기(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>가져오기(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>가져오기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>기록(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>The preferences were written to %1.</source>
+        <translation>환경 설정을 %1에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation>변경될 내용이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Preferences (*.json);;All files (*)</source>
+        <translation>환경 설정 (*.json);;모든 파일 (*)</translation>
+    </message>
+    <message>
+        <source>preferences.json</source>
+        <translation>preferences.json</translation>
     </message>
 </context>
 <context>

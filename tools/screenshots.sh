@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Makes the pictures in docs/pictures anew, with the viewer as it was built last. Needs no display, and root: a site's
-# lock, which one of them shows, counts in a file of root's alone.
+# Makes the pictures in docs/pictures anew, with the viewer as it was built last. Needs no display, and root: for the
+# time of the pictures a site of their own stands in /etc/xdg, with a lock and a profile.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 [ -x build/bin/orlo ] || { echo "screenshots.sh: build/bin/orlo is not there; build first" >&2; exit 1; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir -p "$work/site/orlo" "$work/english" "$work/japanese"
+mkdir -p "$work/site/orlo/profiles" "$work/english" "$work/japanese"
 cat > "$work/site/orlo/site.json" <<'SITE'
 {"Powerwall width": {"locked": true, "value": 2400, "reason": "The wall in the review room is 2.4 m wide."}}
 SITE
@@ -16,10 +16,14 @@ SITE
 with_settings_of() {
     local who="$work/$1" program=$2
     shift 2
-    HOME="$who" XDG_CONFIG_HOME="$who" XDG_CONFIG_DIRS="$work/site" XDG_RUNTIME_DIR="$who" \
+    HOME="$who" XDG_CONFIG_HOME="$who" XDG_RUNTIME_DIR="$who" \
+        unshare --mount bash -c 'mount --bind "$0" /etc/xdg && exec "$@"' "$work/site" \
         tools/with-display.sh "build/bin/$program" --store "$who/preferences.db" "$@"
 }
 
+with_settings_of english orlo-prefs profile save Presentation
+mv "$work/english/profiles/Presentation.json" "$work/site/orlo/profiles"
+with_settings_of english orlo-prefs profile save Review
 japanese=2
 with_settings_of english orlo --sample --tour "$work/english"
 with_settings_of japanese orlo-prefs set "MainWindow user language" "$japanese"
@@ -30,7 +34,7 @@ mv "$work/english/after.png" "$work/english/viewer.png"
 largest=200000
 mkdir -p docs/pictures
 for name in viewer import \
-    preferences{,-search,-changed,-card,-changes,-applied,-rows,-history,-import,-locks,-dark,-panel,-japanese}; do
+    preferences{,-search,-changed,-card,-changes,-applied,-rows,-profiles,-history,-import,-locks,-dark,-panel,-japanese}; do
     from="$work/english/$name.png"
     [ -f "$from" ] || { echo "screenshots.sh: $name.png was not made" >&2; exit 1; }
     if [ "$(stat -c %s "$from")" -ge "$largest" ]; then

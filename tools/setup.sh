@@ -1,4 +1,4 @@
-# What run.sh, test.sh, bench.sh, fuzz.sh and hard.sh share: to be sourced in the root of the repository.
+# What the scripts in the root of the repository share: to be sourced there.
 
 # Debian's packages, once: what is installed already is not asked for again. Those below the line "# only for NAME" are
 # left out unless the name is given.

@@ -2,6 +2,7 @@
 
 #include "olImportSummary.h"
 
+#include "Dialog/olWindowPlace.h"
 #include "Exchange/olModelFormat.h"
 
 #include <QCheckBox>
@@ -110,7 +111,7 @@ olImportDialog::olImportDialog(const std::vector<olImportJob> &jobs, bool hasSce
     for (QWidget *widget : std::initializer_list<QWidget *>{names, m_question, m_progress, m_verdict, m_outcome})
         layout->addWidget(widget);
     layout->addWidget(m_buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    setMinimumWidth(olWindowPlace::letterWidth(fontMetrics()) * 60);
     connect(m_buttons, &QDialogButtonBox::accepted, this, [this] {
         showReading();
         emit confirmed();

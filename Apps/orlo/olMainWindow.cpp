@@ -11,6 +11,7 @@
 #include "olToolIcons.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Dialog/olWindowPlace.h"
 #include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olHostState.h"
@@ -79,9 +80,9 @@ void olMainWindow::recall()
 {
     const QSettings memory;
     const QRect room = QApplication::primaryScreen()->availableGeometry();
-    const QFontMetrics metrics = fontMetrics();
+    const int letter = olWindowPlace::letterWidth(fontMetrics());
     if (!restoreGeometry(memory.value(QLatin1String(geometryKey)).toByteArray()))
-        resize(QSize(metrics.averageCharWidth() * 150, metrics.height() * 40).boundedTo(room.size()));
+        resize(QSize(letter * 150, fontMetrics().height() * 40).boundedTo(room.size()));
     restoreState(memory.value(QLatin1String(panelsKey)).toByteArray());
 }
 
@@ -135,10 +136,10 @@ void olMainWindow::addDocks()
     connect(m_tree, &olSceneTree::selectionChanged, m_facts, &olFactsPanel::showFacts);
     QDockWidget *state = add(tr("Host State"), "hostStateDock", m_state, Qt::RightDockWidgetArea);
     QDockWidget *calls = add(tr("Host Calls"), "hostCallsDock", m_journal, Qt::BottomDockWidgetArea);
-    const QFontMetrics metrics = fontMetrics();
-    resizeDocks({tree, state}, {metrics.averageCharWidth() * 32, metrics.averageCharWidth() * 45}, Qt::Horizontal);
-    resizeDocks({tree, facts, calls}, {metrics.height() * 20, metrics.height() * 12, metrics.height() * 10},
-                Qt::Vertical);
+    const int letter = olWindowPlace::letterWidth(fontMetrics());
+    resizeDocks({tree, state}, {letter * 32, letter * 45}, Qt::Horizontal);
+    const int line = fontMetrics().height();
+    resizeDocks({tree, facts, calls}, {line * 20, line * 12, line * 10}, Qt::Vertical);
     // They are for whoever writes modules; everyone else gets the room for the model.
     state->hide();
     calls->hide();
@@ -173,9 +174,9 @@ void olMainWindow::addViewActions()
     QMenu *view = menuBar()->addMenu(tr("&View"));
     m_tools = addToolBar(tr("View"));
     m_tools->setObjectName(QStringLiteral("viewTools"));
-    QAction *all = m_tools->addAction(olToolIcons::showAll(palette()), tr("Show &All"));
+    QAction *all = m_tools->addAction(olToolIcons::showAll(), tr("Show &All"));
     all->setShortcut(QKeySequence(Qt::Key_Home));
-    QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(palette()), tr("&Zoom To"));
+    QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(), tr("&Zoom To"));
     zoom->setShortcut(QKeySequence(Qt::Key_End));
     // East Asian texts have their mnemonic in brackets, which mean nothing on a button.
     static const QRegularExpression mnemonic(QStringLiteral("\\(&\\w\\)|&"));

@@ -1,5 +1,7 @@
 #include "olToolIcons.h"
 
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
@@ -9,27 +11,43 @@
 namespace
 {
 
-/// On a field of 24 by 24, in every size that a tool bar has, on screens of any density.
-template <class Draw> QIcon drawn(const QPalette &palette, const Draw &draw)
+/// Draws on a field of 24 by 24, with the pen set.
+using Draw = void (*)(QPainter &painter, const QColor &color);
+
+/// Draws when asked to, in the size and the colours of then.
+class ToolIconEngine : public QIconEngine
 {
-    QIcon icon;
-    for (const auto &[mode, group] :
-         {std::pair(QIcon::Normal, QPalette::Active), {QIcon::Disabled, QPalette::Disabled}}) {
-        for (const int side : {16, 24, 32, 48, 64, 96}) {
-            QPixmap pixmap(side, side);
-            pixmap.fill(Qt::transparent);
-            QPainter painter(&pixmap);
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.scale(side / 24.0, side / 24.0);
-            painter.setPen(
-                QPen(palette.color(group, QPalette::ButtonText), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            draw(painter, palette.color(group, QPalette::Highlight));
-            painter.end();
-            icon.addPixmap(pixmap, mode);
-        }
+public:
+    explicit ToolIconEngine(Draw draw) : m_draw(draw) {}
+
+    [[nodiscard]] QIconEngine *clone() const override { return new ToolIconEngine(m_draw); }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QPalette palette = QGuiApplication::palette();
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / 24.0, rect.height() / 24.0);
+        painter->setPen(
+            QPen(palette.color(group, QPalette::ButtonText), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        m_draw(*painter, palette.color(group, QPalette::Highlight));
+        painter->restore();
     }
-    return icon;
-}
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, picture.rect(), mode, state);
+        return picture;
+    }
+
+private:
+    Draw m_draw;
+};
 
 /// A nut, as in the program's own icon.
 void drawPart(QPainter &painter, const QPointF &middle, double size, const QColor &color)
@@ -49,23 +67,23 @@ void drawPart(QPainter &painter, const QPointF &middle, double size, const QColo
 
 } // namespace
 
-QIcon olToolIcons::showAll(const QPalette &palette)
+QIcon olToolIcons::showAll()
 {
-    return drawn(palette, [](QPainter &painter, const QColor &color) {
+    return QIcon(new ToolIconEngine([](QPainter &painter, const QColor &color) {
         for (const auto &[x, y] : {std::pair(3.0, 3.0), {21.0, 3.0}, {21.0, 21.0}, {3.0, 21.0}}) {
             const QPointF corner(x, y);
             painter.drawLine(corner, corner + QPointF(x < 12.0 ? 5.0 : -5.0, 0.0));
             painter.drawLine(corner, corner + QPointF(0.0, y < 12.0 ? 5.0 : -5.0));
         }
         drawPart(painter, {12.0, 12.0}, 6.5, color);
-    });
+    }));
 }
 
-QIcon olToolIcons::zoomTo(const QPalette &palette)
+QIcon olToolIcons::zoomTo()
 {
-    return drawn(palette, [](QPainter &painter, const QColor &color) {
+    return QIcon(new ToolIconEngine([](QPainter &painter, const QColor &color) {
         drawPart(painter, {10.0, 10.0}, 5.0, color);
         painter.drawEllipse(QPointF(10.0, 10.0), 7.5, 7.5);
         painter.drawLine(QPointF(15.5, 15.5), QPointF(21.5, 21.5));
-    });
+    }));
 }

@@ -2,16 +2,14 @@
 
 #include <QIcon>
 
-class QPalette;
-
-/// The icons of the viewer's own actions, drawn in the colours of a palette.
+/// The icons of the viewer's own actions, drawn in the colours of the palette of the moment.
 namespace olToolIcons
 {
 
 /// A part within the four corners of a view.
-[[nodiscard]] QIcon showAll(const QPalette &palette);
+[[nodiscard]] QIcon showAll();
 
 /// A part under a magnifying glass.
-[[nodiscard]] QIcon zoomTo(const QPalette &palette);
+[[nodiscard]] QIcon zoomTo();
 
 } // namespace olToolIcons

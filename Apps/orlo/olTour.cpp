@@ -5,6 +5,7 @@
 #include "olMainWindow.h"
 
 #include "Dialog/olPreferencesDialog.h"
+#include "Dialog/olSettingsTransfer.h"
 #include "Exchange/olExportScene.h"
 #include "Exchange/olImportJob.h"
 #include "Model/olScene.h"
@@ -161,7 +162,7 @@ bool olTour::pending(olPreferencesDialog &preferences) const
     return saved;
 }
 
-/// What a search finds, what differs from the defaults, and what was saved.
+/// What a search finds, what differs from the defaults, the profiles, and what was saved.
 bool olTour::lists(olPreferencesDialog &preferences) const
 {
     auto *search = preferences.findChild<QLineEdit *>(QStringLiteral("search"));
@@ -174,7 +175,14 @@ bool olTour::lists(olPreferencesDialog &preferences) const
     letWindowsDraw();
     saved = picture(preferences, QStringLiteral("preferences-changed.png")) && saved;
     changedOnly->setChecked(false);
-    preferences.showHistory();
+
+    const auto *more = preferences.findChild<QPushButton *>(QStringLiteral("more"));
+    more->menu()->popup(more->mapToGlobal(more->rect().bottomLeft()));
+    more->menu()->setActiveAction(preferences.findChild<QMenu *>(QStringLiteral("profiles"))->menuAction());
+    letWindowsDraw();
+    saved = picture(preferences, QStringLiteral("preferences-profiles.png")) && saved;
+    more->menu()->close();
+    preferences.transfer().showHistory();
     return dialog(QStringLiteral("preferences-history.png")) && saved;
 }
 
@@ -191,7 +199,7 @@ bool olTour::imports(olPreferencesDialog &preferences) const
         {{"Camera fov", 40.0f}, {"Navigator mode", 3}, {"RenderOptions near plane", 5.0f}, {"Powerwall height", true}});
     if (!written.isOk())
         complain(written.error());
-    preferences.importFrom(file);
+    preferences.transfer().importFrom(file);
     saved = dialog(QStringLiteral("preferences-rows.png")) && saved;
 
     const QString model = QDir(m_folder).filePath(QStringLiteral("sample.step"));
@@ -263,8 +271,11 @@ bool olTour::viewPicture(const QString &name) const
 bool olTour::picture(QWidget &widget, const QString &name) const
 {
     QPixmap shown = widget.grab();
-    if (QWidget *popup = QApplication::activePopupWidget())
-        QPainter(&shown).drawPixmap(widget.mapFromGlobal(popup->pos()), popup->grab());
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *popup : windows) {
+        if (popup->isVisible() && popup->windowType() == Qt::Popup)
+            QPainter(&shown).drawPixmap(widget.mapFromGlobal(popup->pos()), popup->grab());
+    }
     return save(shown.toImage(), name);
 }
 

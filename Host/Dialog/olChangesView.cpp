@@ -1,5 +1,6 @@
 #include "Dialog/olChangesView.h"
 
+#include "Dialog/olWindowPlace.h"
 #include "State/olListed.h"
 #include "State/olValue.h"
 
@@ -169,8 +170,6 @@ void olChangesView::setChanges(const std::vector<olListedChange> &changes)
                          change.key.isEmpty() ? change.place : change.place + QLatin1Char('\n') + change.key);
         showValue(*item, BeforeColumn, change.before, change.beforeValue);
         showValue(*item, AfterColumn, change.after, change.afterValue);
-        if (m_use == Use::Choose)
-            item->setCheckState(SettingColumn, Qt::Checked);
     }
     const int count = m_changes->topLevelItemCount();
     if (count > 0)
@@ -248,11 +247,18 @@ void olChangesView::fit()
         list->setMinimumHeight(std::min(heightFor(*list), fontMetrics().height() * 8));
         list->setCurrentItem(list->topLevelItem(0));
     }
-    const QSize comfortable(fontMetrics().averageCharWidth() * 110, 0);
+    const QSize comfortable(olWindowPlace::letterWidth(fontMetrics()) * 110, 0);
     const int height = heightFor(*m_changes) + (m_skipped->topLevelItemCount() > 0 ? heightFor(*m_skipped) : 0) +
                        fontMetrics().height() * 8;
     const QSize room = parentWidget()->screen()->availableSize() * 9 / 10;
     resize(comfortable.expandedTo({0, height}).boundedTo(room));
+}
+
+/// However narrow it is, both values stay in sight, and the lists below an introduction of more lines.
+void olChangesView::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    setMinimumHeight(std::max(0, layout()->minimumHeightForWidth(width())));
     for (const int column : {BeforeColumn, AfterColumn})
         m_changes->setColumnWidth(column, width() * 28 / 100);
     m_skipped->setColumnWidth(BeforeColumn, width() * 55 / 100);

@@ -44,7 +44,7 @@ public:
     /// Lets a person go to a change on its page, or take back one or all of them.
     void offerWork();
 
-    /// Asks instead: every row gets a tick, a button of that text accepts the dialog, another one cancels it.
+    /// Asks instead: every row so far gets a tick, a button of that text accepts the dialog, another one cancels it.
     void askFor(const QString &acceptText);
 
     /// Keys of the rows whose tick is set.
@@ -63,6 +63,9 @@ signals:
     /// These are to be taken back; whoever does it lists the changes anew. An empty key stands for the row's whole
     /// page, which is named by its place.
     void takeBackAsked(const QStringList &keys, const QStringList &places);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QTreeWidget *addList(const QStringList &headers, const QString &name);

@@ -1,5 +1,7 @@
 #include "Dialog/olDocumentView.h"
 
+#include "Dialog/olWindowPlace.h"
+
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -35,7 +37,7 @@ olDocumentView::olDocumentView(QWidget *parent) : QDialog(parent), m_text(new QT
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
     layout->addWidget(buttons);
-    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 30);
+    resize(olWindowPlace::letterWidth(fontMetrics()) * 130, fontMetrics().height() * 30);
 }
 
 QString olDocumentView::find(const QString &name)

@@ -23,6 +23,8 @@ bool isLabelBehind(QWidget &control)
     });
 }
 
+int widthOf(const QLabel &unit) { return std::max(unit.sizeHint().width(), unit.minimumWidth()); }
+
 QString perCent(double share) { return QStringLiteral("= %1 %").arg(share * 100.0, 0, 'g', 3); }
 
 } // namespace
@@ -54,24 +56,29 @@ void olFieldUnits::show(QWidget &control, const QString &unit)
         label->setObjectName(QStringLiteral("unit"));
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setForegroundRole(QPalette::Text);
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        // Short units take the same room, so that boxes below each other end alike.
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("mm")));
         label->show();
         m_units.insert(field, label);
         connect(field, &QObject::destroyed, this, [this, field] { m_units.remove(field); });
         field->installEventFilter(this);
         // A spin box asks for no more room than its number needs.
         if (auto *box = qobject_cast<QAbstractSpinBox *>(field->parentWidget()))
-            box->setMinimumWidth(box->sizeHint().width() + label->sizeHint().width() + gap);
+            box->setMinimumWidth(box->sizeHint().width() + widthOf(*label) + gap);
         place(*field);
     }
 }
 
 void olFieldUnits::showShare(QWidget &control)
 {
-    // The room for the longest of them.
     show(control, perCent(1.0));
     const QList<QLineEdit *> fields = control.findChildren<QLineEdit *>();
     for (QLineEdit *field : fields) {
         const QPointer<QLabel> label = m_units.value(field);
+        // The room for the longest of them, so that fields below each other are alike.
+        if (label)
+            label->setMinimumWidth(label->sizeHint().width());
         const auto tell = [this, field, label](const QString &text) {
             bool isNumber = false;
             const double share = text.toDouble(&isNumber);
@@ -106,7 +113,7 @@ void olFieldUnits::place(QLineEdit &field) const
     QLabel *label = m_units.value(&field);
     // A mark in the field takes its end.
     label->setVisible(field.actions().isEmpty());
-    const int width = label->sizeHint().width() + gap;
+    const int width = widthOf(*label) + gap;
     const bool isMirrored = field.layoutDirection() == Qt::RightToLeft;
     const QMargins margins(isMirrored ? width : 0, 0, isMirrored ? 0 : width, 0);
     if (field.textMargins() != margins)

@@ -1,5 +1,6 @@
 #include "Dialog/olHistoryView.h"
 
+#include "Dialog/olWindowPlace.h"
 #include "Editing/olValueText.h"
 
 #include <QDateTime>
@@ -44,7 +45,7 @@ olHistoryView::olHistoryView(const olUndo &undo, const PlaceOf &placeOf, QWidget
         m_list->resizeColumnToContents(column);
         m_list->setColumnWidth(column, m_list->columnWidth(column) + fontMetrics().averageCharWidth() * 2);
     }
-    const QSize comfortable(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 26);
+    const QSize comfortable(olWindowPlace::letterWidth(fontMetrics()) * 110, fontMetrics().height() * 26);
     resize(comfortable.boundedTo(parent->screen()->availableSize() * 9 / 10));
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_goBack, &QPushButton::clicked, this, &olHistoryView::choose);

@@ -4,6 +4,7 @@
 #include "Widgets/olCaptionBand.h"
 
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -54,7 +55,7 @@ void olPageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_Frame ||
-        element == PE_FrameTabWidget)
+        element == PE_FrameTabWidget || element == PE_FrameMenu)
         drawBorder(option->palette, option->rect, *painter);
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
         return;
@@ -180,4 +181,11 @@ QSize olPageStyle::sizeFromContents(ContentsType type, const QStyleOption *optio
     const int caption = metrics.horizontalAdvance(box->text) + 6 * olCaptionBand::padding(metrics) +
                         (box->subControls & SC_GroupBoxCheckBox ? pixelMetric(PM_IndicatorWidth, option, widget) : 0);
     return size.expandedTo({caption, olCaptionBand::height(metrics)});
+}
+
+/// The cross of the toolkit is black, also in the dark.
+QIcon olPageStyle::standardIcon(StandardPixmap which, const QStyleOption *option, const QWidget *widget) const
+{
+    const bool isUnseen = which == SP_DialogCloseButton && isDark(QGuiApplication::palette());
+    return isUnseen ? QIcon() : QProxyStyle::standardIcon(which, option, widget);
 }

@@ -2,11 +2,12 @@
 
 #include "olHostExport.h"
 
+#include <QIcon>
 #include <QProxyStyle>
 
 /// The style of the desktop, for pages of settings: boxes to be ticked have a border that can be seen in every palette,
-/// fields, buttons, sliders and tabs have one in the dark, a box of choices shows its hint while none is made, and a
-/// group box bears its caption in a band, as the groups do that fold away.
+/// fields, buttons, menus, sliders and tabs have one in the dark, a box of choices shows its hint while none is made,
+/// and a group box bears its caption in a band, as the groups do that fold away.
 class ORLO_HOST_EXPORT olPageStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
                                        const QWidget *widget) const override;
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                                          const QWidget *widget) const override;
+    [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                                     const QWidget *widget) const override;
 
 private:
     void drawSlider(const QStyleOptionComplex &option, QPainter &painter, const QWidget *widget) const;

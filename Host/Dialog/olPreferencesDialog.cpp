@@ -4,22 +4,22 @@
 #include "Dialog/olConsentBox.h"
 #include "Dialog/olDialogMemory.h"
 #include "Dialog/olDocumentView.h"
-#include "Dialog/olHistoryView.h"
+#include "Dialog/olFoundRows.h"
+#include "Dialog/olFoundSettings.h"
 #include "Dialog/olMessageLine.h"
 #include "Dialog/olModuleTree.h"
 #include "Dialog/olOutsideLine.h"
 #include "Dialog/olPageFrame.h"
-#include "Dialog/olProfilesMenu.h"
 #include "Dialog/olSettingMarks.h"
 #include "Dialog/olSettingMenu.h"
 #include "Dialog/olSettingTips.h"
+#include "Dialog/olSettingWords.h"
+#include "Dialog/olSettingsTransfer.h"
 #include "Dialog/olWindowPlace.h"
 #include "Editing/olPendingChanges.h"
-#include "Editing/olPreferencesImport.h"
 #include "Editing/olSettingsSearch.h"
 #include "Editing/olValueText.h"
 #include "Session/olRecordedSettings.h"
-#include "Session/olUndo.h"
 #include "State/olListed.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
@@ -29,7 +29,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -53,13 +52,13 @@ namespace
 QSize comfortableSize(const QWidget &widget)
 {
     const QFontMetrics metrics = widget.fontMetrics();
-    return {metrics.averageCharWidth() * 130, metrics.height() * 36};
+    return {olWindowPlace::letterWidth(metrics) * 130, metrics.height() * 36};
 }
 
 /// Side by side; every name of the tree has its room.
 QList<int> treeAndPage(const olModuleTree &tree)
 {
-    const int character = tree.fontMetrics().averageCharWidth();
+    const int character = olWindowPlace::letterWidth(tree.fontMetrics());
     const int names = std::max(character * 33, tree.sizeHint().width());
     return {names, character * 130 - names};
 }
@@ -78,6 +77,9 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_session(session),
       m_pending(std::make_unique<olPendingChanges>(session)),
       m_search(std::make_unique<olSettingsSearch>()),
+      m_words(std::make_unique<olSettingWords>(session, *m_pending, *m_search)),
+      m_found(std::make_unique<olFoundRows>(*m_search, *m_pending, *m_words)),
+      m_transfer(std::make_unique<olSettingsTransfer>(session, *m_pending, *m_words, *this)),
       m_menu(std::make_unique<olSettingMenu>(session, *m_pending)),
       m_tips(std::make_unique<olSettingTips>(session)),
       m_searchField(new QLineEdit),
@@ -94,7 +96,7 @@ olPreferencesDialog::olPreferencesDialog(olPreferencesSession &session, QWidget 
       m_foundList(new olFoundSettings),
       m_message(new olMessageLine),
       m_outside(new olOutsideLine(
-          session, *m_pending, [this](const std::string &key) { return placeOf(key); },
+          session, *m_pending, [this](const std::string &key) { return m_words->place(key); },
           [](const std::string &key, const boost::any &value) { return olShortValueText(key, value); })),
       m_changes(new QPushButton),
       m_preview(new QCheckBox(tr("Preview"))),
@@ -142,18 +144,7 @@ QWidget *olPreferencesDialog::buildLeft()
     m_changedOnly->setToolTip(tr("Lists the settings that differ from their defaults."));
 
     auto *menu = new QMenu(m_more);
-    menu->addAction(tr("&Import..."), this, &olPreferencesDialog::chooseImport);
-    menu->addAction(tr("&Export..."), this, &olPreferencesDialog::chooseExport);
-    menu->addSeparator();
-    auto *profiles = new olProfilesMenu({m_session.store().file(), m_session.siteFiles()}, this);
-    menu->addMenu(profiles);
-    connect(profiles, &olProfilesMenu::saveAsked, this, [this, profiles] { profiles->saveAs(m_session, *m_pending); });
-    connect(profiles, &olProfilesMenu::done, m_message, [this](const QString &text) { m_message->showNote(text); });
-    connect(profiles, &olProfilesMenu::failed, m_message, &olMessageLine::showError);
-    connect(profiles, &olProfilesMenu::chosen, this, [this](const QString &name, const QString &file) {
-        preview(tr("Apply Profile %1").arg(name), tr("&Apply"), olPreferencesFile::read(file));
-    });
-    menu->addAction(tr("&History..."), this, &olPreferencesDialog::showHistory);
+    m_transfer->addTo(*menu);
     menu->addSeparator();
     menu->addAction(tr("&Restore All Defaults"), this, &olPreferencesDialog::restoreAll);
     m_more->setObjectName(QStringLiteral("more"));
@@ -203,6 +194,7 @@ QWidget *olPreferencesDialog::buildRight()
     header->addWidget(m_title);
     header->addStretch(1);
     header->addWidget(m_restorePage);
+    m_title->setMinimumHeight(m_restorePage->sizeHint().height()); // stays where it is without the button, too
     layout->addLayout(header);
     layout->addWidget(m_locked, 0, Qt::AlignLeft);
     layout->addWidget(m_pageNote);
@@ -258,7 +250,7 @@ void olPreferencesDialog::connectParts()
         m_searchField->selectAll();
     });
     connect(m_menu.get(), &olSettingMenu::lockAsked, this, [this](const olFoundControl &control, const QString &key) {
-        m_message->showNote(lockText(control, key.toStdString()));
+        m_message->showNote(m_words->lock(control, key.toStdString()));
     });
 
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
@@ -266,6 +258,9 @@ void olPreferencesDialog::connectParts()
             m_workedAt = now;
     });
 
+    connect(m_transfer.get(), &olSettingsTransfer::done, m_message,
+            [this](const QString &text) { m_message->showNote(text); });
+    connect(m_transfer.get(), &olSettingsTransfer::failed, m_message, &olMessageLine::showError);
     m_pending->askWith([this](const olSettingWarning &question) { return isAgreed(question); });
 
     // A filling changes many controls at once, and one look at the end tells it all.
@@ -355,7 +350,7 @@ void olPreferencesDialog::hideEvent(QHideEvent *event)
 
 int olPreferencesDialog::panelWidth() const
 {
-    const int usual = fontMetrics().averageCharWidth() * 70;
+    const int usual = olWindowPlace::letterWidth(fontMetrics()) * 70;
     const auto *frame = qobject_cast<const olPageFrame *>(m_pages->currentWidget());
     const QMargins around = layout()->contentsMargins();
     return std::max(usual, (frame ? frame->pageWidth() : 0) + around.left() + around.right());
@@ -368,7 +363,7 @@ void olPreferencesDialog::resizeEvent(QResizeEvent *event)
     QDialog::resizeEvent(event);
     constexpr int page = 68; // characters of the widest one
     constexpr int both = 98;
-    const int character = fontMetrics().averageCharWidth();
+    const int character = olWindowPlace::letterWidth(fontMetrics());
     const auto wanted = width() < character * both ? Qt::Vertical : Qt::Horizontal;
     if (m_splitter->orientation() != wanted) {
         m_splitter->setOrientation(wanted);
@@ -406,13 +401,13 @@ void olPreferencesDialog::keyPressEvent(QKeyEvent *event)
 void olPreferencesDialog::showHelp()
 {
     const int row = m_foundList->hasFocus() ? m_foundList->currentRow() : -1;
-    const bool isFound = row >= 0 && std::size_t(row) < m_found.size();
-    const Found found = isFound ? m_found[std::size_t(row)] : Found{m_tree->chosen(), {}};
-    if (!found.entry)
+    const auto [foundEntry, control] = m_found->row(row);
+    const olPreferencesEntry *entry = foundEntry ? foundEntry : m_tree->chosen();
+    if (!entry)
         return;
-    QString key = found.control.keys.isEmpty() ? m_menu->keyOf(focusWidget()) : found.control.keys.first();
-    if (key.isEmpty() && !found.entry->defaults().empty())
-        key = QString::fromStdString(found.entry->defaults().front().key);
+    QString key = control.keys.isEmpty() ? m_menu->keyOf(focusWidget()) : control.keys.first();
+    if (key.isEmpty() && !entry->defaults().empty())
+        key = QString::fromStdString(entry->defaults().front().key);
     if (!m_help)
         m_help = new olDocumentView(this);
     if (!m_help->show(olDocumentView::find(QStringLiteral("settings.md")), key))
@@ -444,7 +439,7 @@ bool olPreferencesDialog::mayLeave()
     const std::vector<olPendingChange> changes = m_pending->list();
     if (changes.empty())
         return true;
-    QMessageBox box(QMessageBox::Question, windowTitle(), lossText(changes), QMessageBox::NoButton, this);
+    QMessageBox box(QMessageBox::Question, windowTitle(), m_words->loss(changes), QMessageBox::NoButton, this);
     box.setTextFormat(Qt::PlainText);
     box.setWindowModality(Qt::WindowModal);
     const QPushButton *applied = box.addButton(QMessageBox::Apply);
@@ -457,22 +452,6 @@ bool olPreferencesDialog::mayLeave()
     if (box.clickedButton() == applied)
         return apply();
     return box.clickedButton() == discarded;
-}
-
-QString olPreferencesDialog::lossText(const std::vector<olPendingChange> &changes) const
-{
-    constexpr std::size_t mostNamed = 5;
-    QStringList lines{changes.size() == 1
-                          ? tr("This change is not applied yet and would be lost:")
-                          : tr("These %1 changes are not applied yet and would be lost:").arg(changes.size())};
-    const std::size_t named = changes.size() > mostNamed ? mostNamed - 1 : changes.size();
-    for (std::size_t index = 0; index < named; ++index) {
-        const olPendingChange &change = changes[index];
-        lines << QStringLiteral("    ") + (change.key.empty() ? change.entry->name() : placeOf(change.key));
-    }
-    if (named < changes.size())
-        lines << QStringLiteral("    ") + tr("and %1 more").arg(changes.size() - named);
-    return lines.join(QLatin1Char('\n'));
 }
 
 bool olPreferencesDialog::apply()
@@ -495,9 +474,9 @@ void olPreferencesDialog::tellWhatWaits(const std::vector<olPendingChange> &appl
         if (olIsOnlyRecorded(change.key))
             continue;
         if (effect == QLatin1String("next import"))
-            import << placeOf(change.key);
+            import << m_words->place(change.key);
         else if (effect == QLatin1String("next start"))
-            start << placeOf(change.key);
+            start << m_words->place(change.key);
     }
     QStringList sentences;
     if (import.size() == 1)
@@ -588,7 +567,7 @@ olPageFrame *olPreferencesDialog::frameOf(olPreferencesEntry &entry)
         m_tips->addTo(m_search->controls(entry));
         lockSettings(entry, *frame);
         frame->tell(entry, m_search->controls(entry));
-        frame->marks().setHits(m_hits.value(&entry));
+        frame->marks().setHits(m_found->hits(&entry));
         connect(&frame->marks(), &olSettingMarks::clicked, this,
                 [this](QWidget *control, const QPoint &place) { m_menu->openFor(control, place); });
     }
@@ -599,19 +578,11 @@ void olPreferencesDialog::lockSettings(olPreferencesEntry &entry, olPageFrame &f
 {
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
-            const QString text = lockText(control, key.toStdString());
+            const QString text = m_words->lock(control, key.toStdString());
             if (!text.isEmpty())
                 frame.lock(control, text);
         }
     }
-}
-
-/// Why, and by which file; empty where it is not locked.
-QString olPreferencesDialog::lockText(const olFoundControl &control, const std::string &key) const
-{
-    const auto reason = m_session.lockReason(key);
-    return reason ? tr("%1 is locked: %2 The lock stands in %3.").arg(control.name, *reason, m_session.siteFile(key))
-                  : QString();
 }
 
 /// What is disabled cannot be reached by keyboard, so the page's locked settings are also listed in its header.
@@ -621,7 +592,7 @@ void olPreferencesDialog::listLocked(olPreferencesEntry &entry)
     menu->clear();
     for (const olFoundControl &control : m_search->controls(entry)) {
         for (const QString &key : control.keys) {
-            const QString text = lockText(control, key.toStdString());
+            const QString text = m_words->lock(control, key.toStdString());
             if (text.isEmpty())
                 continue;
             menu->addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this, [this, text, key] {
@@ -678,105 +649,40 @@ bool olPreferencesDialog::focusNextPrevChild(bool next)
 void olPreferencesDialog::giveBack(QWidget *page)
 {
     m_pending->forget(page);
-    m_hits.clear();
+    m_found->clear();
     delete m_frames.take(page);
 }
 
 bool olPreferencesDialog::filter()
 {
-    const bool isFiltered = collectFound();
-    for (olPageFrame *frame : qAsConst(m_frames))
-        frame->marks().setHits({});
-    for (auto hits = m_hits.cbegin(); hits != m_hits.cend(); ++hits) {
-        if (olPageFrame *frame = m_frames.value(hits.key()->page()))
-            frame->marks().setHits(hits.value());
+    const bool isFiltered = findSettings();
+    for (const olPreferencesEntry *entry : olPreferencesRegistry::the().entries()) {
+        if (olPageFrame *frame = m_frames.value(entry->page()))
+            frame->marks().setHits(m_found->hits(entry));
     }
     if (!isFiltered) {
         m_tree->showAll();
         showCurrent();
         return false;
     }
-    std::map<const olPreferencesEntry *, int> counts;
-    for (const Found &found : m_found)
-        counts[found.entry] += found.control.widget ? 1 : 0;
-    m_tree->showOnly(counts);
+    m_tree->showOnly(m_found->counts());
     showFound();
     return true;
 }
 
-/// Settings that match the search and differ from their default where only those are wanted. False where nothing is
-/// searched for.
-bool olPreferencesDialog::collectFound()
+/// False where nothing is searched for.
+bool olPreferencesDialog::findSettings()
 {
     const QString text = m_searchField->text().simplified();
     const bool isFiltered = !text.isEmpty() || m_changedOnly->isChecked();
-    m_hits.clear();
-    m_found.clear();
-    for (const olSearchResult &result : isFiltered ? m_search->find(text) : std::vector<olSearchResult>()) {
-        std::vector<olFoundControl> hits;
-        for (const olFoundControl *hit : result.hits) {
-            const bool isChanged = std::any_of(hit->keys.begin(), hit->keys.end(), [&](const QString &key) {
-                return m_pending->differsFromDefault(*result.entry, key.toStdString());
-            });
-            if (isChanged || !m_changedOnly->isChecked())
-                hits.push_back(*hit);
-        }
-        for (const olFoundControl &hit : hits)
-            m_found.push_back({result.entry, hit});
-        if (hits.empty() && !m_changedOnly->isChecked())
-            m_found.push_back({result.entry, {}});
-        if (!hits.empty())
-            m_hits.insert(result.entry, hits);
-    }
-    // Who types a name means what is called so before what only mentions it.
-    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    std::stable_partition(m_found.begin(), m_found.end(), [&words](const Found &found) {
-        return std::all_of(words.begin(), words.end(), [&found](const QString &word) {
-            return found.control.name.contains(word, Qt::CaseInsensitive);
-        });
-    });
+    if (isFiltered)
+        m_found->find(text, m_changedOnly->isChecked());
+    else
+        m_found->clear();
     m_foundList->list(
-        int(m_found.size()),
-        [this](int row, olFoundSettings::Column column) { return foundText(m_found[std::size_t(row)], column); },
-        words);
+        m_found->size(), [this](int row, olFoundSettings::Column column) { return m_found->text(row, column); },
+        text.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     return isFiltered;
-}
-
-QString olPreferencesDialog::foundText(const Found &found, olFoundSettings::Column column) const
-{
-    const olFoundControl &control = found.control;
-    switch (column) {
-    case olFoundSettings::Label:
-        return control.widget ? control.name : found.entry->name();
-    case olFoundSettings::Where:
-        return control.widget ? (QStringList(found.entry->name()) + control.captions).join(QStringLiteral(" \u203a "))
-                              : tr("Page");
-    case olFoundSettings::Value: {
-        QStringList values;
-        for (const QString &key : control.keys)
-            values << olShortValueText(key.toStdString(), m_pending->value(key.toStdString()));
-        return values.join(QStringLiteral("; "));
-    }
-    default:
-        return control.keys.isEmpty() ? QString() : originText(control.keys.first().toStdString());
-    }
-}
-
-QString olPreferencesDialog::originText(const std::string &key) const
-{
-    switch (stateOf(key)) {
-    case olSettingState::Locked:
-        return tr("locked");
-    case olSettingState::Pending:
-        return tr("pending");
-    case olSettingState::Yours:
-        return tr("yours");
-    case olSettingState::Site:
-        return tr("the site's");
-    case olSettingState::Default:
-        break;
-    }
-    return tr("default");
 }
 
 /// In place of the pages, until one of them is asked for.
@@ -786,16 +692,15 @@ void olPreferencesDialog::showFound()
     m_restorePage->setVisible(false);
     m_locked->setVisible(false);
     m_pageNote->setVisible(false);
-    if (m_found.empty())
+    const int count = m_found->size();
+    if (count == 0)
         m_nothing->setText(text.isEmpty() ? tr("Every setting has its default.")
                                           : tr("Nothing matches \"%1\".").arg(m_searchField->text()));
-    m_pages->setCurrentWidget(m_found.empty() ? static_cast<QWidget *>(m_nothing) : m_foundList);
-    const QString told = m_found.empty()       ? m_nothing->text()
-                         : m_found.size() == 1 ? tr("1 Setting")
-                                               : tr("%1 Settings").arg(m_found.size());
+    m_pages->setCurrentWidget(count == 0 ? static_cast<QWidget *>(m_nothing) : m_foundList);
+    const QString told = count == 0 ? m_nothing->text() : count == 1 ? tr("1 Setting") : tr("%1 Settings").arg(count);
     if (m_title->text() == told)
         return;
-    m_title->setText(m_found.empty() ? QString() : told);
+    m_title->setText(count == 0 ? QString() : told);
     m_title->setAccessibleName(told);
     QAccessibleEvent alert(m_title, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
@@ -803,32 +708,32 @@ void olPreferencesDialog::showFound()
 
 void olPreferencesDialog::goToFound(int row)
 {
-    if (row < 0 || std::size_t(row) >= m_found.size())
+    const auto [entry, control] = m_found->row(row);
+    if (!entry)
         return;
-    const Found found = m_found[std::size_t(row)];
-    m_tree->choose(found.entry->name());
+    m_tree->choose(entry->name());
     showCurrent();
-    if (!found.control.widget) {
+    if (!control.widget) {
         m_tree->setFocus(Qt::OtherFocusReason);
         return;
     }
-    if (olPageFrame *frame = m_frames.value(found.entry->page()))
-        frame->reveal(found.control);
-    found.control.widget->setFocus(Qt::TabFocusReason);
+    if (olPageFrame *frame = m_frames.value(entry->page()))
+        frame->reveal(control);
+    control.widget->setFocus(Qt::TabFocusReason);
 }
 
 void olPreferencesDialog::openMenuOfFound(int row, const QPoint &globalPosition)
 {
-    const Found found = m_found[std::size_t(row)];
-    m_menu->addTo(m_search->controls(*found.entry));
-    if (found.control.widget)
-        m_menu->openFor(found.control.widget, globalPosition);
+    const auto [entry, control] = m_found->row(row);
+    m_menu->addTo(m_search->controls(*entry));
+    if (control.widget)
+        m_menu->openFor(control.widget, globalPosition);
 }
 
 void olPreferencesDialog::revealFirstHit()
 {
     const olPreferencesEntry *entry = m_tree->chosen();
-    const std::vector<olFoundControl> hits = m_hits.value(entry);
+    const std::vector<olFoundControl> hits = m_found->hits(entry);
     const auto inSight = [](const olFoundControl &hit) { return hit.widget && hit.widget->isVisible(); };
     olPageFrame *frame = entry ? m_frames.value(entry->page()) : nullptr;
     if (!frame || hits.empty())
@@ -888,7 +793,7 @@ void olPreferencesDialog::refresh()
     });
     // What differs from its default may be another thing now.
     if (m_changedOnly->isChecked() && m_pages->currentWidget() != m_nothing && m_pages->currentWidget() != m_foundList)
-        collectFound();
+        findSettings();
     else if (m_changedOnly->isChecked())
         filter();
     const olPreferencesEntry *entry = m_tree->chosen();
@@ -905,55 +810,11 @@ std::vector<olSettingMarks::Mark> olPreferencesDialog::marksOn(const olPreferenc
         // Of a control for several settings, the one that says most.
         auto state = olSettingState::Default;
         for (const QString &key : control.keys)
-            state = std::max(state, stateOf(key.toStdString()));
+            state = std::max(state, m_pending->stateOf(key.toStdString()));
         if (!control.keys.isEmpty())
             marks.push_back({control, state});
     }
     return marks;
-}
-
-olSettingState olPreferencesDialog::stateOf(const std::string &key) const
-{
-    if (m_session.lockReason(key))
-        return olSettingState::Locked;
-    if (m_pending->isPending(key))
-        return olSettingState::Pending;
-    const QString origin = m_session.origin(key);
-    if (origin == QLatin1String("stored"))
-        return olSettingState::Yours;
-    return origin == QLatin1String("site") ? olSettingState::Site : olSettingState::Default;
-}
-
-/// As a person finds it: the page and the control's name; without a control the key.
-QString olPreferencesDialog::placeOf(const std::string &key) const
-{
-    const olPreferencesEntry *owner = m_pending->ownerOf(key);
-    const olFoundControl *control = m_search->control(key);
-    const QString name = QString::fromStdString(key);
-    if (!owner)
-        return name;
-    // One control may edit several settings, which only their keys tell apart.
-    const bool isTold = control && control->keys.size() == 1 && !control->name.isEmpty();
-    return tr("%1: %2", "module and setting").arg(owner->name(), isTold ? control->name : name);
-}
-
-std::vector<olListedChange> olPreferencesDialog::listedChanges() const
-{
-    std::vector<olListedChange> listed;
-    for (const olPendingChange &change : m_pending->list()) {
-        if (change.key.empty())
-            listed.push_back({change.entry->name(), {}, {}, tr("edited"), {}, {}});
-        else
-            listed.push_back(listedChange(change.key, change.before, change.after));
-    }
-    return listed;
-}
-
-olListedChange olPreferencesDialog::listedChange(const std::string &key, const boost::any &before,
-                                                 const boost::any &after) const
-{
-    return {placeOf(key), QString::fromStdString(key), olValueText(key, before), olValueText(key, after), before,
-            after};
 }
 
 void olPreferencesDialog::showChanges()
@@ -961,7 +822,7 @@ void olPreferencesDialog::showChanges()
     auto *view = new olChangesView(tr("Changes"), this);
     view->setAttribute(Qt::WA_DeleteOnClose);
     view->offerWork();
-    view->setChanges(listedChanges());
+    view->setChanges(m_words->pending());
     connect(view, &olChangesView::chosen, this, &olPreferencesDialog::goTo);
     connect(view, &olChangesView::takeBackAsked, this,
             [this, view](const QStringList &keys, const QStringList &places) {
@@ -971,7 +832,7 @@ void olPreferencesDialog::showChanges()
                     else if (const olPreferencesEntry *entry = olPreferencesRegistry::the().find(places[index]))
                         m_pending->takeBack(*entry);
                 }
-                view->setChanges(listedChanges());
+                view->setChanges(m_words->pending());
                 if (m_pending->isEmpty())
                     view->accept();
             });
@@ -979,54 +840,7 @@ void olPreferencesDialog::showChanges()
     view->open();
 }
 
-void olPreferencesDialog::chooseImport()
-{
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Import Preferences"), {}, tr("Preferences (*.json);;All files (*)"));
-    if (!file.isEmpty())
-        importFrom(file);
-}
-
 void olPreferencesDialog::offerPreview() { m_preview->setVisible(true); }
-
-void olPreferencesDialog::importFrom(const QString &file)
-{
-    preview(tr("Import Preferences"), tr("&Import"), olPreferencesFile::read(file));
-}
-
-void olPreferencesDialog::preview(const QString &title, const QString &action,
-                                  const olResult<olPreferencesFile::Contents> &contents)
-{
-    if (!contents.isOk()) {
-        m_message->showError(contents.error());
-        return;
-    }
-    const auto valueOf = [this](const std::string &key) { return m_pending->value(key); };
-    const olPreferencesImport import(m_session, *contents, valueOf);
-
-    auto *view = new olChangesView(title, this);
-    // Not by its closing: a question may be asked before it has told what is ticked.
-    connect(view, &QDialog::finished, view, &QObject::deleteLater);
-    view->setIntroduction(import.changes.empty()
-                              ? tr("Nothing would change.")
-                              : tr("These settings get new values. They stay pending until OK or Apply."));
-    std::vector<olListedChange> listed;
-    for (const olPreferencesImport::Change &change : import.changes)
-        listed.push_back(listedChange(change.key, change.before, change.after));
-    view->setChanges(listed);
-    for (const olSkippedSetting &skipped : import.skipped)
-        view->addSkipped(QString::fromStdString(skipped.key), skipped.reason);
-    view->askFor(action);
-    connect(view, &QDialog::accepted, this, [this, view, import] {
-        const QStringList ticked = view->ticked();
-        olSettingValues values = import.values();
-        for (auto value = values.begin(); value != values.end();)
-            value = ticked.contains(QString::fromStdString(value->first)) ? std::next(value) : values.erase(value);
-        m_pending->put(values);
-    });
-    view->fit();
-    view->open();
-}
 
 /// A setting whose own box asks before it is set is asked about here, too.
 bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
@@ -1035,54 +849,4 @@ bool olPreferencesDialog::isAgreed(const olSettingWarning &question)
     box.setWindowModality(Qt::WindowModal);
     box.exec();
     return box.isAgreed();
-}
-
-void olPreferencesDialog::showHistory()
-{
-    const olResult<olUndo> undo = olUndo::of(m_session, 0);
-    if (!undo.isOk()) {
-        m_message->showError(undo.error());
-        return;
-    }
-    auto *view = new olHistoryView(
-        *undo, [this](const std::string &key) { return placeOf(key); }, this);
-    view->setAttribute(Qt::WA_DeleteOnClose);
-    connect(view, &olHistoryView::chosen, this, &olPreferencesDialog::goBack);
-    view->open();
-}
-
-void olPreferencesDialog::goBack(int number)
-{
-    // Others may have saved while the list was shown.
-    const olResult<olUndo> now = olUndo::of(m_session, 0);
-    const auto isTakenBack = [number](const olStoreRows::Save &save) { return save.number >= number; };
-    const auto saves = now.isOk() ? std::count_if(now->history().begin(), now->history().end(), isTakenBack) : 0;
-    const olResult<olUndo> undo = olUndo::of(m_session, std::size_t(saves));
-    if (!undo.isOk()) {
-        m_message->showError(undo.error());
-        return;
-    }
-    olPreferencesFile::Contents earlier{{}, undo->left()};
-    for (const olStoreRows::Change &change : undo->changes())
-        earlier.settings[change.key.second] = undo->value(change.key, change.after);
-    preview(tr("Go Back"), tr("&Go Back"), earlier);
-}
-
-void olPreferencesDialog::chooseExport()
-{
-    const QString file = QFileDialog::getSaveFileName(this, tr("Export Preferences"), tr("preferences.json"),
-                                                      tr("Preferences (*.json);;All files (*)"));
-    if (!file.isEmpty())
-        exportTo(file);
-}
-
-void olPreferencesDialog::exportTo(const QString &file)
-{
-    const olResult<> written = olPreferencesFile::write(file, m_pending->inForce());
-    if (!written.isOk())
-        m_message->showError(written.error());
-    else if (m_pending->isEmpty())
-        m_message->showNote(tr("The preferences were written to %1.").arg(file));
-    else
-        m_message->showNote(tr("The preferences in force were written to %1, without the pending changes.").arg(file));
 }

@@ -1,21 +1,16 @@
 #pragma once
 
-#include "Dialog/olFoundSettings.h"
 #include "Dialog/olSettingMarks.h"
-#include "Editing/olSettingsSearch.h"
-#include "Session/olPreferencesFile.h"
 #include "olHostExport.h"
 
 #include <QDialog>
 #include <QHash>
 #include <QPointer>
 #include <QRect>
+#include <QString>
 #include <QTimer>
-#include <boost/any.hpp>
 
-#include <functional>
 #include <memory>
-#include <string>
 #include <vector>
 
 class QCheckBox;
@@ -26,6 +21,8 @@ class QPushButton;
 class QSplitter;
 class QStackedWidget;
 class olDocumentView;
+class olFoundRows;
+class olFoundSettings;
 class olMessageLine;
 class olModuleTree;
 class olOutsideLine;
@@ -35,7 +32,9 @@ class olPreferencesEntry;
 class olPreferencesSession;
 class olSettingMenu;
 class olSettingTips;
-struct olListedChange;
+class olSettingWords;
+class olSettingsSearch;
+class olSettingsTransfer;
 struct olSettingWarning;
 struct olPendingChange;
 
@@ -66,14 +65,8 @@ public:
     /// pixels. The same for every page that is narrow.
     [[nodiscard]] int panelWidth() const;
 
-    /// Shows what the file would change, and makes it pending if that is agreed to.
-    void importFrom(const QString &file);
-
-    /// Lists the saves of the store, and makes going back before one of them pending if that is agreed to.
-    void showHistory();
-
-    /// Writes the values in force, not those still pending.
-    void exportTo(const QString &file);
+    /// Files, profiles and earlier saves.
+    [[nodiscard]] olSettingsTransfer &transfer() { return *m_transfer; }
 
 signals:
     /// What was applied takes effect at the next start, and that shall be now. Asked for only where this is connected.
@@ -105,12 +98,6 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    /// A setting that was found; a page as such has no control.
-    struct Found {
-        const olPreferencesEntry *entry = nullptr;
-        olFoundControl control;
-    };
-
     [[nodiscard]] QWidget *buildLeft();
     [[nodiscard]] QWidget *buildRight();
     [[nodiscard]] QWidget *buildBottom();
@@ -123,23 +110,18 @@ private:
     void showCurrent();
     [[nodiscard]] olPageFrame *frameOf(olPreferencesEntry &entry);
     void lockSettings(olPreferencesEntry &entry, olPageFrame &frame);
-    [[nodiscard]] QString lockText(const olFoundControl &control, const std::string &key) const;
     void listLocked(olPreferencesEntry &entry);
     [[nodiscard]] std::vector<QWidget *> tabStops() const;
     void giveBack(QWidget *page);
 
     bool filter(); ///< whether something is searched for
+    bool findSettings();
     void revealFirstHit();
-    bool collectFound();
-    [[nodiscard]] QString foundText(const Found &found, olFoundSettings::Column column) const;
-    [[nodiscard]] QString originText(const std::string &key) const;
     void showFound();
     void goToFound(int row);
     void openMenuOfFound(int row, const QPoint &globalPosition);
     void goTo(const QString &key);
     [[nodiscard]] std::vector<olSettingMarks::Mark> marksOn(const olPreferencesEntry &entry) const;
-    [[nodiscard]] olSettingState stateOf(const std::string &key) const;
-    [[nodiscard]] QString placeOf(const std::string &key) const;
 
     void showHelp();
     void refresh();
@@ -147,19 +129,14 @@ private:
     bool tellNotices();
     void tellWhatWaits(const std::vector<olPendingChange> &applied);
     [[nodiscard]] bool mayLeave();
-    [[nodiscard]] QString lossText(const std::vector<olPendingChange> &changes) const;
-    [[nodiscard]] std::vector<olListedChange> listedChanges() const;
-    [[nodiscard]] olListedChange listedChange(const std::string &key, const boost::any &before,
-                                              const boost::any &after) const;
     [[nodiscard]] bool isAgreed(const olSettingWarning &question);
-    void preview(const QString &title, const QString &action, const olResult<olPreferencesFile::Contents> &contents);
-    void goBack(int number);
-    void chooseImport();
-    void chooseExport();
 
     olPreferencesSession &m_session;
     std::unique_ptr<olPendingChanges> m_pending;
     std::unique_ptr<olSettingsSearch> m_search;
+    std::unique_ptr<olSettingWords> m_words;
+    std::unique_ptr<olFoundRows> m_found;
+    std::unique_ptr<olSettingsTransfer> m_transfer;
     std::unique_ptr<olSettingMenu> m_menu;
     std::unique_ptr<olSettingTips> m_tips;
     QLineEdit *m_searchField;
@@ -180,8 +157,6 @@ private:
     QCheckBox *m_preview;
     QDialogButtonBox *m_buttons;
     QHash<QWidget *, olPageFrame *> m_frames;
-    QHash<const olPreferencesEntry *, std::vector<olFoundControl>> m_hits;
-    std::vector<Found> m_found;
     QPointer<olDocumentView> m_help;
     QTimer m_refresh;
     QRect m_place; ///< where it was last; not valid before

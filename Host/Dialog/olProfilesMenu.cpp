@@ -26,6 +26,7 @@ QString shown(QString name) { return name.replace(QLatin1Char('&'), QLatin1Strin
 olProfilesMenu::olProfilesMenu(const olProfiles &profiles, QWidget *parent)
     : QMenu(tr("&Profiles"), parent), m_profiles(profiles), m_removal(new QMenu(tr("&Delete"), this))
 {
+    setObjectName(QStringLiteral("profiles"));
     // Other programs make and delete profiles too.
     connect(this, &QMenu::aboutToShow, this, &olProfilesMenu::list);
 }

@@ -19,7 +19,7 @@ namespace
 constexpr int marginWidth = 7;
 constexpr qreal barWidth = 3.0;
 constexpr int tintMargin = 2;
-constexpr QSizeF padlock(7.0, 10.0);
+constexpr QSizeF padlock(6.0, 10.0);
 constexpr int dotRadius = 3;
 
 /// Whether anything of it is to be seen: a tab behind, a folded frame and a hidden control show nothing.
@@ -304,9 +304,12 @@ void olSettingMarks::paintMark(QPainter &painter, const Mark &mark) const
         for (qreal top = bar.top(); top < bar.bottom(); top += 2.0 * barWidth)
             painter.drawEllipse(QRectF(bar.left(), top, barWidth, std::min(barWidth, bar.bottom() - top)));
         break;
-    case olSettingState::Locked:
-        paintPadlock(painter, QRectF(middle - QPointF(padlock.width(), padlock.height()) / 2.0, padlock));
+    case olSettingState::Locked: {
+        // Off the label behind it.
+        const QPointF center = middle + QPointF(isRightToLeft() ? 1.5 : -1.5, 0.0);
+        paintPadlock(painter, QRectF(center - QPointF(padlock.width(), padlock.height()) / 2.0, padlock));
         break;
+    }
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Editing/olPendingChanges.h"
 #include "Editing/olSettingsSearch.h"
 #include "olHostExport.h"
 
@@ -9,9 +10,6 @@
 
 #include <utility>
 #include <vector>
-
-/// Where a setting's value stands, as its margin shows it.
-enum class olSettingState { Default, Site, Yours, Pending, Locked };
 
 /// Lies over a page, out of the way of mouse and keys, and marks controls: every setting has a mark in its margin that
 /// tells its state and can be clicked; those that were searched for have a tint behind them, and tabs that hold such a

@@ -34,3 +34,8 @@ QRect olWindowPlace::beside(const QRect &neighbour, const QSize &size, const QRe
     const int narrow = std::min(size.width(), room.width() * 3 / 5);
     return onScreen({room.right() + 1 - narrow, top, narrow, size.height()}, screen);
 }
+
+int olWindowPlace::letterWidth(const QFontMetrics &metrics)
+{
+    return std::min(metrics.averageCharWidth(), metrics.horizontalAdvance(QLatin1Char('x')));
+}

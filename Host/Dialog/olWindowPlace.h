@@ -2,6 +2,7 @@
 
 #include "olHostExport.h"
 
+#include <QFontMetrics>
 #include <QRect>
 #include <QSize>
 
@@ -16,5 +17,8 @@ namespace olWindowPlace
 
 /// The place moved, and made smaller, as far as it takes to be on the screen as a whole.
 [[nodiscard]] ORLO_HOST_EXPORT QRect onScreen(const QRect &place, const QRect &screen);
+
+/// Of a letter, by which windows and columns are sized; a font of ideographs takes one of those for the mean.
+[[nodiscard]] ORLO_HOST_EXPORT int letterWidth(const QFontMetrics &metrics);
 
 } // namespace olWindowPlace

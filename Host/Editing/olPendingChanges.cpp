@@ -151,6 +151,18 @@ bool olPendingChanges::isPending(const std::string &key) const
     return m_withoutControl.count(key) != 0 || (page && page->hasControl(key) && page->isChanged(key));
 }
 
+olSettingState olPendingChanges::stateOf(const std::string &key) const
+{
+    if (m_session.lockReason(key))
+        return olSettingState::Locked;
+    if (isPending(key))
+        return olSettingState::Pending;
+    const QString origin = m_session.origin(key);
+    if (origin == QLatin1String("stored"))
+        return olSettingState::Yours;
+    return origin == QLatin1String("site") ? olSettingState::Site : olSettingState::Default;
+}
+
 bool olPendingChanges::differsFromDefault(const std::string &key) const
 {
     const olPreferencesEntry *owner = ownerOf(key);

@@ -18,6 +18,9 @@
 class olEditedPage;
 class olPreferencesEntry;
 
+/// Where a setting's value comes from; what says more of it is greater.
+enum class olSettingState { Default, Site, Yours, Pending, Locked };
+
 /// A setting that will have another value once the edits are applied. Without a key it stands for all of a page whose
 /// settings cannot be told apart.
 struct olPendingChange {
@@ -60,6 +63,7 @@ public:
     [[nodiscard]] boost::any value(const std::string &key) const;
     [[nodiscard]] bool differsFromDefault(const std::string &key) const;
     [[nodiscard]] bool isPending(const std::string &key) const;
+    [[nodiscard]] olSettingState stateOf(const std::string &key) const;
 
     /// Whether any setting of the module does.
     [[nodiscard]] bool differsFromDefault(const olPreferencesEntry &entry) const;

@@ -28,6 +28,7 @@ int main(int argc, char *argv[])
     parser.addOptions({pictures, palette});
     parser.process(application);
     Pictures::folder() = parser.value(pictures);
+    QDir().mkpath(Pictures::folder());
     if (parser.value(palette) == QLatin1String("dark"))
         QApplication::setPalette(Palettes::dark());
     else if (parser.value(palette) == QLatin1String("contrast"))

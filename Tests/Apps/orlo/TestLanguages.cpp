@@ -6,6 +6,7 @@
 
 #include "Dialog/olConsentBox.h"
 #include "Dialog/olPreferencesDialog.h"
+#include "Dialog/olSettingsTransfer.h"
 #include "Exchange/olExportScene.h"
 #include "Exchange/olImportJob.h"
 #include "Model/olScene.h"
@@ -175,19 +176,19 @@ TEST_P(ViewerInLanguages, HasRoomForTheTextsAroundThePages)
     look(more, "more");
     more.close();
 
-    dialog.exportTo(path("preferences.json"));
+    dialog.transfer().exportTo(path("preferences.json"));
     look(dialog, "note");
     dialog.findChild<QOLSlider *>("fieldOfView")->setValue(33);
-    lookAtWhatOpens("import preview", [&] { dialog.importFrom(path("preferences.json")); });
+    lookAtWhatOpens("import preview", [&] { dialog.transfer().importFrom(path("preferences.json")); });
     lookAtWhatOpens("changes", [&] { dialog.findChild<QAbstractButton *>("changes")->click(); });
     lookAtWhatOpens("loss", [&] { dialog.reject(); });
     ASSERT_TRUE(dialog.apply());
-    lookAtWhatOpens("history", [&] { translated("olPreferencesDialog", "&History...").trigger(); });
+    lookAtWhatOpens("history", [&] { translated("olSettingsTransfer", "&History...").trigger(); });
     for (QMenu *menu : more.findChildren<QMenu *>() + dialog.findChildren<QMenu *>())
         emit menu->aboutToShow();
     lookAtWhatOpens("profile", [&] { translated("olProfilesMenu", "&Save As...").trigger(); });
     lookAtWhatOpens("import of preferences", [&] { more.actions().first()->trigger(); });
-    dialog.exportTo("/none/exported.json");
+    dialog.transfer().exportTo("/none/exported.json");
     look(dialog, "error");
 }
 

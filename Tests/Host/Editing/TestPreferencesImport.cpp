@@ -1,10 +1,12 @@
 #include "Dialog/olChangesView.h"
+#include "Dialog/olSettingsTransfer.h"
 #include "Host/Dialog/DialogTest.h"
 #include "Session/olPreferencesFile.h"
 #include "State/olValue.h"
 
 #include <OpenSG/OSGColor.h>
 #include <QFile>
+#include <QHeaderView>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -104,7 +106,7 @@ TEST(PreferencesFile, RefusesWhatIsNoFileOfPreferencesAsAWhole)
 TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
 {
     start(R"({"Studio title": {"value": "Ours", "locked": true, "reason": "House style."}})");
-    dialog->importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 9},
+    dialog->transfer().importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 9},
         "Studio mode": {"type": "int", "value": 1}, "Studio scale": {"type": "float", "value": 1.5},
         "Studio seed": {"type": "int", "value": 8}, "Studio shadows": {"type": "int", "value": 1},
         "Studio title": {"type": "qstring", "value": "Theirs"}, "Unknown": {"type": "int", "value": 1},
@@ -120,6 +122,12 @@ TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
     EXPECT_TRUE(skipped.contains(QStringLiteral("Studio title | is locked: House style.")));
     EXPECT_EQ(module.page.samples->value(), 4);
 
+    view->resize(400, 10);
+    const auto *list = view->findChild<QTreeWidget *>(QStringLiteral("skipped"));
+    EXPECT_LT(list->geometry().bottom(), view->findChild<QWidget *>(QStringLiteral("copyAsText"))->geometry().top());
+    EXPECT_LE(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->header()->length(), list->width())
+        << "old and new value are in sight in a narrow window, too";
+
     view->reject();
     EXPECT_FALSE(canApply()) << "a preview that is cancelled did nothing";
 }
@@ -129,15 +137,15 @@ TEST_F(PreferencesImport, WritesWhatIsInForceAndTellsOfWhatIsPending)
     start();
     module.page.samples->setValue(9);
     const QString exported = folder.filePath(QStringLiteral("out.json"));
-    dialog->exportTo(exported);
+    dialog->transfer().exportTo(exported);
     EXPECT_TRUE(says(QStringLiteral("without the pending changes")));
     const auto contents = olPreferencesFile::read(exported);
     EXPECT_EQ(contents->settings.size(), 7u);
     EXPECT_TRUE(olValue::equal(contents->settings.at("Studio samples"), 4));
 
-    dialog->exportTo(QStringLiteral("/nowhere/out.json"));
+    dialog->transfer().exportTo(QStringLiteral("/nowhere/out.json"));
     EXPECT_TRUE(says(QStringLiteral("/nowhere/out.json")));
-    dialog->importFrom(QStringLiteral("/nowhere/in.json"));
+    dialog->transfer().importFrom(QStringLiteral("/nowhere/in.json"));
     EXPECT_TRUE(says(QStringLiteral("/nowhere/in.json")));
     EXPECT_EQ(opened<olChangesView>(), nullptr);
 }

@@ -1,3 +1,4 @@
+#include "Dialog/olSettingsTransfer.h"
 #include "Host/Dialog/DialogTest.h"
 #include "Session/olUndo.h"
 #include "State/olValue.h"
@@ -72,6 +73,10 @@ TEST_F(Following, WhatAnotherProgramSavesComesIntoForceWithinASecond)
     const int applied = module.applied;
     session->takeOver();
     EXPECT_EQ(module.applied, applied);
+
+    saveOutside({{key("Studio seed"), 3}});
+    session->takeOver();
+    EXPECT_EQ(module.applied, applied + 1) << "also without a control";
 }
 
 TEST_F(Following, PendingChangesStayAndTheSameSettingIsAskedFor)
@@ -144,7 +149,7 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     EXPECT_EQ(undo->history().front().changes.front().after->value, "8");
     ASSERT_EQ(undo->changes().size(), 2u);
 
-    dialog->showHistory();
+    dialog->transfer().showHistory();
     auto *view = opened<QDialog>();
     ASSERT_NE(view, nullptr);
     auto *list = view->findChild<QTreeWidget *>();
