@@ -5,12 +5,12 @@
 A place is a condition, a number, a text such as a key, a call left out, or two calls swapped; of a form what it says of
 a control. N of them (30) are drawn by the seed (1), as many of each kind as there are. Each is changed in a copy of the
 sources as committed, under build/mutate; there the copy is built, and its tests that can see the folders are run, the
-likely ones first and those that take long last. Where no test fails, the change has survived: a test is missing, or
-nobody could notice it; these are listed in Tests/survivors.md. A change that does not compile counts for nothing, and
-another one is drawn.
+likely ones first. Where no test fails, the change has survived: a test is missing, or nobody could notice it; these are
+listed in Tests/survivors.md. A change that does not compile counts for nothing, and another one is drawn.
 
-What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped; with --again it tries
-those that survived once more, for when the tests have become sharper. The environment may name a command that building
+What came out stands in build/mutate/FOLDERS-S.json. The same command goes on where it was stopped. With --again it
+tries those that survived once more, for when the tests have become sharper, and then with the tests that take long,
+too: they would take most of the time where many changes survive the others. The environment may name a command that building
 and testing is run through (MUTATE_RUN="nice -n 5") and options for configuring the copy (MUTATE_CMAKE).
 """
 
@@ -28,15 +28,16 @@ ROOT = Path(__file__).resolve().parent.parent
 WORK = ROOT / "build/mutate"
 COPY = WORK / "copy"
 
-# The programs whose tests can see a folder; of any other folder it is all of them. Left out is what takes long and looks
-# at more than the folder: the view, which sees of a setting what the calls before it say, and the forms at every scale.
+# The programs whose tests can see a folder; of any other folder it is all of them. Left out is the view, which takes
+# long and sees of a setting what the calls before it say.
 SEES = {
     "Plugins": ["orlo-prefs", "plugins-tests", "model-tests"],
-    "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests"],
-    "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests"],
+    "Sdk": ["orlo-prefs", "sdk-tests", "host-tests", "plugins-tests", "model-tests", "forms-tests"],
+    "Host": ["orlo-prefs", "host-tests", "plugins-tests", "model-tests", "forms-tests"],
 }
-# How a source is laid out says nothing of what it does, and what is packed or built once more nothing new.
-BLIND = ("check_format", "check_packaging", "build_plugin_alone")
+# How a source is laid out says nothing of what it does, what is packed, built or shown at one more scale nothing new,
+# and how memory grows hardly anything.
+BLIND = ("check_format", "check_packaging", "build_plugin_alone", "LoadCycles.", "at_scale_1.5", "at_scale_2")
 QUICK_SECONDS = 3.0
 HUNG_SECONDS = 120
 
@@ -46,7 +47,14 @@ CONDITION = re.compile(r"(?<= )(?:==|!=|<=|>=|<|>|&&|\|\|)(?= )|\b(?:true|false)
 NUMBER = re.compile(r"(?<![\w.\"'<])\d+(?:\.\d+)?(?=[fu]?[^\w.\"'])")
 TEXT = re.compile(r'"((?:[^"\\]|\\.)+)"')
 CALL = re.compile(r"^\s+(?!(?:return|delete|using|throw|case) )[\w:.>()*-]+\(.*\);$")
+SETTER = re.compile(r"\s+(?:(.+?)(?:->|\.))?(set[A-Z]\w*|connect)\(")
 IN_FORM = re.compile(r"<(number|double|bool|string|set)(?: [^>]*)?>([^<]+)<")
+
+
+def alike(line, following):
+    """Whether both set properties of one object, or the same one of two, where their order hardly ever matters."""
+    one, other = SETTER.match(line), SETTER.match(following)
+    return one and other and (one[1] == other[1] or one[2] == other[2])
 
 
 def increased(number):
@@ -79,8 +87,9 @@ def changes_of_code(lines, at, isHeader):
     if isCall and lines[at - 1].endswith((";", "{", "}", ")", ":", "else")):
         indent = line[:len(line) - len(line.lstrip())]
         yield "call left out", indent + ";"
-        if CALL.match(lines[at + 1]) and lines[at + 1] != line and lines[at + 1].startswith(indent):
-            yield "calls swapped", lines[at + 1] + "\n" + line
+        following = lines[at + 1]
+        if CALL.match(following) and following != line and following.startswith(indent) and not alike(line, following):
+            yield "calls swapped", following + "\n" + line
 
 
 def drawn(folders, seed):
@@ -104,7 +113,8 @@ def drawn(folders, seed):
 class Copy:
     """The sources as they are committed, built and tested without getting in anyone's way."""
 
-    def __init__(self, folders):
+    def __init__(self, folders, hasTime):
+        self.hasTime = hasTime
         seen = [SEES.get(folder.partition("/")[0], []) for folder in folders]
         self.programs = sorted(set(sum(seen, []))) if all(seen) else []
         if not COPY.exists():
@@ -118,7 +128,8 @@ class Copy:
         if not self.builds():
             sys.exit("the unchanged sources do not build")
         self.numbers = self.tests()
-        self.trusted = set()
+        # What noticed a change in some run did not fail on the unchanged sources.
+        self.trusted = {place["verdict"] for kept in WORK.glob("*.json") for place in json.loads(kept.read_text())}
 
     @staticmethod
     def git(*command):
@@ -151,7 +162,7 @@ class Copy:
         numbers = {}
         for number, test in enumerate(json.loads(shown)["tests"], 1):
             command = " ".join(test.get("command", ["NOT_BUILT"]))
-            isSeen = not any(name in command for name in BLIND) and \
+            isSeen = not any(name in test["name"] + command for name in BLIND) and \
                 (any(f"/bin/{program}" in f"{command} " for program in self.programs) or "/lint/" in command)
             if (isSeen or not self.programs) and '"slow"' not in json.dumps(test):
                 numbers[test["name"]] = number
@@ -159,7 +170,8 @@ class Copy:
 
     def failures(self, numbers, *options):
         done = self.run("ctest", "--test-dir", "build", "-I", "0,0,0," + ",".join(map(str, numbers)), *options,
-                        "--timeout", HUNG_SECONDS, "--parallel", os.cpu_count())
+                        # Many of them mostly wait.
+                        "--timeout", HUNG_SECONDS, "--parallel", 3 * os.cpu_count())
         return re.findall(r"^\s+\d+ - (.+) \(", done.stdout, re.MULTILINE)
 
     def failure(self, numbers):
@@ -181,7 +193,7 @@ class Copy:
             yield [self.numbers[test] for test in sorted(tests) if test in self.numbers]
 
     def verdict(self, place, counted):
-        """The test that noticed the change, "" where none did, nothing where it did not compile."""
+        """The test that noticed the change, "" where none did, nothing where it did not compile or its line is gone."""
         while (failed := self.noticed(place, counted)) and failed not in self.trusted:
             # One that fails on the unchanged sources, too, notices nothing: say, because it measures time on a machine
             # that is busy.
@@ -195,11 +207,13 @@ class Copy:
 
     def noticed(self, place, counted):
         source = COPY / place["file"]
-        text = source.read_text()
+        text = source.read_text() if source.exists() else ""
         lines = text.split("\n")
         at = place["line"] - 1
         if place["was"] not in lines[at:at + 1]:
-            at = lines.index(place["was"]) if place["was"] in lines else sys.exit(f"{place['file']} has changed")
+            if place["was"] not in lines:
+                return None
+            at = lines.index(place["was"])
         lines[at:at + place["is"].count("\n") + 1] = place["is"].split("\n")
         source.write_text("\n".join(lines))
         try:
@@ -208,6 +222,8 @@ class Copy:
             done, slow = set(), self.slow()
             quick = [number for number in self.numbers.values() if number not in slow]
             for stage in (*self.likely(source, counted), quick, sorted(slow)):
+                if not self.hasTime:
+                    stage = [number for number in stage if number not in slow]
                 if failed := self.failure([number for number in stage if number not in done]):
                     return failed
                 done.update(stage)
@@ -230,7 +246,7 @@ def main():
     tried = json.loads(kept.read_text()) if kept.exists() else []
     known = {(place["file"], place["was"], place["is"]) for place in tried}
     counted = [place for place in tried if place["verdict"] is not None]
-    copy = Copy(arguments.folders)
+    copy = Copy(arguments.folders, arguments.again)
     waiting = [place for place in counted if place["verdict"] == ""] if arguments.again else \
         (place for place in drawn(arguments.folders, arguments.seed)
          if (place["file"], place["was"], place["is"]) not in known)
@@ -243,7 +259,7 @@ def main():
             counted += [place] if place["verdict"] is not None else []
         kept.write_text(json.dumps(tried, indent=1))
         print(f"{len(counted)}: {place['file']}:{place['line']} ({place['kind']}): "
-              f"{'does not compile' if place['verdict'] is None else place['verdict'] or 'SURVIVED'}", flush=True)
+              f"{'no such change' if place['verdict'] is None else place['verdict'] or 'SURVIVED'}", flush=True)
 
     survived = [place for place in counted if place["verdict"] == ""]
     print(f"{len(counted)} changes, {len(survived)} survived")

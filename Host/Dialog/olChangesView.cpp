@@ -170,8 +170,6 @@ void olChangesView::setChanges(const std::vector<olListedChange> &changes)
                          change.key.isEmpty() ? change.place : change.place + QLatin1Char('\n') + change.key);
         showValue(*item, BeforeColumn, change.before, change.beforeValue);
         showValue(*item, AfterColumn, change.after, change.afterValue);
-        if (m_use == Use::Choose)
-            item->setCheckState(SettingColumn, Qt::Checked);
     }
     const int count = m_changes->topLevelItemCount();
     if (count > 0)

@@ -44,7 +44,7 @@ public:
     /// Lets a person go to a change on its page, or take back one or all of them.
     void offerWork();
 
-    /// Asks instead: every row gets a tick, a button of that text accepts the dialog, another one cancels it.
+    /// Asks instead: every row so far gets a tick, a button of that text accepts the dialog, another one cancels it.
     void askFor(const QString &acceptText);
 
     /// Keys of the rows whose tick is set.

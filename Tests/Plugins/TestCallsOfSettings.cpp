@@ -131,7 +131,7 @@ TEST_F(CallsOfSettings, EachSettingReachesItsOwnCallsAndNoOther)
         if (!full.contains(line))
             printed += line + '\n';
     }
-    expectTranscript("calls-of-settings", printed);
+    expectTranscript("Plugins/calls-of-settings", printed);
 }
 
 TEST_F(CallsOfSettings, ASettingIsOnlyRecordedWhereNothingGoesByTheValuesThatItSets)

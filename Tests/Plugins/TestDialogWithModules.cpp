@@ -262,6 +262,16 @@ TEST_F(DialogWithModules, AnImportBringsWhatIsTickedAndAsksWhatThePageWouldAsk)
     answer(QMessageBox::AcceptRole);
     import(settings);
     EXPECT_EQ(pending(), "2 Chan&ges...");
+
+    auto *view =
+        preview(R"("RenderOptions background colors": {"type": "colors", "value": [[1, 0, 0.2], [2, 0.2, -1]]})");
+    ASSERT_NE(view, nullptr);
+    const auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    const QTreeWidgetItem &colors = *list->topLevelItem(0);
+    EXPECT_EQ(colors.text(2), "#ff0033, #ff3300") << "as bright as a screen can be";
+    const QImage swatches = colors.icon(2).pixmap(list->iconSize()).toImage();
+    EXPECT_EQ(swatches.pixelColor(swatches.height() / 2, swatches.height() / 2), QColor(0xff0033));
+    view->reject();
     dialog->restoreAll();
 }
 

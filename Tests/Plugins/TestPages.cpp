@@ -73,7 +73,7 @@ TEST_F(Pages, EveryPageHasItsTextsRangesAndChoicesInTheirOrder)
                 printed += name.toUtf8() + '\n' + indented(PageText::difference(lines, page->second));
         }
     }
-    expectTranscript("pages", printed);
+    expectTranscript("Plugins/pages", printed);
 }
 
 /// Also run on a screen of twice the resolution, which has to be set before the toolkit starts.
@@ -230,7 +230,7 @@ TEST_F(Reactions, EachControlMovesOnThePageWhatItMust)
             known << line;
         }
     }
-    expectTranscript("reactions", printed);
+    expectTranscript("Plugins/reactions", printed);
 }
 
 /// What the host answers when it is asked; the second answers differ from the first in everything.
@@ -334,7 +334,7 @@ TEST_F(ShownValues, EveryControlShowsItsSettingAndGivesItBack)
             known << line;
         }
     }
-    expectTranscript("shown-values", printed);
+    expectTranscript("Plugins/shown-values", printed);
 }
 
 } // namespace

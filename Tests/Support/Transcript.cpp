@@ -8,7 +8,7 @@
 
 void expectTranscript(const char *name, const QByteArray &printed)
 {
-    QFile expected(sourceOfTest(QStringLiteral("Tests/Plugins/%1.expected").arg(QLatin1String(name))));
+    QFile expected(sourceOfTest(QStringLiteral("Tests/%1.expected").arg(QLatin1String(name))));
     ASSERT_TRUE(expected.open(QIODevice::ReadOnly)) << expected.fileName().toStdString();
     if (expected.readAll() == printed)
         return;

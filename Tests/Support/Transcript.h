@@ -2,5 +2,5 @@
 
 #include <QByteArray>
 
-/// Fails where the text is not what Tests/Plugins/NAME.expected holds, and names the file that it left the text in.
+/// Fails where the text is not what Tests/NAME.expected holds, and names the file that it left the text in.
 void expectTranscript(const char *name, const QByteArray &printed);

@@ -2,8 +2,12 @@
 #include "DialogTest.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QContextMenuEvent>
+#include <QImage>
 #include <QMenu>
+#include <QPainter>
+#include <QPalette>
 #include <QTest>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -247,6 +251,27 @@ TEST_F(PreferencesDialogSearch, TheTreeShowsWhetherItHasTheKeys)
     QTest::keyClick(search(), Qt::Key_Down);
     ASSERT_TRUE(tree->hasFocus());
     EXPECT_NE(tree->viewport()->grab(row).toImage(), without);
+}
+
+TEST_F(PreferencesDialogSearch, IconsAreInTheColourOfTheTextAndLeaveThePainterAsItWas)
+{
+    start();
+    QPalette red = QApplication::palette();
+    red.setColor(QPalette::Text, Qt::red);
+    QApplication::setPalette(red);
+    QImage picture(48, 48, QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    dialog->findChild<QTreeWidget *>()->currentItem()->icon(0).paint(&painter, picture.rect());
+    EXPECT_TRUE(painter.transform().isIdentity());
+    painter.end();
+    int painted = 0;
+    for (int pixel = 0; pixel < 48 * 48; ++pixel) {
+        const QColor color = picture.pixelColor(pixel % 48, pixel / 48);
+        painted += color.alpha() > 0 ? 1 : 0;
+        ASSERT_TRUE(color.alpha() == 0 || (color.red() > 200 && color.green() == 0)) << color.name().toStdString();
+    }
+    EXPECT_GT(painted, 100);
 }
 
 TEST_F(PreferencesDialogSearch, TabGoesRoundTheWholeDialogInAReadersOrder)

@@ -73,6 +73,10 @@ TEST_F(Following, WhatAnotherProgramSavesComesIntoForceWithinASecond)
     const int applied = module.applied;
     session->takeOver();
     EXPECT_EQ(module.applied, applied);
+
+    saveOutside({{key("Studio seed"), 3}});
+    session->takeOver();
+    EXPECT_EQ(module.applied, applied + 1) << "also without a control";
 }
 
 TEST_F(Following, PendingChangesStayAndTheSameSettingIsAskedFor)

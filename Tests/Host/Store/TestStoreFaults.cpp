@@ -17,12 +17,14 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdarg>
 #include <functional>
 #include <initializer_list>
 #include <numeric>
 #include <random>
+#include <thread>
 
 namespace
 {
@@ -418,8 +420,21 @@ TEST_F(StoreFaults, ABusyStoreIsWaitedForBrieflyAndThenReported)
     Values values;
     EXPECT_EQ(opened(store, values).error, QString()) << "who reads need not wait for who writes";
     sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
     EXPECT_EQ(store.save(to({{key("a"), 2}})).error(), QString());
+
+    // While it waits, another program sets the file aside and puts a new one in its place.
+    ASSERT_TRUE(QFile::copy(file, file + ".new"));
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    std::thread mending([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        QFile::rename(file, file + ".aside");
+        QFile::rename(file + ".new", file);
+        sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
+    });
+    const bool isSaved = store.save(to({{key("a"), 3}})).isOk();
+    mending.join();
+    sqlite3_close(other);
+    EXPECT_EQ(isSaved, holds({{key("a"), 3}}));
 }
 
 } // namespace

@@ -1,8 +1,11 @@
 #include "Kernel/olController.h"
 #include "Kernel/olOSGWidget.h"
 #include "State/olHostState.h"
+#include "State/olValue.h"
 #include "Support/RecordedLog.h"
+#include "Support/Transcript.h"
 
+#include <QByteArray>
 #include <QStringList>
 #include <gtest/gtest.h>
 
@@ -36,11 +39,15 @@ private:
     std::function<void(const olHostValueBase &)> m_told;
 };
 
-TEST(HostState, NoTwoValuesShareAName)
+TEST(HostState, ShowsEachValueUnderItsNameAndBeginsAtItsDefault)
 {
     std::set<std::string> names;
-    for (const olHostValueBase *value : olHostState::the().values())
+    std::string listed;
+    for (const olHostValueBase *value : olHostState::the().values()) {
         EXPECT_TRUE(names.insert(value->name()).second) << value->name();
+        listed += value->name() + (": " + olValue::toJson(value->any())) + '\n';
+    }
+    expectTranscript("Sdk/Kernel/host-state", QByteArray::fromStdString(listed));
 }
 
 TEST(HostState, EveryCallIsToldBeforeItReturnsAlsoOneThatChangesNothing)

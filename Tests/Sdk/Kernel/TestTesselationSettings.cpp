@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
 #include <QTest>
@@ -76,6 +77,10 @@ TEST_F(TesselationSettings, CheckBoxesAndGroupsDecideWhatIsEnabled)
     const auto enabled = [this](Control which) { return control<QWidget>(which).isEnabled(); };
     control<QCheckBox>(Control::Tessellation).click();
     EXPECT_FALSE(enabled(Control::Quality));
+    for (const QLabel *label : settings.findChildren<QLabel *>()) {
+        if (label->buddy())
+            EXPECT_EQ(label->isEnabled(), label->buddy()->isEnabled()) << label->text().toStdString();
+    }
     EXPECT_TRUE(enabled(Control::StitchingTolerance));
     control<QCheckBox>(Control::Stitching).click();
     EXPECT_FALSE(enabled(Control::StitchingTolerance));

@@ -163,9 +163,10 @@ TEST(HostNumbers, AreClampedAndRoundOnlyWhereDecimalsAreSet)
     wheel.setValue(1.23456);
     wheel.setDecimals(2);
     EXPECT_EQ(wheel.value(), 1.23);
-    wheel.setMinimum(0.0);
+    wheel.setMinimum(2.0);
+    EXPECT_EQ(wheel.value(), 2.0);
     wheel.setValue(-15000.0);
-    EXPECT_EQ(wheel.value(), 0.0);
+    EXPECT_EQ(wheel.value(), 2.0);
 }
 
 TEST(HostNumbers, AreReadWhileTheyAreBeingTypedAndSignalledOnce)
