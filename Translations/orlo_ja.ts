@@ -41,8 +41,8 @@
         <translation>ライセンス表示(&amp;N)</translation>
     </message>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD (3条項)&lt;/li&gt;&lt;li&gt;Coin：BSD (3条項)&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;minizip: zlib licence&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>次のライブラリを使用しています。いずれも動的にリンクされているため、置き換えることができます。&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1およびOpen CASCADE例外条項&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：パブリックドメイン&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1以降&lt;/li&gt;&lt;li&gt;libspnav：BSD (3条項)&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD (3条項)&lt;/li&gt;&lt;li&gt;minizip：zlibライセンス&lt;/li&gt;&lt;li&gt;Coin：BSD (3条項)&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;これらのライセンス表示は、このプログラムの文書と同じ場所にある&lt;i&gt;third-party.md&lt;/i&gt;に記載されています。</translation>
     </message>
 </context>
 <context>
@@ -343,6 +343,10 @@
     <message>
         <source>%1 mm²</source>
         <translation>%1 mm²</translation>
+    </message>
+    <message>
+        <source>%1; one of the parts is not closed and not in it</source>
+        <translation>%1；パーツの1つは閉じておらず、含まれていません</translation>
     </message>
 </context>
 <context>
@@ -2020,10 +2024,6 @@ standard error stream and left; the exit status is then 1.
         <translation>STLファイルではありません</translation>
     </message>
     <message>
-        <source>%1 of its numbers are words, which count as 0.</source>
-        <translation>数値のうち%1個が文字になっています。これらは0とみなされます。</translation>
-    </message>
-    <message>
         <source>The solid %1 is empty.</source>
         <translation>ソリッド%1は空です。</translation>
     </message>
@@ -2044,10 +2044,6 @@ standard error stream and left; the exit status is then 1.
         <translation>ファイルが破損しています：%1行目を解釈できません (%2)</translation>
     </message>
     <message>
-        <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation>シェイプのうち%1個は線、点、またはテキストのため、除外されます。</translation>
-    </message>
-    <message>
         <source>a group in it holds itself</source>
         <translation>自分自身を含むグループがあります</translation>
     </message>
@@ -2062,10 +2058,6 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>it refers to itself through %1</source>
         <translation>%1を介して自分自身を参照しています</translation>
-    </message>
-    <message>
-        <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation>メッシュのうち%1個は線または点のため、除外されます。</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -2096,10 +2088,6 @@ standard error stream and left; the exit status is then 1.
         <translation>%1、ほか%2件</translation>
     </message>
     <message>
-        <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation>面のうち%1個は解釈できないため、除外されます。</translation>
-    </message>
-    <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
         <translation>解釈できないため除外されるボディ：%1。</translation>
     </message>
@@ -2118,6 +2106,50 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
         <translation>ファイル内の不正な項目 (欠けている可能性があります)：%1。</translation>
+    </message>
+    <message>
+        <source>%1 without a name</source>
+        <translation>名前のないもの%1個</translation>
+    </message>
+    <message>
+        <source>Extensions that are not supported, so that something may be missing: %1.</source>
+        <translation>対応していない拡張（内容の一部が欠けている可能性があります）：%1。</translation>
+    </message>
+    <message>
+        <source>it has more than a million parts</source>
+        <translation>パーツが100万個を超えています</translation>
+    </message>
+    <message>
+        <source>Faces that cannot be understood and are left out: %1.</source>
+        <translation>解釈できないため除外された面：%1。</translation>
+    </message>
+    <message>
+        <source>Free-form curves and surfaces that are left out: %1.</source>
+        <translation>除外された自由曲線と自由曲面：%1。</translation>
+    </message>
+    <message>
+        <source>Words in the place of numbers, which count as 0: %1.</source>
+        <translation>数値の位置にあり、0として扱われる単語：%1。</translation>
+    </message>
+    <message>
+        <source>Files that it refers to and that are left out: %1.</source>
+        <translation>参照しているが除外されたファイル：%1。</translation>
+    </message>
+    <message>
+        <source>Shapes of lines or points that are left out: %1.</source>
+        <translation>除外された線または点の形状：%1。</translation>
+    </message>
+    <message>
+        <source>The texture %1 is a film, which is left out.</source>
+        <translation>テクスチャ%1は動画のため、除外されます。</translation>
+    </message>
+    <message>
+        <source>Meshes of lines or points that are left out: %1.</source>
+        <translation>除外された線または点のメッシュ：%1。</translation>
+    </message>
+    <message>
+        <source>Textures of kinds that are not drawn here: %1.</source>
+        <translation>ここでは描画されない種類のテクスチャ：%1。</translation>
     </message>
 </context>
 <context>

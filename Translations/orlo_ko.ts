@@ -41,8 +41,8 @@
         <translation>고지 사항(&amp;N)</translation>
     </message>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD 3조항&lt;/li&gt;&lt;li&gt;Coin: BSD 3조항&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;minizip: zlib licence&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>다음 라이브러리를 사용하며, 모두 동적으로 링크되어 교체할 수 있습니다:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: Open CASCADE 예외 조항이 있는 LGPL 2.1&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: 퍼블릭 도메인&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 이상&lt;/li&gt;&lt;li&gt;libspnav: BSD 3조항&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD 3조항&lt;/li&gt;&lt;li&gt;minizip: zlib 라이선스&lt;/li&gt;&lt;li&gt;Coin: BSD 3조항&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;각 라이브러리의 고지 사항은 이 프로그램의 문서와 함께 있는 &lt;i&gt;third-party.md&lt;/i&gt;에 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -343,6 +343,10 @@
     <message>
         <source>%1 mm²</source>
         <translation>%1 mm²</translation>
+    </message>
+    <message>
+        <source>%1; one of the parts is not closed and not in it</source>
+        <translation>%1; 부품 하나는 닫혀 있지 않아 포함되지 않았습니다</translation>
     </message>
 </context>
 <context>
@@ -2020,10 +2024,6 @@ standard error stream and left; the exit status is then 1.
         <translation>STL 파일이 아닙니다</translation>
     </message>
     <message>
-        <source>%1 of its numbers are words, which count as 0.</source>
-        <translation>숫자 중 %1개가 단어여서 0으로 처리합니다.</translation>
-    </message>
-    <message>
         <source>The solid %1 is empty.</source>
         <translation>솔리드 %1이(가) 비어 있습니다.</translation>
     </message>
@@ -2044,10 +2044,6 @@ standard error stream and left; the exit status is then 1.
         <translation>파일이 손상되었습니다: %1번째 줄을 해석할 수 없습니다(%2)</translation>
     </message>
     <message>
-        <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation>도형 중 %1개가 선, 점 또는 텍스트이므로 제외합니다.</translation>
-    </message>
-    <message>
         <source>a group in it holds itself</source>
         <translation>그룹이 자기 자신을 포함합니다</translation>
     </message>
@@ -2062,10 +2058,6 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>it refers to itself through %1</source>
         <translation>%1을(를) 통해 자기 자신을 참조합니다</translation>
-    </message>
-    <message>
-        <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation>메시 중 %1개가 선 또는 점이므로 제외합니다.</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -2092,10 +2084,6 @@ standard error stream and left; the exit status is then 1.
         <translation>%1 외 %2개</translation>
     </message>
     <message>
-        <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation>면 %1개를 해석할 수 없어 제외합니다.</translation>
-    </message>
-    <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
         <translation>해석할 수 없어 제외한 바디: %1.</translation>
     </message>
@@ -2118,6 +2106,50 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
         <translation>파일에서 올바르지 않아 빠졌을 수 있는 항목: %1.</translation>
+    </message>
+    <message>
+        <source>%1 without a name</source>
+        <translation>이름 없는 항목 %1개</translation>
+    </message>
+    <message>
+        <source>Extensions that are not supported, so that something may be missing: %1.</source>
+        <translation>지원되지 않아 일부 내용이 빠졌을 수 있는 확장: %1.</translation>
+    </message>
+    <message>
+        <source>it has more than a million parts</source>
+        <translation>부품이 백만 개를 넘습니다</translation>
+    </message>
+    <message>
+        <source>Faces that cannot be understood and are left out: %1.</source>
+        <translation>해석할 수 없어 제외한 면: %1.</translation>
+    </message>
+    <message>
+        <source>Free-form curves and surfaces that are left out: %1.</source>
+        <translation>제외한 자유 곡선과 곡면: %1.</translation>
+    </message>
+    <message>
+        <source>Words in the place of numbers, which count as 0: %1.</source>
+        <translation>숫자 자리에 있어 0으로 처리한 단어: %1.</translation>
+    </message>
+    <message>
+        <source>Files that it refers to and that are left out: %1.</source>
+        <translation>참조하지만 제외한 파일: %1.</translation>
+    </message>
+    <message>
+        <source>Shapes of lines or points that are left out: %1.</source>
+        <translation>제외한 선 또는 점 형상: %1.</translation>
+    </message>
+    <message>
+        <source>The texture %1 is a film, which is left out.</source>
+        <translation>텍스처 %1은(는) 동영상이므로 제외합니다.</translation>
+    </message>
+    <message>
+        <source>Meshes of lines or points that are left out: %1.</source>
+        <translation>제외한 선 또는 점 메시: %1.</translation>
+    </message>
+    <message>
+        <source>Textures of kinds that are not drawn here: %1.</source>
+        <translation>여기에서 그리지 않는 종류의 텍스처: %1.</translation>
     </message>
 </context>
 <context>

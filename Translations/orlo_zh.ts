@@ -41,8 +41,8 @@
         <translation>声明(&amp;N)</translation>
     </message>
     <message>
-        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
-        <translation>它使用以下库，均为动态链接，因此可以替换：&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1（附 Open CASCADE 例外条款）&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：公有领域&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1 或更高版本&lt;/li&gt;&lt;li&gt;libspnav：BSD 三条款&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD 三条款&lt;/li&gt;&lt;li&gt;Coin：BSD 三条款&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;其声明见 &lt;i&gt;third-party.md&lt;/i&gt;，与本程序的文档在一起。</translation>
+        <source>It uses these libraries, all of them linked dynamically, so that they can be replaced:&lt;ul&gt;&lt;li&gt;OpenCASCADE %1: LGPL 2.1 with the Open CASCADE exception&lt;/li&gt;&lt;li&gt;Qt %2: LGPL 3&lt;/li&gt;&lt;li&gt;SQLite: public domain&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd: LGPL 2.1 or later&lt;/li&gt;&lt;li&gt;libspnav: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;Boost: Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;minizip: zlib licence&lt;/li&gt;&lt;li&gt;Coin: BSD, 3 clauses&lt;/li&gt;&lt;li&gt;libseccomp: LGPL 2.1&lt;/li&gt;&lt;/ul&gt;Their notices are in &lt;i&gt;third-party.md&lt;/i&gt;, beside the documents of this program.</source>
+        <translation>它使用以下库，均为动态链接，因此可以替换：&lt;ul&gt;&lt;li&gt;OpenCASCADE %1：LGPL 2.1（附 Open CASCADE 例外条款）&lt;/li&gt;&lt;li&gt;Qt %2：LGPL 3&lt;/li&gt;&lt;li&gt;SQLite：公有领域&lt;/li&gt;&lt;li&gt;GNU libmicrohttpd：LGPL 2.1 或更高版本&lt;/li&gt;&lt;li&gt;libspnav：BSD 三条款&lt;/li&gt;&lt;li&gt;Boost：Boost Software License 1.0&lt;/li&gt;&lt;li&gt;assimp：BSD 三条款&lt;/li&gt;&lt;li&gt;minizip：zlib 许可证&lt;/li&gt;&lt;li&gt;Coin：BSD 三条款&lt;/li&gt;&lt;li&gt;libseccomp：LGPL 2.1&lt;/li&gt;&lt;/ul&gt;其声明见 &lt;i&gt;third-party.md&lt;/i&gt;，与本程序的文档在一起。</translation>
     </message>
 </context>
 <context>
@@ -343,6 +343,10 @@
     <message>
         <source>%1 mm²</source>
         <translation>%1 mm²</translation>
+    </message>
+    <message>
+        <source>%1; one of the parts is not closed and not in it</source>
+        <translation>%1；其中一个零件未闭合，未计入</translation>
     </message>
 </context>
 <context>
@@ -2020,10 +2024,6 @@ standard error stream and left; the exit status is then 1.
         <translation>这不是 STL 文件</translation>
     </message>
     <message>
-        <source>%1 of its numbers are words, which count as 0.</source>
-        <translation>其中有 %1 个数字写成了单词，按 0 处理。</translation>
-    </message>
-    <message>
         <source>The solid %1 is empty.</source>
         <translation>实体 %1 为空。</translation>
     </message>
@@ -2044,10 +2044,6 @@ standard error stream and left; the exit status is then 1.
         <translation>文件已损坏：无法理解第 %1 行（%2）</translation>
     </message>
     <message>
-        <source>%1 of its shapes are lines, points or texts, which are left out.</source>
-        <translation>其中 %1 个形状是线、点或文本，已略去。</translation>
-    </message>
-    <message>
         <source>a group in it holds itself</source>
         <translation>其中某个组包含自身</translation>
     </message>
@@ -2062,10 +2058,6 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>it refers to itself through %1</source>
         <translation>它通过 %1 引用自身</translation>
-    </message>
-    <message>
-        <source>%1 of its meshes are lines or points, which are left out.</source>
-        <translation>其中 %1 个网格是线或点，已略去。</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -2096,10 +2088,6 @@ standard error stream and left; the exit status is then 1.
         <translation>%1 以及另外 %2 个</translation>
     </message>
     <message>
-        <source>%1 of its faces cannot be understood and are left out.</source>
-        <translation>其中 %1 个面无法理解，已略去。</translation>
-    </message>
-    <message>
         <source>Bodies that cannot be understood and are left out: %1.</source>
         <translation>无法理解而已略去的实体：%1。</translation>
     </message>
@@ -2118,6 +2106,50 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Entries of the file that are not as they should be, and may be missing: %1.</source>
         <translation>文件中不完好、可能缺失的条目：%1。</translation>
+    </message>
+    <message>
+        <source>%1 without a name</source>
+        <translation>%1 个没有名称</translation>
+    </message>
+    <message>
+        <source>Extensions that are not supported, so that something may be missing: %1.</source>
+        <translation>不受支持的扩展，因此可能缺少部分内容：%1。</translation>
+    </message>
+    <message>
+        <source>it has more than a million parts</source>
+        <translation>其零件超过一百万个</translation>
+    </message>
+    <message>
+        <source>Faces that cannot be understood and are left out: %1.</source>
+        <translation>无法理解而已略去的面：%1。</translation>
+    </message>
+    <message>
+        <source>Free-form curves and surfaces that are left out: %1.</source>
+        <translation>已略去的自由曲线和曲面：%1。</translation>
+    </message>
+    <message>
+        <source>Words in the place of numbers, which count as 0: %1.</source>
+        <translation>数字位置上的单词，按 0 计：%1。</translation>
+    </message>
+    <message>
+        <source>Files that it refers to and that are left out: %1.</source>
+        <translation>其引用但已略去的文件：%1。</translation>
+    </message>
+    <message>
+        <source>Shapes of lines or points that are left out: %1.</source>
+        <translation>已略去的线或点的形状：%1。</translation>
+    </message>
+    <message>
+        <source>The texture %1 is a film, which is left out.</source>
+        <translation>纹理 %1 是影片，已略去。</translation>
+    </message>
+    <message>
+        <source>Meshes of lines or points that are left out: %1.</source>
+        <translation>已略去的线或点的网格：%1。</translation>
+    </message>
+    <message>
+        <source>Textures of kinds that are not drawn here: %1.</source>
+        <translation>此处不绘制的类型的纹理：%1。</translation>
     </message>
 </context>
 <context>

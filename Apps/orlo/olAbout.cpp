@@ -28,6 +28,7 @@ void olShowAbout(QWidget &parent)
                   "<li>libspnav: BSD, 3 clauses</li>"
                   "<li>Boost: Boost Software License 1.0</li>"
                   "<li>assimp: BSD, 3 clauses</li>"
+                  "<li>minizip: zlib licence</li>"
                   "<li>Coin: BSD, 3 clauses</li>"
                   "<li>libseccomp: LGPL 2.1</li></ul>"
                   "Their notices are in <i>third-party.md</i>, beside the documents of this program.")

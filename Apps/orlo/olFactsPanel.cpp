@@ -190,10 +190,11 @@ void olFactsPanel::showSum(const Sum &sum, bool isWhole)
     m_box->setText(hasBox ? tr("%1 to %2").arg(place(low), place(high)) : pending);
     const bool hasParts = isWhole && sum.parts > 0;
     const QString volume = tr("%1 mm\u00b3").arg(number(sum.facts.volume));
-    m_volume->setText(!hasParts            ? pending
-                      : sum.openParts == 0 ? volume
-                      : sum.openParts == sum.parts
-                          ? tr("none: it is not closed")
+    m_volume->setText(!hasParts                    ? pending
+                      : sum.openParts == 0         ? volume
+                      : sum.openParts == sum.parts ? tr("none: it is not closed")
+                      : sum.openParts == 1
+                          ? tr("%1; one of the parts is not closed and not in it").arg(volume)
                           : tr("%1; %n of the parts are not closed and not in it", nullptr, sum.openParts).arg(volume));
     m_area->setText(hasParts ? tr("%1 mm\u00b2").arg(number(sum.facts.area)) : pending);
     m_triangles->setText(hasParts ? QLocale().toString(sum.facts.triangles) : pending);

@@ -99,6 +99,11 @@ olImportFineness::olImportFineness(const olImportJob &job, const LockReason &loc
     m_keep->setObjectName(QStringLiteral("keep"));
     m_keep->setToolTip(tr("Without this they hold for this import alone."));
     form->addRow(m_keep);
+    int widest = 0;
+    for (const Number &number : m_numbers)
+        widest = qMax(widest, number.box->sizeHint().width());
+    for (const Number &number : m_numbers)
+        number.box->setMinimumWidth(widest);
     judge();
 }
 

@@ -22,6 +22,7 @@
 #include <gp_GTrsf.hxx>
 #include <gp_Mat.hxx>
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -33,6 +34,7 @@
 #include <cstdint>
 #include <cstring>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -58,8 +60,7 @@ public:
     {
         const QStringList files = found(name);
         if (files.isEmpty()) {
-            m_remarks << olReason::tr("The file %1 that it refers to was not found.")
-                             .arg(QFileInfo(QFile::decodeName(name)).fileName());
+            noteMissing(QFileInfo(QFile::decodeName(name)).fileName());
             return nullptr;
         }
         if (files.size() == 1)
@@ -76,6 +77,14 @@ public:
     }
 
 private:
+    /// Of materials it is said before; where they are not there the library goes on to look for others.
+    void noteMissing(const QString &name)
+    {
+        const QString remark = olReason::tr("The file %1 that it refers to was not found.").arg(name);
+        if (!m_remarks.contains(remark) && !name.endsWith(QLatin1String(".mtl"), Qt::CaseInsensitive))
+            m_remarks << remark;
+    }
+
     /// The file, or the files: a line that names materials may name several.
     [[nodiscard]] QStringList found(const char *name) const
     {
@@ -171,11 +180,34 @@ public:
         return !m_isTooDeep;
     }
 
-    /// Meshes that are no triangles.
-    [[nodiscard]] int leftOut() const
+    /// The names of meshes that are no triangles.
+    [[nodiscard]] QStringList leftOut() const
     {
-        return int(std::count_if(m_scene.mMeshes, m_scene.mMeshes + m_scene.mNumMeshes,
-                                 [](const aiMesh *mesh) { return !isOfTriangles(*mesh); }));
+        QStringList names;
+        for (unsigned index = 0; index < m_scene.mNumMeshes; ++index) {
+            if (!isOfTriangles(*m_scene.mMeshes[index]))
+                names << ownName(m_scene.mMeshes[index]->mName);
+        }
+        return names;
+    }
+
+    /// Pictures that stand for something which is not drawn here.
+    [[nodiscard]] QStringList unusedTextures() const
+    {
+        QStringList names;
+        for (unsigned index = 0; index < m_scene.mNumMaterials; ++index) {
+            for (int type = aiTextureType_NONE + 1; type <= AI_TEXTURE_TYPE_MAX; ++type) {
+                aiString name;
+                if (m_scene.mMaterials[index]->GetTexture(aiTextureType(type), 0, &name) == aiReturn_SUCCESS &&
+                    m_usedTextures.count(name.C_Str()) == 0)
+                    names << (m_scene.GetEmbeddedTexture(name.C_Str())
+                                  ? QCoreApplication::translate("olImport", "in the file")
+                                  : textOf(name));
+            }
+        }
+        names.removeAll(QString());
+        names.removeDuplicates();
+        return names;
     }
 
 private:
@@ -220,11 +252,14 @@ private:
     }
 
     /// Names that the library makes up for what has none.
-    static QString ownName(const aiString &text)
+    [[nodiscard]] QString ownName(const aiString &text) const
     {
         static const QRegularExpression madeUp(
-            QStringLiteral("^(?:(?:nodes|meshes|materials)[_[]\\d+\\]?|default|defaultobject)$"));
+            QStringLiteral("^(?:(?:nodes|meshes|materials)[_[]\\d+\\]?|default|defaultobject|<\\w+>)$"));
         const QString name = textOf(text);
+        const auto known = m_conventions.names.constFind(name);
+        if (known != m_conventions.names.constEnd())
+            return *known;
         return madeUp.match(name).hasMatch() ? QString() : name;
     }
 
@@ -400,7 +435,7 @@ private:
                look.AlphaMode() == Graphic3d_AlphaMode_Opaque;
     }
 
-    void setPhysical(XCAFDoc_VisMaterial &look, const aiMaterial &material) const
+    void setPhysical(XCAFDoc_VisMaterial &look, const aiMaterial &material)
     {
         XCAFDoc_VisMaterialPBR pbr;
         aiColor4D color(1, 1, 1, 1);
@@ -436,7 +471,7 @@ private:
     }
 
     /// What shines in the shade follows from the colour: files say all kinds of things of it.
-    void setCommon(XCAFDoc_VisMaterial &look, const aiMaterial &material) const
+    void setCommon(XCAFDoc_VisMaterial &look, const aiMaterial &material)
     {
         aiColor3D diffuse(1, 1, 1);
         aiColor3D specular(0, 0, 0);
@@ -464,11 +499,12 @@ private:
         return {part(color.r), part(color.g), part(color.b), Quantity_TOC_sRGB};
     }
 
-    [[nodiscard]] Handle(Image_Texture) textureOf(const aiMaterial &material, aiTextureType type) const
+    [[nodiscard]] Handle(Image_Texture) textureOf(const aiMaterial &material, aiTextureType type)
     {
         aiString name;
         if (material.GetTexture(type, 0, &name) != aiReturn_SUCCESS || name.length == 0)
             return {};
+        m_usedTextures.insert(name.C_Str());
         const aiTexture *embedded = m_scene.GetEmbeddedTexture(name.C_Str());
         if (!embedded)
             return new Image_Texture(name.C_Str());
@@ -487,6 +523,7 @@ private:
     std::vector<TDF_Label> m_looks;
     std::map<std::pair<std::vector<unsigned>, olMeshDocument::Proportions>, TDF_Label> m_parts;
     std::map<int, int> m_uses;
+    std::set<std::string> m_usedTextures;
     bool m_isTooDeep = false;
 };
 
@@ -510,8 +547,12 @@ olResult<> olAssimpReader::read(const olImportJob &job, const Conventions &conve
     Conversion conversion(*scene, conventions, document, QFileInfo(job.file).completeBaseName());
     if (!conversion.run())
         return olFailure{olReason::tr("its groups are nested too deeply")};
-    if (conversion.leftOut() > 0)
-        remarks << olReason::tr("%1 of its meshes are lines or points, which are left out.").arg(conversion.leftOut());
+    const QStringList leftOut = conversion.leftOut();
+    if (!leftOut.isEmpty())
+        remarks << olReason::tr("Meshes of lines or points that are left out: %1.").arg(listedWithNameless(leftOut));
+    const QStringList unused = conversion.unusedTextures();
+    if (!unused.isEmpty())
+        remarks << olReason::tr("Textures of kinds that are not drawn here: %1.").arg(listed(unused));
     return {};
 }
 

@@ -4,6 +4,8 @@
 #include "Model/olScene.h"
 #include "State/olResult.h"
 
+#include <QHash>
+#include <QString>
 #include <QStringList>
 
 class Message_ProgressRange;
@@ -25,6 +27,9 @@ struct Conventions {
 
     /// Whether its colours are proportional to light; else they are as screens show them.
     bool isLinear = false;
+
+    /// By those that the library makes up, the names that the file has; empty for what has none.
+    QHash<QString, QString> names;
 };
 
 /// Says why it could not in half a sentence.

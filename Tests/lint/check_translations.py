@@ -36,7 +36,7 @@ NOT_FOR_PEOPLE = {
     "Scene/View/olPictureMean.cpp": ["\nattribute ", "\nuniform "],
     "Scene/Exchange/": ["facet normal ", "\\nouter loop", "texture file", "Unknown field ", "appearance ", " texture ",
                         "geometry ", "coord ", "normal ", "texCoord ", "color ", "Kd", "Ks", "Ke", "Ns ", "Shape { ",
-                        "Inline", "File", "Triangles", "Parts", "Import"],
+                        "Inline", "File", "Triangles", "Parts", "Import", "Group { }", "Type", "Target", "Object_"],
     "Scene/Model/olSampleAssembly.cpp": ["Sample assembly", "Inner race", "Outer race", "Scanned plate", "Lifting eye",
                                          "Bearing", "Ball", "Housing", "Shaft", "Seal", "Cover"],
 }

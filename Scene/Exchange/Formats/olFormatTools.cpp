@@ -55,6 +55,16 @@ QString olFormatTools::listed(const QStringList &names)
     return names.size() > most ? olReason::tr("%1 and %2 more").arg(first).arg(names.size() - most) : first;
 }
 
+QString olFormatTools::listedWithNameless(QStringList names)
+{
+    const int nameless = names.removeAll(QString());
+    names.removeDuplicates();
+    if (nameless == 0)
+        return listed(names);
+    const QString rest = olReason::tr("%1 without a name").arg(nameless);
+    return names.isEmpty() ? rest : olListed({listed(names), rest});
+}
+
 QString olFormatTools::fileIn(const QDir &folder, const QString &name)
 {
     return folder.filePath(name.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + name : name);

@@ -47,6 +47,9 @@ olResult<> checkEntities(const Handle(Interface_InterfaceModel) & model,
 /// The names in one text: the first few, and how many more there are.
 [[nodiscard]] QString listed(const QStringList &names);
 
+/// The same where some of the names are empty: how many are without one comes last.
+[[nodiscard]] QString listedWithNameless(QStringList names);
+
 /// The file of that name in the folder; one that begins with a colon is no resource of the program.
 [[nodiscard]] QString fileIn(const QDir &folder, const QString &name);
 

@@ -74,61 +74,100 @@ olResult<> checkBuffer(const QJsonObject &buffer, const QDir &folder)
     return {};
 }
 
-/// What a file may require of its reader. The rest would be read, but wrongly.
-olResult<> checkExtensions(const QJsonObject &model)
+/// Extensions whose content is read, or only says of looks what can be done without.
+bool isKnown(const QString &extension)
 {
-    static const QStringList known{QStringLiteral("KHR_draco_mesh_compression"),
-                                   QStringLiteral("KHR_lights_punctual"),
-                                   QStringLiteral("KHR_materials_clearcoat"),
-                                   QStringLiteral("KHR_materials_emissive_strength"),
-                                   QStringLiteral("KHR_materials_ior"),
-                                   QStringLiteral("KHR_materials_pbrSpecularGlossiness"),
-                                   QStringLiteral("KHR_materials_sheen"),
-                                   QStringLiteral("KHR_materials_specular"),
-                                   QStringLiteral("KHR_materials_transmission"),
-                                   QStringLiteral("KHR_materials_unlit"),
-                                   QStringLiteral("KHR_materials_variants"),
-                                   QStringLiteral("KHR_materials_volume"),
-                                   QStringLiteral("KHR_node_visibility"),
-                                   QStringLiteral("KHR_texture_transform"),
+    static const QStringList known{QStringLiteral("KHR_draco_mesh_compression"), QStringLiteral("KHR_lights_punctual"),
+                                   QStringLiteral("KHR_node_visibility"), QStringLiteral("KHR_texture_transform"),
                                    QStringLiteral("KHR_xmp_json_ld")};
+    static const QStringList looks{QStringLiteral("clearcoat"),    QStringLiteral("emissive_strength"),
+                                   QStringLiteral("ior"),          QStringLiteral("pbrSpecularGlossiness"),
+                                   QStringLiteral("sheen"),        QStringLiteral("specular"),
+                                   QStringLiteral("transmission"), QStringLiteral("unlit"),
+                                   QStringLiteral("variants"),     QStringLiteral("volume")};
+    const QString start = QStringLiteral("KHR_materials_");
+    return known.contains(extension) || (extension.startsWith(start) && looks.contains(extension.mid(start.size())));
+}
+
+/// What a file requires of its reader would be read, but wrongly; without the rest it is as it can be.
+olResult<> checkExtensions(const QJsonObject &model, QStringList &remarks)
+{
     const QJsonArray required = model.value(QLatin1String("extensionsRequired")).toArray();
     for (const QJsonValue &each : required) {
-        if (!known.contains(each.toString()))
+        if (!isKnown(each.toString()))
             return olFailure{olReason::tr("it requires the extension %1, which is not supported").arg(each.toString())};
     }
+    QStringList unknown;
+    const QJsonArray used = model.value(QLatin1String("extensionsUsed")).toArray();
+    for (const QJsonValue &each : used) {
+        if (!isKnown(each.toString()))
+            unknown << each.toString();
+    }
+    if (!unknown.isEmpty())
+        remarks << olReason::tr("Extensions that are not supported, so that something may be missing: %1.")
+                       .arg(olFormatTools::listed(unknown));
     return {};
 }
 
-/// Nodes below nodes, which must come to an end.
-olResult<> checkNesting(const QJsonObject &model)
+/// Nodes below nodes, which must come to an end; one may stand in several places, with all that is below it.
+class Nodes
 {
-    constexpr int deepest = 200;
-    const QJsonArray nodes = model.value(QLatin1String("nodes")).toArray();
-    std::vector<int> parents(std::size_t(nodes.size()), -1);
-    for (int index = 0; index < nodes.size(); ++index) {
-        const QJsonArray children = nodes.at(index).toObject().value(QLatin1String("children")).toArray();
-        for (const QJsonValue &child : children) {
-            const int number = child.toInt(-1);
-            if (number < 0 || number >= nodes.size())
+public:
+    explicit Nodes(const QJsonArray &nodes) : m_below(std::size_t(nodes.size()))
+    {
+        for (const QJsonValue &node : nodes)
+            m_children.push_back(node.toObject().value(QLatin1String("children")).toArray());
+    }
+
+    olResult<> check()
+    {
+        constexpr double most = 1e6;
+        for (std::size_t node = 0; node < m_below.size(); ++node) {
+            const olResult<> measured = measure(node, 1);
+            if (!measured.isOk())
+                return measured;
+            if (m_below[node].count > most)
+                return olFailure{olReason::tr("it has more than a million parts")};
+        }
+        return {};
+    }
+
+private:
+    struct Below {
+        int levels = 0;
+        double count = 1;
+    };
+
+    olResult<> measure(std::size_t node, int depth)
+    {
+        constexpr int deepest = 200;
+        if (depth + m_below[node].levels > deepest)
+            return olFailure{olReason::tr("its groups are nested too deeply")};
+        if (m_below[node].levels > 0)
+            return {};
+        Below sum;
+        for (const QJsonValue &each : m_children[node]) {
+            const auto child = std::size_t(each.toInt(-1));
+            if (child >= m_below.size())
                 return olFailure{olReason::tr("the file is damaged: a node refers to one that is not there")};
-            parents[std::size_t(number)] = index;
+            const olResult<> measured = measure(child, depth + 1);
+            if (!measured.isOk())
+                return measured;
+            sum.levels = std::max(sum.levels, m_below[child].levels);
+            sum.count += m_below[child].count;
         }
+        m_below[node] = {sum.levels + 1, sum.count};
+        return {};
     }
-    for (int node = 0; node < nodes.size(); ++node) {
-        int depth = 0;
-        for (int up = node; up >= 0; up = parents[std::size_t(up)]) {
-            if (++depth > deepest)
-                return olFailure{olReason::tr("its groups are nested too deeply")};
-        }
-    }
-    return {};
-}
 
-olResult<> checkContent(const QJsonObject &model, const QDir &folder)
+    std::vector<QJsonArray> m_children;
+    std::vector<Below> m_below;
+};
+
+olResult<> checkContent(const QJsonObject &model, const QDir &folder, QStringList &remarks)
 {
-    for (const auto check : {checkExtensions, checkNesting}) {
-        const olResult<> checked = check(model);
+    for (const olResult<> &checked :
+         {checkExtensions(model, remarks), Nodes(model.value(QLatin1String("nodes")).toArray()).check()}) {
         if (!checked.isOk())
             return checked;
     }
@@ -158,28 +197,28 @@ olResult<> checkContent(const QJsonObject &model, const QDir &folder)
     return {};
 }
 
-olResult<> checkModel(const QByteArray &text, const QString &file)
+olResult<> checkModel(const QByteArray &text, const QString &file, QStringList &remarks)
 {
     QJsonParseError error{};
     const QJsonDocument model = QJsonDocument::fromJson(text, &error);
     if (error.error == QJsonParseError::NoError)
-        return checkContent(model.object(), QFileInfo(file).absoluteDir());
+        return checkContent(model.object(), QFileInfo(file).absoluteDir(), remarks);
     // The parser has a limit of its own, which the reader does not share.
     return error.error == QJsonParseError::DocumentTooLarge ? olResult<>() : olFormatTools::cutOff();
 }
 
-olResult<> check(QFile &file, QStringList &)
+olResult<> check(QFile &file, QStringList &remarks)
 {
     const QByteArray head = file.read(binaryHead + chunkHead);
     if (!head.startsWith("glTF")) {
         file.seek(0);
-        return head.trimmed().startsWith('{') ? checkModel(file.readAll(), file.fileName())
+        return head.trimmed().startsWith('{') ? checkModel(file.readAll(), file.fileName(), remarks)
                                               : olFailure{olReason::tr("this is no glTF file")};
     }
     if (head.size() < binaryHead + chunkHead || file.size() < number(head, 8) ||
         file.size() < qint64(binaryHead + chunkHead) + number(head, binaryHead))
         return olFormatTools::cutOff();
-    return checkModel(file.read(number(head, binaryHead)), file.fileName());
+    return checkModel(file.read(number(head, binaryHead)), file.fileName(), remarks);
 }
 
 olResult<> read(const olImportJob &job, const olScene::Document &document, const Message_ProgressRange &progress,

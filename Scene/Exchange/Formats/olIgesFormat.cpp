@@ -196,7 +196,7 @@ void remarkLost(const IGESCAFControl_Reader &reader, QStringList &remarks)
         faces += int(isFace && (binder.IsNull() || !binder->HasResult()));
     }
     if (faces > 0)
-        remarks << olReason::tr("%1 of its faces cannot be understood and are left out.").arg(faces);
+        remarks << olReason::tr("Faces that cannot be understood and are left out: %1.").arg(faces);
 }
 
 /// Of the kinds 100 to 199, geometry, and 500 to 599, boundaries of solids.

@@ -55,12 +55,19 @@ public:
             return count(m_normals, words, 3);
         if (kind == "f")
             return face(words);
+        if (kind == "g" || kind == "o")
+            m_group = QString::fromUtf8(line.trimmed().mid(1).trimmed());
+        if (kind == "curv" || kind == "curv2" || kind == "surf")
+            m_freeForms << m_group;
         if (kind == "mtllib")
             m_materials = QFile::decodeName(line.trimmed().mid(7).trimmed());
         return {};
     }
 
     [[nodiscard]] const QString &materials() const { return m_materials; }
+
+    /// The groups that the curves and surfaces stand in which are no polygons.
+    [[nodiscard]] const QStringList &freeForms() const { return m_freeForms; }
     [[nodiscard]] bool endsWithPoints() const { return m_points > m_highest; }
 
 private:
@@ -105,6 +112,8 @@ private:
     qint64 m_normals = 0;
     qint64 m_highest = 0;
     QString m_materials;
+    QString m_group;
+    QStringList m_freeForms;
 };
 
 olResult<> check(QFile &file, QStringList &remarks)
@@ -127,13 +136,16 @@ olResult<> check(QFile &file, QStringList &remarks)
         return olFailure{olReason::tr("the file is cut off or damaged: it ends within its points")};
     if (lines.endsWithPoints())
         remarks << olReason::tr("The model ends with points that no face uses; the file may be cut off.");
+    if (!lines.freeForms().isEmpty())
+        remarks << olReason::tr("Free-form curves and surfaces that are left out: %1.")
+                       .arg(olFormatTools::listedWithNameless(lines.freeForms()));
     const QString materials = lines.materials();
     const QDir folder = QFileInfo(file).absoluteDir();
     const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const bool isThere = QFileInfo::exists(olFormatTools::fileIn(folder, materials)) ||
-                         std::any_of(words.begin(), words.end(), [&folder](const QString &word) {
-                             return QFileInfo::exists(olFormatTools::fileIn(folder, word));
-                         });
+    const auto isFile = [&folder](const QString &name) {
+        return QFileInfo(olFormatTools::fileIn(folder, name)).isFile();
+    };
+    const bool isThere = isFile(materials) || std::any_of(words.begin(), words.end(), isFile);
     if (!materials.isEmpty() && !isThere)
         remarks << olReason::tr("The materials file %1 is not there; the model has no colors.").arg(materials);
     return {};

@@ -9,6 +9,9 @@
 #include <STEPCAFControl_Controller.hxx>
 #include <STEPCAFControl_Reader.hxx>
 #include <STEPCAFControl_Writer.hxx>
+#include <StepBasic_Product.hxx>
+#include <StepData_StepModel.hxx>
+#include <StepData_UndefinedEntity.hxx>
 #include <StepGeom_Curve.hxx>
 #include <StepGeom_Direction.hxx>
 #include <StepGeom_Pcurve.hxx>
@@ -276,9 +279,12 @@ void nameNumberedInstances(const olScene::Document &document)
             Handle(TDataStd_Name) referred;
             TDF_Label target;
             const bool isNumbered = component.FindAttribute(TDataStd_Name::GetID(), own) && isNumber(own->Get());
-            if (isNumbered && XCAFDoc_ShapeTool::GetReferredShape(component, target) &&
-                target.FindAttribute(TDataStd_Name::GetID(), referred))
+            if (!isNumbered || !XCAFDoc_ShapeTool::GetReferredShape(component, target))
+                continue;
+            if (target.FindAttribute(TDataStd_Name::GetID(), referred))
                 own->Set(referred->Get());
+            else
+                component.ForgetAttribute(own);
         }
     }
 }
@@ -289,6 +295,10 @@ void remarkLost(const STEPCAFControl_Reader &reader, QStringList &remarks)
     const Handle(Transfer_TransientProcess) &process = reader.Reader().WS()->TransferReader()->TransientProcess();
     int faces = 0;
     QStringList bodies;
+    const Handle(Interface_InterfaceModel) model = reader.Reader().WS()->Model();
+    const auto numbered = [&model](const Handle(Standard_Transient) & entity) {
+        return QLatin1Char('#') + QString::number(model->Number(entity));
+    };
     for (int index = 1; index <= process->NbMapped(); ++index) {
         const Handle(Standard_Transient) &entity = process->Mapped(index);
         const Handle(Transfer_Binder) binder = process->MapItem(index);
@@ -298,13 +308,19 @@ void remarkLost(const STEPCAFControl_Reader &reader, QStringList &remarks)
         if (entity->IsKind(STANDARD_TYPE(StepShape_SolidModel)) ||
             entity->IsKind(STANDARD_TYPE(StepShape_ShellBasedSurfaceModel))) {
             const Handle(TCollection_HAsciiString) name = Handle(StepRepr_RepresentationItem)::DownCast(entity)->Name();
-            bodies << (name.IsNull() || name->IsEmpty()
-                           ? QLatin1Char('#') + QString::number(reader.Reader().WS()->Model()->Number(entity))
-                           : QString::fromUtf8(name->ToCString()));
+            bodies << (name.IsNull() || name->IsEmpty() ? numbered(entity) : QString::fromUtf8(name->ToCString()));
         }
     }
+    // Not every version of the library knows bodies of triangles.
+    for (int index = 1; index <= model->NbEntities(); ++index) {
+        const Handle(StepData_UndefinedEntity) unknown =
+            Handle(StepData_UndefinedEntity)::DownCast(model->Value(index));
+        const std::string_view kind = unknown.IsNull() ? std::string_view() : unknown->StepType();
+        if (kind == "TESSELLATED_SOLID" || kind == "TESSELLATED_SHELL")
+            bodies << numbered(unknown);
+    }
     if (faces > 0)
-        remarks << olReason::tr("%1 of its faces cannot be understood and are left out.").arg(faces);
+        remarks << olReason::tr("Faces that cannot be understood and are left out: %1.").arg(faces);
     if (!bodies.isEmpty())
         remarks << olReason::tr("Bodies that cannot be understood and are left out: %1.").arg(listed(bodies));
 }
@@ -359,6 +375,21 @@ void colorBareParts(const olScene::Document &document)
     }
 }
 
+/// The library would have all bear its own name that have none.
+constexpr char noName[] = "\x01";
+
+void removeMadeUpNames(const Handle(Interface_InterfaceModel) & model)
+{
+    const Handle(TCollection_HAsciiString) empty = new TCollection_HAsciiString;
+    for (int number = 1; number <= model->NbEntities(); ++number) {
+        const Handle(StepBasic_Product) product = Handle(StepBasic_Product)::DownCast(model->Value(number));
+        if (product.IsNull() || product->Name().IsNull() || product->Name()->Search(noName) != 1)
+            continue;
+        product->SetId(empty);
+        product->SetName(empty);
+    }
+}
+
 /// Of a document of its own, whose looks it completes.
 bool write(const olScene::Document &document, const QString &file, QStringList &)
 {
@@ -366,9 +397,12 @@ bool write(const olScene::Document &document, const QString &file, QStringList &
     STEPCAFControl_Controller::Init();
     Interface_Static::SetCVal("xstep.cascade.unit", "MM");
     Interface_Static::SetCVal("write.step.unit", "MM");
+    Interface_Static::SetCVal("write.step.product.name", noName);
     STEPCAFControl_Writer writer;
-    return writer.Transfer(document, STEPControl_AsIs) &&
-           writePlainly(file, [&writer](const char *plain) { return writer.Write(plain) == IFSelect_RetDone; });
+    if (!writer.Transfer(document, STEPControl_AsIs))
+        return false;
+    removeMadeUpNames(writer.ChangeWriter().Model());
+    return writePlainly(file, [&writer](const char *plain) { return writer.Write(plain) == IFSelect_RetDone; });
 }
 
 } // namespace

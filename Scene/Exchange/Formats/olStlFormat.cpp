@@ -265,7 +265,7 @@ olResult<> readText(const QByteArray &text, std::vector<Solid> &solids, Message_
         words.rest();
     }
     if (words.wordsForNumbers() > 0)
-        remarks << olReason::tr("%1 of its numbers are words, which count as 0.").arg(words.wordsForNumbers());
+        remarks << olReason::tr("Words in the place of numbers, which count as 0: %1.").arg(words.wordsForNumbers());
     return {};
 }
 

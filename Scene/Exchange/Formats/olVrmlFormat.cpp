@@ -28,6 +28,7 @@
 #include <Inventor/VRMLnodes/SoVRMLIndexedFaceSet.h>
 #include <Inventor/VRMLnodes/SoVRMLIndexedLineSet.h>
 #include <Inventor/VRMLnodes/SoVRMLLOD.h>
+#include <Inventor/VRMLnodes/SoVRMLMovieTexture.h>
 #include <Inventor/VRMLnodes/SoVRMLParent.h>
 #include <Inventor/VRMLnodes/SoVRMLPixelTexture.h>
 #include <Inventor/VRMLnodes/SoVRMLShape.h>
@@ -102,7 +103,8 @@ public:
     /// Fields, by the node that has them, that are left out.
     using Fields = std::set<std::pair<QByteArray, QByteArray>>;
 
-    Text(const QByteArray &text, int firstNumber, const Fields &leftOut) : m_first(firstNumber), m_leftOut(leftOut)
+    Text(const QByteArray &text, const QDir &folder, int firstNumber, const Fields &leftOut)
+        : m_folder(folder), m_first(firstNumber), m_leftOut(leftOut)
     {
         for (int at = 0; at < text.size();) {
             const int start = at;
@@ -123,6 +125,12 @@ public:
 
     /// The places of the files in the order of their numbers, each with several to choose from.
     [[nodiscard]] const std::vector<QStringList> &links() const { return m_links; }
+
+    /// Files of prototypes that are not there.
+    [[nodiscard]] const QStringList &missing() const { return m_missing; }
+
+    /// Files of which nothing is read.
+    [[nodiscard]] const QStringList &passedOver() const { return m_passedOver; }
 
     /// The number of a group; -1 for all others.
     static int numberOf(const SoVRMLGroup &group)
@@ -162,9 +170,13 @@ private:
         if (!m_nodes.empty() && m_leftOut.count({m_nodes.back(), name}) > 0)
             return behindValue(text, at);
         m_lastWord = name;
+        if (name == "EXTERNPROTO")
+            return outsidePrototype(text, at);
         int open = at;
         while (open < text.size() && isspace(static_cast<unsigned char>(text.at(open))))
             ++open;
+        if (name == "WWWInline" && open < text.size() && text.at(open) == '{')
+            return oldLink(text, open + 1);
         const bool isLink = name == "Inline" && open < text.size() && text.at(open) == '{';
         m_content += isLink ? QByteArray() : name;
         return isLink ? link(text, open + 1) : at;
@@ -197,7 +209,7 @@ private:
         while (at < text.size() && text.at(at) != '}') {
             const int end = qMax(at + 1, skipped(text, at));
             if (text.at(at) == '"')
-                urls << QFile::decodeName(text.mid(at + 1, end - at - 2));
+                urls << m_folder.filePath(QFile::decodeName(text.mid(at + 1, end - at - 2)));
             at = end;
         }
         m_content += "Group { bboxCenter " + QByteArray::number(m_first + int(m_links.size())) + ' ' +
@@ -206,19 +218,100 @@ private:
         return at + 1;
     }
 
+    /// Those of version 1 are not followed.
+    int oldLink(const QByteArray &text, int at)
+    {
+        QByteArray token = nextToken(text, at);
+        for (; !token.isEmpty() && token != "}"; token = nextToken(text, at)) {
+            if (token.startsWith('"'))
+                m_passedOver << QFile::decodeName(token.mid(1, token.size() - 2));
+        }
+        m_content += "Group { }";
+        return at;
+    }
+
+    /// A name, a text with its quotation marks or a bracket; nothing at the end.
+    static QByteArray nextToken(const QByteArray &text, int &at)
+    {
+        while (at < text.size()) {
+            const int start = at;
+            const char letter = text.at(at);
+            while (at < text.size() && isName(text.at(at)))
+                ++at;
+            at = at > start ? at : skipped(text, at);
+            if (isName(letter) || strchr("\"[]{}", letter))
+                return text.mid(start, at - start);
+        }
+        return {};
+    }
+
+    static QByteArray nothingOf(const QByteArray &type)
+    {
+        static const QHash<QByteArray, QByteArray> values{
+            {"SFBool", "FALSE"},  {"SFString", "\"\""}, {"SFNode", "NULL"},   {"SFVec2f", "0 0"},
+            {"SFVec3f", "0 0 0"}, {"SFColor", "0 0 0"}, {"SFImage", "0 0 0"}, {"SFRotation", "0 0 1 0"}};
+        return type.startsWith("MF") ? QByteArray("[]") : values.value(type, "0");
+    }
+
+    /// Where the file of a prototype is not there, nothing stands in its places.
+    int outsidePrototype(const QByteArray &text, int at)
+    {
+        int behind = at;
+        const QByteArray name = nextToken(text, behind);
+        QByteArray fields = nextToken(text, behind);
+        for (QByteArray kind = nextToken(text, behind); !kind.isEmpty() && kind != "]";
+             kind = nextToken(text, behind)) {
+            const QByteArray type = nextToken(text, behind);
+            fields += kind + ' ' + type + ' ' + nextToken(text, behind) + ' ';
+            if (kind == "field" || kind == "exposedField")
+                fields += nothingOf(type) + ' ';
+        }
+        const QByteArray head = "EXTERNPROTO" + text.mid(at, behind - at);
+        QStringList urls;
+        QByteArray token = nextToken(text, behind);
+        const bool isList = token == "[";
+        for (token = isList ? nextToken(text, behind) : token; token.startsWith('"');
+             token = isList ? nextToken(text, behind) : QByteArray())
+            urls << m_folder.filePath(QFile::decodeName(token.mid(1, token.size() - 2)));
+        for (const QString &url : qAsConst(urls)) {
+            if (QFileInfo(fileOf(url)).isFile()) {
+                m_content += head + " \"" + QFile::encodeName(url) + '"';
+                return behind;
+            }
+        }
+        m_missing << fileOf(urls.value(0));
+        m_content += "PROTO " + name + ' ' + fields + "] { Group { } }";
+        return behind;
+    }
+
+    /// Behind the file stands the name that the prototype has in it.
+    static QString fileOf(const QString &url) { return url.section(QLatin1Char('#'), 0, 0); }
+
+    QDir m_folder;
     int m_first;
     const Fields &m_leftOut;
     std::vector<QByteArray> m_nodes;
     QByteArray m_lastWord;
     QByteArray m_content;
     std::vector<QStringList> m_links;
+    QStringList m_missing;
+    QStringList m_passedOver;
 };
+
+void noteMissing(QStringList &remarks, const QString &file)
+{
+    const QString remark = olReason::tr("The file %1 that it refers to was not found.").arg(QFileInfo(file).fileName());
+    if (!remarks.contains(remark))
+        remarks << remark;
+}
 
 /// Coin, whose complaints belong to us.
 void prepareCoin()
 {
     static const bool isPrepared = [] {
         SoDB::init();
+        // It opens textures by itself, of which one may be a pipe; here it finds none.
+        QDir::setCurrent(QStringLiteral("/"));
         SoReadError::setHandlerCallback(noteFault, nullptr);
         SoDebugError::setHandlerCallback(keepQuiet, nullptr);
         return true;
@@ -421,18 +514,24 @@ SoSeparator *readRoot(const QString &name, std::vector<QStringList> &links, bool
     if (!file.open(QIODevice::ReadOnly))
         return nullptr;
     const QByteArray whole = file.readAll();
+    const QDir folder = QFileInfo(name).absoluteDir();
     isOld = whole.startsWith("#VRML V1");
     Text::Fields unknown;
     constexpr std::size_t mostUnknown = 100;
     do {
         firstFault().clear();
         // Numbers of links go on from those of the file that refers to this one.
-        Text text(whole, int(links.size()), unknown);
+        Text text(whole, folder, int(links.size()), unknown);
         SoInput input;
         input.setBuffer(text.content().constData(), std::size_t(text.content().size()));
         SoSeparator *root = SoDB::readAll(&input);
         if (root && firstFault().isEmpty()) {
             links.insert(links.end(), text.links().begin(), text.links().end());
+            for (const QString &missing : text.missing())
+                noteMissing(remarks, missing);
+            if (!text.passedOver().isEmpty())
+                remarks << olReason::tr("Files that it refers to and that are left out: %1.")
+                               .arg(listed(text.passedOver()));
             for (const auto &[node, field] : unknown)
                 remarks << olReason::tr("No %1 has the field %2; it is passed over.")
                                .arg(QString::fromLatin1(node), QString::fromLatin1(field));
@@ -487,9 +586,9 @@ public:
         }
         m_target.addGroup(m_name, members);
         m_target.finish();
-        if (m_lineSets > 0)
+        if (!m_leftOut.isEmpty())
             m_remarks
-                << olReason::tr("%1 of its shapes are lines, points or texts, which are left out.").arg(m_lineSets);
+                << olReason::tr("Shapes of lines or points that are left out: %1.").arg(listedWithNameless(m_leftOut));
         return m_result;
     }
 
@@ -631,19 +730,12 @@ private:
                                ? static_cast<SoVRMLAppearance *>(node)
                                : nullptr;
         const Handle(Image_Texture) texture = textureOf(appearance ? appearance->texture.getValue() : nullptr);
-        // Coin would open what may be no picture.
-        if (appearance && !texture.IsNull() && texture->DataBuffer().IsNull() &&
-            !QFileInfo(m_folder.filePath(QFile::decodeName(texture->FilePath().ToCString()))).isFile())
-            m_bare.insert(appearance, texture);
-        const bool isBare = appearance && m_bare.contains(appearance);
-        if (isBare)
-            appearance->texture.setValue(nullptr);
         Triangles triangles;
         SoCallbackAction action;
         listen(action, triangles);
         action.apply(shape);
         const bool hasLook = appearance && (appearance->material.getValue() || !texture.IsNull());
-        return partOf(triangles, rest, nameOf(shape), isBare ? m_bare.value(appearance) : texture, hasLook);
+        return partOf(triangles, rest, nameOf(shape), texture, hasLook);
     }
 
     static void listen(SoCallbackAction &action, Triangles &triangles)
@@ -656,7 +748,8 @@ private:
     TDF_Label partOf(const Triangles &triangles, const gp_Mat &rest, const QString &name,
                      const Handle(Image_Texture) & texture, bool hasLook)
     {
-        m_lineSets += triangles.others;
+        if (triangles.others > 0)
+            m_leftOut << name;
         if (triangles.points.empty())
             return {};
         const TDF_Label look = hasLook ? m_target.addLook(lookOf(triangles, texture), QString()) : TDF_Label();
@@ -673,26 +766,43 @@ private:
             const auto *old = static_cast<const SoTexture2 *>(texture);
             if (old->filename.getValue().getLength() == 0)
                 return pixelsOf(old->image);
-            return new Image_Texture(old->filename.getValue().getString());
+            return new Image_Texture(QFile::encodeName(placeOf(old->filename.getValue())).constData());
+        }
+        if (texture->isOfType(SoVRMLMovieTexture::getClassTypeId())) {
+            const SoMFString &films = static_cast<const SoVRMLMovieTexture *>(texture)->url;
+            const QString remark = olReason::tr("The texture %1 is a film, which is left out.")
+                                       .arg(films.getNum() > 0 ? QFile::decodeName(films[0].getString()) : QString());
+            if (!m_remarks.contains(remark))
+                m_remarks << remark;
         }
         if (!texture->isOfType(SoVRMLImageTexture::getClassTypeId()))
             return {};
         const SoMFString &urls = static_cast<const SoVRMLImageTexture *>(texture)->url;
         QStringList places;
         for (int index = 0; index < urls.getNum(); ++index)
-            places << QFile::decodeName(urls[index].getString());
+            places << placeOf(urls[index]);
         const QString file = firstThere(places);
         return file.isEmpty() ? Handle(Image_Texture)() : new Image_Texture(QFile::encodeName(file).constData());
     }
 
     /// Of several places, the first where there is a file; else simply the first.
-    [[nodiscard]] QString firstThere(const QStringList &urls) const
+    static QString firstThere(const QStringList &places)
     {
-        for (const QString &url : urls) {
-            if (QFileInfo(m_folder.filePath(url)).isFile())
-                return url;
+        const auto there =
+            std::find_if(places.begin(), places.end(), [](const QString &place) { return QFileInfo(place).isFile(); });
+        return there != places.end() ? *there : places.value(0);
+    }
+
+    /// Beside the file that has the node; as it stands there where there is none.
+    [[nodiscard]] QString placeOf(const SbString &url) const
+    {
+        const QString name = QFile::decodeName(url.getString());
+        for (auto file = m_openFiles.rbegin(); file != m_openFiles.rend(); ++file) {
+            const QString beside = QFileInfo(*file).dir().filePath(name);
+            if (!file->isEmpty())
+                return QFileInfo(beside).isFile() ? beside : name;
         }
-        return urls.value(0);
+        return name;
     }
 
     /// The file whose content stands in the place of the node; empty for all others.
@@ -702,7 +812,7 @@ private:
             node->isOfType(SoVRMLGroup::getClassTypeId()) ? Text::numberOf(*static_cast<SoVRMLGroup *>(node)) : -1;
         return number < 0 || number >= int(m_links.size())
                    ? QString()
-                   : QFileInfo(m_folder.filePath(firstThere(m_links[std::size_t(number)]))).canonicalFilePath();
+                   : QFileInfo(firstThere(m_links[std::size_t(number)])).canonicalFilePath();
     }
 
     /// What another file has in the place of the group; null where it stands for none.
@@ -714,16 +824,14 @@ private:
         if (number < 0 || number >= int(m_links.size()))
             return nullptr;
         const QString url = firstThere(m_links[std::size_t(number)]);
-        const QFileInfo file(m_folder.filePath(url));
+        const QFileInfo file(url);
         if (!file.isFile()) {
-            const QString remark = olReason::tr("The file %1 that it refers to was not found.").arg(url);
-            if (!m_remarks.contains(remark))
-                m_remarks << remark;
+            noteMissing(m_remarks, url);
             return nullptr;
         }
         const QString name = file.canonicalFilePath();
         if (m_openFiles.contains(name)) {
-            m_result = olFailure{olReason::tr("it refers to itself through %1").arg(url)};
+            m_result = olFailure{olReason::tr("it refers to itself through %1").arg(file.fileName())};
             return nullptr;
         }
         if (SoSeparator *known = m_roots.value(name))
@@ -731,7 +839,7 @@ private:
         bool isOld = false;
         SoSeparator *content = readRoot(name, m_links, isOld, m_remarks);
         if (!content) {
-            m_result = olFailure{olReason::tr("the file %1 that it refers to cannot be read").arg(url)};
+            m_result = olFailure{olReason::tr("the file %1 that it refers to cannot be read").arg(file.fileName())};
             return nullptr;
         }
         m_roots.insert(name, content);
@@ -814,9 +922,8 @@ private:
     olResult<> m_result;
     QStringList m_openFiles;
     QHash<QString, SoSeparator *> m_roots;
-    QHash<SoVRMLAppearance *, Handle(Image_Texture)> m_bare;
     std::vector<QStringList> m_links;
-    int m_lineSets = 0;
+    QStringList m_leftOut;
     std::set<SoNode *> m_open;
     std::map<std::pair<SoNode *, olMeshDocument::Proportions>, TDF_Label> m_done;
     Members *m_flat = nullptr;

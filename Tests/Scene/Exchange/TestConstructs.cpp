@@ -68,7 +68,7 @@ const QVector<Sound> &soundFiles()
         {"upper.stl", ("solid a\n" + facet(0) + "endsolid a\n").toUpper(), 1, 1},
         {"mark.stl", "\xef\xbb\xbf\n\nsolid a\n" + facet(0) + "endsolid a\n", 1, 1},
         {"comment.stl", "# made\nsolid a # name\n# more\n" + facet(0) + "endsolid a\n# end\n", 1, 1},
-        {"word.stl", "solid a\n" + facet(0).replace("1 0 0", "1 0 oops") + "endsolid a\n", 1, 1, "are words"},
+        {"word.stl", "solid a\n" + facet(0).replace("1 0 0", "1 0 oops") + "endsolid a\n", 1, 1, "place of numbers"},
         {"behind.stl", binary(7), 1, 1, "7 bytes behind its end"},
         {"zero.obj", "mtllib m.mtl\nusemtl m\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1// 2// 3//\n", 1, 1, "m.mtl"},
         {"line.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\nl 1 2\n", 1, 1, "lines or points"},
@@ -98,6 +98,37 @@ const QVector<Sound> &soundFiles()
          12, 1},
         {"inline.wrl", vrml("Inline { url [ \"none.wrl\" \"scale.wrl\" ] } Inline { url \"none.wrl\" }"), 12, 3,
          "none.wrl"},
+        {"extern.wrl",
+         vrml("EXTERNPROTO P [ field SFVec3f s eventIn SFBool b ] [ \"none.wrl#P\" ] P { s 1 1 1 }") + shape, 12, 1,
+         "none.wrl"},
+        {"prototypes.wrl",
+         vrml("PROTO A [] { Sound {} } PROTO P [ field SFVec3f s 1 1 1 ] { Shape { geometry Box { size IS s } } }"
+              "P { s 1 1 1 }"),
+         12, 1},
+        {"outside.wrl", vrml("EXTERNPROTO Q [ field SFVec3f s ] [ \"none.wrl\" \"prototypes.wrl#P\" ] Q { s 1 3 1 }"),
+         12, 3},
+        {"film.wrl",
+         vrml("Shape { appearance Appearance { texture MovieTexture { url \"a.mpg\" } } geometry Box { size 1 1 1 } }"),
+         12, 1, "a.mpg"},
+        {"wires.wrl",
+         vrml(
+             "DEF Axis Shape { geometry IndexedLineSet { coord Coordinate { point [0 0 0, 1 0 0] } coordIndex [0 1 -1] "
+             "} } Shape { geometry PointSet { coord Coordinate { point [0 0 0] } } }") +
+             shape,
+         12, 1, "Axis, 1 without a name"},
+        {"old inline.wrl", "#VRML V1.0 ascii\nSeparator { Cube { width 1 } WWWInline { name \"old.wrl\" } }\n", 12, 2,
+         "old.wrl"},
+        {"curve.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\ng Arc\ncstype bezier\ndeg 2\ncurv 0 1 1 2 3\nend\n", 1, 1,
+         "Arc"},
+        {"picture.gltf", gltf(R"({"mesh":0})", "", R"(,"extensionsUsed":["EXT_texture_webp"])"), 1, 1000,
+         "EXT_texture_webp"},
+        {"wire.gltf",
+         gltf(R"({"mesh":0,"children":[1]},{"mesh":1})", "", "")
+             .replace(R"("meshes":[)", R"("meshes":[{"name":"Wire",)"
+                                       R"("primitives":[{"mode":1,)"
+                                       R"("attributes":{"POSITION":)"
+                                       R"(0}}]},)"),
+         1, 1000, "Wire"},
         {"scaled.gltf", gltf(R"({"scale":[2,2,2],"mesh":0})"), 1, 2000},
         {"nested.gltf", gltf(R"({"scale":[2,1,1],"children":[1]},{"rotation":[0,0,0.7071068,0.7071068],"mesh":0})"), 1,
          2000},

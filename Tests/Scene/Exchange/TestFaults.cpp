@@ -65,6 +65,14 @@ QByteArray doubled(int times)
     return vrml(text.constData());
 }
 
+QByteArray doubledNodes(int times)
+{
+    QByteArray all;
+    for (int index = 1; index <= times; ++index)
+        all += R"({"children":[)" + QByteArray::number(index) + ',' + QByteArray::number(index) + "]},";
+    return all + "{}";
+}
+
 const char points[] = "v 0 0 0\nv 1 0 0\nv 1 1 0\n";
 
 const QVector<Broken> &brokenFiles()
@@ -89,6 +97,7 @@ const QVector<Broken> &brokenFiles()
         {"itself.wrl", vrml("DEF A Group { children [ USE A ] }\n"), "Cannot read"},
         {"again.wrl", vrml("Inline { url \"again.wrl\" }\n"), "refers to itself through again.wrl"},
         {"doubled.wrl", doubled(30), "more than a million parts"},
+        {"doubled.gltf", nodes(doubledNodes(30)), "more than a million parts"},
         {"nested.step", step("#1=SHAPE(" + QByteArray(100000, '(') + QByteArray(100000, ')') + ");"),
          "parentheses are nested too deeply"},
         {"line.igs", QByteArray(72, ' ') + "S      1\n" + "xyz" + QByteArray(69, ' ') + "D      1\n", "in line 2"},
@@ -157,7 +166,8 @@ TEST_F(Fault, FacesThatCannotBeUnderstoodAreCounted)
     step.replace(plane, step.indexOf(')', plane) - plane, "SURFACE(''");
     const olImportResult result = olImport(olImportJob::of(written(QStringLiteral("face.step"), step)));
     ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
-    EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("1 of its faces cannot be understood")))
+    EXPECT_TRUE(
+        result.remarks.join(QString()).contains(QStringLiteral("Faces that cannot be understood and are left out: 1.")))
         << qPrintable(result.remarks.join(QLatin1Char(' ')));
 }
 

@@ -5,6 +5,7 @@
 
 #include <TDocStd_Document.hxx>
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 
@@ -112,8 +113,12 @@ TEST_F(ReaderProcess, PipesAndDevicesAreNotWaitedFor)
     ASSERT_EQ(mkfifo(QFile::encodeName(path(QStringLiteral("pipe.wrl"))).constData(), 0600), 0);
     const QByteArray box =
         "Shape { appearance Appearance { texture ImageTexture { url \"pipe.png\" } } geometry Box {} }\n";
+    const QString before = QDir::currentPath();
+    // As if the program was started beside the models.
+    QDir::setCurrent(path(QString()));
     for (const QString &file :
-         {written(QStringLiteral("a.wrl"), "#VRML V2.0 utf8\nInline { url \"pipe.wrl\" }\n" + box),
+         {written(QStringLiteral("b.wrl"), "#VRML V2.0 utf8\nEXTERNPROTO P [] \"pipe.wrl#P\" P {}\n" + box),
+          written(QStringLiteral("a.wrl"), "#VRML V2.0 utf8\nInline { url \"pipe.wrl\" }\n" + box),
           written(QStringLiteral("a.obj"), "mtllib pipe.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n")}) {
         olImportJob job = olImportJob::of(file);
         job.patience = 20000;
@@ -121,6 +126,7 @@ TEST_F(ReaderProcess, PipesAndDevicesAreNotWaitedFor)
         EXPECT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
         EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("pipe."))) << qPrintable(file);
     }
+    QDir::setCurrent(before);
 }
 
 TEST_F(ReaderProcess, ADocumentComesOverAsItWas)

@@ -56,20 +56,19 @@ int textures(const olScene::Document &document)
     return count;
 }
 
-/// A small wedge in a container.
+/// A small wedge of an inch in a container.
 const char packedWedge[] =
-    "UEsDBBQAAAAIAAAAIQDkFNlasQAAACwBAAATAAAAW0NvbnRlbnRfVHlwZXNdLnhtbIWQzQrCMBCEXyXkKm2qggfpz0F9A19gSbdtMH8k21Lf3r"
-    "QqgggeZ2d2PpiymY1mE4aonK34Ni94U5fXu8fIkmNjxQcifxQiygENxNx5tMnpXDBASYZeeJA36FHsiuIgpLOEljJaOnhdnrGDURO7zOn8pATU"
-    "kbPTM7iwKg7eayWBki8m235RshchT59rJg7Kx00KcPGTYFyL+g/CfGr3rQE7diBpDMr2WdJLwRsg1j3qB1BLAwQUAAAACAAAACEAiBPYBaEAAA"
-    "DuAAAACwAAAF9yZWxzLy5yZWxzZY9NCsIwEIWvEuYAmdSCC2najRu30gsMaZoGmx+SVPT2RkGwuBl48958j+mGh1vZXadsg5fQcAFD3131SqUu"
-    "8mJjZjXhs4SllHhCzGrRjjIPUfvqzCE5KlUmg5HUjYzGgxBHTL8M2DPZSMnoIgHbM7aTC5Ne+WcCu0wSErDxGfVfp7MqhRzmwlVw70Py20yqbM"
-    "l6U2ubFkXzBQL2He4+6V9QSwMEFAAAAAgAAAAhAKm89fvzAAAACQIAABAAAAAzRC8zZG1vZGVsLm1vZGVsdZDdbsMgDIVfBfkB6pDcTYQ+xq5T"
-    "4iZM/FRAorRPPwKVlmnLjTH6fOyjI66bNWylELV3PfBLA1cprB/JsMXp1IPVxmhLiQKwPOtiD3NKjw/EqGayQ7xYrYKP/p4uylvsRju45T6otA"
-    "TtJmwb3mHDUflAIEWg6JegKErhb1+kEtNjvgvMDZZ6+KRxImDp+cifYiNrLMVZimwy6SLcO9rY1kMD7Fnqa694RPwcVRU/R1XFd4Q/Z1PQg5vM"
-    "sWUrL9Nr20Obn+6t+o/zyrsz3lXe/uH81/6ix4MXrPFgjTM3h4hvizajFDqRZZXXtPcVb4YlZfkNUEsBAhQDFAAAAAgAAAAhAOQU2VqxAAAALA"
-    "EAABMAAAAAAAAAAAAAAIABAAAAAFtDb250ZW50X1R5cGVzXS54bWxQSwECFAMUAAAACAAAACEAiBPYBaEAAADuAAAACwAAAAAAAAAAAAAAgAHi"
-    "AAAAX3JlbHMvLnJlbHNQSwECFAMUAAAACAAAACEAqbz1+/MAAAAJAgAAEAAAAAAAAAAAAAAAgAGsAQAAM0QvM2Rtb2RlbC5tb2RlbFBLBQYAAA"
-    "AAAwADALgAAADNAgAAAAA=";
+    "UEsDBBQAAAAIAAAAIQDkFNlasQAAACwBAAATAAAAW0NvbnRlbnRfVHlwZXNdLnhtbIWQzQrCMBCEXyXkKm2qggfpz0F9A19gSbdtMH8k21Lf3rQq"
+    "gggeZ2d2PpiymY1mE4aonK34Ni94U5fXu8fIkmNjxQcifxQiygENxNx5tMnpXDBASYZeeJA36FHsiuIgpLOEljJaOnhdnrGDURO7zOn8pATUkbPT"
+    "M7iwKg7eayWBki8m235RshchT59rJg7Kx00KcPGTYFyL+g/CfGr3rQE7diBpDMr2WdJLwRsg1j3qB1BLAwQUAAAACAAAACEAiBPYBaEAAADuAAAA"
+    "CwAAAF9yZWxzLy5yZWxzZY9NCsIwEIWvEuYAmdSCC2najRu30gsMaZoGmx+SVPT2RkGwuBl48958j+mGh1vZXadsg5fQcAFD3131SqUu8mJjZjXh"
+    "s4SllHhCzGrRjjIPUfvqzCE5KlUmg5HUjYzGgxBHTL8M2DPZSMnoIgHbM7aTC5Ne+WcCu0wSErDxGfVfp7MqhRzmwlVw70Py20yqbMl6U2ubFkXz"
+    "BQL2He4+6V9QSwMEFAAAAAgAAAAhAN+R6o/vAAAAAwIAABAAAAAzRC8zZG1vZGVsLm1vZGVsdZDRbsMgDEV/BfkD6pC8TUA/Y88pcROmABWQKO3X"
+    "j0ClZdryYoyOr311xXWzM1spROOdBH5p4KqE9QPNbHEmSTBOT8DylIsSppQeH4hRT2T7eLFGBx/9PV20t9gNtnfLvddpCcaN2Da8w4aj9oFAiUDR"
+    "L0FTVMLfvkgnZoZ8EZjrLUn4pGEkYOn5yJ9iIGssxUmJbC+ZItw72tgmoQH2LPW1Vzwifo6qip+jquI7wp+zKZjejfOxZSsv02sroc1P91b9x3nl"
+    "3RnvKm//cP5rf9HjwQvWeLDGmZtDxLfFzIMSJpFllde09xVvhiVl9Q1QSwECFAMUAAAACAAAACEA5BTZWrEAAAAsAQAAEwAAAAAAAAAAAAAAgAEA"
+    "AAAAW0NvbnRlbnRfVHlwZXNdLnhtbFBLAQIUAxQAAAAIAAAAIQCIE9gFoQAAAO4AAAALAAAAAAAAAAAAAACAAeIAAABfcmVscy8ucmVsc1BLAQIU"
+    "AxQAAAAIAAAAIQDfkeqP7wAAAAMCAAAQAAAAAAAAAAAAAACAAawBAAAzRC8zZG1vZGVsLm1vZGVsUEsFBgAAAAADAAMAuAAAAMkCAAAAAA==";
 
 /// Two triangles in one mesh, of which one is coloured corner by corner.
 const char plyFile[] =
@@ -136,7 +135,8 @@ QStringList coloursOf(const olScene::Document &document)
     return colours;
 }
 
-/// A part that stands twice in a group, made of steel, coloured in one place and hidden in the other; and a line.
+/// A part that stands twice in a group, made of steel, coloured in one place and hidden in the other; a line; and a
+/// part without a name.
 olScene::Document everythingOfSurfaces()
 {
     const olScene::Document document = olScene::newDocument();
@@ -162,8 +162,11 @@ olScene::Document everythingOfSurfaces()
         shapes->AddShape(BRepBuilderAPI_MakeEdge(gp_Pnt(0, 0, 9), gp_Pnt(9, 0, 9)).Shape(), Standard_False);
     TDataStd_Name::Set(line, "Line");
     colors->SetVisibility(line, Standard_False);
+    const TDF_Label nameless = shapes->AddShape(BRepPrimAPI_MakeBox(gp_Pnt(0, 9, 0), 1, 1, 1).Shape(), Standard_False);
+    nameless.ForgetAttribute(TDataStd_Name::GetID());
     shapes->UpdateAssemblies();
-    olTriangles::mesh(shapes->GetShape(part), {});
+    for (const TDF_Label &label : {part, nameless})
+        olTriangles::mesh(shapes->GetShape(label), {});
     return document;
 }
 
@@ -195,6 +198,9 @@ TEST_F(RoundTrip, WhatAFormatCanHoldComesBackAndTheRestIsSaid)
     QVector<QPair<QString, olScene::Document>> models{{QStringLiteral("made"), everythingOfSurfaces()}};
     for (const auto &[name, content] : files)
         models.append({name, imported(olImportJob::of(written(name, content)))});
+    const Outline wedge(models.at(4).second);
+    EXPECT_NEAR(wedge.high[0], 25.4, 1e-3);
+    EXPECT_TRUE(wedge.names.contains(QStringLiteral("Wedge")));
     for (const char *name : {"s.step", "s.igs", "s.glb"}) {
         const QString file = path(QLatin1String(name));
         ASSERT_EQ(olExportScene(models.first().second, file).error(), QString());
@@ -225,6 +231,10 @@ TEST_F(RoundTrip, WhatAFormatCanHoldComesBackAndTheRestIsSaid)
             EXPECT_EQ(back.remarks.join(QString()).toStdString(), "");
             EXPECT_EQ(keptOf(content, format) & ~olDocumentContent(*back.document), 0u) << qPrintable(remarks);
             const Outline after(*back.document);
+            // In VRML names differ from each other; a group may have the name of the file.
+            for (const QString &each : after.names)
+                EXPECT_TRUE(before.names.contains(each) || file.contains(each) || qstrcmp(suffix, "wrl") == 0)
+                    << qPrintable(each);
             if (!format.holds(olModelFormat::Meshes))
                 continue;
             EXPECT_NEAR(after.triangles, before.triangles, few);
