@@ -398,9 +398,6 @@ void olPreferencesStore::change(const std::vector<Change> &changes, std::vector<
     (void)olStoreTables::read(database, m_isStore);
     if (!olStoreTables::change(database, changes, left))
         return;
-    // Another program may just have set it aside.
-    if (database.wasMoved())
-        throw busy();
     database.run("COMMIT");
 }
 

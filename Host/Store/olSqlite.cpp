@@ -34,7 +34,9 @@ olStoreError errorOf(int code, int systemError, const QString &message)
     // Without room for locks the database says that it is busy.
     const bool isRefusal = code == SQLITE_IOERR_RDLOCK || code == SQLITE_IOERR_LOCK ||
                            code == SQLITE_IOERR_CHECKRESERVEDLOCK || (code == SQLITE_BUSY && systemError == ENOLCK);
-    switch (isRefusal ? SQLITE_PERM : code & 0xff) {
+    // Another program may just have set the file aside, which the database notices before it writes.
+    const bool isElsewhere = code == SQLITE_READONLY_DBMOVED;
+    switch (isRefusal ? SQLITE_PERM : isElsewhere ? SQLITE_BUSY : code & 0xff) {
     case SQLITE_PERM:
         return ofTheSystem(olSqlite::tr("its file system refuses locks"));
     case SQLITE_CANTOPEN:
@@ -142,10 +144,3 @@ std::string olSqlite::text(const std::string &sql)
 }
 
 int olSqlite::number(const std::string &sql) { return std::atoi(text(sql).c_str()); }
-
-bool olSqlite::wasMoved() const
-{
-    int wasMoved = 0;
-    sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &wasMoved);
-    return wasMoved != 0;
-}

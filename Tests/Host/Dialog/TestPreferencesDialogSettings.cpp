@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QFormLayout>
 #include <QMenu>
+#include <QPalette>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -263,6 +264,10 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "it leads to the setting";
     auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
     EXPECT_TRUE(message->isVisible());
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::black));
+    EXPECT_LT(message->palette().color(QPalette::Window).lightness(), 100) << "the desktop may turn dark meanwhile";
+    QApplication::setPalette(light);
     QTest::mouseClick(message->findChild<QWidget *>(QStringLiteral("closeMessage")), Qt::LeftButton);
     EXPECT_FALSE(message->isVisible());
 
@@ -274,6 +279,7 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     ASSERT_TRUE(dialog->apply());
     EXPECT_EQ(module.page.samples->value(), 16);
     EXPECT_EQ(module.value<int>("Studio samples"), 16);
+    delete module.page.samplesLabel; // which nobody may touch any more
     dialog.reset();
     EXPECT_TRUE(module.page.samples->isEnabled()) << "the page goes back as it came";
     EXPECT_EQ(module.page.samples->toolTip(), "How often each <b>pixel</b> is computed");

@@ -92,6 +92,11 @@ TEST_F(TesselationSettings, CheckBoxesAndGroupsDecideWhatIsEnabled)
     settings.enableGroups(~0u);
     EXPECT_TRUE(enabled(Control::ChordDeviation));
     EXPECT_FALSE(enabled(Control::StitchingTolerance)) << "its box is still unchecked";
+
+    olTesselationSettings filledBefore;
+    filledBefore.setStitchingEnabled(false);
+    filledBefore.setConnections();
+    EXPECT_FALSE(filledBefore.control(Control::StitchingTolerance)->isEnabled());
 }
 
 } // namespace
