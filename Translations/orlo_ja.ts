@@ -629,6 +629,10 @@
         <source>the import options leave nothing of it (%1)</source>
         <translation>インポートオプションにより、インポートされるものがありません (%1)</translation>
     </message>
+    <message>
+        <source>Parts that the import options leave out: %1.</source>
+        <translation>インポートオプションにより除外されたパーツ：%1。</translation>
+    </message>
 </context>
 <context>
     <name>olImportDialog</name>
@@ -2150,6 +2154,10 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Textures of kinds that are not drawn here: %1.</source>
         <translation>ここでは描画されない種類のテクスチャ：%1。</translation>
+    </message>
+    <message>
+        <source>Invisible surfaces that the import options leave out: %1.</source>
+        <translation>インポートオプションにより除外された非表示の面：%1。</translation>
     </message>
 </context>
 <context>

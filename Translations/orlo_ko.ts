@@ -629,6 +629,10 @@
         <source>the import options leave nothing of it (%1)</source>
         <translation>가져오기 옵션에 따라 모두 제외되었습니다(%1)</translation>
     </message>
+    <message>
+        <source>Parts that the import options leave out: %1.</source>
+        <translation>가져오기 옵션에 따라 제외한 부품: %1.</translation>
+    </message>
 </context>
 <context>
     <name>olImportDialog</name>
@@ -2150,6 +2154,10 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Textures of kinds that are not drawn here: %1.</source>
         <translation>여기에서 그리지 않는 종류의 텍스처: %1.</translation>
+    </message>
+    <message>
+        <source>Invisible surfaces that the import options leave out: %1.</source>
+        <translation>가져오기 옵션에 따라 제외한 숨겨진 곡면: %1.</translation>
     </message>
 </context>
 <context>

@@ -629,6 +629,10 @@
         <source>the import options leave nothing of it (%1)</source>
         <translation>按导入选项，其中没有可导入的内容（%1）</translation>
     </message>
+    <message>
+        <source>Parts that the import options leave out: %1.</source>
+        <translation>导入选项略去的零件：%1。</translation>
+    </message>
 </context>
 <context>
     <name>olImportDialog</name>
@@ -2150,6 +2154,10 @@ standard error stream and left; the exit status is then 1.
     <message>
         <source>Textures of kinds that are not drawn here: %1.</source>
         <translation>此处不绘制的类型的纹理：%1。</translation>
+    </message>
+    <message>
+        <source>Invisible surfaces that the import options leave out: %1.</source>
+        <translation>导入选项略去的不可见曲面：%1。</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,8 @@ public:
             const bool isWanted = !XCAFDoc_ShapeTool::IsReference(instance) || m_job.options.importInvisibleInstances ||
                                   m_colors->IsVisible(instance);
             m_hasLostInstances = m_hasLostInstances || !isWanted;
+            if (!isWanted)
+                m_leftOut << olShownNameOf(instance);
             return isWanted;
         };
         copy.changePart = [this, &scope](const TDF_Label &label, olChangedPart &part) {
@@ -156,6 +158,9 @@ private:
         if (!m_apart.isEmpty())
             m_remarks << Words::tr("Parts whose faces are not joined, as that would distort them: %1.")
                              .arg(olFormatTools::listed(m_apart));
+        if (!m_leftOut.isEmpty())
+            m_remarks
+                << Words::tr("Parts that the import options leave out: %1.").arg(olFormatTools::listed(m_leftOut));
         if (!m_undrawn.isEmpty())
             m_remarks << Words::tr("Faces that cannot be drawn: %1.").arg(olFormatTools::listed(m_undrawn));
     }
@@ -195,8 +200,11 @@ private:
         m_hasLost.meshes = m_hasLost.meshes || (there.meshes && !wanted.meshes);
         m_hasLost.curves = m_hasLost.curves || (there.curves && !wanted.curves);
         olPartChanges::keepOnly(part, wanted);
-        if (part.shape.IsNull())
+        if (part.shape.IsNull()) {
+            if (there.surfaces || there.meshes || there.curves)
+                m_leftOut << olShownNameOf(label);
             return;
+        }
         bool isAsPrepared = part.changes.empty();
         if ((m_job.verify || m_job.optimize) &&
             !(isAsPrepared ? !m_unsound.Contains(label) : olPartChanges::isSound(part.shape))) {
@@ -333,6 +341,7 @@ private:
     QStringList m_heldBack;
     QStringList m_apart;
     QStringList m_undrawn;
+    QStringList m_leftOut;
 };
 
 Bnd_Box boundsOf(const olScene::Document &document)

@@ -10,9 +10,11 @@
 #include <IGESGeom_BoundedSurface.hxx>
 #include <IGESGeom_TrimmedSurface.hxx>
 #include <IGESSolid_Face.hxx>
+#include <Interface_InterfaceModel.hxx>
 #include <Interface_Static.hxx>
 #include <Message_ProgressRange.hxx>
 #include <Quantity_Color.hxx>
+#include <TCollection_HAsciiString.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TDocStd_Document.hxx>
@@ -32,6 +34,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 using namespace olFormatTools;
@@ -199,6 +202,24 @@ void remarkLost(const IGESCAFControl_Reader &reader, QStringList &remarks)
         remarks << olReason::tr("Faces that cannot be understood and are left out: %1.").arg(faces);
 }
 
+/// Surfaces and solids that are not shown and no piece of another.
+void remarkHidden(const Handle(Interface_InterfaceModel) & model, QStringList &remarks)
+{
+    QStringList names;
+    for (int number = 1; number <= model->NbEntities(); ++number) {
+        const Handle(IGESData_IGESEntity) entity = Handle(IGESData_IGESEntity)::DownCast(model->Value(number));
+        constexpr int kinds[] = {143, 144, 186};
+        if (entity.IsNull() || entity->BlankStatus() == 0 || entity->SubordinateStatus() % 2 != 0 ||
+            std::find(std::begin(kinds), std::end(kinds), entity->TypeNumber()) == std::end(kinds))
+            continue;
+        const Handle(TCollection_HAsciiString) name = entity->NameValue();
+        names << (name.IsNull() ? QString() : QString::fromUtf8(name->ToCString()).trimmed());
+    }
+    if (!names.isEmpty())
+        remarks
+            << olReason::tr("Invisible surfaces that the import options leave out: %1.").arg(listedWithNameless(names));
+}
+
 /// Of the kinds 100 to 199, geometry, and 500 to 599, boundaries of solids.
 bool mustBeWhole(const Handle(Standard_Transient) & entity)
 {
@@ -216,7 +237,8 @@ olResult<> read(const olImportJob &job, const olScene::Document &document, const
     reader.SetColorMode(Standard_True);
     reader.SetNameMode(Standard_True);
     reader.SetLayerMode(Standard_True);
-    reader.SetReadVisible(!job.options.importInvisibleSurfaces && !job.options.importInvisibleCurves);
+    const bool isOnlyShown = !job.options.importInvisibleSurfaces && !job.options.importInvisibleCurves;
+    reader.SetReadVisible(isOnlyShown);
     if (reader.ReadFile(path(job.fileToRead()).ToCString()) != IFSelect_RetDone)
         return damaged();
     const olResult<> whole = checkEntities(reader.WS()->Model(), mustBeWhole, remarks);
@@ -225,6 +247,8 @@ olResult<> read(const olImportJob &job, const olScene::Document &document, const
     olScene::Document target = document;
     const bool isTaken = reader.Transfer(target, progress);
     remarkLost(reader, remarks);
+    if (isOnlyShown)
+        remarkHidden(reader.WS()->Model(), remarks);
     return isTaken ? olResult<>() : untaken();
 }
 

@@ -223,6 +223,7 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
         return std::make_pair(count(document, TopAbs_FACE) / 6, count(document, TopAbs_EDGE, TopAbs_FACE));
     };
     EXPECT_EQ(found(true, false, false, false), std::make_pair(1, 0));
+    EXPECT_TRUE(olImport(kinds).remarks.value(0).contains(QStringLiteral("Hidden box")));
     EXPECT_EQ(found(true, true, true, false), std::make_pair(2, 1));
     EXPECT_EQ(found(false, false, true, true), std::make_pair(0, 2));
 
