@@ -2,7 +2,9 @@
 
 import math
 import os
+import random
 import shutil
+import signal
 import statistics
 import struct
 import subprocess
@@ -13,6 +15,7 @@ from pathlib import Path
 REPETITIONS = 5
 SIZE = "1280x720"
 FRAMES = 20
+PATIENCE = 600  # seconds
 
 
 def write_stl(file, triangles):
@@ -96,9 +99,17 @@ class Cost:
     """The seconds of the processor and of the clock that a command takes with all processes that it waits for, and the
     memory in MiB that it and what it starts take together when they take most."""
 
-    def __init__(self, command, environment):
-        runs = [self.once(command, environment) for _ in range(REPETITIONS)]
+    def __init__(self, runs):
         self.processor, self.clock, self.memory = (statistics.median(column) for column in zip(*runs))
+
+    @classmethod
+    def side_by_side(cls, commands, environment):
+        """What each of them costs, by its name."""
+        runs = {name: [] for name in commands}
+        for _ in range(REPETITIONS):
+            for name in random.sample(list(commands), len(commands)):
+                runs[name].append(cls.once(commands[name], environment))
+        return {name: cls(taken) for name, taken in runs.items()}
 
     @classmethod
     def once(cls, command, environment):
@@ -111,6 +122,8 @@ class Cost:
                 most = max(most, cls.memory_of(process.pid))
                 time.sleep(0.02)
                 ended, status, usage = os.wait4(process.pid, os.WNOHANG)
+                if not ended and time.monotonic() - started > PATIENCE:
+                    os.kill(process.pid, signal.SIGKILL)
             clock = time.monotonic() - started
             process.returncode = os.waitstatus_to_exitcode(status)
             errors.seek(0)
@@ -144,76 +157,87 @@ def version(*command):
     return next((line for line in said if any(letter.isdigit() for letter in line)), "of unknown version")
 
 
-def tell(what, cost):
-    print(f"{what}: {cost.clock:.2f} s, {cost.processor:.2f} s of the processor, {cost.memory:.0f} MiB")
-
-
 def rows(folder):
     """What is measured, as (name, value, goal) where the value is to stay below the goal. Time is that of the clock, on
-    two processors."""
+    two processors, unless the name says otherwise."""
     os.sched_setaffinity(0, sorted(os.sched_getaffinity(0))[:2])
     others = {name: shutil.which(program) for name, program in (("f3d", "f3d"), ("FreeCAD", "freecadcmd"))}
-    for name, program in others.items():
-        print(f"{name}: {version(program, '--version') if program else 'not installed, not compared'}")
+    # FreeCAD says its own with each script, here an empty one, and that of Python where it is asked for it.
+    for (name, program), question in zip(others.items(), ("--version", os.devnull)):
+        print(f"{name}: {version(program, question) if program else 'not installed, not compared'}")
     environment = {**os.environ, "LIBGL_ALWAYS_SOFTWARE": "1", "QT_QPA_PLATFORM": "xcb"}
     with tempfile.TemporaryDirectory() as name:
         work = Path(name)
         environment.update(XDG_CONFIG_HOME=name, XDG_RUNTIME_DIR=name)
-        meshes = {count: work / f"mesh{count}.stl" for count in (250_000, 1_000_000)}
-        for count, file in meshes.items():
-            write_stl(file, count)
-        bars = {count: work / f"bars{count}.step" for count in (125, 500)}
-        for count, file in bars.items():
-            Step().write(file, count)
-        iges = work / "bars500.iges"
-        subprocess.run([folder / "orlo", "--store", work / "store.db", "--save", iges, bars[500]], env=environment,
-                       check=True)
+        meshes = {"STL of 1 M triangles": 1_000_000, "STL of 3 M triangles": 3_000_000}
+        bars = {"STEP of 500 solids": 500, "STEP of 2,000 solids": 2000}
+        small, iges = "STL of 32 triangles", "IGES of 500 solids"
+        files = {kind: work / f"mesh{index}.stl" for index, kind in enumerate((*meshes, small))}
+        files.update({kind: work / f"bars{count}.step" for kind, count in bars.items()})
+        files[iges] = work / "bars.iges"
+        for kind, count in (*meshes.items(), (small, 32)):
+            write_stl(files[kind], count)
+        for kind, count in bars.items():
+            Step().write(files[kind], count)
+        viewer = [str(folder / "orlo"), "--store", str(work / "store.db")]
+        mesh, step = "STL of 1 M triangles", "STEP of 500 solids"
+        subprocess.run([*viewer, "--save", files[iges], files[step]], env=environment, check=True)
         read = work / "read.py"
         read.write_text("import FreeCAD, Import, os\ndocument = FreeCAD.newDocument()\n"
                         "Import.insert(os.environ['MODEL'], document.Name)\n"
                         "for each in document.Objects:\n    getattr(each, 'Shape', None) and each.Shape.tessellate(0.075)\n")
 
-        def render(model):
-            return Cost([str(folder / "orlo"), "--store", str(work / "store.db"), "--render", str(model), "--output",
-                         str(work / "picture.png"), "--size", SIZE], environment)
+        def window(kind, moves=0):
+            return [str(folder / "orlo-bench-window"), str(files[kind]), str(moves)]
 
-        def window(model, moves):
-            return Cost([str(folder / "orlo-bench-window"), str(model), str(moves)], environment)
+        def f3d(kind, moves=0):
+            log = work / f"log{moves}"
+            write_interaction(log, moves)
+            return [others["f3d"], "--dry-run", f"--resolution={SIZE.replace('x', ',')}",
+                    f"--interaction-test-play={log}", f"--output={work / 'other.png'}", str(files[kind])]
 
-        def f3d(model, moves=0):
-            write_interaction(work / "log", moves)
-            return Cost([others["f3d"], "--dry-run", f"--resolution={SIZE.replace('x', ',')}",
-                         f"--interaction-test-play={work / 'log'}", f"--output={work / 'other.png'}", str(model)],
-                        environment)
-
-        def frame(program, model):
-            # The first ones find out how long a frame takes, and prepare those that follow.
-            first = 4
-            return (program(model, first + FRAMES).clock - program(model, first).clock) / FRAMES
-
-        drawn = {file: render(file) for file in (*meshes.values(), *bars.values(), iges)}
-        for file, cost in drawn.items():
-            tell(file.name, cost)
-        found = [(f"growth of {kind}: power",
-                  math.log(drawn[large].processor / drawn[small].processor) / math.log(times), 1.1)
-                 for kind, (small, large), times in (("meshes, four times the triangles", meshes.values(), 4),
-                                                     ("STEP, four times the solids", bars.values(), 4))]
-        mesh, step = meshes[1_000_000], bars[500]
-        for kind, file in (("STL of 1 M triangles", mesh), ("STEP of 500 solids", step)):
-            found.append((f"{kind}: first picture of the window / --render",
-                          window(file, 0).clock / drawn[file].clock, 1.5))
+        picture = ["--output", str(work / "picture.png"), "--size", SIZE]
+        commands = {(kind, "--render"): [*viewer, "--render", str(files[kind]), *picture]
+                    for kind in (*meshes, *bars, iges)}
+        commands.update({(kind, "window"): window(kind) for kind in (small, mesh, step)})
+        # The first ones find out how long a frame takes, and prepare those that follow.
+        first, last = 4, 4 + FRAMES
         if others["f3d"]:
-            cost = f3d(mesh)
-            tell(f"f3d, {mesh.name}", cost)
-            found += [("STL of 1 M triangles / f3d", drawn[mesh].clock / cost.clock, 1.2),
-                      ("STL of 1 M triangles / f3d: memory", drawn[mesh].memory / cost.memory, 1.2)]
-            for kind, file in (("STL of 1 M triangles", mesh), ("STEP of 500 solids", step)):
-                found.append((f"{kind}: a frame of orbiting / f3d", frame(window, file) / frame(f3d, file),
-                              0.667))
+            commands.update({(kind, "f3d"): f3d(kind) for kind in (small, *meshes)})
+            commands.update({(kind, program.__name__, moves): program(kind, moves) for kind in (mesh, step)
+                             for program in (window, f3d) for moves in (first, last)})
         if others["FreeCAD"]:
-            for kind, file in (("STEP", step), ("IGES", iges)):
-                cost = Cost([others["FreeCAD"], str(read)],
-                            {**environment, "MODEL": str(file), "QT_QPA_PLATFORM": "offscreen"})
-                tell(f"FreeCAD, {file.name}", cost)
-                found.append((f"{kind} of 500 solids / FreeCAD", drawn[file].clock / cost.clock, 0.8))
+            commands.update({(kind, "FreeCAD"): ["env", f"MODEL={files[kind]}", "QT_QPA_PLATFORM=offscreen",
+                                                 others["FreeCAD"], str(read)] for kind in (*bars, iges)})
+        costs = Cost.side_by_side(commands, environment)
+
+    for (kind, program, *moves), cost in costs.items():
+        print(f"{kind}, {program}{''.join(f', orbited {count} times' for count in moves)}: {cost.clock:.2f} s, "
+              f"{cost.processor:.2f} s of the processor, {cost.memory:.0f} MiB")
+
+    def ratio(kind, program, other, measure="clock"):
+        return getattr(costs[kind, program], measure) / getattr(costs[kind, other], measure)
+
+    def frame(kind, program):
+        return (costs[kind, program, last].clock - costs[kind, program, first].clock) / FRAMES
+
+    found = []
+    for (what, unit), kinds in ((("meshes", "triangles"), meshes), (("STEP", "solids"), bars)):
+        (less, fewer), (more, many) = kinds.items()
+        power = (math.log(costs[more, "--render"].processor / costs[less, "--render"].processor)
+                 / math.log(many / fewer))
+        found.append((f"growth of {what}, {many // fewer} times the {unit}: power of the processor's time", power, 1.1))
+    for kind in (mesh, step):
+        found.append((f"{kind}: first picture of the window / --render", ratio(kind, "window", "--render"), 1.5))
+    if others["f3d"]:
+        for kind in meshes:
+            found += [(f"{kind} / f3d", ratio(kind, "--render", "f3d"), 1.2),
+                      (f"{kind} / f3d: memory", ratio(kind, "--render", "f3d", "memory"), 1.2)]
+        # What is allowed for a picture beside f3d, and for that of the window beside it.
+        found += [(f"{kind}: first picture of the window / f3d", ratio(kind, "window", "f3d"), 1.8)
+                  for kind in (small, mesh)]
+        found += [(f"{kind}: a frame of orbiting / f3d", frame(kind, "window") / frame(kind, "f3d"), 0.667)
+                  for kind in (mesh, step)]
+    if others["FreeCAD"]:
+        found += [(f"{kind} / FreeCAD", ratio(kind, "--render", "FreeCAD"), 0.8) for kind in (*bars, iges)]
     return found

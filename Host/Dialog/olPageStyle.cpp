@@ -55,7 +55,7 @@ void olPageStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand || element == PE_Frame ||
-        element == PE_FrameTabWidget || element == PE_FrameMenu)
+        element == PE_FrameTabWidget || element == PE_PanelMenu)
         drawBorder(option->palette, option->rect, *painter);
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton)
         return;

@@ -14,6 +14,7 @@
 #include <chrono>
 #include <csignal>
 #include <optional>
+#include <vector>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -129,7 +130,13 @@ private:
         QByteArray translations =
             QFile::encodeName(QCoreApplication::instance()->property("olTranslationFiles").toStringList().join(u'\n'));
         char *arguments[] = {program.data(), translations.data(), nullptr};
-        const int error = posix_spawn(&m_process, program.constData(), &files, nullptr, arguments, environ);
+        // In small pages of memory it would look up the corners of a large mesh much longer.
+        char largePages[] = "GLIBC_TUNABLES=glibc.malloc.hugetlb=1";
+        std::vector<char *> environment{largePages};
+        for (char **each = environ; *each; ++each)
+            environment.push_back(*each);
+        environment.push_back(nullptr);
+        const int error = posix_spawn(&m_process, program.constData(), &files, nullptr, arguments, environment.data());
         posix_spawn_file_actions_destroy(&files);
         if (error == 0)
             return {};

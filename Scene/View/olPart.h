@@ -5,7 +5,6 @@
 #include <XCAFPrs_Style.hxx>
 
 #include <optional>
-#include <utility>
 #include <vector>
 
 struct XCAFPrs_DocumentNode;
@@ -46,8 +45,11 @@ public:
     /// Which level is drawn now.
     int shownLevel = 0;
 
-    /// With which of the host's values, for depth and for selection, it is shown; nothing where that is to be done.
-    std::optional<std::pair<bool, bool>> applied;
+    /// Whether it was told to hide what is behind it although one sees through it; nothing where that is to be done.
+    std::optional<bool> writesDepth;
+
+    /// Whether the mouse finds it.
+    bool isSelectable = false;
 
     /// Which level is selected where it is not the whole part.
     std::optional<int> selectedLevel;

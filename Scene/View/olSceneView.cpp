@@ -29,7 +29,6 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
-#include <utility>
 
 namespace
 {
@@ -111,6 +110,7 @@ public:
     void applyCamera();
     void applySelectionStyle();
     void applyParts();
+    void makeSelectable();
     void showSelection();
     void showCoarse(bool coarse) const;
     void setPixelRatio(double ratio) const;
@@ -198,10 +198,11 @@ void olSceneView::Private::showPart(const Handle(olPart) & part, bool shown)
 {
     if (shown == bool(context->IsDisplayed(part)))
         return;
-    part->applied.reset();
+    part->writesDepth.reset();
+    part->isSelectable = false;
     part->isCoarse = false;
     if (shown)
-        context->Display(part, olPart::displayModeOf(part->shownLevel), 0, Standard_False);
+        context->Display(part, olPart::displayModeOf(part->shownLevel), -1, Standard_False);
     else
         context->Erase(part, Standard_False);
 }
@@ -344,19 +345,31 @@ void olSceneView::Private::applySelectionStyle()
 
 void olSceneView::Private::applyParts()
 {
-    const olHostState &state = olHostState::the();
-    const auto wanted = std::make_pair(state.zWriteTransparency.get(), state.transparentObjectSelection.get());
+    const bool wanted = olHostState::the().zWriteTransparency;
     for (const Handle(olPart) & part : parts) {
-        if (part->applied == wanted || !context->IsDisplayed(part))
+        if (part->writesDepth == wanted || !context->IsDisplayed(part))
             continue;
-        part->applied = wanted;
-        part->setWritesDepth(state.zWriteTransparency);
-        if (!part->isFullyTransparent())
+        part->writesDepth = wanted;
+        part->setWritesDepth(wanted);
+    }
+}
+
+/// Parts are prepared when somebody points at the scene for the first time: for that the library sorts the triangles of
+/// large ones, which can take longer than to draw them.
+void olSceneView::Private::makeSelectable()
+{
+    const bool isGlassSelectable = olHostState::the().transparentObjectSelection;
+    for (const Handle(olPart) & part : parts) {
+        const bool wanted = isGlassSelectable || !part->isFullyTransparent();
+        if (part->isSelectable == wanted || !context->IsDisplayed(part))
             continue;
-        if (state.transparentObjectSelection)
+        part->isSelectable = wanted;
+        if (wanted) {
+            context->Load(part);
             context->Activate(part, 0);
-        else
+        } else {
             context->Deactivate(part);
+        }
     }
 }
 
@@ -431,7 +444,7 @@ void olSceneView::setEdges(bool on)
     d->hasEdges = on;
     for (const Handle(olPart) & part : d->parts) {
         part->setEdges(on);
-        part->applied.reset();
+        part->writesDepth.reset();
         d->context->Redisplay(part, Standard_False);
     }
     d->applyParts();
@@ -599,6 +612,7 @@ double olSceneView::size() const { return d->box.IsVoid() ? 1.0 : d->box.CornerM
 bool olSceneView::hover(const QPoint &point)
 {
     const Handle(SelectMgr_EntityOwner) before = d->context->HasDetected() ? d->context->DetectedOwner() : nullptr;
+    d->makeSelectable();
     // The camera may have moved since the last frame, and what is not between its planes would not be found.
     if (d->view->AutoZFitMode())
         d->view->AutoZFit();

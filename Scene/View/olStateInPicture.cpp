@@ -52,7 +52,7 @@ Parts allParts()
                                    &s.limitNearFarPlane, &s.nearPlane, &s.farPlane});
     add(olStateInPicture::Lights, {&s.headlight, &s.headlightEnabled, &s.headlightMode, &s.headlightType});
     add(olStateInPicture::Hovering, {&s.preselectionEnabled, &s.preselectionColor});
-    add(olStateInPicture::Solidity, {&s.zWriteTransparency, &s.transparentObjectSelection});
+    add(olStateInPicture::Solidity, {&s.zWriteTransparency});
     add(olStateInPicture::Selection,
         {&s.markerSize, &s.selectionColor, &s.wireframeSelection, &s.wireframeOverride, &s.wireframeAlwaysInFront});
     return parts;

@@ -13,7 +13,7 @@ enum Part : unsigned {
     Camera = 1 << 1,
     Lights = 1 << 2,
     Hovering = 1 << 3, ///< How that looks which is under the mouse.
-    Solidity = 1 << 4, ///< What of a transparent part hides others and can be picked.
+    Solidity = 1 << 4, ///< What of a transparent part hides others.
     Selection = 1 << 5,
     All = (1 << 6) - 1
 };

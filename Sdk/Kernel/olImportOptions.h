@@ -13,7 +13,7 @@ class ORLO_SDK_EXPORT olImportOptions
 {
 public:
     /// With `continued` the options begin as they were last written for the type, so that several objects can each
-    /// write their part; else as no one had set them. With `replacing` write() takes the place of what was written
+    /// write their part; else as if no one had set them. With `replacing` write() takes the place of what was written
     /// before; else the first one stays.
     olImportOptions(std::string type, bool continued, bool replacing);
     ~olImportOptions();

@@ -4,6 +4,7 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,8 +32,13 @@ int widthOfBoxes(const QFormLayout &form)
     int width = 0;
     for (int row = 0; row < form.rowCount(); ++row) {
         QLayoutItem *item = form.itemAt(row, QFormLayout::FieldRole);
-        if (const auto *box = item ? qobject_cast<QComboBox *>(item->widget()) : nullptr)
-            width = std::max({width, box->sizeHint().width(), least * box->fontMetrics().averageCharWidth()});
+        const auto *box = item ? qobject_cast<QComboBox *>(item->widget()) : nullptr;
+        if (!box)
+            continue;
+        // A font of ideographs takes one of those for the mean.
+        const QFontMetrics metrics = box->fontMetrics();
+        const int letter = std::min(metrics.averageCharWidth(), metrics.horizontalAdvance(QLatin1Char('x')));
+        width = std::max({width, box->sizeHint().width(), least * letter});
     }
     return width;
 }

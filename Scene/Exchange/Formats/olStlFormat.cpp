@@ -81,7 +81,7 @@ public:
     int add(double x, double y, double z)
     {
         if (2 * (m_points.size() + 1) > m_table.size())
-            grow();
+            reserve(m_points.size() + 1);
         // Both zeros are the same place.
         const gp_XYZ point(x + 0.0, y + 0.0, z + 0.0);
         int &slot = m_table[slotOf(point)];
@@ -90,6 +90,18 @@ public:
             m_points.push_back(point);
         }
         return slot;
+    }
+
+    /// Makes room for so many at once.
+    void reserve(std::size_t count)
+    {
+        std::size_t size = 1 << 10;
+        while (size < 2 * count)
+            size *= 2;
+        m_points.reserve(size / 2);
+        m_table.assign(size, -1);
+        for (std::size_t index = 0; index < m_points.size(); ++index)
+            m_table[slotOf(m_points[index])] = int(index);
     }
 
     [[nodiscard]] const std::vector<gp_XYZ> &points() const { return m_points; }
@@ -112,14 +124,6 @@ private:
             slot = (slot + 1) & (m_table.size() - 1);
         }
         return slot;
-    }
-
-    void grow()
-    {
-        constexpr std::size_t first = 1 << 10;
-        m_table.assign(std::max(first, 2 * m_table.size()), -1);
-        for (std::size_t index = 0; index < m_points.size(); ++index)
-            m_table[slotOf(m_points[index])] = int(index);
     }
 
     std::vector<gp_XYZ> m_points;
@@ -273,6 +277,8 @@ void readBinary(const uchar *bytes, Solid &solid, Message_ProgressScope &scope)
 {
     const auto count = qFromLittleEndian<quint32>(bytes + 80);
     solid.triangles.reserve(count);
+    // As in a closed surface.
+    solid.nodes.reserve(count / 2);
     const uchar *triangle = bytes + binaryHead;
     for (quint32 index = 0; index < count; ++index, triangle += binaryTriangle) {
         double corners[9];
