@@ -2100,8 +2100,8 @@ standard error stream and left; the exit status is then 1.
         <translation>%1にはフィールド%2がありません。このフィールドは無視されます。</translation>
     </message>
     <message>
-        <source>the file is damaged: %1 lacks what it is made of</source>
-        <translation>ファイルが破損しています：%1を構成するものが欠けています</translation>
+        <source>%1 lacks what it is made of, or is made of what cannot be understood</source>
+        <translation>%1を構成するものが欠けているか、解釈できません</translation>
     </message>
     <message>
         <source>the file is damaged: its entry D%1 refers to another that is not there</source>

@@ -2100,8 +2100,8 @@ standard error stream and left; the exit status is then 1.
         <translation>%1에는 필드 %2이(가) 없어 건너뜁니다.</translation>
     </message>
     <message>
-        <source>the file is damaged: %1 lacks what it is made of</source>
-        <translation>파일이 손상되었습니다: %1을(를) 이루는 것이 빠져 있습니다</translation>
+        <source>%1 lacks what it is made of, or is made of what cannot be understood</source>
+        <translation>%1을(를) 이루는 것이 빠져 있거나 해석할 수 없습니다</translation>
     </message>
     <message>
         <source>the file is damaged: its entry D%1 refers to another that is not there</source>

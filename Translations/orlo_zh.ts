@@ -2100,8 +2100,8 @@ standard error stream and left; the exit status is then 1.
         <translation>%1 没有字段 %2；已略过。</translation>
     </message>
     <message>
-        <source>the file is damaged: %1 lacks what it is made of</source>
-        <translation>文件已损坏：%1 缺少其组成部分</translation>
+        <source>%1 lacks what it is made of, or is made of what cannot be understood</source>
+        <translation>%1 缺少其组成部分，或其组成部分无法理解</translation>
     </message>
     <message>
         <source>the file is damaged: its entry D%1 refers to another that is not there</source>

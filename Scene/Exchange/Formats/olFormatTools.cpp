@@ -37,7 +37,7 @@ olFormatTools::checkEntities(const Handle(Interface_InterfaceModel) & model,
 
 olFailure olFormatTools::incomplete(const QString &entry)
 {
-    return {olReason::tr("the file is damaged: %1 lacks what it is made of").arg(entry)};
+    return {olReason::tr("%1 lacks what it is made of, or is made of what cannot be understood").arg(entry)};
 }
 
 TCollection_AsciiString olFormatTools::path(const QString &file) { return QFile::encodeName(file).constData(); }
