@@ -78,8 +78,9 @@ TEST_F(TesselationSettings, CheckBoxesAndGroupsDecideWhatIsEnabled)
     control<QCheckBox>(Control::Tessellation).click();
     EXPECT_FALSE(enabled(Control::Quality));
     for (const QLabel *label : settings.findChildren<QLabel *>()) {
-        if (label->buddy())
+        if (label->buddy()) {
             EXPECT_EQ(label->isEnabled(), label->buddy()->isEnabled()) << label->text().toStdString();
+        }
     }
     EXPECT_TRUE(enabled(Control::StitchingTolerance));
     control<QCheckBox>(Control::Stitching).click();
