@@ -2159,6 +2159,10 @@ standard error stream and left; the exit status is then 1.
         <source>Invisible surfaces that the import options leave out: %1.</source>
         <translation>가져오기 옵션에 따라 제외한 숨겨진 곡면: %1.</translation>
     </message>
+    <message>
+        <source>Materials that the materials file lacks: %1.</source>
+        <translation>재질 파일에 없는 재질: %1.</translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>

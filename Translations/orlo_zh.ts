@@ -2159,6 +2159,10 @@ standard error stream and left; the exit status is then 1.
         <source>Invisible surfaces that the import options leave out: %1.</source>
         <translation>导入选项略去的不可见曲面：%1。</translation>
     </message>
+    <message>
+        <source>Materials that the materials file lacks: %1.</source>
+        <translation>材质文件中缺少的材质：%1。</translation>
+    </message>
 </context>
 <context>
     <name>olRecentModels</name>

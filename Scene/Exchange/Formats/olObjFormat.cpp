@@ -32,6 +32,9 @@ olModelFormat olObjFormat();
 namespace
 {
 
+/// What the material of parts without a look is called.
+constexpr QLatin1String nameless("DefaultMaterial");
+
 bool isNumber(const QByteArray &text)
 {
     char *end = nullptr;
@@ -60,11 +63,14 @@ public:
         if (kind == "curv" || kind == "curv2" || kind == "surf")
             m_freeForms << m_group;
         if (kind == "mtllib")
-            m_materials = QFile::decodeName(line.trimmed().mid(7).trimmed());
+            m_libraries << QFile::decodeName(line.trimmed().mid(7).trimmed());
+        if (kind == "usemtl")
+            m_materials.insert(QString::fromUtf8(line.trimmed().mid(7).trimmed()));
         return {};
     }
 
-    [[nodiscard]] const QString &materials() const { return m_materials; }
+    [[nodiscard]] const QStringList &libraries() const { return m_libraries; }
+    [[nodiscard]] const QSet<QString> &materials() const { return m_materials; }
 
     /// The groups that the curves and surfaces stand in which are no polygons.
     [[nodiscard]] const QStringList &freeForms() const { return m_freeForms; }
@@ -111,10 +117,49 @@ private:
     qint64 m_textures = 0;
     qint64 m_normals = 0;
     qint64 m_highest = 0;
-    QString m_materials;
+    QStringList m_libraries;
+    QSet<QString> m_materials;
     QString m_group;
     QStringList m_freeForms;
 };
+
+/// The materials of a file of them; one that cannot be opened has none.
+QSet<QString> materialsOf(const QString &name)
+{
+    QSet<QString> materials;
+    QFile file(name);
+    const bool isFile = QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
+    while (isFile && !file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        if (line.startsWith("newmtl"))
+            materials.insert(QString::fromUtf8(line.mid(6).trimmed()));
+    }
+    return materials;
+}
+
+/// What of the looks is not there: whole files, or materials that none of the files has.
+void remarkMissingLooks(const Lines &lines, const QDir &folder, QStringList &remarks)
+{
+    QSet<QString> known{nameless};
+    for (const QString &library : lines.libraries()) {
+        // One file with blanks in its name, or several files.
+        const QStringList names = QStringList(library) + library.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        bool isThere = false;
+        for (const QString &name : names) {
+            const QString file = olFormatTools::fileIn(folder, name);
+            isThere = isThere || QFileInfo(file).isFile();
+            known += materialsOf(file);
+        }
+        if (!isThere && !library.isEmpty()) {
+            remarks << olReason::tr("The materials file %1 is not there; the model has no colors.").arg(library);
+            return;
+        }
+    }
+    QStringList missing = (lines.materials() - known).values();
+    missing.sort();
+    if (!lines.libraries().isEmpty() && !missing.isEmpty())
+        remarks << olReason::tr("Materials that the materials file lacks: %1.").arg(olFormatTools::listed(missing));
+}
 
 olResult<> check(QFile &file, QStringList &remarks)
 {
@@ -139,15 +184,7 @@ olResult<> check(QFile &file, QStringList &remarks)
     if (!lines.freeForms().isEmpty())
         remarks << olReason::tr("Free-form curves and surfaces that are left out: %1.")
                        .arg(olFormatTools::listedWithNameless(lines.freeForms()));
-    const QString materials = lines.materials();
-    const QDir folder = QFileInfo(file).absoluteDir();
-    const QStringList words = materials.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const auto isFile = [&folder](const QString &name) {
-        return QFileInfo(olFormatTools::fileIn(folder, name)).isFile();
-    };
-    const bool isThere = isFile(materials) || std::any_of(words.begin(), words.end(), isFile);
-    if (!materials.isEmpty() && !isThere)
-        remarks << olReason::tr("The materials file %1 is not there; the model has no colors.").arg(materials);
+    remarkMissingLooks(lines, QFileInfo(file).absoluteDir(), remarks);
     return {};
 }
 
@@ -230,7 +267,7 @@ private:
             return known->second;
         // Readers take no look of their own from a name that no material has.
         if (look.IsNull())
-            return QStringLiteral("DefaultMaterial");
+            return nameless;
         const QString own = lineOf(m_tree.lookName(look)).replace(QLatin1Char(' '), QLatin1Char('_'));
         QString name = own.isEmpty() ? QStringLiteral("material") : own;
         const QString wanted = name;

@@ -335,6 +335,9 @@ TEST_F(ImportOption, FilesThatAFileRefersToAreReadOrLeftAlone)
     EXPECT_TRUE(Outline(imported(references)).colours.join(QString()).contains(QStringLiteral("0.00 1.00 0.00")));
     references.options.importReferencedFiles = false;
     EXPECT_FALSE(Outline(imported(references)).colours.join(QString()).contains(QStringLiteral("0.00 1.00 0.00")));
+    EXPECT_TRUE(olImport(job("m.obj", QByteArray("mtllib m.mtl\nusemtl green\nusemtl blue\n") + twoTriangles))
+                    .remarks.join(QString())
+                    .contains(QStringLiteral("lacks: blue.")));
     QFile::remove(path(QStringLiteral("m.mtl")));
     EXPECT_TRUE(olImport(job("m.obj", QByteArray("mtllib m.mtl\n") + twoTriangles))
                     .remarks.join(QString())
