@@ -186,7 +186,7 @@ class Batch(tool_test.ToolTest):
                 result = self.stored("--sample", "--tour", folder)
                 self.assertEqual(result.returncode, 0, result.stderr)
                 self.assertIn("olOSGWidget::setFov(-1, 25)", result.stdout)
-                self.assertEqual(len(list(folder.glob("*.png"))), 16)
+                self.assertEqual(len(list(folder.glob("*.png"))), 17)
                 self.assertEqual(result.stderr.count("fonts-noto-cjk"), 0 if language == "0" else 1)
 
     def test_a_setting_that_no_page_has_opens_nothing(self):
