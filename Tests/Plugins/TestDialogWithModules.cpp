@@ -356,13 +356,14 @@ TEST_F(DialogWithModules, WhatThePageWouldAskAboutIsAskedWhenAnotherProgramStore
     constexpr auto server = "WebInterface enable web server2";
     ASSERT_EQ(session.loadStore().error(), QString());
     olPreferencesStore other(session.store().file());
-    const auto storeOutside = [&](bool isOn, float width) {
+    const auto storeOutside = [&](bool isOn, float range) {
         EXPECT_TRUE(other
                         .save({{{olHome::Record, server}, {}, olStoreRows::Row::of(isOn)},
-                               {{olHome::Record, "Powerwall width"}, {}, olStoreRows::Row::of(width)}})
+                               {{olHome::Service, "VR Teleport Range"}, {}, olStoreRows::Row::of(range)}})
                         .isOk());
         session.takeOver();
-        EXPECT_EQ(boost::any_cast<float>(record().get("Powerwall width")), width) << "nothing else waits for that";
+        const auto &service = *olKernelServiceFactory::the<olPreferencesService>();
+        EXPECT_EQ(service.getFloat("VR Teleport Range", 0.0f), range) << "nothing else waits for that";
     };
     const auto isOn = [] { return boost::any_cast<bool>(record().get(server)); };
     const auto isStoredOn = [&] {
