@@ -398,6 +398,9 @@ void olPreferencesStore::change(const std::vector<Change> &changes, std::vector<
     (void)olStoreTables::read(database, m_isStore);
     if (!olStoreTables::change(database, changes, left))
         return;
+    // The database looks only at its first write whether another program has set the file aside.
+    if (database.wasMoved())
+        throw busy();
     database.run("COMMIT");
 }
 

@@ -144,3 +144,10 @@ std::string olSqlite::text(const std::string &sql)
 }
 
 int olSqlite::number(const std::string &sql) { return std::atoi(text(sql).c_str()); }
+
+bool olSqlite::wasMoved() const
+{
+    int wasMoved = 0;
+    sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &wasMoved);
+    return wasMoved != 0;
+}

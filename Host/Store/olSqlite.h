@@ -61,6 +61,9 @@ public:
     [[nodiscard]] std::string text(const std::string &sql);
     [[nodiscard]] int number(const std::string &sql);
 
+    /// Whether another file, or none, now bears the name of the one that is open.
+    [[nodiscard]] bool wasMoved() const;
+
 private:
     olSqlite(const QByteArray &path, const char *fileSystem);
     void require(int result) const;
