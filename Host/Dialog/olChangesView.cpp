@@ -102,6 +102,7 @@ olChangesView::olChangesView(const QString &title, QWidget *parent)
     m_changes->setObjectName(QStringLiteral("changes"));
     m_changes->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_skipped->setObjectName(QStringLiteral("skipped"));
+    m_skippedLabel->setObjectName(QStringLiteral("skippedLabel"));
     m_skippedLabel->setBuddy(m_skipped);
     m_skippedLabel->setVisible(false);
     m_skipped->setVisible(false);

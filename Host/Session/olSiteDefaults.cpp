@@ -83,8 +83,6 @@ QStringList olSiteDefaults::systemFiles()
 
 void olSiteDefaults::read()
 {
-    m_read.clear();
-    m_faults.clear();
     for (const QString &name : qAsConst(m_files))
         readFile(name);
 }
@@ -174,8 +172,6 @@ olSiteSetting olSiteDefaults::settingOf(const QString &file, const Line &line, c
 
 void olSiteDefaults::resolve(const DefaultOf &defaultOf, const WhyNot &whyNot)
 {
-    m_settings.clear();
-    m_unknown.clear();
     for (const File &file : m_read) {
         for (const Line &line : file.lines)
             resolveLine(file.name, line, defaultOf(line.key), whyNot);

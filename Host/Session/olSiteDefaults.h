@@ -47,13 +47,14 @@ public:
     {
     }
 
-    /// Reads the files. To be called before any of the following.
+    /// Reads the files. To be called once, before any of the following.
     void read();
 
     /// A setting that is needed before there are modules; its value is empty where no file gives one of that type.
     [[nodiscard]] olSiteSetting early(const std::string &key, const std::string &type) const;
 
-    /// Holds the files against the modules' settings. A value that a setting cannot have leaves the module's default.
+    /// Holds the files against the modules' settings, once. A value that a setting cannot have leaves the module's
+    /// default.
     void resolve(const DefaultOf &defaultOf, const WhyNot &whyNot);
 
     /// After resolve(): only keys that a module has.

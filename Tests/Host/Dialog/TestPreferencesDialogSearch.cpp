@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPalette>
+#include <QStyleOptionViewItem>
 #include <QTest>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -120,6 +121,13 @@ TEST_F(PreferencesDialogSearch, ListsSettingsWithTheirValuesAndGoesThereByEnterO
     EXPECT_TRUE(all.contains(QStringLiteral("Mode | Studio \u203a Picture | Hasty | default"))) << "found by its key";
     const auto *tree = dialog->findChild<QTreeWidget *>();
     EXPECT_EQ(tree->currentItem()->text(1).toInt(), all.size()) << "the tree says how many";
+    QImage row(400, 20, QImage::Format_RGB32);
+    QPainter painter(&row);
+    QStyleOptionViewItem label;
+    label.rect = QRect(0, 0, 200, 20);
+    found().itemDelegateForColumn(0)->paint(&painter, label, found().model()->index(0, 0));
+    EXPECT_FALSE(painter.hasClipping()) << "the value beside it is drawn by the same painter";
+    painter.end();
 
     type(QStringLiteral("texts"));
     EXPECT_EQ(rows().size(), 2) << "the tab's title counts for what is on it";

@@ -81,6 +81,9 @@ TEST(PreferencesFile, ReadsBackEveryTypeExactly)
     ASSERT_EQ(read->settings.size(), values.size());
     for (const auto &[key, value] : values)
         EXPECT_TRUE(olValue::identical(read->settings.at(key), value)) << key;
+    for (const auto &other :
+         {osg::Color3f(0.5f, 0.1f, 1.0f), osg::Color3f(0.25f, 0.5f, 1.0f), osg::Color3f(0.25f, 0.1f, 0)})
+        EXPECT_FALSE(olValue::identical(read->settings.at("c"), other));
 }
 
 TEST(PreferencesFile, RefusesWhatIsNoFileOfPreferencesAsAWhole)
@@ -122,8 +125,10 @@ TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
     EXPECT_TRUE(skipped.contains(QStringLiteral("Studio title | is locked: House style.")));
     EXPECT_EQ(module.page.samples->value(), 4);
 
-    view->resize(400, 10);
     const auto *list = view->findChild<QTreeWidget *>(QStringLiteral("skipped"));
+    EXPECT_LT(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->y(),
+              view->findChild<QLabel *>(QStringLiteral("skippedLabel"))->y());
+    view->resize(400, 10);
     EXPECT_LT(list->geometry().bottom(), view->findChild<QWidget *>(QStringLiteral("copyAsText"))->geometry().top());
     EXPECT_LE(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->header()->length(), list->width())
         << "old and new value are in sight in a narrow window, too";

@@ -349,6 +349,8 @@ TEST_F(Site, TheMoreImportantFileHoldsAndAFaultInItLeavesTheOther)
 
 TEST_F(Site, TheLanguageStandsBeforeTheModulesUnlessThePersonChoseOne)
 {
+    run("{}");
+    EXPECT_EQ(int(olHostState::the().displayLanguage), 0);
     write(siteFile, R"({"MainWindow user language": {"value": 2}})");
     session = std::make_unique<olPreferencesSession>(file, QStringList{siteFile});
     ASSERT_EQ(session->loadStore().error(), QString());

@@ -30,6 +30,8 @@ TEST_F(Translations, AreOfOneLanguageAsLongAsTheyStandAndKnowTheirEnglish)
             translations.load(language);
             seen << changes();
             EXPECT_EQ(olTranslations::english(seen.last()), language == 0 ? QStringList() : QStringList("Changes"));
+            EXPECT_EQ(qApp->property("olTranslationFiles").toStringList().size(), language == 0 ? 0 : 1)
+                << "which the process that reads models is told";
         }
     }
     EXPECT_EQ(seen.first(), "Changes");

@@ -209,7 +209,14 @@ TEST_F(StoreFaults, AStoreOfTheEarlierFormIsReadAndBecomesOneOfThisFormAtTheFirs
         ASSERT_EQ(QFile::exists(file + "-wal"), isLogLeft);
         const auto before = disk();
         EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
+        olPreferencesStore store(file);
+        EXPECT_TRUE(store.load().isOk());
         EXPECT_EQ(disk(), before);
+        EXPECT_FALSE(store.mayHaveChanged());
+        QFile log(file + "-wal");
+        EXPECT_TRUE(!isLogLeft || (log.open(QIODevice::Append) && log.write("x", 1) == 1));
+        log.close();
+        EXPECT_EQ(store.mayHaveChanged(), isLogLeft) << "an earlier program writes to its log alone";
         save({{key("b"), 2}});
         EXPECT_FALSE(QFile::exists(file + "-wal") || QFile::exists(file + "-shm"));
         EXPECT_EQ(bytesOf(file).mid(18, 2), QByteArray("\1\1"));

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QFormLayout>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -238,6 +239,10 @@ TEST(HostWheel, TurnsByDragFineAndCoarse)
     EXPECT_EQ(wheel.value(), 1.31);
     QTest::keyClick(rim, Qt::Key_Left);
     EXPECT_EQ(wheel.value(), 1.21);
+    rim->setFocus();
+    const QImage focused = rim->grab().toImage();
+    rim->clearFocus();
+    EXPECT_NE(rim->grab().toImage(), focused) << "where the keys go is to be seen";
 }
 
 TEST(HostWidgets, LeaveTheWheelToThePageUntilTheyHaveTheFocus)
