@@ -51,7 +51,9 @@ olFoundRows::Row olFoundRows::row(int row) const { return row >= 0 && row < size
 
 QString olFoundRows::text(int row, olFoundSettings::Column column) const
 {
-    const auto &[entry, control] = m_rows[std::size_t(row)];
+    const auto [entry, control] = this->row(row);
+    if (!entry)
+        return {};
     switch (column) {
     case olFoundSettings::Label:
         return control.widget ? control.name : entry->name();

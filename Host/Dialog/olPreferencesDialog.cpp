@@ -725,9 +725,10 @@ void olPreferencesDialog::goToFound(int row)
 void olPreferencesDialog::openMenuOfFound(int row, const QPoint &globalPosition)
 {
     const auto [entry, control] = m_found->row(row);
+    if (!control.widget)
+        return;
     m_menu->addTo(m_search->controls(*entry));
-    if (control.widget)
-        m_menu->openFor(control.widget, globalPosition);
+    m_menu->openFor(control.widget, globalPosition);
 }
 
 void olPreferencesDialog::revealFirstHit()
