@@ -386,10 +386,9 @@ void olPreferencesStore::change(const std::vector<Change> &changes, std::vector<
             throw systemError();
         ::close(made);
     }
-    // What the database would work in from another file is proved on a copy before. A journal that changes meanwhile is
-    // the work of a program that lives, which the database waits for.
-    if (hasJournal(m_file) || versionsIn(headerOf(m_file)) != "\1\1")
-        (void)tryToRead(m_file, m_isStore);
+    // All of it, with what the database would work in from another file, is proved on a copy before, while nobody has
+    // to wait for this save. What changes meanwhile is the work of a program that lives, which the database waits for.
+    (void)tryToRead(m_file, m_isStore);
     olSqlite database(m_file, olSqlite::Access::Shared);
     if (database.text("PRAGMA journal_mode = DELETE") != "delete")
         throw busy();

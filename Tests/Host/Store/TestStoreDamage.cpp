@@ -209,6 +209,17 @@ TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
     EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
 }
 
+TEST_F(StoreDamage, NoSaveGoesIntoAFileThatTheNextStartWouldSetAside)
+{
+    for (const char *sql : {"DELETE FROM setting WHERE key = 'Row 7'", "UPDATE history SET program = 'x'"}) {
+        write(file, sound);
+        tamper(sql);
+        olPreferencesStore store(file);
+        EXPECT_TRUE(store.save(to({{key("new"), 1}})).error().contains(file)) << sql;
+        EXPECT_TRUE(store.isBroken()) << sql;
+    }
+}
+
 TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
 {
     olPreferencesStore store(file);
