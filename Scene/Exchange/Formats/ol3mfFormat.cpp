@@ -6,6 +6,7 @@
 #include <TDocStd_Document.hxx>
 #include <minizip/unzip.h>
 
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QString>
@@ -36,13 +37,15 @@ public:
         QString model;
         eachElement(QStringLiteral("_rels/.rels"), [&model](const QXmlStreamReader &xml) {
             if (xml.attributes().value(QLatin1String("Type")).endsWith(QLatin1String("/3dmodel")))
-                model = xml.attributes().value(QLatin1String("Target")).mid(1).toString();
+                model = QDir::cleanPath(QLatin1Char('/') + xml.attributes().value(QLatin1String("Target"))).mid(1);
         });
         eachElement(model, [&](const QXmlStreamReader &xml) {
             if (xml.name() == QLatin1String("model"))
                 takeModel(xml, conventions);
             else if (xml.name() == QLatin1String("object"))
                 takeObject(xml.attributes(), conventions);
+            else if (xml.name() == QLatin1String("component") || xml.name() == QLatin1String("item"))
+                checkPlace(xml.attributes());
         });
         return m_result;
     }
@@ -79,10 +82,30 @@ private:
                                          .toString()
                                          .split(QLatin1Char(' '), Qt::SkipEmptyParts);
         for (const QXmlStreamNamespaceDeclaration &space : xml.namespaceDeclarations()) {
-            if (required.contains(space.prefix()) && !space.namespaceUri().contains(QLatin1String("/material/")))
-                m_result = olFailure{olReason::tr("it requires the extension %1, which is not supported")
-                                         .arg(space.namespaceUri().toString())};
+            const bool isKnown = isOf(space.namespaceUri(), "/material/") || isOf(space.namespaceUri(), "/production/");
+            if (required.contains(space.prefix()) && !isKnown)
+                refuse(space.namespaceUri());
         }
+    }
+
+    /// Of the extension for production the library passes over the numbers of parts, and that some are in other files.
+    void checkPlace(const QXmlStreamAttributes &part)
+    {
+        for (const QXmlStreamAttribute &each : part) {
+            if (each.name() == QLatin1String("path") && isOf(each.namespaceUri(), "/production/"))
+                refuse(each.namespaceUri());
+        }
+    }
+
+    static bool isOf(const QStringRef &space, const char *extension)
+    {
+        return space.contains(QLatin1String(extension));
+    }
+
+    void refuse(const QStringRef &space)
+    {
+        m_result =
+            olFailure{olReason::tr("it requires the extension %1, which is not supported").arg(space.toString())};
     }
 
     /// The library numbers meshes and nodes.

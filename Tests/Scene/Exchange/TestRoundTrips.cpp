@@ -23,12 +23,15 @@
 #include <XCAFDoc_ShapeTool.hxx>
 #include <XCAFDoc_VisMaterial.hxx>
 #include <XCAFDoc_VisMaterialTool.hxx>
+#include <minizip/zip.h>
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
 
 #include <unistd.h>
+
+#include <utility>
 
 namespace
 {
@@ -56,19 +59,38 @@ int textures(const olScene::Document &document)
     return count;
 }
 
-/// A small wedge of an inch in a container.
-const char packedWedge[] =
-    "UEsDBBQAAAAIAAAAIQDkFNlasQAAACwBAAATAAAAW0NvbnRlbnRfVHlwZXNdLnhtbIWQzQrCMBCEXyXkKm2qggfpz0F9A19gSbdtMH8k21Lf3rQq"
-    "gggeZ2d2PpiymY1mE4aonK34Ni94U5fXu8fIkmNjxQcifxQiygENxNx5tMnpXDBASYZeeJA36FHsiuIgpLOEljJaOnhdnrGDURO7zOn8pATUkbPT"
-    "M7iwKg7eayWBki8m235RshchT59rJg7Kx00KcPGTYFyL+g/CfGr3rQE7diBpDMr2WdJLwRsg1j3qB1BLAwQUAAAACAAAACEAiBPYBaEAAADuAAAA"
-    "CwAAAF9yZWxzLy5yZWxzZY9NCsIwEIWvEuYAmdSCC2najRu30gsMaZoGmx+SVPT2RkGwuBl48958j+mGh1vZXadsg5fQcAFD3131SqUu8mJjZjXh"
-    "s4SllHhCzGrRjjIPUfvqzCE5KlUmg5HUjYzGgxBHTL8M2DPZSMnoIgHbM7aTC5Ne+WcCu0wSErDxGfVfp7MqhRzmwlVw70Py20yqbMl6U2ubFkXz"
-    "BQL2He4+6V9QSwMEFAAAAAgAAAAhAN+R6o/vAAAAAwIAABAAAAAzRC8zZG1vZGVsLm1vZGVsdZDRbsMgDEV/BfkD6pC8TUA/Y88pcROmABWQKO3X"
-    "j0ClZdryYoyOr311xXWzM1spROOdBH5p4KqE9QPNbHEmSTBOT8DylIsSppQeH4hRT2T7eLFGBx/9PV20t9gNtnfLvddpCcaN2Da8w4aj9oFAiUDR"
-    "L0FTVMLfvkgnZoZ8EZjrLUn4pGEkYOn5yJ9iIGssxUmJbC+ZItw72tgmoQH2LPW1Vzwifo6qip+jquI7wp+zKZjejfOxZSsv02sroc1P91b9x3nl"
-    "3RnvKm//cP5rf9HjwQvWeLDGmZtDxLfFzIMSJpFllde09xVvhiVl9Q1QSwECFAMUAAAACAAAACEA5BTZWrEAAAAsAQAAEwAAAAAAAAAAAAAAgAEA"
-    "AAAAW0NvbnRlbnRfVHlwZXNdLnhtbFBLAQIUAxQAAAAIAAAAIQCIE9gFoQAAAO4AAAALAAAAAAAAAAAAAACAAeIAAABfcmVscy8ucmVsc1BLAQIU"
-    "AxQAAAAIAAAAIQDfkeqP7wAAAAMCAAAQAAAAAAAAAAAAAACAAawBAAAzRC8zZG1vZGVsLm1vZGVsUEsFBgAAAAADAAMAuAAAAMkCAAAAAA==";
+/// A small wedge of an inch in a container, in which the model goes by that name, and its item has more attributes.
+void packWedge(const QString &file, const char *target, const char *more = "")
+{
+    const std::pair<const char *, QByteArray> parts[] = {
+        {"[Content_Types].xml",
+         R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
+         R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
+         R"(<Default Extension="model" ContentType="application/vnd.ms-package.3dmanufacturing-3dmodel+xml"/></Types>)"},
+        {"_rels/.rels",
+         QByteArray(R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
+                    R"(<Relationship Id="r" Type="http://schemas.microsoft.com/3dmanufacturing/2013/01/3dmodel" )"
+                    R"(Target=")") +
+             target + R"("/></Relationships>)"},
+        {"3D/3dmodel.model",
+         QByteArray(
+             R"(<model unit="inch" xmlns="http://schemas.microsoft.com/3dmanufacturing/core/2015/02" )"
+             R"(xmlns:p="http://schemas.microsoft.com/3dmanufacturing/production/2015/06" )"
+             R"(requiredextensions="p"><resources>)"
+             R"(<object id="1" name="Wedge" type="model"><mesh><vertices><vertex x="0" y="0" z="0"/>)"
+             R"(<vertex x="1" y="0" z="0"/><vertex x="0" y="1" z="0"/><vertex x="0" y="0" z="1"/></vertices><triangles>)"
+             R"(<triangle v1="0" v2="2" v3="1"/><triangle v1="0" v2="1" v3="3"/><triangle v1="1" v2="2" v3="3"/>)"
+             R"(<triangle v1="0" v2="3" v3="2"/></triangles></mesh></object></resources>)"
+             R"(<build><item objectid="1" p:UUID="8c1d2c4e-0d9b-4b0c-9c43-2a1e0f4b7d11")") +
+             more + "/></build></model>"}};
+    const zipFile zip = zipOpen64(QFile::encodeName(file).constData(), APPEND_STATUS_CREATE);
+    for (const auto &[name, content] : parts) {
+        zipOpenNewFileInZip(zip, name, nullptr, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED, Z_DEFAULT_COMPRESSION);
+        zipWriteInFileInZip(zip, content.constData(), unsigned(content.size()));
+        zipCloseFileInZip(zip);
+    }
+    ASSERT_EQ(zipClose(zip, nullptr), ZIP_OK);
+}
 
 /// Two triangles in one mesh, of which one is coloured corner by corner.
 const char plyFile[] =
@@ -191,16 +213,22 @@ TEST_F(RoundTrip, WhatAFormatCanHoldComesBackAndTheRestIsSaid)
                                            "0.1 0.2 0.3\n");
     const QVector<QPair<QString, QByteArray>> files{
         {QStringLiteral("p.ply"), plyFile}, {QStringLiteral("o.off"), "OFF\n3 1 0\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2\n"},
-        {QStringLiteral("d.dae"), daeFile}, {QStringLiteral("3.3mf"), QByteArray::fromBase64(packedWedge)},
-        {QStringLiteral("w.wrl"), wrlFile}, {QStringLiteral("o.obj"), objFile},
-        {QStringLiteral("s.stl"), stlFile},
+        {QStringLiteral("d.dae"), daeFile}, {QStringLiteral("w.wrl"), wrlFile},
+        {QStringLiteral("o.obj"), objFile}, {QStringLiteral("s.stl"), stlFile},
     };
     QVector<QPair<QString, olScene::Document>> models{{QStringLiteral("made"), everythingOfSurfaces()}};
     for (const auto &[name, content] : files)
         models.append({name, imported(olImportJob::of(written(name, content)))});
-    const Outline wedge(models.at(4).second);
-    EXPECT_NEAR(wedge.high[0], 25.4, 1e-3);
-    EXPECT_TRUE(wedge.names.contains(QStringLiteral("Wedge")));
+    const QString packed = path(QStringLiteral("3.3mf"));
+    for (const char *target : {"3D/3dmodel.model", "/3D/3dmodel.model"}) {
+        packWedge(packed, target);
+        const Outline wedge(imported(olImportJob::of(packed)));
+        EXPECT_NEAR(wedge.high[0], 25.4, 1e-3) << target;
+        EXPECT_TRUE(wedge.names.contains(QStringLiteral("Wedge"))) << target;
+    }
+    models.append({QStringLiteral("3.3mf"), imported(olImportJob::of(packed))});
+    packWedge(packed, "3D/3dmodel.model", R"( p:path="/3D/other.model")");
+    EXPECT_TRUE(olImport(olImportJob::of(packed)).document.error().contains(QStringLiteral("production/2015/06")));
     for (const char *name : {"s.step", "s.igs", "s.glb"}) {
         const QString file = path(QLatin1String(name));
         ASSERT_EQ(olExportScene(models.first().second, file).error(), QString());
