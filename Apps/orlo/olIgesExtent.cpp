@@ -57,7 +57,7 @@ QList<QByteArray> fieldsOf(const QByteArray &record)
     for (int place = 0; place < record.size(); ++place) {
         const char letter = record.at(place);
         if (letter == 'H')
-            place += std::max(record.mid(begin, place - begin).trimmed().toInt(), 0);
+            place += std::clamp(record.mid(begin, place - begin).trimmed().toInt(), 0, record.size() - place);
         if (letter != ',' && letter != ';')
             continue;
         fields << record.mid(begin, place - begin).trimmed();

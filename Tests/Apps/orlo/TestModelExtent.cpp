@@ -99,9 +99,11 @@ TEST_F(ModelExtent, OfAnIgesFileIsThatOfTheEdgesOrOfNothing)
         unknown.append({what, parameters});
         EXPECT_EQ(extentOf(unknown), 0.0) << parameters.constData();
     }
-    auto damaged = face;
-    damaged[3].second = "110,3.,0.,x,3.,4.,0.;";
-    EXPECT_EQ(extentOf(damaged), 0.0);
+    for (const char *field : {"x", "2147483647H"}) {
+        auto damaged = face;
+        damaged[3].second = QByteArray("110,3.,0.,") + field + ",3.,4.,0.;";
+        EXPECT_EQ(extentOf(damaged), 0.0) << field;
+    }
 }
 
 } // namespace
