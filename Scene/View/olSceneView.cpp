@@ -1,5 +1,6 @@
 #include "View/olSceneView.h"
 
+#include "Model/olLibraryMessages.h"
 #include "State/olHostState.h"
 #include "View/olCornerMarks.h"
 #include "View/olGlBinding.h"
@@ -150,6 +151,7 @@ olSceneView::~olSceneView()
 
 std::unique_ptr<olSceneView> olSceneView::create(quintptr window, const QSize &size, QString &error)
 {
+    olSilenceLibrary();
     const Handle(Graphic3d_GraphicDriver) driver = olGlBinding::makeDriver();
     if (driver.IsNull()) {
         error = Words::tr("The 3D view needs an X display.");

@@ -55,6 +55,10 @@ class Batch(tool_test.ToolTest):
         self.assert_refused(self.stored(self.folder / "none.step", "--save", converted),
                             f"orlo: Cannot read {self.folder}/none.step: there is no such file.")
 
+    def test_what_the_renderer_says_of_an_old_driver_is_no_answer(self):
+        self.environment["MESA_GL_VERSION_OVERRIDE"] = "2.1"
+        self.assertGreater(self.triangles(self.sample_as("stl")), 0)
+
     def test_questions_are_answered_without_a_display(self):
         del self.environment["DISPLAY"]
         for question, answer in (("--help", "Import a model"), ("--version", "orlo ")):
