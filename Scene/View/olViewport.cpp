@@ -338,9 +338,11 @@ void olViewport::startStill(olStillFrame &still, const QSize &size) const
     const olHostState &state = olHostState::the();
     const double radius = double(state.antialiasingDistance) * double(state.antialiasingScale);
     const double triangles = d->view ? d->view->triangles() : 0.0;
-    if (triangles > veryManyTriangles)
+    // It shall not be worse than the frame before it.
+    const int least = d->view ? int(d->view->shifts(false).size()) : 1;
+    if (triangles > veryManyTriangles && least == 1)
         return still.start(radius, 1, 1);
-    const int wanted = triangles > manyTriangles ? fewStills : stills;
+    const int wanted = std::max(triangles > manyTriangles ? fewStills : stills, least);
     const bool isOnCard = std::abs(radius) <= 1.0 && size.width() * size.height() <= mostSampledPixels && d->view &&
                           d->view->canTake(samplesAtOnce);
     const int samples = isOnCard ? samplesAtOnce : 1;

@@ -237,6 +237,15 @@ TEST_F(PictureQuality, ALargeModelHasFewerTrianglesWhileTheCameraMoves)
     }
 }
 
+TEST_F(PictureQuality, AStillFrameOfALargeModelIsNoWorseThanTheFrameBefore)
+{
+    scene.setDocument(largeModel(false));
+    apply(rendering, "RenderOptions enable antialiase", true);
+    apply(rendering, "RenderOptions antialiase distance", 0.0f);
+    const QImage frame = sampled(8);
+    EXPECT_LT(distance(frame, view.stillPicture()), 0.01);
+}
+
 TEST_F(PictureQuality, WithoutSleepTheViewDrawsAllTheTime)
 {
     int frames = 0;
