@@ -11,6 +11,8 @@
 #include <QHash>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QTranslator>
 #include <QVariant>
 
@@ -26,10 +28,15 @@ constexpr auto filesProperty = "olTranslationFiles";
 
 /// English by translation, which several texts may share. Whoever knows a setting by its English name finds it in any
 /// language.
-QHash<QString, QStringList> &sources()
+struct Sources {
+    QHash<QString, QStringList> texts;
+    QMutex guard; ///< models are read in threads of their own, which translate too
+};
+
+Sources &sources()
 {
-    static QHash<QString, QStringList> texts;
-    return texts;
+    static Sources all;
+    return all;
 }
 
 /// Remembers what it translated from.
@@ -41,8 +48,9 @@ public:
         const QString translated = QTranslator::translate(context, text, comment, count);
         if (translated.isEmpty())
             return translated;
-        QStringList &english = sources()[olWithoutMnemonic(translated)];
         const QString source = olWithoutMnemonic(QString::fromUtf8(text));
+        const QMutexLocker lock(&sources().guard);
+        QStringList &english = sources().texts[olWithoutMnemonic(translated)];
         if (!english.contains(source))
             english << source;
         return translated;
@@ -65,7 +73,10 @@ const QStringList &olTranslations::languages()
 void olTranslations::load(int language)
 {
     m_translators.clear();
-    sources().clear();
+    {
+        const QMutexLocker lock(&sources().guard);
+        sources().texts.clear();
+    }
     if (m_language != 0)
         QLocale::setDefault(QLocale::system());
     if (QCoreApplication::instance())
@@ -101,7 +112,8 @@ void olTranslations::loadOfPlugin(const QString &library)
 QStringList olTranslations::english(const QString &text)
 {
     // What shows ampersands as they are, has not been read as a text with mnemonics.
-    return sources().value(text, sources().value(olWithoutMnemonic(text)));
+    const QMutexLocker lock(&sources().guard);
+    return sources().texts.value(text, sources().texts.value(olWithoutMnemonic(text)));
 }
 
 void olTranslations::add(const QString &name, const QStringList &folders)
