@@ -141,6 +141,7 @@ QSet<QString> materialsOf(const QString &name)
 void remarkMissingLooks(const Lines &lines, const QDir &folder, QStringList &remarks)
 {
     QSet<QString> known{nameless};
+    QString gone;
     for (const QString &library : lines.libraries()) {
         // One file with blanks in its name, or several files.
         const QStringList names = QStringList(library) + library.split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -150,10 +151,12 @@ void remarkMissingLooks(const Lines &lines, const QDir &folder, QStringList &rem
             isThere = isThere || QFileInfo(file).isFile();
             known += materialsOf(file);
         }
-        if (!isThere && !library.isEmpty()) {
-            remarks << olReason::tr("The materials file %1 is not there; the model has no colors.").arg(library);
-            return;
-        }
+        if (!isThere && !library.isEmpty())
+            gone = library;
+    }
+    if (!gone.isEmpty() && known.size() == 1) {
+        remarks << olReason::tr("The materials file %1 is not there; the model has no colors.").arg(gone);
+        return;
     }
     QStringList missing = (lines.materials() - known).values();
     missing.sort();

@@ -338,6 +338,10 @@ TEST_F(ImportOption, FilesThatAFileRefersToAreReadOrLeftAlone)
     EXPECT_TRUE(olImport(job("m.obj", QByteArray("mtllib m.mtl\nusemtl green\nusemtl blue\n") + twoTriangles))
                     .remarks.join(QString())
                     .contains(QStringLiteral("lacks: blue.")));
+    EXPECT_EQ(olImport(job("m.obj", QByteArray("mtllib none.mtl\nmtllib m.mtl\nusemtl green\n") + twoTriangles))
+                  .remarks.join(QString())
+                  .toStdString(),
+              "");
     QFile::remove(path(QStringLiteral("m.mtl")));
     EXPECT_TRUE(olImport(job("m.obj", QByteArray("mtllib m.mtl\n") + twoTriangles))
                     .remarks.join(QString())
