@@ -15,6 +15,7 @@
 #include "Model/olScene.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olHostState.h"
+#include "Utilities/olWithoutMnemonic.h"
 #include "View/olViewport.h"
 
 #include <QAction>
@@ -25,7 +26,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
@@ -179,9 +179,8 @@ void olMainWindow::addViewActions()
     QAction *zoom = m_tools->addAction(olToolIcons::zoomTo(), tr("&Zoom To"));
     zoom->setShortcut(QKeySequence(Qt::Key_End));
     // East Asian texts have their mnemonic in brackets, which mean nothing on a button.
-    static const QRegularExpression mnemonic(QStringLiteral("\\(&\\w\\)|&"));
     for (QAction *action : {all, zoom}) {
-        action->setIconText(action->text().remove(mnemonic));
+        action->setIconText(olWithoutMnemonic(action->text()));
         action->setToolTip(action->iconText());
     }
     zoom->setToolTip(tr("Brings what is selected near"));

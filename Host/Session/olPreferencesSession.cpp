@@ -510,10 +510,9 @@ void olPreferencesSession::answer(const std::string &key, bool isAgreed)
 {
     for (const olHome home : {olHome::Record, olHome::Service}) {
         const bool isStillAsked = isHeldBack({home, key});
-        const olOutsideChange change = m_heldBack[{home, key}];
-        m_heldBack.erase({home, key});
+        const auto held = m_heldBack.extract({home, key});
         if (isStillAsked && isAgreed)
-            putIntoForce({change});
+            putIntoForce({held.mapped()});
     }
 }
 

@@ -357,10 +357,7 @@ class Walk
 {
 public:
     Walk(const olImportJob &job, const olScene::Document &document, QStringList &remarks)
-        : m_folder(QFileInfo(job.file).absoluteDir()),
-          m_name(QFileInfo(job.file).completeBaseName()),
-          m_target(document),
-          m_remarks(remarks)
+        : m_name(QFileInfo(job.file).completeBaseName()), m_target(document), m_remarks(remarks)
     {
         m_openFiles << QFileInfo(job.file).canonicalFilePath();
     }
@@ -712,7 +709,6 @@ private:
             m_flat->push_back({part, placement.where, name});
     }
 
-    QDir m_folder;
     QString m_name;
     olMeshDocument m_target;
     QStringList &m_remarks;
