@@ -38,8 +38,7 @@ class Rollout(tool_test.ToolTest):
     def test_the_manifest_is_understood(self):
         manifest = self.folder / "orlo.pp"
         manifest.write_text(recipe("puppet"))
-        result = subprocess.run(["puppet", "parser", "validate", manifest], capture_output=True, encoding="utf-8",
-                                check=False)
+        result = self.execute(["puppet", "parser", "validate", manifest])
         self.assertEqual((result.stderr, result.returncode), ("", 0))
 
 

@@ -6,7 +6,6 @@ import pty
 import re
 import select
 import shutil
-import subprocess
 import unittest
 
 import tool_test
@@ -29,8 +28,7 @@ class Shells(tool_test.ToolTest):
         self.environment["PATH"] = f"{self.folder_of_programs}:{os.environ['PATH']}"
 
     def listed(self, program, *command):
-        return subprocess.run([self.folder_of_programs / program, *command, "--help"], env=self.environment, check=True,
-                              capture_output=True, encoding="utf-8").stdout
+        return self.execute([self.folder_of_programs / program, *command, "--help"]).stdout
 
     def words_of(self, program):
         """The options and commands that the program's own help tells of, and the options of each command."""
@@ -62,9 +60,7 @@ class Shells(tool_test.ToolTest):
     @unittest.skipUnless(shutil.which("groff"), "needs groff")
     def test_manual_pages_are_typeset_without_a_warning(self):
         for page in sorted(SOURCE.glob("docs/*.1")):
-            result = subprocess.run(["groff", "-man", "-Tutf8", "-ww", "-z", page], capture_output=True,
-                                    encoding="utf-8", check=False)
-            self.assertEqual((result.stderr, result.returncode), ("", 0))
+            self.assert_printed(self.execute(["groff", "-man", "-Tutf8", "-ww", "-z", page]), "")
 
     def test_bash_completes_commands_options_and_keys(self):
         script = (f"source {COMPLETIONS}/orlo-prefs; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _orlo_prefs\n"
@@ -73,16 +69,14 @@ class Shells(tool_test.ToolTest):
         for typed, offered in [*cases, (["set", "Camera\\ f"], "Camera\\ fov"), (["reset", '"Camera f'], "Camera fov"),
                                (["get", "Camera\\ fov", ""], ""), (["get", "no such"], "")]:
             with self.subTest(typed):
-                result = subprocess.run(["bash", "-c", script, "bash", "orlo-prefs", *typed], env=self.environment,
-                                        capture_output=True, encoding="utf-8", check=False)
+                result = self.execute(["bash", "-c", script, "bash", "orlo-prefs", *typed])
                 self.assertEqual((result.stdout, result.stderr), (offered + "\n", ""))
 
     @unittest.skipUnless(shutil.which("fish"), "needs fish")
     def test_fish_completes_commands_options_and_keys(self):
         for typed, words in TYPED:
             script = f"source {COMPLETIONS}/orlo-prefs.fish; complete -C 'orlo-prefs {typed}'"
-            result = subprocess.run(["fish", "--no-config", "-c", script], env=self.environment, capture_output=True,
-                                    encoding="utf-8", check=False)
+            result = self.execute(["fish", "--no-config", "-c", script])
             with self.subTest(typed):
                 offered = [line.split("\t")[0] for line in result.stdout.splitlines()]
                 self.assertEqual(offered, words[-1:], result.stderr)

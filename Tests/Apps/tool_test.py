@@ -33,22 +33,26 @@ class ToolTest(unittest.TestCase):
         given = ["--plugin", plugin] if plugin else []
         return [self.program, *given, *options, *(each if isinstance(each, bytes) else str(each) for each in arguments)]
 
+    def execute(self, command, input=None):
+        return subprocess.run(command, input=input, cwd=self.folder, env=self.environment, capture_output=True,
+                              encoding="utf-8", timeout=SECONDS, check=False)
+
     def tool(self, *arguments, plugin="", options=(), input=None):
-        return subprocess.run(self.command(*arguments, plugin=plugin, options=options), input=input, cwd=self.folder,
-                              env=self.environment, capture_output=True, encoding="utf-8", timeout=SECONDS, check=False)
+        return self.execute(self.command(*arguments, plugin=plugin, options=options), input)
 
     def stored(self, *arguments, **keywords):
         """The tool with the test's own store."""
         return self.tool(*arguments, options=["--store", str(self.store)], **keywords)
 
     def site(self, settings):
-        """Makes a site's file of them, which only counts where root has written it."""
+        """Makes a site's file of them, which only counts where root has written it, and returns its name."""
         if os.geteuid() != 0:
             self.skipTest("a site's file counts only where it is root's")
         self.environment["XDG_CONFIG_DIRS"] = str(self.folder / "site")
         file = self.folder / "site/orlo/site.json"
         file.parent.mkdir(parents=True, exist_ok=True)
         file.write_text(json.dumps(settings))
+        return file
 
     def refusals(self):
         """What every door refuses at a site with a lock: kind, key, type, value and words."""

@@ -2,26 +2,21 @@
 
 #include "Editing/olPageIndex.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGlyphRun>
-#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QStyleOption>
 #include <QTabBar>
 #include <QTest>
 #include <QTextLayout>
-#include <QToolButton>
 
 #include <algorithm>
 #include <map>

@@ -10,15 +10,12 @@
 namespace
 {
 
-class ApplicationPages : public PluginTest
-{
-};
+using ApplicationPages = PluginTest;
 
 TEST_F(ApplicationPages, TheRestartBoxBelongsToThePageAndOpensBetweenTheStores)
 {
     olPreferencesEntry &entry = module("MainWindow");
-    entry.setDefaults(true);
-    entry.updateGUI();
+    fill("MainWindow");
     control<QComboBox>("MainWindow", "userLanguage").setCurrentIndex(2);
     record().set("MainWindow window opacity", boost::any(0.75), true);
 
@@ -54,8 +51,7 @@ TEST_F(ApplicationPages, TheSlotsOfTheHelpPageAreFoundByName)
 TEST_F(ApplicationPages, TheEditionIsAskedWhenValuesAreStoredNotWhenThePageIsBuilt)
 {
     olPreferencesEntry &devices = module("Devices");
-    devices.setDefaults(true);
-    devices.updateGUI();
+    fill("Devices");
     olHostState::the().edition = olEdition::Essentials;
     devices.updateData();
     EXPECT_TRUE(boost::any_cast<bool>(record().get("Devices spacemouse two axis")));

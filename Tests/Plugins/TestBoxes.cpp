@@ -8,7 +8,6 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -88,10 +87,8 @@ class Boxes : public PluginTest
 protected:
     Boxes()
     {
-        for (olPreferencesEntry *module : modules()) {
-            module->setDefaults(true);
-            module->updateGUI();
-        }
+        for (const olPreferencesEntry *module : modules())
+            fill(module->name().toUtf8());
         watch.seen.clear();
     }
 

@@ -49,12 +49,6 @@ class Contract : public PluginTest, public testing::WithParamInterface<olEdition
 {
 protected:
     Contract() : PluginTest(GetParam()) { writeDefaults(); }
-
-    static void writeDefaults()
-    {
-        for (olPreferencesEntry *module : modules())
-            module->setDefaults(true);
-    }
 };
 
 TEST_P(Contract, DefaultsShownAndTakenBackChangeNothing)

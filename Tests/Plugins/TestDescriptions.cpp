@@ -17,11 +17,7 @@ namespace
 class Descriptions : public PluginTest
 {
 protected:
-    Descriptions()
-    {
-        for (olPreferencesEntry *module : modules())
-            module->setDefaults(true);
-    }
+    Descriptions() { writeDefaults(); }
 };
 
 TEST_F(Descriptions, AgreeWithWhatTheModuleOffersAndThePageHolds)

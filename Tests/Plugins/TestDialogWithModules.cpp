@@ -1,3 +1,5 @@
+#include "Support/BoxWatch.h"
+#include "Support/Files.h"
 #include "Support/PluginTest.h"
 
 #include "Dialog/olChangesView.h"
@@ -16,7 +18,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QHelpEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -31,6 +32,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QTimer>
@@ -55,23 +57,32 @@ protected:
         session.start();
         dialog = std::make_unique<olPreferencesDialog>(session);
         dialog->offerPreview();
-        dialog->open(QStringLiteral("Camera"));
+        dialog->open("Camera");
         calls.take();
+    }
+
+    /// On the same modules at a site with that file.
+    void openAtSite(const QByteArray &settings, const QString &page)
+    {
+        dialog.reset();
+        const QString site = writtenFile(folder.filePath("site.json"), settings);
+        sessionAtSite = std::make_unique<olPreferencesSession>(folder.filePath("locked.db"), QStringList{site});
+        ASSERT_EQ(sessionAtSite->loadStore().error(), QString());
+        sessionAtSite->start();
+        dialog = std::make_unique<olPreferencesDialog>(*sessionAtSite);
+        dialog->open(page);
     }
 
     [[nodiscard]] QString pending() const
     {
         QCoreApplication::processEvents();
-        return dialog->findChild<QPushButton *>(QStringLiteral("changes"))->text();
+        return dialog->findChild<QPushButton *>("changes")->text();
     }
 
     olChangesView *preview(const QByteArray &settings)
     {
-        QFile file(folder.filePath(QStringLiteral("import.json")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(R"({"format": 1, "settings": {)" + settings + "}}");
-        file.close();
-        dialog->transfer().importFrom(file.fileName());
+        const QByteArray text = R"({"format": 1, "settings": {)" + settings + "}}";
+        dialog->transfer().importFrom(writtenFile(folder.filePath("import.json"), text));
         return dialog->findChild<olChangesView *>();
     }
 
@@ -79,9 +90,8 @@ protected:
     {
         auto *view = preview(settings);
         ASSERT_NE(view, nullptr);
-        EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItemCount(), 0);
-        const auto untick =
-            view->findChild<QTreeWidget *>(QStringLiteral("changes"))->findItems(unticked, Qt::MatchExactly);
+        EXPECT_EQ(view->findChild<QTreeWidget *>("skipped")->topLevelItemCount(), 0);
+        const auto untick = view->findChild<QTreeWidget *>("changes")->findItems(unticked, Qt::MatchExactly);
         for (QTreeWidgetItem *item : untick)
             item->setCheckState(0, Qt::Unchecked);
         view->accept();
@@ -90,7 +100,8 @@ protected:
 
     QString unticked;
     QTemporaryDir folder;
-    olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
+    olPreferencesSession session{folder.filePath("preferences.db"), {}};
+    std::unique_ptr<olPreferencesSession> sessionAtSite;
     std::unique_ptr<olPreferencesDialog> dialog;
 };
 
@@ -119,7 +130,7 @@ TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
             frame->setFolded(false);
         // With something pending the dialog offers the most.
         auto *box = entry->page()->findChild<QCheckBox *>();
-        if (box && box->isEnabled() && entry->name() != QLatin1String("WebInterface"))
+        if (box && box->isEnabled() && entry->name() != "WebInterface")
             box->toggle();
         auto *tabs = entry->page()->findChild<QTabWidget *>();
         for (int tab = 0; tab < (tabs ? tabs->count() : 1); ++tab) {
@@ -154,18 +165,9 @@ TEST_F(DialogWithModules, NoTwoMnemonicsThatCanBePressedAtOneTimeAreAlike)
 
 TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsThroughIsPutBack)
 {
-    dialog.reset();
-    QFile site(folder.filePath(QStringLiteral("site.json")));
-    ASSERT_TRUE(site.open(QIODevice::WriteOnly));
-    site.write(R"({"STEPOptions chord deviation": {"locked": true},
-                   "RenderOptions background colors": {"locked": true}})");
-    site.close();
-    olPreferencesSession locking(folder.filePath(QStringLiteral("other.db")), {site.fileName()});
-    ASSERT_EQ(locking.loadStore().error(), QString());
-    locking.start();
-    olPreferencesDialog locked(locking);
-
-    locked.open(QStringLiteral("Step"));
+    openAtSite(R"({"STEPOptions chord deviation": {"locked": true},
+                   "RenderOptions background colors": {"locked": true}})",
+               "Step");
     auto &block = control<olTesselationSettings>("Step", "tesselation");
     auto *quality = qobject_cast<QSlider *>(block.control(olTesselationSettings::Control::Quality));
     EXPECT_FALSE(quality->isEnabled());
@@ -173,15 +175,13 @@ TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsTh
     const double kept = chordDeviation.property("value").toDouble();
     quality->setValue(quality->maximum());
     QTest::qWait(1);
-    QCoreApplication::processEvents();
+    EXPECT_EQ(pending(), "2 Chan&ges...") << "the two tolerances that are free, not the one that is locked";
     EXPECT_EQ(chordDeviation.property("value").toDouble(), kept);
-    auto *changes = locked.findChild<QPushButton *>(QStringLiteral("changes"));
-    EXPECT_EQ(changes->text(), "2 Chan&ges...") << "the two tolerances that are free, not the one that is locked";
-    ASSERT_TRUE(locked.apply());
+    ASSERT_TRUE(dialog->apply());
     EXPECT_EQ(chordDeviation.property("value").toDouble(), kept);
     EXPECT_EQ(boost::any_cast<double>(record().get("STEPOptions chord deviation")), kept);
 
-    locked.open(QStringLiteral("Render Options"));
+    dialog->open("Render Options");
     for (const char *button : {"addColor", "deleteColor", "chooseColor"})
         EXPECT_FALSE(control<QWidget>("Render Options", button).isEnabled()) << button;
     auto &table = control<QTableWidget>("Render Options", "backgroundTable");
@@ -189,9 +189,8 @@ TEST_F(DialogWithModules, WhatWritesToALockedControlIsLockedWithItAndWhatSlipsTh
     control<QAbstractButton>("Render Options", "addColor").setEnabled(true);
     table.insertRow(0);
     QTest::qWait(1);
-    QCoreApplication::processEvents();
+    EXPECT_EQ(pending(), "No Changes");
     EXPECT_EQ(table.rowCount(), rows);
-    EXPECT_EQ(changes->text(), "No Changes");
 }
 
 TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
@@ -204,7 +203,7 @@ TEST_F(DialogWithModules, WhatIsRestoredGoesBackOnEveryPageAndOnlyOnOk)
     record().set("Optimizer Teselation Quality", std::vector<float>{1.0f}, true);
     service.setFloat("VR Teleport Range", 5.0f);
     dialog->reject();
-    dialog->open(QStringLiteral("FileIO"));
+    dialog->open("FileIO");
     dialog->restoreAll();
     EXPECT_EQ(pending(), "6 Chan&ges...");
     EXPECT_EQ(boost::any_cast<float>(record().get("Camera fov")), 60.5f);
@@ -242,31 +241,20 @@ TEST_F(DialogWithModules, ShowingImportedValuesSetsOffNoPresetAndNoQuestion)
 
 TEST_F(DialogWithModules, AnImportBringsWhatIsTickedAndAsksWhatThePageWouldAsk)
 {
-    const auto answer = [](QMessageBox::ButtonRole role) {
-        QTimer::singleShot(0, [role] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            for (QAbstractButton *button : box->buttons()) {
-                if (box->buttonRole(button) == role)
-                    return button->click();
-            }
-        });
-    };
+    const BoxAnswers boxes({"Do Not Enable", "Enable"});
     const QByteArray settings = R"("WebInterface enable web server2": {"type": "bool", "value": true},
         "Camera fov": {"type": "float", "value": 60}, "Powerwall width": {"type": "float", "value": 1})";
-    unticked = QStringLiteral("Camera: Field of View");
-    answer(QMessageBox::RejectRole);
+    unticked = "Camera: Field of View";
     import(settings);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(pending(), "1 Chan&ge...") << "neither what is not ticked nor what is not agreed to";
-    answer(QMessageBox::AcceptRole);
     import(settings);
     EXPECT_EQ(pending(), "2 Chan&ges...");
 
     auto *view =
         preview(R"("RenderOptions background colors": {"type": "colors", "value": [[1, 0, 0.2], [2, 0.2, -1]]})");
     ASSERT_NE(view, nullptr);
-    const auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    const auto *list = view->findChild<QTreeWidget *>("changes");
     const QTreeWidgetItem &colors = *list->topLevelItem(0);
     EXPECT_EQ(colors.text(2), "#ff0033, #ff3300") << "as bright as a screen can be";
     const QImage swatches = colors.icon(2).pixmap(list->iconSize()).toImage();
@@ -278,7 +266,7 @@ TEST_F(DialogWithModules, AnImportBringsWhatIsTickedAndAsksWhatThePageWouldAsk)
 TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllAndCountsOnce)
 {
     record().set("BCADOptions use ATF", true, true);
-    dialog->open(QStringLiteral("Catia V4"));
+    dialog->open("Catia V4");
     dialog->restorePage();
     EXPECT_EQ(pending(), "No Changes") << "it is none of any one page";
     dialog->restoreAll();
@@ -289,8 +277,8 @@ TEST_F(DialogWithModules, ASettingOfManyModulesWithoutAControlIsRestoredWithAllA
 
 TEST_F(DialogWithModules, TheModulesMayGoWhileTheirPagesAreShown)
 {
-    dialog->open(QStringLiteral("Render Options"));
-    dialog->open(QStringLiteral("Virtual Reality"));
+    dialog->open("Render Options");
+    dialog->open("Virtual Reality");
     plugin.unload();
     QCoreApplication::processEvents();
     EXPECT_TRUE(dialog->isVisible());
@@ -303,52 +291,36 @@ TEST_F(DialogWithModules, AnImportRefusesInTheWordsOfEveryOtherDoor)
 {
     if (::geteuid() != 0)
         GTEST_SKIP() << "a site's file counts only where it is root's";
-    dialog.reset();
-    QFile site(folder.filePath(QStringLiteral("site.json")));
-    ASSERT_TRUE(site.open(QIODevice::WriteOnly));
-    site.write(R"({"Powerwall width": {"locked": true, "reason": "One wall for all."}})");
-    site.close();
-    olPreferencesSession locked(folder.filePath(QStringLiteral("locked.db")), {site.fileName()});
-    ASSERT_EQ(locked.loadStore().error(), QString());
-    locked.start();
-    dialog = std::make_unique<olPreferencesDialog>(locked);
-    dialog->open(QStringLiteral("Camera"));
-    QFile table(sourceOfTest(QStringLiteral("Tests/Apps/refusals.json")));
-    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
-    const QJsonArray rows = QJsonDocument::fromJson(table.readAll()).array();
+    openAtSite(R"({"Powerwall width": {"locked": true, "reason": "One wall for all."}})", "Camera");
+    const QJsonArray rows = QJsonDocument::fromJson(contentOf(sourceOfTest("Tests/Apps/refusals.json"))).array();
     EXPECT_FALSE(rows.isEmpty());
+    QString told;
+    const BoxWatch questions([&told](QMessageBox &box) {
+        told = box.text().replace('\n', ' ');
+        box.reject();
+    });
     for (const QJsonValue &row : rows) {
         const QString key = row["key"].toString();
-        QJsonObject setting{{QStringLiteral("type"), row["type"]}, {QStringLiteral("value"), row["value"]}};
-        if (row["kind"] == QLatin1String("length"))
-            setting[QStringLiteral("value")] = QString(row["length"].toInt(), QLatin1Char('x'));
-        QString told;
-        if (row["kind"] == QLatin1String("warning"))
-            QTimer::singleShot(0, [&told] {
-                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-                ASSERT_NE(box, nullptr);
-                told = box->text().replace(QLatin1Char('\n'), QLatin1Char(' '));
-                box->reject();
-            });
+        QJsonObject setting{{"type", row["type"]}, {"value", row["value"]}};
+        if (row["kind"] == "length")
+            setting["value"] = QString(row["length"].toInt(), QLatin1Char('x'));
+        const bool asks = row["kind"] == "warning";
+        told.clear();
         const auto *view = preview(QJsonDocument(QJsonObject{{key, setting}}).toJson().mid(1).chopped(2));
-        if (told.isEmpty() && row["kind"] != QLatin1String("warning"))
-            told = view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItem(0)->text(1);
-        EXPECT_FALSE(view->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled() &&
-                     row["kind"] != QLatin1String("warning"))
-            << "there is nothing to import";
+        if (!asks)
+            told = view->findChild<QTreeWidget *>("skipped")->topLevelItem(0)->text(1);
+        EXPECT_EQ(view->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled(), asks);
         dialog->findChild<olChangesView *>()->accept();
         EXPECT_EQ(told, row["words"].toString()) << key.toStdString();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     EXPECT_EQ(pending(), "No Changes");
-    dialog.reset();
 }
 
 TEST_F(DialogWithModules, AnImportTellsAValueThatOnlyCallsItselfByAnotherType)
 {
     const auto *view = preview(R"("Powerwall width": {"type": "int", "value": 3})");
-    EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("skipped"))->topLevelItem(0)->text(1),
-              QStringLiteral("is of the type int, not float"));
+    EXPECT_EQ(view->findChild<QTreeWidget *>("skipped")->topLevelItem(0)->text(1), "is of the type int, not float");
 }
 
 TEST_F(DialogWithModules, WhatThePageWouldAskAboutIsAskedWhenAnotherProgramStoresIt)
@@ -374,11 +346,11 @@ TEST_F(DialogWithModules, WhatThePageWouldAskAboutIsAskedWhenAnotherProgramStore
     QStringList asked;
     QObject::connect(&session, &olPreferencesSession::consentWanted,
                      [&asked](const olOutsideChange &, const olSettingWarning &question) { asked << question.text; });
-    dialog->open(QStringLiteral("WebInterface"));
+    dialog->open("WebInterface");
 
     storeOutside(true, 1.0f);
     ASSERT_EQ(asked.size(), 1);
-    EXPECT_TRUE(asked.first().startsWith(QStringLiteral("Do you really want")));
+    EXPECT_TRUE(asked.first().startsWith("Do you really want"));
     EXPECT_FALSE(isOn());
     EXPECT_EQ(pending(), "No Changes");
     control<QCheckBox>("WebInterface", "debugMode").toggle();
@@ -422,32 +394,32 @@ TEST_F(DialogWithModules, ATipTellsRangeDefaultAndEffectBesidesWhatTheFormHas)
     EXPECT_EQ(told(fov), own + "\nRange: 1 to 100°\nDefault: 45°\nTakes effect at once");
     EXPECT_EQ(told(control<QWidget>("Camera", "fieldOfViewLabel")), told(fov)) << "its label tells the same";
     EXPECT_EQ(fov.toolTip(), own);
-    dialog->open(QStringLiteral("Step"));
+    dialog->open("Step");
     EXPECT_TRUE(told(control<QWidget>("Step", "removeEmptyGroups")).endsWith("Takes effect at the next import"));
-    dialog->open(QStringLiteral("WebInterface"));
+    dialog->open("WebInterface");
     EXPECT_EQ(told(control<QWidget>("WebInterface", "enableWebServer")).count("Default: off"), 1);
 }
 
 TEST_F(DialogWithModules, ANoteSaysWhatHoldsForAllOrMostOfAPage)
 {
     const auto note = [this](const char *page) {
-        dialog->open(QLatin1String(page));
-        const auto *note = dialog->findChild<QLabel *>(QStringLiteral("pageNote"));
+        dialog->open(page);
+        const auto *note = dialog->findChild<QLabel *>("pageNote");
         return note->isVisible() ? note->text() : QString();
     };
     EXPECT_EQ(note("Camera"), QString());
-    EXPECT_TRUE(note("Catia V4").contains(QStringLiteral("reader")));
-    EXPECT_TRUE(note("Step").contains(QStringLiteral("next import")));
-    EXPECT_TRUE(note("STL").contains(QStringLiteral("next import"))) << "but for what it writes";
+    EXPECT_TRUE(note("Catia V4").contains("reader"));
+    EXPECT_TRUE(note("Step").contains("next import"));
+    EXPECT_TRUE(note("STL").contains("next import")) << "but for what it writes";
     EXPECT_EQ(note("MainWindow"), QString());
 }
 
 TEST_F(DialogWithModules, UnitsStandInTheFieldsOfNumbers)
 {
     const auto units = [this](const char *page) {
-        dialog->open(QLatin1String(page));
+        dialog->open(page);
         QStringList texts;
-        for (const QLabel *label : module(page).page()->findChildren<QLabel *>(QStringLiteral("unit")))
+        for (const QLabel *label : module(page).page()->findChildren<QLabel *>("unit"))
             texts << label->text();
         return texts;
     };
@@ -457,7 +429,7 @@ TEST_F(DialogWithModules, UnitsStandInTheFieldsOfNumbers)
     EXPECT_EQ(units("MainWindow"), QStringList{"= 100 %"});
     auto &opacity = *control<QWidget>("MainWindow", "windowOpacity").findChild<QLineEdit *>();
     opacity.selectAll();
-    QTest::keyClicks(&opacity, QStringLiteral("0.35"));
+    QTest::keyClicks(&opacity, "0.35");
     EXPECT_EQ(units("MainWindow"), QStringList{"= 35 %"});
 }
 
@@ -466,8 +438,8 @@ TEST_F(DialogWithModules, AProfileHoldsAllSettingsOrThoseThatDifferOrThoseOfAMod
     import(R"("Camera fov": {"type": "float", "value": 60}, "Powerwall width": {"type": "float", "value": 3})");
     ASSERT_TRUE(dialog->apply());
     const auto menus = dialog->findChildren<QMenu *>();
-    const auto found = std::find_if(menus.begin(), menus.end(),
-                                    [](const QMenu *menu) { return menu->title() == QLatin1String("&Profiles"); });
+    const auto found =
+        std::find_if(menus.begin(), menus.end(), [](const QMenu *menu) { return menu->title() == "&Profiles"; });
     ASSERT_NE(found, menus.end());
     QMenu &profiles = **found;
     const auto choose = [&profiles](const QString &text) {
@@ -485,19 +457,16 @@ TEST_F(DialogWithModules, AProfileHoldsAllSettingsOrThoseThatDifferOrThoseOfAMod
         return kept.isOk() ? kept->settings : olSettingValues();
     };
     const auto saveAs = [&](const QString &name, const QString &which, QMessageBox::StandardButton answer) {
+        const BoxWatch question([answer](QMessageBox &box) { box.button(answer)->click(); });
         QTimer::singleShot(0, dialog.get(), [&] {
             QWidget *box = QApplication::activeModalWidget();
             ASSERT_NE(box, nullptr);
             EXPECT_FALSE(box->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->isEnabled());
             QTest::keyClicks(box->findChild<QLineEdit *>(), name);
             box->findChild<QComboBox *>()->setCurrentText(which);
-            QTimer::singleShot(0, dialog.get(), [answer] {
-                if (auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
-                    question->button(answer)->click();
-            });
             QTest::keyClick(box, Qt::Key_Return);
         });
-        choose(QStringLiteral("&Save As..."));
+        choose("&Save As...");
         return settingsOf(name);
     };
     EXPECT_EQ(saveAs("all", "All Settings", QMessageBox::No).size(), olPreferencesSession::keys().size());
@@ -508,10 +477,10 @@ TEST_F(DialogWithModules, AProfileHoldsAllSettingsOrThoseThatDifferOrThoseOfAMod
 
     dialog->restoreAll();
     ASSERT_TRUE(dialog->apply());
-    choose(QStringLiteral("changed"));
+    choose("changed");
     auto *view = dialog->findChild<olChangesView *>();
     ASSERT_NE(view, nullptr);
-    EXPECT_EQ(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->topLevelItemCount(), 2);
+    EXPECT_EQ(view->findChild<QTreeWidget *>("changes")->topLevelItemCount(), 2);
     view->accept();
     EXPECT_EQ(pending(), "2 Chan&ges...");
 }

@@ -28,9 +28,7 @@ std::vector<QString> registered()
     return names;
 }
 
-class Loading : public PluginTest
-{
-};
+using Loading = PluginTest;
 
 /// Class, category and name of each module, in the order of registration.
 std::vector<std::string> registrations()
@@ -145,8 +143,7 @@ TEST_F(Loading, UnloadingDestroysTheModulesLastFirst)
 
 TEST_F(Loading, ASettingThatAllFormatsWriteStaysUntilItsOwnerIsGone)
 {
-    for (olPreferencesEntry *entry : modules())
-        entry->setDefaults(true);
+    writeDefaults();
     std::size_t checks = modules().size();
     auto &registry = olPreferencesRegistry::the();
     const auto watch = QObject::connect(&registry.news(), &olRegistryNews::changed, [&registry, &checks] {

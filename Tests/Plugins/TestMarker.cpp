@@ -26,8 +26,7 @@ protected:
 
 TEST_F(Marker, ThePreviewFollowsTheWireframesColourAndTellsTheHostNothing)
 {
-    module("Selection").setDefaults(true);
-    module("Selection").updateGUI();
+    fill("Selection");
     calls.take();
 
     control<QOLColorManipulator>("Selection", "wireframeColor").setColor({0.0f, 1.0f, 0.0f});

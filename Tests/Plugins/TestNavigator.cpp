@@ -10,11 +10,7 @@ namespace
 class Navigator : public PluginTest
 {
 protected:
-    Navigator()
-    {
-        module("Navigator").setDefaults(true);
-        module("Navigator").updateGUI();
-    }
+    Navigator() { fill("Navigator"); }
 
     static bool callSlot(const char *name, QGenericArgument argument)
     {

@@ -14,12 +14,7 @@ using Cells = std::vector<std::string>;
 class RenderOptions : public PluginTest
 {
 protected:
-    RenderOptions()
-    {
-        olPreferencesEntry &entry = module("Render Options");
-        entry.setDefaults(true);
-        entry.updateGUI();
-    }
+    RenderOptions() { fill("Render Options"); }
 
     static QTableWidget &table() { return control<QTableWidget>("Render Options", "backgroundTable"); }
     static QWidget &page() { return *module("Render Options").page(); }

@@ -3,7 +3,6 @@
 
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -32,11 +31,7 @@ public:
 class Tesselation : public PluginTest
 {
 protected:
-    Tesselation()
-    {
-        module("Tesselation").setDefaults(true);
-        module("Tesselation").updateGUI();
-    }
+    Tesselation() { fill("Tesselation"); }
 
     static QTreeWidget &tree() { return control<QTreeWidget>("Tesselation", "qualities"); }
     static std::string text(int row) { return tree().topLevelItem(row)->text(0).toStdString(); }

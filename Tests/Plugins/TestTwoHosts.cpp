@@ -3,11 +3,11 @@
 #include "Session/olPreferencesFile.h"
 #include "Session/olPreferencesSession.h"
 #include "State/olPreferencesRegistry.h"
+#include "Support/Files.h"
 #include "Support/PluginTest.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -24,8 +24,6 @@ namespace
 const std::string shared = "Camera fov";
 const std::string toolsOwn = "Powerwall distance";
 constexpr float last = 99999;
-
-void touch(const QString &file) { ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly)); }
 
 olSettingValues valuesInForce()
 {
@@ -54,7 +52,7 @@ void runHost(const QDir &folder, const QString &name)
             ++saved;
             ASSERT_EQ(session.commit({}, {{own, saved}, {shared, 1 + float(int(saved) % 50)}}).error(), QString());
         } else if (!folder.exists(name)) {
-            touch(folder.filePath(name));
+            writtenFile(folder.filePath(name));
         } else if (number(valuesInForce(), toolsOwn) == last) {
             QCoreApplication::quit();
         }
@@ -99,7 +97,7 @@ TEST(TwoHosts, EndWithTheSameValuesAsTheToolThatSetsThemAndNothingIsLost)
         ASSERT_EQ(set(toolsOwn, float(++saves)), 0);
         ASSERT_EQ(set(shared, 51 + float(saves % 40)), 0);
     }
-    touch(folder.filePath(QStringLiteral("stop")));
+    writtenFile(folder.filePath(QStringLiteral("stop")));
     for (const QString &name : names)
         ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo::exists(folder.filePath(name)); }, 30000));
     ASSERT_EQ(set(toolsOwn, last), 0);

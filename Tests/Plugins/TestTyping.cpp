@@ -25,8 +25,7 @@ protected:
     {
         QLocale::setDefault(QLocale(QString::fromLatin1(GetParam())));
         restart();
-        for (olPreferencesEntry *module : modules())
-            module->setDefaults(true);
+        writeDefaults();
         for (const char *name : {"Camera", "Navigator", "Step", "Render Options"}) {
             changes.page(module(name));
             module(name).page()->show();

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace
 {
@@ -127,22 +126,6 @@ TEST_F(WebInterface, ASwitchInTheEnvironmentCountsAtConstructionAlone)
     EXPECT_EQ(applied(), (Calls{stop, "olWebInterface::setDebugMode(true)"}));
 }
 
-/// Presses that button of each box, or Escape where there is none.
-class Answer : public BoxWatch
-{
-public:
-    explicit Answer(const QString &button)
-        : BoxWatch([button](QMessageBox &box) {
-              for (QAbstractButton *each : box.buttons()) {
-                  if (each->text() == button)
-                      return each->click();
-              }
-              QTest::keyClick(&box, Qt::Key_Escape);
-          })
-    {
-    }
-};
-
 TEST_F(WebInterface, AsksBeforeTheServerIsSwitchedOnAndARefusalGoesBackSilently)
 {
     for (const char *reply : {"Do Not Enable", "", "Enable"}) {
@@ -150,7 +133,7 @@ TEST_F(WebInterface, AsksBeforeTheServerIsSwitchedOnAndARefusalGoesBackSilently)
         box("enableWebServer").setChecked(false);
         ASSERT_FALSE(isEnabled("port"));
         const QSignalSpy toggles(&box("enableWebServer"), &QCheckBox::toggled);
-        const Answer answer{QLatin1String(reply)};
+        const BoxAnswers answer(QStringList{reply});
         box("enableWebServer").setChecked(true);
         EXPECT_EQ(answer.count, 1);
         EXPECT_EQ(box("enableWebServer").isChecked(), qstrcmp(reply, "Enable") == 0);
@@ -168,14 +151,14 @@ TEST_F(WebInterface, OnARenderServerNodeThePageIsThereButNeitherAsksNorExcludes)
     ASSERT_TRUE(plugin.load(QStringLiteral(ORLO_PLUGIN_FILE)).isOk());
     ASSERT_NE(webInterface().page(), nullptr);
 
-    const Answer answer("Do Not Enable");
+    const BoxWatch watch([](QMessageBox &box) { box.reject(); });
     box("enableWebServer").setChecked(false);
     EXPECT_FALSE(isEnabled("port")) << "the form's own links stay";
     box("enableWebServer").setChecked(true);
     box("localhostOnly").setChecked(true);
     allowedHosts().setChecked(true);
     QApplication::processEvents();
-    EXPECT_EQ(answer.count, 0);
+    EXPECT_EQ(watch.count, 0);
     EXPECT_TRUE(box("enableWebServer").isChecked());
     EXPECT_TRUE(box("localhostOnly").isChecked());
 }

@@ -1,9 +1,15 @@
 #pragma once
 
+#include "Utilities/olWithoutMnemonic.h"
+
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QStringList>
+#include <QTest>
 #include <QTimer>
+#include <gtest/gtest.h>
 
 #include <functional>
 
@@ -30,4 +36,33 @@ public:
 
 private:
     std::function<void(QMessageBox &)> m_answer;
+};
+
+/// Presses a button of each box, in the order in which they were given, and Escape where the box has no such button.
+/// The test fails where fewer boxes open.
+class BoxAnswers : public BoxWatch
+{
+public:
+    explicit BoxAnswers(const QStringList &buttons = {})
+        : BoxWatch([this](QMessageBox &box) { press(box); }), m_buttons(buttons)
+    {
+    }
+    ~BoxAnswers() override { EXPECT_EQ(m_buttons, QStringList()) << "a question that the test expected never came"; }
+
+    void next(const QString &button) { m_buttons << button; }
+
+private:
+    void press(QMessageBox &box)
+    {
+        if (m_buttons.isEmpty())
+            return;
+        const QString wanted = m_buttons.takeFirst();
+        for (QAbstractButton *button : box.buttons()) {
+            if (olWithoutMnemonic(button->text()) == wanted)
+                return button->click();
+        }
+        QTest::keyClick(&box, Qt::Key_Escape);
+    }
+
+    QStringList m_buttons;
 };

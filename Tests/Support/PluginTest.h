@@ -7,7 +7,6 @@
 #include "Utilities/olMessage.h"
 
 #include <QString>
-#include <QTemporaryDir>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -52,6 +51,19 @@ protected:
     /// The module of that display name; the test fails and stops where there is none.
     static olPreferencesEntry &module(const char *name);
     static const std::vector<olPreferencesEntry *> &modules();
+
+    static void writeDefaults()
+    {
+        for (olPreferencesEntry *entry : modules())
+            entry->setDefaults(true);
+    }
+
+    /// Writes the defaults of that module and fills its page.
+    static void fill(const char *name)
+    {
+        module(name).setDefaults(true);
+        module(name).updateGUI();
+    }
 
     /// Puts a value into the record, as if it had been edited, and applies its module.
     static void apply(const char *moduleName, const char *key, const boost::any &value);

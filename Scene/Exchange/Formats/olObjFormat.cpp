@@ -33,7 +33,7 @@ namespace
 {
 
 /// What the material of parts without a look is called.
-constexpr QLatin1String nameless("DefaultMaterial");
+const QLatin1String nameless("DefaultMaterial");
 
 bool isNumber(const QByteArray &text)
 {

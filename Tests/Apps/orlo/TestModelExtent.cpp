@@ -4,12 +4,11 @@
 #include "Exchange/olExportScene.h"
 #include "Model/olScene.h"
 #include "Model/olShapeFacts.h"
+#include "Support/Files.h"
 
 #include <TDocStd_Document.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
-
-#include <QFile>
 
 #include <cmath>
 
@@ -33,13 +32,11 @@ protected:
             directory += line(what, 'D', own) + line({}, 'D', own + 1);
             parameters += line(fields.leftJustified(64) + QByteArray::number(own).rightJustified(8), 'P', ++number);
         }
-        QFile file(path(QStringLiteral("made.igs")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         // A text may have the signs between fields in it.
-        file.write(line("made by hand", 'S', 1) +
-                   line("1H,,1H;,3Ha,;,4Hfile,,,32,38,6,308,15,,1.,1,2HIN,1,0.,;", 'G', 1) + directory + parameters);
-        file.close();
-        return olModelExtent(file.fileName()).value_or(0.0) / 25.4;
+        const QByteArray start =
+            line("made by hand", 'S', 1) + line("1H,,1H;,3Ha,;,4Hfile,,,32,38,6,308,15,,1.,1,2HIN,1,0.,;", 'G', 1);
+        const QString file = writtenFile(path("made.igs"), start + directory + parameters);
+        return olModelExtent(file).value_or(0.0) / 25.4;
     }
 
     /// A directory entry: the kind, what moves it, and whether something else is made of it.
@@ -61,7 +58,7 @@ TEST_F(ModelExtent, IsToldFromAFileAboutAsItIs)
         box.Add(olDrawnBox(XCAFDoc_ShapeTool::GetShape(shape)));
     const double extent = std::sqrt(box.SquareExtent());
     for (const char *name : {"sample.step", "sample.igs"}) {
-        const QString file = path(QLatin1String(name));
+        const QString file = path(name);
         ASSERT_TRUE(olExportScene(window.scene().document(), file).isOk());
         const double told = olModelExtent(file).value_or(0.0);
         EXPECT_GT(told, extent / 1.5) << name;

@@ -38,11 +38,11 @@ TEST_F(SceneTree, ShowsTheStructureAndFollowsTheScene)
 {
     ASSERT_EQ(tree.topLevelItemCount(), 1);
     QTreeWidgetItem &ball = node("Ball 8");
-    EXPECT_EQ(ball.parent()->text(0), QStringLiteral("Bearing"));
+    EXPECT_EQ(ball.parent()->text(0), "Bearing");
     EXPECT_EQ(ball.parent()->parent(), &node("Sample assembly"));
     EXPECT_TRUE(ball.parent()->icon(0).isNull());
     const QImage chip = ball.icon(0).pixmap(tree.iconSize()).toImage();
-    EXPECT_EQ(chip.pixelColor(chip.rect().center()).name(), QStringLiteral("#edd365")) << "gold, as on the screen";
+    EXPECT_EQ(chip.pixelColor(chip.rect().center()).name(), "#edd365") << "gold, as on the screen";
     EXPECT_EQ(node("Lifting eye").childCount(), 3);
 
     window.scene().clear();
@@ -119,7 +119,7 @@ TEST_F(SceneTree, PickingFindsThePartOrItsLevelOfDetail)
     EXPECT_EQ(selectedNodes(), QStringList("Lifting eye"));
 
     apply(marking, "LOD selection", false);
-    EXPECT_EQ(clickOn(eye), eye + QStringLiteral("#0")) << "from near the finest is drawn";
+    EXPECT_EQ(clickOn(eye), eye + "#0") << "from near the finest is drawn";
     EXPECT_TRUE(selectedNodes() == QStringList("Level 1"));
     const QImage near = view.picture();
     view.select({});
@@ -127,11 +127,11 @@ TEST_F(SceneTree, PickingFindsThePartOrItsLevelOfDetail)
 
     // From farther away another one is drawn, so that the mark of the first goes.
     const QImage plain = (view.showAll(), view.resize(320, 240), view.picture());
-    view.select({eye + QStringLiteral("#0")});
+    view.select({eye + "#0"});
     EXPECT_TRUE(isLike(plain));
-    view.select({eye + QStringLiteral("#1")});
+    view.select({eye + "#1"});
     const bool isMiddle = !isLike(plain);
-    view.select({eye + QStringLiteral("#2")});
+    view.select({eye + "#2"});
     EXPECT_NE(isMiddle, !isLike(plain)) << "exactly one of them is drawn";
 }
 

@@ -12,25 +12,23 @@ namespace
 {
 
 /// On a display that the view cannot use; skipped on others.
-class WithoutView : public PluginTest
-{
-};
+using WithoutView = PluginTest;
 
 TEST_F(WithoutView, TheWindowSaysSoAndThePreferencesWork)
 {
     if (olViewport::isSupported())
         GTEST_SKIP();
     const QTemporaryDir folder;
-    olPreferencesSession session(folder.filePath(QStringLiteral("preferences.db")), {});
+    olPreferencesSession session(folder.filePath("preferences.db"), {});
     session.start();
     olMainWindow window(session);
     window.show();
     EXPECT_EQ(window.viewport(), nullptr);
     const auto *reason = qobject_cast<QLabel *>(window.centralWidget());
     ASSERT_NE(reason, nullptr);
-    EXPECT_TRUE(reason->text().contains(QLatin1String("XWayland")));
+    EXPECT_TRUE(reason->text().contains("XWayland"));
 
-    olPreferencesDialog &dialog = window.openPreferences(QStringLiteral("Camera"));
+    olPreferencesDialog &dialog = window.openPreferences("Camera");
     EXPECT_TRUE(module("Camera").page()->isVisible());
     dialog.accept();
     EXPECT_FALSE(dialog.isVisible());

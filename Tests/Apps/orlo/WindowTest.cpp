@@ -8,7 +8,6 @@
 #include "View/olViewport.h"
 
 #include <QDropEvent>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QTest>
 #include <QTreeWidgetItemIterator>
@@ -57,6 +56,11 @@ bool WindowTest::isInSight(QTreeWidgetItem &item)
     return !place.isEmpty() && tree.viewport()->rect().contains(place.center());
 }
 
+void WindowTest::tick(QWidget &box)
+{
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box.height() / 2));
+}
+
 bool WindowTest::drop(const QStringList &files)
 {
     QMimeData data;
@@ -64,7 +68,7 @@ bool WindowTest::drop(const QStringList &files)
     for (const QString &file : files)
         urls << QUrl::fromLocalFile(file);
     if (urls.isEmpty())
-        data.setText(QStringLiteral("no file"));
+        data.setText("no file");
     data.setUrls(urls);
     QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     enter.setAccepted(false);

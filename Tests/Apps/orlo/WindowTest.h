@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTreeWidget>
 
 /// The viewer's window with the sample open, as it is after a first start.
@@ -26,6 +27,9 @@ protected:
     /// Whether a node can be seen in the tree without scrolling.
     bool isInSight(QTreeWidgetItem &item);
 
+    /// Clicks a check box as a person does.
+    static void tick(QWidget &box);
+
     /// Drops files onto the window; whether it takes them.
     bool drop(const QStringList &files);
 
@@ -37,8 +41,8 @@ protected:
     QTemporaryDir folder;
     const bool remembersNothing =
         (QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path()), true);
-    olPreferencesSession session{folder.filePath(QStringLiteral("preferences.db")), {}};
+    olPreferencesSession session{folder.filePath("preferences.db"), {}};
     olMainWindow window{session};
-    QTreeWidget &tree = *window.findChild<QTreeWidget *>(QStringLiteral("sceneTree"));
+    QTreeWidget &tree = *window.findChild<QTreeWidget *>("sceneTree");
     olViewport &view = *window.viewport();
 };

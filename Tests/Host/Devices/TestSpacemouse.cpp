@@ -1,7 +1,7 @@
 #include "Devices/olSpacemouseLink.h"
 #include "Kernel/olSpacemouse.h"
 #include "State/olHostState.h"
-#include "Utilities/olLog.h"
+#include "Support/RecordedLog.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -121,17 +121,11 @@ private:
 };
 
 /// On a host as new; the connection is closed again at the end.
-class Spacemouse : public testing::Test, public olLogObserver
+class Spacemouse : public testing::Test
 {
 protected:
-    Spacemouse() : m_before(olLog::observe(this)) { host.reset(); }
-    ~Spacemouse() override
-    {
-        olSpacemouse::terminate();
-        olLog::observe(m_before);
-    }
-
-    void logged(olLogLevel, const QString &text) override { log << text; }
+    Spacemouse() { host.reset(); }
+    ~Spacemouse() override { olSpacemouse::terminate(); }
 
     bool connects()
     {
@@ -141,12 +135,9 @@ protected:
     [[nodiscard]] unsigned buttons() const { return boost::any_cast<unsigned>(host.spacemouseButtons.any()); }
 
     olHostState &host = olHostState::the();
-    QStringList log;
-
+    RecordedLog recorded;
+    QStringList &log = recorded.lines;
     std::unique_ptr<olSpacemouseLink> link = std::make_unique<olSpacemouseLink>();
-
-private:
-    olLogObserver *m_before;
 };
 
 TEST_F(Spacemouse, MotionAndButtonsAreSeenInTheHostsState)

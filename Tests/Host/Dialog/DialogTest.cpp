@@ -1,109 +1,40 @@
 #include "DialogTest.h"
 
 #include "Support/CleanHost.h"
-#include "Utilities/olWithoutMnemonic.h"
+#include "Support/Files.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QFile>
 #include <QFormLayout>
 #include <QMenu>
-#include <QMessageBox>
-#include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
-
-namespace
-{
-
-constexpr auto shadowsKey = "Studio shadows";
-constexpr auto samplesKey = "Studio samples";
-constexpr auto modeKey = "Studio mode";
-constexpr auto scaleKey = "Studio scale";
-constexpr auto titleKey = "Studio title";
-constexpr auto hiddenKey = "Studio hidden";
-constexpr auto seedKey = "Studio seed";
-
-template <class T> T read(const char *key)
-{
-    const T *value = boost::any_cast<T>(&olPreferences::getData().get(key));
-    return value ? *value : T();
-}
-
-} // namespace
-
-StudioAccess::StudioAccess(StudioPage &page) : QObject(&page), m_page(page)
-{
-    setObjectName(QStringLiteral("olSettingAccess"));
-}
-
-QVariant StudioAccess::value(const QString &key) const
-{
-    if (key == QLatin1String(shadowsKey))
-        return m_page.shadows->isChecked();
-    if (key == QLatin1String(samplesKey))
-        return m_page.samples->value();
-    if (key == QLatin1String(modeKey))
-        return m_page.mode->currentIndex();
-    if (key == QLatin1String(scaleKey))
-        return m_page.scale->text().toFloat();
-    if (key == QLatin1String(titleKey))
-        return m_page.title->text();
-    if (key == QLatin1String(hiddenKey))
-        return m_page.hidden->isChecked();
-    return {};
-}
-
-QVariantMap StudioAccess::describe(const QString &key) const
-{
-    if (key == QLatin1String(samplesKey))
-        return {{"type", "int"}, {"default", 4}, {"minimum", 0}, {"maximum", 99}};
-    if (key == QLatin1String(modeKey)) {
-        QVariantList choices;
-        for (int item = 0; item < m_page.mode->count(); ++item)
-            choices << QVariantMap{{"value", item}, {"text", m_page.mode->itemText(item)}};
-        return {{"type", "int"}, {"default", 0}, {"choices", choices}};
-    }
-    return {};
-}
-
-QString StudioAccess::text(const QString &key, const QVariant &value) const
-{
-    return key == QLatin1String(modeKey) ? m_page.mode->itemText(value.toInt()) : QString();
-}
+#include <stdexcept>
 
 StudioPage::StudioPage()
 {
     auto *first = new QWidget;
     auto *second = new QWidget;
-    tabs->addTab(first, QStringLiteral("Picture"));
-    tabs->addTab(second, QStringLiteral("Texts"));
+    tabs->addTab(first, "Picture");
+    tabs->addTab(second, "Texts");
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(tabs);
 
     auto *picture = new QFormLayout(first);
     picture->addRow(shadows);
     picture->addRow(samplesLabel, samples);
-    picture->addRow(QStringLiteral("&Mode"), mode);
+    picture->addRow("&Mode", mode);
     picture->addRow(hidden);
     auto *texts = new QFormLayout(second);
-    texts->addRow(QStringLiteral("Sca&le"), scale);
-    texts->addRow(QStringLiteral("&Title"), title);
+    texts->addRow("Sca&le", scale);
+    texts->addRow("&Title", title);
     samplesLabel->setBuddy(samples);
-    samples->setToolTip(QStringLiteral("How often each <b>pixel</b> is computed"));
-    mode->addItems({QStringLiteral("Hasty"), QStringLiteral("Accurate")});
+    samples->setToolTip("How often each <b>pixel</b> is computed");
+    mode->addItems({"Hasty", "Accurate"});
     hidden->hide();
     setMinimumHeight(3000);
-
-    tag(*shadows, shadowsKey);
-    tag(*samples, samplesKey);
-    tag(*mode, modeKey);
-    tag(*scale, scaleKey);
-    tag(*title, titleKey);
-    tag(*hidden, hiddenKey);
-    new StudioAccess(*this);
 
     connect(shadows, &QCheckBox::toggled, this, [this](bool on) {
         samples->setEnabled(true);
@@ -112,68 +43,38 @@ StudioPage::StudioPage()
     });
 }
 
-void StudioPage::tag(QWidget &control, const char *key)
+StudioModule::StudioModule(const QString &name) : olModule(name, QString())
 {
-    control.setProperty("olSettingKeys", QStringList{QLatin1String(key)});
-}
-
-StudioModule::StudioModule(const QString &name) : olPreferences(name, QString()) { addPreferencesGUI(&page); }
-
-StudioModule::~StudioModule() { subPreferencesGUI(&page); }
-
-void StudioModule::setDefaults(olMessage &, bool flag)
-{
-    getData().set(shadowsKey, true, flag);
-    getData().set(samplesKey, 4, flag);
-    getData().set(modeKey, 0, flag);
-    getData().set(scaleKey, 1.5f, flag);
-    getData().set(titleKey, QString(), flag);
-    getData().set(hiddenKey, false, flag);
-    getData().set(seedKey, 7, flag);
+    const auto key = [&name](const char *ending) { return name.toStdString() + ' ' + ending; };
+    settings().add(olSetting<bool>(key("shadows"), true), page.shadows);
+    settings().add(olSetting<int>(key("samples"), 4), page.samples);
+    settings().add(olSetting<int>(key("mode"), 0), page.mode);
+    settings().add(olSetting<float>(key("scale"), 1.5f), page.scale);
+    settings().add(olSetting<QString>(key("title"), QString()), page.title);
+    settings().add(olSetting<bool>(key("hidden"), false), page.hidden);
+    settings().addWithoutControl(olSetting<int>(key("seed"), 7));
+    handOverPage();
 }
 
 void StudioModule::updateGUI()
 {
     page.isFilling = true;
-    page.shadows->setChecked(read<bool>(shadowsKey));
-    page.samples->setValue(read<int>(samplesKey));
-    page.mode->setCurrentIndex(read<int>(modeKey));
-    page.scale->setText(QString::number(double(read<float>(scaleKey)), 'g', 6));
-    page.title->setText(read<QString>(titleKey));
-    page.hidden->setChecked(read<bool>(hiddenKey));
+    olModule::updateGUI();
     page.isFilling = false;
-}
-
-void StudioModule::updateData()
-{
-    const auto take = [](const char *key, auto value, StudioModule &module) {
-        if (read<decltype(value)>(key) == value)
-            module.addUnchanged(key);
-        getData().set(key, value, true);
-    };
-    take(shadowsKey, page.shadows->isChecked(), *this);
-    take(samplesKey, page.samples->value(), *this);
-    take(modeKey, page.mode->currentIndex(), *this);
-    take(scaleKey, page.scale->text().toFloat(), *this);
-    take(titleKey, page.title->text(), *this);
-    take(hiddenKey, page.hidden->isChecked(), *this);
 }
 
 void StudioModule::applyPreferences()
 {
     ++applied;
     changed.clear();
-    for (const char *key : {shadowsKey, samplesKey, modeKey, scaleKey, titleKey, hiddenKey}) {
-        if (isChanged(key))
-            changed.emplace_back(key);
-    }
+    settings().each([this](const olListedSetting &setting) {
+        if (setting.widget() && isChanged(setting.key().c_str()))
+            changed.push_back(setting.key());
+    });
 }
-
-DialogTest::DialogTest() = default;
 
 DialogTest::~DialogTest()
 {
-    EXPECT_EQ(answered, asked) << "a question that the test expected never came";
     dialog.reset();
     session.reset();
     cleanHost();
@@ -181,17 +82,14 @@ DialogTest::~DialogTest()
 
 void DialogTest::start(const QByteArray &site)
 {
-    if (!site.isEmpty()) {
-        QFile file(siteFile);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(site);
-    }
+    if (!site.isEmpty())
+        writtenFile(siteFile, site);
     session = std::make_unique<olPreferencesSession>(store, QStringList{siteFile});
     ASSERT_EQ(session->loadStore().error(), QString());
     session->start();
     module.applied = 0;
     dialog = std::make_unique<olPreferencesDialog>(*session);
-    dialog->open(QStringLiteral("Studio"));
+    dialog->open("Studio");
     QApplication::setActiveWindow(dialog.get());
     QCoreApplication::processEvents();
 }
@@ -207,6 +105,13 @@ bool DialogTest::canApply() const
     return button(QDialogButtonBox::Apply)->isEnabled();
 }
 
+bool DialogTest::says(const QString &text) const
+{
+    const auto labels = dialog->findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&text](const QLabel *label) { return label->isVisible() && label->text().contains(text); });
+}
+
 QStringList DialogTest::listed() const
 {
     QStringList names;
@@ -217,28 +122,14 @@ QStringList DialogTest::listed() const
     return names;
 }
 
-void DialogTest::answer(const QString &text)
+QAction &DialogTest::menuAction(QWidget &widget, const char *name, const QPoint &place)
 {
-    ++asked;
-    QTimer::singleShot(0, dialog.get(), [this, text] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        for (QAbstractButton *button : box->buttons()) {
-            if (olWithoutMnemonic(button->text()) == text) {
-                ++answered;
-                button->click();
-                return;
-            }
-        }
-        box->reject();
-    });
-}
-
-QAction *DialogTest::menuAction(QWidget &widget, const QString &name) const
-{
-    const QPoint middle = widget.rect().center();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, middle, widget.mapToGlobal(middle));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
     QApplication::sendEvent(&widget, &event);
-    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    return menu ? menu->findChild<QAction *>(name) : nullptr;
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QAction *action = menu ? menu->findChild<QAction *>(name) : nullptr;
+    if (!action)
+        throw std::runtime_error(std::string("no action ") + name);
+    menu->close();
+    return *action;
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "Dialog/olPreferencesDialog.h"
-#include "Kernel/olPreferences.h"
+#include "Framework/olModule.h"
 #include "Session/olPreferencesSession.h"
+#include "Support/BoxWatch.h"
 #include "Utilities/olMessage.h"
 
 #include <QCheckBox>
@@ -10,7 +11,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -21,57 +21,32 @@
 #include <string>
 #include <vector>
 
-class StudioPage;
-
-/// What a host finds on a page whose module lets it read single settings.
-class StudioAccess : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit StudioAccess(StudioPage &page);
-
-    [[nodiscard]] Q_INVOKABLE QVariant value(const QString &key) const;
-    [[nodiscard]] Q_INVOKABLE QVariantMap describe(const QString &key) const;
-    [[nodiscard]] Q_INVOKABLE QString text(const QString &key, const QVariant &value) const;
-
-private:
-    StudioPage &m_page;
-};
-
 /// A page with one control of each kind, higher than any screen, and a rule and a question of its own.
-class StudioPage : public QWidget
+class StudioPage : public olPageWidget
 {
-    Q_OBJECT
-
 public:
     StudioPage();
 
     QTabWidget *tabs = new QTabWidget;
-    QCheckBox *shadows = new QCheckBox(QStringLiteral("Cast &Shadows"));
-    QLabel *samplesLabel = new QLabel(QStringLiteral("S&amples"));
+    QCheckBox *shadows = new QCheckBox("Cast &Shadows");
+    QLabel *samplesLabel = new QLabel("S&amples");
     QSpinBox *samples = new QSpinBox;
     QComboBox *mode = new QComboBox;
     QLineEdit *scale = new QLineEdit;
     QLineEdit *title = new QLineEdit;
-    QCheckBox *hidden = new QCheckBox(QStringLiteral("Hidden away"));
+    QCheckBox *hidden = new QCheckBox("Hidden away");
     int questions = 0;
-    bool isFilling = false;
-
-private:
-    void tag(QWidget &control, const char *key);
+    bool isFilling = true; ///< at first with the defaults
 };
 
-/// A module of that page: five settings with a control, one without, and one that the page hides.
-class StudioModule : public olPreferences
+/// A module of that page, made as those of the plug-in are: five settings with a control, one that the page hides, and
+/// one without. Its keys begin with its name.
+class StudioModule : public olModule<StudioPage>
 {
 public:
-    explicit StudioModule(const QString &name = QStringLiteral("Studio"));
-    ~StudioModule() override;
+    explicit StudioModule(const QString &name = "Studio");
 
-    void setDefaults(olMessage &, bool flag) override;
     void updateGUI() override;
-    void updateData() override;
     void applyPreferences() override;
 
     template <class T> [[nodiscard]] static T value(const std::string &key)
@@ -79,7 +54,7 @@ public:
         return boost::any_cast<T>(getData().get(key));
     }
 
-    StudioPage page;
+    StudioPage &page = olModule::page();
     int applied = 0;
     std::vector<std::string> changed;
 };
@@ -88,27 +63,30 @@ public:
 class DialogTest : public testing::Test
 {
 protected:
-    DialogTest();
     ~DialogTest() override;
 
     /// With a site file of that text.
     void start(const QByteArray &site = {});
 
     [[nodiscard]] QPushButton *button(QDialogButtonBox::StandardButton which) const;
-    [[nodiscard]] QPushButton *changes() const { return dialog->findChild<QPushButton *>(QStringLiteral("changes")); }
-    [[nodiscard]] QLineEdit *search() const { return dialog->findChild<QLineEdit *>(QStringLiteral("search")); }
+    [[nodiscard]] QPushButton *changes() const { return dialog->findChild<QPushButton *>("changes"); }
+    [[nodiscard]] QLineEdit *search() const { return dialog->findChild<QLineEdit *>("search"); }
 
     /// Once all that was done has been taken in.
     [[nodiscard]] bool canApply() const;
 
+    /// Whether a line of the dialog says that.
+    [[nodiscard]] bool says(const QString &text) const;
+
     /// The entries of the tree in sight.
     [[nodiscard]] QStringList listed() const;
 
-    /// Presses that button of the next modal box; the test fails where none opens.
-    void answer(const QString &text);
-
-    /// The context menu's action of that name, opened on the widget; null where there is none.
-    [[nodiscard]] QAction *menuAction(QWidget &widget, const QString &name) const;
+    /// The action of that name in the widget's context menu, which opens at the place for that.
+    [[nodiscard]] static QAction &menuAction(QWidget &widget, const char *name, const QPoint &place);
+    [[nodiscard]] static QAction &menuAction(QWidget &widget, const char *name)
+    {
+        return menuAction(widget, name, widget.rect().center());
+    }
 
     /// The window of that type in front of the dialog.
     template <class Window> [[nodiscard]] Window *opened() const
@@ -121,11 +99,10 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString store = folder.filePath(QStringLiteral("store/preferences.db"));
-    QString siteFile = folder.filePath(QStringLiteral("site.json"));
+    QString store = folder.filePath("store/preferences.db");
+    QString siteFile = folder.filePath("site.json");
     StudioModule module;
     std::unique_ptr<olPreferencesSession> session;
     std::unique_ptr<olPreferencesDialog> dialog;
-    int answered = 0;
-    int asked = 0;
+    BoxAnswers boxes;
 };

@@ -2,19 +2,16 @@
 #include "Dialog/olDialogMemory.h"
 #include "Dialog/olWindowPlace.h"
 #include "DialogTest.h"
+#include "Support/Files.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QCloseEvent>
 #include <QFile>
 #include <QHeaderView>
-#include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSettings>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 #include <QWheelEvent>
 
@@ -34,7 +31,7 @@ TEST_F(PreferencesDialog, ApplyIsOfferedOnlyWhileThePageDiffersFromItsFilling)
     EXPECT_FALSE(canApply()) << "edited back is not changed";
 
     module.page.mode->setCurrentIndex(1);
-    module.page.title->setText(QStringLiteral("Front"));
+    module.page.title->setText("Front");
     EXPECT_TRUE(canApply());
     EXPECT_EQ(changes()->text(), "2 Chan&ges...");
     QTest::mouseClick(button(QDialogButtonBox::Apply), Qt::LeftButton);
@@ -53,7 +50,7 @@ TEST_F(PreferencesDialog, TheListOfChangesNamesSettingOldAndNewValue)
     QTest::mouseClick(changes(), Qt::LeftButton);
     auto *view = opened<olChangesView>();
     ASSERT_NE(view, nullptr);
-    auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    auto *list = view->findChild<QTreeWidget *>("changes");
     ASSERT_EQ(list->topLevelItemCount(), 2);
     const auto row = [list](int index) {
         const QTreeWidgetItem *item = list->topLevelItem(index);
@@ -64,7 +61,7 @@ TEST_F(PreferencesDialog, TheListOfChangesNamesSettingOldAndNewValue)
 
     EXPECT_EQ(list->header()->length(), list->viewport()->width()) << "old and new are both in sight";
 
-    QTest::mouseClick(view->findChild<QPushButton *>(QStringLiteral("copyAsText")), Qt::LeftButton);
+    QTest::mouseClick(view->findChild<QPushButton *>("copyAsText"), Qt::LeftButton);
     EXPECT_EQ(QApplication::clipboard()->text(), "Studio: Cast Shadows (Studio shadows): on -> off\n"
                                                  "Studio: Mode (Studio mode): Hasty -> Accurate\n");
     list->setFocus();
@@ -80,14 +77,14 @@ TEST_F(PreferencesDialog, ChangesAreTakenBackOneByOneOrAllTogether)
     start();
     module.page.samples->setValue(9);
     module.page.mode->setCurrentIndex(1);
-    module.page.title->setText(QStringLiteral("Front"));
+    module.page.title->setText("Front");
     ASSERT_TRUE(canApply());
     QTest::mouseClick(changes(), Qt::LeftButton);
     auto *view = opened<olChangesView>();
     ASSERT_NE(view, nullptr);
-    auto *list = view->findChild<QTreeWidget *>(QStringLiteral("changes"));
+    auto *list = view->findChild<QTreeWidget *>("changes");
     const auto press = [view](const char *name) {
-        QTest::mouseClick(view->findChild<QPushButton *>(QLatin1String(name)), Qt::LeftButton);
+        QTest::mouseClick(view->findChild<QPushButton *>(name), Qt::LeftButton);
     };
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Down);
@@ -111,16 +108,16 @@ TEST_F(PreferencesDialog, LeavingWithEditsAloneAsksToApplyDiscardOrStay)
     EXPECT_FALSE(dialog->isVisible());
     dialog->open(QString());
     module.page.samples->setValue(9);
-    answer(QStringLiteral("Stay"));
+    boxes.next("Stay");
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(module.page.samples->value(), 9);
 
-    answer(QStringLiteral("Stay"));
+    boxes.next("Stay");
     EXPECT_FALSE(dialog->close());
     EXPECT_TRUE(dialog->isVisible());
 
-    answer(QStringLiteral("Discard"));
+    boxes.next("Discard");
     QTest::mouseClick(button(QDialogButtonBox::Cancel), Qt::LeftButton);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(module.value<int>("Studio samples"), 4);
@@ -128,7 +125,7 @@ TEST_F(PreferencesDialog, LeavingWithEditsAloneAsksToApplyDiscardOrStay)
     EXPECT_EQ(module.page.samples->value(), 4) << "the next opening fills the page again";
 
     module.page.samples->setValue(9);
-    answer(QStringLiteral("Apply"));
+    boxes.next("Apply");
     dialog->close();
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(module.value<int>("Studio samples"), 9);
@@ -139,18 +136,15 @@ TEST_F(PreferencesDialog, EnterOnTheQuestionBeforeLeavingStaysAndTheQuestionName
 {
     start();
     module.page.samples->setValue(9);
-    QString question;
-    QTimer::singleShot(0, dialog.get(), [&question] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        question = box->text();
-        QTest::keyClick(box, Qt::Key_Return);
+    const BoxWatch watch([](QMessageBox &box) {
+        EXPECT_TRUE(box.text().contains("Studio: Samples")) << box.text().toStdString();
+        QTest::keyClick(&box, Qt::Key_Return);
     });
     QTest::mouseClick(button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_EQ(watch.count, 1);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(module.applied, 0);
     EXPECT_EQ(module.page.samples->value(), 9);
-    EXPECT_TRUE(question.contains(QStringLiteral("Studio: Samples"))) << question.toStdString();
 }
 
 TEST_F(PreferencesDialog, EnterInAFieldAppliesNothingAndClosesNothing)
@@ -163,7 +157,7 @@ TEST_F(PreferencesDialog, EnterInAFieldAppliesNothingAndClosesNothing)
         EXPECT_TRUE(dialog->isVisible());
     }
     module.page.samples->setFocus();
-    QTest::keyClicks(module.page.samples, QStringLiteral("7"));
+    QTest::keyClicks(module.page.samples, "7");
     QTest::keyClick(module.page.samples, Qt::Key_Enter);
     EXPECT_TRUE(canApply());
     EXPECT_EQ(module.applied, 0);
@@ -195,8 +189,7 @@ TEST_F(PreferencesDialog, AfterApplyTheFocusIsWhereOneWorked)
 TEST_F(PreferencesDialog, WhenStoringFailsTheEditsStayAndOkCanBePressedAgain)
 {
     start();
-    QFile inTheWay(folder.filePath(QStringLiteral("store")));
-    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    const QString inTheWay = writtenFile(folder.filePath("store"));
     module.page.samples->setValue(9);
     QTest::mouseClick(button(QDialogButtonBox::Ok), Qt::LeftButton);
     EXPECT_TRUE(dialog->isVisible());
@@ -204,16 +197,13 @@ TEST_F(PreferencesDialog, WhenStoringFailsTheEditsStayAndOkCanBePressedAgain)
     EXPECT_EQ(module.value<int>("Studio samples"), 4);
     EXPECT_EQ(module.applied, 0);
     EXPECT_TRUE(canApply());
-    bool isTold = false;
-    for (const QLabel *label : dialog->findChildren<QLabel *>())
-        isTold = isTold || (label->isVisible() && label->text().contains(store));
-    EXPECT_TRUE(isTold);
+    EXPECT_TRUE(says(store));
 
-    answer(QStringLiteral("Apply"));
+    boxes.next("Apply");
     dialog->reject();
     EXPECT_TRUE(dialog->isVisible()) << "what could not be applied is not lost by leaving";
 
-    inTheWay.remove();
+    QFile::remove(inTheWay);
     QTest::mouseClick(button(QDialogButtonBox::Ok), Qt::LeftButton);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(module.value<int>("Studio samples"), 9);
@@ -222,9 +212,9 @@ TEST_F(PreferencesDialog, WhenStoringFailsTheEditsStayAndOkCanBePressedAgain)
 
 TEST_F(PreferencesDialog, AModuleThatGoesTakesItsPageAndItsEditsWithIt)
 {
-    auto other = std::make_unique<StudioModule>(QStringLiteral("Other"));
+    auto other = std::make_unique<StudioModule>("Other");
     start();
-    dialog->open(QStringLiteral("Other"));
+    dialog->open("Other");
     EXPECT_EQ(listed(), (QStringList{"Studio", "Other"}));
     other->page.samples->setValue(9);
     EXPECT_TRUE(canApply());
@@ -262,20 +252,20 @@ TEST_F(PreferencesDialog, TheWheelScrollsThePageUntilAControlIsFocused)
 
 TEST_F(PreferencesDialog, RemembersItsSizeAndPageAndNeverOutgrowsTheScreen)
 {
-    StudioModule other(QStringLiteral("Other"));
+    StudioModule other("Other");
     start();
-    dialog->open(QStringLiteral("Other"));
+    dialog->open("Other");
     dialog->setGeometry(41, 83, 611, 433);
     dialog->reject();
     dialog = std::make_unique<olPreferencesDialog>(*session);
     dialog->open(QString());
     EXPECT_EQ(dialog->geometry(), QRect(41, 83, 611, 433));
     EXPECT_TRUE(other.page.isVisible());
-    EXPECT_TRUE(dialog->openAt(QStringLiteral("Studio title")));
+    EXPECT_TRUE(dialog->openAt("Studio title"));
     EXPECT_EQ(dialog->focusWidget()->window(), dialog.get());
     EXPECT_TRUE(dialog->focusWidget() == module.page.title || dialog->focusWidget() == other.page.title);
-    EXPECT_FALSE(dialog->openAt(QStringLiteral("Studio seed"))) << "no page has it";
-    dialog->open(QStringLiteral("Other"));
+    EXPECT_FALSE(dialog->openAt("Studio seed")) << "no page has it";
+    dialog->open("Other");
     EXPECT_LE(dialog->minimumSizeHint().width(), 400);
     EXPECT_LE(dialog->minimumSizeHint().height(), 300);
 
@@ -316,7 +306,7 @@ TEST(WindowPlace, IsBesideItsNeighbourOrLeavesItWhatItCan)
 TEST_F(PreferencesDialog, WhatTheHostSaysAboutASaveIsReadBeforeTheDialogCloses)
 {
     start();
-    const auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
+    const auto *message = dialog->findChild<QWidget *>("message");
     module.page.samples->setValue(8);
     ASSERT_TRUE(dialog->apply());
     EXPECT_FALSE(message->isVisible());

@@ -3,9 +3,7 @@
 
 #include <QApplication>
 #include <QColor>
-#include <QContextMenuEvent>
 #include <QImage>
-#include <QMenu>
 #include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
@@ -21,7 +19,7 @@ namespace
 class PlainModule : public olPreferences
 {
 public:
-    PlainModule() : olPreferences(QStringLiteral("Plain"), QStringLiteral("Family"))
+    PlainModule() : olPreferences("Plain", "Family")
     {
         box.setParent(&page);
         addPreferencesGUI(&page);
@@ -34,7 +32,7 @@ public:
     void applyPreferences() override {}
 
     QWidget page;
-    QCheckBox box{QStringLiteral("Untagged")};
+    QCheckBox box{"Untagged"};
 };
 
 class PreferencesDialogSearch : public DialogTest
@@ -50,7 +48,7 @@ protected:
         return names;
     }
 
-    [[nodiscard]] QTreeView &found() const { return *dialog->findChild<QTreeView *>(QStringLiteral("found")); }
+    [[nodiscard]] QTreeView &found() const { return *dialog->findChild<QTreeView *>("found"); }
 
     /// The rows of the list of what was found, cells apart by bars.
     [[nodiscard]] QStringList rows() const
@@ -61,19 +59,17 @@ protected:
             QStringList cells;
             for (int column = 0; column < model.columnCount(); ++column)
                 cells << model.index(row, column).data().toString();
-            rows << cells.join(QStringLiteral(" | "));
+            rows << cells.join(" | ");
         }
         return found().isVisible() ? rows : QStringList();
     }
 
-    /// The action of that name in the menu of a row.
-    [[nodiscard]] QAction *rowAction(int row, const char *name) const
+    [[nodiscard]] QPoint placeOf(int row) const { return found().visualRect(found().model()->index(row, 0)).center(); }
+
+    void chooseAtFirstRow(const char *action) const
     {
-        const QPoint place = found().visualRect(found().model()->index(row, 0)).center();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, found().viewport()->mapToGlobal(place));
-        QApplication::sendEvent(found().viewport(), &event);
-        const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        return menu ? menu->findChild<QAction *>(QLatin1String(name)) : nullptr;
+        menuAction(*found().viewport(), action, placeOf(0)).trigger();
+        QCoreApplication::processEvents();
     }
 
     void type(const QString &text) const
@@ -102,24 +98,24 @@ TEST_F(PreferencesDialogSearch, FindsByLabelTooltipChoiceAndKeyAndMarksWhatItFou
         {"<b>", {}},
     };
     for (const auto &one : searches) {
-        type(QString::fromLatin1(one.text));
+        type(one.text);
         EXPECT_EQ(hits(), one.names) << one.text;
         EXPECT_EQ(listed(), one.names.isEmpty() ? QStringList() : QStringList{"Studio"}) << one.text;
     }
-    type(QStringLiteral("untagged"));
+    type("untagged");
     EXPECT_EQ(listed(), (QStringList{"Family", "Plain"}));
     EXPECT_EQ(rows(), QStringList{"Untagged | Plain |  | "});
-    type(QStringLiteral("hidden away"));
+    type("hidden away");
     EXPECT_EQ(listed(), QStringList()) << "what the page hides is not found";
 }
 
 TEST_F(PreferencesDialogSearch, ListsSettingsWithTheirValuesAndGoesThereByEnterOrClick)
 {
     start();
-    type(QStringLiteral("s"));
+    type("s");
     const QStringList all = rows();
     EXPECT_EQ(all.first(), "Cast Shadows | Studio \u203a Picture | on | default");
-    EXPECT_TRUE(all.contains(QStringLiteral("Mode | Studio \u203a Picture | Hasty | default"))) << "found by its key";
+    EXPECT_TRUE(all.contains("Mode | Studio \u203a Picture | Hasty | default")) << "found by its key";
     const auto *tree = dialog->findChild<QTreeWidget *>();
     EXPECT_EQ(tree->currentItem()->text(1).toInt(), all.size()) << "the tree says how many";
     QImage row(400, 20, QImage::Format_RGB32);
@@ -130,7 +126,7 @@ TEST_F(PreferencesDialogSearch, ListsSettingsWithTheirValuesAndGoesThereByEnterO
     EXPECT_FALSE(painter.hasClipping()) << "the value beside it is drawn by the same painter";
     painter.end();
 
-    type(QStringLiteral("texts"));
+    type("texts");
     EXPECT_EQ(rows().size(), 2) << "the tab's title counts for what is on it";
     QTest::keyClick(search(), Qt::Key_Down);
     EXPECT_TRUE(found().hasFocus());
@@ -140,11 +136,10 @@ TEST_F(PreferencesDialogSearch, ListsSettingsWithTheirValuesAndGoesThereByEnterO
     EXPECT_EQ(module.page.tabs->currentIndex(), 1);
     EXPECT_EQ(search()->text(), "texts") << "the others are still there";
 
-    type(QStringLiteral("samples"));
-    QTest::mouseClick(found().viewport(), Qt::LeftButton, Qt::NoModifier,
-                      found().visualRect(found().model()->index(0, 0)).center());
+    type("samples");
+    QTest::mouseClick(found().viewport(), Qt::LeftButton, Qt::NoModifier, placeOf(0));
     EXPECT_TRUE(module.page.samples->hasFocus());
-    type(QStringLiteral("title"));
+    type("title");
     QTest::keyClick(search(), Qt::Key_Return);
     EXPECT_TRUE(module.page.title->hasFocus());
     EXPECT_TRUE(dialog->isVisible()) << "Enter in the search is no OK";
@@ -154,11 +149,11 @@ TEST_F(PreferencesDialogSearch, ForgivesSlipsAndHyphensInLongerWords)
 {
     start();
     for (const char *text : {"accurrate", "acurate", "accu-rate", "shadwos cast"}) {
-        type(QString::fromLatin1(text));
+        type(text);
         EXPECT_EQ(rows().size(), 1) << text;
     }
     for (const char *text : {"mdoe", "accordion"}) {
-        type(QString::fromLatin1(text));
+        type(text);
         EXPECT_EQ(rows().size(), 0) << text;
     }
 }
@@ -166,7 +161,7 @@ TEST_F(PreferencesDialogSearch, ForgivesSlipsAndHyphensInLongerWords)
 TEST_F(PreferencesDialogSearch, EscapeClearsTheSearchBeforeItCloses)
 {
     start();
-    type(QStringLiteral("title"));
+    type("title");
     QTest::keyClick(search(), Qt::Key_Return);
     ASSERT_TRUE(module.page.title->hasFocus());
     QTest::keyClick(module.page.title, Qt::Key_Escape);
@@ -186,7 +181,7 @@ TEST_F(PreferencesDialogSearch, ChangedOnlyIsOneListOfAllThatDiffersAndIsAlwaysC
     start();
     module.page.mode->setCurrentIndex(1);
     ASSERT_TRUE(dialog->apply());
-    auto *changedOnly = dialog->findChild<QCheckBox *>(QStringLiteral("changedOnly"));
+    auto *changedOnly = dialog->findChild<QCheckBox *>("changedOnly");
     changedOnly->setChecked(true);
     EXPECT_EQ(listed(), QStringList{"Studio"});
     EXPECT_EQ(rows(), QStringList{"Mode | Studio \u203a Picture | Accurate | yours"});
@@ -198,22 +193,16 @@ TEST_F(PreferencesDialogSearch, ChangedOnlyIsOneListOfAllThatDiffersAndIsAlwaysC
     EXPECT_EQ(rows(), both);
     EXPECT_EQ(hits(), (QStringList{"Samples", "Mode"}));
 
-    QAction *takeBack = rowAction(0, "takeBack");
-    ASSERT_NE(takeBack, nullptr);
-    takeBack->trigger();
-    QApplication::activePopupWidget()->close();
-    QCoreApplication::processEvents();
+    chooseAtFirstRow("takeBack");
     EXPECT_EQ(rows(), QStringList{both[1]});
-    rowAction(0, "reset")->trigger();
-    QApplication::activePopupWidget()->close();
-    QCoreApplication::processEvents();
+    chooseAtFirstRow("reset");
     EXPECT_EQ(rows(), QStringList());
     EXPECT_EQ(module.page.mode->currentIndex(), 0);
     ASSERT_TRUE(dialog->apply());
 
     module.page.samples->setValue(9);
     QCoreApplication::processEvents();
-    type(QStringLiteral("title"));
+    type("title");
     EXPECT_EQ(listed(), QStringList()) << "both filters hold";
     search()->clear();
     changedOnly->setChecked(false);
@@ -225,10 +214,10 @@ TEST_F(PreferencesDialogSearch, ACategoryStaysFoldedUntilItIsOpenedAndIsRemember
     const PlainModule plain;
     start();
     const auto family = [this] {
-        return dialog->findChild<QTreeWidget *>()->findItems(QStringLiteral("Family"), Qt::MatchExactly).value(0);
+        return dialog->findChild<QTreeWidget *>()->findItems("Family", Qt::MatchExactly).value(0);
     };
     EXPECT_FALSE(family()->isExpanded());
-    type(QStringLiteral("untagged"));
+    type("untagged");
     EXPECT_TRUE(family()->isExpanded()) << "what was found is in sight";
     search()->clear();
     EXPECT_FALSE(family()->isExpanded());
@@ -244,7 +233,7 @@ TEST_F(PreferencesDialogSearch, ACategoryStaysFoldedUntilItIsOpenedAndIsRemember
 TEST_F(PreferencesDialogSearch, FindsModulesThatComeWhileTheDialogIsOpenAndNoneThatGo)
 {
     start();
-    type(QStringLiteral("untagged"));
+    type("untagged");
     EXPECT_EQ(listed(), QStringList());
     auto late = std::make_unique<PlainModule>();
     QCoreApplication::processEvents();
@@ -288,14 +277,14 @@ TEST_F(PreferencesDialogSearch, IconsFillTheirRoomInTheColourOfTheTextAndLeaveTh
 
 TEST_F(PreferencesDialogSearch, TabGoesRoundTheWholeDialogInAReadersOrder)
 {
-    StudioModule other(QStringLiteral("Other"));
+    StudioModule other("Other");
     start(R"({"Studio title": {"locked": true}})");
     // The order must not depend on which pages were looked at before.
-    dialog->open(QStringLiteral("Other"));
-    dialog->open(QStringLiteral("Studio"));
+    dialog->open("Other");
+    dialog->open("Studio");
     module.page.samples->setValue(9);
     ASSERT_TRUE(canApply());
-    const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(QLatin1String(name)); };
+    const auto named = [this](const char *name) { return dialog->findChild<QWidget *>(name); };
     const std::vector<QWidget *> round{search(),
                                        named("changedOnly"),
                                        named("more"),

@@ -104,7 +104,7 @@ TEST_F(PreferencesDialogSettings, TheMarkTellsPendingFromAppliedAndFromLockedAnd
     QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, page.samplesLabel->geometry().topLeft() + QPoint(-4, 4));
     auto *card = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     ASSERT_NE(card, nullptr);
-    EXPECT_NE(card->findChild<QAction *>(QStringLiteral("copyKey")), nullptr);
+    EXPECT_NE(card->findChild<QAction *>("copyKey"), nullptr);
     card->close();
     EXPECT_EQ(marks->markedAt(page.shadows->mapTo(&page, QPoint(-4, 4))), page.shadows) << "a default has one, too";
     const auto *modeLabel = qobject_cast<QFormLayout *>(tab->layout())->labelForField(page.mode);
@@ -117,28 +117,21 @@ TEST_F(PreferencesDialogSettings, TheMenuResetsOneSettingAndLeavesTheOtherEdits)
     module.page.samples->setValue(9);
     module.page.mode->setCurrentIndex(1);
     module.page.shadows->setChecked(false);
-    QAction *reset = menuAction(*module.page.samplesLabel, QStringLiteral("reset"));
-    ASSERT_NE(reset, nullptr) << "the label has the menu too";
-    EXPECT_EQ(reset->text(), "&Reset to Default: 4");
-    reset->trigger();
-    QApplication::activePopupWidget()->close();
+    QAction &resetSamples = menuAction(*module.page.samplesLabel, "reset"); // the label has the menu, too
+    EXPECT_EQ(resetSamples.text(), "&Reset to Default: 4");
+    resetSamples.trigger();
     EXPECT_EQ(module.page.samples->value(), 4);
     EXPECT_EQ(module.page.mode->currentIndex(), 1);
 
-    reset = menuAction(*module.page.shadows, QStringLiteral("reset"));
-    ASSERT_NE(reset, nullptr);
-    EXPECT_EQ(reset->text(), "&Reset to Default: on");
-    reset->trigger();
-    QApplication::activePopupWidget()->close();
+    QAction &resetShadows = menuAction(*module.page.shadows, "reset");
+    EXPECT_EQ(resetShadows.text(), "&Reset to Default: on");
+    resetShadows.trigger();
     EXPECT_TRUE(module.page.shadows->isChecked());
     EXPECT_EQ(module.page.questions, 0) << "showing a value is no click of the user's";
 
-    reset = menuAction(*module.page.samples, QStringLiteral("reset"));
-    ASSERT_NE(reset, nullptr);
-    EXPECT_FALSE(reset->isEnabled()) << "there is nothing to reset";
-    QApplication::activePopupWidget()->close();
+    EXPECT_FALSE(menuAction(*module.page.samples, "reset").isEnabled()) << "there is nothing to reset";
     EXPECT_EQ(module.value<int>("Studio samples"), 4);
-    answer(QStringLiteral("Discard"));
+    boxes.next("Discard");
     dialog->reject();
 }
 
@@ -147,31 +140,21 @@ TEST_F(PreferencesDialogSettings, TheMenuIsACardThatTellsOriginAndTakesBack)
     start(R"({"Studio title": {"value": "Ours"}})");
     module.page.mode->setCurrentIndex(1);
     ASSERT_TRUE(dialog->apply());
-    const auto origin = [this](QWidget &control) {
-        const QAction *fact = menuAction(control, QStringLiteral("origin"));
-        const QString text = fact ? fact->text() : QString();
-        QApplication::activePopupWidget()->close();
-        return text;
-    };
+    const auto origin = [](QWidget &control) { return menuAction(control, "origin").text(); };
     EXPECT_EQ(origin(*module.page.shadows), "The default");
     EXPECT_EQ(origin(*module.page.mode), "Set by you");
     module.page.tabs->setCurrentIndex(1);
     EXPECT_EQ(origin(*module.page.title), "Set by the site");
-    module.page.title->setText(QStringLiteral("Mine"));
+    module.page.title->setText("Mine");
     EXPECT_EQ(origin(*module.page.title), "Changed, not applied yet");
 
-    menuAction(*module.page.title, QStringLiteral("copyJson"))->trigger();
-    QApplication::activePopupWidget()->close();
+    menuAction(*module.page.title, "copyJson").trigger();
     EXPECT_TRUE(QApplication::clipboard()->text().contains(
         QStringLiteral(R"("Studio title": {"type": "qstring", "value": "Mine"})")));
-    QAction *takeBack = menuAction(*module.page.title, QStringLiteral("takeBack"));
-    ASSERT_NE(takeBack, nullptr);
-    takeBack->trigger();
-    QApplication::activePopupWidget()->close();
+    menuAction(*module.page.title, "takeBack").trigger();
     EXPECT_EQ(module.page.title->text(), "Ours");
     EXPECT_FALSE(canApply());
-    EXPECT_FALSE(menuAction(*module.page.title, QStringLiteral("takeBack"))->isEnabled());
-    QApplication::activePopupWidget()->close();
+    EXPECT_FALSE(menuAction(*module.page.title, "takeBack").isEnabled());
 }
 
 TEST_F(PreferencesDialogSettings, TheMenuOpensByKeyboardAndCopiesTheKey)
@@ -184,14 +167,12 @@ TEST_F(PreferencesDialogSettings, TheMenuOpensByKeyboardAndCopiesTheKey)
         QTest::keyClick(module.page.samples, key, modifier);
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         ASSERT_NE(menu, nullptr);
-        menu->findChild<QAction *>(QStringLiteral("copyKey"))->trigger();
+        menu->findChild<QAction *>("copyKey")->trigger();
         menu->close();
         EXPECT_EQ(QApplication::clipboard()->text(), "Studio samples");
     }
-    const QAction *copyKey = menuAction(*module.page.title, QStringLiteral("copyKey"));
-    ASSERT_NE(copyKey, nullptr);
-    EXPECT_GT(QApplication::activePopupWidget()->actions().size(), 4) << "a field keeps its own menu besides";
-    QApplication::activePopupWidget()->close();
+    const QWidget &menu = *menuAction(*module.page.title, "copyKey").associatedWidgets().first();
+    EXPECT_GT(menu.actions().size(), 4) << "a field keeps its own menu besides";
 }
 
 TEST_F(PreferencesDialogSettings, RestoringIsPendingUntilItIsApplied)
@@ -200,14 +181,14 @@ TEST_F(PreferencesDialogSettings, RestoringIsPendingUntilItIsApplied)
     StudioModule::getData().set("Studio scale", 2.125f, true);
     StudioModule::getData().set("Studio seed", 8, true);
     start();
-    QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("restorePage")), Qt::LeftButton);
+    QTest::mouseClick(dialog->findChild<QPushButton *>("restorePage"), Qt::LeftButton);
     EXPECT_EQ(module.page.samples->value(), 4);
     EXPECT_EQ(module.page.scale->text(), "1.5");
     EXPECT_TRUE(canApply());
     EXPECT_EQ(changes()->text(), "3 Chan&ges...") << "the one without a control counts";
     EXPECT_EQ(module.value<int>("Studio seed"), 8);
 
-    answer(QStringLiteral("Discard"));
+    boxes.next("Discard");
     dialog->reject();
     dialog->open(QString());
     EXPECT_EQ(module.page.samples->value(), 9) << "Cancel takes it back";
@@ -225,7 +206,7 @@ TEST_F(PreferencesDialogSettings, RestoringIsPendingUntilItIsApplied)
 TEST_F(PreferencesDialogSettings, ADefaultThatAFieldRoundsIsRestoredExactly)
 {
     start(R"({"Studio scale": {"value": 2.1234567}})");
-    module.page.scale->setText(QStringLiteral("9"));
+    module.page.scale->setText("9");
     ASSERT_TRUE(dialog->apply());
     dialog->restorePage();
     EXPECT_EQ(module.page.scale->text(), "2.12346");
@@ -242,33 +223,30 @@ TEST_F(PreferencesDialogSettings, ALockedSettingIsDisabledWithItsLabelAndSaysWhy
     for (const QWidget *widget :
          std::initializer_list<const QWidget *>{module.page.samples, module.page.samplesLabel}) {
         EXPECT_FALSE(widget->isEnabled());
-        EXPECT_TRUE(widget->toolTip().contains(QStringLiteral("The farm needs it.")));
+        EXPECT_TRUE(widget->toolTip().contains("The farm needs it."));
     }
     module.page.shadows->setChecked(false);
     EXPECT_FALSE(module.page.samples->isEnabled()) << "no rule of the page opens the lock";
     EXPECT_TRUE(module.page.title->isEnabled()) << "a site's default is no lock";
     EXPECT_EQ(marked(), QStringList{"Cast Shadows"}) << "the site's values are the defaults here";
 
-    QAction *why = menuAction(*module.page.samples, QStringLiteral("whyLocked"));
-    ASSERT_NE(why, nullptr);
-    EXPECT_FALSE(menuAction(*module.page.samples, QStringLiteral("reset"))->isEnabled());
-    why->trigger();
-    QApplication::activePopupWidget()->close();
-    auto *locked = dialog->findChild<QPushButton *>(QStringLiteral("locked"));
+    EXPECT_FALSE(menuAction(*module.page.samples, "reset").isEnabled());
+    menuAction(*module.page.samples, "whyLocked").trigger();
+    auto *locked = dialog->findChild<QPushButton *>("locked");
     EXPECT_TRUE(locked->isVisible()) << "by keyboard, which cannot reach what is disabled";
     ASSERT_EQ(locked->menu()->actions().size(), 1);
-    EXPECT_TRUE(locked->menu()->actions().first()->text().contains(QStringLiteral("The farm needs it.")));
+    EXPECT_TRUE(locked->menu()->actions().first()->text().contains("The farm needs it."));
     EXPECT_TRUE(locked->menu()->actions().first()->text().contains(siteFile)) << "whom to ask";
     module.page.tabs->setCurrentIndex(1);
     locked->menu()->actions().first()->trigger();
     EXPECT_EQ(module.page.tabs->currentIndex(), 0) << "it leads to the setting";
-    auto *message = dialog->findChild<QWidget *>(QStringLiteral("message"));
+    auto *message = dialog->findChild<QWidget *>("message");
     EXPECT_TRUE(message->isVisible());
     const QPalette light = QApplication::palette();
     QApplication::setPalette(QPalette(Qt::black));
     EXPECT_LT(message->palette().color(QPalette::Window).lightness(), 100) << "the desktop may turn dark meanwhile";
     QApplication::setPalette(light);
-    QTest::mouseClick(message->findChild<QWidget *>(QStringLiteral("closeMessage")), Qt::LeftButton);
+    QTest::mouseClick(message->findChild<QWidget *>("closeMessage"), Qt::LeftButton);
     EXPECT_FALSE(message->isVisible());
 
     module.page.samples->setValue(3);

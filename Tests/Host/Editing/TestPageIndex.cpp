@@ -34,8 +34,8 @@ class PageIndex : public testing::Test
 protected:
     PageIndex()
     {
-        tabs.addTab(first, QStringLiteral("&Quality"));
-        tabs.addTab(second, QStringLiteral("Paths"));
+        tabs.addTab(first, "&Quality");
+        tabs.addTab(second, "Paths");
     }
 
     [[nodiscard]] QWidget *found(const QString &text) const
@@ -55,11 +55,11 @@ protected:
 
 TEST_F(PageIndex, ControlsAreCalledWhatAPersonReads)
 {
-    auto *box = new QCheckBox(QStringLiteral("Black && &White"), first);
-    auto *field = labelled<QLineEdit>(*first, QStringLiteral("&Eye Separation"));
-    field->setAccessibleName(QStringLiteral("Distance"));
+    auto *box = new QCheckBox("Black && &White", first);
+    auto *field = labelled<QLineEdit>(*first, "&Eye Separation");
+    field->setAccessibleName("Distance");
     auto *editor = new QPlainTextEdit(first);
-    editor->setAccessibleName(QStringLiteral("White List"));
+    editor->setAccessibleName("White List");
 
     EXPECT_EQ(found("Black & White"), box);
     EXPECT_EQ(found("Eye Separation"), field);
@@ -67,17 +67,17 @@ TEST_F(PageIndex, ControlsAreCalledWhatAPersonReads)
     EXPECT_EQ(found("Distance"), nullptr) << "what is called for screen readers only must not hide the label's text";
     EXPECT_EQ(found("&Eye Separation"), nullptr);
 
-    auto *both = labelled<QCheckBox>(*first, QStringLiteral("Material Preview"));
-    both->setText(QStringLiteral("Use OpenGL"));
+    auto *both = labelled<QCheckBox>(*first, "Material Preview");
+    both->setText("Use OpenGL");
     EXPECT_EQ(found("Use OpenGL"), both);
     EXPECT_EQ(found("Material Preview"), both);
 }
 
 TEST_F(PageIndex, AnExactTextWinsOverAPath)
 {
-    QWidget *low = frame(*first, QStringLiteral("Low"));
-    auto *inside = new QCheckBox(QStringLiteral("Samples"), low);
-    auto *exact = new QCheckBox(QStringLiteral("Low/Samples"), second);
+    QWidget *low = frame(*first, "Low");
+    auto *inside = new QCheckBox("Samples", low);
+    auto *exact = new QCheckBox("Low/Samples", second);
 
     EXPECT_EQ(found("Low/Samples"), exact);
     EXPECT_EQ(found("Quality/Low/Samples"), inside);
@@ -87,8 +87,8 @@ TEST_F(PageIndex, AnExactTextWinsOverAPath)
 
 TEST_F(PageIndex, HiddenIsWhatThePageHides)
 {
-    auto *place = frame(*second, QStringLiteral("Frame"));
-    auto *box = new QCheckBox(QStringLiteral("Box"), place);
+    auto *place = frame(*second, "Frame");
+    auto *box = new QCheckBox("Box", place);
     const auto shown = [&] { return olPageIndex::isShown(page, *box); };
 
     EXPECT_TRUE(shown()) << "its tab was never in front";

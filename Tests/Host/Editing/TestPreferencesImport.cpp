@@ -3,14 +3,13 @@
 #include "Host/Dialog/DialogTest.h"
 #include "Session/olPreferencesFile.h"
 #include "State/olValue.h"
+#include "Support/Files.h"
 
 #include <OpenSG/OSGColor.h>
-#include <QFile>
 #include <QHeaderView>
 #include <QTest>
 #include <QTreeWidget>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -20,34 +19,17 @@ namespace
 class PreferencesImport : public DialogTest
 {
 protected:
-    [[nodiscard]] QString file(const QByteArray &text) const
-    {
-        QFile out(folder.filePath(QStringLiteral("import.json")));
-        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(text);
-        return out.fileName();
-    }
-
-    static QByteArray settings(const QByteArray &lines) { return R"({"format": 1, "settings": {)" + lines + "}}"; }
-
     [[nodiscard]] static QStringList rows(const olChangesView &view, const char *list)
     {
         QStringList rows;
-        const auto *tree = view.findChild<QTreeWidget *>(QString::fromLatin1(list));
+        const auto *tree = view.findChild<QTreeWidget *>(list);
         for (int row = 0; row < tree->topLevelItemCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < tree->columnCount(); ++column)
                 cells << tree->topLevelItem(row)->text(column);
-            rows << cells.join(QStringLiteral(" | "));
+            rows << cells.join(" | ");
         }
         return rows;
-    }
-
-    [[nodiscard]] bool says(const QString &text) const
-    {
-        const auto labels = dialog->findChildren<QLabel *>();
-        return std::any_of(labels.begin(), labels.end(),
-                           [&text](const QLabel *label) { return label->isVisible() && label->text().contains(text); });
     }
 };
 
@@ -62,7 +44,7 @@ TEST(PreferencesFile, ReadsBackEveryTypeExactly)
         {"f", 0.1f},
         {"nan", std::numeric_limits<float>::quiet_NaN()},
         {"d", -std::numeric_limits<double>::infinity()},
-        {"q", QStringLiteral("a \"quoted\"\nüñ€")},
+        {"q", QString("a \"quoted\"\nüñ€")},
         {"bytes", std::string("\xff\x80 and \xc3\xa4", 9)},
         {"ss", std::vector<std::string>{"", "two"}},
         {"fs", std::vector<float>{1.0f, 0.333333343f}},
@@ -89,48 +71,45 @@ TEST(PreferencesFile, ReadsBackEveryTypeExactly)
 TEST(PreferencesFile, RefusesWhatIsNoFileOfPreferencesAsAWhole)
 {
     const auto error = [](const char *text) { return olPreferencesFile::fromJson(text).error(); };
-    EXPECT_TRUE(error("{\n\"format\": 1,\n}").startsWith(QStringLiteral("Line 3: ")));
-    EXPECT_TRUE(
-        error("{\"format\": 1, \"settings\": {\n\"Key\": 3,\n\"Key\": 3}}").startsWith(QStringLiteral("Line 3: ")));
+    EXPECT_TRUE(error("{\n\"format\": 1,\n}").startsWith("Line 3: "));
+    EXPECT_TRUE(error("{\"format\": 1, \"settings\": {\n\"Key\": 3,\n\"Key\": 3}}").startsWith("Line 3: "));
     EXPECT_TRUE(error("{\"format\": 1, \"settings\": {\n\"a\": {\"type\": \"int\", \"value\": 1,\n\"value\": 2}}}")
-                    .contains(QStringLiteral("Line 3")))
+                    .contains("Line 3"))
         << "which of the two counts is not clear";
     EXPECT_FALSE(error("").isEmpty());
     EXPECT_FALSE(error("[]").isEmpty());
     EXPECT_FALSE(error(R"({"settings": {}})").isEmpty());
-    EXPECT_TRUE(error(R"({"format": 2, "settings": {}})").contains(QStringLiteral("newer")));
+    EXPECT_TRUE(error(R"({"format": 2, "settings": {}})").contains("newer"));
     EXPECT_FALSE(error(R"({"format": 1})").isEmpty());
-    EXPECT_TRUE(
-        olPreferencesFile::read(QStringLiteral("/nowhere/file.json")).error().contains(QStringLiteral("nowhere")));
-    EXPECT_TRUE(
-        olPreferencesFile::write(QStringLiteral("/nowhere/file.json"), {}).error().contains(QStringLiteral("nowhere")));
+    EXPECT_TRUE(olPreferencesFile::read("/nowhere/file.json").error().contains("nowhere"));
+    EXPECT_TRUE(olPreferencesFile::write("/nowhere/file.json", {}).error().contains("nowhere"));
 }
 
 TEST_F(PreferencesImport, ShowsWhatWillChangeAndWhatIsSkippedBeforeAnythingDoes)
 {
     start(R"({"Studio title": {"value": "Ours", "locked": true, "reason": "House style."}})");
-    dialog->transfer().importFrom(file(settings(R"("Studio samples": {"type": "int", "value": 9},
+    dialog->transfer().importFrom(writtenFile(folder.filePath("import.json"), R"({"format": 1, "settings": {
+        "Studio samples": {"type": "int", "value": 9},
         "Studio mode": {"type": "int", "value": 1}, "Studio scale": {"type": "float", "value": 1.5},
         "Studio seed": {"type": "int", "value": 8}, "Studio shadows": {"type": "int", "value": 1},
         "Studio title": {"type": "qstring", "value": "Theirs"}, "Unknown": {"type": "int", "value": 1},
-        "Studio hidden": {"type": "bool", "value": "yes"}, "Odd": {"type": "matrix", "value": 1}, "Bare": 3)")));
+        "Studio hidden": {"type": "bool", "value": "yes"}, "Odd": {"type": "matrix", "value": 1}, "Bare": 3}})"));
     auto *view = opened<olChangesView>();
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(rows(*view, "changes"), (QStringList{"Studio: Mode | Hasty | Accurate", "Studio: Samples | 4 | 9",
                                                    "Studio: Studio seed | 7 | 8"}));
     const QStringList skipped = rows(*view, "skipped");
     EXPECT_EQ(skipped.size(), 6) << skipped.join('\n').toStdString();
-    EXPECT_TRUE(skipped.contains(QStringLiteral("Unknown | is not known")));
-    EXPECT_TRUE(skipped.contains(QStringLiteral("Studio shadows | cannot be 1: expected true or false")));
-    EXPECT_TRUE(skipped.contains(QStringLiteral("Studio title | is locked: House style.")));
+    EXPECT_TRUE(skipped.contains("Unknown | is not known"));
+    EXPECT_TRUE(skipped.contains("Studio shadows | cannot be 1: expected true or false"));
+    EXPECT_TRUE(skipped.contains("Studio title | is locked: House style."));
     EXPECT_EQ(module.page.samples->value(), 4);
 
-    const auto *list = view->findChild<QTreeWidget *>(QStringLiteral("skipped"));
-    EXPECT_LT(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->y(),
-              view->findChild<QLabel *>(QStringLiteral("skippedLabel"))->y());
+    const auto *list = view->findChild<QTreeWidget *>("skipped");
+    EXPECT_LT(view->findChild<QTreeWidget *>("changes")->y(), view->findChild<QLabel *>("skippedLabel")->y());
     view->resize(400, 10);
-    EXPECT_LT(list->geometry().bottom(), view->findChild<QWidget *>(QStringLiteral("copyAsText"))->geometry().top());
-    EXPECT_LE(view->findChild<QTreeWidget *>(QStringLiteral("changes"))->header()->length(), list->width())
+    EXPECT_LT(list->geometry().bottom(), view->findChild<QWidget *>("copyAsText")->geometry().top());
+    EXPECT_LE(view->findChild<QTreeWidget *>("changes")->header()->length(), list->width())
         << "old and new value are in sight in a narrow window, too";
 
     view->reject();
@@ -141,16 +120,16 @@ TEST_F(PreferencesImport, WritesWhatIsInForceAndTellsOfWhatIsPending)
 {
     start();
     module.page.samples->setValue(9);
-    const QString exported = folder.filePath(QStringLiteral("out.json"));
+    const QString exported = folder.filePath("out.json");
     dialog->transfer().exportTo(exported);
-    EXPECT_TRUE(says(QStringLiteral("without the pending changes")));
+    EXPECT_TRUE(says("without the pending changes"));
     const auto contents = olPreferencesFile::read(exported);
     EXPECT_EQ(contents->settings.size(), 7u);
     EXPECT_TRUE(olValue::equal(contents->settings.at("Studio samples"), 4));
 
-    dialog->transfer().exportTo(QStringLiteral("/nowhere/out.json"));
-    EXPECT_TRUE(says(QStringLiteral("/nowhere/out.json")));
-    dialog->transfer().importFrom(QStringLiteral("/nowhere/in.json"));
-    EXPECT_TRUE(says(QStringLiteral("/nowhere/in.json")));
+    dialog->transfer().exportTo("/nowhere/out.json");
+    EXPECT_TRUE(says("/nowhere/out.json"));
+    dialog->transfer().importFrom("/nowhere/in.json");
+    EXPECT_TRUE(says("/nowhere/in.json"));
     EXPECT_EQ(opened<olChangesView>(), nullptr);
 }

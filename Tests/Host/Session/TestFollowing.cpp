@@ -2,8 +2,8 @@
 #include "Host/Dialog/DialogTest.h"
 #include "Session/olUndo.h"
 #include "State/olValue.h"
+#include "Support/Files.h"
 
-#include <QFile>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -38,7 +38,7 @@ protected:
         ASSERT_EQ(other.save(changes).error(), QString());
     }
 
-    [[nodiscard]] QWidget &line() const { return *dialog->findChild<QWidget *>(QStringLiteral("outsideChanges")); }
+    [[nodiscard]] QWidget &line() const { return *dialog->findChild<QWidget *>("outsideChanges"); }
     [[nodiscard]] QString said() const
     {
         QStringList texts;
@@ -46,10 +46,7 @@ protected:
             texts << label->text();
         return line().isVisible() ? texts.join(QString()) : QString();
     }
-    [[nodiscard]] QPushButton &choice(const char *name) const
-    {
-        return *line().findChild<QPushButton *>(QLatin1String(name));
-    }
+    [[nodiscard]] QPushButton &choice(const char *name) const { return *line().findChild<QPushButton *>(name); }
 
     olPreferencesStore other{store};
 };
@@ -159,7 +156,7 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
     EXPECT_EQ(list->topLevelItem(1)->text(2), "Studio: Samples: 8 to 16");
     list->setCurrentItem(list->topLevelItem(1));
     saveOutside({{key("Studio scale"), 2.5f}});
-    view->findChild<QPushButton *>(QStringLiteral("goBack"))->click();
+    view->findChild<QPushButton *>("goBack")->click();
     auto *changesView = opened<QDialog>();
     ASSERT_NE(changesView, nullptr);
     changesView->accept();
@@ -173,7 +170,7 @@ TEST_F(Following, HistoryRemembersSavesAndGoingBackIsPending)
 TEST_F(Following, UndoLeavesWhatChangedSinceOrIsLocked)
 {
     start(R"({"Studio title": {"locked": true}})");
-    saveOutside({{key("Studio samples"), 8}, {key("Studio seed"), 3}, {key("Studio title"), QStringLiteral("x")}});
+    saveOutside({{key("Studio samples"), 8}, {key("Studio seed"), 3}, {key("Studio title"), QString("x")}});
     saveOutside({{key("Studio samples"), 9}, {key("Studio mode"), 1}});
     olUndo undo = *olUndo::of(*session, 2);
     EXPECT_EQ(undo.changes().size(), 3u);
@@ -193,10 +190,7 @@ TEST_F(Following, AChangedFileOfTheSiteIsTold)
     start();
     (void)session->takeNotices();
     session->follow();
-    QFile site(siteFile);
-    ASSERT_TRUE(site.open(QIODevice::WriteOnly));
-    site.write(R"({"Studio samples": {"value": 16}})");
-    site.close();
+    writtenFile(siteFile, R"({"Studio samples": {"value": 16}})");
     EXPECT_TRUE(QTest::qWaitFor([this] { return session->takeNotices().join(QString()).contains(siteFile); }, 1000));
     EXPECT_EQ(module.value<int>("Studio samples"), 4) << "it counts from the next start";
 }

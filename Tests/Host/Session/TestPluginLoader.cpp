@@ -3,6 +3,7 @@
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
 #include "Support/ChildProcess.h"
+#include "Support/Files.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -32,12 +33,12 @@ std::string applyFileIO()
     const QString error = session.loadPlugin(pluginFile).error();
     if (!error.isEmpty())
         return error.toStdString();
-    olPreferencesEntry *module = olPreferencesRegistry::the().find(QStringLiteral("FileIO"));
+    olPreferencesEntry *module = olPreferencesRegistry::the().find("FileIO");
     module->setDefaults(true);
     module->updateGUI();
     module->applyPreferences();
-    const QString written = QSettings().value(QStringLiteral("importDialog/closeOnSuccess")).toString();
-    if (written != QLatin1String("true"))
+    const QString written = QSettings().value("importDialog/closeOnSuccess").toString();
+    if (written != "true")
         return "it holds " + written.toStdString();
     if (clock.elapsed() > 10000)
         return "it took " + std::to_string(clock.elapsed()) + " ms";
@@ -49,7 +50,7 @@ std::string applyFileIO()
 TEST(PluginLoader, AFileThatWasCutIsRefusedAndNotMapped)
 {
     const QTemporaryDir folder;
-    const QString cut = folder.filePath(QStringLiteral("libKernelPreferences.so"));
+    const QString cut = folder.filePath("libKernelPreferences.so");
     ASSERT_TRUE(QFile::copy(pluginFile, cut));
     const qint64 size = QFileInfo(cut).size();
     const auto load = [&cut] {
@@ -69,8 +70,7 @@ TEST(PluginLoader, NobodyWaitsForALockThatAKilledProgramLeft)
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
     const QString file = QSettings().fileName();
     ASSERT_TRUE(QDir().mkpath(QFileInfo(file).path()));
-    QFile abandoned(file + ".lock");
-    ASSERT_TRUE(abandoned.open(QIODevice::WriteOnly));
+    writtenFile(file + ".lock");
     EXPECT_EQ(inChildProcess(applyFileIO), "");
     EXPECT_TRUE(QFileInfo::exists(file));
 

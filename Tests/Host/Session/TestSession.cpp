@@ -3,18 +3,16 @@
 #include "Session/olPreferencesSession.h"
 #include "State/olPreferencesEntry.h"
 #include "State/olPreferencesRegistry.h"
+#include "Support/BoxWatch.h"
 #include "Support/CleanHost.h"
 #include "Utilities/olMessage.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -31,9 +29,9 @@ class CountingModule : public olPreferences
 {
 public:
     explicit CountingModule(const char *name = "Counter", const char *category = "")
-        : olPreferences(QString::fromLatin1(name), QString::fromLatin1(category)), m_key(name)
+        : olPreferences(name, category), m_key(name)
     {
-        page.setObjectName(QStringLiteral("counterPage"));
+        page.setObjectName("counterPage");
         addPreferencesGUI(&page);
     }
     ~CountingModule() override { subPreferencesGUI(&page); }
@@ -106,10 +104,10 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString file = folder.filePath(QStringLiteral("deep/preferences.db"));
+    QString file = folder.filePath("deep/preferences.db");
     std::unique_ptr<olPreferencesSession> session = std::make_unique<olPreferencesSession>(file);
     CountingModule module;
-    std::vector<olPreferencesEntry *> shown{olPreferencesRegistry::the().find(QStringLiteral("Counter"))};
+    std::vector<olPreferencesEntry *> shown{olPreferencesRegistry::the().find("Counter")};
 };
 
 TEST_F(Session, StartsInTheHostsOrder)
@@ -150,7 +148,7 @@ TEST_F(Session, KeepsWhatWasConfirmedForTheNextRunAndDefaultsForTheRest)
 
 TEST_F(Session, AModuleThatThrowsIsToldOfAndNothingElseComesToHarm)
 {
-    const QString failure = QStringLiteral("The module Counter has failed: no more paint.");
+    const QString failure = "The module Counter has failed: no more paint.";
     CountingModule other("Other");
     for (const char *asked : {"defaults", "loaded", "gui", "initial", "scene"}) {
         module.failing = asked;
@@ -164,7 +162,7 @@ TEST_F(Session, AModuleThatThrowsIsToldOfAndNothingElseComesToHarm)
     module.failing = "data";
     module.page.setValue(7);
     other.page.setValue(7);
-    shown.insert(shown.begin(), olPreferencesRegistry::the().find(QStringLiteral("Other")));
+    shown.insert(shown.begin(), olPreferencesRegistry::the().find("Other"));
     EXPECT_EQ(session->commit(shown).error(), failure);
     EXPECT_EQ(other.value(), 3);
     EXPECT_FALSE(QFile::exists(file));
@@ -181,19 +179,16 @@ TEST_F(Session, TheDialogFillsAPageOnceAnOpeningAndDropsEditsOnCancel)
     session->start();
     module.told.clear();
     olPreferencesDialog dialog(*session);
-    dialog.open(QStringLiteral("Counter"));
-    dialog.open(QStringLiteral("Counter"));
+    dialog.open("Counter");
+    dialog.open("Counter");
     EXPECT_EQ(module.told, Told{"gui"});
 
     module.page.setValue(9);
-    QTimer::singleShot(0, &dialog, [] {
-        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        ASSERT_NE(question, nullptr) << "a page that tells nothing of its settings is watched all the same";
-        question->button(QMessageBox::Discard)->click();
-    });
+    // A page that tells nothing of its settings is watched all the same.
+    const BoxAnswers boxes({"Discard"});
     dialog.reject();
     EXPECT_EQ(module.value(), 3);
-    dialog.open(QStringLiteral("Counter"));
+    dialog.open("Counter");
     EXPECT_EQ(module.page.value(), 3);
 
     module.told.clear();
@@ -213,13 +208,13 @@ TEST_F(Session, TheDialogListsModulesUnderTheirCategoriesAndGivesPagesBack)
         olPreferencesDialog dialog(*session);
         const auto *tree = dialog.findChild<QTreeWidget *>();
         ASSERT_EQ(tree->topLevelItemCount(), 2) << "a module named as its category is the category's own entry";
-        EXPECT_EQ(tree->topLevelItem(1)->text(0), QStringLiteral("Family"));
-        EXPECT_EQ(tree->topLevelItem(1)->child(0)->text(0), QStringLiteral("Child"));
-        dialog.open(QStringLiteral("Child"));
-        dialog.open(QStringLiteral("Family"));
+        EXPECT_EQ(tree->topLevelItem(1)->text(0), "Family");
+        EXPECT_EQ(tree->topLevelItem(1)->child(0)->text(0), "Child");
+        dialog.open("Child");
+        dialog.open("Family");
         // A module may go while the dialog shows its page.
         child.reset();
-        dialog.open(QStringLiteral("Counter"));
+        dialog.open("Counter");
         EXPECT_TRUE(dialog.apply());
     }
     EXPECT_EQ(family.page.parent(), nullptr);

@@ -1,3 +1,4 @@
+#include "Framework/olModule.h"
 #include "Host/Store/StoreTest.h"
 #include "Kernel/olPreferences.h"
 #include "KernelServices/olKernelServiceFactory.h"
@@ -12,12 +13,14 @@
 #include "Support/CleanHost.h"
 #include "Utilities/olMessage.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QSpinBox>
 
 #include <ctime>
 #include <functional>
-#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
@@ -29,37 +32,24 @@
 namespace
 {
 
-/// What stands on the page of the modules below; a test edits it as a person would.
-struct Page {
-    float fov = 45;
-    std::string path = "/tmp";
-    int language = -1;
-    bool vr = false;
+struct RecordPage : olPageWidget {
+    QLineEdit *fov = new QLineEdit(this);
+    QLineEdit *path = new QLineEdit(this);
+    QSpinBox *language = new QSpinBox(this);
 };
 
-class RecordModule : public olPreferences
+class RecordModule : public olModule<RecordPage>
 {
 public:
-    RecordModule() : olPreferences(QStringLiteral("Module"), QString()) {}
+    RecordModule() : olModule(QString("Module"), QString())
+    {
+        page.language->setMinimum(-1);
+        settings().add(olSetting<float>("Camera fov", 45.0f), page.fov);
+        settings().add(olSetting<std::string>("Path", "/tmp"), page.path);
+        settings().add(olSetting<int>("MainWindow user language", -1), page.language);
+        handOverPage();
+    }
 
-    void setDefaults(olMessage &, bool flag) override
-    {
-        getData().set("Camera fov", 45.0f, flag);
-        getData().set("Path", std::string("/tmp"), flag);
-        getData().set("MainWindow user language", -1, flag);
-    }
-    void updateGUI() override
-    {
-        page.fov = boost::any_cast<float>(getData().get("Camera fov"));
-        page.path = boost::any_cast<std::string>(getData().get("Path"));
-        page.language = boost::any_cast<int>(getData().get("MainWindow user language"));
-    }
-    void updateData() override
-    {
-        take("Camera fov", page.fov);
-        take("Path", page.path);
-        take("MainWindow user language", page.language);
-    }
     void applyPreferences() override
     {
         applied.clear();
@@ -69,31 +59,27 @@ public:
         }
     }
 
-    Page page;
+    RecordPage &page = olModule::page();
     std::vector<std::string> applied;
-
-private:
-    template <class T> void take(const char *key, const T &value)
-    {
-        if (boost::any_cast<T>(getData().get(key)) == value)
-            addUnchanged(key);
-        getData().set(key, value, true);
-    }
 };
 
-class ServiceModule : public olPreferencesCategory
+struct ServicePage : olPageWidget {
+    QCheckBox *hands = new QCheckBox(this);
+};
+
+class ServiceModule : public olModule<ServicePage, olPreferencesCategory>
 {
 public:
-    ServiceModule() : olPreferencesCategory(QStringLiteral("VR")) { registerCategory(); }
+    ServiceModule() : olModule(QString("VR"))
+    {
+        registerCategory();
+        settings().add(olServiceSetting<bool>("Hands", false), page.hands);
+        handOverPage();
+    }
 
-    void setDefaults(olMessage &, bool) override { service().setDefaultBool("Hands", false); }
-    void updateGUI() override { page.vr = service().getBool("Hands", false); }
-    void updateData() override { service().setBool("Hands", page.vr); }
     void applyPreferences() override { appliedChange = isChanged("Hands"); }
 
-    static olPreferencesService &service() { return *olKernelServiceFactory::the<olPreferencesService>(); }
-
-    Page page;
+    ServicePage &page = olModule::page();
     bool appliedChange = false;
 };
 
@@ -129,8 +115,8 @@ protected:
         return boost::any_cast<T>(olPreferences::getData().get(key));
     }
 
-    QString siteFile = folder.filePath(QStringLiteral("site.json"));
-    QString lesserFile = folder.filePath(QStringLiteral("lesser.json"));
+    QString siteFile = folder.filePath("site.json");
+    QString lesserFile = folder.filePath("lesser.json");
     std::unique_ptr<olPreferencesSession> session;
     QStringList notices;
     RecordModule module;
@@ -142,23 +128,23 @@ TEST_F(Site, GivesOtherDefaultsThatAPersonMayChangeAndThatAreNotStored)
     const QByteArray site(R"({"Camera fov": {"value": 60}, "Hands": {"value": true}})");
     run(site);
     EXPECT_EQ(notices, QStringList());
-    EXPECT_EQ(module.page.fov, 60);
-    EXPECT_TRUE(vr.page.vr);
+    EXPECT_EQ(module.page.fov->text(), "60");
+    EXPECT_TRUE(vr.page.hands->isChecked());
     EXPECT_TRUE(olValue::equal(session->defaultValue("Camera fov"), 60.0f));
     EXPECT_FALSE(session->lockReason("Camera fov"));
     confirm();
     EXPECT_FALSE(QFile::exists(file));
 
     // The module's own default is a choice here.
-    module.page.fov = 45;
-    vr.page.vr = false;
+    module.page.fov->setText("45");
+    vr.page.hands->setChecked(false);
     confirm();
     EXPECT_EQ(stored().size(), 2u);
     run(site);
-    EXPECT_EQ(module.page.fov, 45);
-    EXPECT_FALSE(vr.page.vr);
+    EXPECT_EQ(module.page.fov->text(), "45");
+    EXPECT_FALSE(vr.page.hands->isChecked());
 
-    module.page.fov = 60;
+    module.page.fov->setText("60");
     confirm();
     EXPECT_EQ(stored().count(key("Camera fov")), 0u);
 }
@@ -169,18 +155,18 @@ TEST_F(Site, ALockedSettingKeepsItsValueWhateverPageAndStoreSay)
     const QByteArray site(R"({"Camera fov": {"value": 60, "locked": true, "reason": "One camera for all."},
                              "Hands": {"locked": true}, "Path": {"value": "/site"}})");
     run(site);
-    EXPECT_EQ(module.page.fov, 60);
-    EXPECT_FALSE(vr.page.vr) << "locked without a value: at the module's default";
-    EXPECT_EQ(session->lockReason("Camera fov").value(), QStringLiteral("One camera for all."));
+    EXPECT_EQ(module.page.fov->text(), "60");
+    EXPECT_FALSE(vr.page.hands->isChecked()) << "locked without a value: at the module's default";
+    EXPECT_EQ(session->lockReason("Camera fov").value(), "One camera for all.");
     EXPECT_FALSE(session->lockReason("Hands").value().isEmpty());
 
-    module.page.fov = 120;
-    module.page.path = "/mine";
-    vr.page.vr = true;
+    module.page.fov->setText("120");
+    module.page.path->setText("/mine");
+    vr.page.hands->setChecked(true);
     confirm();
     EXPECT_EQ(inRecord<float>("Camera fov"), 60);
     EXPECT_EQ(module.applied, std::vector<std::string>{"Path \"/mine\""}) << "the lock counts as untouched";
-    EXPECT_FALSE(ServiceModule::service().getBool("Hands", true));
+    EXPECT_FALSE(olKernelServiceFactory::the<olPreferencesService>()->getBool("Hands", true));
     EXPECT_FALSE(vr.appliedChange);
 
     // As a tool would.
@@ -190,9 +176,9 @@ TEST_F(Site, ALockedSettingKeepsItsValueWhateverPageAndStoreSay)
 
     // What the person had chosen was only covered.
     run(QByteArray());
-    EXPECT_EQ(module.page.fov, 90);
-    EXPECT_TRUE(vr.page.vr);
-    EXPECT_EQ(module.page.path, "/mine");
+    EXPECT_EQ(module.page.fov->text(), "90");
+    EXPECT_TRUE(vr.page.hands->isChecked());
+    EXPECT_EQ(module.page.path->text(), "/mine");
 }
 
 TEST_F(Site, AFileThatIsNoSuchJsonIsReportedByLineAndNothingOfItCounts)
@@ -212,8 +198,8 @@ TEST_F(Site, AFileThatIsNoSuchJsonIsReportedByLineAndNothingOfItCounts)
         const QString line = QStringLiteral(" line %1:").arg(number);
         EXPECT_TRUE(notices.first().contains(siteFile) && notices.first().contains(line))
             << notices.first().toStdString();
-        EXPECT_EQ(module.page.fov, 45) << rest;
-        EXPECT_EQ(module.page.language, -1) << rest;
+        EXPECT_EQ(module.page.fov->text(), "45") << rest;
+        EXPECT_EQ(module.page.language->value(), -1) << rest;
         EXPECT_FALSE(session->lockReason("Camera fov")) << rest;
     }
 }
@@ -240,18 +226,18 @@ TEST_F(Site, AnEntryWithAFaultIsReportedByLineAndKeepsItsLock)
         ASSERT_EQ(notices.size(), 1) << entry;
         EXPECT_TRUE(notices.first().contains(siteFile + ", line 3: \"Camera fov\" ")) << notices.first().toStdString();
         EXPECT_EQ(session->check(), notices);
-        EXPECT_EQ(module.page.fov, fov) << entry;
+        EXPECT_EQ(module.page.fov->text().toFloat(), fov) << entry;
         EXPECT_EQ(session->lockReason("Camera fov").has_value(), isLocked) << entry;
-        EXPECT_EQ(module.page.path, "/site") << entry;
+        EXPECT_EQ(module.page.path->text(), "/site") << entry;
         EXPECT_TRUE(session->lockReason("Path")) << entry;
     }
 }
 
 TEST_F(Site, AFileCountsOnlyWhereRootAloneCanReadAndChangeWhatItSays)
 {
-    const QString inner = folder.filePath(QStringLiteral("orlo"));
+    const QString inner = folder.filePath("orlo");
     const QString name = inner + "/site.json";
-    const QString target = folder.filePath(QStringLiteral("target.json"));
+    const QString target = folder.filePath("target.json");
     const auto encoded = [](const QString &file) { return QFile::encodeName(file); };
     const auto rebuild = [&] {
         QDir(inner).removeRecursively();
@@ -321,7 +307,7 @@ TEST_F(Site, ALargeFileTakesNoLongerForEachOfItsEntries)
             site += ",\n\"Key " + QByteArray::number(index) + "\": {\"value\": 1, \"locked\": true}";
         const std::clock_t before = std::clock();
         run(site + '}');
-        EXPECT_EQ(module.page.fov, 60);
+        EXPECT_EQ(module.page.fov->text(), "60");
         return std::clock() - before;
     };
     const std::clock_t few = workFor(7500);
@@ -332,9 +318,9 @@ TEST_F(Site, TheMoreImportantFileHoldsAndAFaultInItLeavesTheOther)
 {
     write(lesserFile, R"({"Camera fov": {"value": 70, "locked": true}, "Path": {"value": "/lesser"}})");
     run(R"({"Camera fov": {"value": 60}})");
-    EXPECT_EQ(module.page.fov, 60);
+    EXPECT_EQ(module.page.fov->text(), "60");
     EXPECT_FALSE(session->lockReason("Camera fov"));
-    EXPECT_EQ(module.page.path, "/lesser");
+    EXPECT_EQ(module.page.path->text(), "/lesser");
 
     // A key that no module has here is no fault, but a check names it.
     run(R"({"Camera fvo": {"value": 60, "locked": true}})");
@@ -344,7 +330,7 @@ TEST_F(Site, TheMoreImportantFileHoldsAndAFaultInItLeavesTheOther)
 
     run(R"({"Camera fov": {"value": 60})");
     EXPECT_EQ(notices.size(), 1);
-    EXPECT_EQ(module.page.fov, 70);
+    EXPECT_EQ(module.page.fov->text(), "70");
 }
 
 TEST_F(Site, TheLanguageStandsBeforeTheModulesUnlessThePersonChoseOne)
@@ -364,14 +350,14 @@ TEST_F(Site, TheLanguageStandsBeforeTheModulesUnlessThePersonChoseOne)
 
 TEST_F(Site, TheSystemsOwnFileComesFirstWhateverTheEnvironmentSays)
 {
-    const QString first = QStringLiteral("/etc/xdg/orlo/site.json");
+    const QString first = "/etc/xdg/orlo/site.json";
     const std::pair<const char *, const char *> environments[] = {
         {"/own", "/first:/second"}, {"/etc/xdg", "/first:/second"}, {"/own", "/first:/etc/xdg:/second:/own"}};
     for (const auto &[home, system] : environments) {
         qputenv("XDG_CONFIG_HOME", home);
         qputenv("XDG_CONFIG_DIRS", system);
-        EXPECT_EQ(olSiteDefaults::systemFiles(), (QStringList{first, QStringLiteral("/first/orlo/site.json"),
-                                                              QStringLiteral("/second/orlo/site.json")}))
+        EXPECT_EQ(olSiteDefaults::systemFiles(),
+                  (QStringList{first, "/first/orlo/site.json", "/second/orlo/site.json"}))
             << home << ' ' << system;
     }
     qputenv("XDG_CONFIG_DIRS", "/nowhere");
@@ -389,7 +375,7 @@ TEST_F(Site, AStoreThatIsLostOrDamagedWhileTheHostRunsGetsAllThatTheRunHolds)
             QFile::remove(file);
         else
             write(file, bytesOf(file).left(5000));
-        module.page.fov = isLost ? 91 : 92;
+        module.page.fov->setText(isLost ? "91" : "92");
         confirm();
         EXPECT_EQ(session->takeNotices().size(), isLost ? 0 : 1);
         Values values = stored();
@@ -402,7 +388,7 @@ TEST_F(Site, AStoreThatIsLostOrDamagedWhileTheHostRunsGetsAllThatTheRunHolds)
 TEST_F(Site, ValuesThatEqualOnlyThemselvesAreNotStoredAgainAndAgain)
 {
     run(QByteArray());
-    module.page.fov = std::numeric_limits<float>::quiet_NaN();
+    module.page.fov->setText("nan");
     confirm();
     const QByteArray before = bytesOf(file);
     confirm();

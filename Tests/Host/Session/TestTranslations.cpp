@@ -1,9 +1,9 @@
 #include "Session/olTranslations.h"
+#include "Support/Files.h"
 #include "Support/RecordedLog.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -74,9 +74,7 @@ TEST_F(Translations, ThatAreMissingOrBrokenLeaveEnglishAndALineInTheLog)
     EXPECT_TRUE(lines[0].contains("preferences_ja.qm") && lines[0].contains(plugin.path())) << lines[0].toStdString();
 
     ASSERT_TRUE(QDir(plugin.path()).mkdir("translations"));
-    QFile broken(plugin.filePath("translations/preferences_ja.qm"));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write(QByteArray(3000, 'x')) == 3000);
-    broken.close();
+    writtenFile(plugin.filePath("translations/preferences_ja.qm"), QByteArray(3000, 'x'));
     translations.loadOfPlugin(library);
     EXPECT_EQ(lines.size(), 2);
     // Who wants English needs no files.

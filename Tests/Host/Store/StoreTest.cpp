@@ -16,18 +16,9 @@ QByteArray StoreTest::bytesOf(const QString &name)
     return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
 }
 
-void StoreTest::write(const QString &name, const QByteArray &bytes)
+StoreTest::Opening StoreTest::of(const olResult<olStoreRows::Contents> &read)
 {
-    QFile written(name);
-    ASSERT_TRUE(written.open(QIODevice::WriteOnly));
-    ASSERT_EQ(written.write(bytes), bytes.size());
-}
-
-StoreTest::Opening StoreTest::opened(olPreferencesStore &store, Values &values, olStoreUse use)
-{
-    const olResult<olStoreRows::Contents> opening = store.open(use);
-    values = opening.isOk() ? opening->values : Values();
-    return {opening.error(), opening.isOk() ? opening->notice : QString()};
+    return read.isOk() ? Opening{{}, read->notice, read->values} : Opening{read.error(), {}, {}};
 }
 
 std::vector<olStoreRows::Change> StoreTest::to(const Values &values)
@@ -36,13 +27,6 @@ std::vector<olStoreRows::Change> StoreTest::to(const Values &values)
     for (const auto &[key, value] : values)
         changes.push_back({key, {}, olStoreRows::Row::of(value)});
     return changes;
-}
-
-QString StoreTest::load(olPreferencesStore store, Values &values)
-{
-    const olResult<olStoreRows::Contents> contents = store.load();
-    values = contents.isOk() ? contents->values : Values();
-    return contents.error();
 }
 
 bool StoreTest::same(const Values &left, const Values &right)
@@ -54,9 +38,9 @@ bool StoreTest::same(const Values &left, const Values &right)
 
 StoreTest::Values StoreTest::stored() const
 {
-    Values values;
-    EXPECT_EQ(load(olPreferencesStore(file), values), QString());
-    return values;
+    const Opening loading = loaded();
+    EXPECT_EQ(loading.error, QString());
+    return loading.values;
 }
 
 void StoreTest::save(const Values &changed) const

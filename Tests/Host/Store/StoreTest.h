@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Store/olPreferencesStore.h"
+#include "Support/Files.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -25,22 +26,23 @@ protected:
     /// Whatever they were before.
     static std::vector<olStoreRows::Change> to(const Values &values);
 
-    /// What was told when a store was opened; both are empty when all is well.
+    /// What came of reading a store; both texts are empty when all is well.
     struct Opening {
         QString error;
         QString notice;
+        Values values;
     };
-    static Opening opened(olPreferencesStore &store, Values &values, olStoreUse use = olStoreUse::Own);
-    static Opening opened(olPreferencesStore &&store, Values &values, olStoreUse use = olStoreUse::Own)
-    {
-        return opened(store, values, use);
-    }
+    static Opening of(const olResult<olStoreRows::Contents> &read);
 
-    /// Returns the error.
-    static QString load(olPreferencesStore store, Values &values);
+    /// By a program of its own.
+    [[nodiscard]] Opening opened(olStoreUse use = olStoreUse::Own) const
+    {
+        return of(olPreferencesStore(file).open(use));
+    }
+    [[nodiscard]] Opening loaded() const { return of(olPreferencesStore(file).load()); }
 
     static QByteArray bytesOf(const QString &name);
-    static void write(const QString &name, const QByteArray &bytes);
+    static void write(const QString &name, const QByteArray &bytes) { writtenFile(name, bytes); }
 
     /// Whether both hold the same keys with exactly the same values.
     static bool same(const Values &left, const Values &right);

@@ -18,8 +18,7 @@ protected:
         for (int row = 0; row < 40; ++row)
             old[key("Row " + std::to_string(row))] = std::string(std::size_t(row) * 5, 'v');
         save(old);
-        Values values;
-        EXPECT_EQ(opened(olPreferencesStore(file), values).error, QString());
+        EXPECT_EQ(opened().error, QString());
         save({{key("Camera fov"), 75.0f}});
         current = stored();
         sound = bytesOf(file);
@@ -30,18 +29,16 @@ protected:
     void open(const QByteArray &bytes, const std::string &what)
     {
         write(file, bytes);
-        Values values;
-        const Opening opening = opened(olPreferencesStore(file), values);
+        const Opening opening = opened();
         if (!opening.error.isEmpty()) {
             ++refused;
             ASSERT_EQ(bytesOf(file), bytes) << what;
-            ASSERT_TRUE(values.empty()) << what;
         } else if (opening.notice.isEmpty()) {
             ++harmless;
-            ASSERT_TRUE(same(values, current)) << what;
+            ASSERT_TRUE(same(opening.values, current)) << what;
         } else {
             ++mended;
-            ASSERT_TRUE(same(values, old)) << what;
+            ASSERT_TRUE(same(opening.values, old)) << what;
             const QStringList kept = setAside();
             ASSERT_EQ(kept.size(), 1) << what;
             ASSERT_TRUE(opening.notice.contains(kept.first()) && opening.notice.contains(file)) << what;
@@ -89,11 +86,10 @@ TEST_F(StoreDamage, EveryTruncationIsNoticed)
             continue;
         }
         write(file, bytes);
-        Values values;
-        const Opening opening = opened(olPreferencesStore(file), values, olStoreUse::LookAt);
+        const Opening opening = opened(olStoreUse::LookAt);
         ASSERT_EQ(opening.error, QString()) << size;
         ASSERT_FALSE(opening.notice.isEmpty()) << size;
-        ASSERT_TRUE(same(values, old)) << size;
+        ASSERT_TRUE(same(opening.values, old)) << size;
         ASSERT_EQ(bytesOf(file), bytes) << "looking changes nothing";
     }
     EXPECT_EQ(harmless + refused, 0);
@@ -109,10 +105,9 @@ TEST_F(StoreDamage, RowsThatWereChangedOrTakenAwayOutsideAreNoticed)
           "DROP TABLE history", "CREATE TRIGGER t AFTER INSERT ON setting BEGIN SELECT 1; END"}) {
         write(file, sound);
         tamper(sql);
-        Values values;
-        const Opening opening = opened(olPreferencesStore(file), values);
+        const Opening opening = opened();
         EXPECT_NE(opening.notice, QString()) << sql;
-        EXPECT_TRUE(same(values, old)) << sql;
+        EXPECT_TRUE(same(opening.values, old)) << sql;
     }
 }
 
@@ -120,9 +115,8 @@ TEST_F(StoreDamage, EachIsToldOnceAndKeptInAFileOfItsOwn)
 {
     for (int round = 0; round < 3; ++round) {
         write(file, sound.left(5000 + round));
-        Values values;
-        EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
-        EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
+        EXPECT_NE(opened().notice, QString());
+        EXPECT_EQ(opened().notice, QString());
         EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
     }
     EXPECT_EQ(setAside().size(), 3);
@@ -135,9 +129,8 @@ TEST_F(StoreDamage, WithoutASoundCopyAllIsAtItsDefault)
         write(file + ".last-good", copy.left(5000));
         if (!isThere)
             QFile::remove(file + ".last-good");
-        Values values;
-        const Opening opening = opened(olPreferencesStore(file), values);
-        EXPECT_TRUE(values.empty());
+        const Opening opening = opened();
+        EXPECT_TRUE(opening.values.empty());
         EXPECT_TRUE(opening.notice.contains("default")) << opening.notice.toStdString();
         save({{key("again"), 1}});
         EXPECT_EQ(stored().size(), 1u);
@@ -151,9 +144,9 @@ TEST_F(StoreDamage, AJournalGoesWithTheFileItBelongsTo)
     for (const char *journal : {"-journal", "-wal"}) {
         write(file, sound.left(5000));
         write(file + journal, "no journal");
-        Values values;
-        EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
-        EXPECT_TRUE(same(values, old));
+        const Opening opening = opened();
+        EXPECT_NE(opening.notice, QString());
+        EXPECT_TRUE(same(opening.values, old));
         ASSERT_EQ(setAside().size(), 1);
         EXPECT_EQ(bytesOf(folder.filePath(setAside().first() + journal)), "no journal");
         EXPECT_TRUE(same(stored(), old));
@@ -171,10 +164,9 @@ TEST_F(StoreDamage, AJournalThatWasCutGivesNoMixtureOfOldAndNew)
     for (int size = journal.size(); size > 0; size -= 97) {
         write(file, half);
         write(file + "-journal", journal.left(size));
-        Values values;
-        const Opening opening = opened(olPreferencesStore(file), values);
+        const Opening opening = opened();
         ASSERT_EQ(opening.error, QString()) << size;
-        ASSERT_TRUE(same(values, opening.notice.isEmpty() ? current : old)) << size;
+        ASSERT_TRUE(same(opening.values, opening.notice.isEmpty() ? current : old)) << size;
         if (!opening.notice.isEmpty()) {
             ++mendedHere;
             const QString aside = folder.filePath(setAside().value(0));
@@ -191,9 +183,9 @@ TEST_F(StoreDamage, AJournalThatWasCutGivesNoMixtureOfOldAndNew)
 TEST_F(StoreDamage, WhatOthersAddToFindOrCountRowsIsNone)
 {
     tamper("CREATE INDEX byValue ON setting (value); CREATE VIEW paths AS SELECT * FROM setting; ANALYZE");
-    Values values;
-    EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
-    EXPECT_TRUE(same(values, current));
+    const Opening opening = opened();
+    EXPECT_EQ(opening.notice, QString());
+    EXPECT_TRUE(same(opening.values, current));
     save({{key("Camera fov"), 80.0f}});
     EXPECT_TRUE(olValue::identical(stored()[key("Camera fov")], 80.0f));
     EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
@@ -203,9 +195,9 @@ TEST_F(StoreDamage, ADamagedCopyIsFoundAndMadeAnew)
 {
     write(file + ".last-good", copy.left(5000));
     EXPECT_EQ(olPreferencesStore(file).check().size(), 1);
-    Values values;
-    EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
-    EXPECT_TRUE(same(values, current));
+    const Opening opening = opened();
+    EXPECT_EQ(opening.notice, QString());
+    EXPECT_TRUE(same(opening.values, current));
     EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
 }
 
@@ -223,17 +215,16 @@ TEST_F(StoreDamage, NoSaveGoesIntoAFileThatTheNextStartWouldSetAside)
 TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
 {
     olPreferencesStore store(file);
-    Values values;
     const auto saveFov = [&](float fov) {
         current[key("Camera fov")] = fov;
         return store.save(to({{key("Camera fov"), fov}})).error();
     };
-    ASSERT_EQ(opened(store, values).notice, QString());
+    ASSERT_EQ(of(store.open()).notice, QString());
     ASSERT_EQ(saveFov(61), QString());
     EXPECT_TRUE(same(stored(), current));
 
     write(file, sound.left(5000));
-    ASSERT_NE(opened(olPreferencesStore(file), values).notice, QString()) << "another program mends it";
+    ASSERT_NE(opened().notice, QString()) << "another program mends it";
     EXPECT_EQ(saveFov(62), QString());
     EXPECT_TRUE(same(stored(), current)) << "saved into the new file";
 
@@ -247,7 +238,7 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
     tamper("DELETE FROM setting WHERE key = 'Row 8'");
     EXPECT_TRUE(saveFov(66).contains("are missing"));
     EXPECT_TRUE(store.isBroken());
-    ASSERT_NE(opened(store, values).notice, QString());
+    ASSERT_NE(of(store.open()).notice, QString());
     ASSERT_EQ(saveFov(67), QString());
 
     ASSERT_EQ(saveFov(68), QString());
@@ -256,7 +247,7 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
     EXPECT_TRUE(saveFov(69).contains(file)) << "damaged behind the database's back";
     EXPECT_TRUE(store.isBroken());
 
-    ASSERT_NE(opened(store, values).notice, QString());
+    ASSERT_NE(of(store.open()).notice, QString());
     ASSERT_EQ(saveFov(70), QString());
     QFile::remove(file);
     EXPECT_TRUE(saveFov(71).contains("gone"));
@@ -266,13 +257,14 @@ TEST_F(StoreDamage, ARunNoticesWhatHappensToItsFileBetweenItsSaves)
 TEST_F(StoreDamage, WhoDeletesTheStoreBeginsAnewForGood)
 {
     QFile::remove(file);
-    Values values;
-    EXPECT_EQ(opened(olPreferencesStore(file), values).notice, QString());
-    EXPECT_TRUE(values.empty());
+    Opening opening = opened();
+    EXPECT_EQ(opening.notice, QString());
+    EXPECT_TRUE(opening.values.empty());
     save({{key("new"), 1}});
     write(file, bytesOf(file).left(4000));
-    EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
-    EXPECT_TRUE(values.empty()) << "the old copy does not come back";
+    opening = opened();
+    EXPECT_NE(opening.notice, QString());
+    EXPECT_TRUE(opening.values.empty()) << "the old copy does not come back";
 }
 
 TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
@@ -280,29 +272,24 @@ TEST_F(StoreDamage, ANewerStoreIsNeitherReadNorWrittenNorSetAside)
     tamper("PRAGMA user_version = 3; ALTER TABLE setting ADD COLUMN unit TEXT");
     const QByteArray newer = bytesOf(file);
     olPreferencesStore store(file);
-    Values values;
-    const QString error = opened(store, values).error;
+    const QString error = store.open().error();
     EXPECT_TRUE(error.contains("newer") && error.contains("move it away") && error.contains(".last-good"));
     EXPECT_TRUE(store.save(to({{key("a"), 1}})).error().contains("newer"));
     EXPECT_FALSE(store.isBroken());
-    EXPECT_TRUE(values.empty());
     EXPECT_EQ(bytesOf(file), newer);
     EXPECT_TRUE(setAside().isEmpty());
 }
 
 TEST_F(StoreDamage, FilesThatNeverWereStoresAreLeftWhereTheyAre)
 {
-    const QString other = folder.filePath(QStringLiteral("other"));
-    QFile::copy(file, other);
-    file = other;
+    QFile::remove(file + ".last-good");
     tamper("PRAGMA application_id = 7; PRAGMA user_version = 0");
-    const QByteArray database = bytesOf(other);
+    const QByteArray database = bytesOf(file);
     for (const QByteArray &bytes : {database, QByteArray("Dear reader, "), QByteArray(20000, '\0')}) {
-        write(other, bytes);
-        Values values;
-        EXPECT_TRUE(opened(olPreferencesStore(other), values).error.contains(other));
-        EXPECT_TRUE(olPreferencesStore(other).save(to({{key("a"), 1}})).error().contains(other));
-        EXPECT_EQ(bytesOf(other), bytes);
+        write(file, bytes);
+        EXPECT_TRUE(opened().error.contains(file));
+        EXPECT_TRUE(olPreferencesStore(file).save(to({{key("a"), 1}})).error().contains(file));
+        EXPECT_EQ(bytesOf(file), bytes);
     }
 }
 

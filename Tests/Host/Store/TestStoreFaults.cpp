@@ -21,7 +21,6 @@
 #include <csignal>
 #include <cstdarg>
 #include <functional>
-#include <initializer_list>
 #include <numeric>
 #include <random>
 #include <thread>
@@ -62,9 +61,11 @@ protected:
     /// Loads in this very process.
     [[nodiscard]] bool holds(const Values &expected) const
     {
-        Values values;
-        return load(olPreferencesStore(file), values).isEmpty() && same(values, expected);
+        const Opening loading = loaded();
+        return loading.error.isEmpty() && same(loading.values, expected);
     }
+
+    static void setMode(const QString &name, mode_t mode) { ::chmod(QFile::encodeName(name).constData(), mode); }
 
     /// The exit statuses of several processes that do this at the same time.
     static std::vector<int> atOnce(int programs, const std::function<int(int)> &work)
@@ -116,11 +117,9 @@ TEST_F(StoreFaults, AProgramKilledAtAnyMomentLeavesOldOrNewAndNoDelay)
         ::waitpid(child, &status, 0);
         ASSERT_TRUE(WIFSIGNALED(status)) << "a save failed";
 
-        Values values;
-        const Opening opening = opened(olPreferencesStore(file), values);
-        ASSERT_EQ(opening.error, QString());
-        ASSERT_EQ(opening.notice, QString());
-        const int found = generationOf(values);
+        const Opening opening = opened();
+        ASSERT_EQ(opening.error + opening.notice, QString());
+        const int found = generationOf(opening.values);
         ASSERT_TRUE(found == *saved || found == *saved + 1) << found << " after " << *saved;
 
         QElapsedTimer timer;
@@ -166,19 +165,12 @@ TEST_F(StoreFaults, WhoOnlyReadsLeavesTheDiskAsItIs)
     save(values);
     leaveJournal(values);
     const auto before = disk();
-    olPreferencesStore store(file);
-    for (const auto &read : std::initializer_list<std::function<QString(Values &)>>{
-             [&](Values &found) { return load(store, found); },
-             [&](Values &found) {
-                 return opened(store, found, olStoreUse::LookAt).error +
-                        opened(store, found, olStoreUse::LookAt).notice;
-             },
-             [&](Values &found) { return load(store, found) + store.check().join(QChar()); }}) {
-        Values found;
-        EXPECT_EQ(read(found), QString());
-        EXPECT_TRUE(same(found, values));
-        EXPECT_EQ(disk(), before);
+    for (const Opening &read : {loaded(), opened(olStoreUse::LookAt)}) {
+        EXPECT_EQ(read.error + read.notice, QString());
+        EXPECT_TRUE(same(read.values, values));
     }
+    EXPECT_EQ(olPreferencesStore(file).check(), QStringList());
+    EXPECT_EQ(disk(), before);
     // Who writes takes back what was begun.
     save({{key("row 0"), 4}});
     EXPECT_FALSE(QFile::exists(file + "-journal"));
@@ -229,12 +221,11 @@ TEST_F(StoreFaults, AStoreBehindALinkIsTheLinksTarget)
     const QString target = folder.filePath(QStringLiteral("elsewhere/target.db"));
     ASSERT_TRUE(QFile::link(target, file));
     save({{key("a"), 1}});
-    Values values;
-    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
+    ASSERT_EQ(opened().error, QString());
     EXPECT_TRUE(QFileInfo(file).isSymLink());
     EXPECT_TRUE(QFile::exists(target) && QFile::exists(target + ".last-good"));
     write(target, bytesOf(target).left(5000));
-    EXPECT_NE(opened(olPreferencesStore(file), values).notice, QString());
+    EXPECT_NE(opened().notice, QString());
     EXPECT_TRUE(QFileInfo(file).isSymLink());
     EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
 }
@@ -252,9 +243,8 @@ TEST_F(StoreFaults, FilesAreForTheirOwnerAloneAndCopiesAsTheirOriginals)
     EXPECT_EQ(modeOf(file), 0600);
     EXPECT_EQ(modeOf(folder.filePath(QStringLiteral("deep"))), 0700);
     EXPECT_EQ(modeOf(folder.filePath(QStringLiteral("deep/er"))), 0700);
-    ::chmod(QFile::encodeName(file).constData(), 0640);
-    Values values;
-    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
+    setMode(file, 0640);
+    ASSERT_EQ(opened().error, QString());
     EXPECT_EQ(modeOf(file + ".last-good"), 0640);
     ::umask(mask);
 }
@@ -302,27 +292,25 @@ std::string becomeNobody()
 
 TEST_F(StoreFaults, AReadOnlyFileOrFolderCanBeReadAndSaysSoOnSaving)
 {
-    const QByteArray path = QFile::encodeName(folder.path());
     for (const auto &[fileMode, folderMode] : {std::pair<mode_t, mode_t>{0444, 0777}, {0666, 0555}}) {
         save({{key("a"), 1}});
-        Values values;
-        ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
-        ::chmod(QFile::encodeName(file).constData(), fileMode);
-        ::chmod(path.constData(), folderMode);
+        ASSERT_EQ(opened().error, QString());
+        setMode(file, fileMode);
+        setMode(folder.path(), folderMode);
         EXPECT_EQ(inChildProcess([&]() -> std::string {
                       if (const std::string fault = becomeNobody(); !fault.empty())
                           return fault;
                       olPreferencesStore store(file);
-                      Values read;
-                      const Opening opening = opened(store, read);
-                      if (!opening.error.isEmpty() || !opening.notice.isEmpty() || !same(read, {{key("a"), 1}}))
-                          return "cannot be read: " + (opening.error + opening.notice).toStdString();
+                      const Opening opening = of(store.open());
+                      const QString told = opening.error + opening.notice;
+                      if (!told.isEmpty() || !same(opening.values, {{key("a"), 1}}))
+                          return "cannot be read: " + told.toStdString();
                       return faultIn(store.save(to({{key("a"), 2}})).error(), "read-only");
                   }),
                   "")
             << std::oct << fileMode << ' ' << folderMode;
-        ::chmod(path.constData(), 0700);
-        ::chmod(QFile::encodeName(file).constData(), 0600);
+        setMode(folder.path(), 0700);
+        setMode(file, 0600);
         EXPECT_TRUE(same(stored(), {{key("a"), 1}}));
     }
 }
@@ -331,14 +319,13 @@ TEST_F(StoreFaults, AJournalOfSomebodyElseIsToldByItsName)
 {
     save(generation(3));
     leaveJournal(generation(3));
-    ::chmod(QFile::encodeName(file + "-journal").constData(), 0600);
-    ::chmod(QFile::encodeName(file).constData(), 0666);
-    ::chmod(QFile::encodeName(folder.path()).constData(), 0777);
+    setMode(file + "-journal", 0600);
+    setMode(file, 0666);
+    setMode(folder.path(), 0777);
     EXPECT_EQ(inChildProcess([this]() -> std::string {
                   if (const std::string fault = becomeNobody(); !fault.empty())
                       return fault;
-                  Values read;
-                  const QString error = load(olPreferencesStore(file), read);
+                  const QString error = loaded().error;
                   return error.contains(file + "-journal cannot be read") ? "" : error.toStdString();
               }),
               "");
@@ -347,24 +334,22 @@ TEST_F(StoreFaults, AJournalOfSomebodyElseIsToldByItsName)
 TEST_F(StoreFaults, ADamagedStoreInAReadOnlyFolderIsReadFromItsCopy)
 {
     save({{key("a"), 1}});
-    Values values;
-    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
+    ASSERT_EQ(opened().error, QString());
     const QByteArray damaged = bytesOf(file).left(5000);
     write(file, damaged);
     for (const QString &name : {file, file + ".last-good"})
-        ::chmod(QFile::encodeName(name).constData(), 0644);
-    ::chmod(QFile::encodeName(folder.path()).constData(), 0555);
+        setMode(name, 0644);
+    setMode(folder.path(), 0555);
     EXPECT_EQ(inChildProcess([this]() -> std::string {
                   if (const std::string fault = becomeNobody(); !fault.empty())
                       return fault;
-                  Values read;
-                  const Opening opening = opened(olPreferencesStore(file), read);
-                  return opening.notice.contains("could not be set aside") && same(read, {{key("a"), 1}})
+                  const Opening opening = opened();
+                  return opening.notice.contains("could not be set aside") && same(opening.values, {{key("a"), 1}})
                              ? ""
                              : (opening.error + '|' + opening.notice).toStdString();
               }),
               "");
-    ::chmod(QFile::encodeName(folder.path()).constData(), 0700);
+    setMode(folder.path(), 0700);
     EXPECT_EQ(bytesOf(file), damaged);
 }
 
@@ -390,8 +375,7 @@ TEST_F(StoreFaults, ProgramsThatSaveDifferentSettingsAllKeepTheirs)
 TEST_F(StoreFaults, ProgramsThatStartOnADamagedStoreMendItOnce)
 {
     save({{key("a"), 1}});
-    Values values;
-    ASSERT_EQ(opened(olPreferencesStore(file), values).error, QString());
+    ASSERT_EQ(opened().error, QString());
     for (int round = 0; round < 20; ++round) {
         write(file, bytesOf(file).left(5000));
         // Of a program that was killed in between, which keeps nobody off.
@@ -403,9 +387,8 @@ TEST_F(StoreFaults, ProgramsThatStartOnADamagedStoreMendItOnce)
         });
         ASSERT_TRUE(QFile::exists(file + ".lock"));
         const auto told = atOnce(3, [this](int) {
-            Values read;
-            const Opening opening = opened(olPreferencesStore(file), read);
-            const bool isRead = opening.error.isEmpty() && same(read, {{key("a"), 1}});
+            const Opening opening = opened();
+            const bool isRead = opening.error.isEmpty() && same(opening.values, {{key("a"), 1}});
             return isRead ? int(!opening.notice.isEmpty()) : 9;
         });
         ASSERT_EQ(std::accumulate(told.begin(), told.end(), 0), 1);
@@ -426,8 +409,7 @@ TEST_F(StoreFaults, ABusyStoreIsWaitedForBrieflyAndThenReported)
     EXPECT_EQ(faultIn(store.save(to({{key("a"), 2}})).error(), "busy"), "");
     EXPECT_GT(timer.elapsed(), 1000);
     EXPECT_LT(timer.elapsed(), 20000) << "it counts its attempts, which a busy machine draws out";
-    Values values;
-    EXPECT_EQ(opened(store, values).error, QString()) << "who reads need not wait for who writes";
+    EXPECT_EQ(store.open().error(), QString()) << "who reads need not wait for who writes";
     sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
     EXPECT_EQ(store.save(to({{key("a"), 2}})).error(), QString());
 

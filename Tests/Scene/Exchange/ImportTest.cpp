@@ -7,6 +7,7 @@
 
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
+#include <Image_Texture.hxx>
 #include <Quantity_ColorRGBA.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDocStd_Document.hxx>
@@ -18,7 +19,7 @@
 #include <XCAFDoc_VisMaterialTool.hxx>
 #include <XCAFPrs_DocumentExplorer.hxx>
 
-#include <QFile>
+#include <QImage>
 
 namespace
 {
@@ -92,26 +93,36 @@ QString ImportTest::exported(const QString &name)
     return file;
 }
 
-QString ImportTest::written(const QString &name, const QByteArray &content) const
-{
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(file.write(content), content.size());
-    return file.fileName();
-}
-
-QByteArray ImportTest::contentOf(const QString &name)
-{
-    QFile file(name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
 olScene::Document ImportTest::imported(const olImportJob &job)
 {
     const olImportResult result = olImport(job);
     EXPECT_EQ(result.document.error().toStdString(), "");
     return result.document.isOk() ? *result.document : olScene::newDocument();
+}
+
+QStringList ImportTest::textures(const olScene::Document &document)
+{
+    QStringList names;
+    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
+    TDF_LabelSequence labels;
+    tool->GetMaterials(labels);
+    for (const TDF_Label &label : labels) {
+        const Handle(XCAFDoc_VisMaterial) material = tool->GetMaterial(label);
+        Handle(Image_Texture) texture = material->CommonMaterial().DiffuseTexture;
+        if (texture.IsNull())
+            texture = material->PbrMaterial().BaseColorTexture;
+        if (!texture.IsNull())
+            names << QString::fromUtf8(texture->FilePath().ToCString());
+    }
+    return names;
+}
+
+QString ImportTest::redPicture(const QString &file)
+{
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    EXPECT_TRUE(picture.save(file));
+    return file;
 }
 
 QString ImportTest::faultOf(const QString &file)

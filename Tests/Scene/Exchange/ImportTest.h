@@ -2,6 +2,7 @@
 
 #include "Exchange/olImport.h"
 #include "Model/olScene.h"
+#include "Support/Files.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -34,11 +35,17 @@ protected:
 
     /// Writes the sample; the test fails where it cannot.
     QString exported(const QString &name);
-    [[nodiscard]] QString written(const QString &name, const QByteArray &content) const;
-    [[nodiscard]] static QByteArray contentOf(const QString &name);
+    QString written(const QString &name, const QByteArray &content) const { return writtenFile(path(name), content); }
 
     /// Reads what must be readable.
     static olScene::Document imported(const olImportJob &job);
+    static olScene::Document imported(const QString &file) { return imported(olImportJob::of(file)); }
+
+    /// The files of its textures.
+    static QStringList textures(const olScene::Document &document);
+
+    /// Writes a red picture.
+    static QString redPicture(const QString &file);
 
     /// The one message for a file that cannot be read; it names the file.
     static QString faultOf(const QString &file);

@@ -123,11 +123,9 @@ const QVector<Sound> &soundFiles()
         {"picture.gltf", gltf(R"({"mesh":0})", "", R"(,"extensionsUsed":["EXT_texture_webp"])"), 1, 1000,
          "EXT_texture_webp"},
         {"wire.gltf",
-         gltf(R"({"mesh":0,"children":[1]},{"mesh":1})", "", "")
-             .replace(R"("meshes":[)", R"("meshes":[{"name":"Wire",)"
-                                       R"("primitives":[{"mode":1,)"
-                                       R"("attributes":{"POSITION":)"
-                                       R"(0}}]},)"),
+         gltf(R"({"mesh":0,"children":[1]},{"mesh":1})")
+             .replace(R"("meshes":[)",
+                      R"("meshes":[{"name":"Wire","primitives":[{"mode":1,"attributes":{"POSITION":0}}]},)"),
          1, 1000, "Wire"},
         {"scaled.gltf", gltf(R"({"scale":[2,2,2],"mesh":0})"), 1, 2000},
         {"nested.gltf", gltf(R"({"scale":[2,1,1],"children":[1]},{"rotation":[0,0,0.7071068,0.7071068],"mesh":0})"), 1,
@@ -204,20 +202,19 @@ TEST_F(Construct, MirroredPartsAreNotInsideOut)
     const char plain[] = "Shape { geometry Box {} }";
     for (const char *scale : {"1 1 1", "-1 1 1", "-1 -1 1", "-1 -1 -1"}) {
         const QByteArray content = vrml("Transform { scale ") + scale + " children [ " + plain + " ] }";
-        EXPECT_NEAR(enclosed(imported(olImportJob::of(written(QStringLiteral("m.wrl"), content)))), 48, 1e-3) << scale;
+        EXPECT_NEAR(enclosed(imported(written("m.wrl", content))), 48, 1e-3) << scale;
     }
 }
 
 TEST_F(Construct, EdgesOfACubeAreSharpAndAFineRoundIsSmooth)
 {
-    eachMesh(imported(olImportJob::of(written(QStringLiteral("cube.obj"), cube))),
-             [](const Handle(Poly_Triangulation) & mesh) {
-                 EXPECT_EQ(mesh->NbNodes(), 24) << "each face has corners of its own";
-                 for (int node = 1; node <= mesh->NbNodes(); ++node) {
-                     const gp_Dir normal = mesh->Normal(node);
-                     EXPECT_NEAR(std::max({std::abs(normal.X()), std::abs(normal.Y()), std::abs(normal.Z())}), 1, 1e-6);
-                 }
-             });
+    eachMesh(imported(written("cube.obj", cube)), [](const Handle(Poly_Triangulation) & mesh) {
+        EXPECT_EQ(mesh->NbNodes(), 24) << "each face has corners of its own";
+        for (int node = 1; node <= mesh->NbNodes(); ++node) {
+            const gp_Dir normal = mesh->Normal(node);
+            EXPECT_NEAR(std::max({std::abs(normal.X()), std::abs(normal.Y()), std::abs(normal.Z())}), 1, 1e-6);
+        }
+    });
     QByteArray round;
     constexpr int sides = 24;
     for (int side = 0; side < sides; ++side) {
@@ -230,7 +227,7 @@ TEST_F(Construct, EdgesOfACubeAreSharpAndAFineRoundIsSmooth)
         const int two = 2 * ((side + 1) % sides) + 1;
         round += QStringLiteral("f %1 %2 %3 %4\n").arg(one).arg(two).arg(two + 1).arg(one + 1).toLatin1();
     }
-    eachMesh(imported(olImportJob::of(written(QStringLiteral("round.obj"), round))),
+    eachMesh(imported(written("round.obj", round)),
              [](const Handle(Poly_Triangulation) & mesh) { EXPECT_EQ(mesh->NbNodes(), 2 * sides); });
 }
 
@@ -240,8 +237,8 @@ TEST_F(Construct, CornersKeepColoursOfTheirOwn)
     const QByteArray wrl =
         vrml("Shape { geometry IndexedFaceSet { coord Coordinate { point [0 0 0, 1 0 0, 0 1 0] } color "
              "Color { color [1 0 0, 0 1 0, 0 0 1] } coordIndex [0 1 2 -1] } }");
-    for (const QString &file : {written(QStringLiteral("c.obj"), obj), written(QStringLiteral("c.wrl"), wrl)}) {
-        eachMesh(imported(olImportJob::of(file)), [&file](const Handle(Poly_Triangulation) & mesh) {
+    for (const QString &file : {written("c.obj", obj), written("c.wrl", wrl)}) {
+        eachMesh(imported(file), [&file](const Handle(Poly_Triangulation) & mesh) {
             const Handle(olColoredMesh) colored = Handle(olColoredMesh)::DownCast(mesh);
             ASSERT_FALSE(colored.IsNull()) << qPrintable(file);
             std::vector<std::uint32_t> colors = colored->colors;
@@ -257,7 +254,7 @@ TEST_F(Construct, TransparencyOfMaterialsComesWithItsKind)
         QByteArray content = gltf(R"({"mesh":0})", "", ",\"materials\":[{\"alphaMode\":\"MODE\"}]");
         content.replace("MODE\"}", QByteArray(mode) + "\"}")
             .replace("\"POSITION\":0}", "\"POSITION\":0},\"material\":0");
-        const olScene::Document document = imported(olImportJob::of(written(QStringLiteral("a.gltf"), content)));
+        const olScene::Document document = imported(written("a.gltf", content));
         const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
         TDF_LabelSequence looks;
         tool->GetMaterials(looks);
@@ -269,9 +266,7 @@ TEST_F(Construct, TransparencyOfMaterialsComesWithItsKind)
 
 TEST_F(Construct, SignaturesBehindAStepFileArePassedOver)
 {
-    const QByteArray whole = contentOf(exported(QStringLiteral("s.step")));
-    const QString signedFile =
-        written(QStringLiteral("signed.step"), whole + "SIGNATURE;\nMIIGRQYJKoZI#12(\nENDSEC;\n");
-    EXPECT_EQ(Outline(imported(olImportJob::of(signedFile))).triangles,
-              Outline(imported(olImportJob::of(path(QStringLiteral("s.step"))))).triangles);
+    const QByteArray whole = contentOf(exported("s.step"));
+    const QString signedFile = written("signed.step", whole + "SIGNATURE;\nMIIGRQYJKoZI#12(\nENDSEC;\n");
+    EXPECT_EQ(Outline(imported(signedFile)).triangles, Outline(imported(path("s.step"))).triangles);
 }

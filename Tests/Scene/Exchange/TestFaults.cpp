@@ -138,22 +138,22 @@ TEST_F(Fault, NoFormatIsReadFromEmptyForeignCutHugeOrLockedFiles)
     for (const char *suffix : {"step", "stp", "igs", "iges", "stl", "wrl", "vrml", "obj", "gltf", "glb"}) {
         SCOPED_TRACE(suffix);
         const QString end = QLatin1Char('.') + QLatin1String(suffix);
-        EXPECT_TRUE(faultOf(path(QStringLiteral("none") + end)).contains(QStringLiteral("no such file")));
-        EXPECT_TRUE(faultOf(written(QStringLiteral("empty") + end, {})).contains(QStringLiteral("empty")));
-        EXPECT_FALSE(faultOf(written(QStringLiteral("noise") + end, QByteArray(5000, '\x7f'))).isEmpty());
-        const QByteArray whole = contentOf(exported(QStringLiteral("whole") + end));
-        EXPECT_FALSE(faultOf(written(QStringLiteral("cut") + end, whole.left(whole.size() * 2 / 3))).isEmpty());
+        EXPECT_TRUE(faultOf(path("none" + end)).contains("no such file"));
+        EXPECT_TRUE(faultOf(written("empty" + end, {})).contains("empty"));
+        EXPECT_FALSE(faultOf(written("noise" + end, QByteArray(5000, '\x7f'))).isEmpty());
+        const QByteArray whole = contentOf(exported("whole" + end));
+        EXPECT_FALSE(faultOf(written("cut" + end, whole.left(whole.size() * 2 / 3))).isEmpty());
 
-        QFile file(path(QStringLiteral("whole") + end));
+        QFile file(path("whole" + end));
         file.setPermissions({});
         // Nothing is locked for the administrator.
         if (geteuid() != 0) {
-            EXPECT_TRUE(faultOf(file.fileName()).contains(QStringLiteral("ermission")));
+            EXPECT_TRUE(faultOf(file.fileName()).contains("ermission"));
         }
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
         // A file with a hole takes no place on the disk.
         if (file.resize(qint64(1) << 42)) {
-            EXPECT_TRUE(faultOf(file.fileName()).contains(QStringLiteral("too large")));
+            EXPECT_TRUE(faultOf(file.fileName()).contains("too large"));
         }
     }
 }
@@ -161,50 +161,49 @@ TEST_F(Fault, NoFormatIsReadFromEmptyForeignCutHugeOrLockedFiles)
 TEST_F(Fault, FacesThatCannotBeUnderstoodAreCounted)
 {
     // One lies in a surface of which nothing is known.
-    QByteArray step = contentOf(exported(QStringLiteral("whole.step")));
+    QByteArray step = contentOf(exported("whole.step"));
     const int plane = step.indexOf("PLANE('',#");
     step.replace(plane, step.indexOf(')', plane) - plane, "SURFACE(''");
-    const olImportResult result = olImport(olImportJob::of(written(QStringLiteral("face.step"), step)));
+    const olImportResult result = olImport(olImportJob::of(written("face.step", step)));
     ASSERT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
-    EXPECT_TRUE(
-        result.remarks.join(QString()).contains(QStringLiteral("Faces that cannot be understood and are left out: 1.")))
+    EXPECT_TRUE(result.remarks.join(QString()).contains("Faces that cannot be understood and are left out: 1."))
         << qPrintable(result.remarks.join(QLatin1Char(' ')));
 }
 
 TEST_F(Fault, WhatRefersToNothingIsRefusedBeforeItIsTakenOver)
 {
-    const QByteArray step = contentOf(exported(QStringLiteral("whole.step")));
+    const QByteArray step = contentOf(exported("whole.step"));
     const int face = step.indexOf("ADVANCED_FACE('',(");
     const int surface = step.indexOf("),#", face) + 2;
     const int afterSurface = step.indexOf(',', surface);
     QByteArray without = step;
     without.replace(surface, afterSurface - surface, "$");
-    EXPECT_TRUE(faultOf(written(QStringLiteral("surface.step"), without)).contains(QStringLiteral("lacks what it is")));
+    EXPECT_TRUE(faultOf(written("surface.step", without)).contains("lacks what it is"));
 
     // A curve on a surface, of a kind that nobody knows.
     const int item = step.indexOf('#', step.indexOf("DEFINITIONAL_REPRESENTATION('',("));
     const QByteArray name = step.mid(item, step.indexOf(')', item) - item) + " = ";
     QByteArray odd = step;
     odd[step.indexOf(name) + name.size()] = 'X';
-    EXPECT_TRUE(faultOf(written(QStringLiteral("curve.step"), odd)).contains(QStringLiteral("lacks what it is")));
+    EXPECT_TRUE(faultOf(written("curve.step", odd)).contains("lacks what it is"));
 
     // An entry of the directory has two lines: pointers to parameters, view and matrix, and to a colour.
-    const QByteArray iges = contentOf(exported(QStringLiteral("whole.igs")));
+    const QByteArray iges = contentOf(exported("whole.igs"));
     const int entry = iges.indexOf("D0000001") - 72;
     const int line = iges.indexOf("D0000002") - 72 - entry;
     ASSERT_GT(entry, 0);
     for (const int pointer : {entry + 8, entry + 40, entry + 48, entry + line + 16}) {
         QByteArray dangling = iges;
         dangling.replace(pointer, 8, pointer > entry + line ? "  -99999" : "   99999");
-        const QString fault = faultOf(written(QStringLiteral("pointer.igs"), dangling));
-        EXPECT_TRUE(fault.contains(QStringLiteral("D1 refers to another"))) << pointer - entry << qPrintable(fault);
+        const QString fault = faultOf(written("pointer.igs", dangling));
+        EXPECT_TRUE(fault.contains("D1 refers to another")) << pointer - entry << qPrintable(fault);
     }
 }
 
 TEST_F(Fault, AnyByteAndAnyLineMayBeWrong)
 {
     for (const char *name : {"whole.step", "whole.igs"}) {
-        const QByteArray whole = contentOf(exported(QLatin1String(name)));
+        const QByteArray whole = contentOf(exported(name));
         constexpr int variants = 8;
         for (int variant = 0; variant < variants; ++variant) {
             const int at = whole.size() / (variants + 1) * (variant + 1);
@@ -213,15 +212,14 @@ TEST_F(Fault, AnyByteAndAnyLineMayBeWrong)
                 damaged[at] = damaged.at(at) == '$' ? '1' : '$';
             else
                 damaged.remove(at, damaged.indexOf('\n', at) + 1 - at);
-            olImportJob job = olImportJob::of(written(QStringLiteral("damaged-") + QLatin1String(name), damaged));
+            olImportJob job = olImportJob::of(written(QString("damaged-") + name, damaged));
             // What was changed may be a radius, too.
             job.options.chordDeviation = 10;
             job.options.normalTolerance = 60;
             job.patience = 20000;
             const olImportResult result = olImport(job);
             // What was changed may be a name or a colour.
-            EXPECT_TRUE(result.document.isOk() || result.document.error().startsWith(QStringLiteral("Cannot read")))
-                << at;
+            EXPECT_TRUE(result.document.isOk() || result.document.error().startsWith("Cannot read")) << at;
             EXPECT_EQ(result.document.error().count(QLatin1Char('\n')), 0) << qPrintable(result.document.error());
         }
     }
@@ -230,11 +228,11 @@ TEST_F(Fault, AnyByteAndAnyLineMayBeWrong)
 TEST_F(Fault, OtherSuffixesHaveNoReaderAndTheMessageSaysWhichHave)
 {
     for (const char *suffix : {"mrb", "kbx", "osb", "opb", "jt", "CATPart", "3dm", "prt", "dgn", "plmxml"}) {
-        const QString file = written(QStringLiteral("m.") + QLatin1String(suffix), "content");
+        const QString file = written(QString("m.") + suffix, "content");
         EXPECT_EQ(faultOf(file),
                   QStringLiteral("Cannot read %1: there is no reader for .%2 files. These can be read: "
                                  "step, stp, iges, igs, stl, wrl, vrml, obj, gltf, glb, ply, 3mf, dae, off.")
-                      .arg(file, QLatin1String(suffix)));
+                      .arg(file, suffix));
     }
-    EXPECT_TRUE(faultOf(written(QStringLiteral("none"), "content")).contains(QStringLiteral("without a suffix")));
+    EXPECT_TRUE(faultOf(written("none", "content")).contains("without a suffix"));
 }

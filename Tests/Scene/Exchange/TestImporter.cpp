@@ -40,7 +40,7 @@ protected:
     {
         std::vector<olImportJob> all;
         for (const char *name : names)
-            all.push_back(olImportJob::of(exported(QLatin1String(name))));
+            all.push_back(olImportJob::of(exported(name)));
         return all;
     }
 
@@ -54,7 +54,7 @@ TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
 {
     const olScene::Document before = m_scene.document();
     const std::vector<olImportJob> good = jobs({"good.step"});
-    const int bad = m_importer.start({olImportJob::of(written(QStringLiteral("bad.step"), "no"))});
+    const int bad = m_importer.start({olImportJob::of(written("bad.step", "no"))});
     wait();
     EXPECT_FALSE(m_ended.value(bad).first().outcome.isOk());
     EXPECT_EQ(m_scene.document(), before);
@@ -66,12 +66,12 @@ TEST_F(Importer, TheSceneStaysWhenAFileCannotBeReadAndChangesWhenItCan)
     EXPECT_EQ(m_scene.document(), before);
 
     std::vector<olImportJob> mixed = jobs({"a.stl"});
-    mixed.push_back(olImportJob::of(written(QStringLiteral("bad.obj"), "f 1 2 3\n")));
+    mixed.push_back(olImportJob::of(written("bad.obj", "f 1 2 3\n")));
     const int partly = m_importer.start(mixed);
     wait();
     EXPECT_TRUE(m_ended.value(partly).first().outcome.isOk());
-    EXPECT_TRUE(m_ended.value(partly).last().outcome.error().contains(QStringLiteral("bad.obj")));
-    EXPECT_TRUE(Outline(m_scene.document()).names.contains(QStringLiteral("a"))) << "the good one is not lost";
+    EXPECT_TRUE(m_ended.value(partly).last().outcome.error().contains("bad.obj"));
+    EXPECT_TRUE(Outline(m_scene.document()).names.contains("a")) << "the good one is not lost";
 }
 
 TEST_F(Importer, FilesOfOneImportMakeOneSceneInTheirOrderHoweverManyAreReadAtOnce)

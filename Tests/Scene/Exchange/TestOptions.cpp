@@ -10,7 +10,6 @@
 #include <BRepPrimAPI_MakeBox.hxx>
 #include <BRep_Builder.hxx>
 #include <BRep_Tool.hxx>
-#include <Image_Texture.hxx>
 #include <Poly_Triangulation.hxx>
 #include <STEPCAFControl_Writer.hxx>
 #include <TDF_LabelSequence.hxx>
@@ -24,12 +23,9 @@
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
-#include <XCAFDoc_VisMaterial.hxx>
-#include <XCAFDoc_VisMaterialTool.hxx>
 #include <gp_Pln.hxx>
 
 #include <QDir>
-#include <QImage>
 
 namespace
 {
@@ -115,23 +111,6 @@ Handle(Poly_Triangulation) firstMesh(const olScene::Document &document)
     return BRep_Tool::Triangulation(TopoDS::Face(TopExp_Explorer(wholeOf(document), TopAbs_FACE).Current()), location);
 }
 
-/// The textures' files, by name.
-QStringList textures(const olScene::Document &document)
-{
-    QStringList names;
-    const Handle(XCAFDoc_VisMaterialTool) tool = XCAFDoc_DocumentTool::VisMaterialTool(document->Main());
-    TDF_LabelSequence labels;
-    tool->GetMaterials(labels);
-    for (const TDF_Label &label : labels) {
-        const Handle(XCAFDoc_VisMaterial) material = tool->GetMaterial(label);
-        const Handle(Image_Texture) texture = material->HasCommonMaterial() ? material->CommonMaterial().DiffuseTexture
-                                                                            : material->PbrMaterial().BaseColorTexture;
-        if (!texture.IsNull())
-            names << QString::fromUtf8(texture->FilePath().ToCString());
-    }
-    return names;
-}
-
 const char twoTriangles[] = "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nf 1 2 3\nf 1 4 3\n";
 
 class ImportOption : public ImportTest
@@ -139,32 +118,19 @@ class ImportOption : public ImportTest
 protected:
     olImportJob job(const char *name, const Model &model)
     {
-        const QString file = path(QLatin1String(name));
+        const QString file = path(name);
         EXPECT_EQ(olExportScene(model.document(), file).error().toStdString(), "");
         return olImportJob::of(file);
     }
 
-    olImportJob job(const char *name, const QByteArray &content)
-    {
-        return olImportJob::of(written(QLatin1String(name), content));
-    }
-
-    /// A model whose texture lies in a directory of its own.
-    olImportJob textured(const char *name, const QByteArray &content)
-    {
-        QDir().mkpath(path(QStringLiteral("pictures")));
-        QImage picture(2, 2, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        EXPECT_TRUE(picture.save(path(QStringLiteral("pictures/red.png"))));
-        return job(name, content);
-    }
+    olImportJob job(const char *name, const QByteArray &content) { return olImportJob::of(written(name, content)); }
 };
 
 } // namespace
 
 TEST_F(ImportOption, DeviationAndAngleDecideOverTheTriangles)
 {
-    const olImportJob usual = olImportJob::of(exported(QStringLiteral("s.step")));
+    const olImportJob usual = olImportJob::of(exported("s.step"));
     const unsigned triangles = Outline(imported(usual)).triangles;
     olImportJob coarse = usual;
     coarse.options.chordDeviation = 2;
@@ -198,7 +164,7 @@ TEST_F(ImportOption, StitchingJoinsFacesWithinItsToleranceAndKeepsTheColours)
     gap.options.stitching = false;
     EXPECT_FALSE(joined(imported(gap)));
 
-    olImportJob sample = olImportJob::of(exported(QStringLiteral("s.igs")));
+    olImportJob sample = olImportJob::of(exported("s.igs"));
     const QStringList stitched = Outline(imported(sample)).colours;
     sample.options.stitching = false;
     EXPECT_EQ(stitched, Outline(imported(sample)).colours);
@@ -223,7 +189,7 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
         return std::make_pair(count(document, TopAbs_FACE) / 6, count(document, TopAbs_EDGE, TopAbs_FACE));
     };
     EXPECT_EQ(found(true, false, false, false), std::make_pair(1, 0));
-    EXPECT_TRUE(olImport(kinds).remarks.value(0).contains(QStringLiteral("Hidden box")));
+    EXPECT_TRUE(olImport(kinds).remarks.value(0).contains("Hidden box"));
     EXPECT_EQ(found(true, true, true, false), std::make_pair(2, 1));
     EXPECT_EQ(found(false, false, true, true), std::make_pair(0, 2));
 
@@ -232,14 +198,12 @@ TEST_F(ImportOption, EachKindComesInNotAtAllWhereVisibleOrWhole)
     meshes.options.importSurfaces = false;
     EXPECT_EQ(Outline(imported(meshes)).triangles, 2u);
     meshes.options.importMeshes = false;
-    EXPECT_TRUE(
-        olImport(meshes).document.error().contains(QStringLiteral("leave nothing of it (no meshes are imported)")));
+    EXPECT_TRUE(olImport(meshes).document.error().contains("leave nothing of it (no meshes are imported)"));
     kinds.options.importSurfaces = true;
     kinds.options.importInvisibleSurfaces = kinds.options.importInvisibleCurves = kinds.options.importCurves = false;
     Model hidden;
     hidden.hide(hidden.part("Hidden box", box(20)));
-    EXPECT_TRUE(
-        olImport(job("hidden.step", hidden)).document.error().contains(QStringLiteral("(no invisible surfaces are")));
+    EXPECT_TRUE(olImport(job("hidden.step", hidden)).document.error().contains("(no invisible surfaces are"));
 }
 
 TEST_F(ImportOption, HiddenInstancesComeInHiddenOrNotAtAll)
@@ -261,7 +225,7 @@ TEST_F(ImportOption, HiddenInstancesComeInHiddenOrNotAtAll)
 
 TEST_F(ImportOption, MeshesOfOneLookBecomeOne)
 {
-    (void)written(QStringLiteral("looks.mtl"), "newmtl a\nKd 1 0 0\nnewmtl b\nKd 1 0 0\nnewmtl c\nKd 0 1 0\n");
+    written("looks.mtl", "newmtl a\nKd 1 0 0\nnewmtl b\nKd 1 0 0\nnewmtl c\nKd 0 1 0\n");
     olImportJob merge = job("looks.obj", "mtllib looks.mtl\nv 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nusemtl a\nf 1 2 3\n"
                                          "usemtl b\nf 1 3 4\nusemtl c\nf 1 2 4\n");
     const olScene::Document merged = imported(merge);
@@ -278,9 +242,9 @@ TEST_F(ImportOption, EmptyGroupsStayOrGo)
     olImportJob groups =
         job("groups.wrl", QByteArray("#VRML V2.0 utf8\nDEF Hollow Group { children [ DEF Inner Group { children [] } ] "
                                      "}\nShape { geometry Box {} }\n"));
-    EXPECT_FALSE(Outline(imported(groups)).names.contains(QStringLiteral("Hollow")));
+    EXPECT_FALSE(Outline(imported(groups)).names.contains("Hollow"));
     groups.options.removeEmptyGroups = false;
-    EXPECT_TRUE(Outline(imported(groups)).names.contains(QStringLiteral("Inner")));
+    EXPECT_TRUE(Outline(imported(groups)).names.contains("Inner"));
 }
 
 TEST_F(ImportOption, TrianglesFaceTheSameWayAsTheirNeighbours)
@@ -303,7 +267,7 @@ TEST_F(ImportOption, TrianglesFaceTheSameWayAsTheirNeighbours)
 
 TEST_F(ImportOption, WithoutSurfacesOnlyTheTrianglesAreKept)
 {
-    olImportJob keep = olImportJob::of(exported(QStringLiteral("s.step")));
+    olImportJob keep = olImportJob::of(exported("s.step"));
     const olScene::Document whole = imported(keep);
     keep.options.keepSurfaceData = false;
     const olScene::Document bare = imported(keep);
@@ -317,7 +281,7 @@ TEST_F(ImportOption, FilesThatAFileRefersToAreReadOrLeftAlone)
 {
     Model model;
     model.group("Whole", {model.part("Box", box(0)), model.part("Other", box(20))});
-    const QString file = path(QStringLiteral("whole.stp"));
+    const QString file = path("whole.stp");
     STEPCAFControl_Writer writer;
     const QString before = QDir::currentPath();
     ASSERT_TRUE(writer.Transfer(model.document(), STEPControl_AsIs, "piece-"));
@@ -330,22 +294,18 @@ TEST_F(ImportOption, FilesThatAFileRefersToAreReadOrLeftAlone)
     references.options.importReferencedFiles = false;
     EXPECT_NE(olImport(references).document.error(), QString());
 
-    (void)written(QStringLiteral("m.mtl"), "newmtl green\nKd 0 1 0\n");
+    written("m.mtl", "newmtl green\nKd 0 1 0\n");
     references = job("m.obj", QByteArray("mtllib m.mtl\nusemtl green\n") + twoTriangles);
-    EXPECT_TRUE(Outline(imported(references)).colours.join(QString()).contains(QStringLiteral("0.00 1.00 0.00")));
+    EXPECT_TRUE(Outline(imported(references)).colours.join(QString()).contains("0.00 1.00 0.00"));
     references.options.importReferencedFiles = false;
-    EXPECT_FALSE(Outline(imported(references)).colours.join(QString()).contains(QStringLiteral("0.00 1.00 0.00")));
-    EXPECT_TRUE(olImport(job("m.obj", QByteArray("mtllib m.mtl\nusemtl green\nusemtl blue\n") + twoTriangles))
-                    .remarks.join(QString())
-                    .contains(QStringLiteral("lacks: blue.")));
-    EXPECT_EQ(olImport(job("m.obj", QByteArray("mtllib none.mtl\nmtllib m.mtl\nusemtl green\n") + twoTriangles))
-                  .remarks.join(QString())
-                  .toStdString(),
-              "");
-    QFile::remove(path(QStringLiteral("m.mtl")));
-    EXPECT_TRUE(olImport(job("m.obj", QByteArray("mtllib m.mtl\n") + twoTriangles))
-                    .remarks.join(QString())
-                    .contains(QStringLiteral("m.mtl is not there")));
+    EXPECT_FALSE(Outline(imported(references)).colours.join(QString()).contains("0.00 1.00 0.00"));
+    const auto remarks = [this](const QByteArray &uses) {
+        return olImport(job("m.obj", "mtllib m.mtl\n" + uses + twoTriangles)).remarks.join(' ');
+    };
+    EXPECT_TRUE(remarks("usemtl green\nusemtl blue\n").contains("lacks: blue."));
+    EXPECT_EQ(remarks("mtllib none.mtl\nusemtl green\n"), QString());
+    QFile::remove(path("m.mtl"));
+    EXPECT_TRUE(remarks({}).contains("m.mtl is not there"));
 }
 
 TEST_F(ImportOption, VerifyingDropsTrianglesWithoutAreaAndNamesFaultySurfaces)
@@ -381,7 +341,7 @@ TEST_F(ImportOption, TheModelIsMovedToTheOriginAndTheGround)
 {
     constexpr double near = 0.2;
     for (const char *name : {"s.step", "s.stl"}) {
-        olImportJob moved = olImportJob::of(exported(QLatin1String(name)));
+        olImportJob moved = olImportJob::of(exported(name));
         const Outline asItIs(imported(moved));
         EXPECT_LT(asItIs.low[2], -10);
         moved.putOnGround = true;
@@ -401,7 +361,7 @@ TEST_F(ImportOption, UnitAndUpCountWhereTheFormatDoesNotSayThem)
     constexpr double inch = 25.4;
     for (const char *name : {"s.stl", "s.obj", "s.wrl", "s.step", "s.glb"}) {
         SCOPED_TRACE(name);
-        olImportJob job = olImportJob::of(exported(QLatin1String(name)));
+        olImportJob job = olImportJob::of(exported(name));
         const Outline asItIs(imported(job));
         job.unit = inch;
         job.isYUp = true;
@@ -423,17 +383,17 @@ TEST_F(ImportOption, UnitAndUpCountWhereTheFormatDoesNotSayThem)
 TEST_F(ImportOption, TheTemporaryDirectoryIsUsedWhereOneIsGivenAndLeftClean)
 {
     const QByteArray before = qgetenv("ORLO_FILEIO_TMP_DIR");
-    const QString own = path(QStringLiteral("own"));
+    const QString own = path("own");
     QDir().mkpath(own);
     qputenv("ORLO_FILEIO_TMP_DIR", own.toUtf8());
-    olImportJob alone = olImportJob::of(exported(QStringLiteral("s.step")));
+    olImportJob alone = olImportJob::of(exported("s.step"));
     EXPECT_EQ(alone.temporaryDirectory, own);
     alone.options.importReferencedFiles = false;
     imported(alone);
     EXPECT_TRUE(QDir(own).isEmpty());
-    alone.temporaryDirectory = path(QStringLiteral("nowhere"));
-    EXPECT_TRUE(olImport(alone).document.error().contains(QStringLiteral("temporary directory")));
-    qputenv("ORLO_FILEIO_TMP_DIR", path(QStringLiteral("nowhere")).toUtf8());
+    alone.temporaryDirectory = path("nowhere");
+    EXPECT_TRUE(olImport(alone).document.error().contains("temporary directory"));
+    qputenv("ORLO_FILEIO_TMP_DIR", path("nowhere").toUtf8());
     EXPECT_EQ(olImportJob::of(alone.file).temporaryDirectory, QDir::tempPath());
     qputenv("ORLO_FILEIO_TMP_DIR", before);
 }
@@ -441,7 +401,7 @@ TEST_F(ImportOption, TheTemporaryDirectoryIsUsedWhereOneIsGivenAndLeftClean)
 TEST_F(ImportOption, TexturesAreFoundBesideTheModelElseInTheSearchPathsElseNamed)
 {
     const QByteArray corners = "vt 0 0\nvt 1 0\nvt 1 1\nv 0 0 0\nv 1 0 0\nv 1 1 0\nusemtl m\nf 1/1 2/2 3/3\n";
-    (void)written(QStringLiteral("t.mtl"), "newmtl m\nmap_Kd -s 2 2 1 C:\\elsewhere\\red.png\n");
+    written("t.mtl", "newmtl m\nmap_Kd -s 2 2 1 C:\\elsewhere\\red.png\n");
     const QByteArray vrml = "#VRML V2.0 utf8\nShape { appearance Appearance { texture ImageTexture { url \"x/red.png\" "
                             "} } geometry IndexedFaceSet { coord Coordinate { point [0 0 0, 1 0 0, 1 1 0] } texCoord "
                             "TextureCoordinate { point [0 0, 1 0, 1 1] } coordIndex [0 1 2 -1] } }\n";
@@ -453,17 +413,18 @@ TEST_F(ImportOption, TexturesAreFoundBesideTheModelElseInTheSearchPathsElseNamed
         R"(AAAAA"}],"bufferViews":[{"buffer":0,"byteLength":36}],"accessors":[{"bufferView":0,"count":3,"componentType")"
         R"(:5126,"type":"VEC3","min":[0,0,0],"max":[1,1,0]},{"bufferView":0,"count":3,"componentType":5126,"type":)"
         R"("VEC2"}]})";
-    for (olImportJob search :
-         {textured("t.obj", "mtllib t.mtl\n" + corners), textured("t.wrl", vrml), textured("t.gltf", gltf)}) {
+    QDir().mkpath(path("pictures"));
+    const QString picture = redPicture(path("pictures/red.png"));
+    for (olImportJob search : {job("t.obj", "mtllib t.mtl\n" + corners), job("t.wrl", vrml), job("t.gltf", gltf)}) {
         SCOPED_TRACE(search.file.toStdString());
         const olImportResult without = olImport(search);
         ASSERT_TRUE(without.document.isOk()) << qPrintable(without.document.error());
         EXPECT_EQ(textures(*without.document), QStringList());
-        EXPECT_TRUE(without.remarks.join(QString()).contains(QStringLiteral("red.png was not found")));
+        EXPECT_TRUE(without.remarks.join(QString()).contains("red.png was not found"));
 
-        search.textureDirectories = {path(QStringLiteral("pictures")).toStdString()};
+        search.textureDirectories = {path("pictures").toStdString()};
         const olImportResult with = olImport(search);
-        EXPECT_EQ(textures(*with.document), QStringList{path(QStringLiteral("pictures/red.png"))});
+        EXPECT_EQ(textures(*with.document), QStringList{picture});
         EXPECT_TRUE(with.remarks.isEmpty());
         EXPECT_TRUE(firstMesh(*with.document)->HasUVNodes());
     }

@@ -25,8 +25,8 @@ protected:
     [[nodiscard]] QString crashing() const
     {
         constexpr int depth = 300000;
-        return written(QStringLiteral("deep.wrl"), "#VRML V2.0 utf8\n" + QByteArray("Group{children[").repeated(depth) +
-                                                       QByteArray("]}").repeated(depth));
+        return written("deep.wrl", "#VRML V2.0 utf8\n" + QByteArray("Group{children[").repeated(depth) +
+                                       QByteArray("]}").repeated(depth));
     }
 
     /// What a document becomes on its way between processes.
@@ -75,20 +75,20 @@ TEST_F(ReaderProcess, ACrashIsOneSentenceAndTheSceneStays)
 {
     const olScene::Document before = m_scene.document();
     const QString fault = faultOf(crashing());
-    EXPECT_TRUE(fault.contains(QStringLiteral("makes its reader crash"))) << qPrintable(fault);
+    EXPECT_TRUE(fault.contains("makes its reader crash")) << qPrintable(fault);
     EXPECT_EQ(m_scene.document(), before);
 }
 
 TEST_F(ReaderProcess, AReadingWithoutProgressEndsAfterItsPatience)
 {
-    olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
+    olImportJob job = olImportJob::of(exported("s.step"));
     job.patience = 1;
-    EXPECT_TRUE(olImport(job).document.error().contains(QStringLiteral("made no progress for 0.001 seconds")));
+    EXPECT_TRUE(olImport(job).document.error().contains("made no progress for 0.001 seconds"));
 }
 
 TEST_F(ReaderProcess, ACancelledReadingEndsAtOnce)
 {
-    olImportJob job = olImportJob::of(exported(QStringLiteral("s.step")));
+    olImportJob job = olImportJob::of(exported("s.step"));
     job.options.chordDeviation = 0.001;
     job.options.normalTolerance = 0.5;
     QElapsedTimer since;
@@ -101,30 +101,29 @@ TEST_F(ReaderProcess, ACancelledReadingEndsAtOnce)
 
 TEST_F(ReaderProcess, AReaderReadsAndComputesAndNothingElse)
 {
-    const QByteArray existing = QFile::encodeName(written(QStringLiteral("model.stl"), "solid"));
-    const QByteArray fresh = QFile::encodeName(path(QStringLiteral("fresh")));
+    const QByteArray existing = QFile::encodeName(written("model.stl", "solid"));
+    const QByteArray fresh = QFile::encodeName(path("fresh"));
     EXPECT_EXIT(_exit(firstLeak(existing, fresh)), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(ReaderProcess, PipesAndDevicesAreNotWaitedFor)
 {
-    ASSERT_EQ(mkfifo(QFile::encodeName(path(QStringLiteral("pipe.png"))).constData(), 0600), 0);
-    ASSERT_EQ(mkfifo(QFile::encodeName(path(QStringLiteral("pipe.mtl"))).constData(), 0600), 0);
-    ASSERT_EQ(mkfifo(QFile::encodeName(path(QStringLiteral("pipe.wrl"))).constData(), 0600), 0);
+    ASSERT_EQ(mkfifo(QFile::encodeName(path("pipe.png")).constData(), 0600), 0);
+    ASSERT_EQ(mkfifo(QFile::encodeName(path("pipe.mtl")).constData(), 0600), 0);
+    ASSERT_EQ(mkfifo(QFile::encodeName(path("pipe.wrl")).constData(), 0600), 0);
     const QByteArray box =
         "Shape { appearance Appearance { texture ImageTexture { url \"pipe.png\" } } geometry Box {} }\n";
     const QString before = QDir::currentPath();
     // As if the program was started beside the models.
     QDir::setCurrent(path(QString()));
-    for (const QString &file :
-         {written(QStringLiteral("b.wrl"), "#VRML V2.0 utf8\nEXTERNPROTO P [] \"pipe.wrl#P\" P {}\n" + box),
-          written(QStringLiteral("a.wrl"), "#VRML V2.0 utf8\nInline { url \"pipe.wrl\" }\n" + box),
-          written(QStringLiteral("a.obj"), "mtllib pipe.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n")}) {
+    for (const QString &file : {written("b.wrl", "#VRML V2.0 utf8\nEXTERNPROTO P [] \"pipe.wrl#P\" P {}\n" + box),
+                                written("a.wrl", "#VRML V2.0 utf8\nInline { url \"pipe.wrl\" }\n" + box),
+                                written("a.obj", "mtllib pipe.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n")}) {
         olImportJob job = olImportJob::of(file);
         job.patience = 20000;
         const olImportResult result = olImport(job);
         EXPECT_TRUE(result.document.isOk()) << qPrintable(result.document.error());
-        EXPECT_TRUE(result.remarks.join(QString()).contains(QStringLiteral("pipe."))) << qPrintable(file);
+        EXPECT_TRUE(result.remarks.join(QString()).contains("pipe.")) << qPrintable(file);
     }
     QDir::setCurrent(before);
 }
@@ -141,8 +140,8 @@ TEST_F(ReaderProcess, ADocumentComesOverAsItWas)
 
 TEST_F(ReaderProcess, WhatCameOverDamagedIsNoDocument)
 {
-    const olScene::Document mesh = imported(
-        olImportJob::of(written(QStringLiteral("m.obj"), "v 0 0 0\nv 1 0 0\nv 0 1 0\nv 1 1 0\nf 1 2 3\nf 2 4 3\n")));
+    const olScene::Document mesh =
+        imported(olImportJob::of(written("m.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nv 1 1 0\nf 1 2 3\nf 2 4 3\n")));
     const QByteArray whole = streamed(mesh);
     ASSERT_FALSE(read(whole).IsNull());
     for (int length = 0; length < whole.size(); length += 3)

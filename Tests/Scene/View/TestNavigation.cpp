@@ -155,9 +155,7 @@ TEST(Gradient, ReadsItsStopsInAnyOrder)
     EXPECT_FLOAT_EQ(step.at(0.51f).red(), 1.0f);
 }
 
-class MouseInTheView : public ViewTest
-{
-};
+using MouseInTheView = ViewTest;
 
 TEST_F(MouseInTheView, AClickSelectsAndADragDoesNot)
 {

@@ -1,6 +1,7 @@
 #include "Scene/View/ViewTest.h"
 
 #include "State/olHostState.h"
+#include "View/olStateInPicture.h"
 
 #include <OpenSG/OSGColor.h>
 
@@ -230,6 +231,36 @@ TEST_F(SettingsInTheView, AStillFrameComesAfterTheSecondsOfRest)
     apply(rendering, "RenderOptions auxiliary nodes", false);
     waitForStillFrame();
     EXPECT_GT(difference(view.shownPicture(), view.picture()), 0.005) << "without the cube";
+}
+
+/// What of the picture is made anew when a module applies all of its settings.
+class PartsOfThePicture : public PluginTest, private olHostObserver
+{
+protected:
+    PartsOfThePicture() { olHostState::the().addObserver(*this); }
+    ~PartsOfThePicture() override { olHostState::the().removeObserver(*this); }
+
+    unsigned touchedBy(const char *name)
+    {
+        fill(name);
+        touched = 0;
+        module(name).applyPreferences();
+        return touched;
+    }
+
+private:
+    void stateChanged(const olHostValueBase &value) override { touched |= olStateInPicture::partsOf(value); }
+
+    unsigned touched = 0;
+};
+
+TEST_F(PartsOfThePicture, AreMadeAnewByTheSettingsThatTheyDependOnAlone)
+{
+    using namespace olStateInPicture;
+    EXPECT_EQ(touchedBy("Camera"), unsigned(Camera));
+    EXPECT_EQ(touchedBy("Selection"), Hovering | Part::Selection);
+    EXPECT_EQ(touchedBy("Render Options"), Frame | Camera | Lights | Solidity);
+    EXPECT_EQ(touchedBy("Navigator") | touchedBy("Devices") | touchedBy("MainWindow"), 0u);
 }
 
 TEST_F(SettingsInTheView, WhileRenderingIsSuspendedThePictureStays)

@@ -1,5 +1,6 @@
 #include "Kernel/olPreferences.h"
 #include "Kernel/olTexSearch.h"
+#include "Support/Files.h"
 #include "Utilities/olMessage.h"
 
 #include <gtest/gtest.h>
@@ -28,12 +29,7 @@ protected:
         QDir().mkpath(folder.filePath(name));
         return path(name);
     }
-    std::string makeFile(const char *name) const
-    {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return path(name);
-    }
+    std::string makeFile(const char *name) const { return writtenFile(folder.filePath(name)).toStdString(); }
     static void search(const Paths &paths)
     {
         olPreferences::getData().set(key, paths);
