@@ -100,7 +100,7 @@ protected:
         });
         timer.start(20);
         call();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen && openDialogs().size() <= before.size(); }))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen && openDialogs().size() <= before.size(); }, 30000))
             << name.toStdString();
     }
 

@@ -291,7 +291,7 @@ TEST_F(MainWindow, FramesPerSecondAreInTheStatusBarWhereWanted)
     EXPECT_TRUE(frameRate.isVisible());
     // Without sleep the view draws all the time.
     olHostState::the().sleepTime = 0;
-    EXPECT_TRUE(QTest::qWaitFor([this] { return frameRate.text().endsWith(QLatin1String("frames/s")); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return frameRate.text().endsWith(QLatin1String("frames/s")); }, 30000));
     EXPECT_GT(frameRate.text().section(QLatin1Char(' '), 0, 0).toDouble(), 0.0);
     apply(settings, "MainWindow show fps", false);
     EXPECT_FALSE(frameRate.isVisible());
@@ -410,7 +410,8 @@ TEST_F(MainWindow, WhatIsDroppedIsReadOrRefusedOnceWithTheSceneKept)
     EXPECT_EQ(window.scene().triangleCount(), 1u);
     EXPECT_EQ(tree.topLevelItemCount(), 1);
     EXPECT_EQ(window.windowTitle(), "triangle.stl - ORLO");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window.statusBar()->currentMessage() == "triangle.stl was read."; }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return window.statusBar()->currentMessage() == "triangle.stl was read."; }, 30000));
 }
 
 TEST_F(MainWindow, AModelIsAddedOrReplacesInTheUnitThatIsChosenAndIsFoundAgain)

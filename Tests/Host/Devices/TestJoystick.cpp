@@ -50,7 +50,7 @@ protected:
 
     bool comesTo(const std::vector<float> &axes)
     {
-        return QTest::qWaitFor([&] { return host.joystickAxes.get() == axes; });
+        return QTest::qWaitFor([&] { return host.joystickAxes.get() == axes; }, 30000);
     }
 
     olHostState &host = olHostState::the();
@@ -93,7 +93,7 @@ TEST_F(Joystick, OneThatGoesRestsAndIsFoundAgain)
     send(JS_EVENT_AXIS, 0, 32767);
     ASSERT_TRUE(comesTo({1, 0, 0, 0}));
     unplug();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !host.joystickConnected; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !host.joystickConnected; }, 30000));
     EXPECT_EQ(host.joystickAxes.get(), std::vector<float>(4));
     EXPECT_TRUE(log.last().contains(QStringLiteral("has gone")));
 

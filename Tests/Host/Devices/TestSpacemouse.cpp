@@ -129,7 +129,7 @@ protected:
 
     bool connects()
     {
-        return QTest::qWaitFor([this] { return host.spacemouseConnected.get(); });
+        return QTest::qWaitFor([this] { return host.spacemouseConnected.get(); }, 30000);
     }
 
     [[nodiscard]] unsigned buttons() const { return boost::any_cast<unsigned>(host.spacemouseButtons.any()); }
@@ -150,7 +150,7 @@ TEST_F(Spacemouse, MotionAndButtonsAreSeenInTheHostsState)
     daemon.sendButton(0, true);
     daemon.sendButton(2, true);
     daemon.sendButton(0, false);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return buttons() == 4u; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return buttons() == 4u; }, 30000));
     EXPECT_EQ(host.spacemouseMotion.get(), (std::vector<float>{10, -20, 30, -40, 50, -60}));
 
     olSpacemouse::terminate();
@@ -171,7 +171,7 @@ TEST_F(Spacemouse, ASilentDaemonHoldsNobodyUpAndIsUsedLater)
 
     ASSERT_TRUE(connects());
     daemon.sendMotion({1, 2, 3, 4, 5, 6});
-    EXPECT_TRUE(QTest::qWaitFor([this] { return host.spacemouseMotion.get().back() == 6; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return host.spacemouseMotion.get().back() == 6; }, 30000));
 }
 
 TEST_F(Spacemouse, ADaemonThatTakesNoCallHoldsUpNoEnd)
@@ -192,7 +192,7 @@ TEST_F(Spacemouse, ADaemonThatGoesIsNoticedAndItsSuccessorIsFound)
         ASSERT_TRUE(connects());
         daemon.sendMotion({1, 2, 3, 4, 5, 6});
     }
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !host.spacemouseConnected.get(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !host.spacemouseConnected.get(); }, 30000));
     EXPECT_EQ(host.spacemouseMotion.get(), std::vector<float>(6));
     EXPECT_TRUE(host.spacemouseWanted);
     EXPECT_EQ(log.last(), "The daemon of the 3D mouse has gone.");
@@ -207,7 +207,7 @@ TEST_F(Spacemouse, WithoutADaemonTheLogSaysSo)
     if (QFile::exists("/var/run/spnav.sock"))
         GTEST_SKIP() << "this machine has a 3D mouse";
     olSpacemouse::init();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !log.isEmpty(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !log.isEmpty(); }, 30000));
     EXPECT_EQ(log, QStringList("There is no 3D mouse: its daemon, spacenavd, is not running."));
     EXPECT_TRUE(host.spacemouseWanted);
     EXPECT_FALSE(host.spacemouseConnected);

@@ -134,7 +134,7 @@ TEST_F(WebServer, ClosesWhatIsConnectedWhenItStops)
     olController::enableWebInterface(true);
     QTcpSocket idle;
     idle.connectToHost(QHostAddress::LocalHost, quint16(port));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return idle.state() == QAbstractSocket::ConnectedState; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return idle.state() == QAbstractSocket::ConnectedState; }, 30000));
     idle.write("GET / HTTP/1.1\r\nHost: localh");
     QTest::qWait(50);
 
@@ -142,7 +142,7 @@ TEST_F(WebServer, ClosesWhatIsConnectedWhenItStops)
     clock.start();
     olController::enableWebInterface(false);
     EXPECT_LT(clock.elapsed(), 1000) << "nobody waits for a slow client";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return idle.state() == QAbstractSocket::UnconnectedState; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return idle.state() == QAbstractSocket::UnconnectedState; }, 30000));
 }
 
 TEST_F(WebServer, TakesItsPortAtEachStartAndSaysWhyItCannotListen)
@@ -247,7 +247,7 @@ TEST_F(WebServer, AnswersWhateverNumberOfOthersHoldsOnToIt)
             QTcpSocket &socket = *held.back();
             socket.bind(QHostAddress(QLatin1String(from)));
             socket.connectToHost(QHostAddress::LocalHost, quint16(port));
-            ASSERT_TRUE(QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; }));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; }, 30000));
             socket.write(sent);
         }
     };
@@ -267,7 +267,7 @@ TEST_F(WebServer, AnswersWhateverNumberOfOthersHoldsOnToIt)
     trickle.start(50);
     EXPECT_EQ(get("/").status, 200) << "while they trickle";
     held.front()->write("host\r\n\r\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return held.front()->bytesAvailable() > 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return held.front()->bytesAvailable() > 0; }, 30000));
     EXPECT_TRUE(held.front()->readAll().startsWith("HTTP/1.1 200"));
     trickle.stop();
     held.clear();
@@ -291,7 +291,7 @@ TEST_F(WebServer, AnswersAfterWhateverItWasSent)
             sent.truncate(below(sent.size()));
         QTcpSocket socket;
         socket.connectToHost(QHostAddress::LocalHost, quint16(port));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; })) << round;
+        ASSERT_TRUE(QTest::qWaitFor([&] { return socket.state() == QAbstractSocket::ConnectedState; }, 30000)) << round;
         socket.write(sent);
         (void)QTest::qWaitFor([&] { return socket.bytesAvailable() > 0; }, 5);
     }
@@ -363,7 +363,7 @@ TEST_F(WebServer, AnswersTheAddressesThatListedNamesStandFor)
     QUrl url = byAddress.url();
     url.setHost(addresses.first().toString());
     byAddress.setUrl(url);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return wait(m_client.get(byAddress)).status == 200; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wait(m_client.get(byAddress)).status == 200; }, 30000));
 }
 
 TEST_F(WebServer, TellsSettingsAndStateButNoSecretsNorForeignValues)
@@ -458,7 +458,7 @@ TEST_F(WebServer, SpeaksTlsOnTheSslPortWhereACertificateIsInstalled)
         client.start("openssl", {"s_client", "-connect", QStringLiteral("127.0.0.1:%1").arg(url.port()), version,
                                  "-cipher", "ALL:@SECLEVEL=0"});
         client.closeWriteChannel();
-        EXPECT_TRUE(QTest::qWaitFor([&client] { return client.state() == QProcess::NotRunning; }));
+        EXPECT_TRUE(QTest::qWaitFor([&client] { return client.state() == QProcess::NotRunning; }, 30000));
         return client.exitCode() == 0;
     };
     EXPECT_TRUE(speaks("-tls1_2"));
