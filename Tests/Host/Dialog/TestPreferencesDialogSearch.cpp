@@ -1,6 +1,7 @@
 #include "Dialog/olSettingMarks.h"
 #include "DialogTest.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QColor>
 #include <QImage>
