@@ -62,7 +62,8 @@ protected:
     static int freePort()
     {
         QTcpServer finder;
-        finder.listen(QHostAddress::LocalHost);
+        // As the server does: what ended a moment ago at another loopback address is in its way, too.
+        finder.listen(QHostAddress::AnyIPv4);
         return finder.serverPort();
     }
 
